@@ -1,0 +1,41 @@
+#include "ui/Chart.h"
+
+namespace tarnview {
+
+void Chart::SetData(ChartDescription data) {
+  data_ = std::move(data);
+  series_ = point_ = 0;
+  Changed(What::Content);
+}
+
+void Chart::SelectPoint(int series, int point) {
+  series_ = series;
+  point_ = point;
+  Changed(What::Selection);
+  PointSelected(series, point);
+}
+
+void Chart::Describe(Object& facts) const {
+  facts.emplace_back("series", static_cast<int>(data_.series.size()));
+  facts.emplace_back("selected", List{series_, point_});
+}
+
+Object Chart::FullDescription() const {
+  Object facts = tarnview::Describe(data_);
+  facts.emplace_back("selected", List{series_, point_});
+  return facts;
+}
+
+void Chart::Perform(const Action& action) {
+  if (action.verb == "popup") return RightClick();
+  if (action.verb != "point") return Control::Perform(action);
+  const int series = action.Number(0);
+  const int point = action.Number(1);
+  const auto place = static_cast<std::size_t>((series - 1) / 2);
+  if (series < 1 || series % 2 == 0 || place >= data_.series.size()) throw CannotDo(FullName() + " has no such series");
+  if (point < 1 || static_cast<std::size_t>(point) > data_.series[place].x.size())
+    throw CannotDo(FullName() + " has no such point");
+  SelectPoint(series, point);
+}
+
+}  // namespace tarnview

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/ChartDescription.h"
+#include "ui/Control.h"
+
+namespace tarnview {
+
+/// The control that shows a chart. Series are numbered from 1 in pairs, an X and a Y column each, so that the curve
+/// at place j (from 0) of the description is series 2j + 1; points are numbered from 1.
+class Chart : public Control {
+ public:
+  Chart(Form& owner, std::string itsName) : Control(owner, std::move(itsName)) {}
+
+  Event<int, int> PointSelected;  ///< series, point; by hand or from code
+  Event<> RightClick;
+
+  void SetData(ChartDescription data);
+  const ChartDescription& Data() const { return data_; }
+
+  /// Selects a point and raises PointSelected, also for the point that is selected already.
+  void SelectPoint(int series, int point);
+  int SelectedSeries() const { return series_; }  ///< 0 for none
+  int SelectedPoint() const { return point_; }    ///< 0 for none
+
+  std::string_view Kind() const override { return "chart"; }
+  bool TakesFocus() const override { return true; }
+  void Describe(Object& facts) const override;
+  /// The description with the selected point, for the action "chart".
+  Object FullDescription() const;
+
+ protected:
+  void Perform(const Action& action) override;
+
+ private:
+  ChartDescription data_;
+  int series_ = 0;
+  int point_ = 0;
+};
+
+}  // namespace tarnview

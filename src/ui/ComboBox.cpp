@@ -1,0 +1,61 @@
+#include "ui/ComboBox.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "ui/Form.h"
+
+namespace tarnview {
+
+ComboBox::ComboBox(Form& owner, std::string itsName, bool editable, int itsIndex)
+    : Control(owner, std::move(itsName), itsIndex), Editable(editable), Text("", [this] {
+        Changed(What::Content);
+        Change();
+      }) {}
+
+void ComboBox::SetList(std::vector<std::string> entries) {
+  entries_ = std::move(entries);
+  Changed(What::Content);
+}
+
+int ComboBox::ListIndex() const {
+  const auto found = std::find(entries_.begin(), entries_.end(), Text());
+  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+}
+
+void ComboBox::SetListIndex(int entry) {
+  const bool inside = entry >= 0 && entry < static_cast<int>(entries_.size());
+  const std::string before = Text;
+  Text = inside ? entries_[static_cast<std::size_t>(entry)] : std::string();
+  if (Text() != before) Click();
+}
+
+void ComboBox::Describe(Object& facts) const {
+  facts.emplace_back("list", MakeList(entries_));
+  facts.emplace_back("selected", ListIndex());
+  facts.emplace_back("text", Text());
+}
+
+void ComboBox::Perform(const Action& action) {
+  if (action.verb == "choose") {
+    SetListIndex(EntryOf(entries_, action));
+  } else if (action.verb == "type" && Editable) {
+    Text = action.Word(0);
+    form.SetFocus(nullptr);
+  } else {
+    Control::Perform(action);
+  }
+}
+
+int EntryOf(const std::vector<std::string>& entries, const Action& action) {
+  const std::string& word = action.Word(0);
+  const auto found = std::find(entries.begin(), entries.end(), word);
+  if (found != entries.end()) return static_cast<int>(found - entries.begin());
+  if (word.starts_with('#')) {
+    const int entry = Action{action.verb, {word.substr(1)}}.Number(0);
+    if (entry >= 0 && entry < static_cast<int>(entries.size())) return entry;
+  }
+  throw CannotDo("no entry \"" + word + "\"");
+}
+
+}  // namespace tarnview

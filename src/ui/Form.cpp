@@ -1,0 +1,92 @@
+#include "ui/Form.h"
+
+#include <algorithm>
+
+#include "ui/CommandButton.h"
+#include "ui/MenuItem.h"
+
+namespace tarnview {
+
+Form::Form(Host& itsHost, std::string itsName, std::string caption)
+    : host(itsHost),
+      name(std::move(itsName)),
+      Caption(std::move(caption),
+              [this] {
+                if (Watcher) Watcher();
+              }),
+      Pointer(MousePointer::Default, [this] {
+        if (Watcher) Watcher();
+      }) {}
+
+Form::~Form() = default;
+
+Control* Form::Find(std::string_view wanted, int index) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* c) { return c->name == wanted && c->index == index; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::SetFocus(Control* control) {
+  if (control == active_) return;
+  Control* left = active_;
+  active_ = control;
+  if (left) left->LostFocus();
+  if (active_ == control && control) {
+    control->GotFocus();
+    control->Changed(What::Focus);
+  }
+}
+
+void Form::Show() { Open(false); }
+void Form::ShowModal() { Open(true); }
+
+void Form::Open(bool modal) {
+  if (!shown_) {
+    shown_ = true;
+    Form_Load();
+  }
+  host.Show(*this, modal);
+}
+
+bool Form::Unload() {
+  if (!shown_) return true;
+  SetFocus(nullptr);
+  if (!Form_QueryUnload()) return false;
+  shown_ = false;
+  Form_Unload();
+  host.Hide(*this);
+  return true;
+}
+
+bool Form::KeyGoesDown(const KeyPress& key) {
+  if (Form_KeyDown(key)) return true;
+  bool eaten = false;
+  if (active_ && active_->Enabled) active_->KeyDown(key, eaten);
+  return eaten;
+}
+
+bool Form::Press(const KeyPress& key) {
+  bool taken = KeyGoesDown(key);
+  if (!taken && key.Plain()) {
+    CommandButton* button = key.key == "Enter" ? DefaultButton : key.key == "Escape" ? CancelButton : nullptr;
+    if (button && button->Enabled) {
+      button->Press();
+      return true;
+    }
+  }
+  for (std::size_t i = 0; !taken && i < controls_.size(); ++i)
+    if (const auto* item = dynamic_cast<MenuItem*>(controls_[i]); item && item->AnswersTo(key)) {
+      item->Click();
+      taken = true;
+    }
+  return Form_KeyUp(key) || taken;
+}
+
+void Form::Add(Control& control) { controls_.push_back(&control); }
+
+void Form::Remove(Control& control) {
+  std::erase(controls_, &control);
+  if (active_ == &control) active_ = nullptr;
+}
+
+}  // namespace tarnview

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/Control.h"
+#include "ui/Host.h"
+#include "ui/Keys.h"
+
+namespace tarnview {
+
+class CommandButton;
+
+enum class MousePointer { Default = 0, Hourglass = 11 };
+
+/// A window without a toolkit: its controls are members of the derived class and stand in `Controls` in the order
+/// of their declaration, which is the tab order.
+class Form {
+ public:
+  Form(Host& host, std::string name, std::string caption);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  Host& host;
+  const std::string name;  ///< its class, "frmGoto"
+  Property<std::string> Caption;
+  Property<MousePointer> Pointer;
+  CommandButton* DefaultButton = nullptr;  ///< what Enter presses
+  CommandButton* CancelButton = nullptr;   ///< what Escape presses
+
+  const std::vector<Control*>& Controls() const { return controls_; }
+  /// The control of that name and index (-1 for one outside an array); nullptr if there is none.
+  Control* Find(std::string_view name, int index = -1) const;
+  Control* ActiveControl() const { return active_; }
+  void SetFocus(Control* control);
+
+  void Show();
+  void ShowModal();
+  bool IsShown() const { return shown_; }
+  /// Closes the window; false when it refused.
+  bool Unload();
+  /// Draws what has changed while a long loop runs.
+  void Refresh() { host.Repaint(*this); }
+
+  /// A key from the user: the window first, then the active control, then Enter, Escape and the menus' shortcuts.
+  /// True if something took it.
+  bool Press(const KeyPress& key);
+  /// The first half of Press, for a toolkit that has its own way with Enter, Escape and shortcuts.
+  bool KeyGoesDown(const KeyPress& key);
+  /// The same for a key that is let go.
+  bool KeyGoesUp(const KeyPress& key) { return Form_KeyUp(key); }
+
+  /// A file dropped on the window. False: the window takes none.
+  virtual bool DropFile(const std::string& /*path*/) { return false; }
+
+  /// The widget's way to hear of Caption, Pointer and focus.
+  std::function<void()> Watcher;
+  /// Called by the host each time the window comes to the front.
+  virtual void Form_Activate() {}
+  /// The window got another size (pixels inside the frame).
+  virtual void Form_Resize() {}
+
+ protected:
+  virtual void Form_Load() {}
+  /// False keeps the window open.
+  virtual bool Form_QueryUnload() { return true; }
+  virtual void Form_Unload() {}
+  /// True eats the key.
+  virtual bool Form_KeyDown(const KeyPress&) { return false; }
+  virtual bool Form_KeyUp(const KeyPress&) { return false; }
+
+ private:
+  friend class Control;
+  void Add(Control& control);
+  void Remove(Control& control);
+  void Open(bool modal);
+
+  std::vector<Control*> controls_;
+  Control* active_ = nullptr;
+  bool shown_ = false;
+};
+
+}  // namespace tarnview

@@ -1,0 +1,100 @@
+#include "ui/RecordingHost.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "ui/Form.h"
+
+namespace tarnview {
+namespace {
+
+std::optional<Answer> Next(std::deque<Answer>& answers) {
+  if (answers.empty()) return std::nullopt;
+  Answer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+Reply ReplyFor(const Box& box, Answer::Kind kind) {
+  switch (kind) {
+    case Answer::Kind::Yes:
+      return Reply::Yes;
+    case Answer::Kind::No:
+      return Reply::No;
+    case Answer::Kind::Ok:
+      return Reply::Ok;
+    case Answer::Kind::Cancel:
+      return Reply::Cancel;
+    default:
+      return box.DefaultReply();
+  }
+}
+
+const char* Name(Reply reply) {
+  switch (reply) {
+    case Reply::Ok:
+      return "ok";
+    case Reply::Cancel:
+      return "cancel";
+    case Reply::Yes:
+      return "yes";
+    case Reply::No:
+      return "no";
+  }
+  return "";
+}
+
+const char* Name(DialogKind kind) {
+  switch (kind) {
+    case DialogKind::Open:
+      return "open";
+    case DialogKind::Save:
+      return "save";
+    case DialogKind::Folder:
+      return "folder";
+    case DialogKind::Colour:
+      return "colour";
+    case DialogKind::Printer:
+      return "printer";
+  }
+  return "";
+}
+
+}  // namespace
+
+Reply RecordingHost::Ask(const Box& box) {
+  const auto answer = Next(answers);
+  const Reply reply = answer ? ReplyFor(box, answer->kind) : box.DefaultReply();
+  messages.push_back(box);
+  boxes.emplace_back(Object{{"id", box.id}, {"text", box.text}, {"style", box.style}, {"reply", Name(reply)}});
+  return reply;
+}
+
+bool RecordingHost::Choose(Dialog& dialog) {
+  const Answer answer = nextFile ? *nextFile : Next(answers).value_or(Answer{Answer::Kind::Cancel, {}, 0, 0});
+  nextFile.reset();
+  const bool chosen = answer.kind != Answer::Kind::Cancel && answer.kind != Answer::Kind::No;
+  std::string reply = "cancel";
+  if (chosen) {
+    if (!answer.path.empty()) dialog.path = answer.path;
+    if (answer.kind == Answer::Kind::Colour) dialog.colour = answer.colour;
+    if (answer.filterIndex > 0) dialog.filterIndex = answer.filterIndex;
+    reply = answer.path.empty() ? "ok" : answer.path;
+  }
+  boxes.emplace_back(
+      Object{{"dialog", Name(dialog.kind)}, {"title", dialog.title}, {"filter", dialog.filter}, {"reply", reply}});
+  return chosen;
+}
+
+void RecordingHost::Show(Form& form, bool modal) {
+  std::erase(open, &form);
+  open.push_back(&form);
+  form.Form_Activate();
+  if (modal) RunModal(form);
+}
+
+void RecordingHost::Hide(Form& form) { std::erase(open, &form); }
+
+void RecordingHost::RunModal(Form& form) { form.Unload(); }
+
+}  // namespace tarnview

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ui/Host.h"
+#include "ui/Value.h"
+
+namespace tarnview {
+
+/// What a script answers to the next box or dialog.
+struct Answer {
+  enum class Kind { Yes, No, Ok, Cancel, File, Folder, Colour, Printer } kind = Kind::Ok;
+  std::string path;
+  long colour = 0;
+  int filterIndex = 0;  ///< of a file dialog, from 1; 0 leaves it
+};
+
+/// A desktop without a screen: it answers boxes and dialogs from a queue and remembers what was shown. With no
+/// answer queued, a box gets its default button and a dialog Cancel.
+class RecordingHost : public Host {
+ public:
+  std::deque<Answer> answers;
+  std::optional<Answer> nextFile;  ///< for the next file dialog, before the queue
+  List boxes;                 ///< {"id", "text", "style", "reply"} or {"dialog", "title", "filter", "reply"}
+  std::vector<Box> messages;  ///< the boxes alone
+  std::vector<Form*> open;    ///< windows on show, the front one last
+  std::string clipboard;
+
+  Reply Ask(const Box& box) override;
+  bool Choose(Dialog& dialog) override;
+  void Show(Form& form, bool modal) override;
+  void Hide(Form& form) override;
+  void PopupMenu(MenuItem&) override {}
+  void DoEvents() override {}
+  void Repaint(Form&) override {}
+  void SetClipboardText(const std::string& text) override { clipboard = text; }
+
+  /// The window in front; nullptr when none is open.
+  Form* Front() const { return open.empty() ? nullptr : open.back(); }
+
+ protected:
+  /// Runs while a modal window is open; the window must be unloaded when it returns.
+  virtual void RunModal(Form& form);
+};
+
+}  // namespace tarnview
