@@ -1,0 +1,61 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <utility>
+
+#include "base/Clock.h"
+#include "base/FileSystem.h"
+#include "base/RuntimeError.h"
+
+namespace tarnview {
+
+/// "error.log" in the program's folder, started anew at each start. A log that cannot be written is given up in
+/// silence: it must never stand in the way of the program.
+class ErrorLog {
+ public:
+  /// An empty path writes nothing.
+  ErrorLog(FileSystem& files, Clock& clock, std::string path);
+
+  void ResetErrorLog();
+
+  /// Appends an entry. With `reraise` the error goes on to the caller's handler, which logs its own entry; the
+  /// outermost handler, without it, ends the entries of one failure with a rule.
+  void LogError(const std::string& module, const std::string& procedure, const RuntimeError& error, bool reraise);
+
+ private:
+  FileSystem& files_;
+  Clock& clock_;
+  std::string path_;
+};
+
+/// Runs a procedure below the user's action: a failure is logged and goes on.
+template <class Body>
+auto Trap(ErrorLog& log, const char* module, const char* procedure, Body&& body) {
+  try {
+    return std::forward<Body>(body)();
+  } catch (const RuntimeError& error) {
+    log.LogError(module, procedure, error, true);
+    throw;
+  } catch (const std::exception& error) {
+    const RuntimeError raised(5, error.what());
+    log.LogError(module, procedure, raised, true);
+    throw raised;
+  }
+}
+
+/// Runs a user's action: a failure is logged and ends here. True if there was none.
+template <class Body>
+bool TrapEvent(ErrorLog& log, const char* module, const char* procedure, Body&& body) {
+  try {
+    std::forward<Body>(body)();
+    return true;
+  } catch (const RuntimeError& error) {
+    log.LogError(module, procedure, error, false);
+  } catch (const std::exception& error) {
+    log.LogError(module, procedure, RuntimeError(5, error.what()), false);
+  }
+  return false;
+}
+
+}  // namespace tarnview

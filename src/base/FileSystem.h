@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnview {
+
+/// The disk. Paths are the platform's bytes. Nothing here throws; a failure is false or nothing.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  /// A file or folder of that name, or one that the wildcards "*" and "?" of its last part match.
+  virtual bool FileExists(const std::string& path) = 0;
+  virtual bool FolderExists(const std::string& path) = 0;
+  /// The whole file; nothing for a folder, a pipe or device, or a file that cannot be read.
+  virtual std::optional<std::string> Read(const std::string& path) = 0;
+  /// Writes a new file beside the old one and renames it, so that at every moment the old or the new one is whole.
+  virtual bool Write(const std::string& path, std::string_view bytes) = 0;
+  virtual bool Append(const std::string& path, std::string_view bytes) = 0;
+  /// Also a read-only or hidden one.
+  virtual bool DeleteFile(const std::string& path) = 0;
+  virtual bool CopyFile(const std::string& from, const std::string& to) = 0;
+  virtual bool RenameFile(const std::string& from, const std::string& to) = 0;
+  virtual bool MakeFolder(const std::string& path) = 0;
+  /// Names (no folders) in a folder that match a pattern such as "*.txt", sorted.
+  virtual std::vector<std::string> List(const std::string& folder, const std::string& pattern) = 0;
+};
+
+/// The machine's own disk.
+class RealFileSystem : public FileSystem {
+ public:
+  bool FileExists(const std::string& path) override;
+  bool FolderExists(const std::string& path) override;
+  std::optional<std::string> Read(const std::string& path) override;
+  bool Write(const std::string& path, std::string_view bytes) override;
+  bool Append(const std::string& path, std::string_view bytes) override;
+  bool DeleteFile(const std::string& path) override;
+  bool CopyFile(const std::string& from, const std::string& to) override;
+  bool RenameFile(const std::string& from, const std::string& to) override;
+  bool MakeFolder(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder, const std::string& pattern) override;
+};
+
+/// "*" stands for any characters, "?" for one; case is ignored.
+bool MatchesPattern(std::string_view name, std::string_view pattern);
+
+}  // namespace tarnview

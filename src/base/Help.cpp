@@ -1,0 +1,43 @@
+#include "base/Help.h"
+
+#include <algorithm>
+
+namespace tarnview {
+namespace {
+
+constexpr int kHelpFailed = 30;
+
+std::string Slashed(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', '/');
+  return path;
+}
+
+}  // namespace
+
+void Help::ShowHelp(const std::string& topic) {
+  const std::string contents = Slashed(folder_ + "Contents.htm");
+  const std::string instructions = Slashed(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
+  const std::string launcher = folder_ + "HelpLauncher.htm";
+  const std::string page =
+      "<HEAD><title>Tarnview Instructions</title></HEAD>\r\n"
+      "<frameset cols=\"216,1*\">\r\n"
+      "<frame name=\"Frame2\" src=\"file://" +
+      contents +
+      "\">\r\n"
+      "<frame name=\"Frame1\" src=\"file://" +
+      instructions +
+      "\">\r\n"
+      "<noframes>\r\n"
+      "<body lang=EN-GB style='tab-interval:36.0pt'>\r\n"
+      "<div class=Section1>\r\n"
+      "<p class=MsoNormal>This page uses frames, but your browser doesn't support them.</p>\r\n"
+      "</div></body></noframes></frameset>\r\n";
+  if (files_.FileExists(launcher)) files_.DeleteFile(launcher);
+  if (!files_.FileExists(contents) || !files_.Write(launcher, page)) {
+    messages_.ShowMessage(kHelpFailed);
+    return;
+  }
+  programs_.ShellOpen(launcher);
+}
+
+}  // namespace tarnview

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "base/EXEFunctions.h"
+#include "base/FileSystem.h"
+#include "base/Messages.h"
+
+namespace tarnview {
+
+/// The manual: "Contents.htm" and "Instructions.htm" in a folder, opened side by side by a page written there.
+class Help {
+ public:
+  /// `folder` is the manual's folder, "Documentation", with a separator at its end.
+  Help(FileSystem& files, EXEFunctions& programs, Messages& messages, std::string folder)
+      : files_(files), programs_(programs), messages_(messages), folder_(std::move(folder)) {}
+
+  /// Opens the manual, at a topic if one is given ("DataTags"). A failure shows message 30.
+  void ShowHelp(const std::string& topic);
+
+ private:
+  FileSystem& files_;
+  EXEFunctions& programs_;
+  Messages& messages_;
+  std::string folder_;
+};
+
+}  // namespace tarnview

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ui/Host.h"
+
+namespace tarnview {
+
+inline constexpr const char* kApplicationTitle = "Tarnview";
+
+/// The numbered messages and questions of the program.
+class Messages {
+ public:
+  /// `fileTypeDescription(id)` gives the name of a file type ("FM Link Data Logs") for the wrong-file messages.
+  Messages(Host& host, std::function<std::string(int)> fileTypeDescription);
+
+  /// Shows a message in a box, or beside the program's own course where `nonModal`. `extra` (the bad item's name)
+  /// follows behind an empty line.
+  void ShowMessage(int id, bool nonModal = false, const std::string& extra = "");
+  /// A question with Yes and No; true on Yes. `defaultNo`: Enter presses No.
+  bool AskQuestion(int id, bool defaultNo = false);
+  /// A box of the program that has no number.
+  Reply Tell(const std::string& text, int style);
+
+  /// Text and style of a message; an unknown id gives "Unknown error." with style 48.
+  std::string Text(int id) const;
+  static int Style(int id);
+  static std::string QuestionText(int id);
+
+  /// How a non-modal message is shown; the windows' room sets it. Unset, it is a box.
+  std::function<void(int id, const std::string& text)> ShowNonModal;
+
+ private:
+  Host& host_;
+  std::function<std::string(int)> fileTypeDescription_;
+};
+
+}  // namespace tarnview

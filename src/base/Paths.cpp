@@ -1,0 +1,65 @@
+#include "base/Paths.h"
+
+#include <filesystem>
+
+namespace tarnview {
+namespace {
+
+constexpr std::string_view kSeparators = "/\\";
+
+bool IsSeparator(char c) { return kSeparators.find(c) != std::string_view::npos; }
+
+std::string_view Title(std::string_view path) {
+  const auto separator = path.find_last_of(kSeparators);
+  return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+/// The separator that a path uses, else the platform's own.
+char SeparatorOf(std::string_view path) {
+  const auto separator = path.find_last_of(kSeparators);
+  return separator == std::string_view::npos ? static_cast<char>(std::filesystem::path::preferred_separator)
+                                             : path[separator];
+}
+
+}  // namespace
+
+std::string GetExtension(std::string_view path) {
+  const auto title = Title(path);
+  const auto point = title.rfind('.');
+  return point == std::string_view::npos ? "" : std::string(title.substr(point + 1));
+}
+
+std::string GetParentFolder(std::string_view path) {
+  if (path.size() <= 1) return std::string(path);
+  if (IsSeparator(path.back())) path.remove_suffix(1);
+  return std::string(path.substr(0, path.size() - Title(path).size()));
+}
+
+std::string AddBackslash(std::string_view path) {
+  std::string folder(path);
+  if (folder.empty() || !IsSeparator(folder.back())) folder += SeparatorOf(path);
+  return folder;
+}
+
+std::string FileTitle(std::string_view path) { return std::string(Title(path)); }
+
+std::string WithoutExtension(std::string_view path) {
+  const auto point = Title(path).rfind('.');
+  if (point == std::string_view::npos) return std::string(path);
+  return std::string(path.substr(0, path.size() - Title(path).size() + point));
+}
+
+std::string ShortPath(std::string_view path, std::size_t length) {
+  if (path.size() <= length) return std::string(path);
+  constexpr std::string_view kDots = "...";
+  // What stays in front is the drive or root, what stays behind is as many of the last folders as fit.
+  const auto first = path.find_first_of(kSeparators);
+  const auto head = first == std::string_view::npos ? std::string_view() : path.substr(0, first + 1);
+  for (auto at = head.size(); (at = path.find_first_of(kSeparators, at)) != std::string_view::npos; ++at)
+    if (head.size() + kDots.size() + path.size() - at <= length)
+      return std::string(head) + std::string(kDots) + std::string(path.substr(at));
+  if (length <= kDots.size()) return std::string(path.substr(path.size() - length));
+  return std::string(kDots) + std::string(path.substr(path.size() - (length - kDots.size())));
+}
+
+}  // namespace tarnview

@@ -1,0 +1,156 @@
+#include "base/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace tarnview {
+namespace {
+
+constexpr char UpperOf(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+template <class Drop>
+std::string_view TrimWhere(std::string_view text, Drop drop) {
+  while (!text.empty() && drop(text.front())) text.remove_prefix(1);
+  while (!text.empty() && drop(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+/// Unicode of the bytes 0x80 to 0x9F in Windows-1252; the five unassigned ones stand for themselves.
+constexpr std::array<std::uint16_t, 32> kHighControls{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                      0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char ByteOf(std::uint32_t code) {
+  if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<char>(code);
+  const auto found = std::find(kHighControls.begin(), kHighControls.end(), code);
+  return found == kHighControls.end() ? '?' : static_cast<char>(0x80 + (found - kHighControls.begin()));
+}
+
+/// Takes one character off the front; an ill-formed byte counts as a character that Windows-1252 lacks.
+std::uint32_t TakeCharacter(std::string_view& text) {
+  constexpr std::uint32_t kIllFormed = 0xFFFD;
+  const auto lead = static_cast<unsigned char>(text[0]);
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
+  if (length == 0 || length > text.size()) {
+    text.remove_prefix(1);
+    return kIllFormed;
+  }
+  std::uint32_t code = length == 1 ? lead : lead & (0x7Fu >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto next = static_cast<unsigned char>(text[i]);
+    if ((next & 0xC0) != 0x80) {
+      text.remove_prefix(i);
+      return kIllFormed;
+    }
+    code = code << 6 | (next & 0x3Fu);
+  }
+  text.remove_prefix(length);
+  return code;
+}
+
+}  // namespace
+
+std::string_view Trim(std::string_view text) {
+  return TrimWhere(text, [](char c) { return c == ' '; });
+}
+
+std::string_view TrimControlCharacters(std::string_view text) {
+  return TrimWhere(text, [](char c) { return static_cast<unsigned char>(c) < 33; });
+}
+
+std::string_view TrimSpecifiedChars(std::string_view text, std::string_view chars) {
+  if (text.size() <= chars.size()) return text;
+  if (text.starts_with(chars)) text.remove_prefix(chars.size());
+  if (text.ends_with(chars)) text.remove_suffix(chars.size());
+  return text;
+}
+
+std::string_view StripQuotes(std::string_view text) {
+  if (text.starts_with('"')) text.remove_prefix(1);
+  if (text.ends_with('"')) text.remove_suffix(1);
+  return text;
+}
+
+std::string Upper(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(), UpperOf);
+  return upper;
+}
+
+bool SameIgnoringCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return UpperOf(x) == UpperOf(y); });
+}
+
+std::vector<std::string> Split(std::string_view text, char delimiter) {
+  std::vector<std::string> parts;
+  if (text.empty()) return parts;
+  for (;;) {
+    const auto end = text.find(delimiter);
+    parts.emplace_back(text.substr(0, end));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
+std::string Join(const std::vector<std::string>& parts, std::string_view delimiter) {
+  std::string text;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (i > 0) text += delimiter;
+    text += parts[i];
+  }
+  return text;
+}
+
+void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn, std::size_t firstRow) {
+  const auto cell = [sortColumn](const std::vector<std::string>& row) {
+    return sortColumn < row.size() ? std::string_view(row[sortColumn]) : std::string_view();
+  };
+  if (firstRow >= table.size()) return;
+  std::stable_sort(table.begin() + static_cast<std::ptrdiff_t>(firstRow), table.end(),
+                   [&](const auto& a, const auto& b) { return cell(a) < cell(b); });
+}
+
+std::string ToUtf8(std::string_view text) {
+  std::string utf8;
+  utf8.reserve(text.size());
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    const std::uint32_t code = byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80u] : byte;
+    if (code < 0x80) {
+      utf8 += c;
+    } else if (code < 0x800) {
+      utf8 += static_cast<char>(0xC0 | code >> 6);
+      utf8 += static_cast<char>(0x80 | (code & 0x3F));
+    } else {
+      utf8 += static_cast<char>(0xE0 | code >> 12);
+      utf8 += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+      utf8 += static_cast<char>(0x80 | (code & 0x3F));
+    }
+  }
+  return utf8;
+}
+
+std::string FromUtf8(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) bytes += ByteOf(TakeCharacter(text));
+  return bytes;
+}
+
+bool TakeLine(std::string_view& rest, std::string_view& line) {
+  if (rest.empty()) return false;
+  const auto end = rest.find('\n');
+  line = rest.substr(0, end);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return true;
+}
+
+}  // namespace tarnview

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnview {
+
+// Texts are Windows-1252 bytes; upper and lower case are those of ASCII.
+
+std::string_view Trim(std::string_view text);  ///< blanks at both ends
+/// All characters with a code below 33 at both ends.
+std::string_view TrimControlCharacters(std::string_view text);
+/// If `text` is longer than `chars`: one `chars` off its start, then one off its end.
+std::string_view TrimSpecifiedChars(std::string_view text, std::string_view chars);
+/// One leading and one trailing double quote.
+std::string_view StripQuotes(std::string_view text);
+
+std::string Upper(std::string_view text);
+bool SameIgnoringCase(std::string_view a, std::string_view b);
+/// An empty text has no parts.
+std::vector<std::string> Split(std::string_view text, char delimiter);
+std::string Join(const std::vector<std::string>& parts, std::string_view delimiter);
+
+/// Sorts the rows from `firstRow` on by the text of one column, ascending.
+void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn, std::size_t firstRow = 0);
+
+/// Windows-1252 bytes as UTF-8, for the edges of the program (JSON, the toolkit), and back ('?' for what it lacks).
+std::string ToUtf8(std::string_view text);
+std::string FromUtf8(std::string_view text);
+
+/// Takes the next line off the front of `rest`, without its end (CR LF, LF; the last line needs none). False at the
+/// end of the text.
+bool TakeLine(std::string_view& rest, std::string_view& line);
+
+}  // namespace tarnview

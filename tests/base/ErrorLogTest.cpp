@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include "base/ErrorLog.h"
+#include "support/FixedClock.h"
+#include "support/MemoryFileSystem.h"
+
+namespace tarnview {
+namespace {
+
+class ErrorLogTest : public testing::Test {
+ protected:
+  MemoryFileSystem files;
+  FixedClock clock;
+  ErrorLog log{files, clock, "error.log"};
+};
+
+TEST_F(ErrorLogTest, NestsTheEntriesOfOneFailure) {
+  files.files["error.log"] = "of the last run";
+  log.ResetErrorLog();
+  const auto inner = [&] { Trap(log, "modInner", "Work", [] { throw RuntimeError(13, "Type mismatch"); }); };
+  EXPECT_FALSE(TrapEvent(log, "frmOuter", "cmdOK_Click", inner));
+  EXPECT_EQ(files.files["error.log"],
+            "Tarnview Error File\r\n"
+            "File Created : 24-Nov-2026 14:05\r\n"
+            "\r\n"
+            "Date & Time  : 24-Nov-2026 14:05\r\n"
+            "Location     : Tarnview/modInner/Work\r\n"
+            "Number       : 13 Type mismatch\r\n"
+            "\r\n"
+            "Date & Time  : 24-Nov-2026 14:05\r\n"
+            "Location     : Tarnview/frmOuter/cmdOK_Click\r\n"
+            "Number       : 13 Type mismatch\r\n"
+            "\r\n"
+            "--------------------------------------------------\r\n");
+}
+
+TEST_F(ErrorLogTest, TellsOtherFailuresAsNumberFive) {
+  EXPECT_THROW(Trap(log, "m", "p", []() -> int { throw std::out_of_range("index"); }), RuntimeError);
+  EXPECT_NE(files.files["error.log"].find("Number       : 5 index\r\n"), std::string::npos);
+  EXPECT_EQ(Trap(log, "m", "p", [] { return 7; }), 7);
+  EXPECT_TRUE(TrapEvent(log, "m", "p", [] {}));
+}
+
+TEST_F(ErrorLogTest, IsGivenUpInSilence) {
+  files.failWrites = true;
+  log.ResetErrorLog();
+  log.LogError("m", "p", RuntimeError(1, "x"), false);
+  EXPECT_TRUE(files.files.empty());
+
+  ErrorLog none(files, clock, "");
+  files.accesses.clear();
+  none.ResetErrorLog();
+  none.LogError("m", "p", RuntimeError(1, "x"), false);
+  EXPECT_TRUE(files.accesses.empty());
+}
+
+TEST(Clock, TellsTheMachinesTime) {
+  const Moment now = RealClock().Now();
+  EXPECT_GE(now.year, 2024);
+  EXPECT_EQ(LogTime({2026, 1, 2, 3, 4, 5}), "02-Jan-2026 03:04");
+}
+
+}  // namespace
+}  // namespace tarnview

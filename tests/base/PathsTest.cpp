@@ -1,0 +1,34 @@
+#include <gtest/gtest.h>
+
+#include "base/Paths.h"
+
+namespace tarnview {
+namespace {
+
+TEST(Paths, AreTakenApart) {
+  EXPECT_EQ(GetExtension("C:\\a.b\\run.1.TXT"), "TXT");
+  EXPECT_EQ(GetExtension("/home/a.b/run"), "");
+  EXPECT_EQ(GetParentFolder("C:\\A\\B\\"), "C:\\A\\");
+  EXPECT_EQ(GetParentFolder("/home/me/run.txt"), "/home/me/");
+  EXPECT_EQ(GetParentFolder("/"), "/");
+  EXPECT_EQ(GetParentFolder("run.txt"), "");
+  EXPECT_EQ(FileTitle("C:\\logs/run.txt"), "run.txt");
+  EXPECT_EQ(WithoutExtension("/a.b/run.1.txt"), "/a.b/run.1");
+  EXPECT_EQ(WithoutExtension("/a.b/run"), "/a.b/run");
+}
+
+TEST(Paths, AddTheSeparatorThatTheyUse) {
+  EXPECT_EQ(AddBackslash("C:\\A"), "C:\\A\\");
+  EXPECT_EQ(AddBackslash("/home/me"), "/home/me/");
+  EXPECT_EQ(AddBackslash("/home/me/"), "/home/me/");
+}
+
+TEST(Paths, AreShortenedInTheMiddle) {
+  EXPECT_EQ(ShortPath("/home/me/run.txt"), "/home/me/run.txt");
+  EXPECT_EQ(ShortPath("C:\\Program Files\\Logs\\Summer\\run.txt", 25), "C:\\...\\Summer\\run.txt");
+  EXPECT_EQ(ShortPath("/home/someone/logs/run.txt", 20), "/.../logs/run.txt");
+  EXPECT_EQ(ShortPath(std::string(60, 'x') + "y", 10), "...xxxxxxy");
+}
+
+}  // namespace
+}  // namespace tarnview

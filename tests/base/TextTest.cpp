@@ -1,0 +1,53 @@
+#include <gtest/gtest.h>
+
+#include "base/Text.h"
+
+namespace tarnview {
+namespace {
+
+TEST(Text, IsTrimmed) {
+  EXPECT_EQ(Trim("  a b "), "a b");
+  EXPECT_EQ(Trim("   "), "");
+  EXPECT_EQ(TrimControlCharacters(" \t\r\n\x01 a\tb \x1f"), "a\tb");
+  EXPECT_EQ(TrimControlCharacters("\xe9 "), "\xe9");
+  EXPECT_EQ(StripQuotes("\"a\"b\""), "a\"b");
+  EXPECT_EQ(StripQuotes("\""), "");
+}
+
+TEST(Text, LosesSpecifiedCharsOnceAtEachEnd) {
+  EXPECT_EQ(TrimSpecifiedChars("--a--", "-"), "-a-");
+  EXPECT_EQ(TrimSpecifiedChars("--", "--"), "--");
+  EXPECT_EQ(TrimSpecifiedChars("----", "--"), "");
+  EXPECT_EQ(TrimSpecifiedChars("ab-", "-"), "ab");
+}
+
+TEST(Text, IsTakenApartIntoLines) {
+  std::string_view rest = "one\r\n\ntw\ro\r\nlast\r", line;
+  std::vector<std::string> lines;
+  while (TakeLine(rest, line)) lines.emplace_back(line);
+  EXPECT_EQ(lines, (std::vector<std::string>{"one", "", "tw\ro", "last"}));
+}
+
+TEST(Text, IsSplitJoinedAndSorted) {
+  EXPECT_EQ(Split("a,,b,", ','), (std::vector<std::string>{"a", "", "b", ""}));
+  EXPECT_TRUE(Split("", ',').empty());
+  EXPECT_EQ(Join({"a", "", "b"}, ", "), "a, , b");
+  EXPECT_EQ(Upper("a\xe4z9"), "A\xe4Z9");
+  EXPECT_TRUE(SameIgnoringCase("aBc", "AbC"));
+  EXPECT_FALSE(SameIgnoringCase("aBc", "AbCd"));
+
+  std::vector<std::vector<std::string>> table{{"head", "z"}, {"2", "c"}, {"1", "a"}, {"3"}, {"4", "a"}};
+  Sort2DStringArray(table, 1, 1);
+  EXPECT_EQ(table, (std::vector<std::vector<std::string>>{{"head", "z"}, {"3"}, {"1", "a"}, {"4", "a"}, {"2", "c"}}));
+}
+
+TEST(Text, GoesThroughUnicodeAndBack) {
+  EXPECT_EQ(ToUtf8("\x80 \xe9 a"), "\u20ac \u00e9 a");
+  EXPECT_EQ(FromUtf8("\u20ac \u00e9 \u0416 \xff \xe2\x82"), "\x80 \xe9 ? ? ??");
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+  EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
+}
+
+}  // namespace
+}  // namespace tarnview
