@@ -1,0 +1,97 @@
+#pragma once
+
+namespace tarnview {
+
+/// Columns of a sample in the order of the catalogue; item number (intSeq) is column + 1.
+enum Column : int {
+  kSample,
+  kCASErr,
+  kRPM,
+  kDwell,
+  kMAP,
+  kLambda,
+  kO2,
+  kO2A,
+  kWGCM,
+  kWGPercent,  // 0
+  kEGR,
+  kFuelP,
+  kInjW,
+  kInjPercent,
+  kThrottle,
+  kIAC,
+  kTPS,
+  kNeutral,
+  kComp,
+  kKnock,  // 10
+  kIAdv,
+  kVolt,
+  kCTemp,
+  kSpeed,
+  kEngFan,
+  kCndFan,
+  kAC,
+  kPRC,
+  kChPurge,
+  kKnockC,  // 20
+  kATemp,
+  kAuxNS,
+  kKnockT,
+  kATR,
+  kL3,
+  kAF,
+  kBoost,
+  kVacuum,
+  kAuxNF,
+  kAuxCS,  // 30
+  kAuxCF,
+  kKnockE,
+  kMAPLmt,
+  kRevLmt,
+  kPower,
+  kTorque,
+  kPWOFF,
+  kGAMA,
+  kCR,
+  kEGOV,  // 40
+  kGPO1,
+  kTDUTY,
+  kTPWON,
+  kTPWOFF,
+  kAD1,
+  kAD2,
+  kAD3,
+  kAD4,
+  kGPO2,
+  kGFG,  // 50
+  kSIA,
+  kKNR,
+  kSecs,
+  kZone,
+  kIdleSp,
+  kFuelZV,
+  kIgnZV,
+  kTumble,
+  kL4,
+  kL3Idle,  // 60
+  kMAF,
+  kMAFM,
+  kIAdvM,
+  kFuelPercentM,
+  kBCL,
+  kLS,
+  kMLP,
+  kMAPD,
+  kMAFD,
+  kTPSD,  // 70
+  kMAFHz,
+  kMAFMHz,
+  kAFTgt,  // 80
+  kColumnCount
+};
+static_assert(kColumnCount == 83 && kSecs == 62 && kKnock == 19);
+
+/// The item number (intSeq) of a column.
+constexpr int ItemOf(Column column) { return static_cast<int>(column) + 1; }
+
+}  // namespace tarnview

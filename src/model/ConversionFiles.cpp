@@ -1,0 +1,38 @@
+#include "model/ConversionFiles.h"
+
+#include <utility>
+
+#include "base/RuntimeError.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kUnableToLoadConversionFile = 4;
+constexpr long kPathFileAccessError = 75;
+
+}  // namespace
+
+ConversionTable ConversionFiles::LoadConversionTable(const std::string& path, const ConversionTable& defaults) {
+  if (path.empty() || !files_.FileExists(path)) return defaults;
+  const auto text = files_.Read(path);
+  if (!text) {
+    messages_.ShowMessage(kUnableToLoadConversionFile);
+    log_.LogError("modTarnview", "LoadConversionTable", RuntimeError(kPathFileAccessError, "Path/File access error"),
+                  /*reraise=*/false);
+    return defaults;
+  }
+  ConversionTable table = ParseConversionTable(*text);
+  return table.empty() ? defaults : table;
+}
+
+void ConversionFiles::LoadO2ConvFile(ConversionTables& tables, const std::string& path) {
+  if (!std::exchange(tables.reloadO2, false)) return;
+  tables.O2 = LoadConversionTable(path, DefaultO2Table());
+}
+
+void ConversionFiles::LoadAuxInputConvFile(ConversionTables& tables, const std::string& path) {
+  if (!std::exchange(tables.reloadAux, false)) return;
+  tables.Aux = LoadConversionTable(path, DefaultAuxTable());
+}
+
+}  // namespace tarnview

@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include "model/SampleStore.h"
+
+namespace tarnview {
+namespace {
+
+TEST(SampleStore, UndeliveredColumnsReadAsZeroAndCostNothing) {
+  SampleStore store;
+  store.Prepare(3, 10);
+  store.AddRow();
+  store.AddRow();
+  store.Set(1, 1, 0);
+  EXPECT_EQ(store.DeliveredBytes(), 0u);
+  store.Set(2, 1, -7);
+  EXPECT_EQ(store.DeliveredBytes(), 2 * sizeof(std::int32_t));
+  EXPECT_TRUE(store.Column(1).empty());
+  ASSERT_EQ(store.Column(2).size(), 2u);
+  EXPECT_EQ(store.Column(2)[0], 0);
+  EXPECT_EQ(store(2, 1), -7);
+  EXPECT_EQ(store(0, 0), 0);
+}
+
+TEST(SampleStore, GrowsFarPastTheGuessAndKeepsEveryCell) {
+  constexpr int kRows = 310000, kColumns = 80;
+  SampleStore store;
+  store.Prepare(kColumns, 1);
+  for (int row = 0; row < kRows; ++row) {
+    store.AddRow();
+    store.Set(0, row, row);
+    if (row % 1000 == 999) store.Set(kColumns - 1, row, -row);
+  }
+  ASSERT_EQ(store.Rows(), kRows);
+  for (int row = 0; row < kRows; ++row) {
+    ASSERT_EQ(store(0, row), row);
+    ASSERT_EQ(store(kColumns - 1, row), row % 1000 == 999 ? -row : 0);
+  }
+}
+
+TEST(SampleStore, FillsAStretch) {
+  SampleStore store;
+  store.Prepare(2, 0);
+  for (int i = 0; i < 5; ++i) store.AddRow();
+  store.Fill(0, 0, 5, 0);
+  EXPECT_TRUE(store.Column(0).empty());
+  store.Fill(0, 1, 3, 9);
+  store.Fill(0, 2, 3, 0);
+  store.Fill(0, 4, 4, 8);
+  EXPECT_EQ(std::vector<std::int32_t>(store.Column(0).begin(), store.Column(0).end()),
+            (std::vector<std::int32_t>{0, 9, 0, 0, 0}));
+}
+
+TEST(SampleStore, PrepareEmptiesIt) {
+  SampleStore store;
+  store.Prepare(2, 100);
+  store.AddRow();
+  store.Writable(1)[0] = 5;
+  store.Prepare(3, 100);
+  EXPECT_EQ(store.Rows(), 0);
+  EXPECT_EQ(store.Columns(), 3);
+  store.AddRow();
+  EXPECT_EQ(store(1, 0), 0);
+  EXPECT_EQ(store.Writable(1)[0], 0);
+}
+
+}  // namespace
+}  // namespace tarnview
