@@ -1,0 +1,75 @@
+#include "zones/ChipIdentity.h"
+
+#include <string>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace tarnview {
+namespace {
+
+constexpr ChipType kChipTypes[] = {
+    {"1.6 Mk1", 1.6, 1}, {"1.6 Mk2", 1.6, 2}, {"1.8 Mk1", 1.8, 2}, {"1.8 Mk2 OBDII", 1.8, 3}};
+constexpr const ChipType& kOtherType = kChipTypes[2];
+
+constexpr std::string_view kMonths[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
+                                        "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
+
+int MonthIn(std::string_view text) {
+  const std::string upper = Upper(text);
+  for (int month = 1; month <= 12; ++month)
+    if (upper.find(kMonths[month - 1]) != std::string::npos) return month;
+  return 0;
+}
+
+std::string_view From(std::string_view text, std::size_t start, std::size_t length) {
+  return start < text.size() ? text.substr(start, length) : std::string_view();
+}
+
+std::string_view Last(std::string_view text, std::size_t length) {
+  return text.size() > length ? text.substr(text.size() - length) : text;
+}
+
+/// The date by position: "18-Sep-2001" and "18-Sep-01" with hyphens, "18Sep2001" without.
+Date DateByPosition(std::string_view text, Date unreadable) {
+  const bool hyphens = text.find('-') != std::string_view::npos;
+  const int day = StringToLong(From(text, 0, 2));
+  const int month = MonthIn(From(text, hyphens ? 3 : 2, 3));
+  const bool shortYear = hyphens && text.size() <= 9;
+  const int year = shortYear ? 2000 + StringToLong(Last(text, 2)) : StringToLong(Last(text, 4));
+  return year == 0 || month == 0 || day == 0 ? unreadable : MakeDate(year, month, day);
+}
+
+}  // namespace
+
+std::string_view EngineSizeText(double size) { return size == 1.8 ? "1.8" : "1.6"; }
+
+int ValidateChipVersion(std::string_view text) {
+  const int version = StringToLong(text);
+  return version >= 1 && version < 4 ? version : 2;
+}
+
+Date ParseChipDate(std::string_view text, Date defaultDate) {
+  const Date unreadable = MakeDate(2000, 1, 1);
+  text = Trim(text);
+  if (!text.empty() && (text.front() == 'X' || text.front() == 'x')) text.remove_prefix(1);
+  const auto valid = ParseDate(text);
+  const Date date = valid ? *valid : DateByPosition(text, unreadable);
+  return date == unreadable ? defaultDate : date;
+}
+
+std::span<const ChipType> ChipTypes() { return kChipTypes; }
+
+std::string_view SetChipTypeCombo(double engineSize, int chipVersion) {
+  for (const ChipType& type : kChipTypes)
+    if (type.dblEngineSize == engineSize && type.intChipVersion == chipVersion) return type.text;
+  return kOtherType.text;
+}
+
+const ChipType& DecipherChipType(std::string_view text) {
+  for (const ChipType& type : kChipTypes)
+    if (type.text == text) return type;
+  return kOtherType;
+}
+
+}  // namespace tarnview
