@@ -1,0 +1,4 @@
+#include "fuzz/FuzzFMLinkLog.cpp"
+#include "support/ReplayCorpus.h"
+
+TEST(Replay, FMLinkLog) { tarnview::ReplayCorpus("FuzzFMLinkLog", LLVMFuzzerTestOneInput); }
