@@ -1,0 +1,44 @@
+#include "samplegraph/GraphScale.h"
+
+#include "base/Numbers.h"
+
+namespace tarnview {
+namespace {
+
+/// Lines below which a step is taken.
+constexpr std::int64_t kMostLines = 13;
+
+struct Fit {
+  std::int64_t step;
+  std::int64_t lines;
+};
+
+Fit FirstFit(double value) {
+  Fit fit{};
+  for (std::int32_t step : glngGraphScaleSteps) {
+    fit = {step, static_cast<std::int64_t>(RoundHalfEven(value / step))};
+    if (fit.lines < kMostLines) break;
+  }
+  return fit;
+}
+
+}  // namespace
+
+VerticalScale ScaleForHighest(double highest) {
+  const Fit fit = FirstFit(RoundHalfEven(highest));
+  return {fit.step * (fit.lines + 1), fit.lines + 1};
+}
+
+VerticalScale ScaleForFixedMax(std::int32_t wanted) {
+  const Fit fit = FirstFit(wanted);
+  return {fit.step * fit.lines, fit.lines};
+}
+
+std::string TimeAxisFormat(double span) { return span < 1 ? "#######0.00" : span < 10 ? "#######0.0" : "#######0"; }
+
+std::int32_t ThinStep(std::int32_t plotSpan, bool quick) {
+  if (!quick || plotSpan <= kQuickGraphRows) return 1;
+  return RoundToLong((plotSpan - 1) / static_cast<double>(kQuickGraphRows));
+}
+
+}  // namespace tarnview

@@ -1,0 +1,86 @@
+#include "samplegraph/PointHighlight.h"
+
+#include <algorithm>
+
+#include "model/Column.h"
+
+namespace tarnview {
+
+PointHighlight::PointHighlight(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+                               SampleDetails& details, StatusArea& status, MainWindow& mainWindow)
+    : controls_(controls),
+      plot_(plot),
+      range_(range),
+      log_(log),
+      details_(details),
+      status_(status),
+      mainWindow_(mainWindow) {
+  controls_.chSampleGraph.PointSelected = [this](int series, int point) { chSampleGraph_PointSelected(series, point); };
+}
+
+void PointHighlight::chSampleGraph_PointSelected(int intSeries, int lngDataPoint) {
+  plot_.lngSelectedPoint = lngDataPoint;
+  plot_.intSelectedSeries = intSeries;
+  const auto& headings = plot_.varChartData.headings;
+  const auto place = static_cast<std::size_t>((intSeries - 1) / 2);
+  const auto* item = place < headings.size() ? log_.gcolDataItems->ByShortName(headings[place]) : nullptr;
+  plot_.intSelectedItem = item ? item->intSeq : ItemOf(kRPM);
+
+  if (!plot_.blnSkipPointSelected) ShowSample(std::max(plot_.IndexOfPoint(lngDataPoint), log_.glngFirstSample));
+  plot_.blnSkipPointSelected = false;
+
+  const auto& plotted = plot_.intPlottedItems;
+  if (!plot_.blnSkipListSelect && !plotted.empty()) details_.SelectItem(plotted[std::min(place, plotted.size() - 1)]);
+  plot_.blnSkipListSelect = false;
+}
+
+void PointHighlight::ShowSample(std::int32_t index) {
+  // The last point of a thinned graph may stand for rows beyond the log.
+  index = std::min(index, log_.glngLastSample);
+  plot_.lngHighlightSample = log_.Sample(index);
+  details_.PopulateSampleListView(index);
+  controls_.cmdDataPointLeft.Enabled = range_.From() > log_.glngFirstSampleTime || plot_.lngSelectedPoint >= 2;
+  // Compares sample numbers and passes thinning over, on purpose.
+  controls_.cmdDataPointRight.Enabled = range_.From() + plot_.lngSelectedPoint - 1 < log_.glngLastSampleTime;
+  const auto named = [&](Column column) {
+    return log_.gcolDataItems->Item(ItemOf(column)).strShortName + ": " + log_.FormatDataItem(ItemOf(column), index);
+  };
+  status_.Say(named(kSample) + ", " + named(kSecs));
+}
+
+void PointHighlight::cmdDataPointLeft_Click() {
+  if (plot_.lngSelectedPoint > 1)
+    controls_.chSampleGraph.SelectPoint(plot_.intSelectedSeries, plot_.lngSelectedPoint - 1);
+  else if (range_.From() > log_.glngFirstSampleTime)
+    mainWindow_.ScrollOneStep(-1);
+  controls_.chSampleGraph.SetFocus();
+}
+
+void PointHighlight::cmdDataPointRight_Click() {
+  if (plot_.lngSelectedPoint < plot_.lngChartRow - 1)
+    controls_.chSampleGraph.SelectPoint(plot_.intSelectedSeries, plot_.lngSelectedPoint + 1);
+  else if (range_.To() < log_.glngLastSampleTime)
+    mainWindow_.ScrollOneStep(1);
+  controls_.chSampleGraph.SetFocus();
+}
+
+void PointHighlight::MoveBetweenSeries(int direction) {
+  const auto& table = plot_.varChartData;
+  const auto row = static_cast<std::size_t>(plot_.lngSelectedPoint - 1);
+  if (plot_.lngSelectedPoint < 1 || row >= table.x.size()) return;
+  std::vector<std::pair<double, int>> heights;
+  for (std::size_t j = 0; j < table.y.size(); ++j) heights.emplace_back(table.y[j][row], 2 * static_cast<int>(j) + 1);
+  std::stable_sort(heights.begin(), heights.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  const auto found = std::find_if(heights.begin(), heights.end(),
+                                  [&](const auto& one) { return one.second == plot_.intSelectedSeries; });
+  const auto wanted = (found - heights.begin()) + direction;
+  if (found == heights.end() || wanted < 0 || wanted >= static_cast<std::ptrdiff_t>(heights.size())) return;
+  controls_.chSampleGraph.SelectPoint(heights[static_cast<std::size_t>(wanted)].second, plot_.lngSelectedPoint);
+}
+
+std::int32_t PointHighlight::SelectedSample() const {
+  const std::int32_t index = plot_.IndexOfPoint(std::max(plot_.lngSelectedPoint, 1));
+  return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
+}
+
+}  // namespace tarnview

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+
+#include "model/OpenLog.h"
+#include "samplegraph/PlotRange.h"
+#include "samplegraph/PlotState.h"
+#include "samplegraph/SampleDetails.h"
+#include "samplegraph/StatusArea.h"
+#include "ui/Chart.h"
+#include "ui/CommandButton.h"
+
+namespace tarnview {
+
+/// The selected point of the Sample Graph: its sample's values in the list and the status bar, and the walk from point
+/// to point and from curve to curve.
+class PointHighlight {
+ public:
+  struct Controls {
+    Chart& chSampleGraph;
+    CommandButton& cmdDataPointLeft;
+    CommandButton& cmdDataPointRight;
+  };
+  /// What it needs of the main window: one step of the graph, where the points end.
+  struct MainWindow {
+    virtual ~MainWindow() = default;
+    virtual void ScrollOneStep(int direction) = 0;  ///< -1 left, 1 right, stopping at the log's end
+  };
+  PointHighlight(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+                 SampleDetails& details, StatusArea& status, MainWindow& mainWindow);
+
+  void cmdDataPointLeft_Click();
+  void cmdDataPointRight_Click();
+  /// To the curve next above (1) or below (-1) at the selected point.
+  void MoveBetweenSeries(int direction);
+  /// Column 0 at the selected point.
+  std::int32_t SelectedSample() const;
+
+ private:
+  void chSampleGraph_PointSelected(int intSeries, int lngDataPoint);
+  void ShowSample(std::int32_t index);
+
+  Controls controls_;
+  PlotState& plot_;
+  PlotRange& range_;
+  const OpenLog& log_;
+  SampleDetails& details_;
+  StatusArea& status_;
+  MainWindow& mainWindow_;
+};
+
+}  // namespace tarnview

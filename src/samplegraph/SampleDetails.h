@@ -1,0 +1,51 @@
+#pragma once
+
+#include <vector>
+
+#include "model/Catalogue.h"
+#include "model/OpenLog.h"
+#include "samplegraph/PlotState.h"
+#include "samplegraph/SampleListView.h"
+#include "ui/Chart.h"
+#include "ui/CheckBox.h"
+
+namespace tarnview {
+
+/// The list beside the Sample Graph: which items are plotted, and their values at the selected sample.
+class SampleDetails {
+ public:
+  struct Controls {
+    ListView& lvwSampleDetails;
+    CheckBox& chkShowCheckedOnly;
+    Chart& chSampleGraph;
+  };
+  SampleDetails(const Controls& controls, PlotState& plot, const OpenLog& log, const clsLogFamilies& families);
+
+  /// Fills the list for a file type, keeping the checks.
+  void SetUpSampleGraphSampleListView(int lngFileType, const clsLogDataItems& items);
+  /// Writes the values of a store index.
+  void PopulateSampleListView(std::int32_t lngIndex);
+  void ClearValues();
+  /// Selects the row of an item, if it is on show.
+  void SelectItem(int item);
+
+  /// Data items whose check is set, those of hidden rows too; in item order.
+  std::vector<int> CheckedItems() const;
+  void SetCheckedItems(const std::vector<int>& items);
+
+ private:
+  void chkShowCheckedOnly_Click();
+  void lvwSampleDetails_ItemCheck(int row);
+  void lvwSampleDetails_ItemClick(int row);
+  void ListViewToggleCheckBox(int row);
+
+  Controls controls_;
+  PlotState& plot_;
+  const OpenLog& log_;
+  const clsLogFamilies& families_;
+  const clsLogDataItems* items_ = nullptr;
+  int fileType_ = 0;
+  CheckedKeys checked_;
+};
+
+}  // namespace tarnview

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "base/Messages.h"
+#include "model/OpenLog.h"
+#include "model/Settings.h"
+#include "samplegraph/PlotRange.h"
+#include "samplegraph/PlotState.h"
+#include "samplegraph/StatusArea.h"
+#include "ui/Chart.h"
+#include "ui/CheckBox.h"
+#include "ui/Form.h"
+#include "ui/Frame.h"
+#include "ui/ListView.h"
+#include "ui/TextBox.h"
+#include "ui/UpDown.h"
+
+namespace tarnview {
+
+/// Draws the log as curves over time: from the range, the checked items and the boxes beside them to the chart.
+class SampleGraph {
+ public:
+  struct Controls {
+    ListView& lvwSampleDetails;
+    CheckBox& chkQuickGraph;
+    CheckBox& chkFixY;
+    TextBox& txtYMax;
+    UpDown& updYMax;
+    Chart& chSampleGraph;
+    Frame& fraPicture;
+  };
+  /// What it needs of the main window.
+  struct MainWindow {
+    virtual ~MainWindow() = default;
+    /// The range or the graph has changed: scroll bars follow it.
+    virtual void SetUpScrollBar() = 0;
+    /// A graph was drawn: commands that work on it may run.
+    virtual void GraphDrawn() = 0;
+  };
+
+  SampleGraph(Form& window, const Controls& controls, PlotRange& range, PlotState& plot, const OpenLog& log,
+              const Settings& settings, StatusArea& status, Messages& messages, MainWindow& mainWindow);
+
+  /// What Draw does: corrects the range, then draws and shows the chart. Message 10 without a checked item, 1 where
+  /// the range is too wide to be drawn without Quick Graph.
+  void DrawGraphChecked();
+  /// Draws without those checks; builds nothing where nothing has changed.
+  void DrawSampleGraph();
+  /// Brings the typed maximum onto the scale's steps.
+  void ApplyFixedGraphMax();
+  /// The table row that shows a sample, walked to from an estimate.
+  std::int32_t FindChartRowForSample(std::int32_t lngSample, double estimate) const;
+  /// Chart away, picture back; nothing drawn, nothing selected.
+  void Clear();
+
+ private:
+  bool NoteRange();
+  void ListPlottedItems();
+  bool MustBuild(bool rangeChanged);
+  void CountLogLines();
+  void Build();
+  ChartDescription Describe() const;
+  void SelectAgain();
+  int PlaceOf(int item) const;
+  void chkFixY_Click();
+  void StepYMax(int by);
+
+  Form& window_;
+  Controls controls_;
+  PlotRange& range_;
+  PlotState& plot_;
+  const OpenLog& log_;
+  const Settings& settings_;
+  StatusArea& status_;
+  Messages& messages_;
+  MainWindow& mainWindow_;
+};
+
+}  // namespace tarnview

@@ -1,0 +1,72 @@
+#include "samplegraph/SampleListView.h"
+
+#include "base/Numbers.h"
+
+namespace tarnview {
+namespace {
+
+/// Pictures of the list's image list ilsDisplayedDataItems.
+constexpr int kIconDisplayed = 1;
+constexpr int kIconNotDisplayed = 2;
+
+void NoteChecks(const ListView& lvw, CheckedKeys& objCheckedKeys) {
+  for (const auto& row : lvw.Rows()) {
+    const int seq = StringToLong(row.tag);
+    if (row.checked)
+      objCheckedKeys[CheckedKey(seq)] = seq;
+    else
+      objCheckedKeys.erase(CheckedKey(seq));
+  }
+}
+
+bool IsRow(const clsLogDataItem& item, int intMode, bool blnIsChecked) {
+  switch (intMode) {
+    case kPlottableItems:
+      return item.blnSampleGraphPlottable;
+    case kDisplayedItems:
+    case kDisplayedInAnyCase:
+      return item.blnDisplay;
+    case kDisplayedAndCheckedItems:
+      return item.blnDisplay && blnIsChecked;
+    default:
+      return true;
+  }
+}
+
+ListView::Row MakeRow(const clsLogDataItem& item, const SampleListForm& form) {
+  ListView::Row row;
+  if (form.blnSeqColumn) row.texts.push_back(PaddedText(item.intSeq, 2));
+  row.texts.push_back(item.strShortName);
+  if (form.blnShowLongName)
+    row.texts.push_back(item.strLongName);
+  else
+    row.toolTip = item.strLongName;
+  row.tag = std::to_string(item.intSeq);
+  row.icon = item.blnDisplay ? kIconDisplayed : kIconNotDisplayed;
+  if (item.blnSampleGraphPlottable) row.colour = item.lngColour;
+  return row;
+}
+
+}  // namespace
+
+std::string CheckedKey(int intSeq) { return "K" + PaddedText(intSeq, 2); }
+
+void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const SampleListForm& form,
+                         const clsLogFamilies& families, const clsLogDataItems& objItems) {
+  if (lvw.CheckBoxes) NoteChecks(lvw, objCheckedKeys);
+  const int lngLogFamily = form.lngFileType > 0 ? families.FirstLogFamily(form.lngFileType) : 0;
+  if (form.lngFileType > 0 && lngLogFamily < 1) return;
+
+  std::vector<ListView::Row> rows;
+  for (const clsLogDataItem* item : objItems.InDisplayOrder()) {
+    const bool blnIsChecked = objCheckedKeys.contains(CheckedKey(item->intSeq));
+    if (!IsRow(*item, form.intMode, blnIsChecked)) continue;
+    if (lngLogFamily > 0 && !item->InFamily(lngLogFamily)) continue;
+    rows.push_back(MakeRow(*item, form));
+    rows.back().checked = lvw.CheckBoxes && blnIsChecked;
+  }
+  lvw.SetRows(std::move(rows));
+  if (lvw.Count() > 0) lvw.Select(1);
+}
+
+}  // namespace tarnview

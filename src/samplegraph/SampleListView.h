@@ -1,0 +1,38 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "model/clsFileTypes.h"
+#include "model/clsLogDataItems.h"
+#include "model/clsLogFamilies.h"
+#include "ui/ListView.h"
+
+namespace tarnview {
+
+/// Which data items are rows of a list.
+enum SampleListMode : int {
+  kAllItems = 0,
+  kPlottableItems = 1,
+  kDisplayedItems = 2,
+  kDisplayedAndCheckedItems = 3,
+  kDisplayedInAnyCase = 4
+};
+
+/// Checked items by key: "K" and the item number in two digits ("K05").
+using CheckedKeys = std::map<std::string, int>;
+std::string CheckedKey(int intSeq);
+
+struct SampleListForm {
+  bool blnShowLongName = false;  ///< a column of long names; else they are tool tips
+  int intMode = kAllItems;
+  bool blnSeqColumn = false;  ///< the first column holds the item number, "05"
+  int lngFileType = 0;        ///< items of this file type's family; 0 for all
+};
+
+/// Fills a list with data items in display order. Checks of rows on show are noted in `objCheckedKeys` first and put
+/// back from there, so that rows which are not on show keep theirs. A file type of no family leaves the list alone.
+void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const SampleListForm& form,
+                         const clsLogFamilies& families, const clsLogDataItems& objItems);
+
+}  // namespace tarnview

@@ -1,0 +1,144 @@
+#include "samplegraph/Scrolling.h"
+
+#include <algorithm>
+
+#include "base/Numbers.h"
+
+namespace tarnview {
+
+Scrolling::Scrolling(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+                     MainWindow& mainWindow)
+    : controls_(controls), plot_(plot), range_(range), log_(log), mainWindow_(mainWindow) {
+  objGraphScrollLarge_.Client(&controls_.hsbGraphScrollLarge);
+  controls_.hsbGraphScroll.Change = [this] { Moved(); };
+  objGraphScrollLarge_.Change = [this] { Moved(); };
+  controls_.hsbGraphScrollLarge.Visible = false;
+  Disable();
+}
+
+void Scrolling::TakeLog() {
+  plot_.blnLongScroll = log_.glngLastSample >= kLongScrollFrom;
+  controls_.hsbGraphScroll.Visible = !plot_.blnLongScroll;
+  controls_.hsbGraphScrollLarge.Visible = plot_.blnLongScroll;
+  controls_.hsbGraphScroll.Enabled = true;
+  controls_.hsbGraphScrollLarge.Enabled = true;
+  LocateSampleOnGraph();
+}
+
+void Scrolling::LocateSampleOnGraph() {
+  plot_.blnIgnoreScroll = true;
+  for (auto* property :
+       {&controls_.hsbGraphScroll.Min, &controls_.hsbGraphScroll.Max, &controls_.hsbGraphScroll.LargeChange,
+        &controls_.hsbGraphScroll.SmallChange, &controls_.hsbGraphScroll.Value})
+    *property = 1;
+  objGraphScrollLarge_.Min(1);
+  objGraphScrollLarge_.Max(1);
+  objGraphScrollLarge_.LargeChange = 1;
+  objGraphScrollLarge_.SmallChange = 1;
+  objGraphScrollLarge_.value(1);
+  plot_.blnIgnoreScroll = false;
+}
+
+void Scrolling::SetUp() {
+  const std::int32_t width = plot_.Width();
+  const std::int32_t min = RoundToLong(width / 2.0);
+  const std::int32_t max = RoundToLong(log_.glngLastSample - width / 2.0);
+  const std::int32_t large = range_.Span() < 1 ? 1 : width;
+  const std::int32_t small = std::max(RoundToLong(large / 10.0), 1);
+  const std::int32_t value = RoundToLong(width / 2.0 + plot_.lngPlotFirstIndex);
+  plot_.blnIgnoreScroll = true;
+  if (plot_.blnLongScroll) {
+    objGraphScrollLarge_.Min(min);
+    objGraphScrollLarge_.Max(max);
+    objGraphScrollLarge_.LargeChange = large;
+    objGraphScrollLarge_.SmallChange = small;
+    objGraphScrollLarge_.value(value);
+  } else {
+    controls_.hsbGraphScroll.Min = min;
+    controls_.hsbGraphScroll.Max = max;
+    controls_.hsbGraphScroll.LargeChange = large;
+    controls_.hsbGraphScroll.SmallChange = small;
+    controls_.hsbGraphScroll.Value = value;
+  }
+  plot_.blnIgnoreScroll = false;
+  UpdateScrollCommands();
+}
+
+void Scrolling::Disable() {
+  controls_.hsbGraphScroll.Enabled = false;
+  controls_.hsbGraphScrollLarge.Enabled = false;
+  for (MenuItem* item : {&controls_.mnuViewScrollLeft, &controls_.mnuViewScrollRight, &controls_.mnuViewPageLeft,
+                         &controls_.mnuViewPageRight, &controls_.mnuViewStart, &controls_.mnuViewFinish})
+    item->Enabled = false;
+}
+
+Scrolling::Bar Scrolling::Read() const {
+  if (plot_.blnLongScroll)
+    return {objGraphScrollLarge_.Min(), objGraphScrollLarge_.Max(), objGraphScrollLarge_.SmallChange,
+            objGraphScrollLarge_.LargeChange, objGraphScrollLarge_.value()};
+  const ScrollBar& bar = controls_.hsbGraphScroll;
+  return {bar.Min, bar.Max, bar.SmallChange, bar.LargeChange, bar.Value};
+}
+
+void Scrolling::MoveTo(std::int64_t value) {
+  const auto wanted = static_cast<std::int32_t>(value);
+  if (wanted == Read().value) return;
+  if (plot_.blnLongScroll)
+    objGraphScrollLarge_.value(wanted);
+  else
+    controls_.hsbGraphScroll.Value = wanted;
+}
+
+void Scrolling::Moved() {
+  if (plot_.blnIgnoreScroll || !log_.gblnSamplesLoaded) return;
+  const std::int32_t width = plot_.Width();
+  const std::int32_t half = RoundToLong(width / 2.0);
+  const std::int32_t middle = Read().value;
+  range_.SetFrom(log_.Sample(middle - half > 0 ? middle - half : 0));
+  range_.SetTo(log_.Sample(middle + half <= log_.glngLastSample ? middle + half : log_.glngLastSample));
+  if (range_.From() < log_.glngFirstSampleTime) {
+    range_.SetFromToFirst();
+    range_.SetTo(range_.From() + width);
+  }
+  if (range_.To() > log_.glngLastSampleTime) {
+    range_.SetToToLast();
+    range_.SetFrom(range_.To() - width);
+  }
+  if (plot_.lngHighlightSample < range_.From() || plot_.lngHighlightSample > range_.To()) plot_.lngHighlightSample = 0;
+  mainWindow_.DrawSampleGraph();
+  UpdateScrollCommands();
+}
+
+void Scrolling::UpdateScrollCommands() {
+  const Bar bar = Read();
+  for (MenuItem* item : {&controls_.mnuViewScrollLeft, &controls_.mnuViewPageLeft, &controls_.mnuViewStart})
+    item->Enabled = bar.value != bar.min;
+  for (MenuItem* item : {&controls_.mnuViewScrollRight, &controls_.mnuViewPageRight, &controls_.mnuViewFinish})
+    item->Enabled = bar.value != bar.max;
+}
+
+void Scrolling::ScrollStart() { MoveTo(Read().min); }
+void Scrolling::ScrollFinish() { MoveTo(Read().max); }
+
+void Scrolling::PageLeft() {
+  const Bar bar = Read();
+  MoveTo(std::max<std::int64_t>(std::int64_t{bar.value} - bar.large, bar.min));
+}
+
+void Scrolling::PageRight() {
+  const Bar bar = Read();
+  MoveTo(std::min<std::int64_t>(std::int64_t{bar.value} + bar.large, bar.max));
+}
+
+void Scrolling::ScrollLeft() { ScrollOneStep(-1); }
+void Scrolling::ScrollRight() { ScrollOneStep(1); }
+
+void Scrolling::ScrollOneStep(int direction) {
+  const Bar bar = Read();
+  if (direction < 0)
+    MoveTo(std::max<std::int64_t>(std::int64_t{bar.value} - bar.small, bar.min));
+  else
+    MoveTo(std::min<std::int64_t>(std::int64_t{bar.value} + bar.small, bar.max));
+}
+
+}  // namespace tarnview

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "model/OpenLog.h"
+#include "samplegraph/CLongScroll.h"
+#include "samplegraph/PlotRange.h"
+#include "samplegraph/PlotState.h"
+#include "ui/MenuItem.h"
+#include "ui/ScrollBar.h"
+
+namespace tarnview {
+
+/// From so many rows on (by the last store index) the long scroll bar serves.
+inline constexpr std::int32_t kLongScrollFrom = 32701;
+
+/// Moves the plot range along the log. The thumb of the bar is the middle of the range, as a store index.
+class Scrolling {
+ public:
+  struct Controls {
+    ScrollBar& hsbGraphScroll;
+    ScrollBar& hsbGraphScrollLarge;
+    MenuItem& mnuViewScrollLeft;
+    MenuItem& mnuViewScrollRight;
+    MenuItem& mnuViewPageLeft;
+    MenuItem& mnuViewPageRight;
+    MenuItem& mnuViewStart;
+    MenuItem& mnuViewFinish;
+  };
+  /// What it needs of the main window.
+  struct MainWindow {
+    virtual ~MainWindow() = default;
+    virtual void DrawSampleGraph() = 0;
+  };
+  Scrolling(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, MainWindow& mainWindow);
+
+  /// A new log: which bar serves, and both at rest.
+  void TakeLog();
+  void LocateSampleOnGraph();
+  /// After a draw: limits, steps and thumb from the range.
+  void SetUp();
+  void Disable();
+
+  void ScrollStart();
+  void ScrollFinish();
+  void PageLeft();
+  void PageRight();
+  void ScrollLeft();
+  void ScrollRight();
+  /// One small step, or to the end: -1 left, 1 right.
+  void ScrollOneStep(int direction);
+
+ private:
+  /// The bar in use, long or plain.
+  struct Bar {
+    std::int32_t min, max, small, large, value;
+  };
+  Bar Read() const;
+  void MoveTo(std::int64_t value);
+  void Moved();
+  void UpdateScrollCommands();
+
+  Controls controls_;
+  PlotState& plot_;
+  PlotRange& range_;
+  const OpenLog& log_;
+  MainWindow& mainWindow_;
+  CLongScroll objGraphScrollLarge_;
+};
+
+}  // namespace tarnview

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "ui/Form.h"
+#include "ui/ProgressBar.h"
+#include "ui/StatusBar.h"
+
+namespace tarnview {
+
+/// The foot of the main window: what is going on (panel 1), how far it is (panel 2), what is loaded (panel 3).
+class StatusArea {
+ public:
+  StatusArea(Form& window, StatusBar& bar, ProgressBar& progress) : window_(window), bar_(bar), progress_(progress) {
+    progress_.Visible = false;
+  }
+
+  void Say(std::string text) { bar_.SetPanel(1, std::move(text)); }
+  void SayLoaded(std::string text) { bar_.SetPanel(3, std::move(text)); }
+
+  /// The bar lies over panel 2 while something runs.
+  void ShowProgressInStatusBar(long max) {
+    progress_.Max = max;
+    progress_.Value = 0L;
+    progress_.Visible = true;
+    window_.Refresh();
+  }
+  void Progress(std::string text, long value) {
+    Say(std::move(text));
+    progress_.Value = value;
+    window_.Refresh();
+  }
+  void ProgressFull() { progress_.Value = progress_.Max(); }
+  void HideProgress() { progress_.Visible = false; }
+
+ private:
+  Form& window_;
+  StatusBar& bar_;
+  ProgressBar& progress_;
+};
+
+}  // namespace tarnview

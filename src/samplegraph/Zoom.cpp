@@ -1,0 +1,92 @@
+#include "samplegraph/Zoom.h"
+
+#include <algorithm>
+
+#include "base/Numbers.h"
+#include "samplegraph/GraphScale.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kRangeShortened = 1;
+constexpr std::int32_t kLeastAmount = 2;
+constexpr std::int32_t kGreatestAmount = 100;
+
+}  // namespace
+
+Zoom::Zoom(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, Messages& messages,
+           MainWindow& mainWindow)
+    : controls_(controls), plot_(plot), range_(range), log_(log), messages_(messages), mainWindow_(mainWindow) {
+  controls_.cboZoomAmount.LostFocus = [this] { LeaveAmount(); };
+}
+
+std::int32_t Zoom::Amount() const {
+  const std::int32_t amount = StringToLong(controls_.cboZoomAmount.Text());
+  return amount < kLeastAmount || amount > kGreatestAmount ? kLeastAmount : amount;
+}
+
+void Zoom::LeaveAmount() { SetAmount(Amount()); }
+void Zoom::SetAmount(int amount) { controls_.cboZoomAmount.Text = std::to_string(amount); }
+
+std::int32_t Zoom::Centre() const {
+  // The selected point's own number, one row further on than its sample: kept as it is.
+  const std::int32_t index = plot_.lngSelectedPoint > 0
+                                 ? plot_.lngSelectedPoint * plot_.intThinStep + plot_.lngPlotFirstIndex
+                                 : RoundToLong(plot_.lngPlotFirstIndex + plot_.Width() / 2.0);
+  return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
+}
+
+void Zoom::cmdZoomIn_Click() {
+  const std::int64_t centre = Centre();
+  const std::int64_t half = RoundToLong(plot_.Width() / (2.0 * Amount()));
+  range_.SetFrom(centre - half);
+  range_.SetTo(centre + half);
+  if (plot_.lngSelectedPoint > 0) {
+    ClampToLog();
+    plot_.lngSelectedPoint = 0;
+  }
+  range_.EnsureMinimumPlotRange();
+  mainWindow_.DrawSampleGraph();
+}
+
+void Zoom::cmdZoomOut_Click() {
+  const std::int64_t centre = Centre();
+  const std::int64_t half = std::int64_t{RoundToLong(plot_.Width() / 2.0)} * Amount();
+  range_.SetFrom(centre - half);
+  range_.SetTo(centre + half);
+  ClampToLog();
+  ShortenForFullGraph();
+  mainWindow_.DrawSampleGraph();
+}
+
+void Zoom::cmdZoomFull_Click() {
+  range_.SetFromToFirst();
+  range_.SetToToLast();
+  ShortenForFullGraph();
+  mainWindow_.DrawSampleGraph();
+}
+
+void Zoom::ClampToLog() {
+  if (range_.From() < log_.glngFirstSampleTime) range_.SetFromToFirst();
+  if (range_.To() > log_.glngLastSampleTime) range_.SetToToLast();
+}
+
+void Zoom::ShortenForFullGraph() {
+  if (controls_.chkQuickGraph.Value || range_.Span() <= kWidestFullRange) return;
+  messages_.ShowMessage(kRangeShortened);
+  const std::int64_t inward = RoundToLong(static_cast<double>(range_.Span() - kWidestFullRange) / 2);
+  range_.SetTo(range_.To() - inward);
+  range_.SetFrom(range_.From() + inward);
+}
+
+void Zoom::ShowPreviousGraph() {
+  if (plot_.strPlotFromHistory[1].empty() || plot_.strPlotToHistory[1].empty()) return;
+  plot_.lngHighlightSample = 0;
+  const std::string from = plot_.strPlotFromHistory[1];
+  const std::string to = plot_.strPlotToHistory[1];
+  range_.SetFrom(StringToLong(from));
+  range_.SetTo(StringToLong(to));
+  mainWindow_.DrawGraphChecked();
+}
+
+}  // namespace tarnview

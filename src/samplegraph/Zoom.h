@@ -1,0 +1,50 @@
+#pragma once
+
+#include "base/Messages.h"
+#include "model/OpenLog.h"
+#include "samplegraph/PlotRange.h"
+#include "samplegraph/PlotState.h"
+#include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
+
+namespace tarnview {
+
+/// Widens and narrows the plot range about the selected point, and goes back to the range before.
+class Zoom {
+ public:
+  struct Controls {
+    ComboBox& cboZoomAmount;
+    CheckBox& chkQuickGraph;
+  };
+  /// What it needs of the main window.
+  struct MainWindow {
+    virtual ~MainWindow() = default;
+    virtual void DrawSampleGraph() = 0;
+    virtual void DrawGraphChecked() = 0;
+  };
+  Zoom(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, Messages& messages,
+       MainWindow& mainWindow);
+
+  void cmdZoomIn_Click();
+  void cmdZoomOut_Click();
+  void cmdZoomFull_Click();
+  /// A zoom menu's entry: its amount first goes into the box.
+  void SetAmount(int amount);
+  void ShowPreviousGraph();
+
+ private:
+  std::int32_t Amount() const;
+  std::int32_t Centre() const;
+  void ClampToLog();
+  void ShortenForFullGraph();
+  void LeaveAmount();
+
+  Controls controls_;
+  PlotState& plot_;
+  PlotRange& range_;
+  const OpenLog& log_;
+  Messages& messages_;
+  MainWindow& mainWindow_;
+};
+
+}  // namespace tarnview
