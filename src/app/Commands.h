@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "base/ErrorLog.h"
+#include "ui/CommandButton.h"
+#include "ui/MenuItem.h"
+
+namespace tarnview {
+
+/// One command of a window: the control that starts it, what it does, and when it may run.
+struct Command {
+  Control* control;
+  const char* procedure;         ///< for the error log
+  std::function<void()> run;     ///< empty: not there yet, the control stays disabled
+  std::function<bool()> mayRun;  ///< empty: always
+};
+
+/// The commands of a window as one list. Handlers end errors in the error log; enabled states are worked out in one
+/// place.
+class Commands {
+ public:
+  Commands(ErrorLog& errors, const char* module) : errors_(errors), module_(module) {}
+
+  /// Ties each control to its row.
+  void Bind(std::vector<Command> rows);
+  /// Asks each row whether it may run now.
+  void Update();
+
+ private:
+  ErrorLog& errors_;
+  const char* module_;
+  std::vector<Command> rows_;
+};
+
+}  // namespace tarnview

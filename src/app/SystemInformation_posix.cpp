@@ -1,0 +1,7 @@
+#include "app/SystemInformation.h"
+
+namespace tarnview {
+
+std::string SystemInformationTool() { return ""; }
+
+}  // namespace tarnview

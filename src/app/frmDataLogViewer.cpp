@@ -1,0 +1,142 @@
+#include "app/frmDataLogViewer.h"
+
+#include "app/CommandLine.h"
+#include "app/SystemInformation.h"
+#include "app/frmAbout.h"
+#include "model/ConversionFiles.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kFileNotLoaded = 15;
+
+}  // namespace
+
+frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services)
+    : MainWindowControls(services.host),
+      globals_(globals),
+      services_(services),
+      log_(globals.log),
+      details_({lvwSampleDetails, chkShowCheckedOnly, chSampleGraph}, plot_, log_, globals.kinds.gcolLogFamilies),
+      graph_(*this, {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture}, range_,
+             plot_, log_, globals.settings, status_, services.messages, *this),
+      highlight_({chSampleGraph, cmdDataPointLeft, cmdDataPointRight}, plot_, range_, log_, details_, status_, *this),
+      scrolling_({hsbGraphScroll, hsbGraphScrollLarge, mnuViewScrollLeft, mnuViewScrollRight, mnuViewPageLeft,
+                  mnuViewPageRight, mnuViewStart, mnuViewFinish},
+                 plot_, range_, log_, *this),
+      zoom_({cboZoomAmount, chkQuickGraph}, plot_, range_, log_, services.messages, *this),
+      tags_(services.host, log_.gcolLogTags, *this),
+      commands_(services.errors, "frmDataLogViewer") {
+  DefaultButton = &cmdDrawGraph;
+  SetUpZoomMenus();
+  BindCommands();
+  services_.messages.ShowNonModal = [this](int id, const std::string& text) { ShowNonModal(id, text); };
+}
+
+void frmDataLogViewer::Form_Load() {
+  const Settings& settings = globals_.settings;
+  cboZoomAmount.Text = std::to_string(settings.gintZoomAmount);
+  chkQuickGraph.Value = settings.gblnQuickGraph;
+  txtYMax.Text = std::to_string(settings.gintGraphYMax);
+  txtYMax.Enabled = updYMax.Enabled = false;
+  chkFixY.Value = settings.gblnFixGraphMax;
+  mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
+  for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
+    const auto [fileType, path] = RecentFiles::ParseTag(*entry);
+    const int known =
+        fileType == 0 ? globals_.kinds.gcolFileTypes.GuessFileType(path, settings.gintDefaultFileType) : fileType;
+    recent_.AddRecentlyUsedFile(path, known);
+  }
+  const bool universal = settings.gintDefaultFileType == kUniversalLog;
+  const auto& items = universal ? globals_.catalogue.gcolUniversalDataItems : globals_.catalogue.gcolFixedDataItems;
+  details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType, items);
+  details_.SetCheckedItems(settings.gcolCheckedDataItems);
+  chkShowCheckedOnly.Value = settings.gblnShowCheckedOnly;
+  HideForLoad();
+}
+
+void frmDataLogViewer::Form_Activate() {
+  if (!globals_.gblnStarting) return;
+  LoadConversionFiles();
+  globals_.gblnStarting = false;
+}
+
+void frmDataLogViewer::LoadConversionFiles() {
+  ConversionFiles files(services_.files, services_.messages, services_.errors);
+  files.LoadAuxInputConvFile(globals_.tables, globals_.settings.gstrAuxInputConversionFile);
+  files.LoadO2ConvFile(globals_.tables, globals_.settings.gstrO2InputConversionFile);
+}
+
+void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
+  const CommandLineFile file = ParseCommandLine(commandLine);
+  if (file.path.empty()) return;
+  const clsFileTypes& types = globals_.kinds.gcolFileTypes;
+  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType)
+                                     : types.GuessFileType(file.path, globals_.settings.gintDefaultFileType);
+  if (!services_.files.FileExists(file.path)) {
+    services_.messages.ShowMessage(kFileNotLoaded);
+    return;
+  }
+  if (!OpenRecentlyUsedFile(0, file.path, fileType) || !cmdDrawGraph.Enabled) return;
+  chkQuickGraph.Value = true;
+  DrawGraph();
+}
+
+bool frmDataLogViewer::DropFile(const std::string& path) {
+  if (services_.files.FolderExists(path)) return false;
+  return TrapEvent(services_.errors, "frmDataLogViewer", "DropFile", [&] {
+    if (SaveChangesPrompt()) LoadDataFile(path, kUnknownFile);
+  });
+}
+
+bool frmDataLogViewer::SaveChangesPrompt() {
+  const bool saveable = globals_.kinds.gcolFileTypes.SaveableFileType(log_.gintCurrentFileType);
+  if (!saveable || !log_.gblnZonesDirty) return true;
+  const Reply reply = services_.messages.Tell(
+      "Do you want to save the changes made to " + log_.gstrCurrentFileTitle + "?", kBoxYesNoCancel + kBoxExclamation);
+  return reply != Reply::Cancel;
+}
+
+void frmDataLogViewer::Form_Unload() {
+  nonModalMessages_.UnloadAll();
+  tags_.Unload();
+}
+
+void frmDataLogViewer::GraphDrawn() {
+  drawn_ = true;
+  commands_.Update();
+}
+
+bool frmDataLogViewer::CurrentRange(clsLogTag& tag) const {
+  const std::int64_t from = range_.From(), to = range_.To();
+  if (from >= to || from < log_.glngFirstSampleTime || to > log_.glngLastSampleTime) return false;
+  tag = {static_cast<std::int32_t>(to), static_cast<std::int32_t>(from)};
+  return true;
+}
+
+void frmDataLogViewer::ShowRange(const clsLogTag& tag) {
+  if (!log_.gblnSamplesLoaded) return;
+  range_.SetFrom(tag.FromSequence);
+  range_.SetTo(tag.ToSequence);
+  graph_.DrawGraphChecked();
+}
+
+void frmDataLogViewer::StartSysInfo() {
+  const std::string tool = SystemInformationTool();
+  if (tool.empty() || !services_.files.FileExists(tool))
+    services_.messages.Tell("System Information Is Unavailable At This Time", kBoxOk);
+  else
+    services_.programs.ShellOpen(tool);
+}
+
+void frmDataLogViewer::ShowNonModal(int id, const std::string& text) {
+  const int number = nonModalMessages_.NextNumber();
+  auto& window = nonModalMessages_.Add(
+      std::make_unique<frmNonModalMessage>(host, [this](int ID) { nonModalMessages_.Remove(ID); }));
+  window.ID = number;
+  window.MessageText(text);
+  static_cast<void>(id);
+  window.Show();
+}
+
+}  // namespace tarnview

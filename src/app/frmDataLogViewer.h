@@ -1,0 +1,109 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/Commands.h"
+#include "app/Globals.h"
+#include "app/MainWindowControls.h"
+#include "app/RecentFiles.h"
+#include "app/frmNonModalMessage.h"
+#include "samplegraph/PlotRange.h"
+#include "samplegraph/PointHighlight.h"
+#include "samplegraph/SampleDetails.h"
+#include "samplegraph/SampleGraph.h"
+#include "samplegraph/Scrolling.h"
+#include "samplegraph/StatusArea.h"
+#include "samplegraph/Zoom.h"
+#include "samplegraph/frmDataTags.h"
+#include "ui/FormCollection.h"
+
+namespace tarnview {
+
+/// The main window: it puts the parts of the Sample Graph together, opens files, and carries the menus.
+class frmDataLogViewer : public MainWindowControls,
+                         private SampleGraph::MainWindow,
+                         private PointHighlight::MainWindow,
+                         private Scrolling::MainWindow,
+                         private Zoom::MainWindow,
+                         private frmDataTags::MainWindow {
+ public:
+  frmDataLogViewer(Globals& globals, Services& services);
+
+  /// Opens a file; type 0 is guessed. False: nothing was loaded, and the user was told why.
+  bool LoadDataFile(const std::string& path, int fileType);
+  /// Opens an entry of the recent list; a `path` is entered first, on top.
+  bool OpenRecentlyUsedFile(int index, const std::string& path = "", int fileType = 0);
+  /// What a start with a file on the command line does: opens it and draws.
+  void OpenFromCommandLine(const std::string& commandLine);
+  /// False: the user does not want to lose edited zones.
+  bool SaveChangesPrompt();
+
+  void DrawGraph() { graph_.DrawGraphChecked(); }
+  void TellMessage(int id) { services_.messages.ShowMessage(id); }
+  /// The plot range, as `Sample` values; 0 with no log.
+  std::int64_t PlotFrom() const { return range_.From(); }
+  std::int64_t PlotTo() const { return range_.To(); }
+  SampleDetails& Details() { return details_; }
+  PlotState& Plot() { return plot_; }
+  const RecentFiles& Recent() const { return recent_; }
+
+  bool DropFile(const std::string& path) override;
+  void Form_Activate() override;
+
+ protected:
+  void Form_Load() override;
+  bool Form_QueryUnload() override { return SaveChangesPrompt(); }
+  void Form_Unload() override;
+  bool Form_KeyDown(const KeyPress& key) override;
+  bool Form_KeyUp(const KeyPress& key) override;
+
+ private:
+  // Opening a file.
+  void mnuFileOpen_Click();
+  bool Load(const std::string& path, int fileType);
+  void LoadConversionFiles();
+  void HideForLoad();
+  void LoadDatalogFileSuccess(int fileType);
+  void SetFirstRange();
+  void SetDataLogViewerCaption();
+  void RefreshDataTags();
+
+  // Commands.
+  std::vector<Command> FileCommands();
+  std::vector<Command> ViewCommands();
+  std::vector<Command> GraphMenuCommands();
+  void BindCommands();
+  void SetUpZoomMenus();
+  void StartSysInfo();
+  void ShowNonModal(int id, const std::string& text);
+
+  // What the parts ask for.
+  void SetUpScrollBar() override { scrolling_.SetUp(); }
+  void GraphDrawn() override;
+  void ScrollOneStep(int direction) override { scrolling_.ScrollOneStep(direction); }
+  void DrawSampleGraph() override { graph_.DrawSampleGraph(); }
+  void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
+  bool CurrentRange(clsLogTag& tag) const override;
+  void ShowRange(const clsLogTag& tag) override;
+  void ShowHelp(const char* topic) override { services_.help.ShowHelp(topic); }
+
+  Globals& globals_;
+  Services& services_;
+  OpenLog& log_;
+  PlotState plot_;
+  StatusArea status_{*this, staDataLogViewer, proProgInd};
+  PlotRange range_{{PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log_, plot_};
+  SampleDetails details_;
+  SampleGraph graph_;
+  PointHighlight highlight_;
+  Scrolling scrolling_;
+  Zoom zoom_;
+  RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
+  frmDataTags tags_;
+  FormCollection<frmNonModalMessage> nonModalMessages_;
+  Commands commands_;
+  bool drawn_ = false;  ///< a graph of the log that is open has been drawn
+};
+
+}  // namespace tarnview

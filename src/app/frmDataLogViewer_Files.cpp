@@ -1,0 +1,172 @@
+// The main window's road of one file: choosing it, loading it, what a load clears and what it sets up.
+
+#include <algorithm>
+
+#include "app/Loaders.h"
+#include "app/frmDataLogViewer.h"
+#include "base/Paths.h"
+#include "samplegraph/GraphScale.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kTooFewRecords = 12;
+constexpr int kFileNotLoaded = 15;
+constexpr int kWrongKindOfFile = 31;
+
+/// A loader's progress in the status bar.
+class StatusProgress : public LoadProgress {
+ public:
+  explicit StatusProgress(StatusArea& status) : status_(status) {}
+  void Stage(std::string_view text, long expectedRows) override {
+    status_.Say(std::string(text));
+    if (expectedRows <= 0) return;
+    expected_ = expectedRows;
+    status_.ShowProgressInStatusBar(expectedRows);
+  }
+  void Line(long line) override { status_.Progress("Loading line " + std::to_string(line), std::min(line, expected_)); }
+
+ private:
+  StatusArea& status_;
+  long expected_ = 0;
+};
+
+}  // namespace
+
+void frmDataLogViewer::mnuFileOpen_Click() {
+  if (!SaveChangesPrompt()) return;
+  const clsFileTypes& types = globals_.kinds.gcolFileTypes;
+  Dialog dialog;
+  dialog.title = "Open";
+  dialog.filter = types.CommonDialogFilter();
+  dialog.filterIndex = types.SequenceFromID(log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
+                                                                         : globals_.settings.gintDefaultFileType);
+  dialog.initialPath = log_.gstrCurrentFile.empty() ? globals_.settings.gstrInitialDirectory : log_.gstrCurrentFile;
+  dialog.path = log_.gstrCurrentFileTitle;
+  if (!host.Choose(dialog)) return;
+  host.DoEvents();
+  LoadDataFile(dialog.path, types.IDFromSequence(dialog.filterIndex));
+}
+
+bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, int fileType) {
+  if (!SaveChangesPrompt()) return false;
+  if (!path.empty()) recent_.AddRecentlyUsedFile(path, fileType);
+  if (index >= recent_.Count()) return false;
+  const RecentFiles::Entry entry = recent_.At(index);
+  bool loaded = false;
+  if (services_.files.FileExists(entry.path))
+    loaded = LoadDataFile(entry.path, entry.fileType);
+  else
+    services_.messages.ShowMessage(kFileNotLoaded);
+  recent_.Rewrite();
+  return loaded;
+}
+
+bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
+  Pointer = MousePointer::Hourglass;
+  HideForLoad();
+  if (fileType == kUnknownFile)
+    fileType = globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType);
+  log_.gstrCurrentFile = path;
+  log_.gstrCurrentFileTitle = FileTitle(path);
+  log_.gintCurrentFileType = fileType;
+  const bool loaded = Load(path, fileType);
+  status_.HideProgress();
+  if (loaded) {
+    recent_.AddRecentlyUsedFile(path, fileType);
+    LoadDatalogFileSuccess(fileType);
+    status_.Say("Loading complete");
+  } else {
+    services_.messages.ShowMessage(kTooFewRecords);
+    status_.Say("Loading failed");
+  }
+  Pointer = MousePointer::Default;
+  return loaded;
+}
+
+bool frmDataLogViewer::Load(const std::string& path, int fileType) {
+  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  const LoaderRow* loader = LoaderFor(fileType);
+  if (!loader) {
+    services_.messages.ShowMessage(kWrongKindOfFile);
+    return false;
+  }
+  const auto bytes = services_.files.Read(path);
+  if (!bytes) {
+    services_.messages.ShowMessage(kFileNotLoaded);
+    return false;
+  }
+  LoadConversionFiles();
+  StatusProgress progress(status_);
+  const LoadOutcome outcome =
+      loader->load(*bytes, {log_, globals_.catalogue.gcolFixedDataItems, globals_.settings, globals_.tables, progress});
+  for (const LoadMessage& message : outcome.messages) services_.messages.ShowMessage(message.id, false, message.extra);
+  return outcome.loaded;
+}
+
+void frmDataLogViewer::HideForLoad() {
+  drawn_ = false;
+  log_.gblnSamplesLoaded = log_.gblnZonesLoaded = log_.gblnChangesLoaded = false;
+  log_.glngFirstSampleTime = log_.glngLastSampleTime = 0;
+  log_.glngLowestAirTemp = kNoAirTemp;
+  log_.gcolLogTags.RemoveAll();
+  range_.Clear();
+  graph_.Clear();
+  scrolling_.Disable();
+  cmdDataPointLeft.Enabled = cmdDataPointRight.Enabled = false;
+  fraGraphSeriesFrame.Enabled = false;
+  Caption = std::string("Tarnview");
+  status_.SayLoaded("");
+  details_.ClearValues();
+  commands_.Update();
+  host.DoEvents();
+}
+
+void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
+  details_.SetUpSampleGraphSampleListView(fileType, *log_.gcolDataItems);
+  if (log_.gblnSamplesLoaded) {
+    log_.glngFirstSample = 0;
+    log_.glngLastSample = log_.glngDataLog.Rows() - 1;
+    log_.glngFirstSampleTime = log_.Sample(log_.glngFirstSample);
+    log_.glngLastSampleTime = log_.Sample(log_.glngLastSample);
+    range_.TakeLog();
+    SetFirstRange();
+    scrolling_.TakeLog();
+    fraGraphSeriesFrame.Enabled = true;
+  }
+  SetDataLogViewerCaption();
+  log_.gblnZonesDirty = false;
+  commands_.Update();
+  RefreshDataTags();
+}
+
+void frmDataLogViewer::SetFirstRange() {
+  const std::int32_t start = std::max(log_.glngFirstPlotSample, 0);
+  const std::int64_t width = globals_.settings.glngInitialPlotWidth;
+  const std::int64_t end = start + width;
+  range_.SetFrom(log_.Sample(start));
+  if (width < 2 || end > log_.glngLastSample)
+    range_.SetToToLast();
+  else
+    range_.SetTo(log_.Sample(static_cast<std::int32_t>(end)));
+  // One sample tighter than the check on Draw, and silent: kept on purpose.
+  if (!chkQuickGraph.Value && range_.Span() > kWidestFullRange) range_.SetTo(range_.From() + kWidestFullRange - 1);
+}
+
+void frmDataLogViewer::SetDataLogViewerCaption() {
+  const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
+  Caption = "Tarnview - " + log_.gstrCurrentFileTitle + " (" + type.GetSingularDescription() + ")";
+  status_.SayLoaded(log_.glngLastSampleTime >= 1 ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) +
+                                                       " - " + std::to_string(log_.glngLastSampleTime)
+                                                 : "");
+}
+
+void frmDataLogViewer::RefreshDataTags() {
+  if (log_.gintCurrentFileType != kFMLinkLog && log_.gintCurrentFileType != kMAPFile) return;
+  if (tags_.IsShown())
+    tags_.PopulateList(1);
+  else if (log_.gcolLogTags.Count() > 0 && globals_.settings.gblnAutoOpenDataTags)
+    tags_.Show();
+}
+
+}  // namespace tarnview

@@ -1,0 +1,148 @@
+// The main window from Draw on: range checks, what is drawn, moving and selecting.
+
+#include "support/ProgramFixture.h"
+
+namespace tarnview {
+namespace {
+
+using Ids = std::vector<int>;
+
+class DrawGraph : public ProgramFixture {
+ protected:
+  void Open(int samples) {
+    files.files["/logs/run.txt"] = SmallLog(samples, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
+    Start();
+    Main().LoadDataFile("/logs/run.txt", 0);
+    host.messages.clear();
+  }
+  void Type(const std::string& from, const std::string& to) {
+    Main().PlotRangeFrom.Text = from;
+    Main().PlotRangeTo.Text = to;
+  }
+  std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
+  std::size_t Rows() { return Main().chSampleGraph.Data().series.at(0).x.size(); }
+};
+
+TEST_F(DrawGraph, ChecksTheRangeAsItWasTyped) {
+  Open(2000);
+  Main().chkQuickGraph.Value = false;
+  const struct {
+    const char *from, *to, *drawn;
+    Ids messages;
+  } kRows[] = {
+      {"1", "1001", "1-1001", {}},       {"1", "1002", "2-1002", {1}},      {"50", "20", "19-21", {}},
+      {"5000", "20", "19-21", {}},       {"1900", "9999", "1-2000", {1}},   {"1990", "0", "1-2000", {}},
+      {"1990", "1990", "1990-1992", {}}, {"2000", "2000", "1998-2000", {}}, {"12abc", "40", "12abc-40", {}},
+  };
+  for (const auto& row : kRows) {
+    host.messages.clear();
+    Type(row.from, row.to);
+    Main().cmdDrawGraph.Press();
+    EXPECT_EQ(Range(), row.drawn) << row.from << " " << row.to;
+    EXPECT_EQ(MessageIds(), row.messages) << row.from << " " << row.to;
+  }
+}
+
+TEST_F(DrawGraph, WithNothingCheckedItSaysSoAndKeepsTheGraph) {
+  Open(50);
+  Main().cmdDrawGraph.Press();
+  const auto rows = Rows();
+  for (int row = 1; row <= Main().lvwSampleDetails.Count(); ++row) Main().lvwSampleDetails.SetChecked(row, false);
+  Main().cmdDrawGraph.Press();
+  EXPECT_EQ(MessageIds(), (Ids{10}));
+  EXPECT_EQ(Rows(), rows);
+}
+
+TEST_F(DrawGraph, AnUnchangedGraphIsNotBuiltAgain) {
+  Open(50);
+  int built = 0;
+  Main().chSampleGraph.Watch([&](What what) { built += what == What::Content; });
+  Main().cmdDrawGraph.Press();
+  Main().cmdDrawGraph.Press();
+  EXPECT_EQ(built, 1);
+  Main().chkFixY.Value = true;
+  Main().cmdDrawGraph.Press();
+  EXPECT_EQ(built, 2);
+  EXPECT_EQ(Main().chSampleGraph.Data().y.max, 240);
+  Main().PlotRangeTo.Text = "40";
+  Main().cmdDrawGraph.Press();
+  EXPECT_EQ(built, 3);
+}
+
+TEST_F(DrawGraph, AnItemThatIsNotPlottableLosesItsCheck) {
+  Open(50);
+  Main().lvwSampleDetails.Do({"tick", {"Sample", "on"}});
+  EXPECT_FALSE(Main().lvwSampleDetails.At(1).checked);
+}
+
+TEST_F(DrawGraph, HiddenRowsKeepTheirChecks) {
+  Open(50);
+  const auto checked = Main().Details().CheckedItems();
+  const int all = Main().lvwSampleDetails.Count();
+  Main().chkShowCheckedOnly.Value = true;
+  EXPECT_EQ(Main().lvwSampleDetails.Count(), static_cast<int>(checked.size()));
+  Main().lvwSampleDetails.Do({"tick", {"RPM", "off"}});
+  Main().chkShowCheckedOnly.Value = false;
+  EXPECT_EQ(Main().lvwSampleDetails.Count(), all);
+  EXPECT_EQ(Main().Details().CheckedItems().size(), checked.size() - 1);
+}
+
+TEST_F(DrawGraph, ASelectedPointShowsItsSample) {
+  Open(2000);
+  Main().cmdDrawGraph.Press();  // step 4
+  Main().chSampleGraph.SelectPoint(3, 10);
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Sample: 37, Secs: 3.031");
+  const ListView& list = Main().lvwSampleDetails;
+  EXPECT_EQ(list.At(list.RowOfTag("3")).texts[1], "1037");
+  EXPECT_EQ(list.At(1).texts[1], "37");
+  Main().Press({"Right"});
+  EXPECT_EQ(Main().Plot().lngHighlightSample, 41);
+  Main().Press({"Up", true});
+  EXPECT_EQ(Main().Plot().lngHighlightSample, 41);
+
+  // The sample stays selected when the range moves about it.
+  Type("30", "60");
+  Main().cmdDrawGraph.Press();
+  EXPECT_EQ(Main().Plot().lngHighlightSample, 41);
+  EXPECT_EQ(Main().chSampleGraph.SelectedPoint(), 12);
+}
+
+TEST_F(DrawGraph, ZoomsAboutThePointAndGoesBack) {
+  Open(2000);
+  Main().cmdDrawGraph.Press();
+  EXPECT_FALSE(Main().cmdZoomOut.Enabled());
+  Main().chSampleGraph.SelectPoint(1, 251);  // store row 1000
+  Main().cmdZoomIn.Press();
+  EXPECT_EQ(Range(), "505-1505");  // the point's own number: one row further on
+  EXPECT_TRUE(Main().cmdZoomOut.Enabled());
+  Main().mnuViewPrevious.Click();
+  EXPECT_EQ(Range(), "1-2000");
+  Main().mnuViewPrevious.Click();
+  EXPECT_EQ(Range(), "505-1505");
+  Main().mnuViewZoomInAmount(10).Click();
+  EXPECT_EQ(Main().cboZoomAmount.Text(), "10");
+  Main().cmdZoomFull.Press();
+  EXPECT_EQ(Range(), "1-2000");
+}
+
+TEST_F(DrawGraph, ScrollsAlongTheLog) {
+  Open(2000);
+  Type("501", "601");
+  Main().cmdDrawGraph.Press();
+  EXPECT_EQ(Main().hsbGraphScroll.LargeChange(), 100);
+  EXPECT_EQ(Main().hsbGraphScroll.SmallChange(), 10);
+  EXPECT_EQ(Main().hsbGraphScroll.Value(), 550);
+  Main().mnuViewPageRight.Click();
+  EXPECT_EQ(Range(), "601-701");
+  Main().Press({"Left", false, false, true});
+  EXPECT_EQ(Range(), "591-691");
+  Main().mnuViewFinish.Click();
+  EXPECT_EQ(Range(), "1900-2000");
+  EXPECT_FALSE(Main().mnuViewPageRight.Enabled());
+  EXPECT_TRUE(Main().mnuViewPageLeft.Enabled());
+  Main().Press({"Home", false, true});
+  EXPECT_EQ(Range(), "1-101");
+}
+
+}  // namespace
+}  // namespace tarnview

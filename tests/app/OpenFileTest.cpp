@@ -1,0 +1,134 @@
+// The road of one file in the main window: choosing, loading, what a load clears and sets up.
+
+#include "support/ProgramFixture.h"
+
+namespace tarnview {
+namespace {
+
+using OpenFile = ProgramFixture;
+using Ids = std::vector<int>;
+
+TEST_F(OpenFile, ALogOnTheCommandLineIsLoadedAndDrawn) {
+  files.files["/logs/run.txt"] = SmallLog(40);
+  Start("\"/logs/run.txt\"");
+  EXPECT_EQ(MessageIds(), (Ids{16}));
+  EXPECT_EQ(Main().Caption(), "Tarnview - run.txt (FM Link Data Log)");
+  EXPECT_EQ(Main().staDataLogViewer.Panel(3), "Sample Load Range 1 - 40");
+  EXPECT_TRUE(Main().chSampleGraph.Visible());
+  EXPECT_FALSE(Main().fraPicture.Visible());
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Sample: 20, Secs: 1.638");
+  EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/run.txt");
+}
+
+TEST_F(OpenFile, WhatDoesNotLoadIsToldAndLeavesNoLog) {
+  files.files["/logs/two.txt"] = SmallLog(2);
+  files.files["/logs/empty.txt"] = "";
+  files.files["/logs/other.txt"] = "RPM;MAP\r\n";
+  files.files["/logs/locked.txt"] = "Sample";
+  files.files["/logs/good.txt"] = SmallLog(3);
+  files.broken.insert("/logs/locked.txt");
+  Start();
+  const struct {
+    const char* path;
+    int type;
+    Ids messages;
+  } kRows[] = {
+      {"/logs/two.txt", 0, {16, 12}},    {"/logs/empty.txt", 1, {52, 12}}, {"/logs/other.txt", 0, {52, 12}},
+      {"/logs/locked.txt", 0, {15, 12}}, {"/logs/none.txt", 0, {15, 12}},  {"/logs/other.txt", 99, {31, 12}},
+  };
+  for (const auto& row : kRows) {
+    ASSERT_TRUE(Main().LoadDataFile("/logs/good.txt", 0));
+    host.messages.clear();
+    EXPECT_FALSE(Main().LoadDataFile(row.path, row.type)) << row.path;
+    EXPECT_EQ(MessageIds(), row.messages) << row.path;
+    EXPECT_EQ(Main().Caption(), "Tarnview");
+    EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Loading failed");
+    EXPECT_FALSE(Main().cmdDrawGraph.Enabled());
+    EXPECT_FALSE(Main().fraGraphSeriesFrame.Enabled());
+    EXPECT_EQ(Main().PlotRangeFrom.Text(), "");
+  }
+  EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/good.txt");
+}
+
+TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
+  files.files["/logs/run.dat"] = SmallLog(5);
+  Start();
+  host.answers.push_back({Answer::Kind::File, "/logs/run.dat", 0, 1});
+  Main().mnuFileOpen.Click();
+  EXPECT_EQ(Log().gintCurrentFileType, 1);
+  EXPECT_TRUE(Log().gblnSamplesLoaded);
+  Main().mnuFileOpen.Click();  // Cancel
+  EXPECT_TRUE(Log().gblnSamplesLoaded);
+}
+
+TEST_F(OpenFile, AMissingRecentFileIsToldAndStays) {
+  files.files["/logs/run.txt"] = SmallLog(5);
+  Start("/logs/run.txt");
+  files.files.clear();
+  host.messages.clear();
+  Main().mnuRecentlyUsed(0).Click();
+  EXPECT_EQ(MessageIds(), (Ids{15}));
+  EXPECT_TRUE(Main().mnuRecentlyUsed(0).Visible());
+  EXPECT_TRUE(Log().gblnSamplesLoaded);
+}
+
+TEST_F(OpenFile, TheFirstRangeFollowsWarmthAndWidth) {
+  const std::string cold = SmallLog(64);
+  std::string warming = cold;
+  // The first summary, behind sample 16, is still cold.
+  warming.replace(warming.find("     80 AT"), 10, "      5 AT");
+  files.files["/logs/run.txt"] = warming;
+  const struct {
+    const char* settings;
+    const char *from, *to;
+  } kRows[] = {
+      {"[General]\nPlot From Temperature=50\n", "27", "64"},
+      {"[General]\nPlot From Temperature=99\n", "1", "64"},
+      {"[General]\nPlot From Temperature=50\nInitial Plot Width=20\n", "27", "47"},
+      {"[General]\nPlot From Temperature=50\nInitial Plot Width=38\n", "27", "64"},
+      {"[General]\nPlot From Temperature=99\nInitial Plot Width=20\n", "1", "21"},
+      {"[General]\nInitial Plot Width=1\n", "1", "64"},
+  };
+  for (const auto& row : kRows) {
+    Start("", row.settings);
+    ASSERT_TRUE(Main().LoadDataFile("/logs/run.txt", 0));
+    EXPECT_EQ(Main().PlotRangeFrom.Text(), row.from) << row.settings;
+    EXPECT_EQ(Main().PlotRangeTo.Text(), row.to) << row.settings;
+  }
+}
+
+TEST_F(OpenFile, WithoutQuickGraphALongLogIsShortenedInSilence) {
+  files.files["/logs/run.txt"] = SmallLog(1500);
+  Start();
+  Main().chkQuickGraph.Value = false;
+  Main().LoadDataFile("/logs/run.txt", 0);
+  EXPECT_EQ(Main().PlotRangeTo.Text(), "1000");
+  EXPECT_EQ(MessageIds(), (Ids{16}));
+}
+
+TEST_F(OpenFile, TheLongScrollBarServesFromTheLastIndex32701) {
+  Start();
+  for (const auto& [rows, isLong] : {std::pair{32701, false}, {32702, true}}) {
+    files.files["/logs/run.txt"] = SmallLog(rows);
+    Main().LoadDataFile("/logs/run.txt", 0);
+    EXPECT_EQ(Main().hsbGraphScrollLarge.Visible(), isLong) << rows;
+    EXPECT_EQ(Main().hsbGraphScroll.Visible(), !isLong) << rows;
+  }
+}
+
+TEST_F(OpenFile, EditedZonesAreProtected) {
+  files.files["/logs/run.txt"] = SmallLog(5);
+  Start("/logs/run.txt");
+  program->Global().log.gblnZonesDirty = true;
+  host.messages.clear();
+  host.answers.push_back({Answer::Kind::Cancel, "", 0, 0});
+  Main().mnuFileOpen.Click();
+  ASSERT_EQ(host.messages.size(), 1u);
+  EXPECT_EQ(host.messages[0].text, "Do you want to save the changes made to run.txt?");
+  EXPECT_EQ(host.messages[0].style, 51);
+  host.answers.push_back({Answer::Kind::Cancel, "", 0, 0});
+  EXPECT_FALSE(Main().Unload());
+}
+
+}  // namespace
+}  // namespace tarnview
