@@ -1,0 +1,52 @@
+#include <cstdio>
+#include <iostream>
+#include <iterator>
+#include <memory>
+
+#include "base/Text.h"
+#include "cli/Commands.h"
+#include "cli/Driver.h"
+#include "cli/Json.h"
+
+namespace tarnview {
+namespace {
+
+struct DriveOptions {
+  std::string script;
+  std::string settings;
+};
+
+int Drive(const DriveOptions& options) {
+  std::string text;
+  if (options.script == "-") {
+    text.assign(std::istreambuf_iterator<char>(std::cin), {});
+  } else if (auto bytes = RealFileSystem().Read(options.script)) {
+    text = std::move(*bytes);
+  } else {
+    std::fprintf(stderr, "tarnview-cli: cannot read %s\n", options.script.c_str());
+    return kWrongCommandLine;
+  }
+  try {
+    Driver(ParseScript(text), options.settings).Run();
+  } catch (const ScriptError& error) {
+    const Json out{{"error", ToUtf8(error.what())}, {"line", error.line}};
+    std::fprintf(stderr, "%s\n", out.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+    return kFailed;
+  }
+  return kDone;
+}
+
+}  // namespace
+
+void AddDriveCommand(CLI::App& program, int& status) {
+  CLI::App* command = program.add_subcommand("drive", "Works the windows by their controls' names, from a script");
+  command->footer(
+      "Example:\n  printf 'open run.txt\\nclick frmDataLogViewer/cmdDrawGraph\\n"
+      "chart frmDataLogViewer/chSampleGraph\\n' | tarnview-cli drive -");
+  auto options = std::make_shared<DriveOptions>();
+  command->add_option("SCRIPT", options->script, "The script, or - for standard input")->required();
+  command->add_option("--settings", options->settings, "Start with this Tarnview.ini")->check(CLI::ExistingFile);
+  command->callback([options, &status] { status = Drive(*options); });
+}
+
+}  // namespace tarnview

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/Program.h"
+#include "cli/ConsoleHost.h"
+#include "cli/Script.h"
+
+namespace tarnview {
+
+/// Outside programs of a script: run for real and remembered; documents are remembered only.
+class ScriptProcesses : public RealProcesses {
+ public:
+  List commands;
+  int Run(const std::string& command) override;
+  int Open(const std::string& path) override;
+};
+
+/// Works the windows by their controls' names. It knows controls and not windows: what an action does to a control is
+/// the control's own affair.
+class Driver : private ConsoleHost {
+ public:
+  Driver(std::vector<ScriptLine> script, const std::string& settingsFile);
+
+  /// Runs the script to its end; throws ScriptError for a line that cannot be done.
+  void Run();
+
+ private:
+  using Words = std::vector<std::string>;
+  struct Verb {
+    const char* name;
+    void (Driver::*run)(const Words& words);
+  };
+  static const std::vector<Verb>& Verbs();
+
+  void RunModal(Form& form) override;
+  void Step();
+  void DoLine(const ScriptLine& line);
+  void WorkControl(const std::string& verb, const Words& words);
+
+  void OpenLogFile(const Words& words);
+  void PressKey(const Words& words);
+  void QueueAnswer(const Words& words);
+  void Close(const Words& words);
+  void ShowFacts(const Words& words);
+  void ShowChart(const Words& words);
+  void ShowBoxes(const Words& words);
+  void ShowRuns(const Words& words);
+  void Popup(const Words& words);
+
+  Form& Active();
+  Form* FindWindow(const std::string& name);
+  Control& FindControl(const std::string& name);
+
+  std::vector<ScriptLine> script_;
+  std::size_t next_ = 0;
+  RealFileSystem files_;
+  RealClock clock_;
+  ScriptProcesses processes_;
+  Program program_;
+};
+
+}  // namespace tarnview

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/Program.h"
+#include "cli/ConsoleHost.h"
+
+namespace tarnview {
+
+/// The options of every command that opens a log.
+struct LogOptions {
+  std::string log;
+  std::optional<int> fileType;
+  std::string settings;
+  std::optional<std::string> from, to;
+  std::string items;
+
+  void AddTo(CLI::App& command);
+};
+
+/// The program with one log opened in it, as the main window opens it.
+class LogSession {
+ public:
+  explicit LogSession(const LogOptions& options);
+
+  /// Opens the log; false if nothing was loaded.
+  bool Open();
+  /// Types the range into the boxes and leaves them.
+  void EnterRange();
+
+  /// The item numbers of --items; every item for "all" and, with `allByDefault`, without the option.
+  std::vector<int> Items(bool allByDefault) const;
+  bool HasRange() const { return options_.from || options_.to; }
+
+  frmDataLogViewer& Window() { return program_.MainWindow(); }
+  Globals& Global() { return program_.Global(); }
+  const OpenLog& Log() { return program_.Global().log; }
+  ConsoleHost& Host() { return host_; }
+
+ private:
+  LogOptions options_;
+  ConsoleHost host_;
+  RealFileSystem files_;
+  RealClock clock_;
+  RealProcesses processes_;
+  Program program_;
+};
+
+}  // namespace tarnview

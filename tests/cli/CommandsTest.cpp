@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "cli/Commands.h"
+
+namespace tarnview {
+namespace {
+
+using Json = nlohmann::json;
+
+struct Ran {
+  int status;
+  std::string out, err;
+};
+
+Ran RunCli(std::vector<std::string> words) {
+  std::vector<const char*> arguments{"tarnview-cli"};
+  for (const auto& word : words) arguments.push_back(word.c_str());
+  ::testing::internal::CaptureStdout();
+  ::testing::internal::CaptureStderr();
+  const int status = RunCommandLine(static_cast<int>(arguments.size()), arguments.data());
+  const std::string out = ::testing::internal::GetCapturedStdout();
+  return {status, out, ::testing::internal::GetCapturedStderr()};
+}
+
+std::string Example(const char* name) { return std::string(TARNVIEW_EXAMPLES) + "/" + name; }
+
+TEST(CommandLineProgram, LoadTellsWhatALogHolds) {
+  const Ran ran = RunCli({"load", Example("turbo.txt")});
+  EXPECT_EQ(ran.status, kDone);
+  const Json told = Json::parse(ran.out);
+  EXPECT_EQ(told["title"], "Tarnview - turbo.txt (FM Link Data Log)");
+  EXPECT_EQ(told["engine_size"], 1.8);
+  EXPECT_EQ(told["normally_aspirated"], false);
+  EXPECT_EQ(told["zones"].size(), 256u);
+  EXPECT_EQ(told["changes"].size(), 2u);
+  EXPECT_EQ(told["changes"][1], told["zones"]);
+}
+
+TEST(CommandLineProgram, AFailedLoadTellsWhy) {
+  const Ran ran = RunCli({"load", Example("none.txt")});
+  EXPECT_EQ(ran.status, kFailed);
+  const Json told = Json::parse(ran.out);
+  EXPECT_EQ(told["ok"], false);
+  EXPECT_EQ(told["messages"], (Json{{{"id", 15}, {"text", "File could not be loaded."}, {"style", 64}}}));
+  EXPECT_EQ(ran.err, "message 15: File could not be loaded.\n");
+  EXPECT_EQ(RunCli({"table", Example("none.txt")}).status, kFailed);
+}
+
+TEST(CommandLineProgram, TablePrintsARangeOfItems) {
+  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63,1,999", "--from", "2", "--to", "4"}).out,
+            "Sample,Secs\n2,0.164\n3,0.246\n4,0.328\n");
+  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63", "--raw", "--to", "1"}).out, "Secs\n819\n");
+}
+
+TEST(CommandLineProgram, GraphTellsWhatTheChartReceives) {
+  const Ran ran = RunCli({"graph", Example("na.txt"), "--items", "1,3,47,20", "--json", "--from", "100", "--to", "1600",
+                          "--fix-max", "33"});
+  EXPECT_EQ(ran.status, kDone);
+  const Json told = Json::parse(ran.out);
+  EXPECT_EQ(told["from"], 100);
+  EXPECT_EQ(told["thin_step"], 3);
+  EXPECT_EQ(told["rows"], told["series"][0]["x"].size());
+  ASSERT_EQ(told["series"].size(), 2u);  // "Sample" cannot be plotted, item 47 is no item of this log
+  EXPECT_EQ(told["series"][0]["item"], 20);
+  EXPECT_EQ(told["series"][1], Json({{"item", 3},
+                                     {"name", "RPM"},
+                                     {"colour", 0x408000},
+                                     {"style", 1},
+                                     {"width", 3},
+                                     {"x", told["series"][1]["x"]},
+                                     {"y", told["series"][1]["y"]}}));
+  EXPECT_EQ(told["y_axis"], Json({{"max", 35}, {"divisions", 7}}));
+  EXPECT_EQ(told["messages"], Json::array());
+}
+
+TEST(CommandLineProgram, AWrongCommandLineSaysSo) {
+  const std::vector<std::vector<std::string>> kRows{{},
+                                                    {"fly"},
+                                                    {"load"},
+                                                    {"load", "a", "--type", "9"},
+                                                    {"graph", "a"},
+                                                    {"graph", "a", "--out", "a.bmp"},
+                                                    {"graph", "a", "--out", "a.png", "--size", "1x1"},
+                                                    {"drive", "no-such-script"}};
+  for (const auto& words : kRows) {
+    const Ran ran = RunCli(words);
+    EXPECT_EQ(ran.status, kWrongCommandLine) << (words.empty() ? "" : words[0]);
+    EXPECT_NE(ran.err, "");
+  }
+  EXPECT_EQ(RunCli({"load", "--help"}).status, kDone);
+}
+
+}  // namespace
+}  // namespace tarnview
