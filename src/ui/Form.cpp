@@ -18,7 +18,10 @@ Form::Form(Host& itsHost, std::string itsName, std::string caption)
         if (Watcher) Watcher();
       }) {}
 
-Form::~Form() = default;
+// One that was never unloaded must not stay with the host.
+Form::~Form() {
+  if (shown_) host.Hide(*this);
+}
 
 Control* Form::Find(std::string_view wanted, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
