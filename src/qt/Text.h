@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <string>
+
+namespace tarnview {
+
+/// The program's texts (Windows-1252 bytes) as the toolkit's, and back.
+QString ToQt(const std::string& text);
+std::string FromQt(const QString& text);
+
+/// Paths are the platform's bytes.
+QString PathToQt(const std::string& path);
+std::string PathFromQt(const QString& path);
+
+/// 0xBBGGRR as a colour of the toolkit, and back.
+QColor ColourToQt(long colour);
+long ColourFromQt(const QColor& colour);
+
+}  // namespace tarnview

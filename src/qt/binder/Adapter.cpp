@@ -1,0 +1,64 @@
+#include "qt/binder/Adapter.h"
+
+#include <QAction>
+#include <QVariant>
+#include <QWidget>
+#include <array>
+
+#include "qt/Text.h"
+#include "qt/binder/Binder.h"
+#include "ui/Form.h"
+
+namespace tarnview {
+namespace {
+
+constexpr unsigned Bit(What what) { return 1u << static_cast<unsigned>(what); }
+
+template <class View>
+void ShowCommonState(View& view, const Control& control) {
+  view.setEnabled(control.Enabled);
+  if (!control.ToolTip->empty()) view.setToolTip(ToQt(control.ToolTip));
+  view.setVisible(control.Visible);
+}
+
+}  // namespace
+
+Adapter::Adapter(Control& control, QObject* view, Binder& binder) : control_(control), view_(view), binder_(binder) {
+  if (!view || !IsSecondView()) return;
+  const QString text = view->property("text").toString();
+  keepsItsText_ = !text.isEmpty();
+}
+
+bool Adapter::IsSecondView() const { return view_->dynamicPropertyNames().contains("control"); }
+
+void Adapter::MarkDirty(What what) {
+  dirty_ |= Bit(what);
+  binder_.Queue(*this);
+}
+
+void Adapter::MarkAllDirty() {
+  for (What what : {What::State, What::Content, What::Selection}) MarkDirty(what);
+}
+
+void Adapter::Refresh() {
+  const unsigned dirty = std::exchange(dirty_, 0u);
+  if (dirty & Bit(What::Content)) ShowContent();
+  if (dirty & Bit(What::State)) ShowState();
+  if (dirty & Bit(What::Selection)) ShowSelection();
+  if (dirty & Bit(What::Focus)) ShowFocus();
+}
+
+void Adapter::ShowState() {
+  if (auto* widget = qobject_cast<QWidget*>(view_))
+    ShowCommonState(*widget, control_);
+  else if (auto* action = qobject_cast<QAction*>(view_))
+    ShowCommonState(*action, control_);
+}
+
+void Adapter::ShowFocus() {
+  auto* widget = qobject_cast<QWidget*>(view_);
+  if (widget && !IsSecondView() && control_.form.ActiveControl() == &control_ && !widget->hasFocus())
+    widget->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace tarnview

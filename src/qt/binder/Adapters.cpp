@@ -1,0 +1,62 @@
+#include "qt/binder/Adapters.h"
+
+#include <type_traits>
+
+#include "qt/binder/BarAdapters.h"
+#include "qt/binder/ButtonAdapters.h"
+#include "qt/binder/ChartAdapter.h"
+#include "qt/binder/ListViewAdapter.h"
+#include "qt/binder/MenuAdapters.h"
+#include "qt/binder/TextAdapters.h"
+#include "qt/binder/TimerAdapter.h"
+
+namespace tarnview {
+namespace {
+
+using Maker = std::unique_ptr<Adapter> (*)(Control&, QObject*, Binder&);
+
+template <class Kind, class View, class Adapting>
+std::unique_ptr<Adapter> Pair(Control& control, QObject* view, Binder& binder) {
+  auto* kind = dynamic_cast<Kind*>(&control);
+  auto* shown = qobject_cast<View*>(view);
+  return kind && shown ? std::make_unique<Adapting>(*kind, *shown, binder) : nullptr;
+}
+
+template <class Kind, class Adapting>
+std::unique_ptr<Adapter> Unseen(Control& control, QObject* view, Binder& binder) {
+  auto* kind = dynamic_cast<Kind*>(&control);
+  return kind && !view ? std::make_unique<Adapting>(*kind, binder) : nullptr;
+}
+
+// The first row that fits serves.
+constexpr Maker kPairs[] = {
+    Pair<Label, QLabel, LabelAdapter>,
+    Pair<Frame, QGroupBox, GroupBoxAdapter>,
+    Pair<Frame, QWidget, FrameAdapter>,
+    Pair<CommandButton, QAbstractButton, CommandButtonAdapter>,
+    Pair<CommandButton, QAction, CommandActionAdapter>,
+    Pair<CheckBox, QCheckBox, CheckBoxAdapter>,
+    Pair<TextBox, QLineEdit, LineEditAdapter>,
+    Pair<TextBox, QPlainTextEdit, TextEditAdapter>,
+    Pair<ComboBox, QComboBox, ComboBoxAdapter>,
+    Pair<ListView, QTreeWidget, ListViewAdapter>,
+    Pair<UpDown, UpDownWidget, UpDownAdapter>,
+    Pair<ScrollBar, QScrollBar, ScrollBarAdapter>,
+    Pair<ProgressBar, QProgressBar, ProgressBarAdapter>,
+    Pair<StatusBar, QStatusBar, StatusBarAdapter>,
+    Pair<MenuItem, QMenu, MenuAdapter>,
+    Pair<MenuItem, QAction, MenuActionAdapter>,
+    Pair<MenuItem, QAbstractButton, MenuButtonAdapter>,
+    Pair<Chart, ChartWidget, ChartAdapter>,
+    Unseen<Timer, TimerAdapter>,
+};
+
+}  // namespace
+
+std::unique_ptr<Adapter> MakeAdapter(Control& control, QObject* view, Binder& binder) {
+  for (Maker maker : kPairs)
+    if (auto adapter = maker(control, view, binder)) return adapter;
+  return nullptr;
+}
+
+}  // namespace tarnview

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "qt/binder/Adapter.h"
+
+class QWidget;
+
+namespace tarnview {
+
+class Form;
+
+/// "txtFrom"; "mnuRecentlyUsed_2" for a member of an array.
+std::string ViewName(const Control& control);
+/// Everything in the window that shows the control: what bears its name first, then what names it in its property
+/// "control".
+std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window);
+
+/// Ties the controls of a form to the widgets of its window by their names. What changes in the controls is shown
+/// once per turn of the event loop, or at once by Flush.
+class Binder : public QObject {
+ public:
+  Binder(Form& form, QWidget& window);
+
+  void Flush();
+  void Queue(Adapter& adapter);
+
+  /// The control that a widget or its nearest ancestor shows; nullptr for none.
+  Control* ControlOf(const QObject* widget) const;
+  /// The first view of a control; nullptr for none.
+  QObject* ViewOf(const Control& control) const;
+
+ private:
+  void Bind(Control& control);
+  void Add(std::unique_ptr<Adapter> adapter);
+
+  QWidget& window_;
+  std::vector<std::unique_ptr<Adapter>> adapters_;
+  std::vector<Adapter*> dirty_;
+};
+
+}  // namespace tarnview

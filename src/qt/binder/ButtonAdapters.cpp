@@ -1,0 +1,51 @@
+#include "qt/binder/ButtonAdapters.h"
+
+#include <QPushButton>
+
+#include "qt/Text.h"
+#include "ui/Form.h"
+
+namespace tarnview {
+
+CommandButtonAdapter::CommandButtonAdapter(CommandButton& button, QAbstractButton& view, Binder& binder)
+    : Adapter(button, &view, binder), button_(button), view_(view) {
+  if (auto* push = qobject_cast<QPushButton*>(&view)) {
+    // The form says which button Enter presses, whatever has the focus.
+    push->setAutoDefault(false);
+    push->setDefault(button.form.DefaultButton == &button);
+  }
+  connect(&view, &QAbstractButton::clicked, this, [this] { button_.Press(); });
+}
+
+void CommandButtonAdapter::ShowContent() {
+  if (!keepsItsText_) view_.setText(ToQt(button_.Caption));
+}
+
+CommandActionAdapter::CommandActionAdapter(CommandButton& button, QAction& view, Binder& binder)
+    : Adapter(button, &view, binder), button_(button), view_(view) {
+  connect(&view, &QAction::triggered, this, [this] { button_.Press(); });
+}
+
+void CommandActionAdapter::ShowContent() {
+  if (!keepsItsText_) view_.setText(ToQt(button_.Caption));
+}
+
+CheckBoxAdapter::CheckBoxAdapter(CheckBox& box, QCheckBox& view, Binder& binder)
+    : Adapter(box, &view, binder), box_(box), view_(view) {
+  connect(&view, &QCheckBox::clicked, this, [this](bool checked) {
+    MarkDirty(What::Content);
+    box_.Value = checked;
+  });
+}
+
+void CheckBoxAdapter::ShowContent() {
+  view_.setText(ToQt(box_.Caption));
+  view_.setChecked(box_.Value);
+}
+
+UpDownAdapter::UpDownAdapter(UpDown& arrows, UpDownWidget& view, Binder& binder) : Adapter(arrows, &view, binder) {
+  connect(&view, &UpDownWidget::Up, this, [&arrows] { arrows.UpClick(); });
+  connect(&view, &UpDownWidget::Down, this, [&arrows] { arrows.DownClick(); });
+}
+
+}  // namespace tarnview

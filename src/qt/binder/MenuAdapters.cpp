@@ -1,0 +1,47 @@
+#include "qt/binder/MenuAdapters.h"
+
+#include "qt/Text.h"
+
+namespace tarnview {
+
+MenuActionAdapter::MenuActionAdapter(MenuItem& item, QAction& view, Binder& binder)
+    : Adapter(item, &view, binder), item_(item), view_(view) {
+  // One action alone may own a shortcut.
+  if (!IsSecondView() && !item.Shortcut.empty()) view.setShortcut(QKeySequence(ToQt(item.Shortcut)));
+  connect(&view, &QAction::triggered, this, [this] {
+    // The toolkit has ticked a checkable entry by itself; the window decides.
+    MarkDirty(What::Content);
+    if (item_.Enabled) item_.Click();
+  });
+}
+
+void MenuActionAdapter::ShowContent() {
+  const bool rule = item_.Caption() == "-";
+  if (!keepsItsText_) view_.setText(rule ? QString() : ToQt(item_.Caption));
+  view_.setSeparator(rule);
+  if (item_.Checked) view_.setCheckable(true);
+  view_.setChecked(item_.Checked);
+}
+
+MenuAdapter::MenuAdapter(MenuItem& item, QMenu& view, Binder& binder)
+    : Adapter(item, &view, binder), item_(item), view_(view) {}
+
+void MenuAdapter::ShowState() {
+  view_.menuAction()->setEnabled(item_.Enabled);
+  view_.menuAction()->setVisible(item_.Visible);
+}
+
+void MenuAdapter::ShowContent() { view_.setTitle(ToQt(item_.Caption)); }
+
+MenuButtonAdapter::MenuButtonAdapter(MenuItem& item, QAbstractButton& view, Binder& binder)
+    : Adapter(item, &view, binder), item_(item), view_(view) {
+  connect(&view, &QAbstractButton::clicked, this, [this] {
+    if (item_.Enabled) item_.Click();
+  });
+}
+
+void MenuButtonAdapter::ShowContent() {
+  if (!keepsItsText_) view_.setText(ToQt(item_.Caption));
+}
+
+}  // namespace tarnview

@@ -1,0 +1,75 @@
+#include "qt/binder/TextAdapters.h"
+
+#include <QSignalBlocker>
+
+#include "qt/Text.h"
+
+namespace tarnview {
+namespace {
+
+/// Inside the program a line ends with CR LF; the toolkit's fields know LF alone.
+QString Lines(const std::string& text) { return ToQt(text).replace("\r\n", "\n"); }
+
+}  // namespace
+
+LabelAdapter::LabelAdapter(Label& label, QLabel& view, Binder& binder)
+    : Adapter(label, &view, binder), label_(label), view_(view) {
+  view.setTextFormat(Qt::PlainText);
+}
+
+void LabelAdapter::ShowContent() { view_.setText(Lines(label_.Caption)); }
+
+void GroupBoxAdapter::ShowContent() { view_.setTitle(ToQt(frame_.Caption)); }
+
+LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
+    : Adapter(box, &view, binder), box_(box), view_(view) {
+  connect(&view, &QLineEdit::textEdited, this, [this](const QString& text) { box_.Text = FromQt(text); });
+}
+
+void LineEditAdapter::ShowContent() {
+  const QString text = ToQt(box_.Text);
+  if (view_.text() != text) view_.setText(text);
+  view_.setReadOnly(box_.ReadOnly);
+}
+
+TextEditAdapter::TextEditAdapter(TextBox& box, QPlainTextEdit& view, Binder& binder)
+    : Adapter(box, &view, binder), box_(box), view_(view) {
+  view.setTabChangesFocus(true);
+  connect(&view, &QPlainTextEdit::textChanged, this,
+          [this] { box_.Text = FromQt(view_.toPlainText().replace("\n", "\r\n")); });
+}
+
+void TextEditAdapter::ShowContent() {
+  const QString text = Lines(box_.Text);
+  const QSignalBlocker quiet(view_);
+  if (view_.toPlainText() != text) view_.setPlainText(text);
+  view_.setReadOnly(box_.ReadOnly);
+}
+
+ComboBoxAdapter::ComboBoxAdapter(ComboBox& box, QComboBox& view, Binder& binder)
+    : Adapter(box, &view, binder), box_(box), view_(view) {
+  view.setEditable(box.Editable);
+  view.setInsertPolicy(QComboBox::NoInsert);
+  connect(&view, &QComboBox::activated, this, [this](int entry) {
+    MarkDirty(What::Content);
+    box_.SetListIndex(entry);
+  });
+  if (box.Editable)
+    connect(&view, &QComboBox::editTextChanged, this, [this](const QString& text) { box_.Text = FromQt(text); });
+}
+
+void ComboBoxAdapter::ShowContent() {
+  const QSignalBlocker quiet(view_);
+  QStringList entries, shown;
+  for (const std::string& entry : box_.Entries()) entries << ToQt(entry);
+  for (int i = 0; i < view_.count(); ++i) shown << view_.itemText(i);
+  if (entries != shown) {
+    view_.clear();
+    view_.addItems(entries);
+  }
+  const QString text = ToQt(box_.Text);
+  if (view_.currentIndex() != box_.ListIndex()) view_.setCurrentIndex(box_.ListIndex());
+  if (box_.Editable && view_.currentText() != text) view_.setEditText(text);
+}
+
+}  // namespace tarnview

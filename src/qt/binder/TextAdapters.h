@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "qt/binder/Adapter.h"
+#include "ui/ComboBox.h"
+#include "ui/Frame.h"
+#include "ui/Label.h"
+#include "ui/TextBox.h"
+
+namespace tarnview {
+
+class LabelAdapter : public Adapter {
+ public:
+  LabelAdapter(Label& label, QLabel& view, Binder& binder);
+
+ protected:
+  void ShowContent() override;
+
+ private:
+  Label& label_;
+  QLabel& view_;
+};
+
+class GroupBoxAdapter : public Adapter {
+ public:
+  GroupBoxAdapter(Frame& frame, QGroupBox& view, Binder& binder)
+      : Adapter(frame, &view, binder), frame_(frame), view_(view) {}
+
+ protected:
+  void ShowContent() override;
+
+ private:
+  Frame& frame_;
+  QGroupBox& view_;
+};
+
+/// A frame without a caption: it shows whether it can be used and seen.
+class FrameAdapter : public Adapter {
+ public:
+  FrameAdapter(Frame& frame, QWidget& view, Binder& binder) : Adapter(frame, &view, binder) {}
+};
+
+class LineEditAdapter : public Adapter {
+ public:
+  LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder);
+
+ protected:
+  void ShowContent() override;
+
+ private:
+  TextBox& box_;
+  QLineEdit& view_;
+};
+
+class TextEditAdapter : public Adapter {
+ public:
+  TextEditAdapter(TextBox& box, QPlainTextEdit& view, Binder& binder);
+
+ protected:
+  void ShowContent() override;
+
+ private:
+  TextBox& box_;
+  QPlainTextEdit& view_;
+};
+
+class ComboBoxAdapter : public Adapter {
+ public:
+  ComboBoxAdapter(ComboBox& box, QComboBox& view, Binder& binder);
+
+ protected:
+  void ShowContent() override;
+
+ private:
+  ComboBox& box_;
+  QComboBox& view_;
+};
+
+}  // namespace tarnview

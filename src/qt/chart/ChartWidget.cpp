@@ -1,0 +1,237 @@
+#include "qt/chart/ChartWidget.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "qt/Fonts.h"
+#include "qt/Text.h"
+#include "qt/chart/AxisNumbers.h"
+#include "qt/chart/ChartColours.h"
+#include "qt/chart/NearestPoint.h"
+
+namespace tarnview {
+namespace {
+
+/// Characters of a series name that the legend shows.
+constexpr int kLongestName = 24;
+
+Qt::PenStyle StyleOf(int style) { return style == 1 ? Qt::SolidLine : style == 2 ? Qt::DotLine : Qt::DashLine; }
+
+QPen PenOf(const Pen& pen) {
+  QPen line(ColourToQt(pen.colour), PixelsOfPen(pen.width), StyleOf(pen.style));
+  line.setCapStyle(pen.style == 1 ? Qt::RoundCap : Qt::FlatCap);
+  line.setJoinStyle(Qt::BevelJoin);
+  return line;
+}
+
+}  // namespace
+
+double PixelsOfPen(int width) { return std::clamp(1 + (width - 10) / 20.0, 1.0, 3.0); }
+
+ChartWidget::ChartWidget(QWidget* parent) : QCustomPlot(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAntialiasedElements(QCP::aePlottables | QCP::aeItems | QCP::aeLegendItems);
+  for (QCPAxis* axis : {xAxis, yAxis}) {
+    axis->setTicker(QSharedPointer<QCPAxisTickerText>::create());
+    axis->setSubTicks(false);
+    axis->setTickLength(0, 4);
+    axis->grid()->setZeroLinePen(Qt::NoPen);
+  }
+  MakeLegendColumn();
+  MakeMark();
+  ApplyFonts();
+  SetDescription({});
+  connect(this, &QCustomPlot::afterReplot, this, [this] { drawn_ = true; });
+}
+
+void ChartWidget::MakeLegendColumn() {
+  legendColumn_ = new QCPLayoutGrid;
+  plotLayout()->addElement(0, 1, legendColumn_);
+  plotLayout()->setColumnStretchFactor(1, 0.001);
+  // Room above and below holds the legend in the middle.
+  legendColumn_->addElement(0, 0, new QCPLayoutElement);
+  legendColumn_->addElement(1, 0, legend);
+  legendColumn_->addElement(2, 0, new QCPLayoutElement);
+  legendColumn_->setRowStretchFactor(1, 0.001);
+  legendColumn_->setRowSpacing(0);
+  legend->setBorderPen(Qt::NoPen);
+  legend->setBrush(Qt::NoBrush);
+  legend->setFillOrder(QCPLayoutGrid::foRowsFirst);
+  legend->setLayer("legend");
+}
+
+void ChartWidget::MakeMark() {
+  line_ = new QCPItemStraightLine(this);
+  ring_ = new QCPItemTracer(this);
+  ring_->setStyle(QCPItemTracer::tsCircle);
+  for (QCPAbstractItem* item : std::initializer_list<QCPAbstractItem*>{line_, ring_}) {
+    item->setLayer("overlay");
+    item->setVisible(false);
+  }
+  line_->setAntialiased(false);
+}
+
+void ChartWidget::SetDescription(const ChartDescription& description) {
+  chart_ = description;
+  selectedPlace_ = -1;
+  MakeCurves();
+  xAxis->setRange(chart_.x.min, chart_.x.max > chart_.x.min ? chart_.x.max : chart_.x.min + 1);
+  yAxis->setRange(chart_.y.min, chart_.y.max > chart_.y.min ? chart_.y.max : chart_.y.min + 1);
+  ApplyColours();
+  Fit(rect());
+  replot(rpQueuedReplot);
+}
+
+void ChartWidget::MakeCurves() {
+  clearPlottables();
+  curves_.clear();
+  for (const ChartSeries& series : chart_.series) {
+    auto* curve = new CurveLine(xAxis, yAxis);
+    curve->setPen(PenOf(series.pen));
+    const QString name = ToQt(series.name);
+    curve->setName(name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(0x2026) : name);
+    curve->setSelectable(QCP::stNone);
+    curves_.push_back(curve);
+  }
+}
+
+void ChartWidget::ApplyColours() {
+  const PaintedColours colours = ToPaint(chart_.colours, palette());
+  setBackground(QBrush(colours.backdrop));
+  for (QCPAxis* axis : {xAxis, yAxis}) {
+    axis->setBasePen(QPen(colours.text, 1));
+    axis->setTickPen(QPen(colours.text, 1));
+    axis->setTickLabelColor(colours.text);
+    axis->grid()->setPen(QPen(colours.grid, 1));
+  }
+  legend->setTextColor(colours.text);
+  line_->setPen(QPen(colours.text, 1));
+  ring_->setPen(QPen(colours.text, 2));
+}
+
+void ChartWidget::ApplyFonts() {
+  // Pixels, so that paper and files get the proportions of the screen.
+  QFont font = this->font();
+  font.setPixelSize(QFontInfo(font).pixelSize());
+  const QFont digits = WithEvenDigits(font);
+  xAxis->setTickLabelFont(digits);
+  yAxis->setTickLabelFont(digits);
+  legend->setFont(font);
+  const int line = QFontMetrics(font).height();
+  legend->setIconSize(line * 3 / 2, line);
+  legend->setIconTextPadding(line / 2);
+  legend->setMargins(QMargins(line / 2, line / 2, line, line / 2));
+  legend->setRowSpacing(line / 6);
+  legend->setColumnSpacing(line);
+  plotLayout()->setColumnSpacing(line / 2);
+  xAxis->setTickLabelPadding(line / 3);
+  yAxis->setTickLabelPadding(line / 3);
+  ring_->setSize(line * 3 / 4.0);
+}
+
+void ChartWidget::Fit(const QRect& viewport) {
+  setViewport(viewport);
+  legend->setVisible(!chart_.series.empty());
+  FitLegend();
+  FitNumbers();
+  updateLayout();
+  FitNumbers();
+  const int columns = std::max(axisRect()->width(), 1);
+  for (std::size_t i = 0; i < curves_.size(); ++i) {
+    const ChartSeries& series = chart_.series[i];
+    curves_[i]->SetLine(Decimate(series.x, series.y, xAxis->range().lower, xAxis->range().upper, columns));
+  }
+  ShowMark();
+}
+
+void ChartWidget::FitNumbers() {
+  const QFontMetricsF metrics(xAxis->tickLabelFont());
+  const auto widest = [&](const ChartAxis& axis) {
+    return std::max(metrics.horizontalAdvance(ToQt(FormatNumber(axis.min, axis.format))),
+                    metrics.horizontalAdvance(ToQt(FormatNumber(axis.max, axis.format))));
+  };
+  const double width = widest(chart_.x);
+  const auto show = [](QCPAxis& axis, const std::vector<AxisNumber>& numbers) {
+    auto ticker = qSharedPointerCast<QCPAxisTickerText>(axis.ticker());
+    ticker->clear();
+    for (const AxisNumber& number : numbers) ticker->addTick(number.at, ToQt(number.text));
+  };
+  show(*xAxis, AxisNumbers(chart_.x, axisRect()->width(), width + metrics.height()));
+  show(*yAxis, AxisNumbers(chart_.y, axisRect()->height(), metrics.height() * 1.25));
+  // Half of the outermost numbers stands beyond the ends of the axes.
+  const int half = static_cast<int>(std::ceil(width / 2));
+  const int above = static_cast<int>(std::ceil(metrics.height()));
+  axisRect()->setMinimumMargins(QMargins(half, above, half, 0));
+}
+
+void ChartWidget::FitLegend() {
+  const int line = QFontMetrics(legend->font()).height();
+  const int rows = std::max((viewport().height() - 3 * line) / (line + 2 * legend->rowSpacing()), 1);
+  if (legend->wrap() != rows) {
+    legend->setWrap(rows);
+    // Put in anew, the items take their places by the new count of rows.
+    legend->clearItems();
+    for (CurveLine* curve : curves_) curve->addToLegend(legend);
+  }
+  // An item clips its text to itself, and what hangs below the line needs a little more than the line's height.
+  for (int i = 0; i < legend->itemCount(); ++i)
+    if (auto* item = legend->item(i)) item->setMargins(QMargins(0, 0, 0, legend->rowSpacing()));
+}
+
+void ChartWidget::Select(int place, int point) {
+  selectedPlace_ = place;
+  selectedPoint_ = point;
+  ShowMark();
+  // The mark alone is drawn anew; before the first draw it comes with the rest.
+  if (drawn_) layer("overlay")->replot();
+}
+
+void ChartWidget::ShowMark() {
+  const auto place = static_cast<std::size_t>(selectedPlace_);
+  const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
+  const bool shown = selectedPlace_ >= 0 && place < chart_.series.size() && selectedPoint_ >= 1 &&
+                     at < std::min(chart_.series[place].x.size(), chart_.series[place].y.size());
+  line_->setVisible(shown);
+  ring_->setVisible(shown);
+  if (!shown) return;
+  const ChartSeries& series = chart_.series[place];
+  line_->point1->setCoords(series.x[at], yAxis->range().lower);
+  line_->point2->setCoords(series.x[at], yAxis->range().upper);
+  ring_->position->setCoords(series.x[at], series.y[at]);
+  ring_->setBrush(ColourToQt(series.pen.colour));
+}
+
+void ChartWidget::Paint(QCPPainter& painter, int width, int height) {
+  Fit(QRect(0, 0, width, height));
+  toPainter(&painter, width, height);
+  Fit(rect());
+}
+
+void ChartWidget::resizeEvent(QResizeEvent* event) {
+  Fit(rect());
+  QCustomPlot::resizeEvent(event);
+}
+
+void ChartWidget::changeEvent(QEvent* event) {
+  QCustomPlot::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::PaletteChange) return;
+  ApplyFonts();
+  ApplyColours();
+  Fit(rect());
+  replot(rpQueuedReplot);
+}
+
+void ChartWidget::mousePressEvent(QMouseEvent* event) {
+  QCustomPlot::mousePressEvent(event);
+  if (event->button() == Qt::RightButton) {
+    emit RightClicked();
+  } else if (event->button() == Qt::LeftButton && axisRect()->rect().contains(event->pos())) {
+    const QPointF click = event->position();
+    const auto found = NearestPoint(chart_, [&](double x, double y) {
+      return std::hypot(xAxis->coordToPixel(x) - click.x(), yAxis->coordToPixel(y) - click.y());
+    });
+    if (found) emit PointClicked(found->place, found->point);
+  }
+}
+
+}  // namespace tarnview

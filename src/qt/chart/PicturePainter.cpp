@@ -1,0 +1,99 @@
+#include "qt/chart/PicturePainter.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <algorithm>
+
+#include "qt/Text.h"
+#include "qt/chart/ChartWidget.h"
+
+namespace tarnview {
+namespace {
+
+/// What a pixel of a picture is on paper.
+constexpr int kPixelsPerInch = 96;
+constexpr int kLargestSide = 16384;
+
+struct Picture {
+  ChartWidget& chart;
+  int width;
+  int height;
+
+  bool PaintOn(QPaintDevice& device, bool vectors) const {
+    QCPPainter painter;
+    if (!painter.begin(&device)) return false;
+    painter.setMode(QCPPainter::pmNoCaching);
+    painter.setMode(QCPPainter::pmVectorized, vectors);
+    chart.Paint(painter, width, height);
+    return painter.end();
+  }
+};
+
+bool DrawPng(const Picture& picture, QIODevice& to) {
+  QImage image(picture.width, picture.height, QImage::Format_RGB32);
+  return picture.PaintOn(image, false) && image.save(&to, "PNG");
+}
+
+bool DrawSvg(const Picture& picture, QIODevice& to) {
+  QSvgGenerator svg;
+  svg.setOutputDevice(&to);
+  svg.setTitle("Tarnview");
+  svg.setDescription(QString());
+  svg.setResolution(kPixelsPerInch);
+  svg.setSize(QSize(picture.width, picture.height));
+  svg.setViewBox(QRect(0, 0, picture.width, picture.height));
+  return picture.PaintOn(svg, true);
+}
+
+bool DrawPdf(const Picture& picture, QIODevice& to) {
+  QPdfWriter pdf(&to);
+  pdf.setResolution(kPixelsPerInch);
+  const QSizeF inches(static_cast<double>(picture.width) / kPixelsPerInch,
+                      static_cast<double>(picture.height) / kPixelsPerInch);
+  pdf.setPageSize(QPageSize(inches, QPageSize::Inch, QString(), QPageSize::ExactMatch));
+  pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
+  return picture.PaintOn(pdf, true);
+}
+
+struct Format {
+  const char* ending;
+  bool (*draw)(const Picture&, QIODevice&);
+};
+constexpr Format kFormats[] = {{".png", DrawPng}, {".svg", DrawSvg}, {".pdf", DrawPdf}};
+
+}  // namespace
+
+bool DrawPicture(const ChartDescription& chart, const std::string& path, int width, int height, std::string& error) {
+  const QString name = PathToQt(path);
+  const auto format = std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format& one) {
+    return name.endsWith(QLatin1String(one.ending), Qt::CaseInsensitive);
+  });
+  if (format == std::end(kFormats)) {
+    error = "A picture's name ends in .png, .svg or .pdf: " + path;
+    return false;
+  }
+  if (width < 1 || height < 1 || width > kLargestSide || height > kLargestSide) {
+    error = "A picture is 1 to 16384 pixels wide and high.";
+    return false;
+  }
+  ChartWidget widget;
+  widget.resize(width, height);
+  widget.SetDescription(chart);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!format->draw({widget, width, height}, buffer)) {
+    error = "The picture could not be drawn: " + path;
+    return false;
+  }
+  // Written beside the old file and renamed, so that at every moment the old or the new one is whole.
+  QSaveFile file(name);
+  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return true;
+  error = "The picture could not be written: " + path + ": " + file.errorString().toStdString();
+  return false;
+}
+
+}  // namespace tarnview

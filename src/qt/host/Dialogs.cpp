@@ -1,0 +1,142 @@
+#include "qt/host/Dialogs.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "qt/Text.h"
+
+namespace tarnview {
+namespace {
+
+QMessageBox::StandardButtons ButtonsOf(int style) {
+  switch (style & 7) {
+    case kBoxYesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case kBoxYesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::Icon IconOf(int style) {
+  switch (style & 0x70) {
+    case kBoxQuestion:
+      return QMessageBox::Question;
+    case kBoxExclamation:
+      return QMessageBox::Warning;
+    case kBoxInformation:
+      return QMessageBox::Information;
+    case 16:
+      return QMessageBox::Critical;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+struct Answered {
+  Reply reply;
+  QMessageBox::StandardButton button;
+};
+constexpr Answered kAnswers[] = {{Reply::Ok, QMessageBox::Ok},
+                                 {Reply::Cancel, QMessageBox::Cancel},
+                                 {Reply::Yes, QMessageBox::Yes},
+                                 {Reply::No, QMessageBox::No}};
+
+QString FolderOf(const std::string& path) {
+  const QFileInfo info(PathToQt(path));
+  return info.isDir() ? info.absoluteFilePath() : info.absolutePath();
+}
+
+/// The ending that a file gets when none was typed: the first of the chosen filter; none for "*".
+QString EndingOf(const QString& nameFilter) {
+  static const QRegularExpression first(R"(\(\*\.(\w+))");
+  return first.match(nameFilter).captured(1);
+}
+
+bool ChooseFile(Dialog& dialog, QWidget* parent) {
+  QFileDialog box(parent, ToQt(dialog.title));
+  const QStringList filters = ToNameFilters(dialog.filter);
+  const bool folder = dialog.kind == DialogKind::Folder;
+  const bool save = dialog.kind == DialogKind::Save;
+  box.setFileMode(folder ? QFileDialog::Directory : save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  box.setOption(QFileDialog::ShowDirsOnly, folder);
+  if (!filters.isEmpty()) {
+    box.setNameFilters(filters);
+    box.selectNameFilter(filters[std::clamp(dialog.filterIndex - 1, 0, static_cast<int>(filters.size()) - 1)]);
+  }
+  const auto complete = [&] {
+    if (save) box.setDefaultSuffix(EndingOf(box.selectedNameFilter()));
+  };
+  complete();
+  QObject::connect(&box, &QFileDialog::filterSelected, &box, complete);
+  if (!dialog.initialPath.empty()) box.setDirectory(FolderOf(dialog.initialPath));
+  if (!dialog.path.empty()) box.selectFile(PathToQt(dialog.path));
+  if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return false;
+  dialog.path = PathFromQt(box.selectedFiles().constFirst());
+  dialog.filterIndex = std::max(static_cast<int>(filters.indexOf(box.selectedNameFilter())) + 1, 1);
+  return true;
+}
+
+bool ChooseColour(Dialog& dialog, QWidget* parent) {
+  const QColor colour = QColorDialog::getColor(ColourToQt(dialog.colour), parent, ToQt(dialog.title));
+  if (colour.isValid()) dialog.colour = ColourFromQt(colour);
+  return colour.isValid();
+}
+
+bool ChoosePrinter(Dialog& dialog, QWidget* parent) {
+  QPrinter printer;
+  QPrintDialog box(&printer, parent);
+  if (!dialog.title.empty()) box.setWindowTitle(ToQt(dialog.title));
+  if (box.exec() != QDialog::Accepted) return false;
+  dialog.path = PathFromQt(printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName());
+  return true;
+}
+
+}  // namespace
+
+Reply AskInBox(const Box& box, QWidget* parent) {
+  QMessageBox shown(IconOf(box.style), ToQt(box.title), ToQt(box.text).replace("\r\n", "\n").replace("\r", "\n"),
+                    ButtonsOf(box.style), parent);
+  shown.setTextFormat(Qt::PlainText);
+  for (const Answered& row : kAnswers)
+    if (row.reply == box.DefaultReply()) shown.setDefaultButton(row.button);
+  if ((box.style & 7) == kBoxYesNo) shown.setEscapeButton(QMessageBox::No);
+  const int pressed = shown.exec();
+  for (const Answered& row : kAnswers)
+    if (row.button == pressed) return row.reply;
+  return Reply::Cancel;
+}
+
+bool ChooseInDialog(Dialog& dialog, QWidget* parent) {
+  switch (dialog.kind) {
+    case DialogKind::Colour:
+      return ChooseColour(dialog, parent);
+    case DialogKind::Printer:
+      return ChoosePrinter(dialog, parent);
+    default:
+      return ChooseFile(dialog, parent);
+  }
+}
+
+QStringList ToNameFilters(const std::string& filter) {
+  const QStringList parts = ToQt(filter).split('|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    patterns.replace(';', ' ').replace("*.*", "*");
+    // The patterns stand once in the text, whether or not the program's text names them too.
+    static const QRegularExpression own(R"(\s*\([^)]*\*[^)]*\)\s*$)");
+    filters << QString(parts[i]).remove(own) + " (" + patterns.simplified() + ")";
+  }
+  return filters;
+}
+
+}  // namespace tarnview

@@ -1,0 +1,187 @@
+#include "qt/host/FormWindow.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QUrl>
+#include <QVariant>
+
+#include "qt/Text.h"
+#include "qt/binder/FormTable.h"
+#include "qt/host/KeyNames.h"
+#include "qt/icons/Icons.h"
+#include "qt/icons/Looks.h"
+#include "ui/CommandButton.h"
+#include "ui/Form.h"
+
+namespace tarnview {
+namespace {
+
+/// A main window first takes most of the screen, since its graph is what the user came for.
+void SizeMainWindow(QWidget& window) {
+  if (window.inherits("QMainWindow")) window.resize(window.screen()->availableSize() * 4 / 5);
+}
+
+QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
+  QWidget* window = MakeWindow(form.name, parent);
+  if (!window) qFatal("forms/%s.ui is missing", form.name.c_str());
+  if (window->property("frameless").toBool()) window->setWindowFlag(Qt::FramelessWindowHint);
+  window->setWindowIcon(ProgramIcon());
+  SetLooks(*window);
+  SizeMainWindow(*window);
+  return *window;
+}
+
+/// The one local file that is dragged; empty for anything else.
+QString DraggedFile(const QMimeData& data) {
+  return data.urls().size() == 1 ? data.urls().constFirst().toLocalFile() : QString();
+}
+
+/// Enter belongs to a field of several lines and to an open list.
+bool KeepsEnter(const QWidget* widget) {
+  const auto* lines = qobject_cast<const QPlainTextEdit*>(widget);
+  return lines && !lines->isReadOnly();
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, QWidget* parent, std::function<void(Form&)> cameToFront)
+    : form_(form), window_(&MakeWindowOf(form, parent)), binder_(form, *window_), cameToFront_(std::move(cameToFront)) {
+  window_->setAcceptDrops(true);
+  form_.Watcher = [this] { ShowCaption(); };
+  ShowCaption();
+  qApp->installEventFilter(this);
+}
+
+FormWindow::~FormWindow() {
+  qApp->removeEventFilter(this);
+  if (!window_) return;
+  window_->hide();
+  // A widget of it may be in the middle of telling about the click that closed the window.
+  window_->deleteLater();
+}
+
+void FormWindow::LetGo() {
+  form_.Watcher = nullptr;
+  for (Control* control : form_.Controls()) control->Forget();
+}
+
+void FormWindow::ShowCaption() {
+  window_->setWindowTitle(ToQt(form_.Caption));
+  if (form_.Pointer == MousePointer::Hourglass)
+    window_->setCursor(Qt::WaitCursor);
+  else
+    window_->unsetCursor();
+}
+
+void FormWindow::Raise(bool modal) {
+  binder_.Flush();
+  if (modal) window_->setWindowModality(Qt::ApplicationModal);
+  window_->show();
+  window_->raise();
+  window_->activateWindow();
+}
+
+bool FormWindow::eventFilter(QObject* receiver, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      return Receives(receiver) && KeyDown(static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyRelease:
+      return Receives(receiver) && KeyUp(static_cast<QKeyEvent&>(*event));
+    case QEvent::FocusIn:
+      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_)
+        if (Control* control = binder_.ControlOf(widget)) form_.SetFocus(control);
+      return false;
+    default:
+      return receiver == window_ && WindowEvent(*event);
+  }
+}
+
+bool FormWindow::WindowEvent(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Close:
+      // Unload hides the window where it agrees; this object may be gone then.
+      event.ignore();
+      form_.Unload();
+      return true;
+    case QEvent::WindowActivate:
+      cameToFront_(form_);
+      return false;
+    case QEvent::Resize:
+      form_.Form_Resize();
+      return false;
+    case QEvent::DragEnter:
+      if (auto& drag = static_cast<QDragEnterEvent&>(event); !DraggedFile(*drag.mimeData()).isEmpty())
+        drag.acceptProposedAction();
+      return true;
+    case QEvent::Drop: {
+      auto& drop = static_cast<QDropEvent&>(event);
+      const QString path = DraggedFile(*drop.mimeData());
+      if (path.isEmpty()) return true;
+      drop.acceptProposedAction();
+      // Opened after the drop is over, so that the window dragged from does not wait for a long load.
+      QMetaObject::invokeMethod(
+          this, [this, path] { form_.DropFile(PathFromQt(path)); }, Qt::QueuedConnection);
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+bool FormWindow::Receives(QObject* receiver) const {
+  // A key that nobody takes travels up through the parents; the window sees it once, before the first of them.
+  QWidget* first = window_->focusWidget() ? window_->focusWidget() : window_.data();
+  return receiver == first && (!QApplication::activeModalWidget() || QApplication::activeModalWidget() == window_);
+}
+
+bool FormWindow::KeyDown(QKeyEvent& event) {
+  if (draining_ && event.isAutoRepeat()) return true;
+  const auto key = ToKeyPress(event);
+  if (!key) return false;
+  const QPointer<FormWindow> self(this);
+  if (form_.KeyGoesDown(*key)) {
+    if (self) DrainRepeats();
+    return true;
+  }
+  return !self || EnterOrEscape(*key);
+}
+
+/// A key held down must not queue up work: what repeated while the window was at work is dropped.
+void FormWindow::DrainRepeats() {
+  if (draining_) return;
+  draining_ = true;
+  const QPointer<FormWindow> self(this);
+  QCoreApplication::processEvents();
+  if (self) draining_ = false;
+}
+
+bool FormWindow::EnterOrEscape(const KeyPress& key) {
+  if (!key.Plain() || (key.key != "Enter" && key.key != "Escape")) return false;
+  QWidget* focus = window_->focusWidget();
+  if (key.key == "Escape") {
+    if (form_.CancelButton) {
+      form_.CancelButton->Press();
+      return true;
+    }
+    // A window without such a button takes the close box's way; the main window does not close on a stray key.
+    if (window_->inherits("QDialog")) form_.Unload();
+    return true;
+  }
+  if (KeepsEnter(focus)) return false;
+  auto* focused = dynamic_cast<CommandButton*>(focus ? binder_.ControlOf(focus) : nullptr);
+  if (CommandButton* button = focused ? focused : form_.DefaultButton) button->Press();
+  return true;
+}
+
+bool FormWindow::KeyUp(QKeyEvent& event) {
+  if (event.isAutoRepeat()) return false;
+  const auto key = ToKeyPress(event);
+  return key && form_.KeyGoesUp(*key);
+}
+
+}  // namespace tarnview

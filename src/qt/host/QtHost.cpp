@@ -1,0 +1,118 @@
+#include "qt/host/QtHost.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCursor>
+#include <QEventLoop>
+#include <QMenu>
+#include <QTimer>
+#include <algorithm>
+
+#include "qt/Text.h"
+#include "qt/host/Dialogs.h"
+#include "ui/Form.h"
+#include "ui/MenuItem.h"
+
+namespace tarnview {
+namespace {
+
+/// Milliseconds between two repaints of a long loop: quicker, the eye sees no more and the loop loses time.
+constexpr int kRepaintEvery = 30;
+
+}  // namespace
+
+QtHost::~QtHost() = default;
+
+Reply QtHost::Ask(const Box& box) {
+  FlushAll();
+  return AskInBox(box, ParentForNew());
+}
+
+bool QtHost::Choose(Dialog& dialog) {
+  FlushAll();
+  return ChooseInDialog(dialog, ParentForNew());
+}
+
+FormWindow* QtHost::WindowOf(const Form& form) const {
+  const auto found =
+      std::find_if(windows_.begin(), windows_.end(), [&](const auto& one) { return &one->form() == &form; });
+  return found == windows_.end() ? nullptr : found->get();
+}
+
+QWidget* QtHost::ParentForNew() const {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  // The main window is the one that has no parent and stays; a splash goes away by itself.
+  for (const auto& one : windows_)
+    if (!one->window().property("frameless").toBool()) return &one->window();
+  return nullptr;
+}
+
+void QtHost::Show(Form& form, bool modal) {
+  FormWindow* window = WindowOf(form);
+  if (!window) {
+    windows_.push_back(
+        std::make_unique<FormWindow>(form, ParentForNew(), [this](Form& inFront) { CameToFront(inFront); }));
+    window = windows_.back().get();
+  }
+  window->Raise(modal);
+  // Painted before its first activation, which may take long.
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  CameToFront(form);
+  if (modal && form.IsShown()) RunModal(form);
+}
+
+void QtHost::CameToFront(Form& form) {
+  if (front_ == &form) return;
+  front_ = &form;
+  form.Form_Activate();
+}
+
+void QtHost::RunModal(Form& form) {
+  QEventLoop loop;
+  loops_.push_back({&form, &loop});
+  loop.exec();
+}
+
+void QtHost::Hide(Form& form) {
+  const auto found =
+      std::find_if(windows_.begin(), windows_.end(), [&](const auto& one) { return &one->form() == &form; });
+  if (found == windows_.end()) return;
+  (*found)->LetGo();
+  windows_.erase(found);
+  if (front_ == &form) front_ = nullptr;
+  const auto modal = std::find_if(loops_.begin(), loops_.end(), [&](const auto& one) { return one.form == &form; });
+  if (modal != loops_.end()) {
+    modal->loop->quit();
+    loops_.erase(modal);
+  }
+  if (windows_.empty()) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+}
+
+void QtHost::PopupMenu(MenuItem& menu) {
+  FormWindow* window = WindowOf(menu.form);
+  if (!window) return;
+  window->binder().Flush();
+  if (auto* shown = qobject_cast<QMenu*>(window->binder().ViewOf(menu))) shown->exec(QCursor::pos());
+}
+
+void QtHost::DoEvents() {
+  FlushAll();
+  QCoreApplication::processEvents();
+}
+
+void QtHost::Repaint(Form&) {
+  if (repainting_ || (sinceRepaint_.isValid() && sinceRepaint_.elapsed() < kRepaintEvery)) return;
+  repainting_ = true;
+  FlushAll();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  repainting_ = false;
+  sinceRepaint_.start();
+}
+
+void QtHost::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
+
+void QtHost::FlushAll() {
+  for (const auto& window : windows_) window->binder().Flush();
+}
+
+}  // namespace tarnview

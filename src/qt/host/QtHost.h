@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <memory>
+#include <vector>
+
+#include "qt/host/FormWindow.h"
+#include "ui/Host.h"
+
+class QEventLoop;
+
+namespace tarnview {
+
+/// The desktop, through the toolkit. It needs a QApplication for its whole life.
+class QtHost : public Host {
+ public:
+  ~QtHost() override;
+
+  Reply Ask(const Box& box) override;
+  bool Choose(Dialog& dialog) override;
+  void Show(Form& form, bool modal) override;
+  void Hide(Form& form) override;
+  void PopupMenu(MenuItem& menu) override;
+  void DoEvents() override;
+  void Repaint(Form& form) override;
+  void SetClipboardText(const std::string& text) override;
+
+  bool AnyWindow() const { return !windows_.empty(); }
+  /// The window of a form; nullptr while it has none.
+  FormWindow* WindowOf(const Form& form) const;
+
+ private:
+  struct ModalLoop {
+    const Form* form;
+    QEventLoop* loop;
+  };
+
+  QWidget* ParentForNew() const;
+  void CameToFront(Form& form);
+  void FlushAll();
+  void RunModal(Form& form);
+
+  std::vector<std::unique_ptr<FormWindow>> windows_;
+  std::vector<ModalLoop> loops_;
+  const Form* front_ = nullptr;
+  QElapsedTimer sinceRepaint_;
+  bool repainting_ = false;
+};
+
+}  // namespace tarnview

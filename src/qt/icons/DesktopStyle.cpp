@@ -1,0 +1,49 @@
+#include "qt/icons/DesktopStyle.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace tarnview {
+namespace {
+
+bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
+void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
+  const QPalette& palette = option.palette;
+  const QColor ink = palette.color(QPalette::Text);
+  QColor rim = ink;
+  rim.setAlphaF(0.5f);
+  const qreal side = qMin(option.rect.width(), option.rect.height()) - 2.0;
+  QRectF box(0, 0, side, side);
+  box.moveCenter(QRectF(option.rect).center());
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(rim, 1));
+  painter.setBrush(palette.color(QPalette::Base));
+  painter.drawRoundedRect(box, 2, 2);
+  painter.setPen(QPen(ink, side / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const auto at = [&](qreal x, qreal y) { return box.topLeft() + QPointF(x, y) * side; };
+  if (option.state & QStyle::State_On)
+    painter.drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.72), at(0.76, 0.28)});
+  else if (option.state & QStyle::State_NoChange)
+    painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
+  painter.restore();
+}
+
+}  // namespace
+
+void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+  const bool checkBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+  if (checkBox && IsDark(option->palette) && baseStyle()->name() == QLatin1String("fusion"))
+    DrawCheckBox(*option, *painter);
+  else
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const {
+  return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+}  // namespace tarnview

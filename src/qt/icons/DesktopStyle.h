@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tarnview {
+
+/// The desktop's style, fit for a dark palette too, where the toolkit's own style draws the rim of a check box as dark
+/// as what lies behind it, and grey texts twice.
+class DesktopStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override;
+};
+
+}  // namespace tarnview

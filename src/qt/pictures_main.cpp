@@ -1,0 +1,109 @@
+// tarnview-windows FOLDER [LOG]: draws every window into a folder, without a screen: empty and (with a log) filled,
+// light and dark, small, large, and in a font 40 % wider.
+
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <cstdio>
+
+#include "qt/Text.h"
+#include "qt/host/QtHost.h"
+#include "qt/icons/DesktopStyle.h"
+#include "qt/pictures/AllWindows.h"
+
+namespace tarnview {
+namespace {
+
+struct Look {
+  const char* name;
+  QSize mainWindow;
+  bool dark;
+  double font;  ///< share of the usual size
+};
+const Look kLooks[] = {{"light-small", {1024, 700}, false, 1},
+                       {"light-large", {1920, 1080}, false, 1},
+                       {"dark-small", {1024, 700}, true, 1},
+                       {"dark-large", {1920, 1080}, true, 1},
+                       {"light-wide-font", {1280, 900}, false, 1.4}};
+
+/// Nobody is there to press a button.
+class UnattendedHost : public QtHost {
+ public:
+  Reply Ask(const Box& box) override { return box.DefaultReply(); }
+  bool Choose(Dialog&) override { return false; }
+};
+
+QPalette DarkPalette() {
+  QPalette dark(QColor(53, 53, 57), QColor(42, 42, 46));
+  dark.setColor(QPalette::Base, QColor(32, 32, 35));
+  dark.setColor(QPalette::AlternateBase, QColor(42, 42, 46));
+  dark.setColor(QPalette::ToolTipBase, QColor(53, 53, 57));
+  dark.setColor(QPalette::Highlight, QColor(61, 110, 165));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    dark.setColor(role, QColor(232, 232, 232));
+    dark.setColor(QPalette::Disabled, role, QColor(128, 128, 128));
+  }
+  return dark;
+}
+
+bool Save(QWidget& widget, const QDir& folder, const QString& name) {
+  const bool saved = widget.grab().save(folder.filePath(name + ".png"));
+  if (!saved) std::fprintf(stderr, "cannot write %s\n", qPrintable(folder.filePath(name)));
+  return saved;
+}
+
+/// The menus of the main window, drawn one by one.
+bool SaveMenus(QWidget& window, const QDir& folder, const QString& look) {
+  bool saved = true;
+  for (QMenu* menu : window.findChildren<QMenu*>()) {
+    if (menu->objectName().isEmpty()) continue;
+    menu->adjustSize();
+    saved = Save(*menu, folder, menu->objectName() + "-" + look) && saved;
+  }
+  return saved;
+}
+
+bool DrawAll(const QDir& folder, const std::string& log, const Look& look) {
+  UnattendedHost host;
+  AllWindows windows(host, log);
+  const QString ending = QString(log.empty() ? "empty-" : "filled-") + look.name;
+  bool saved = true;
+  for (Form* form : windows.Forms()) {
+    QWidget& window = host.WindowOf(*form)->window();
+    if (window.inherits("QMainWindow")) window.resize(look.mainWindow);
+    host.DoEvents();
+    host.DoEvents();
+    saved = Save(window, folder, QString::fromStdString(form->name) + "-" + ending) && saved;
+    if (window.inherits("QMainWindow")) saved = SaveMenus(window, folder, ending) && saved;
+  }
+  return saved;
+}
+
+}  // namespace
+}  // namespace tarnview
+
+int main(int argc, char** argv) {
+  using namespace tarnview;
+  if (argc < 2) {
+    std::fputs("usage: tarnview-windows FOLDER [LOG]\n", stderr);
+    return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  QApplication::setStyle(new DesktopStyle("Fusion"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  const QPalette light = QApplication::palette();
+  const QFont font = QApplication::font();
+  const QDir folder(QFile::decodeName(argv[1]));
+  bool saved = QDir().mkpath(folder.path());
+  for (const Look& look : kLooks) {
+    QApplication::setPalette(look.dark ? DarkPalette() : light);
+    QFont sized = font;
+    sized.setPointSizeF(font.pointSizeF() * look.font);
+    QApplication::setFont(sized);
+    saved = DrawAll(folder, "", look) && saved;
+    if (argc > 2) saved = DrawAll(folder, argv[2], look) && saved;
+  }
+  return saved ? 0 : 1;
+}

@@ -1,0 +1,90 @@
+#include <gmock/gmock.h>
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "app/frmAbout.h"
+#include "app/frmNonModalMessage.h"
+#include "qt/TestApplication.h"
+#include "qt/host/Dialogs.h"
+#include "qt/host/QtHost.h"
+
+namespace tarnview {
+namespace {
+
+TEST(QtHostTest, AModalWindowHoldsItsCallerUntilItIsUnloaded) {
+  TestApplication();
+  QtHost host;
+  frmAbout about(host, {}, [] {});
+  bool wasModal = false;
+  QTimer::singleShot(0, [&] {
+    QWidget& window = host.WindowOf(about)->window();
+    wasModal = window.isModal();
+    QTest::mouseClick(window.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  });
+  about.ShowModal();
+  EXPECT_TRUE(wasModal);
+  EXPECT_FALSE(host.AnyWindow());
+  Settle();
+}
+
+TEST(QtHostTest, TheCloseBoxAsksTheFormAndEscapePressesCancel) {
+  TestApplication();
+  QtHost host;
+  struct Stubborn : frmNonModalMessage {
+    using frmNonModalMessage::frmNonModalMessage;
+    bool mayClose = false;
+    bool Form_QueryUnload() override { return mayClose; }
+  } form(host, [](int) {});
+  form.Show();
+  QWidget& window = host.WindowOf(form)->window();
+  window.close();
+  Settle();
+  EXPECT_TRUE(form.IsShown());
+  EXPECT_TRUE(window.isVisible());
+  form.mayClose = true;
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_FALSE(form.IsShown());
+  EXPECT_FALSE(host.AnyWindow());
+  Settle();
+}
+
+TEST(QtHostTest, AWindowMayBeDestroyedBeforeTheHostWithoutBeingUnloaded) {
+  TestApplication();
+  QtHost host;
+  {
+    frmAbout about(host, {}, [] {});
+    about.Show();
+    about.cmdOK.SetFocus();
+  }
+  EXPECT_FALSE(host.AnyWindow());
+  Settle();
+}
+
+TEST(QtHostTest, BoxesAnswerWithTheirButtons) {
+  TestApplication();
+  const struct {
+    int style;
+    Qt::Key key;
+    Reply reply;
+  } rows[] = {{kBoxYesNo + kBoxQuestion, Qt::Key_Return, Reply::Yes},
+              {kBoxYesNo + kBoxSecondIsDefault, Qt::Key_Return, Reply::No},
+              {kBoxYesNo, Qt::Key_Escape, Reply::No},
+              {kBoxYesNoCancel + kBoxExclamation, Qt::Key_Escape, Reply::Cancel},
+              {kBoxOk, Qt::Key_Escape, Reply::Ok}};
+  for (const auto& row : rows) {
+    QTimer::singleShot(0, [&] { QTest::keyClick(QApplication::activeModalWidget(), row.key); });
+    QtHost host;
+    EXPECT_EQ(host.Ask({1, "Line one\r\nline two", row.style, "Tarnview"}), row.reply) << row.style;
+  }
+}
+
+TEST(DialogsTest, FiltersTakeTheToolkitsForm) {
+  EXPECT_EQ(ToNameFilters("Logs (*.txt)|*.txt;*.csv|All|*.*"), (QStringList{"Logs (*.txt *.csv)", "All (*)"}));
+  EXPECT_EQ(ToNameFilters(""), QStringList());
+}
+
+}  // namespace
+}  // namespace tarnview
