@@ -24,9 +24,9 @@ class RecordingHost : public Host {
  public:
   std::deque<Answer> answers;
   std::optional<Answer> nextFile;  ///< for the next file dialog, before the queue
-  List boxes;                 ///< {"id", "text", "style", "reply"} or {"dialog", "title", "filter", "reply"}
-  std::vector<Box> messages;  ///< the boxes alone
-  std::vector<Form*> open;    ///< windows on show, the front one last
+  List boxes;                      ///< {"id", "text", "style", "reply"} or {"dialog", "title", "filter", "reply"}
+  std::vector<Box> messages;       ///< the boxes alone
+  std::vector<Form*> open;         ///< windows on show, the front one last
   std::string clipboard;
 
   Reply Ask(const Box& box) override;
