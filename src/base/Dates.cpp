@@ -21,8 +21,12 @@ constexpr std::array<std::string_view, 12> kMonths{"JANUARY",   "FEBRUARY", "MAR
                                                    "MAY",       "JUNE",     "JULY",     "AUGUST",
                                                    "SEPTEMBER", "OCTOBER",  "NOVEMBER", "DECEMBER"};
 
-/// Orders of day, month and year in a text, in the order in which they are tried.
-constexpr std::array<std::string_view, 4> kOrders{"DMY", "MDY", "YMD", "YDM"};
+/// Where day, month and year stand among the three parts of a text.
+struct Order {
+  std::size_t day, month, year;
+};
+/// In the order in which they are tried: day first, month first, year first.
+constexpr std::array<Order, 4> kOrders{{{0, 1, 2}, {1, 0, 2}, {2, 1, 0}, {1, 2, 0}}};
 
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -65,10 +69,10 @@ int YearOf(std::string_view text) {
   return year < 0 ? -1 : year < 30 ? 2000 + year : 1900 + year;
 }
 
-std::optional<Date> InOrder(const std::array<std::string_view, 3>& parts, std::string_view order) {
-  const int day = NumberOfDigits(parts[order.find('D')], 2);
-  const int month = MonthOf(parts[order.find('M')]);
-  const int year = YearOf(parts[order.find('Y')]);
+std::optional<Date> InOrder(const std::array<std::string_view, 3>& parts, const Order& order) {
+  const int day = NumberOfDigits(parts[order.day], 2);
+  const int month = MonthOf(parts[order.month]);
+  const int year = YearOf(parts[order.year]);
   if (day < 1 || month < 1 || year < kFirstYear) return std::nullopt;
   const chr::year_month_day date{chr::year(year), chr::month(static_cast<unsigned>(month)),
                                  chr::day(static_cast<unsigned>(day))};
@@ -99,7 +103,7 @@ std::string DateText(Date date) {
 std::optional<Date> ParseDate(std::string_view text) {
   const auto parts = ThreeParts(text);
   if (!parts) return std::nullopt;
-  for (const auto order : kOrders)
+  for (const Order& order : kOrders)
     if (const auto date = InOrder(*parts, order)) return date;
   return std::nullopt;
 }
