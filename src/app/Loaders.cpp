@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <array>
 
+#include "loaders/LinkPlusLog.h"
+#include "loaders/Tec2Log.h"
+#include "loaders/Tec3Log.h"
+#include "loaders/UTECCSVLog.h"
+#include "loaders/UTECFixedLog.h"
 #include "model/clsFileTypes.h"
 
 namespace tarnview {
@@ -14,6 +19,11 @@ LoadOutcome FMLinkLog(std::string_view bytes, const LoadContext& context) {
 
 constexpr std::array kLoaders{
     LoaderRow{kFMLinkLog, FMLinkLog},
+    LoaderRow{kTec2Log, LoadTec2Log},
+    LoaderRow{kTec3Log, LoadTec3Log},
+    LoaderRow{kLinkPlusLog, LoadLinkPlusLog},
+    LoaderRow{kUTECCSVLog, LoadUTECCSVLog},
+    LoaderRow{kUTECFixedLog, LoadUTECFixedLog},
 };
 
 }  // namespace

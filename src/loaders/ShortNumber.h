@@ -27,6 +27,22 @@ inline TextWord WordBefore(const char* end, std::size_t length) {
   return (word & kept) | (kBlanks & ~kept);
 }
 
+/// digits / 10^places, as a text writes it.
+struct ShortNumber {
+  std::int64_t digits = 0;
+  int places = 0;
+
+  /// The double nearest to it: both sides of the division are exact.
+  double Value() const { return static_cast<double>(digits) / detail::kPowersOfTen[places]; }
+  /// RoundToLong(Value() * 10^scale), scale 0 to 3; a whole number where the text has no more places than that.
+  std::int32_t Stored(int scale) const {
+    constexpr std::int32_t kTens[] = {1, 10, 100, 1000};
+    if (places > scale) return RoundToLong(Value() * kTens[scale]);
+    const std::int64_t stored = digits * kTens[scale - places];
+    return stored == static_cast<std::int32_t>(stored) ? static_cast<std::int32_t>(stored) : 0;
+  }
+};
+
 namespace detail {
 
 inline constexpr TextWord kEachByte = 0x0101010101010101, kHighBits = 0x8080808080808080, kLowBits = ~kHighBits;
@@ -36,13 +52,15 @@ constexpr TextWord BytesThatAre(TextWord word, char c) {
   const TextWord difference = word ^ (kEachByte * static_cast<unsigned char>(c));
   return ~(((difference & kLowBits) + kLowBits) | difference) & kHighBits;
 }
-/// The high bit of each byte that is no digit.
-constexpr TextWord BytesThatAreNoDigits(TextWord word) {
-  const TextWord digits = word ^ (kEachByte * '0');
+/// The same for the first such byte; bytes behind it may be marked too.
+constexpr TextWord FirstByteThatIs(TextWord word, char c) {
+  const TextWord difference = word ^ (kEachByte * static_cast<unsigned char>(c));
+  return (difference - kEachByte) & ~difference & kHighBits;
+}
+/// The high bit of each byte that is not 0 to 9.
+constexpr TextWord BytesAbove9(TextWord digits) {
   return (((digits & kLowBits) + kEachByte * (0x80 - 10)) | digits) & kHighBits;
 }
-/// All bits below the byte `index`, 0 to 7.
-constexpr TextWord BitsBelow(int index) { return (TextWord{1} << (8 * index)) - 1; }
 
 /// Eight digits (as 0 to 9), the first in the lowest byte: pairs, then fours, then all.
 constexpr std::uint32_t EightDigits(TextWord digits) {
@@ -53,63 +71,69 @@ constexpr std::uint32_t EightDigits(TextWord digits) {
                                     32);
 }
 
-/// Takes the point out of the word and says how many characters stand behind it. False where there is more than one.
-inline bool TakePoint(TextWord& word, int& places) {
-  const TextWord points = BytesThatAre(word, '.');
-  places = 0;
-  if (points == 0) return true;
-  if ((points & (points - 1)) != 0) return false;
-  const int at = std::countr_zero(points) / 8;
-  const TextWord before = word & BitsBelow(at);
-  word = (word & ~BitsBelow(at) & ~(TextWord{0xFF} << (8 * at))) | before << 8 | ' ';
-  places = 7 - at;
-  return true;
+/// Moves blanks from behind the text to its front.
+inline TextWord WithoutBlanksBehind(TextWord word) {
+  const TextWord filled = ~BytesThatAre(word, ' ') & kHighBits;
+  if (filled == 0) return word;
+  const int behind = std::countl_zero(filled) / 8 * 8;
+  return word << behind | (kEachByte * ' ' & ((TextWord{1} << behind) - 1));
+}
+
+/// The sign in front of the digits: all before it is blank. False for anything else.
+inline bool ReadSign(TextWord word, int at, bool& negative) {
+  const auto sign = static_cast<char>(word >> (8 * at) & 0xFF);
+  negative = sign == '-';
+  return (negative || sign == '+') && ((word ^ kEachByte * ' ') & ((TextWord{1} << (8 * at)) - 1)) == 0;
 }
 
 }  // namespace detail
 
 /// Blanks, a sign, digits with at most one point, blanks. False for any other text, as for one without a digit.
-inline bool ReadWord(TextWord word, double& value) {
+inline bool ReadWord(TextWord word, ShortNumber& number) {
   using namespace detail;
+  constexpr TextWord kBlanks = kEachByte * ' ';
   if constexpr (!kWordsAreReadable) return false;
-  const TextWord filled = ~BytesThatAre(word, ' ') & kHighBits;
-  if (filled == 0) return false;
-  if (const int behind = std::countl_zero(filled) / 8)
-    word = word << (8 * behind) | (kEachByte * ' ' & BitsBelow(behind));
-  int places = 0;
-  if (!TakePoint(word, places)) return false;
+  if (word >> 56 == ' ') word = WithoutBlanksBehind(word);
 
-  TextWord digits = word ^ (kEachByte * '0');
+  number.places = 0;
+  if (const TextWord points = FirstByteThatIs(word, '.')) {  // taken out; a second one is no digit
+    const TextWord upToPoint = points ^ (points - 1);
+    word = (word & ~upToPoint) | (word & upToPoint >> 8) << 8 | ' ';
+    number.places = 7 - std::countr_zero(points) / 8;
+  }
+
+  TextWord digits = word ^ kEachByte * '0';
   bool negative = false;
-  if (const TextWord others = BytesThatAreNoDigits(word)) {
+  if (const TextWord others = BytesAbove9(digits)) {
     const int at = 7 - std::countl_zero(others) / 8;  // the character before the digits
-    if (7 - at < std::max(places, 1)) return false;
-    const auto before = static_cast<char>(word >> (8 * at) & 0xFF);
-    negative = before == '-';
-    if (before != ' ' && before != '-' && before != '+') return false;
-    if (((word ^ kEachByte * ' ') & BitsBelow(at)) != 0) return false;
-    digits = digits >> (8 * at) >> 8 << (8 * at) << 8;
+    if (7 - at < std::max(number.places, 1)) return false;
+    const TextWord before = ~(~TextWord{0xFF} << (8 * at));
+    if (((word ^ kBlanks) & before) != 0 && !ReadSign(word, at, negative)) return false;
+    digits &= ~before;
   }
   const auto whole = static_cast<std::int64_t>(EightDigits(digits));
-  value = static_cast<double>(negative ? -whole : whole) / kPowersOfTen[places];  // exact by exact: the nearest double
+  number.digits = negative ? -whole : whole;
   return true;
 }
 
-/// StringToDouble of the text before `end`, of which the eight bytes before `end` can be read.
-inline double NumberBefore(const char* end, std::size_t length) {
-  double value;
-  if (length - 1 < kWordLength && ReadWord(WordBefore(end, length), value)) return value;
-  return StringToDouble({end - length, length});
-}
-/// StringToLong of it.
-inline std::int32_t WholeBefore(const char* end, std::size_t length) { return RoundToLong(NumberBefore(end, length)); }
-/// ValDouble of it.
-inline double ScannedBefore(const char* end, std::size_t length) {
-  double value;
-  const std::string_view text(end - length, length);
-  if (length - 1 < kWordLength ? ReadWord(WordBefore(end, length), value) : detail::ReadShortNumber(text, value))
-    return value;
-  return ValDouble(text);
-}
+/// A field as the last line had it: most quantities of a log change slower than its lines come.
+class LastNumber {
+ public:
+  /// The number x 10^scale, rounded; always the same scale. False where the quick road does not know the text.
+  bool Stored(TextWord word, int scale, std::int32_t& stored) {
+    if (word != word_) {
+      ShortNumber number;
+      if (!ReadWord(word, number)) return false;
+      word_ = word;
+      stored_ = number.Stored(scale);
+    }
+    stored = stored_;
+    return true;
+  }
+
+ private:
+  TextWord word_ = 0;  // eight NUL characters are a 0, too
+  std::int32_t stored_ = 0;
+};
 
 }  // namespace tarnview

@@ -1,0 +1,69 @@
+#include "loaders/Tec2Log.h"
+
+#include "base/Units.h"
+#include "loaders/SampleFinish.h"
+#include "loaders/SampleLog.h"
+#include "loaders/TecLine.h"
+
+namespace tarnview {
+namespace {
+
+using enum TecRule;
+
+// SECONDS  RPM   AD MAP   CLT GAMA MAT TPS  EGO   AF    EGOV  GPO1   BATT  KNK   DUTY  PW    PWOFF
+//    12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52
+//          1         2         3         4         5         6         7         8         9
+// 12345678901234567890123456789012345678901234567890123456789012345678901234567890123456789012345678
+constexpr TecField kTec2[] =
+    {
+        {kRPM, 10, 5, Whole},         {kIAdv, 16, 2, Tenths},     {kMAP, 19, 5, Tenths},
+        {kCTemp, 25, 3, Whole},       {kGAMA, 29, 4, Hundredths}, {kATemp, 34, 3, Factored},
+        {kTPS, 38, 5, Hundredths},  // four wide, but read with the blank behind it: kept on purpose
+        {kCR, 43, 5, Correction},     {kAF, 49, 5, Factored},     {kEGOV, 55, 5, Hundredths},
+        {kGPO1, 61, 6, Hundredths},   {kVolt, 68, 5, Tenths},     {kKnock, 74, 5, Rounded},
+        {kInjPercent, 80, 5, Tenths}, {kInjW, 86, 5, Hundredths}, {kPWOFF, 92, 6, Hundredths},
+};
+constexpr std::size_t kLineLength = 98, kSecondsLength = 8, kSecondsPoint = 6, kSecondsBlank = 9;
+constexpr SampleLogKind kTec2Log{.wrongFile = 54};
+
+class Tec2Log : public SampleLog {
+ public:
+  Tec2Log(std::string_view bytes, const LoadContext& context)
+      : lines_(bytes), context_(context), factors_(FactorsOf(context.items)) {}
+
+  std::size_t ReadHeading() override {
+    CheckTecHeading(lines_, kSecondsBlank);
+    return kLineLength;
+  }
+
+  void ReadSamples(long lineStep) override {
+    SampleStore& store = context_.log.glngDataLog;
+    TecFields<kTec2> fields(factors_);
+    SampleLines lines(FromFirstPoint(lines_, kSecondsPoint), context_, lineStep);
+    for (std::string_view line; lines.Next(line);) {
+      if (line.size() != kLineLength) continue;
+      const int row = store.AddRow();
+      store.Set(kSample, row, row + 1);
+      store.Set(kSecs, row, RoundToLong(TecNumber(line.substr(0, kSecondsLength)) * kStoredPerSecond));
+      fields.Read(line.data(), store, row);
+      LowerAirTemp(store(kATemp, row), factors_[kATemp], context_.log);
+    }
+    FillBoostAndVacuum(context_);
+    FillWithZero(kFuelPercentM, context_);
+    FindFirstPlotSample(context_);
+  }
+
+ private:
+  const TextLines lines_;
+  const LoadContext& context_;
+  const TecFactors factors_;
+};
+
+}  // namespace
+
+LoadOutcome LoadTec2Log(std::string_view bytes, const LoadContext& context) {
+  Tec2Log log(bytes, context);
+  return LoadSampleLog(log, bytes, context, kTec2Log);
+}
+
+}  // namespace tarnview

@@ -1,0 +1,215 @@
+#include "loaders/UTECCSVLog.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "loaders/DelimitedLine.h"
+#include "loaders/SampleLog.h"
+#include "loaders/UTECSamples.h"
+
+namespace tarnview {
+namespace {
+
+using enum UTECRule;
+
+struct Word {
+  std::string_view name, subHeading;
+  Column column;
+  UTECRule rule;
+  Column modified = column;  ///< where the row above the name says "MOD"
+};
+constexpr std::string_view kAny = "*";
+
+//      ,    ,   ,MOD,    ,     ,      ,   ,     ,      three heading rows: this one, the names, the sub-headings;
+// RPM  ,MAP ,MAF,MAF,TPS ,AFR  ,IGN#1 ,IGN,FUEL ,BOOST   or two: the names, the sub-headings
+//      ,PSIG,HZ ,HZ ,    ,     ,      ,   ,     ,(OL)
+//  3250, 8.5, 42, 44,38.5,11.87,  22.5,ECU, -2.0,  45
+constexpr Word kWords[] = {
+    {"RPM", kAny, kRPM, Factored},
+    {"MAP", "DIG", kMAPD, Factored},
+    {"MAP", "PSIG", kMAP, GaugeMAP},
+    {"MAP", kAny, kMAP, MAP},
+    {"MAF", "DIG", kMAFD, Factored},
+    {"MAF", "HZ", kMAFHz, Factored, kMAFMHz},
+    {"MAF", kAny, kMAF, Factored, kMAFM},
+    {"TPS", "DIG", kTPSD, Factored},
+    {"TPS", kAny, kTPS, Factored},
+    {"SITE", kAny, kLS, Factored},
+    {"COUNT", kAny, kKnock, Factored},
+    {"KNOCK", kAny, kKnock, Factored},
+    {"AFR", kAny, kAF, AirFuel},
+    {"IGN#1", kAny, kIAdv, Factored},
+    {"INJ#1", kAny, kInjPercent, InjectorDuty},
+    {"IGN", kAny, kIAdvM, ModifiedAdvance},
+    {"FUEL", kAny, kFuelPercentM, ModifiedFuel},
+    {"BOOST", "(OL)", kWGPercent, Boost},
+    {"BOOST", kAny, kBCL, Boost},
+    {"TIME", kAny, kSecs, Time},
+    {"MLP", kAny, kMLP, Factored},
+    {"H2O", kAny, kCTemp, CoolantTemp},
+    {"AIR", kAny, kATemp, AirTemp},
+    {"O2", kAny, kEGOV, Factored},
+    {"WG", kAny, kWGPercent, WastegateDuty},
+};
+constexpr char kDelimiter = ',';
+constexpr std::size_t kFewestColumns = 3;
+constexpr SampleLogKind kUTECCSVLog{.wrongFile = 59, .fewestSamples = 4};
+
+/// nullptr for a column that is passed over; so is the boost that the ECU keeps to itself.
+const Word* FindWord(std::string_view name, std::string_view subHeading) {
+  if (name == "BOOST" && subHeading.find("ECU") != std::string_view::npos) return nullptr;
+  const auto found = std::find_if(std::begin(kWords), std::end(kWords), [&](const Word& word) {
+    return word.name == name && (word.subHeading == kAny || word.subHeading == subHeading);
+  });
+  return found == std::end(kWords) ? nullptr : found;
+}
+
+using Cells = std::vector<std::string>;
+
+Cells SplitRow(std::string_view line) {
+  Cells cells = Split(line, kDelimiter);
+  for (std::string& cell : cells) cell = Upper(Trim(cell));
+  return cells;
+}
+
+class UTECCSVLog : public SampleLog {
+ public:
+  UTECCSVLog(std::string_view bytes, const LoadContext& context)
+      : bytes_(bytes), lines_(bytes), context_(context), samples_(context) {}
+
+  std::size_t ReadHeading() override;
+  void ReadSamples(long lineStep) override;
+
+ private:
+  struct Known {
+    const Word* word;  ///< nullptr for a column that is passed over
+    Column column = {};
+    int scale = -1;  ///< stored as the number x 10^scale; -1 for a rule of its own
+  };
+
+  Cells ReadRow();
+  void FindColumns(const Cells& names, const Cells& subHeadings, const Cells& above);
+  bool RepeatsHeading(std::string_view line) const;
+  void Store(const Known& field, DelimitedLine& line);
+  void StoreText(const Known& field, std::string_view text);
+  double AirFuelOf(std::string_view text);
+  double Ratio(double number) const { return *hundredths_ ? number / 100 : number; }
+
+  const std::string_view bytes_;
+  TextLines lines_;
+  const LoadContext& context_;
+  UTECSamples samples_;
+  std::vector<std::string_view> headingRows_;
+  std::vector<Known> fields_;
+  std::optional<bool> hundredths_;  ///< how ratios are given; the first one tells
+};
+
+Cells UTECCSVLog::ReadRow() {
+  Cells cells = SplitRow(lines_.Next());
+  headingRows_.push_back(Trim(lines_.Current()));
+  return cells;
+}
+
+std::size_t UTECCSVLog::ReadHeading() {
+  const std::size_t lineLength = TextLines(lines_).Next().size();
+  Cells rows[3];
+  do {
+    headingRows_.clear();
+    rows[0] = ReadRow();
+  } while (rows[0].size() < kFewestColumns);
+  rows[1] = ReadRow();
+  const TextLines behindTwo = lines_;
+  rows[2] = ReadRow();
+  if (rows[1].size() != rows[0].size() || rows[2].size() < rows[0].size()) throw RuntimeError(1, "Not a UTEC log");
+
+  if (IsNumeric(rows[2][0])) {  // the first sample
+    lines_ = behindTwo;
+    headingRows_.pop_back();
+    FindColumns(rows[0], rows[1], Cells(rows[0].size()));
+  } else {
+    FindColumns(rows[1], rows[2], rows[0]);
+  }
+  return std::max(lineLength, std::size_t{1});
+}
+
+void UTECCSVLog::FindColumns(const Cells& names, const Cells& subHeadings, const Cells& above) {
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    Known field{FindWord(names[i], subHeadings[i])};
+    if (field.word) {
+      field.column = above[i] == "MOD" ? field.word->modified : field.word->column;
+      field.scale = samples_.ScaleOf(field.word->rule, field.column);
+    }
+    fields_.push_back(field);
+  }
+}
+
+bool UTECCSVLog::RepeatsHeading(std::string_view line) const {
+  return std::any_of(headingRows_.begin(), headingRows_.end(),
+                     [text = Trim(line)](std::string_view row) { return SameIgnoringCase(text, row); });
+}
+
+void UTECCSVLog::ReadSamples(long lineStep) {
+  EndedLine ended(bytes_);
+  SampleLines lines(lines_, context_, lineStep);
+  for (std::string_view line; lines.Next(line);) {
+    if (!HasFields(line, kDelimiter, fields_.size()) || RepeatsHeading(line)) continue;
+    samples_.Add();
+    DelimitedLine fields(ended(line), kDelimiter);
+    for (const Known& field : fields_) {
+      if (ShortNumber number; field.scale >= 0 && fields.TakeNumber(number))
+        samples_.SetStored(field.column, number.Stored(field.scale));
+      else
+        Store(field, fields);
+    }
+  }
+  const auto has = [this](Column column) {
+    return std::any_of(fields_.begin(), fields_.end(),
+                       [=](const Known& field) { return field.word && field.column == column; });
+  };
+  samples_.Finish(has(kSecs), has(kFuelPercentM));
+}
+
+void UTECCSVLog::Store(const Known& field, DelimitedLine& line) {
+  ShortNumber number;
+  const bool isRatio = field.word && field.word->rule == AirFuel;
+  if (!field.word || (isRatio && !hundredths_) || !line.TakeNumber(number)) return StoreText(field, line.TakeText());
+  samples_.Set(field.word->rule, field.column, isRatio ? Ratio(number.Value()) : number.Value());
+}
+
+void UTECCSVLog::StoreText(const Known& field, std::string_view text) {
+  if (!field.word) return;
+  const UTECRule rule = field.word->rule;
+  if (rule == AirFuel)
+    samples_.SetAirFuel(AirFuelOf(Trim(text)));
+  else if (rule == ModifiedAdvance)
+    samples_.SetModifiedAdvance(text, StringToDouble(text));
+  else if (rule == CoolantTemp && Trim(text) == "<5")  // colder than it can tell
+    samples_.Set(rule, field.column, 5);
+  else if (rule == AirTemp && Trim(text) == "<1")
+    samples_.Set(rule, field.column, 1);
+  else
+    samples_.Set(rule, field.column, StringToDouble(text));
+}
+
+/// Ratios may be given as hundredths, without a point; the first number decides for the whole file.
+double UTECCSVLog::AirFuelOf(std::string_view text) {
+  if (const auto ratio = AirFuelOfWord(text)) return *ratio;
+  if (SameIgnoringCase(text, "W/B")) return 24.5;
+  if (text == ">25:1") return 25;
+  const double number = StringToDouble(text);
+  if (!IsNumeric(text)) return number;
+  if (!hundredths_) hundredths_ = text.find('.') == std::string_view::npos;
+  return Ratio(number);
+}
+
+}  // namespace
+
+LoadOutcome LoadUTECCSVLog(std::string_view bytes, const LoadContext& context) {
+  UTECCSVLog log(bytes, context);
+  return LoadSampleLog(log, bytes, context, kUTECCSVLog);
+}
+
+}  // namespace tarnview

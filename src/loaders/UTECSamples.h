@@ -1,0 +1,68 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "base/Numbers.h"
+#include "loaders/FMLinkLog.h"
+#include "model/Column.h"
+
+namespace tarnview {
+
+/// How a field of a UTEC log becomes stored values; the same in both forms of the log.
+enum class UTECRule {
+  Factored,         ///< number x factor of the column's item
+  Time,             ///< half milliseconds
+  GaugeMAP,         ///< psi above the atmosphere
+  MAP,              ///< psi above 100 kPa
+  AirFuel,          ///< a ratio or a word
+  CoolantTemp,      ///< degrees C
+  AirTemp,          ///< degrees C
+  Boost,            ///< the wastegate's duty in open loop, else the closed loop's value
+  WastegateDuty,    ///< of 133
+  InjectorDuty,     ///< %, at most 100
+  ModifiedAdvance,  ///< degrees, or "ECU": as the ECU has it
+  ModifiedFuel,     ///< %, on top of the item's zero
+};
+
+/// The samples of a UTEC log as they grow, field by field.
+class UTECSamples {
+ public:
+  explicit UTECSamples(const LoadContext& context);
+
+  void Add();
+
+  /// For a rule that stores the number x 10^scale as it stands: the scale; -1 for any other.
+  int ScaleOf(UTECRule rule, Column column) const;
+  void SetStored(Column column, std::int32_t stored) { store_.Set(column, row_, stored); }
+  /// Any rule but those below, which need more than a number.
+  void Set(UTECRule rule, Column column, double number);
+  /// `ratio` as such: 14.7.
+  void SetAirFuel(double ratio) { SetFactored(kAF, ratio); }
+  void KeepAirFuel();  ///< that of the sample before
+  void SetModifiedAdvance(std::string_view text, double number);
+
+  /// What follows once all samples are there. Without a time column a log runs at five lines a second.
+  void Finish(bool hasTime, bool hasModifiedFuel);
+
+ private:
+  void SetFactored(Column column, double value) { store_.Set(column, row_, RoundToLong(factor_[column] * value)); }
+  void SetBoostAndVacuum(std::int32_t boost, std::int32_t vacuum);
+  void SetGaugeMAP(double psi);
+  void SetMAP(double psi);
+  void SetAirTemp(double degrees);
+  void SetTime(double count);
+
+  const LoadContext& context_;
+  SampleStore& store_;
+  const std::int32_t atmosphere_;  ///< as "MAP" is stored
+  const std::int32_t noModifiedFuel_;
+  double factor_[kColumnCount];
+  int row_ = -1;
+  std::optional<double> firstTime_;
+};
+
+/// The ratio of "RICH" and "LEAN", in any case; nothing for any other text.
+std::optional<double> AirFuelOfWord(std::string_view text);
+
+}  // namespace tarnview
