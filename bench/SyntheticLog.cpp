@@ -69,7 +69,7 @@ void AddZones(std::string& log) {
   AddRows(log, 3, 6, 16);
   AddRows(log, 2, 1, 16);
   AddRows(log, 0, 1, 16);
-  log += " ATM = 101 kPa        1.8 18-Sep-2001\r\nNo lambda/knock zone changes\r\n";
+  log += " ATM = 101 kPa        1.8  18-Sep-01\r\nNo lambda/knock zone changes\r\n";
 }
 
 }  // namespace

@@ -11,6 +11,9 @@
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 #include "model/clsLogFamilies.h"
+#include "power/clsCarDef.h"
+#include "universal/clsDataLog.h"
+#include "zones/clsBenchmark.h"
 
 namespace tarnview {
 
@@ -21,9 +24,17 @@ struct Globals {
   Settings settings;
   ConversionTables tables;
   OpenLog log;
-  std::string gstrINIFile;         ///< full path of Tarnview.ini; empty: no settings file
-  std::string gstrInstallINIFile;  ///< Tarnview_Install.ini beside it
-  bool gblnStarting = false;       ///< until the first activation of the main window is over
+  clsDataLog gclsDataLogDefinition;  ///< of Universal logs
+  clsSampleGraphPresets gcolSampleGraphPresets;
+  clsScatterGraphPresets gcolScatterGraphPresets;
+  clsCarDefs gcolCarDefs;
+  clsBenchmarks gcolBenchmarks;
+  std::string missingDefinitionFile;  ///< named by the settings and not there; kept in them until another is chosen
+  std::string gstrProgramFolder;      ///< with a separator at its end; empty: there is none, and no report is written
+  std::string gstrINIFile;            ///< full path of Tarnview.ini; empty: no settings file
+  std::string gstrInstallINIFile;     ///< Tarnview_Install.ini beside it, else in the data folder
+  std::string gstrINIFileToWrite;     ///< where the settings are kept; empty: nowhere (the command line)
+  bool gblnStarting = false;          ///< until the first activation of the main window is over
 };
 
 /// What the program asks of the world, each behind a small interface.

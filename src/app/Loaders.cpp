@@ -9,6 +9,7 @@
 #include "loaders/UTECCSVLog.h"
 #include "loaders/UTECFixedLog.h"
 #include "model/clsFileTypes.h"
+#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
@@ -24,6 +25,7 @@ constexpr std::array kLoaders{
     LoaderRow{kLinkPlusLog, LoadLinkPlusLog},
     LoaderRow{kUTECCSVLog, LoadUTECCSVLog},
     LoaderRow{kUTECFixedLog, LoadUTECFixedLog},
+    LoaderRow{kUniversalLog, LoadGenericDataLog},
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Settings.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
@@ -10,6 +11,7 @@
 #include "ui/Label.h"
 #include "ui/ListView.h"
 #include "ui/MenuItem.h"
+#include "ui/Picture.h"
 #include "ui/ProgressBar.h"
 #include "ui/ScrollBar.h"
 #include "ui/StatusBar.h"
@@ -19,7 +21,7 @@
 namespace tarnview {
 
 /// What the zoom box offers; the zoom menus' entries bear the same numbers as their index.
-inline const std::vector<int> kZoomAmounts{2, 3, 4, 5, 10, 20, 30, 40, 50, 100};
+inline const std::vector<int> kZoomAmounts(kZoomBoxAmounts.begin(), kZoomBoxAmounts.end());
 /// Entries of the recent list.
 inline constexpr int kMostRecentFiles = 9;
 
@@ -49,6 +51,10 @@ class MainWindowControls : public Form {
   ComboBox cboZoomAmount{*this, "cboZoomAmount", true};
   CheckBox chkShowCheckedOnly{*this, "chkShowCheckedOnly", "&Checked Data Items Only"};
   ListView lvwSampleDetails{*this, "lvwSampleDetails", {{"Item"}, {"Value", true}}, true};
+  ListView lvwPresets{*this, "lvwPresets", {{"Preset Graphs"}}};
+  Frame fraZoneInfl{*this, "fraZoneInfl", "Zone Influence"};
+  ControlArray<Label> lblZoneInfl{*this, "lblZoneInfl", UpTo(4), ""};
+  Picture picZoneInfl{*this, "picZoneInfl", 1500, 900};
 
   // The graph, or the place where it will be.
   Chart chSampleGraph{*this, "chSampleGraph"};

@@ -1,7 +1,16 @@
 #include "app/Program.h"
 
+#include <utility>
+
+#include "app/FirstRun.h"
+#include "base/Paths.h"
+
 namespace tarnview {
 namespace {
+
+constexpr int kFirstRunCancelled = 65;
+constexpr int kDefinitionNotFound = 79;
+constexpr const char* kInstallFile = "Tarnview_Install.ini";
 
 std::string In(const std::string& folder, const char* name) { return folder.empty() ? "" : folder + name; }
 
@@ -17,32 +26,60 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
       programs_(processes, host),
       help_(files, programs_, messages_, In(folders_.data, "Documentation/")),
       services_{host, files, clock, programs_, errors_, messages_, help_} {
-  globals_.gstrINIFile = settingsFile.empty() ? In(folders_.program, "Tarnview.ini") : std::move(settingsFile);
-  globals_.gstrInstallINIFile = In(folders_.program, "Tarnview_Install.ini");
+  globals_.gstrProgramFolder = folders_.program;
+  if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");
+  globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
+}
+
+void Program::FindInstallINIFile() {
+  std::string& path = globals_.gstrInstallINIFile;
+  if (globals_.gstrINIFile.empty()) return;
+  path = GetParentFolder(globals_.gstrINIFile) + kInstallFile;
+  if (!files_.FileExists(path)) path = In(folders_.data, kInstallFile);
 }
 
 void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
   clsFileTypes& types = globals_.kinds.gcolFileTypes;
   for (int id = 1; id <= types.Count(); ++id) types.Item(id).blnEnabled = true;
-  LoadINIFileNew();
   if (splash) {
     splash_ = std::make_unique<frmSplash>(host_);
     splash_->Show();
-    splash_->tmrTimer.Enabled = true;
     host_.DoEvents();
+    if (!HasINIFile()) {
+      messages_.ShowMessage(kFirstRunCancelled);
+      splash_->Unload();
+      return;
+    }
+    splash_->tmrTimer.Enabled = true;
   }
+  FindInstallINIFile();
+  settingsFile_.LoadINIFileNew();
+  FindDefinition();
   globals_.gblnStarting = true;
   LoadMainForm(commandLine);
 }
 
-void Program::LoadINIFileNew() {
-  if (globals_.gstrINIFile.empty()) return;
-  if (const auto text = files_.Read(globals_.gstrINIFile)) globals_.settings = ReadSettings(*text);
+/// Asks for one where there is none; false if the user cancelled.
+bool Program::HasINIFile() {
+  const std::string& path = globals_.gstrINIFile;
+  if (path.empty() || files_.FileExists(path)) return true;
+  return FirstRun(globals_, services_, folders_.program, folders_.data).GenerateINIFile(path);
+}
+
+/// A definition that is named on the command line is told of when it is loaded.
+void Program::FindDefinition() {
+  std::string& path = globals_.settings.gstrGenericDefinitionFile;
+  if (!definitionFile_.empty()) {
+    path = definitionFile_;
+  } else if (!path.empty() && !files_.FileExists(path)) {
+    messages_.ShowMessage(kDefinitionNotFound, false, path);
+    globals_.missingDefinitionFile = std::exchange(path, "");
+  }
 }
 
 void Program::LoadMainForm(const std::string& commandLine) {
-  main_ = std::make_unique<frmDataLogViewer>(globals_, services_);
+  main_ = std::make_unique<frmDataLogViewer>(globals_, services_, settingsFile_);
   main_->Show();
   TellFolderTroubles();
   TrapEvent(errors_, "frmDataLogViewer", "Form_Activate", [&] { main_->OpenFromCommandLine(commandLine); });

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/Globals.h"
+#include "app/SettingsFile.h"
 #include "app/frmDataLogViewer.h"
 #include "app/frmSplash.h"
 
@@ -22,26 +23,39 @@ class Program {
   Program(Host& host, FileSystem& files, Clock& clock, Processes& processes, ProgramFolders folders,
           std::string settingsFile = "");
 
-  /// Brings up the splash (where wanted) and the main window, and opens the file that the command line names.
+  /// The definition of Universal logs, in place of the one that the settings name; before Start.
+  void UseDefinition(std::string path) { definitionFile_ = std::move(path); }
+
+  /// Where the settings go when the main window closes; before Start. Without it, a program with a folder keeps them
+  /// there, and one without a folder nowhere.
+  void WriteSettingsTo(std::string path) { globals_.gstrINIFileToWrite = std::move(path); }
+
+  /// Brings up the splash (where wanted) and the main window, and opens the file that the command line names. With the
+  /// splash, a program that has no settings file yet asks for one first; if the user cancels that, no window stays.
   void Start(const std::string& commandLine, bool splash);
 
   Globals& Global() { return globals_; }
+  const Globals& Global() const { return globals_; }
   frmDataLogViewer& MainWindow() { return *main_; }
 
  private:
-  void LoadINIFileNew();
+  bool HasINIFile();
+  void FindInstallINIFile();
+  void FindDefinition();
   void TellFolderTroubles();
   void LoadMainForm(const std::string& commandLine);
 
   Host& host_;
   FileSystem& files_;
   ProgramFolders folders_;
+  std::string definitionFile_;
   Globals globals_;
   ErrorLog errors_;
   Messages messages_;
   EXEFunctions programs_;
   Help help_;
   Services services_;
+  SettingsFile settingsFile_{globals_, services_};
   std::unique_ptr<frmSplash> splash_;
   std::unique_ptr<frmDataLogViewer> main_;
 };

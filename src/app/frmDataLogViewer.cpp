@@ -12,10 +12,11 @@ constexpr int kFileNotLoaded = 15;
 
 }  // namespace
 
-frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services)
+frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile)
     : MainWindowControls(services.host),
       globals_(globals),
       services_(services),
+      settingsFile_(settingsFile),
       log_(globals.log),
       details_({lvwSampleDetails, chkShowCheckedOnly, chSampleGraph}, plot_, log_, globals.kinds.gcolLogFamilies),
       graph_(*this, {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture}, range_,
@@ -25,6 +26,10 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services)
                   mnuViewPageRight, mnuViewStart, mnuViewFinish},
                  plot_, range_, log_, *this),
       zoom_({cboZoomAmount, chkQuickGraph}, plot_, range_, log_, services.messages, *this),
+      presets_({lvwPresets, lvwSampleDetails, chkShowCheckedOnly, chkFixY, txtYMax}, globals.gcolSampleGraphPresets,
+               globals.kinds.gcolLogFamilies, *this),
+      export_({lvwSampleDetails, chkShowCheckedOnly}, range_, log_, services.files, status_),
+      zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, plot_, log_),
       tags_(services.host, log_.gcolLogTags, *this),
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
@@ -34,24 +39,12 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services)
 }
 
 void frmDataLogViewer::Form_Load() {
-  const Settings& settings = globals_.settings;
-  cboZoomAmount.Text = std::to_string(settings.gintZoomAmount);
-  chkQuickGraph.Value = settings.gblnQuickGraph;
-  txtYMax.Text = std::to_string(settings.gintGraphYMax);
-  txtYMax.Enabled = updYMax.Enabled = false;
-  chkFixY.Value = settings.gblnFixGraphMax;
-  mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
-  for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
-    const auto [fileType, path] = RecentFiles::ParseTag(*entry);
-    const int known =
-        fileType == 0 ? globals_.kinds.gcolFileTypes.GuessFileType(path, settings.gintDefaultFileType) : fileType;
-    recent_.AddRecentlyUsedFile(path, known);
-  }
-  const bool universal = settings.gintDefaultFileType == kUniversalLog;
-  const auto& items = universal ? globals_.catalogue.gcolUniversalDataItems : globals_.catalogue.gcolFixedDataItems;
-  details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType, items);
-  details_.SetCheckedItems(settings.gcolCheckedDataItems);
-  chkShowCheckedOnly.Value = settings.gblnShowCheckedOnly;
+  if (globals_.catalogue.gcolUniversalDataItems.Count() == 0) LoadDataLogDefinitionLocal(false);
+  settingsFile_.LoadPresets();
+  JoinDefinitionPresets();
+  TakeSettings();
+  presets_.PopulatePresetGraphs(false, PresetFileType());
+  zoneInfluence_.DisplayZoneInfluence();
   HideForLoad();
 }
 
@@ -98,7 +91,9 @@ bool frmDataLogViewer::SaveChangesPrompt() {
 }
 
 void frmDataLogViewer::Form_Unload() {
+  globals_.settings.windows.main = PlacementOf(*this);
   nonModalMessages_.UnloadAll();
+  WriteINIFile();
   tags_.Unload();
 }
 

@@ -7,13 +7,19 @@
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
 #include "app/RecentFiles.h"
+#include "app/SettingsFile.h"
 #include "app/frmNonModalMessage.h"
+#include "customise/frmMaint.h"
+#include "loaders/FMLinkLog.h"
+#include "samplegraph/LogExport.h"
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/PointHighlight.h"
+#include "samplegraph/PresetGraphs.h"
 #include "samplegraph/SampleDetails.h"
 #include "samplegraph/SampleGraph.h"
 #include "samplegraph/Scrolling.h"
 #include "samplegraph/StatusArea.h"
+#include "samplegraph/ZoneInfluencePanel.h"
 #include "samplegraph/Zoom.h"
 #include "samplegraph/frmDataTags.h"
 #include "ui/FormCollection.h"
@@ -26,9 +32,10 @@ class frmDataLogViewer : public MainWindowControls,
                          private PointHighlight::MainWindow,
                          private Scrolling::MainWindow,
                          private Zoom::MainWindow,
+                         private PresetGraphs::MainWindow,
                          private frmDataTags::MainWindow {
  public:
-  frmDataLogViewer(Globals& globals, Services& services);
+  frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
   /// Opens a file; type 0 is guessed. False: nothing was loaded, and the user was told why.
   bool LoadDataFile(const std::string& path, int fileType);
@@ -39,12 +46,22 @@ class frmDataLogViewer : public MainWindowControls,
   /// False: the user does not want to lose edited zones.
   bool SaveChangesPrompt();
 
+  /// Loads the definition of Universal logs that the settings name, else the built-in one. `addPresets`: its presets
+  /// join the user's.
+  void LoadDataLogDefinitionLocal(bool addPresets);
+
+  /// Writes the settings file, where one is kept, with what the window shows now. False: the user was told.
+  bool WriteINIFile();
+
+  /// The last export since a log was opened wrote its file.
+  bool Exported() const { return exported_; }
   void DrawGraph() { graph_.DrawGraphChecked(); }
   void TellMessage(int id) { services_.messages.ShowMessage(id); }
   /// The plot range, as `Sample` values; 0 with no log.
   std::int64_t PlotFrom() const { return range_.From(); }
   std::int64_t PlotTo() const { return range_.To(); }
   SampleDetails& Details() { return details_; }
+  PresetGraphs& Presets() { return presets_; }
   PlotState& Plot() { return plot_; }
   const RecentFiles& Recent() const { return recent_; }
 
@@ -59,15 +76,37 @@ class frmDataLogViewer : public MainWindowControls,
   bool Form_KeyUp(const KeyPress& key) override;
 
  private:
+  // Settings.
+  void TakeSettings();
+  void GatherSettings();
+  void JoinDefinitionPresets();
+
   // Opening a file.
   void mnuFileOpen_Click();
   bool Load(const std::string& path, int fileType);
   void LoadConversionFiles();
+  const clsLogDataItems& ItemsOf(int fileType) const;
+  void TellUniversalOutcome(const std::string& path, LoadOutcome& outcome);
   void HideForLoad();
   void LoadDatalogFileSuccess(int fileType);
   void SetFirstRange();
   void SetDataLogViewerCaption();
   void RefreshDataTags();
+
+  // The graph's windows, panel and files.
+  void GotoSample();
+  void ShowAround(std::int32_t sample, bool showPointWidth);
+  void mnuFileExport_Click();
+  void mnuEditNewPreset_Click();
+  void mnuViewZoneInfl_Click();
+  void DisplayZoneInfluence();
+  bool IsLinkLog() const;
+  int PresetFileType() const;
+  /// Which list: 1 preset sample graphs.
+  void MaintainList(int list);
+  template <class Collection>
+  void Maintain(const frmMaint::Texts& texts, Collection& kept, std::function<bool(typename Collection::Record&)> edit);
+  bool EditPresetSample(clsSampleGraphPreset& preset);
 
   // Commands.
   std::vector<Command> FileCommands();
@@ -81,6 +120,7 @@ class frmDataLogViewer : public MainWindowControls,
   // What the parts ask for.
   void SetUpScrollBar() override { scrolling_.SetUp(); }
   void GraphDrawn() override;
+  void SampleShown(std::int32_t index) override { zoneInfluence_.ShowSample(index); }
   void ScrollOneStep(int direction) override { scrolling_.ScrollOneStep(direction); }
   void DrawSampleGraph() override { graph_.DrawSampleGraph(); }
   void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
@@ -90,6 +130,7 @@ class frmDataLogViewer : public MainWindowControls,
 
   Globals& globals_;
   Services& services_;
+  SettingsFile& settingsFile_;
   OpenLog& log_;
   PlotState plot_;
   StatusArea status_{*this, staDataLogViewer, proProgInd};
@@ -99,10 +140,15 @@ class frmDataLogViewer : public MainWindowControls,
   PointHighlight highlight_;
   Scrolling scrolling_;
   Zoom zoom_;
+  PresetGraphs presets_;
+  LogExport export_;
+  ZoneInfluencePanel zoneInfluence_;
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
   Commands commands_;
+  bool blnGotoShowPointWidth_ = false;
+  bool exported_ = false;
   bool drawn_ = false;  ///< a graph of the log that is open has been drawn
 };
 

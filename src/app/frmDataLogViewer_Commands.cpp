@@ -18,27 +18,33 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
       {&mnuFileSave, "mnuFileSave_Click", kNotYet, {}},
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", kNotYet, {}},
-      {&mnuFileExport, "mnuFileExport_Click", kNotYet, loaded},
+      {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
       {&mnuFilePrint, "mnuFilePrint_Click", kNotYet, {}},
       {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
       {&mnuFileDrawScatter, "mnuFileDrawScatter_Click", kNotYet, {}},
       {&mnuCopy, "mnuCopy_Click", kNotYet, {}},
-      {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", kNotYet, {}},
-      {&mnuEditNewPreset, "mnuEditNewPreset_Click", kNotYet, loaded},
+      {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
+       [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
+      {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
       {&mnuModulesZoneData, "mnuModulesZoneData_Click", kNotYet, {}},
       {&mnuModulesScatterGraph, "mnuModulesScatterGraph_Click", kNotYet, loaded},
       {&mnuModulesPowerGraph, "mnuModulesPowerGraph_Click", kNotYet, loaded},
       {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
       {&mnuToolsConvert, "mnuToolsConvert_Click", kNotYet, {}},
       {&mnuCustomiseOptions, "mnuCustomiseOptions_Click", kNotYet, {}},
-      {&mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", kNotYet, {}},
+      {&mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", [this] { MaintainList(1); }, {}},
       {&mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", kNotYet, {}},
       {&mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", kNotYet, {}},
       {&mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", kNotYet, {}},
       {&mnuHelpHelp, "mnuHelpHelp_Click", kNotYet, {}},
       {&mnuHelpAbout,
        "mnuHelpAbout_Click",
-       [this] { frmAbout(host, DefinitionDetails{}, [this] { StartSysInfo(); }).ShowModal(); },
+       [this] {
+         const clsDataLog& definition = globals_.gclsDataLogDefinition;
+         frmAbout(host, {definition.strName, definition.strVersion, definition.strComments}, [this] {
+           StartSysInfo();
+         }).ShowModal();
+       },
        {}},
   };
 }
@@ -49,9 +55,7 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
   const auto narrower = [this] { return drawn_ && range_.Span() >= 10; };
   const auto wider = [this] { return drawn_ && !range_.IsWholeLog(); };
   const auto previous = [this] { return drawn_ && !plot_.strPlotFromHistory[1].empty(); };
-  const auto linkFamily = [this] {
-    return log_.gintCurrentFileType == kFMLinkLog || log_.gintCurrentFileType == kMAPFile;
-  };
+  const auto linkFamily = [this] { return IsLinkLog(); };
   return {
       {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawGraph(); }, loaded},
       {&cmdZoomIn, "cmdZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
@@ -63,10 +67,11 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
       {&mnuViewZoomOut, "mnuViewZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
       {&mnuViewZoomFull, "mnuViewZoomFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
       {&mnuViewPrevious, "mnuViewPrevious_Click", [this] { zoom_.ShowPreviousGraph(); }, previous},
-      {&mnuViewGoto, "mnuViewGoto_Click", kNotYet, drawn},
+      {&mnuViewGoto, "mnuViewGoto_Click", [this] { GotoSample(); }, drawn},
       {&mnuViewNewDataTag, "mnuViewNewDataTag_Click", [this] { tags_.NewDataTag(); }, drawn},
       {&mnuViewTags, "mnuViewTags_Click", [this] { tags_.Show(); }, linkFamily},
-      {&mnuViewZoneInfl, "mnuViewZoneInfl_Click", kNotYet, linkFamily},
+      {&mnuViewZoneInfl, "mnuViewZoneInfl_Click", [this] { mnuViewZoneInfl_Click(); },
+       [this] { return IsLinkLog() && (log_.gblnSamplesLoaded || log_.gblnZonesLoaded); }},
   };
 }
 
@@ -87,7 +92,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
        same(cmdZoomFull)},
       {&mnuRightClickPrevGraph, "mnuRightClickPrevGraph_Click", [this] { zoom_.ShowPreviousGraph(); },
        same(mnuViewPrevious)},
-      {&mnuRightClickGoto, "mnuRightClickGoto_Click", kNotYet, drawn},
+      {&mnuRightClickGoto, "mnuRightClickGoto_Click", [this] { GotoSample(); }, drawn},
       {&mnuRightClickPlotFrom, "mnuRightClickPlotFrom_Click", [this, set] { set(PlotRangeFrom); }, drawn},
       {&mnuRightClickPlotTo, "mnuRightClickPlotTo_Click", [this, set] { set(PlotRangeTo); }, drawn},
       {&mnuRightClickPlotFromAnd, "mnuRightClickPlotFromAnd_Click", [this, setAndDraw] { setAndDraw(PlotRangeFrom); },

@@ -41,7 +41,8 @@ void frmDataLogViewer::mnuFileOpen_Click() {
   dialog.filter = types.CommonDialogFilter();
   dialog.filterIndex = types.SequenceFromID(log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
                                                                          : globals_.settings.gintDefaultFileType);
-  dialog.initialPath = log_.gstrCurrentFile.empty() ? globals_.settings.gstrInitialDirectory : log_.gstrCurrentFile;
+  dialog.initialPath =
+      log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory : log_.gstrCurrentFile;
   dialog.path = log_.gstrCurrentFileTitle;
   if (!host.Choose(dialog)) return;
   host.DoEvents();
@@ -85,7 +86,8 @@ bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
 }
 
 bool frmDataLogViewer::Load(const std::string& path, int fileType) {
-  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  const clsLogDataItems& items = ItemsOf(fileType);
+  log_.Clear(items, 0);
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) {
     services_.messages.ShowMessage(kWrongKindOfFile);
@@ -98,14 +100,15 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
   }
   LoadConversionFiles();
   StatusProgress progress(status_);
-  const LoadOutcome outcome =
-      loader->load(*bytes, {log_, globals_.catalogue.gcolFixedDataItems, globals_.settings, globals_.tables, progress});
+  LoadOutcome outcome = loader->load(
+      *bytes, {log_, items, globals_.settings, globals_.tables, progress, &globals_.gclsDataLogDefinition});
+  if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
   for (const LoadMessage& message : outcome.messages) services_.messages.ShowMessage(message.id, false, message.extra);
   return outcome.loaded;
 }
 
 void frmDataLogViewer::HideForLoad() {
-  drawn_ = false;
+  drawn_ = exported_ = false;
   log_.gblnSamplesLoaded = log_.gblnZonesLoaded = log_.gblnChangesLoaded = false;
   log_.glngFirstSampleTime = log_.glngLastSampleTime = 0;
   log_.glngLowestAirTemp = kNoAirTemp;
@@ -118,6 +121,8 @@ void frmDataLogViewer::HideForLoad() {
   Caption = std::string("Tarnview");
   status_.SayLoaded("");
   details_.ClearValues();
+  zoneInfluence_.ClearZoneInfluence();
+  fraZoneInfl.Enabled = false;
   commands_.Update();
   host.DoEvents();
 }
@@ -134,9 +139,12 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
     scrolling_.TakeLog();
     fraGraphSeriesFrame.Enabled = true;
   }
+  export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
+  presets_.PopulatePresetGraphs(false, fileType);
   SetDataLogViewerCaption();
   log_.gblnZonesDirty = false;
   commands_.Update();
+  DisplayZoneInfluence();
   RefreshDataTags();
 }
 

@@ -12,7 +12,10 @@ enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongCommandLine = 2 };
 
 void AddLoadCommand(CLI::App& program, int& status);
 void AddTableCommand(CLI::App& program, int& status);
+void AddExportCommand(CLI::App& program, int& status);
 void AddGraphCommand(CLI::App& program, int& status);
+void AddDefinitionCommand(CLI::App& program, int& status);
+void AddSettingsCommand(CLI::App& program, int& status);
 void AddDriveCommand(CLI::App& program, int& status);
 
 /// Runs the command line; the exit status. (arguments as of main)

@@ -14,6 +14,7 @@ namespace {
 struct DriveOptions {
   std::string script;
   std::string settings;
+  std::string writeSettings;
 };
 
 int Drive(const DriveOptions& options) {
@@ -27,7 +28,7 @@ int Drive(const DriveOptions& options) {
     return kWrongCommandLine;
   }
   try {
-    Driver(ParseScript(text), options.settings).Run();
+    Driver(ParseScript(text), options.settings, options.writeSettings).Run();
   } catch (const ScriptError& error) {
     const Json out{{"error", ToUtf8(error.what())}, {"line", error.line}};
     std::fprintf(stderr, "%s\n", out.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
@@ -46,6 +47,7 @@ void AddDriveCommand(CLI::App& program, int& status) {
   auto options = std::make_shared<DriveOptions>();
   command->add_option("SCRIPT", options->script, "The script, or - for standard input")->required();
   command->add_option("--settings", options->settings, "Start with this Tarnview.ini")->check(CLI::ExistingFile);
+  command->add_option("--write-settings", options->writeSettings, "Write the settings at the end to this file");
   command->callback([options, &status] { status = Drive(*options); });
 }
 

@@ -45,13 +45,17 @@ int ScriptProcesses::Open(const std::string& path) {
   return kOpened;
 }
 
-Driver::Driver(std::vector<ScriptLine> script, const std::string& settingsFile)
-    : script_(std::move(script)), program_(*this, files_, clock_, processes_, {}, settingsFile) {
+Driver::Driver(std::vector<ScriptLine> script, const std::string& settingsFile, const std::string& writeSettings)
+    : script_(std::move(script)),
+      writesSettings_(!writeSettings.empty()),
+      program_(*this, files_, clock_, processes_, {}, settingsFile) {
+  program_.WriteSettingsTo(writeSettings);
   program_.Start("", false);
 }
 
 void Driver::Run() {
   while (next_ < script_.size()) Step();
+  if (writesSettings_) program_.MainWindow().Unload();
 }
 
 /// A modal window holds the script until it closes. A script that ends first leaves it as its frame would.

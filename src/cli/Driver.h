@@ -22,9 +22,11 @@ class ScriptProcesses : public RealProcesses {
 /// the control's own affair.
 class Driver : private ConsoleHost {
  public:
-  Driver(std::vector<ScriptLine> script, const std::string& settingsFile);
+  /// The settings that the main window leaves when it closes go to `writeSettings`; empty: nowhere.
+  Driver(std::vector<ScriptLine> script, const std::string& settingsFile, const std::string& writeSettings = "");
 
-  /// Runs the script to its end; throws ScriptError for a line that cannot be done.
+  /// Runs the script to its end, which closes a main window whose settings are wanted; throws ScriptError for a line
+  /// that cannot be done.
   void Run();
 
  private:
@@ -55,6 +57,7 @@ class Driver : private ConsoleHost {
   Control& FindControl(const std::string& name);
 
   std::vector<ScriptLine> script_;
+  bool writesSettings_;
   std::size_t next_ = 0;
   RealFileSystem files_;
   RealClock clock_;

@@ -11,6 +11,7 @@ namespace tarnview {
 namespace {
 
 struct GraphOptions : LogOptions {
+  std::string preset;
   std::string quick = "Y";
   std::optional<int> fixMax;
   std::optional<int> scheme;
@@ -47,6 +48,10 @@ bool DrawInWindow(LogSession& session, const GraphOptions& options) {
   if (options.scheme) session.Global().settings.gintGraphColourScheme = *options.scheme;
   if (!session.Open() || !session.Log().gblnSamplesLoaded) return false;
   if (!options.items.empty()) window.Details().SetCheckedItems(session.Items(false));
+  if (!options.preset.empty() && !window.Presets().ApplyNamed(FromUtf8(options.preset))) {
+    std::fprintf(stderr, "tarnview-cli: this log has no preset graph \"%s\"\n", options.preset.c_str());
+    return false;
+  }
   if (options.fixMax) {
     window.chkFixY.Value = true;
     window.txtYMax.Text = std::to_string(*options.fixMax);
@@ -86,6 +91,8 @@ void AddGraphCommand(CLI::App& program, int& status) {
   command->footer("Example:\n  tarnview-cli graph run.txt --items 3,5,20 --out run.png --size 1400x800");
   auto options = std::make_shared<GraphOptions>();
   options->AddTo(*command);
+  command->add_option("--preset", options->preset, "Draw the first preset graph of this name")
+      ->excludes(command->get_option("--items"));
   command->add_option("--quick", options->quick, "Quick Graph, Y or N (Y)")->check(CLI::IsMember({"Y", "N"}));
   command->add_option("--fix-max", options->fixMax, "Fix the vertical maximum");
   command->add_option("--scheme", options->scheme, "1 grey, 2 black, 3 white")->check(CLI::Range(1, 3));

@@ -48,7 +48,8 @@ int Load(const LogOptions& options) {
            {"lowest_air_temp", log.glngLowestAirTemp},
            {"tags", TagsJson(log.gcolLogTags)}};
   AddZones(out, log);
-  out["definition"] = "";
+  const bool universal = log.gintCurrentFileType == kUniversalLog;
+  out["definition"] = universal ? ToUtf8(session.Global().gclsDataLogDefinition.strName) : "";
   out["messages"] = MessagesJson(session.Host().messages);
   Print(out);
   return ok ? kDone : kFailed;

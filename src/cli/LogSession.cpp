@@ -18,6 +18,7 @@ void LogOptions::AddTo(CLI::App& command) {
   command.add_option("--type", fileType, "File type, 1 to 8; without it the type is guessed")->check(CLI::Range(1, 8));
   command.add_option("--settings", settings, "Read this Tarnview.ini; without it every setting has its default")
       ->check(CLI::ExistingFile);
+  command.add_option("--definition", definition, "Read Universal logs through this definition file");
   command.add_option("--from", from, "First Sample of the range");
   command.add_option("--to", to, "Last Sample of the range");
   command.add_option("--items", items, "Data item numbers with commas, or \"all\"");
@@ -25,6 +26,7 @@ void LogOptions::AddTo(CLI::App& command) {
 
 LogSession::LogSession(const LogOptions& options)
     : options_(options), program_(host_, files_, clock_, processes_, {}, options.settings) {
+  program_.UseDefinition(options.definition);
   program_.Start("", false);
 }
 
@@ -40,7 +42,8 @@ void LogSession::EnterRange() {
 }
 
 std::vector<int> LogSession::Items(bool allByDefault) const {
-  const int count = kColumnCount;
+  const clsLogDataItems* items = program_.Global().log.gcolDataItems;
+  const int count = items ? items->Count() : kColumnCount;
   std::vector<int> numbers;
   if (options_.items == "all" || (options_.items.empty() && allByDefault)) {
     numbers.resize(static_cast<std::size_t>(count));

@@ -15,6 +15,7 @@ struct LogOptions {
   std::string log;
   std::optional<int> fileType;
   std::string settings;
+  std::string definition;
   std::optional<std::string> from, to;
   std::string items;
 

@@ -39,6 +39,7 @@ void PointHighlight::ShowSample(std::int32_t index) {
   index = std::min(index, log_.glngLastSample);
   plot_.lngHighlightSample = log_.Sample(index);
   details_.PopulateSampleListView(index);
+  mainWindow_.SampleShown(index);
   controls_.cmdDataPointLeft.Enabled = range_.From() > log_.glngFirstSampleTime || plot_.lngSelectedPoint >= 2;
   // Compares sample numbers and passes thinning over, on purpose.
   controls_.cmdDataPointRight.Enabled = range_.From() + plot_.lngSelectedPoint - 1 < log_.glngLastSampleTime;

@@ -21,10 +21,11 @@ class PointHighlight {
     CommandButton& cmdDataPointLeft;
     CommandButton& cmdDataPointRight;
   };
-  /// What it needs of the main window: one step of the graph, where the points end.
+  /// What it needs of the main window.
   struct MainWindow {
     virtual ~MainWindow() = default;
-    virtual void ScrollOneStep(int direction) = 0;  ///< -1 left, 1 right, stopping at the log's end
+    virtual void ScrollOneStep(int direction) = 0;     ///< -1 left, 1 right, stopping at the log's end
+    virtual void SampleShown(std::int32_t index) = 0;  ///< the store index whose values are on show now
   };
   PointHighlight(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
                  SampleDetails& details, StatusArea& status, MainWindow& mainWindow);

@@ -54,8 +54,11 @@ std::string CheckedKey(int intSeq) { return "K" + PaddedText(intSeq, 2); }
 void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const SampleListForm& form,
                          const clsLogFamilies& families, const clsLogDataItems& objItems) {
   if (lvw.CheckBoxes) NoteChecks(lvw, objCheckedKeys);
-  const int lngLogFamily = form.lngFileType > 0 ? families.FirstLogFamily(form.lngFileType) : 0;
-  if (form.lngFileType > 0 && lngLogFamily < 1) return;
+  int lngLogFamily = form.lngLogFamily;
+  if (lngLogFamily == 0 && form.lngFileType > 0) {
+    lngLogFamily = families.FirstLogFamily(form.lngFileType);
+    if (lngLogFamily < 1) return;
+  }
 
   std::vector<ListView::Row> rows;
   for (const clsLogDataItem* item : objItems.InDisplayOrder()) {

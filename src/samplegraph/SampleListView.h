@@ -28,6 +28,7 @@ struct SampleListForm {
   int intMode = kAllItems;
   bool blnSeqColumn = false;  ///< the first column holds the item number, "05"
   int lngFileType = 0;        ///< items of this file type's family; 0 for all
+  int lngLogFamily = 0;       ///< items of this family, where it is not 0
 };
 
 /// Fills a list with data items in display order. Checks of rows on show are noted in `objCheckedKeys` first and put

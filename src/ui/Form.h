@@ -31,6 +31,11 @@ class Form {
   CommandButton* DefaultButton = nullptr;  ///< what Enter presses
   CommandButton* CancelButton = nullptr;   ///< what Escape presses
 
+  // Where the window stands and what it is: kept up to date by the toolkit, which also takes what Form_Load sets here.
+  // In twips, 15 to a pixel of a screen with 96 to the inch. A Width of 0: the design size, where the desktop puts it.
+  int Left = 0, Top = 0, Width = 0, Height = 0;
+  int WindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized
+
   const std::vector<Control*>& Controls() const { return controls_; }
   /// The control of that name and index (-1 for one outside an array); nullptr if there is none.
   Control* Find(std::string_view name, int index = -1) const;

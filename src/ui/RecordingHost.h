@@ -13,7 +13,7 @@ namespace tarnview {
 /// What a script answers to the next box or dialog.
 struct Answer {
   enum class Kind { Yes, No, Ok, Cancel, File, Folder, Colour, Printer } kind = Kind::Ok;
-  std::string path;
+  std::string path = {};
   long colour = 0;
   int filterIndex = 0;  ///< of a file dialog, from 1; 0 leaves it
 };

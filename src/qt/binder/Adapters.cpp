@@ -7,6 +7,7 @@
 #include "qt/binder/ChartAdapter.h"
 #include "qt/binder/ListViewAdapter.h"
 #include "qt/binder/MenuAdapters.h"
+#include "qt/binder/PictureAdapter.h"
 #include "qt/binder/TextAdapters.h"
 #include "qt/binder/TimerAdapter.h"
 
@@ -39,6 +40,7 @@ constexpr Maker kPairs[] = {
     Pair<TextBox, QLineEdit, LineEditAdapter>,
     Pair<TextBox, QPlainTextEdit, TextEditAdapter>,
     Pair<ComboBox, QComboBox, ComboBoxAdapter>,
+    Pair<ListBox, QListWidget, ListBoxAdapter>,
     Pair<ListView, QTreeWidget, ListViewAdapter>,
     Pair<UpDown, UpDownWidget, UpDownAdapter>,
     Pair<ScrollBar, QScrollBar, ScrollBarAdapter>,
@@ -48,6 +50,7 @@ constexpr Maker kPairs[] = {
     Pair<MenuItem, QAction, MenuActionAdapter>,
     Pair<MenuItem, QAbstractButton, MenuButtonAdapter>,
     Pair<Chart, ChartWidget, ChartAdapter>,
+    Pair<Picture, PictureWidget, PictureAdapter>,
     Unseen<Timer, TimerAdapter>,
 };
 

@@ -72,4 +72,21 @@ void ComboBoxAdapter::ShowContent() {
   if (box_.Editable && view_.currentText() != text) view_.setEditText(text);
 }
 
+ListBoxAdapter::ListBoxAdapter(ListBox& box, QListWidget& view, Binder& binder)
+    : Adapter(box, &view, binder), box_(box), view_(view) {
+  connect(&view, &QListWidget::currentRowChanged, this, [this](int row) { box_.ListIndex = row; });
+}
+
+void ListBoxAdapter::ShowContent() {
+  const QSignalBlocker quiet(view_);
+  view_.clear();
+  for (const std::string& entry : box_.Entries()) view_.addItem(ToQt(entry));
+  ShowSelection();
+}
+
+void ListBoxAdapter::ShowSelection() {
+  const QSignalBlocker quiet(view_);
+  view_.setCurrentRow(box_.ListIndex);
+}
+
 }  // namespace tarnview

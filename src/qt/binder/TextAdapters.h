@@ -4,12 +4,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include "qt/binder/Adapter.h"
 #include "ui/ComboBox.h"
 #include "ui/Frame.h"
 #include "ui/Label.h"
+#include "ui/ListBox.h"
 #include "ui/TextBox.h"
 
 namespace tarnview {
@@ -79,6 +81,19 @@ class ComboBoxAdapter : public Adapter {
  private:
   ComboBox& box_;
   QComboBox& view_;
+};
+
+class ListBoxAdapter : public Adapter {
+ public:
+  ListBoxAdapter(ListBox& box, QListWidget& view, Binder& binder);
+
+ protected:
+  void ShowContent() override;
+  void ShowSelection() override;
+
+ private:
+  ListBox& box_;
+  QListWidget& view_;
 };
 
 }  // namespace tarnview

@@ -6,8 +6,12 @@
 
 #include "app/Program.h"
 #include "app/frmAbout.h"
+#include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
+#include "samplegraph/frmGoto.h"
+#include "samplegraph/frmNewPresetName.h"
+#include "samplegraph/frmPresetSampleDetails.h"
 
 namespace tarnview {
 
@@ -24,10 +28,15 @@ class AllWindows {
   struct NoMainWindow;
 
   void Fill();
+  void MakeGraphWindows();
 
   RealFileSystem files_;
   RealClock clock_;
   RealProcesses processes_;
+  ErrorLog errors_{files_, clock_, ""};
+  Messages messages_;
+  EXEFunctions programs_;
+  Help help_;
   Program program_;
   std::unique_ptr<NoMainWindow> mainWindow_;
   clsLogTags tagList_;
@@ -35,6 +44,15 @@ class AllWindows {
   frmAbout about_;
   frmNonModalMessage message_;
   frmDataTags tags_;
+  OpenLog oneSample_;  ///< stands in where no log is open
+  // The windows that need a program which has started.
+  std::unique_ptr<frmGoto> goto_;
+  std::unique_ptr<frmNewPresetName> newPreset_;
+  std::unique_ptr<MaintainedCollection<clsSampleGraphPresets>> presetList_;
+  std::unique_ptr<frmMaint> maint_;
+  std::unique_ptr<frmPresetSampleDetails> presetDetails_;
+  std::unique_ptr<DefinitionFiles> definitionFiles_;
+  std::unique_ptr<frmFindINIFile> firstRun_;
 };
 
 }  // namespace tarnview

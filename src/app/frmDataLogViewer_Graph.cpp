@@ -1,0 +1,133 @@
+// What the main window offers around the graph: a sample to go to, presets and their list, the export, zone influence.
+
+#include "app/frmDataLogViewer.h"
+#include "base/Numbers.h"
+#include "samplegraph/frmGoto.h"
+#include "samplegraph/frmNewPresetName.h"
+#include "samplegraph/frmPresetSampleDetails.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kExportFailed = 64;
+/// A graph narrower than this gives way to the width of Show Point.
+constexpr std::int64_t kNarrowGraph = 10;
+
+}  // namespace
+
+void frmDataLogViewer::GotoSample() {
+  frmGoto window(host, log_, services_.help, plot_.lngHighlightSample, blnGotoShowPointWidth_);
+  window.ShowModal();
+  if (window.CloseMethod() != frmGoto::kAccepted || window.lngSampleNumber() <= 0) return;
+  blnGotoShowPointWidth_ = window.blnShowPointWidth();
+  ShowAround(window.lngSampleNumber(), blnGotoShowPointWidth_);
+}
+
+void frmDataLogViewer::ShowAround(std::int32_t sample, bool showPointWidth) {
+  std::int64_t width = range_.Span();
+  if (showPointWidth || width < kNarrowGraph) width = globals_.settings.glngShowPointWidth;
+  const double half = static_cast<double>(width) / 2;
+  range_.SetFrom(RoundToLong(sample - half));
+  range_.SetTo(RoundToLong(sample + half));
+  // A range box that loses the focus forgets the highlight, so this comes first.
+  chSampleGraph.SetFocus();
+  plot_.lngHighlightSample = sample;
+  plot_.blnForceRedraw = true;
+  DrawGraph();
+}
+
+void frmDataLogViewer::mnuFileExport_Click() {
+  if (export_.gstrExportPathFile.empty()) export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
+  Dialog dialog;
+  dialog.kind = DialogKind::Save;
+  dialog.title = "Export";
+  dialog.filter = "CSV files (*.csv)|*.csv";
+  dialog.initialPath = dialog.path = export_.gstrExportPathFile;
+  exported_ = false;
+  if (!host.Choose(dialog)) return;
+  export_.gstrExportPathFile = dialog.path;
+  status_.Say("Exporting...");
+  Pointer = MousePointer::Hourglass;
+  exported_ = TrapEvent(services_.errors, "frmDataLogViewer", "ExportDataLog", [&] {
+    const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
+    export_.ExportDataLog(dialog.path, type.strDescription);
+  });
+  status_.HideProgress();
+  Pointer = MousePointer::Default;
+  status_.Say(exported_ ? "Export complete" : "");
+  if (!exported_) services_.messages.ShowMessage(kExportFailed);
+}
+
+void frmDataLogViewer::mnuEditNewPreset_Click() {
+  frmNewPresetName window(host, services_.messages, clsSampleGraphPresets::NEW_NAME);
+  window.ShowModal();
+  if (window.CloseMethod() != "OK") return;
+  presets_.AddPreset(window.strName(), PresetFileType());
+  WriteINIFile();
+  presets_.PopulatePresetGraphs(true, PresetFileType());
+  commands_.Update();
+}
+
+/// Before a first log, presets are those of the file type that the user opens most.
+int frmDataLogViewer::PresetFileType() const {
+  return log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType : globals_.settings.gintDefaultFileType;
+}
+
+void frmDataLogViewer::mnuViewZoneInfl_Click() {
+  globals_.settings.gblnDisplayZoneInfluence = !globals_.settings.gblnDisplayZoneInfluence;
+  DisplayZoneInfluence();
+}
+
+bool frmDataLogViewer::IsLinkLog() const {
+  return log_.gintCurrentFileType == kFMLinkLog || log_.gintCurrentFileType == kMAPFile;
+}
+
+/// The fuel map is that of the Link ECU: for other logs there is nothing to show, whatever the setting says.
+void frmDataLogViewer::DisplayZoneInfluence() {
+  const bool link = IsLinkLog();
+  fraZoneInfl.Enabled = link;
+  zoneInfluence_.gblnDisplayZoneInfluence = link && globals_.settings.gblnDisplayZoneInfluence;
+  zoneInfluence_.DisplayZoneInfluence();
+}
+
+bool frmDataLogViewer::EditPresetSample(clsSampleGraphPreset& preset) {
+  frmPresetSampleDetails window(
+      host,
+      {globals_.kinds.gcolLogFamilies, globals_.catalogue, globals_.settings.gstrDefaultWorkingDirectory,
+       services_.files, services_.clock, services_.errors, services_.messages, services_.help},
+      preset);
+  window.ShowModal();
+  if (window.CloseMethod() != "OK") return false;
+  preset = window.ColItem();
+  return true;
+}
+
+template <class Collection>
+void frmDataLogViewer::Maintain(const frmMaint::Texts& texts, Collection& kept,
+                                std::function<bool(typename Collection::Record&)> edit) {
+  MaintainedCollection<Collection> copy(kept, std::move(edit));
+  const clsLogFamilies& families = globals_.kinds.gcolLogFamilies;
+  frmMaint window(host, copy, texts, families, families.FirstLogFamily(globals_.settings.gintDefaultFileType),
+                  services_.messages, services_.help);
+  window.ShowModal();
+  if (window.CloseMethod() != "OK") return;
+  kept = copy.Col;
+  presets_.PopulatePresetGraphs(false, PresetFileType());
+  commands_.Update();
+}
+
+void frmDataLogViewer::MaintainList(int list) {
+  const struct {
+    frmMaint::Texts texts;
+    std::function<void(const frmMaint::Texts&)> maintain;
+  } kLists[] = {
+      {{"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolSampleGraphPresets, [this](auto& preset) { return EditPresetSample(preset); });
+       }},
+  };
+  const auto& row = kLists[list - 1];
+  row.maintain(row.texts);
+}
+
+}  // namespace tarnview

@@ -1,0 +1,68 @@
+// The main window's side of the settings: what it takes from them, and what it gives back when it closes.
+
+#include <algorithm>
+
+#include "app/frmDataLogViewer.h"
+#include "base/Numbers.h"
+#include "universal/BuiltInPresets.h"
+#include "universal/DefaultDataLogDefinition.h"
+#include "universal/DefinitionPresets.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kLeastGraphYMax = 10, kGreatestGraphYMax = 1000;
+
+}  // namespace
+
+void frmDataLogViewer::TakeSettings() {
+  const Settings& settings = globals_.settings;
+  ApplyPlacement(settings.windows.main, *this);
+  cboZoomAmount.Text = std::to_string(settings.gintZoomAmount);
+  chkQuickGraph.Value = settings.gblnQuickGraph;
+  txtYMax.Text = std::to_string(settings.gintGraphYMax);
+  txtYMax.Enabled = updYMax.Enabled = false;
+  chkFixY.Value = settings.gblnFixGraphMax;
+  mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
+  for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
+    const auto [fileType, path] = RecentFiles::ParseTag(*entry);
+    const int known =
+        fileType == 0 ? globals_.kinds.gcolFileTypes.GuessFileType(path, settings.gintDefaultFileType) : fileType;
+    recent_.AddRecentlyUsedFile(path, known);
+  }
+  details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType, ItemsOf(settings.gintDefaultFileType));
+  details_.SetCheckedItems(settings.gcolCheckedDataItems);
+  chkShowCheckedOnly.Value = settings.gblnShowCheckedOnly;
+}
+
+/// The built-in definition brings its presets each time; those of a file join once, when it is chosen.
+void frmDataLogViewer::JoinDefinitionPresets() {
+  const clsDataLog& definition = globals_.gclsDataLogDefinition;
+  if (definition.strName == DefaultDataLogDefinition().strName)
+    AddBuiltInPresets(globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets);
+  else if (globals_.settings.firstRun)
+    AddDefinitionPresets(definition, globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets);
+}
+
+void frmDataLogViewer::GatherSettings() {
+  Settings& settings = globals_.settings;
+  settings.gintZoomAmount = ZoomAmount(StringToLong(cboZoomAmount.Text()));
+  settings.gblnQuickGraph = chkQuickGraph.Value;
+  settings.gblnFixGraphMax = chkFixY.Value;
+  settings.gintGraphYMax = std::clamp(StringToLong(txtYMax.Text()), kLeastGraphYMax, kGreatestGraphYMax);
+  settings.gblnShowCheckedOnly = chkShowCheckedOnly.Value;
+  settings.gblnScatterGraphAutoDraw = mnuFileDrawScatter.Checked;
+  settings.recentFiles = recent_.Tags();
+  settings.gcolCheckedDataItems = details_.CheckedItems();
+  const clsLogDataItems& items = globals_.catalogue.gcolFixedDataItems;
+  std::stable_sort(settings.gcolCheckedDataItems.begin(), settings.gcolCheckedDataItems.end(),
+                   [&](int a, int b) { return items.Item(a).intKey < items.Item(b).intKey; });
+}
+
+bool frmDataLogViewer::WriteINIFile() {
+  if (globals_.gstrINIFileToWrite.empty()) return true;
+  GatherSettings();
+  return settingsFile_.WriteINIFile(globals_.gstrINIFileToWrite, [this](const char* text) { status_.Say(text); });
+}
+
+}  // namespace tarnview

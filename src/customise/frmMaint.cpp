@@ -1,0 +1,126 @@
+#include "customise/frmMaint.h"
+
+#include <algorithm>
+
+#include "base/Numbers.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kNothingSelected = 40;
+constexpr int kSureToDelete = 1;
+
+}  // namespace
+
+frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families,
+                   int firstFamily, Messages& messages, Help& help)
+    : Form(itsHost, "frmMaint", texts.FormCaption),
+      col_(col),
+      helpTopic_(texts.HelpTopic),
+      families_(families),
+      firstFamily_(firstFamily),
+      messages_(messages),
+      help_(help) {
+  DefaultButton = &cmdOK;
+  CancelButton = &cmdCancel;
+  fraNameList.Caption = std::string(texts.FrameCaption);
+  cboLogFamily.Click = [this] { PopulatePresetsListView(1); };
+  lvwNameList.ItemClick = [this](int) { UpdateButtons(); };
+  lvwNameList.DblClick = [this](int) { cmdModify_Click(); };
+  // The order of the rows is that of the collection: a click on the heading sorts nothing.
+  lvwNameList.ColumnClick = [this](int) {
+    const std::string tag = std::to_string(FindObject(lvwNameList.SelectedRow()));
+    PopulatePresetsListView(1);
+    lvwNameList.Select(lvwNameList.RowOfTag(tag));
+    UpdateButtons();
+  };
+  lvwNameList.KeyDown = [this](const KeyPress& key, bool& eaten) {
+    if (key != KeyPress{key.key, false, true} || (key.key != "Up" && key.key != "Down")) return;
+    (key.key == "Up" ? cmdPresetUp : cmdPresetDown).Press();
+    eaten = true;
+  };
+  cmdNew.Click = [this] { cmdNew_Click(); };
+  cmdModify.Click = [this] { cmdModify_Click(); };
+  cmdDelete.Click = [this] { cmdDelete_Click(); };
+  cmdPresetUp.Click = [this] { MovePreset(-1); };
+  cmdPresetDown.Click = [this] { MovePreset(1); };
+  cmdOK.Click = [this] {
+    closeMethod_ = "OK";
+    Unload();
+  };
+  cmdCancel.Click = [this] { Unload(); };
+}
+
+void frmMaint::Form_Load() {
+  std::vector<std::string> names;
+  for (int id = 1; id <= families_.Count(); ++id) names.push_back(families_.Item(id).strDescription);
+  cboLogFamily.SetList(std::move(names));
+  cboLogFamily.SetListIndex(firstFamily_ - 1);
+  EnableLogFamilyFunction();
+  PopulatePresetsListView(1);
+}
+
+bool frmMaint::Form_KeyUp(const KeyPress& key) {
+  if (key != KeyPress{"F1"}) return false;
+  help_.ShowHelp(helpTopic_);
+  return true;
+}
+
+void frmMaint::EnableLogFamilyFunction() {
+  lblLogFamily.Visible = col_.HasFamilies();
+  cboLogFamily.Visible = col_.HasFamilies();
+}
+
+void frmMaint::PopulatePresetsListView(int selectRow) {
+  std::vector<ListView::Row> rows;
+  for (int position = 1; position <= col_.Count(); ++position) {
+    if (col_.HasFamilies() && col_.lngLogFamily(position) != Family()) continue;
+    ListView::Row row;
+    row.texts = {col_.strName(position)};
+    row.tag = std::to_string(position);
+    rows.push_back(std::move(row));
+  }
+  lvwNameList.SetRows(std::move(rows));
+  lvwNameList.Select(selectRow);
+  UpdateButtons();
+}
+
+void frmMaint::UpdateButtons() {
+  const int row = lvwNameList.SelectedRow();
+  cmdPresetUp.Enabled = row > 1;
+  cmdPresetDown.Enabled = row > 0 && row < lvwNameList.Count();
+}
+
+int frmMaint::FindObject(int row) const { return row < 1 ? 0 : StringToLong(lvwNameList.At(row).tag); }
+
+bool frmMaint::NothingSelected() {
+  if (lvwNameList.SelectedRow() > 0) return false;
+  messages_.ShowMessage(kNothingSelected);
+  return true;
+}
+
+void frmMaint::cmdNew_Click() {
+  if (col_.New(Family())) PopulatePresetsListView(col_.Count());
+}
+
+void frmMaint::cmdModify_Click() {
+  if (NothingSelected()) return;
+  const int row = lvwNameList.SelectedRow();
+  if (col_.Modify(FindObject(row))) PopulatePresetsListView(row);
+}
+
+void frmMaint::cmdDelete_Click() {
+  if (NothingSelected() || !messages_.AskQuestion(kSureToDelete)) return;
+  const int row = lvwNameList.SelectedRow();
+  col_.Remove(FindObject(row));
+  PopulatePresetsListView(row);
+}
+
+void frmMaint::MovePreset(int by) {
+  const int row = lvwNameList.SelectedRow();
+  // Between the two may lie presets of other families.
+  col_.Move(FindObject(row), FindObject(row + by));
+  PopulatePresetsListView(row + by);
+}
+
+}  // namespace tarnview

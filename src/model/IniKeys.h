@@ -1,0 +1,157 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "base/Dates.h"
+#include "base/Numbers.h"
+#include "model/IniFile.h"
+
+namespace tarnview {
+
+// A record of the settings file is a table of keys: each row says which member a key holds and by which rule its text
+// is read and written, so that reader and writer walk the same table.
+
+/// What a whole or floating number outside its limits becomes.
+enum class IniBeyond { Clamped, Left };
+
+/// How a flag is read and written.
+enum class IniFlagForm {
+  Number,      ///< "1" or "0"; any number but 0 is on
+  OnUnlessN,   ///< "Y" or "N"; any text but "N" is on
+  OffUnlessY,  ///< "Y" or "N"; only "Y" is on
+  TrueOrNot    ///< "True" or "False"; only "True" is on
+};
+
+template <class Record>
+struct IniText {
+  std::string Record::*value;
+};
+template <class Record>
+struct IniWhole {
+  std::int32_t Record::*value;
+  std::int32_t least = std::numeric_limits<std::int32_t>::min(), most = std::numeric_limits<std::int32_t>::max();
+  IniBeyond beyond = IniBeyond::Clamped;
+};
+template <class Record>
+struct IniNumber {
+  double Record::*value;
+  double least = std::numeric_limits<double>::lowest(), most = std::numeric_limits<double>::max();
+  IniBeyond beyond = IniBeyond::Clamped;
+};
+template <class Record>
+struct IniFlag {
+  bool Record::*value;
+  IniFlagForm form;
+};
+template <class Record>
+struct IniDate {
+  Date Record::*value;  ///< "yyyy-mm-dd"; left as it is by a text that is no date
+};
+/// A rule of its own.
+template <class Record>
+struct IniRule {
+  void (*read)(Record& record, std::string_view text);
+  std::string (*write)(const Record& record);
+};
+
+template <class Record>
+struct IniKey {
+  const char* name;
+  std::variant<IniText<Record>, IniWhole<Record>, IniNumber<Record>, IniFlag<Record>, IniDate<Record>, IniRule<Record>>
+      kind;
+  bool fromInstall = false;  ///< an empty value is looked up in Tarnview_Install.ini
+};
+
+/// Where the keys of one record stand: "Graph 3 " is in front of their names, or " Car Def 2" behind them.
+struct IniPlace {
+  std::string section;
+  std::string prefix = {};
+  std::string suffix = {};
+
+  std::string KeyOf(std::string_view name) const { return prefix + std::string(name) + suffix; }
+};
+
+/// What becomes of a member whose key is missing: it keeps its value, or the key counts as an empty text.
+enum class IniMissing { Keeps, IsEmpty };
+
+/// The shortest decimal that reads back as the same number, without an exponent.
+std::string ShortestText(double value);
+/// Item numbers with commas, each once; parts that are no number count as 0.
+std::vector<int> ReadItemNumbers(std::string_view text);
+std::string ItemNumbersText(const std::vector<int>& items);
+
+namespace detail {
+
+std::string FlagText(bool value, IniFlagForm form);
+bool ReadFlag(std::string_view text, IniFlagForm form);
+
+template <class Number>
+void TakeNumber(Number& to, Number number, Number least, Number most, IniBeyond beyond) {
+  if (beyond == IniBeyond::Clamped)
+    to = std::clamp(number, least, most);
+  else if (number >= least && number <= most)
+    to = number;
+}
+
+template <class Record>
+struct IniReader {
+  Record& record;
+  std::string_view text;
+
+  void operator()(const IniText<Record>& key) const { record.*key.value = text; }
+  void operator()(const IniWhole<Record>& key) const {
+    TakeNumber(record.*key.value, StringToLong(text), key.least, key.most, key.beyond);
+  }
+  void operator()(const IniNumber<Record>& key) const {
+    TakeNumber(record.*key.value, StringToDouble(text), key.least, key.most, key.beyond);
+  }
+  void operator()(const IniFlag<Record>& key) const { record.*key.value = ReadFlag(text, key.form); }
+  void operator()(const IniDate<Record>& key) const { record.*key.value = StringToDate(text, record.*key.value); }
+  void operator()(const IniRule<Record>& key) const { key.read(record, text); }
+};
+
+template <class Record>
+struct IniTextOf {
+  const Record& record;
+
+  std::string operator()(const IniText<Record>& key) const { return record.*key.value; }
+  std::string operator()(const IniWhole<Record>& key) const { return std::to_string(record.*key.value); }
+  std::string operator()(const IniNumber<Record>& key) const { return ShortestText(record.*key.value); }
+  std::string operator()(const IniFlag<Record>& key) const { return FlagText(record.*key.value, key.form); }
+  std::string operator()(const IniDate<Record>& key) const { return DateText(record.*key.value); }
+  std::string operator()(const IniRule<Record>& key) const { return key.write(record); }
+};
+
+}  // namespace detail
+
+/// Reads the keys of a record. `install` is the table of Tarnview_Install.ini, where there is one.
+template <class Record>
+void ReadIniKeys(std::span<const IniKey<Record>> keys, const IniTable& table, const IniPlace& place, Record& record,
+                 IniMissing missing = IniMissing::Keeps, const IniTable* install = nullptr) {
+  for (const auto& key : keys) {
+    const std::string name = place.KeyOf(key.name);
+    const std::string* value = table.Find(place.section, name);
+    std::string installed;
+    if (key.fromInstall && install && (!value || value->empty())) {
+      installed = ReadProfileValue(*install, place.section, name);
+      if (!installed.empty()) value = &installed;
+    }
+    if (value || missing == IniMissing::IsEmpty)
+      std::visit(detail::IniReader<Record>{record, value ? std::string_view(*value) : std::string_view()}, key.kind);
+  }
+}
+
+template <class Record>
+void WriteIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, const Record& record, IniWriter& file) {
+  for (const auto& key : keys)
+    file.Line(place.KeyOf(key.name), std::visit(detail::IniTextOf<Record>{record}, key.kind));
+}
+
+}  // namespace tarnview

@@ -1,0 +1,58 @@
+#include "model/ItemDisplaySettings.h"
+
+#include <algorithm>
+
+#include "model/IniKeys.h"
+
+namespace tarnview {
+namespace {
+
+using I = clsLogDataItem;
+
+constexpr long kBlack = 0, kWhite = 0xFFFFFF;
+constexpr long kThinnest = 1, kFattest = 5;
+
+const IniKey<I> kKeys[] = {
+    {"Colour", IniRule<I>{[](I& item, std::string_view text) {
+                            item.lngColour = std::clamp<long>(StringToLong(text), kBlack, kWhite);
+                          },
+                          [](const I& item) { return std::to_string(item.lngColour); }}},
+    {"Style", IniRule<I>{[](I& item, std::string_view text) { item.lngLineStyle = StringToLong(text); },
+                         [](const I& item) { return std::to_string(item.lngLineStyle); }}},
+    {"Width", IniRule<I>{[](I& item, std::string_view text) {
+                           item.lngLineWidth = std::clamp<long>(StringToLong(text), kThinnest, kFattest);
+                         },
+                         [](const I& item) { return std::to_string(item.lngLineWidth); }}},
+    {"Display", IniFlag<I>{&I::blnDisplay, IniFlagForm::TrueOrNot}},
+    {"Display Factor", IniNumber<I>{&I::dblSampleDisplayFactor, 0.01, 100}},
+};
+
+IniPlace PlaceOf(const char* section, int item) { return {section, "Item " + std::to_string(item) + " "}; }
+
+}  // namespace
+
+bool HasItemDisplay(const IniTable& table, const char* section) { return table.Find(section, "Item 1 Colour"); }
+
+void ReadItemDisplay(const IniTable& table, const char* section, clsLogDataItems& items) {
+  if (!HasItemDisplay(table, section)) return;
+  for (int item = 1; item <= items.Count(); ++item)
+    ReadIniKeys<I>(kKeys, table, PlaceOf(section, item), items.Item(item));
+}
+
+void WriteItemDisplay(const clsLogDataItems& items, IniWriter& file) {
+  for (int item = 1; item <= items.Count(); ++item) WriteIniKeys<I>(kKeys, PlaceOf("", item), items.Item(item), file);
+}
+
+void CopyItemDisplay(const clsLogDataItems& from, clsLogDataItems& to) {
+  for (int n = 1; n <= std::min(from.Count(), to.Count()); ++n) {
+    const I& source = from.Item(n);
+    I& item = to.Item(n);
+    item.lngColour = source.lngColour;
+    item.lngLineStyle = source.lngLineStyle;
+    item.lngLineWidth = source.lngLineWidth;
+    item.blnDisplay = source.blnDisplay;
+    item.dblSampleDisplayFactor = source.dblSampleDisplayFactor;
+  }
+}
+
+}  // namespace tarnview

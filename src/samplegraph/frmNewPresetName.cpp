@@ -1,0 +1,32 @@
+#include "samplegraph/frmNewPresetName.h"
+
+#include "base/Text.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kNameMissing = 41;
+
+}  // namespace
+
+frmNewPresetName::frmNewPresetName(Host& itsHost, Messages& messages, const std::string& name)
+    : Form(itsHost, "frmNewPresetName", "New Preset Graph Name"), messages_(messages) {
+  DefaultButton = &cmdOK;
+  CancelButton = &cmdCancel;
+  txtName.Text = name;
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { Unload(); };
+}
+
+void frmNewPresetName::cmdOK_Click() {
+  name_ = Trim(txtName.Text());
+  if (name_.empty()) {
+    messages_.ShowMessage(kNameMissing);
+    txtName.SetFocus();
+    return;
+  }
+  closeMethod_ = "OK";
+  Unload();
+}
+
+}  // namespace tarnview

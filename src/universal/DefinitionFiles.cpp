@@ -1,0 +1,56 @@
+#include "universal/DefinitionFiles.h"
+
+#include <exception>
+
+#include "base/Paths.h"
+#include "universal/DefaultDataLogDefinition.h"
+#include "universal/DefinitionFaults.h"
+#include "universal/DefinitionReader.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kFileNotFound = 70, kUnknownError = 101;
+constexpr int kFileAccessError = 75;  // of the run-time
+
+}  // namespace
+
+clsDataLog DefinitionFiles::Load(const std::string& path) {
+  if (!files_.FileExists(path)) throw DefinitionFault(kFileNotFound, path);
+  const auto text = files_.Read(path);
+  if (!text) throw RuntimeError(kFileAccessError, "Path/File access error");
+  return ReadDataLogDefinition(*text, path, catalogue_);
+}
+
+std::optional<clsDataLog> DefinitionFiles::LoadDataLogDefinition(const std::string& strFileName, bool blnQuiet) {
+  const auto fail = [&](int message, const RuntimeError& error) {
+    if (!blnQuiet) messages_.ShowMessage(message, false, error.what());
+    errors_.LogError("modUniversal", "LoadDataLogDefinition", error, false);
+    return std::nullopt;
+  };
+  try {
+    return Load(strFileName);
+  } catch (const DefinitionFault& fault) {
+    return fail(fault.Message(), fault);
+  } catch (const RuntimeError& error) {
+    return fail(kUnknownError, error);
+  } catch (const std::exception& error) {
+    return fail(kUnknownError, RuntimeError(7, error.what()));
+  }
+}
+
+clsDataLog DefinitionFiles::LoadDataLogDefinitionWrapper(const std::string& strFileName) {
+  auto definition = strFileName.empty() ? std::nullopt : LoadDataLogDefinition(strFileName);
+  return definition ? std::move(*definition) : DefaultDataLogDefinition();
+}
+
+std::vector<DefinitionChoice> DefinitionFiles::GenericFileLocation(const std::string& folder) {
+  std::vector<DefinitionChoice> choices;
+  for (const std::string& name : files_.List(folder, "*.txt")) {
+    const std::string path = AddBackslash(folder) + name;
+    if (const auto definition = LoadDataLogDefinition(path, true)) choices.push_back({definition->strName, path});
+  }
+  return choices;
+}
+
+}  // namespace tarnview

@@ -1,0 +1,99 @@
+#include "universal/HeaderMap.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "base/Text.h"
+#include "model/Column.h"
+
+namespace tarnview {
+namespace {
+
+/// Not even an overflowing value reaches it from within.
+constexpr double kBeyond = std::numeric_limits<double>::infinity();
+
+}  // namespace
+
+ValueLookup::ValueLookup(const clsDataLogColumnValues& values) {
+  for (const auto& value : values) {
+    translations_.emplace(Upper(value->strDataLogValue), value->lngDataLogTranslation);  // the first of a text stays
+    longest_ = std::max(longest_, value->strDataLogValue.size());
+  }
+  capitals_.reserve(longest_);
+}
+
+std::int32_t ValueLookup::operator()(std::string_view field) {
+  field = Trim(field);
+  if (field.size() > longest_) return 0;
+  capitals_ = field;
+  std::transform(capitals_.begin(), capitals_.end(), capitals_.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  const auto found = translations_.find(capitals_);
+  return found == translations_.end() ? 0 : found->second;
+}
+
+FieldTarget::FieldTarget(const clsDataLogColumn& it)
+    : column(it.lngDataItemID - 1),
+      factor(it.dblConversionFactor != 0 ? it.dblConversionFactor.Value() : 1),
+      bounded(it.dblMinValue.IsSet() || it.dblMaxValue.IsSet()),
+      setToMin(it.blnSetToMinimum),
+      setToMax(it.blnSetToMaximum),
+      min(it.dblMinValue.IsSet() ? it.dblMinValue.Value() : -kBeyond),
+      max(it.dblMaxValue.IsSet() ? it.dblMaxValue.Value() : kBeyond),
+      scale(it.Scale()),
+      storedOffset(it.Scale() * it.dblOffset) {
+  (it.blnConversionFactorFirst ? after : before) = it.dblConversionOffset;
+  if (it.lngType == kNumericColumn) kind = it.lngConversionType == kDateAndTime ? Kind::Date : Kind::Number;
+  if (it.lngType != kValueListColumn) return;
+  kind = Kind::Value;
+  values = std::make_shared<ValueLookup>(*it.objColumnValues);
+}
+
+HeaderMap::HeaderMap(std::string_view headerLine, const clsDataLog& definition) : fed_(kColumnCount + 1) {
+  for (int n = 1; n <= definition.objColumns.Count(); ++n)
+    groups_[definition.objColumns.Item(n).strColumnTitleCaps()].columns.push_back(n);
+  for (const std::string_view field : SplitFields(headerLine, definition.lngDelimiterAsciiCharacter))
+    Match(field, definition);
+}
+
+void HeaderMap::Match(std::string_view field, const clsDataLog& definition) {
+  const auto found = groups_.find(Upper(Trim(field)));
+  if (found == groups_.end() || (found->second.used && definition.blnIgnoreDuplicateColumns)) {
+    unknown_.emplace_back(field);
+    fields_.emplace_back();
+    return;
+  }
+  Group& group = found->second;
+  if (!group.used) {
+    group.used = true;
+    group.targets.first = static_cast<std::uint32_t>(targets_.size());
+    for (const int n : group.columns) {
+      const clsDataLogColumn& column = definition.objColumns.Item(n);
+      fed_[static_cast<std::size_t>(column.lngDataItemID)] = true;
+      const FieldTarget target(column);
+      if (target.kind != FieldTarget::Kind::Nothing) targets_.push_back(target);
+      if (column.blnSmooth && std::find(smoothed_.begin(), smoothed_.end(), column.lngDataItemID) == smoothed_.end())
+        smoothed_.push_back(column.lngDataItemID);
+    }
+    group.targets.count = static_cast<std::uint32_t>(targets_.size()) - group.targets.first;
+  }
+  fields_.push_back(group.targets);
+}
+
+bool HeaderMap::Feeds(int item) const {
+  const auto index = static_cast<std::size_t>(item);
+  return item >= 0 && index < fed_.size() && fed_[index];
+}
+
+std::vector<std::string_view> SplitFields(std::string_view line, std::int32_t delimiter) {
+  std::vector<std::string_view> fields;
+  if (line.empty()) return fields;
+  for (;;) {
+    const auto end = delimiter <= 255 ? line.find(static_cast<char>(delimiter)) : std::string_view::npos;
+    fields.push_back(line.substr(0, end));
+    if (end == std::string_view::npos) return fields;
+    line.remove_prefix(end + 1);
+  }
+}
+
+}  // namespace tarnview

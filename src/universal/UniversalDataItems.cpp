@@ -1,0 +1,52 @@
+#include "universal/UniversalDataItems.h"
+
+#include "base/Numbers.h"
+
+namespace tarnview {
+namespace {
+
+template <class To, class From>
+void TakeIfSet(To& to, const Settable<From>& from) {
+  if (from.IsSet()) to = static_cast<To>(from.Value());
+}
+
+void TakeNumbers(clsLogDataItem& item, const clsDataLogColumn& column) {
+  if (column.dblOffset.IsSet() && column.lngColumnDecimalPlaces.IsSet())
+    item.lngStorageOffset = RoundToLong(column.Scale() * column.dblOffset);
+  if (column.lngColumnDecimalPlaces.IsSet()) item.dblFactor = column.Scale();
+  if (column.dblMinValue.IsSet()) item.SetMinValue(column.dblMinValue);
+  if (column.dblMaxValue.IsSet()) item.SetMaxValue(column.dblMaxValue);
+}
+
+void TakeDisplay(clsLogDataItem& item, const clsDataLogColumn& column) {
+  TakeIfSet(item.blnDisplayZero, column.blnDisplayZero);
+  if (column.lngDisplayDecimalPlaces.IsSet()) item.SetDisplayDecimalPlaces(column.lngDisplayDecimalPlaces);
+  TakeIfSet(item.lngColour, column.lngColour);
+  TakeIfSet(item.lngLineStyle, column.lngLineStyle);
+  TakeIfSet(item.lngLineWidth, column.lngLineWidth);
+  TakeIfSet(item.dblSampleDisplayFactor, column.dblDisplayFactor);
+}
+
+void TakeColumn(clsLogDataItem& item, const clsDataLogColumn& column) {
+  item.strLongName = column.strDescription;
+  item.strShortName = column.strName;
+  item.intType = column.lngType;
+  TakeNumbers(item, column);
+  TakeDisplay(item, column);
+  if (column.lngType != kValueListColumn) return;
+  item.varDescList.clear();
+  for (const auto& value : *column.objColumnValues) item.varDescList.push_back(value->strDataLogValue);
+}
+
+}  // namespace
+
+clsLogDataItems GenerateLogDataItemsGeneric(const clsDataLog& objDefinition, const clsLogDataItems& catalogue) {
+  clsLogDataItems items = catalogue.Duplicate();
+  for (const clsDataLogColumn& column : objDefinition.objColumns) TakeColumn(items.Item(column.lngDataItemID), column);
+  for (int id = 1; id <= items.Count(); ++id)
+    if (IsDataItemInDataLogDefinition(id, objDefinition, catalogue))
+      items.Item(id).colApplicableLogFamilies.push_back(kUniversalLogFamily);
+  return items;
+}
+
+}  // namespace tarnview

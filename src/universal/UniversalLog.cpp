@@ -1,0 +1,189 @@
+#include "universal/UniversalLog.h"
+
+#include <algorithm>
+#include <exception>
+#include <limits>
+
+#include "base/Numbers.h"
+#include "loaders/TextLines.h"
+#include "model/Column.h"
+#include "universal/DataLines.h"
+#include "universal/DefinitionFaults.h"
+#include "universal/HeaderMap.h"
+#include "universal/Smoothing.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kCouldNotBeLoaded = 15, kTooLong = 51, kTooFewFields = 73, kNoHeader = 74, kNothingKnown = 83,
+              kNoTimeColumn = 89, kNoIDText = 90;
+
+/// A log is known by a text that stands at a place of one of its first lines.
+void Identify(std::string_view text, const clsDataLog& definition) {
+  if (definition.strFileIDText.empty()) return;
+  std::string_view line;
+  if (SkipFileLines(text, definition.lngFileIDTextLinesBefore)) {
+    TextLines lines(text);
+    if (!lines.AtEnd()) line = lines.Next();
+  }
+  const std::int32_t before = definition.lngFileIDTextColumnsBefore;
+  if (before >= 0 && static_cast<std::size_t>(before) <= line.size() &&
+      line.substr(static_cast<std::size_t>(before)).starts_with(definition.strFileIDText))
+    return;
+  throw DefinitionFault(kNoIDText,
+                        DetailText({"Lines before: " + std::to_string(definition.lngFileIDTextLinesBefore),
+                                    "Columns before: " + std::to_string(before), "ID Text: " + definition.strFileIDText,
+                                    "Line read from data log: ", std::string(line)}));
+}
+
+/// The line of the columns' titles.
+std::string_view FindHeader(std::string_view text, const clsDataLog& definition, const std::string& path) {
+  const bool there = SkipFileLines(text, definition.lngColumnHeadersLinesBefore);
+  if (!there || text.empty()) throw DefinitionFault(kNoHeader, path);
+  const std::string_view line = TextLines(text).Next();
+  if (SplitFields(line, definition.lngDelimiterAsciiCharacter).size() < 2)
+    throw DefinitionFault(kTooFewFields, std::string(line));
+  return line;
+}
+
+/// Rows to expect, if the lines are as long as that of the titles.
+long ExpectedRows(std::size_t bytes, std::size_t headerLength) {
+  constexpr double kBlock = 128;
+  const double length = RoundHalfEven(static_cast<double>(bytes) / kBlock) * kBlock;
+  return static_cast<long>(std::min(length / static_cast<double>(std::max<std::size_t>(headerLength, 1)), 1e9));
+}
+
+/// Rows that the log will have, by the length of its first data lines; rather too many than too few, which costs
+/// nothing, while a store that must grow moves all its rows.
+int RowsToHold(std::string_view text, long expected) {
+  const std::string_view start = text.substr(0, 1 << 16);
+  const auto lines = static_cast<double>(std::count(start.begin(), start.end(), '\n')) + 1;
+  const double rows =
+      lines * static_cast<double>(text.size()) / static_cast<double>(std::max<std::size_t>(start.size(), 1));
+  return static_cast<int>(std::min(std::max(rows * 1.1, static_cast<double>(expected)), 1e9));
+}
+
+class Load {
+ public:
+  Load(std::string_view bytes, const LoadContext& context, LoadOutcome& outcome)
+      : bytes_(bytes), context_(context), definition_(*context.definition), log_(context.log), outcome_(outcome) {}
+
+  void Run() {
+    context_.progress.Stage("Preparing to load");
+    log_.Clear(context_.items, 0);
+    Identify(bytes_, definition_);
+    const std::string_view headerLine = FindHeader(bytes_, definition_, log_.gstrCurrentFile);
+    HeaderMap header(headerLine, definition_);
+    CheckHeader(header, headerLine);
+    ReadData(header, ExpectedRows(bytes_.size(), headerLine.size()));
+    NoteTemperatures(header);
+    FillOffsetItems(header);
+    SetTimes(header);
+    if (log_.glngDataLog.Rows() >= kFewestSamples) log_.gblnSamplesLoaded = true;
+    Smooth(header);
+    if (log_.glngDataLog.Rows() >= kMostSamples) outcome_.messages.emplace_back(kTooLong);
+  }
+
+ private:
+  void CheckHeader(const HeaderMap& header, std::string_view line) {
+    if (definition_.dblLineFrequency == 0 && !header.Feeds(ItemOf(kSecs)))
+      throw DefinitionFault(kNoTimeColumn, std::string(line));
+    outcome_.unknownColumns = header.Unknown();
+    if (!header.AnyKnown()) throw DefinitionFault(kNothingKnown, std::string(line));
+  }
+
+  void ReadData(const HeaderMap& header, long expected) {
+    std::string_view text = bytes_;
+    if (!SkipFileLines(text, definition_.lngDataLinesBefore))
+      throw DefinitionFault(kCouldNotBeLoaded, log_.gstrCurrentFile);
+    context_.progress.Stage("Preparing to load", expected);
+    log_.Clear(context_.items, RowsToHold(text, expected));
+    SampleStore& store = log_.glngDataLog;
+    DataLines data(header, definition_.lngDelimiterAsciiCharacter, bytes_, store);
+    const long step = std::max(expected / 50, 1L);
+    long nextTelling = step;
+    long line = 0;
+    for (TextLines lines(text); !lines.AtEnd() && line < kMostSamples;) {
+      data.Read(lines.Next());
+      if (++line != nextTelling) continue;
+      context_.progress.Line(line);
+      nextTelling += step;
+    }
+    data.Flush();
+  }
+
+  /// The lowest air temperature, and the first sample with a warm engine.
+  void NoteTemperatures(const HeaderMap& header) {
+    const SampleStore& store = log_.glngDataLog;
+    const clsLogDataItem& air = context_.items.Item(ItemOf(kATemp));
+    const clsLogDataItem& coolant = context_.items.Item(ItemOf(kCTemp));
+    for (int row = 0; row < store.Rows() && header.Feeds(ItemOf(kATemp)); ++row)
+      log_.glngLowestAirTemp = std::min(log_.glngLowestAirTemp, RoundToLong(air.GetRawData(store(kATemp, row))));
+    for (int row = 0; row < store.Rows() && header.Feeds(ItemOf(kCTemp)) && log_.glngFirstPlotSample == -1; ++row)
+      if (coolant.GetRawData(store(kCTemp, row)) >= context_.settings.gintPlotFromTemperature)
+        log_.glngFirstPlotSample = row;
+  }
+
+  /// Items with an offset that this log lacks read as zero, not as the offset's negative.
+  void FillOffsetItems(const HeaderMap& header) {
+    for (const int item : definition_.objColumns.OffsetDataItems())
+      if (!header.Feeds(item))
+        log_.glngDataLog.Fill(item - 1, 0, log_.glngDataLog.Rows(), context_.items.Item(item).SetRawData(0));
+  }
+
+  void SetTimes(const HeaderMap& header) {
+    SampleStore& store = log_.glngDataLog;
+    if (!header.Feeds(ItemOf(kSecs))) {
+      const double factor = context_.items.Item(ItemOf(kSecs)).dblFactor;
+      for (int row = 0; row < store.Rows(); ++row)
+        store.Set(kSecs, row, RoundToLong(RoundPlaces(1 / definition_.dblLineFrequency * row, 4) * factor));
+      return;
+    }
+    // Times never fall: one that would is a stored unit behind the one before.
+    std::int32_t previous = 0;
+    for (int row = 0; row < store.Rows(); ++row) {
+      std::int32_t time = store(kSecs, row);
+      if (time < previous) time = previous + (previous < std::numeric_limits<std::int32_t>::max());
+      store.Set(kSecs, row, previous = time);
+    }
+  }
+
+  void Smooth(const HeaderMap& header) {
+    if (header.Smoothed().empty()) return;
+    context_.progress.Stage("Smoothing data...");
+    for (const int item : header.Smoothed()) SmoothColumn(log_.glngDataLog, item - 1);
+  }
+
+  const std::string_view bytes_;
+  const LoadContext& context_;
+  const clsDataLog& definition_;
+  OpenLog& log_;
+  LoadOutcome& outcome_;
+};
+
+}  // namespace
+
+bool SkipFileLines(std::string_view& text, long lines) {
+  while (lines-- > 0) {
+    if (text.empty()) return false;
+    const auto end = text.find('\n');
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+  }
+  return true;
+}
+
+LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context) {
+  LoadOutcome outcome;
+  try {
+    Load(bytes, context, outcome).Run();
+  } catch (const DefinitionFault& fault) {
+    outcome.messages.emplace_back(fault.Message(), fault.what());
+  } catch (const std::exception&) {  // out of memory
+    context.log.Clear(context.items, 0);
+    outcome.messages.emplace_back(kCouldNotBeLoaded);
+  }
+  outcome.loaded = context.log.gblnSamplesLoaded;
+  return outcome;
+}
+
+}  // namespace tarnview

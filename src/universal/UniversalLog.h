@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string_view>
+
+#include "loaders/FMLinkLog.h"
+#include "universal/clsDataLog.h"
+
+namespace tarnview {
+
+/// Reads a delimited text log through the context's definition; the context's items are those that the definition
+/// generates. Never throws; any bytes are a log or a message. The path of the log, which some messages name, is that
+/// of the open log.
+LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context);
+
+/// Passes over up to `lines` lines from the front of a text; false if it ends first.
+bool SkipFileLines(std::string_view& text, long lines);
+
+}  // namespace tarnview

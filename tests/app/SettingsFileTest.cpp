@@ -1,0 +1,175 @@
+// The settings file whole: from the disk into the program and its main window, and back.
+
+#include <gmock/gmock.h>
+
+#include "app/FullSettings.h"
+#include "app/SettingsFile.h"
+#include "support/ProgramFixture.h"
+
+namespace tarnview {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+constexpr const char* kPath = "/car/Tarnview.ini";
+
+class SettingsFileTest : public ProgramFixture {
+ protected:
+  SettingsFileTest() {
+    files.folders = {"/car", "/data"};
+    files.files["/logs/a.txt"] = SmallLog(20);
+    files.files["/pictures/a\xE9.bmp"] = "picture";
+    files.files["/defs/mine.txt"] =
+        RealFileSystem().Read(TARNVIEW_DATA "/Universal Data Log Formats/OBDLink.txt").value_or("");
+  }
+  /// A program that keeps its settings, as tarnview does.
+  void StartKeeping(const std::string& settings) {
+    files.files[kPath] = settings;
+    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
+    program->Start("", false);
+  }
+  std::string Closed() {
+    Main().Unload();
+    return files.files[kPath];
+  }
+};
+
+TEST_F(SettingsFileTest, AFileWithEveryKeySetComesBackByteForByte) {
+  StartKeeping(FullSettings());
+  const std::string written = Closed();
+  EXPECT_THAT(MessageIds(), ElementsAre());
+  EXPECT_EQ(written, FullSettings());
+  StartKeeping(written);
+  EXPECT_EQ(Closed(), written);
+}
+
+TEST_F(SettingsFileTest, TheDefaultsComeBackByteForByteToo) {
+  StartKeeping("");
+  EXPECT_TRUE(Main().chkQuickGraph.Value());
+  EXPECT_EQ(Main().Details().CheckedItems(), (std::vector<int>{3, 5, 7, 17, 20, 21, 23, 36}));
+  const std::string written = Closed();
+  EXPECT_THAT(MessageIds(), ElementsAre());
+  EXPECT_THAT(written, Not(HasSubstr("Window State")));
+  EXPECT_THAT(written, HasSubstr("[New Preset Sample Graphs]\r\n[New Preset Scatter Graphs]\r\n[Benchmarks]\r\n"));
+  EXPECT_THAT(written, HasSubstr("[Recently Used Files]\r\n[Recently Used Power Graph Files]\r\n[Data Item"));
+  StartKeeping(written);
+  EXPECT_EQ(Closed(), written);
+}
+
+TEST_F(SettingsFileTest, WhatTheWindowShowsIsKept) {
+  StartKeeping("");
+  Main().Width = 9000;
+  Main().Left = 15;
+  Main().WindowState = 1;  // minimized, which nobody wants back
+  Main().cboZoomAmount.Do({"type", {"7"}});
+  Main().chkQuickGraph.Do({"click", {}});
+  Main().chkFixY.Do({"click", {}});
+  Main().txtYMax.Text = "90";
+  Main().mnuFileDrawScatter.Checked = true;
+  Main().Details().SetCheckedItems({3, 20});
+  Main().chkShowCheckedOnly.Do({"click", {}});
+  Main().LoadDataFile("/logs/a.txt", 0);
+  const std::string written = Closed();
+  for (const char* line : {"Zoom Amount=2", "Quick Graph=0", "Fix Graph Max=1", "Graph Y Max=90",
+                           "Scatter Graph Auto Draw=Y", "Checked Data Items=20,3", "Show Checked Only=Y",
+                           "File 0=1|/logs/a.txt", "Window State=0", "Window Left=15", "Window Width=9000"})
+    EXPECT_THAT(written, HasSubstr("\n" + std::string(line) + "\r\n"));
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Done");
+  StartKeeping(written);
+  EXPECT_EQ(Main().Width, 9000);
+  EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/a.txt");
+}
+
+TEST_F(SettingsFileTest, AFullDiskLeavesTheOldFile) {
+  StartKeeping(FullSettings());
+  files.failWrites = true;
+  EXPECT_EQ(Closed(), FullSettings());
+  EXPECT_THAT(MessageIds(), ElementsAre(39));
+}
+
+TEST_F(SettingsFileTest, WhatIsNoSettingsFileIsKeptBesideAndToldOnce) {
+  for (const std::string& bad : {std::string("Quick Graph=0\r\n"), std::string("[General]\r\n\0", 12)}) {
+    host.messages.clear();
+    StartKeeping(bad);
+    ASSERT_EQ(host.messages.size(), 1u);
+    EXPECT_THAT(host.messages[0].text, HasSubstr("/car/Tarnview.ini.bad"));
+    EXPECT_TRUE(Main().chkQuickGraph.Value());
+    EXPECT_THAT(Closed(), HasSubstr("[General]\r\n"));
+    EXPECT_EQ(files.files["/car/Tarnview.ini.bad"], bad);
+    StartKeeping(files.files[kPath]);
+    EXPECT_EQ(host.messages.size(), 1u);
+  }
+  StartKeeping("\xEF\xBB\xBF[General]\r\nQuick Graph=0\r\n");  // saved by an editor
+  EXPECT_FALSE(Main().chkQuickGraph.Value());
+}
+
+TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
+  files.broken.insert(kPath);
+  StartKeeping(FullSettings());
+  ASSERT_EQ(host.messages.size(), 1u);
+  EXPECT_THAT(host.messages[0].text, HasSubstr("cannot be read"));
+  files.broken.clear();
+  EXPECT_EQ(Closed(), FullSettings());
+}
+
+TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsTold) {
+  StartKeeping(
+      "[General]\nAlternative Background Picture=/none.bmp\nDefault Working Directory=/none\n"
+      "Generic Data Log Definition File=/none.txt\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Data "
+      "Items=84\n");
+  EXPECT_THAT(MessageIds(), ElementsAre(18, 32, 79, 43));
+  const std::string written = Closed();
+  for (const char* line : {"Alternative Background Picture=/none.bmp", "Default Working Directory=/none",
+                           "Generic Data Log Definition File=/none.txt"})
+    EXPECT_THAT(written, HasSubstr(std::string(line) + "\r\n"));
+}
+
+TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
+  files.files["/data/Tarnview_Install.ini"] = "[General]\nLog EXE=data\n";
+  StartKeeping("[General]\n");
+  EXPECT_EQ(program->Global().settings.gstrLogEXE, "data");
+  files.files["/car/Tarnview_Install.ini"] = "[General]\nLog EXE=beside\n";
+  StartKeeping("[General]\n");
+  EXPECT_EQ(program->Global().settings.gstrLogEXE, "beside");
+}
+
+TEST_F(SettingsFileTest, OnlyAChangedBuiltInPresetIsTheUsersOwn) {
+  StartKeeping("");
+  clsSampleGraphPresets& presets = program->Global().gcolSampleGraphPresets;
+  const int count = presets.Count();
+  ASSERT_GT(count, 0);
+  EXPECT_EQ(presets.Item(1).strName, "Overview");
+  presets.Item(1).colDataItems = {3};
+  const std::string written = Closed();
+  EXPECT_THAT(written, HasSubstr("Graph 1 Name=Overview\r\nGraph 1 Data Items=3\r\n"));
+  EXPECT_THAT(written, Not(HasSubstr("Graph 2 Name")));
+  StartKeeping(written);
+  EXPECT_EQ(program->Global().gcolSampleGraphPresets.Count(), count);
+  StartKeeping("[General]\nGeneric Data Log Definition File=/defs/mine.txt\n");
+  EXPECT_EQ(program->Global().gcolSampleGraphPresets.Count(), 0);
+}
+
+TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
+  const std::string display = "[Generic Data Item Display Properties]\nItem 1 Colour=1\nItem 62 Colour=5\n";
+  constexpr int kKnockRetard = 62;
+  constexpr Colour kOfBuiltInDefinition = 8404992;
+  StartKeeping("[General]\nFirst Run Indicator=Y\n" + display);
+  EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour, kOfBuiltInDefinition);
+  EXPECT_THAT(Closed(), Not(HasSubstr("First Run")));
+  StartKeeping("[General]\n" + display);
+  const Catalogue& catalogue = program->Global().catalogue;
+  EXPECT_EQ(catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour, 5);
+  EXPECT_EQ(catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngLineStyle,
+            catalogue.gcolFixedDataItems.Item(kKnockRetard).lngLineStyle);
+}
+
+TEST_F(SettingsFileTest, TheCommandLineKeepsNothing) {
+  Start("", FullSettings());
+  Main().Unload();
+  EXPECT_EQ(files.files[kPath], FullSettings());
+}
+
+}  // namespace
+}  // namespace tarnview

@@ -1,0 +1,262 @@
+#include <gtest/gtest.h>
+
+#include "DefinitionText.h"
+#include "model/Catalogue.h"
+#include "support/LoadMessages.h"
+#include "universal/DefaultDataLogDefinition.h"
+#include "universal/DefinitionReader.h"
+#include "universal/Smoothing.h"
+#include "universal/UniversalDataItems.h"
+#include "universal/UniversalLog.h"
+
+namespace tarnview {
+namespace {
+
+using Ids = std::vector<int>;
+
+/// A log loaded from a text through a definition.
+struct Loaded {
+  Loaded(clsDataLog itsDefinition, std::string_view text, const Settings& settings = {})
+      : definition(std::move(itsDefinition)),
+        items(GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems)) {
+    log.gstrCurrentFile = "/run.csv";
+    NoProgress progress;
+    outcome = LoadGenericDataLog(text, {log, items, settings, ConversionTables{}, progress, &definition});
+  }
+  Loaded(const DefinitionText& text, std::string_view logText, const Settings& settings = {})
+      : Loaded(ReadDataLogDefinition(text.Text(), "", BuildDataItemCatalogue().gcolFixedDataItems), logText, settings) {
+  }
+
+  /// The stored cells of an item: "3250 850".
+  std::string Cells(int item) const {
+    std::string text;
+    for (int row = 0; row < log.glngDataLog.Rows(); ++row)
+      text += (row ? " " : "") + std::to_string(log.glngDataLog(item - 1, row));
+    return text;
+  }
+  std::string FirstMessage() const {
+    return outcome.messages.empty() ? "" : std::to_string(outcome.messages[0].id) + ": " + outcome.messages[0].extra;
+  }
+
+  Catalogue catalogue = BuildDataItemCatalogue();
+  clsDataLog definition;
+  clsLogDataItems items;
+  OpenLog log;
+  LoadOutcome outcome;
+};
+
+/// The cells of one column "A" of item 5, for fields one a line.
+std::string CellsOf(const std::string& attributes, const std::vector<std::string>& fields, int places = 0,
+                    int type = 1) {
+  std::string text = "A,B\n";
+  for (const std::string& field : fields) text += field + ",x\n";
+  return Loaded(DefinitionText{"LINEFREQUENCY=10\n", {ColumnText("A", 5, places, attributes, type)}, ""}, text)
+      .Cells(5);
+}
+
+const std::string kTime = ColumnText("Time", 63, 3);
+const std::string kPressure = ColumnText("MAP", 5, 1);
+
+TEST(UniversalLog, AWholeLogOfTheBuiltInDefinition) {
+  const Loaded loaded(DefaultDataLogDefinition(),
+                      "timestamp,engine speed (rpm), Boost (PSI) ,vacuum (mmHg),Vehicle Speed (KPH),Foo\r\n"
+                      "0,1000,0,100,100,1\r\n"
+                      "100,1500,-1,200,100,2\r\n"
+                      "\r\n"
+                      "200,2000,5,0\r\n"
+                      "300,2500.5,5,0,50,3,4,5");
+  EXPECT_EQ(loaded.outcome.messages, Ids{});
+  EXPECT_EQ(loaded.Cells(1), "1 2 3 4 5");
+  EXPECT_EQ(loaded.Cells(63), "0 100 101 200 300");
+  EXPECT_EQ(loaded.Cells(3), "1000 1500 0 2000 2500");
+  EXPECT_EQ(loaded.Cells(37), "0 0 0 50 50");
+  EXPECT_EQ(loaded.Cells(5), "87 73 0 134 134");
+  EXPECT_EQ(loaded.Cells(24), "62 62 0 0 31");
+  EXPECT_EQ(loaded.outcome.unknownColumns, std::vector<std::string>{"Foo"});
+}
+
+TEST(UniversalLog, NumbersAreConverted) {
+  const struct {
+    const char* attributes;
+    const char* field;
+    const char* stored;
+    int places;
+  } kRows[] = {
+      {"CONVERSIONFACTOR=2\nCONVERSIONOFFSET=3\n", "10", "26", 0},
+      {"CONVERSIONFACTOR=2\nCONVERSIONOFFSET=3\nCONVERSIONFACTORFIRST=Y\n", "10", "23", 0},
+      {"CONVERSIONFACTOR=0\nCONVERSIONOFFSET=3\n", "10", "13", 0},
+      {"COLUMNMINIMUMVALUE=5\nALLOWSETTOMINIMUMVALUE=N\n", "5", "0", 0},
+      {"COLUMNMINIMUMVALUE=5\nALLOWSETTOMINIMUMVALUE=N\n", "5.6", "6", 0},
+      {"COLUMNMINIMUMVALUE=5\n", "-1", "5", 0},
+      {"COLUMNMAXIMUMVALUE=5\n", "7", "5", 0},
+      {"COLUMNMAXIMUMVALUE=5\nALLOWSETTOMAXIMUMVALUE=N\n", "5", "0", 0},
+      {"", "-3", "0", 0},
+      {"OFFSET=10\n", "-3", "700", 2},
+      {"OFFSET=10\n", "-30", "0", 2},
+      {"", "2.5", "2", 0},
+      {"", " 12.345kPa", "123", 1},
+      {"", "1e3", "1", 0},
+      {"", "2147483647.4", "2147483647", 0},
+      {"", "99999999999", "0", 0},
+      {"", "", "0", 0},
+      {"CONVERSIONTYPE=1\n", "rubbish", "0", 0},
+  };
+  for (const auto& row : kRows)
+    EXPECT_EQ(CellsOf(row.attributes, {row.field, row.field, row.field}, row.places),
+              std::string(row.stored) + " " + row.stored + " " + row.stored)
+        << row.attributes << row.field;
+}
+
+TEST(UniversalLog, RepeatedFieldsAndOddOnesMix) {
+  EXPECT_EQ(CellsOf("",
+                    {"5", "5",
+                     std::string("\0"
+                                 "5",
+                                 2),
+                     "5", "abc", "5", "123456789", "5.5", "5.5", "", "-5.5", "55"},
+                    1),
+            "50 50 0 50 0 50 1234567890 55 55 0 0 550");
+}
+
+TEST(UniversalLog, ListedTextsAreTranslated) {
+  // The blank line that ends the definition is an entry too.
+  EXPECT_EQ(CellsOf("[VALUES]\nOff\non\nOFF\n", {"On", " off ", "other", ""}, 0, 2), "1 0 0 3");
+  EXPECT_EQ(CellsOf("[VALUES]\nOff\n\n", {"x", "", "Off"}, 0, 2), "0 1 0");
+  EXPECT_EQ(CellsOf("", {"1", "2", "3"}, 0, 3), "0 0 0");  // an unknown type
+}
+
+TEST(UniversalLog, DatesCountFromTheFirstOfTheLog) {
+  const DefinitionText dates{
+      "", {ColumnText("Time", 63, 3, "CONVERSIONTYPE=1\n"), ColumnText("GPS", 5, 0, "CONVERSIONTYPE=1\n")}, ""};
+  const Loaded loaded(dates,
+                      "GPS,Time\n"
+                      "bad,24-Nov-2026 23:59:59.500\n"
+                      "2026-11-25 00:00:01,25-Nov-2026 00:00:00.125\n"
+                      "2026/11/25 00:00:05,bad\n");
+  EXPECT_EQ(loaded.Cells(63), "0 625 626");
+  EXPECT_EQ(loaded.Cells(5), "0 2 6");
+}
+
+TEST(UniversalLog, TimesNeverFall) {
+  EXPECT_EQ(Loaded(DefinitionText{"", {kTime}, ""}, "Time,x\n1,\n0.5,\n1.005,\n1.005,\n\n,\n").Cells(63),
+            "1000 1001 1005 1005 1006 1007");
+}
+
+TEST(UniversalLog, WithoutATimeColumnTheFrequencySetsTheTime) {
+  EXPECT_EQ(Loaded(DefinitionText{"LINEFREQUENCY=3\n", {kPressure}, ""}, "MAP,x\n1\n1\n1\n").Cells(63), "0 3333 6667");
+  // The definition's own column of seconds gives the factor, though this log lacks it.
+  EXPECT_EQ(Loaded(DefinitionText{"LINEFREQUENCY=10\n", {kPressure, kTime}, ""}, "MAP,x\n1\n1\n1\n").Cells(63),
+            "0 100 200");
+}
+
+TEST(UniversalLog, OneTitleMayFeedSeveralItemsAndOneItemMayHaveSeveralTitles) {
+  const std::string log = "A,B,A\n1,2,3\n4\n5,6\n";
+  const std::vector<std::string> columns{ColumnText("A", 5), ColumnText("B", 5), ColumnText("A", 7)};
+  const Loaded all(DefinitionText{"LINEFREQUENCY=1\n", columns, ""}, log);
+  EXPECT_EQ(all.Cells(5) + "|" + all.Cells(7), "3 4 6|3 4 5");
+  const Loaded first(DefinitionText{"LINEFREQUENCY=1\nIGNOREDUPLICATECOLUMNS=Y\n", columns, ""}, log);
+  EXPECT_EQ(first.Cells(5) + "|" + first.Cells(7), "2 4 6|1 4 5");
+  EXPECT_EQ(first.outcome.unknownColumns, std::vector<std::string>{"A"});
+}
+
+TEST(UniversalLog, ItemsWithAnOffsetThatALogLacksReadAsZero) {
+  const DefinitionText text{"LINEFREQUENCY=1\n",
+                            {kPressure, ColumnText("Temp", 7, 1, "OFFSET=40\n"),
+                             ColumnText("Low", 11, 1, "OFFSET=40\nCOLUMNMINIMUMVALUE=5\n")},
+                            ""};
+  const Loaded loaded(text, "MAP,x\n1\n2\n\n");
+  EXPECT_EQ(loaded.Cells(7), "400 400 400");
+  EXPECT_EQ(loaded.Cells(11), "450 450 450");
+  EXPECT_EQ(Loaded(text, "MAP,Temp\n1,5\n2,5\n\n").Cells(7), "450 450 0");
+}
+
+TEST(UniversalLog, TemperaturesAreNoted) {
+  Settings settings;
+  settings.gintPlotFromTemperature = 60;
+  const DefinitionText text{
+      "LINEFREQUENCY=1\n", {ColumnText("Air", 31, 1, "OFFSET=40\n"), ColumnText("Water", 23, 1)}, ""};
+  const Loaded loaded(text, "Air,Water\n20.5,59.9\n-7.5,60\n9,70\n", settings);
+  EXPECT_EQ(loaded.log.glngLowestAirTemp, -8);
+  EXPECT_EQ(loaded.log.glngFirstPlotSample, 1);
+  const Loaded without(text, "Air,x\n20.5\n20.5\n20.5\n", settings);
+  EXPECT_EQ(without.log.glngFirstPlotSample, -1);
+  EXPECT_EQ(without.log.glngLowestAirTemp, 20);
+}
+
+TEST(UniversalLog, WhatDoesNotLoadSaysWhy) {
+  const DefinitionText timed{
+      "FILEIDTEXT=ID\nFILEIDTEXTLINESBEFORE=1\nFILEIDTEXTCOLUMNSBEFORE=2\n"
+      "COLUMNHEADERSLINESBEFORE=2\nDATALINESBEFORE=4\n",
+      {kTime, kPressure},
+      ""};
+  const DefinitionText plain{"", {kTime, kPressure}, ""};
+  const DefinitionText ticking{"LINEFREQUENCY=1\n", {kPressure}, ""};
+  const std::string noId = "90: Lines before: 1\r\nColumns before: 2\r\nID Text: ID\r\nLine read from data log: \r\n";
+  const struct {
+    const DefinitionText& definition;
+    const char* text;
+    std::string message;
+  } kRows[] = {
+      {timed, "", noId},
+      {timed, "x\n", noId},
+      {timed, "x\n_id\n", noId + "_id"},
+      {timed, "x\n__ID", "74: /run.csv"},
+      {timed, "x\n__IDx\nTime\n", "73: Time"},
+      {timed, "x\n__IDx\nMAP,x\n", "89: MAP,x"},
+      {timed, "x\n__IDx\nTime,x\n", "15: /run.csv"},
+      {timed, "x\n__IDx\nTime,x\nunits\n", ""},
+      {plain, "", "74: /run.csv"},
+      {plain, "\n1,2\n", "73: "},
+      {plain, "Time,MAP\n1,2\n2,3\n", ""},
+      {ticking, "a,b\n1,2\n", "83: a,b"},
+  };
+  for (const auto& row : kRows) {
+    const Loaded loaded(row.definition, row.text);
+    EXPECT_EQ(loaded.FirstMessage(), row.message) << row.text;
+    EXPECT_FALSE(loaded.outcome.loaded);
+    EXPECT_FALSE(loaded.log.gblnSamplesLoaded);
+  }
+}
+
+TEST(UniversalLog, AtMost300000LinesAreRead) {
+  std::string text = "MAP,x\n";
+  for (int n = 0; n < kMostSamples + 1; ++n) text += n == kMostSamples ? "7\n" : "1\n";
+  const Loaded loaded(DefinitionText{"LINEFREQUENCY=1\n", {kPressure}, ""}, text);
+  EXPECT_EQ(loaded.outcome.messages, Ids{51});
+  EXPECT_EQ(loaded.log.glngDataLog.Rows(), kMostSamples);
+  EXPECT_EQ(loaded.log.glngDataLog(kMAP, kMostSamples - 1), 10);
+}
+
+TEST(UniversalLog, WideLogsLoad) {
+  std::string header = "Time", line = "1";
+  for (int n = 0; n < 100000; ++n) {
+    header += n % 2 ? ",Column " : ",MAP";
+    line += ",42.5";
+  }
+  const Loaded loaded(DefinitionText{"", {kTime, kPressure}, ""}, header + "\n" + line + "\n\n" + line + "\n1");
+  EXPECT_EQ(loaded.Cells(5), "425 0 425 0");
+  EXPECT_EQ(loaded.outcome.unknownColumns.size(), 50000u);
+}
+
+TEST(Smoothing, TurnsStairsIntoRamps) {
+  const auto smoothed = [](const std::vector<std::int32_t>& values) {
+    SampleStore store;
+    store.Prepare(1, 0);
+    for (const std::int32_t value : values) store.Set(0, store.AddRow(), value);
+    SmoothColumn(store, 0);
+    return std::vector<std::int32_t>(store.Column(0).begin(), store.Column(0).end());
+  };
+  using Values = std::vector<std::int32_t>;
+  EXPECT_EQ(smoothed({0, 0, 0, 30}), (Values{0, 10, 20, 30}));
+  EXPECT_EQ(smoothed({30, 30, 60, 60, 61, 61}), (Values{30, 45, 60, 60, 61, 61}));
+  EXPECT_EQ(smoothed({7, 7, 7}), (Values{7, 7, 7}));
+  EXPECT_EQ(smoothed({}), Values{});
+}
+
+TEST(Smoothing, FollowsTheLoad) {
+  const DefinitionText text{"LINEFREQUENCY=1\n", {ColumnText("MAP", 5, 0, "SMOOTH=Y\n")}, ""};
+  EXPECT_EQ(Loaded(text, "MAP,x\n10\n10\n13\n13\n").Cells(5), "10 12 13 13");
+}
+
+}  // namespace
+}  // namespace tarnview
