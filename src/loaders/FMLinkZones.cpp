@@ -67,18 +67,18 @@ void ReadTokens(std::string_view line, int firstZone, ZoneSettings& zones) {
 }
 
 /// A change that is not given keeps the zone's own value.
-void ReadChangeTokens(std::string_view line, int firstZone, ZoneSettings& changes) {
-  SplitZoneLine(line, firstZone, [&](std::size_t zone, std::int16_t value) {
-    if (value != kUnknown) changes[zone] = value;
-  });
+void ReadChangeTokens(std::string_view line, int firstZone, const ZoneSettings& own, ZoneSettings& changes) {
+  SplitZoneLine(line, firstZone,
+                [&](std::size_t zone, std::int16_t value) { changes[zone] = value == kUnknown ? own[zone] : value; });
 }
 
 /// 16 cells of 3 characters: " 123   *  45 ..."
-void ReadChangeCells(std::string_view text, int firstZone, ZoneSettings& changes) {
+void ReadChangeCells(std::string_view text, int firstZone, const ZoneSettings& own, ZoneSettings& changes) {
   const FixedLine<2 + 4 * kCellsPerRow> line(text);
   for (int c = 0; c < kCellsPerRow; ++c) {
     const std::string_view cell = line.Text(4 * c + 2, 3);
-    if (cell != "  *") changes[static_cast<std::size_t>(firstZone + c)] = ZoneValue(cell);
+    const auto zone = static_cast<std::size_t>(firstZone + c);
+    changes[zone] = cell == "  *" ? own[zone] : ZoneValue(cell);
   }
 }
 
@@ -138,13 +138,13 @@ void ReadChangesSection(TextLines& lines, LoadedZones& zones, LoadProgress& prog
   if (line == kNoChanges) return;
 
   progress.Stage("Loading lambda/knock changes");
-  ReadChangeTokens(FindATMRow(lines), 0, zones.changes);
+  ReadChangeTokens(FindATMRow(lines), 0, zones.zones, zones.changes);
   for (const ZoneRow& row : kRows) {
     lines.Skip(row.linesToSkip);
-    (row.cells ? ReadChangeCells : ReadChangeTokens)(lines.Next(), row.firstZone, zones.changes);
+    (row.cells ? ReadChangeCells : ReadChangeTokens)(lines.Next(), row.firstZone, zones.zones, zones.changes);
   }
   if (!lines.AtEnd() && lines.Next().size() == kLastRowLength)
-    ReadChangeTokens(lines.Current(), kFirstOfLastRow, zones.changes);
+    ReadChangeTokens(lines.Current(), kFirstOfLastRow, zones.zones, zones.changes);
 }
 
 void ParseATMLine(std::string_view text, LoadedZones& zones) {
