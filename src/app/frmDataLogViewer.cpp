@@ -35,7 +35,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
   DefaultButton = &cmdDrawGraph;
   SetUpZoomMenus();
   BindCommands();
-  services_.messages.ShowNonModal = [this](int id, const std::string& text) { ShowNonModal(id, text); };
+  services_.messages.ShowNonModal = [this](int, const std::string& text) { ShowNonModal(text); };
 }
 
 void frmDataLogViewer::Form_Load() {
@@ -87,7 +87,8 @@ bool frmDataLogViewer::SaveChangesPrompt() {
   if (!saveable || !log_.gblnZonesDirty) return true;
   const Reply reply = services_.messages.Tell(
       "Do you want to save the changes made to " + log_.gstrCurrentFileTitle + "?", kBoxYesNoCancel + kBoxExclamation);
-  return reply != Reply::Cancel;
+  // Nothing saves zones yet, so Yes keeps them open too: an edit is never lost by an answer.
+  return reply == Reply::No;
 }
 
 void frmDataLogViewer::Form_Unload() {
@@ -124,13 +125,12 @@ void frmDataLogViewer::StartSysInfo() {
     services_.programs.ShellOpen(tool);
 }
 
-void frmDataLogViewer::ShowNonModal(int id, const std::string& text) {
+void frmDataLogViewer::ShowNonModal(const std::string& text) {
   const int number = nonModalMessages_.NextNumber();
   auto& window = nonModalMessages_.Add(
       std::make_unique<frmNonModalMessage>(host, [this](int ID) { nonModalMessages_.Remove(ID); }));
   window.ID = number;
   window.MessageText(text);
-  static_cast<void>(id);
   window.Show();
 }
 

@@ -115,7 +115,7 @@ class frmDataLogViewer : public MainWindowControls,
   void BindCommands();
   void SetUpZoomMenus();
   void StartSysInfo();
-  void ShowNonModal(int id, const std::string& text);
+  void ShowNonModal(const std::string& text);
 
   // What the parts ask for.
   void SetUpScrollBar() override { scrolling_.SetUp(); }

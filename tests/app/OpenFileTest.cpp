@@ -126,8 +126,12 @@ TEST_F(OpenFile, EditedZonesAreProtected) {
   ASSERT_EQ(host.messages.size(), 1u);
   EXPECT_EQ(host.messages[0].text, "Do you want to save the changes made to run.txt?");
   EXPECT_EQ(host.messages[0].style, 51);
-  host.answers.push_back({Answer::Kind::Cancel, "", 0, 0});
-  EXPECT_FALSE(Main().Unload());
+  for (const auto kind : {Answer::Kind::Cancel, Answer::Kind::Yes}) {  // nothing can save them yet
+    host.answers.push_back({kind, "", 0, 0});
+    EXPECT_FALSE(Main().Unload());
+  }
+  host.answers.push_back({Answer::Kind::No, "", 0, 0});
+  EXPECT_TRUE(Main().Unload());
 }
 
 }  // namespace
