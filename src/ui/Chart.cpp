@@ -32,9 +32,10 @@ void Chart::Perform(const Action& action) {
   const int series = action.Number(0);
   const int point = action.Number(1);
   const auto place = static_cast<std::size_t>((series - 1) / 2);
-  if (series < 1 || series % 2 == 0 || place >= data_.series.size()) throw CannotDo(FullName() + " has no such series");
-  if (point < 1 || static_cast<std::size_t>(point) > data_.series[place].x.size())
-    throw CannotDo(FullName() + " has no such point");
+  const bool known = data_.points ? series == 1 : series >= 1 && series % 2 == 1 && place < data_.series.size();
+  if (!known) throw CannotDo(FullName() + " has no such series");
+  const auto& x = data_.points ? data_.points->x : data_.series[place].x;
+  if (point < 1 || static_cast<std::size_t>(point) > x.size()) throw CannotDo(FullName() + " has no such point");
   SelectPoint(series, point);
 }
 

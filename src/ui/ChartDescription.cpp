@@ -1,8 +1,22 @@
 #include "ui/ChartDescription.h"
 
 namespace tarnview {
+namespace {
+
+Object DescribePoints(const PointCloud& cloud, Object facts) {
+  List points;
+  for (std::size_t i = 0; i < cloud.x.size(); ++i)
+    points.emplace_back(MakeList(std::vector<double>{cloud.x[i], cloud.y[i], cloud.sample[i]}));
+  facts.emplace_back("x_item", cloud.xItem);
+  facts.emplace_back("y_item", cloud.yItem);
+  facts.emplace_back("points", std::move(points));
+  return facts;
+}
+
+}  // namespace
 
 Object Describe(const ChartDescription& chart) {
+  if (chart.points) return DescribePoints(*chart.points, chart.facts);
   Object facts = chart.facts;
   List series;
   for (const ChartSeries& one : chart.series)

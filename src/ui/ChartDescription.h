@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,7 @@ struct Pen {
   int width = 10;
 };
 
-/// One curve, or one cloud of points where `marker` says so.
+/// One curve.
 struct ChartSeries {
   int id = 0;  ///< data item
   std::string name;
@@ -29,8 +30,27 @@ struct ChartSeries {
 struct ChartAxis {
   double min = 0;
   double max = 1;
-  int divisions = 10;  ///< major divisions between min and max
-  std::string format;  ///< "#######0.0"
+  int divisions = 10;      ///< major divisions between min and max
+  std::string format;      ///< "#######0.0"
+  std::string title = {};  ///< empty for none
+};
+
+/// The mark of a point, in the order and with the numbers that presets keep.
+enum class PointShape : int { Ball, Circle, Dash, Diamond, DownTriangle, Plus, Square, Star, UpTriangle, Cross };
+
+/// One item against another: a mark for each sample and no lines. All lists are as long as `x`, or empty.
+struct PointCloud {
+  int xItem = 0;  ///< data item
+  int yItem = 0;
+  std::vector<double> x;
+  std::vector<double> y;
+  std::vector<double> sample;  ///< the `Sample` value of each point
+  PointShape shape = PointShape::Ball;
+  int size = 1;  ///< 1 to 10
+  Colour colour = 0;
+  std::vector<double> tint;  ///< a third item that gives the points their colours; empty: all bear `colour`
+  ChartAxis tintAxis;        ///< of the colour bar, where there is `tint`
+  bool density = false;      ///< marks that fall together are shaded by their number
 };
 
 /// The colours of a chart: what lies behind it, its lines and texts, its grid.
@@ -44,6 +64,7 @@ struct ChartColours {
 /// A chart in plain numbers: rooms fill it in, the toolkit draws it, on screen, on paper and into files alike.
 struct ChartDescription {
   std::vector<ChartSeries> series;
+  std::optional<PointCloud> points;  ///< then there are no series
   ChartAxis x;
   ChartAxis y;
   ChartColours colours;
