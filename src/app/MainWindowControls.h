@@ -74,10 +74,12 @@ class MainWindowControls : public Form {
   MenuItem mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As..."};
   MenuItem mnuFileExport{*this, "mnuFileExport", "&Export...", "Ctrl+E"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
+  MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};
+  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Picture &As..."};
   MenuItem mnuSepRecentlyUsed{*this, "mnuSepRecentlyUsed", "-"};
   ControlArray<MenuItem> mnuRecentlyUsed{*this, "mnuRecentlyUsed", UpTo(kMostRecentFiles), "", ""};
   MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit"};
-  MenuItem mnuFileDrawScatter{*this, "mnuFileDrawScatter", "&Draw Scatter Graphs"};
+  MenuItem mnuFileDrawScatter{*this, "mnuFileDrawScatter", "Scatter Graph Auto &Draw"};
 
   MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
   MenuItem mnuCopy{*this, "mnuCopy", "&Copy Graph", "Ctrl+C"};
@@ -137,6 +139,8 @@ class MainWindowControls : public Form {
   MenuItem mnuRightClickPlotFromAnd{*this, "mnuRightClickPlotFromAnd", "Set Plot From and Draw"};
   MenuItem mnuRightClickPlotToAnd{*this, "mnuRightClickPlotToAnd", "Set Plot To and Draw"};
   MenuItem mnuRightClickNewDataTag{*this, "mnuRightClickNewDataTag", "New Data Ta&g"};
+  MenuItem mnuRightClickCopy{*this, "mnuRightClickCopy", "&Copy Graph"};
+  MenuItem mnuRightClickPrint{*this, "mnuRightClickPrint", "&Print..."};
 };
 
 }  // namespace tarnview

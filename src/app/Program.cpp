@@ -24,7 +24,7 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
       errors_(files, clock, In(folders_.program, "error.log")),
       messages_(host, [this](int id) { return globals_.kinds.gcolFileTypes.Item(id).strDescription; }),
       programs_(processes, host),
-      help_(files, programs_, messages_, In(folders_.data, "Documentation/")),
+      help_(files, programs_, messages_, In(folders_.data, "Documentation/"), folders_.program),
       services_{host, files, clock, programs_, errors_, messages_, help_} {
   globals_.gstrProgramFolder = folders_.program;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");

@@ -26,9 +26,11 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
                   mnuViewPageRight, mnuViewStart, mnuViewFinish},
                  plot_, range_, log_, *this),
       zoom_({cboZoomAmount, chkQuickGraph}, plot_, range_, log_, services.messages, *this),
+      mouse_({chSampleGraph, chkQuickGraph, cmdZoomFull}, plot_, range_, log_, highlight_, *this),
       presets_({lvwPresets, lvwSampleDetails, chkShowCheckedOnly, chkFixY, txtYMax}, globals.gcolSampleGraphPresets,
                globals.kinds.gcolLogFamilies, *this),
       export_({lvwSampleDetails, chkShowCheckedOnly}, range_, log_, services.files, status_),
+      output_(services.host, services.messages, services.errors),
       zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, plot_, log_),
       tags_(services.host, log_.gcolLogTags, *this),
       commands_(services.errors, "frmDataLogViewer") {
@@ -94,6 +96,7 @@ bool frmDataLogViewer::SaveChangesPrompt() {
 void frmDataLogViewer::Form_Unload() {
   globals_.settings.windows.main = PlacementOf(*this);
   nonModalMessages_.UnloadAll();
+  scatterGraphs_.UnloadAll();
   WriteINIFile();
   tags_.Unload();
 }

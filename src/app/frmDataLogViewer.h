@@ -3,14 +3,16 @@
 #include <memory>
 #include <string>
 
-#include "app/Commands.h"
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
 #include "app/RecentFiles.h"
 #include "app/SettingsFile.h"
 #include "app/frmNonModalMessage.h"
+#include "base/Commands.h"
 #include "customise/frmMaint.h"
 #include "loaders/FMLinkLog.h"
+#include "printing/ChartOutput.h"
+#include "samplegraph/GraphMouse.h"
 #include "samplegraph/LogExport.h"
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/PointHighlight.h"
@@ -22,6 +24,7 @@
 #include "samplegraph/ZoneInfluencePanel.h"
 #include "samplegraph/Zoom.h"
 #include "samplegraph/frmDataTags.h"
+#include "scatter/frmScatterGraph.h"
 #include "ui/FormCollection.h"
 
 namespace tarnview {
@@ -32,8 +35,10 @@ class frmDataLogViewer : public MainWindowControls,
                          private PointHighlight::MainWindow,
                          private Scrolling::MainWindow,
                          private Zoom::MainWindow,
+                         private GraphMouse::MainWindow,
                          private PresetGraphs::MainWindow,
-                         private frmDataTags::MainWindow {
+                         private frmDataTags::MainWindow,
+                         private frmScatterGraph::MainWindow {
  public:
   frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
@@ -62,6 +67,8 @@ class frmDataLogViewer : public MainWindowControls,
   std::int64_t PlotTo() const { return range_.To(); }
   SampleDetails& Details() { return details_; }
   PresetGraphs& Presets() { return presets_; }
+  /// Opens another scatter window, as its command does.
+  frmScatterGraph& OpenScatterGraph();
   PlotState& Plot() { return plot_; }
   const RecentFiles& Recent() const { return recent_; }
 
@@ -102,16 +109,25 @@ class frmDataLogViewer : public MainWindowControls,
   void DisplayZoneInfluence();
   bool IsLinkLog() const;
   int PresetFileType() const;
-  /// Which list: 1 preset sample graphs.
+  /// Which list: 1 preset sample graphs, 2 preset scatter graphs.
   void MaintainList(int list);
   template <class Collection>
   void Maintain(const frmMaint::Texts& texts, Collection& kept, std::function<bool(typename Collection::Record&)> edit);
-  bool EditPresetSample(clsSampleGraphPreset& preset);
+  template <class Window, class Preset>
+  bool EditPreset(Preset& preset);
+
+  // Scatter windows.
+  frmScatterGraph& NewScatterGraph();
+  void mnuFileDrawScatter_Click();
+  void DrawAutoScatterGraphs();
+  void UpdateScatterPresetsOnForms();
 
   // Commands.
   std::vector<Command> FileCommands();
   std::vector<Command> ViewCommands();
   std::vector<Command> GraphMenuCommands();
+  std::vector<Command> OutputCommands();
+  PrintDetails DetailsToPrint() const;
   void BindCommands();
   void SetUpZoomMenus();
   void StartSysInfo();
@@ -127,6 +143,11 @@ class frmDataLogViewer : public MainWindowControls,
   bool CurrentRange(clsLogTag& tag) const override;
   void ShowRange(const clsLogTag& tag) override;
   void ShowHelp(const char* topic) override { services_.help.ShowHelp(topic); }
+  void ShowPoint(std::int32_t sample) override;
+  std::optional<clsScatterFilter> RangeFilter() const override;
+  std::vector<int> ListedItems() const override;
+  void ScatterPresetsChanged(bool added) override;
+  void ScatterGraphClosed(int ID) override { scatterGraphs_.Remove(ID); }
 
   Globals& globals_;
   Services& services_;
@@ -140,12 +161,15 @@ class frmDataLogViewer : public MainWindowControls,
   PointHighlight highlight_;
   Scrolling scrolling_;
   Zoom zoom_;
+  GraphMouse mouse_;
   PresetGraphs presets_;
   LogExport export_;
+  ChartOutput output_;
   ZoneInfluencePanel zoneInfluence_;
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
+  FormCollection<frmScatterGraph> scatterGraphs_;
   Commands commands_;
   bool blnGotoShowPointWidth_ = false;
   bool exported_ = false;

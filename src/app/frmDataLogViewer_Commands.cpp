@@ -19,24 +19,22 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuFileSave, "mnuFileSave_Click", kNotYet, {}},
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", kNotYet, {}},
       {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
-      {&mnuFilePrint, "mnuFilePrint_Click", kNotYet, {}},
       {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
-      {&mnuFileDrawScatter, "mnuFileDrawScatter_Click", kNotYet, {}},
-      {&mnuCopy, "mnuCopy_Click", kNotYet, {}},
+      {&mnuFileDrawScatter, "mnuFileDrawScatter_Click", [this] { mnuFileDrawScatter_Click(); }, {}},
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
       {&mnuModulesZoneData, "mnuModulesZoneData_Click", kNotYet, {}},
-      {&mnuModulesScatterGraph, "mnuModulesScatterGraph_Click", kNotYet, loaded},
+      {&mnuModulesScatterGraph, "mnuModulesScatterGraph_Click", [this] { OpenScatterGraph(); }, loaded},
       {&mnuModulesPowerGraph, "mnuModulesPowerGraph_Click", kNotYet, loaded},
       {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
       {&mnuToolsConvert, "mnuToolsConvert_Click", kNotYet, {}},
       {&mnuCustomiseOptions, "mnuCustomiseOptions_Click", kNotYet, {}},
       {&mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", [this] { MaintainList(1); }, {}},
-      {&mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", kNotYet, {}},
+      {&mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", [this] { MaintainList(2); }, {}},
       {&mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", kNotYet, {}},
       {&mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", kNotYet, {}},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", kNotYet, {}},
+      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { ShowHelp(""); }, {}},
       {&mnuHelpAbout,
        "mnuHelpAbout_Click",
        [this] {
@@ -104,7 +102,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), GraphMenuCommands()}) rows.insert(rows.end(), part.begin(), part.end());
+  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands()}) rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(
         {item.get(), "mnuRecentlyUsed_Click", [this, index = item->index] { OpenRecentlyUsedFile(index); }, {}});

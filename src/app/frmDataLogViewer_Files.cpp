@@ -77,6 +77,7 @@ bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
     recent_.AddRecentlyUsedFile(path, fileType);
     LoadDatalogFileSuccess(fileType);
     status_.Say("Loading complete");
+    if (fileType != kMAPFile) DrawAutoScatterGraphs();
   } else {
     services_.messages.ShowMessage(kTooFewRecords);
     status_.Say("Loading failed");
@@ -115,6 +116,7 @@ void frmDataLogViewer::HideForLoad() {
   log_.gcolLogTags.RemoveAll();
   range_.Clear();
   graph_.Clear();
+  scatterGraphs_.ForEach([](frmScatterGraph& window) { window.LogIsClosing(); });
   scrolling_.Disable();
   cmdDataPointLeft.Enabled = cmdDataPointRight.Enabled = false;
   fraGraphSeriesFrame.Enabled = false;
@@ -146,6 +148,7 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
   commands_.Update();
   DisplayZoneInfluence();
   RefreshDataTags();
+  scatterGraphs_.ForEach([](frmScatterGraph& window) { window.RefreshDataItems(); });
 }
 
 void frmDataLogViewer::SetFirstRange() {

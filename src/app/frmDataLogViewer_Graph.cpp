@@ -2,14 +2,15 @@
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
+#include "samplegraph/ExportRun.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
 #include "samplegraph/frmPresetSampleDetails.h"
+#include "scatter/frmPresetScatterDetails.h"
 
 namespace tarnview {
 namespace {
 
-constexpr int kExportFailed = 64;
 /// A graph narrower than this gives way to the width of Show Point.
 constexpr std::int64_t kNarrowGraph = 10;
 
@@ -38,24 +39,11 @@ void frmDataLogViewer::ShowAround(std::int32_t sample, bool showPointWidth) {
 
 void frmDataLogViewer::mnuFileExport_Click() {
   if (export_.gstrExportPathFile.empty()) export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
-  Dialog dialog;
-  dialog.kind = DialogKind::Save;
-  dialog.title = "Export";
-  dialog.filter = "CSV files (*.csv)|*.csv";
-  dialog.initialPath = dialog.path = export_.gstrExportPathFile;
-  exported_ = false;
-  if (!host.Choose(dialog)) return;
-  export_.gstrExportPathFile = dialog.path;
-  status_.Say("Exporting...");
-  Pointer = MousePointer::Hourglass;
-  exported_ = TrapEvent(services_.errors, "frmDataLogViewer", "ExportDataLog", [&] {
+  const ExportRun run{*this, status_, services_.messages, services_.errors, "ExportDataLog"};
+  exported_ = run.Run(export_.gstrExportPathFile, [this](const std::string& strFile) {
     const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-    export_.ExportDataLog(dialog.path, type.strDescription);
+    export_.ExportDataLog(strFile, type.strDescription);
   });
-  status_.HideProgress();
-  Pointer = MousePointer::Default;
-  status_.Say(exported_ ? "Export complete" : "");
-  if (!exported_) services_.messages.ShowMessage(kExportFailed);
 }
 
 void frmDataLogViewer::mnuEditNewPreset_Click() {
@@ -90,12 +78,14 @@ void frmDataLogViewer::DisplayZoneInfluence() {
   zoneInfluence_.DisplayZoneInfluence();
 }
 
-bool frmDataLogViewer::EditPresetSample(clsSampleGraphPreset& preset) {
-  frmPresetSampleDetails window(
-      host,
-      {globals_.kinds.gcolLogFamilies, globals_.catalogue, globals_.settings.gstrDefaultWorkingDirectory,
-       services_.files, services_.clock, services_.errors, services_.messages, services_.help},
-      preset);
+/// Shows the details window of a preset; true on OK, with what the user made of it.
+template <class Window, class Preset>
+bool frmDataLogViewer::EditPreset(Preset& preset) {
+  Window window(host,
+                PresetSurroundings{globals_.kinds.gcolLogFamilies, globals_.catalogue,
+                                   globals_.settings.gstrDefaultWorkingDirectory, services_.files, services_.clock,
+                                   services_.errors, services_.messages, services_.help},
+                preset);
   window.ShowModal();
   if (window.CloseMethod() != "OK") return false;
   preset = window.ColItem();
@@ -109,10 +99,13 @@ void frmDataLogViewer::Maintain(const frmMaint::Texts& texts, Collection& kept,
   const clsLogFamilies& families = globals_.kinds.gcolLogFamilies;
   frmMaint window(host, copy, texts, families, families.FirstLogFamily(globals_.settings.gintDefaultFileType),
                   services_.messages, services_.help);
+  ApplyPlacement(globals_.settings.windows.maintenance, window);
   window.ShowModal();
+  globals_.settings.windows.maintenance = PlacementOf(window);
   if (window.CloseMethod() != "OK") return;
   kept = copy.Col;
   presets_.PopulatePresetGraphs(false, PresetFileType());
+  UpdateScatterPresetsOnForms();
   commands_.Update();
 }
 
@@ -123,7 +116,13 @@ void frmDataLogViewer::MaintainList(int list) {
   } kLists[] = {
       {{"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
        [this](const frmMaint::Texts& texts) {
-         Maintain(texts, globals_.gcolSampleGraphPresets, [this](auto& preset) { return EditPresetSample(preset); });
+         Maintain(texts, globals_.gcolSampleGraphPresets,
+                  [this](auto& preset) { return EditPreset<frmPresetSampleDetails>(preset); });
+       }},
+      {{"Preset Scatter Graph Editor", "&Preset Graphs", "PresetScatterGraphEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolScatterGraphPresets,
+                  [this](auto& preset) { return EditPreset<frmPresetScatterDetails>(preset); });
        }},
   };
   const auto& row = kLists[list - 1];

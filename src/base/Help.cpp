@@ -6,6 +6,7 @@ namespace tarnview {
 namespace {
 
 constexpr int kHelpFailed = 30;
+constexpr const char* kLauncher = "HelpLauncher.htm";
 
 std::string Slashed(std::string path) {
   std::replace(path.begin(), path.end(), '\\', '/');
@@ -17,7 +18,6 @@ std::string Slashed(std::string path) {
 void Help::ShowHelp(const std::string& topic) {
   const std::string contents = Slashed(folder_ + "Contents.htm");
   const std::string instructions = Slashed(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
-  const std::string launcher = folder_ + "HelpLauncher.htm";
   const std::string page =
       "<HEAD><title>Tarnview Instructions</title></HEAD>\r\n"
       "<frameset cols=\"216,1*\">\r\n"
@@ -32,12 +32,19 @@ void Help::ShowHelp(const std::string& topic) {
       "<div class=Section1>\r\n"
       "<p class=MsoNormal>This page uses frames, but your browser doesn't support them.</p>\r\n"
       "</div></body></noframes></frameset>\r\n";
+  if (files_.FileExists(folder_ + "Contents.htm"))
+    for (const std::string& folder : {folder_, writableFolder_})
+      if (WriteLauncher(folder + kLauncher, page)) {
+        programs_.ShellOpen(folder + kLauncher);
+        return;
+      }
+  messages_.ShowMessage(kHelpFailed);
+}
+
+bool Help::WriteLauncher(const std::string& launcher, const std::string& page) {
+  if (launcher == kLauncher) return false;
   if (files_.FileExists(launcher)) files_.DeleteFile(launcher);
-  if (!files_.FileExists(contents) || !files_.Write(launcher, page)) {
-    messages_.ShowMessage(kHelpFailed);
-    return;
-  }
-  programs_.ShellOpen(launcher);
+  return files_.Write(launcher, page);
 }
 
 }  // namespace tarnview

@@ -13,7 +13,7 @@ int RunCommandLine(int count, const char* const* arguments) {
   program.require_subcommand(1);
   program.footer("Example:\n  tarnview-cli graph run.txt --items 3,5,20 --out run.png");
   int status = kDone;
-  for (const auto add : {AddLoadCommand, AddTableCommand, AddExportCommand, AddGraphCommand, AddDefinitionCommand,
+  for (const auto add : {AddLoadCommand, AddTableCommand, AddExportCommand, AddGraphCommand, AddScatterCommand, AddDefinitionCommand,
                          AddSettingsCommand, AddDriveCommand})
     add(program, status);
   try {

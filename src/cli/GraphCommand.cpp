@@ -5,7 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/LogSession.h"
-#include "cli/PictureLibrary.h"
+#include "cli/PictureOptions.h"
 
 namespace tarnview {
 namespace {
@@ -14,38 +14,15 @@ struct GraphOptions : LogOptions {
   std::string preset;
   std::string quick = "Y";
   std::optional<int> fixMax;
-  std::optional<int> scheme;
-  std::string out;
-  std::string size = "1400x800";
+  PictureOptions picture;
   bool json = false;
 };
-
-constexpr int kLeastSide = 50;
-constexpr int kGreatestSide = 20000;  // pixels
-
-/// "1400x800"; false for anything else.
-bool ParseSize(const std::string& text, int& width, int& height) {
-  char after = 0;
-  return std::sscanf(text.c_str(), "%dx%d%c", &width, &height, &after) == 2 && width >= kLeastSide &&
-         height >= kLeastSide && width <= kGreatestSide && height <= kGreatestSide;
-}
-
-std::string CheckSize(const std::string& text) {
-  int width = 0, height = 0;
-  return ParseSize(text, width, height) ? "" : "a size is WIDTHxHEIGHT in pixels, 50 to 20000";
-}
-
-std::string CheckPicture(const std::string& path) {
-  for (const char* ending : {".png", ".svg", ".pdf"})
-    if (path.ends_with(ending)) return "";
-  return "a picture's name ends in .png, .svg or .pdf";
-}
 
 /// Fills the window in as a user would and presses Draw; false if no graph came of it.
 bool DrawInWindow(LogSession& session, const GraphOptions& options) {
   frmDataLogViewer& window = session.Window();
   window.chkQuickGraph.Value = options.quick == "Y";
-  if (options.scheme) session.Global().settings.gintGraphColourScheme = *options.scheme;
+  if (options.picture.scheme) session.Global().settings.gintGraphColourScheme = *options.picture.scheme;
   if (!session.Open() || !session.Log().gblnSamplesLoaded) return false;
   if (!options.items.empty()) window.Details().SetCheckedItems(session.Items(false));
   if (!options.preset.empty() && !window.Presets().ApplyNamed(FromUtf8(options.preset))) {
@@ -61,16 +38,6 @@ bool DrawInWindow(LogSession& session, const GraphOptions& options) {
   return !window.chSampleGraph.Data().series.empty();
 }
 
-bool DrawPicture(const ChartDescription& chart, const GraphOptions& options) {
-  int width = 0, height = 0;
-  ParseSize(options.size, width, height);
-  std::string error;
-  PictureMaker* pictures = LoadPictureMaker(error);
-  if (pictures && pictures->Draw(chart, options.out, width, height, error)) return true;
-  std::fprintf(stderr, "tarnview-cli: cannot draw %s: %s\n", options.out.c_str(), error.c_str());
-  return false;
-}
-
 int Graph(const GraphOptions& options) {
   LogSession session(options);
   const bool drawn = DrawInWindow(session, options);
@@ -80,8 +47,7 @@ int Graph(const GraphOptions& options) {
     out["messages"] = MessagesJson(session.Host().messages);
     Print(out);
   }
-  if (!drawn) return kFailed;
-  return options.out.empty() || DrawPicture(chart, options) ? kDone : kFailed;
+  return drawn && DrawPicture(chart, options.picture) ? kDone : kFailed;
 }
 
 }  // namespace
@@ -95,13 +61,10 @@ void AddGraphCommand(CLI::App& program, int& status) {
       ->excludes(command->get_option("--items"));
   command->add_option("--quick", options->quick, "Quick Graph, Y or N (Y)")->check(CLI::IsMember({"Y", "N"}));
   command->add_option("--fix-max", options->fixMax, "Fix the vertical maximum");
-  command->add_option("--scheme", options->scheme, "1 grey, 2 black, 3 white")->check(CLI::Range(1, 3));
-  command->add_option("--size", options->size, "WIDTHxHEIGHT in pixels (1400x800)")->check(CheckSize);
-  auto* out =
-      command->add_option("--out", options->out, "Draw into this file: .png, .svg or .pdf")->check(CheckPicture);
-  auto* json = command->add_flag("--json", options->json, "Print what the chart receives");
-  command->callback([options, out, json, &status] {
-    if (out->empty() && json->empty()) throw CLI::ValidationError("graph", "needs --out or --json");
+  options->picture.AddTo(*command);
+  command->add_flag("--json", options->json, "Print what the chart receives");
+  command->callback([options, &status] {
+    if (options->picture.out.empty() && !options->json) throw CLI::ValidationError("graph", "needs --out or --json");
     status = Graph(*options);
   });
 }

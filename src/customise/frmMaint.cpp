@@ -52,9 +52,7 @@ frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const
 }
 
 void frmMaint::Form_Load() {
-  std::vector<std::string> names;
-  for (int id = 1; id <= families_.Count(); ++id) names.push_back(families_.Item(id).strDescription);
-  cboLogFamily.SetList(std::move(names));
+  cboLogFamily.SetList(families_.Descriptions());
   cboLogFamily.SetListIndex(firstFamily_ - 1);
   EnableLogFamilyFunction();
   PopulatePresetsListView(1);

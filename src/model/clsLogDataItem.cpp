@@ -55,13 +55,6 @@ std::string clsLogDataItem::GetFormattedData(std::int32_t stored) const {
   return dblFactor == 0 ? "" : FixedText(static_cast<double>(value) / dblFactor, places_);
 }
 
-double clsLogDataItem::GetRawData(std::int32_t stored) const {
-  if (intType == kListItem) return stored;
-  const auto value = static_cast<double>(std::int64_t{stored} - lngStorageOffset);
-  const double factor = Factor();
-  return factor == 0 ? 0 : value / factor;
-}
-
 std::int32_t clsLogDataItem::SetRawData(double value) const {
   if (minSet_) value = std::max(min_, value);
   if (maxSet_) value = std::min(max_, value);

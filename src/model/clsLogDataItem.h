@@ -58,7 +58,12 @@ class clsLogDataItem {
   /// The text of a stored integer. Empty: a zero that is not shown, a list index outside the list.
   std::string GetFormattedData(std::int32_t stored) const;
   /// The value of a stored integer; of a list item the index itself.
-  double GetRawData(std::int32_t stored) const;
+  double GetRawData(std::int32_t stored) const {
+    if (intType == kListItem) return stored;
+    const auto value = static_cast<double>(std::int64_t{stored} - lngStorageOffset);
+    const double factor = Factor();
+    return factor == 0 ? 0 : value / factor;
+  }
   /// The stored integer of a value: clamped to the bounds, scaled, rounded half to even, and never below 0.
   std::int32_t SetRawData(double value) const;
 

@@ -54,6 +54,12 @@ bool clsLogFamily::Holds(int fileType) const {
 
 clsLogFamily& clsLogFamilies::AddDirect(clsLogFamily family) { return families_.emplace_back(std::move(family)); }
 
+std::vector<std::string> clsLogFamilies::Descriptions() const {
+  std::vector<std::string> descriptions;
+  for (const clsLogFamily& family : families_) descriptions.push_back(family.strDescription);
+  return descriptions;
+}
+
 int clsLogFamilies::FirstLogFamily(int fileType) const {
   for (const clsLogFamily& family : families_)
     if (family.Holds(fileType)) return family.lngID;

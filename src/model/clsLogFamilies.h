@@ -29,6 +29,8 @@ class clsLogFamilies {
   clsLogFamily& Item(int id) { return families_[static_cast<std::size_t>(id - 1)]; }
   const clsLogFamily& Item(int id) const { return families_[static_cast<std::size_t>(id - 1)]; }
 
+  /// What lists of families show, in the order of the ids.
+  std::vector<std::string> Descriptions() const;
   /// The first family that holds the file type; 0 if none does.
   int FirstLogFamily(int fileType) const;
   /// The family that fits most of the item numbers, the lowest on a tie; 0 with no votes.

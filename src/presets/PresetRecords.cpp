@@ -47,10 +47,11 @@ constexpr IniRule<Filter> kBound{
     [](const Filter& filter) { return filter.*Bound == kBoundNotSet ? std::string() : ShortestText(filter.*Bound); }};
 
 constexpr const char* kFilterItem = "Data Item";
+constexpr const char* kFilterFrom = "From";
 
 const IniKey<Filter> kFilterKeys[] = {
     {kFilterItem, IniWhole<Filter>{&Filter::lngDataItemSeq}},
-    {"From", kBound<&Filter::dblFrom>},
+    {kFilterFrom, kBound<&Filter::dblFrom>},
     {"To", kBound<&Filter::dblTo>},
 };
 
@@ -119,6 +120,14 @@ void WriteToFile(const Scatter& preset, IniWriter& file, int lngGraphNo, bool bl
   int f = 0;
   for (const Filter& filter : preset.objFilters)
     WriteIniKeys<Filter>(kFilterKeys, FilterPlace(GraphPlace("", lngGraphNo), ++f), filter, file);
+}
+
+void ReadFilterField(std::string_view field, std::string_view text, const clsLogDataItems& objItems, Filter& filter) {
+  for (const auto& key : kFilterKeys)
+    if (key.name == field) std::visit(detail::IniReader<Filter>{filter, text}, key.kind);
+  if (field == kFilterItem && !IsItem(filter.lngDataItemSeq)) filter.lngDataItemSeq = 1;
+  // Kept on purpose: the check is against the item as read so far, so that a bound in front of its item becomes 0.
+  if (field == kFilterFrom) filter.dblFrom = ValidateFilterFrom(filter.dblFrom, filter.lngDataItemSeq, objItems);
 }
 
 double ValidateFilterFrom(double dblFrom, int lngItem, const clsLogDataItems& objItems) {

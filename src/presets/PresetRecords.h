@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/IniFile.h"
@@ -31,6 +32,11 @@ PresetRead<clsScatterGraphPreset> ReadScatterPreset(const IniTable& table, const
 
 void WriteToFile(const clsSampleGraphPreset& preset, IniWriter& file, int lngGraphNo, bool blnWriteFamily);
 void WriteToFile(const clsScatterGraphPreset& preset, IniWriter& file, int lngGraphNo, bool blnWriteFamily);
+
+/// Reads one line of a filter ("Data Item", "From" or "To"; others are passed over). A number that is no item
+/// becomes 1.
+void ReadFilterField(std::string_view field, std::string_view text, const clsLogDataItems& objItems,
+                     clsScatterFilter& filter);
 
 /// The lower bound itself, or 0: for a number that is no item, and for a list item where it is no index of the list.
 double ValidateFilterFrom(double dblFrom, int lngItem, const clsLogDataItems& objItems);

@@ -30,6 +30,10 @@ class ChartOutput {
   void SavePictureAs(const Chart& chart, const std::string& strLogFile);
 
  private:
+  PrintJob PageOf(const Chart& chart, const PrintDetails& details) const;
+  /// Logs a failure and tells it; nothing for one without a reason, which the user made.
+  void Fail(const char* procedure, const std::string& what, long number, const std::string& error);
+
   Host& host_;
   Messages& messages_;
   ErrorLog& errors_;

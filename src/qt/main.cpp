@@ -41,7 +41,6 @@ int main(int argc, char** argv) {
   using namespace tarnview;
   QApplication application(argc, argv);
   QApplication::setApplicationName("tarnview");
-  QApplication::setApplicationDisplayName("Tarnview");
   QApplication::setApplicationVersion(kVersion);
   QApplication::setStyle(new DesktopStyle);
   QApplication::setWindowIcon(ProgramIcon());

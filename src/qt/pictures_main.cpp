@@ -5,11 +5,12 @@
 #include <QDir>
 #include <QMenu>
 #include <cstdio>
+#include <map>
 
 #include "qt/Text.h"
-#include "qt/host/QtHost.h"
 #include "qt/icons/DesktopStyle.h"
 #include "qt/pictures/AllWindows.h"
+#include "qt/pictures/UnattendedHost.h"
 
 namespace tarnview {
 namespace {
@@ -25,13 +26,6 @@ const Look kLooks[] = {{"light-small", {1024, 700}, false, 1},
                        {"dark-small", {1024, 700}, true, 1},
                        {"dark-large", {1920, 1080}, true, 1},
                        {"light-wide-font", {1280, 900}, false, 1.4}};
-
-/// Nobody is there to press a button.
-class UnattendedHost : public QtHost {
- public:
-  Reply Ask(const Box& box) override { return box.DefaultReply(); }
-  bool Choose(Dialog&) override { return false; }
-};
 
 QPalette DarkPalette() {
   QPalette dark(QColor(53, 53, 57), QColor(42, 42, 46));
@@ -69,14 +63,46 @@ bool DrawAll(const QDir& folder, const std::string& log, const Look& look) {
   AllWindows windows(host, log);
   const QString ending = QString(log.empty() ? "empty-" : "filled-") + look.name;
   bool saved = true;
+  std::map<std::string, int> seen;
   for (Form* form : windows.Forms()) {
     QWidget& window = host.WindowOf(*form)->window();
     if (window.inherits("QMainWindow")) window.resize(look.mainWindow);
     host.DoEvents();
     host.DoEvents();
-    saved = Save(window, folder, QString::fromStdString(form->name) + "-" + ending) && saved;
+    const int number = ++seen[form->name];
+    const QString name = QString::fromStdString(form->name) + (number > 1 ? QString::number(number) : QString());
+    saved = Save(window, folder, name + "-" + ending) && saved;
     if (window.inherits("QMainWindow")) saved = SaveMenus(window, folder, ending) && saved;
   }
+  return saved;
+}
+
+/// The main window as tuners set it up: on small and large screens, in each colour scheme, with and without zone
+/// influence.
+bool DrawMainWindow(const QDir& folder, const std::string& log, bool dark) {
+  constexpr std::pair<int, const char*> kSchemes[] = {{1, "grey"}, {2, "black"}, {3, "white"}};
+  UnattendedHost host;
+  AllWindows windows(host, log);
+  Settings& settings = windows.TheProgram().Global().settings;
+  frmDataLogViewer& form = windows.TheProgram().MainWindow();
+  QWidget& window = host.WindowOf(form)->window();
+  bool saved = true;
+  for (const QSize size : {QSize(1024, 768), QSize(2560, 1440)})
+    for (const auto& [scheme, colour] : kSchemes)
+      for (const bool zones : {false, true}) {
+        window.resize(size);
+        settings.gintGraphColourScheme = scheme;
+        if (settings.gblnDisplayZoneInfluence != zones) form.mnuViewZoneInfl.Click();
+        form.Plot().blnForceRedraw = true;
+        form.DrawGraph();
+        host.DoEvents();
+        host.DoEvents();
+        const QString name = QString("frmDataLogViewer-%1x%2-%3-%4%5")
+                                 .arg(size.width())
+                                 .arg(size.height())
+                                 .arg(dark ? "dark" : "light", colour, zones ? "-zones" : "");
+        saved = Save(window, folder, name) && saved;
+      }
   return saved;
 }
 
@@ -104,6 +130,11 @@ int main(int argc, char** argv) {
     QApplication::setFont(sized);
     saved = DrawAll(folder, "", look) && saved;
     if (argc > 2) saved = DrawAll(folder, argv[2], look) && saved;
+  }
+  QApplication::setFont(font);
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(dark ? DarkPalette() : light);
+    if (argc > 2) saved = DrawMainWindow(folder, argv[2], dark) && saved;
   }
   return saved ? 0 : 1;
 }

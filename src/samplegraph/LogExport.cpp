@@ -2,19 +2,16 @@
 
 #include <algorithm>
 
-#include "base/Numbers.h"
 #include "base/Paths.h"
-#include "base/RuntimeError.h"
 #include "model/Column.h"
+#include "samplegraph/ExportText.h"
 #include "samplegraph/LocateSample.h"
+#include "samplegraph/SampleListView.h"
 
 namespace tarnview {
 namespace {
 
 constexpr std::int32_t kProgressUpdates = 200;
-/// "Path/File access error" of the run-time errors.
-constexpr long kCannotWrite = 75;
-constexpr const char* kLineEnd = "\r\n";
 
 }  // namespace
 
@@ -32,37 +29,21 @@ void LogExport::ExportDataLog(const std::string& strFile, const std::string& fil
   const std::int32_t interval = std::max((last - first) / kProgressUpdates, 1);
   status_.ShowProgressInStatusBar(std::max(last - first, 1));
   const std::vector<int> columns = Columns();
-  std::string out = Heading(columns, fileType);
+  std::string out = ExportHead("TARNVIEW EXPORT FILE", log_.gstrCurrentFile, fileType) + kExportLineEnd;
+  AddExportNames(out, columns, *log_.gcolDataItems);
   for (std::int32_t index = first; index <= last; ++index) {
     if (index % interval == 0)
       status_.Progress("Exporting sample " + log_.FormatDataItem(ItemOf(kSample), index), index - first);
-    AddSample(out, columns, index);
+    AddExportSample(out, columns, index, log_);
   }
-  if (!files_.Write(strFile, out)) throw RuntimeError(kCannotWrite, "Path/File access error: " + strFile);
+  WriteExport(files_, strFile, out);
 }
 
 std::vector<int> LogExport::Columns() const {
   std::vector<int> columns{ItemOf(kSample), ItemOf(kSecs)};
-  for (const auto& row : controls_.lvwSampleDetails.Rows())
-    if (row.checked || !controls_.chkShowCheckedOnly.Value) columns.push_back(StringToLong(row.tag));
+  const auto listed = ItemsOfRows(controls_.lvwSampleDetails, controls_.chkShowCheckedOnly.Value);
+  columns.insert(columns.end(), listed.begin(), listed.end());
   return columns;
-}
-
-std::string LogExport::Heading(const std::vector<int>& columns, const std::string& fileType) const {
-  std::string out = std::string("TARNVIEW EXPORT FILE") + kLineEnd +
-                    "Original Data Log Path and File Name: " + log_.gstrCurrentFile + kLineEnd +
-                    "Original Data Log File Type: " + fileType + kLineEnd + kLineEnd;
-  for (std::size_t i = 0; i < columns.size(); ++i)
-    out += (i > 0 ? "," : "") + log_.gcolDataItems->Item(columns[i]).strShortName;
-  return out + kLineEnd;
-}
-
-void LogExport::AddSample(std::string& out, const std::vector<int>& columns, std::int32_t index) const {
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (i > 0) out += ',';
-    out += log_.FormatDataItem(columns[i], index);
-  }
-  out += kLineEnd;
 }
 
 }  // namespace tarnview

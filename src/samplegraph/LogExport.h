@@ -34,8 +34,6 @@ class LogExport {
 
  private:
   std::vector<int> Columns() const;
-  std::string Heading(const std::vector<int>& columns, const std::string& fileType) const;
-  void AddSample(std::string& out, const std::vector<int>& columns, std::int32_t index) const;
 
   Controls controls_;
   const PlotRange& range_;

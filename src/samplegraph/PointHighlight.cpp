@@ -38,11 +38,15 @@ void PointHighlight::ShowSample(std::int32_t index) {
   // The last point of a thinned graph may stand for rows beyond the log.
   index = std::min(index, log_.glngLastSample);
   plot_.lngHighlightSample = log_.Sample(index);
-  details_.PopulateSampleListView(index);
+  LookAt(index);
   mainWindow_.SampleShown(index);
   controls_.cmdDataPointLeft.Enabled = range_.From() > log_.glngFirstSampleTime || plot_.lngSelectedPoint >= 2;
   // Compares sample numbers and passes thinning over, on purpose.
   controls_.cmdDataPointRight.Enabled = range_.From() + plot_.lngSelectedPoint - 1 < log_.glngLastSampleTime;
+}
+
+void PointHighlight::LookAt(std::int32_t index) {
+  details_.PopulateSampleListView(index);
   const auto named = [&](Column column) {
     return log_.gcolDataItems->Item(ItemOf(column)).strShortName + ": " + log_.FormatDataItem(ItemOf(column), index);
   };
@@ -79,9 +83,9 @@ void PointHighlight::MoveBetweenSeries(int direction) {
   controls_.chSampleGraph.SelectPoint(heights[static_cast<std::size_t>(wanted)].second, plot_.lngSelectedPoint);
 }
 
-std::int32_t PointHighlight::SelectedSample() const {
+std::int32_t PointHighlight::SelectedIndex() const {
   const std::int32_t index = plot_.IndexOfPoint(std::max(plot_.lngSelectedPoint, 1));
-  return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
+  return std::clamp(index, log_.glngFirstSample, log_.glngLastSample);
 }
 
 }  // namespace tarnview

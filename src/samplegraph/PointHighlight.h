@@ -34,8 +34,12 @@ class PointHighlight {
   void cmdDataPointRight_Click();
   /// To the curve next above (1) or below (-1) at the selected point.
   void MoveBetweenSeries(int direction);
-  /// Column 0 at the selected point.
-  std::int32_t SelectedSample() const;
+  /// Store index of the selected point.
+  std::int32_t SelectedIndex() const;
+  /// Column 0 there.
+  std::int32_t SelectedSample() const { return log_.Sample(SelectedIndex()); }
+  /// The values of a store index in list and status bar; the selected point stays what it is.
+  void LookAt(std::int32_t index);
 
  private:
   void chSampleGraph_PointSelected(int intSeries, int lngDataPoint);

@@ -2,6 +2,7 @@
 
 #include "model/clsLogFamilies.h"
 #include "presets/clsSampleGraphPreset.h"
+#include "samplegraph/PresetList.h"
 #include "ui/CheckBox.h"
 #include "ui/ListView.h"
 #include "ui/TextBox.h"
@@ -27,10 +28,10 @@ class PresetGraphs {
                MainWindow& mainWindow);
 
   /// Lists the presets of a file type's family, or "[None]". `blnKeepPosition` selects the last row.
-  void PopulatePresetGraphs(bool blnKeepPosition, int fileType);
-  bool HasRows() const;
+  void PopulatePresetGraphs(bool blnKeepPosition, int fileType) { list_.Populate(blnKeepPosition, fileType); }
+  bool HasRows() const { return list_.HasRows(); }
   /// Applies the first preset of that name in the list; false if there is none.
-  bool ApplyNamed(const std::string& name);
+  bool ApplyNamed(const std::string& name) { return list_.ApplyNamed(name); }
 
   /// Gives the selected preset what is ticked now; nothing with none selected.
   void UpdatePreset();
@@ -39,12 +40,10 @@ class PresetGraphs {
 
  private:
   void lvwPresets_ItemClick(int row);
-  clsSampleGraphPreset* PresetOf(int row);
   void TakeWhatIsTicked(clsSampleGraphPreset& preset) const;
 
   Controls controls_;
-  clsSampleGraphPresets& presets_;
-  const clsLogFamilies& families_;
+  PresetList<clsSampleGraphPresets> list_;
   MainWindow& mainWindow_;
 };
 

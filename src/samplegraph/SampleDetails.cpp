@@ -8,7 +8,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kValueColumn = 1;
 /// Rows above this one ("Sample" and "Secs") never move the chart's selection.
 constexpr int kFirstCurveRow = 3;
 
@@ -35,17 +34,6 @@ void SampleDetails::SetUpSampleGraphSampleListView(int lngFileType, const clsLog
   form.lngFileType = lngFileType;
   SetUpSampleListView(controls_.lvwSampleDetails, checked_, form, families_, items);
   controls_.lvwSampleDetails.Visible = wasVisible;
-}
-
-void SampleDetails::PopulateSampleListView(std::int32_t lngIndex) {
-  ListView& list = controls_.lvwSampleDetails;
-  for (int row = 1; row <= list.Count(); ++row)
-    list.SetText(row, kValueColumn, log_.FormatDataItem(StringToLong(list.At(row).tag), lngIndex));
-}
-
-void SampleDetails::ClearValues() {
-  ListView& list = controls_.lvwSampleDetails;
-  for (int row = 1; row <= list.Count(); ++row) list.SetText(row, kValueColumn, "");
 }
 
 void SampleDetails::SelectItem(int item) {

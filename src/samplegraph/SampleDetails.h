@@ -24,8 +24,10 @@ class SampleDetails {
   /// Fills the list for a file type, keeping the checks.
   void SetUpSampleGraphSampleListView(int lngFileType, const clsLogDataItems& items);
   /// Writes the values of a store index.
-  void PopulateSampleListView(std::int32_t lngIndex);
-  void ClearValues();
+  void PopulateSampleListView(std::int32_t lngIndex) {
+    tarnview::PopulateSampleListView(lngIndex, controls_.lvwSampleDetails, log_);
+  }
+  void ClearValues() { PopulateSampleListView(-1); }
   /// Selects the row of an item, if it is on show.
   void SelectItem(int item);
 

@@ -7,6 +7,7 @@
 #include "samplegraph/ColourScheme.h"
 #include "samplegraph/GraphScale.h"
 #include "samplegraph/LocateSample.h"
+#include "samplegraph/SampleListView.h"
 
 namespace tarnview {
 namespace {
@@ -65,7 +66,7 @@ void SampleGraph::DrawSampleGraph() {
   window_.Pointer = MousePointer::Hourglass;
   window_.host.DoEvents();
   const bool rangeChanged = NoteRange();
-  ListPlottedItems();
+  plot_.intPlottedItems = ItemsOfRows(controls_.lvwSampleDetails, true);
   if (plot_.intPlottedItems.empty())
     messages_.ShowMessage(kNothingChecked);
   else if (MustBuild(rangeChanged))
@@ -85,12 +86,6 @@ bool SampleGraph::NoteRange() {
   const bool from = Note(plot_.strPlotFromHistory, range_.FromText());
   const bool to = Note(plot_.strPlotToHistory, range_.ToText());
   return from || to;
-}
-
-void SampleGraph::ListPlottedItems() {
-  plot_.intPlottedItems.clear();
-  for (const auto& row : controls_.lvwSampleDetails.Rows())
-    if (row.checked) plot_.intPlottedItems.push_back(StringToLong(row.tag));
 }
 
 bool SampleGraph::MustBuild(bool rangeChanged) {

@@ -54,7 +54,6 @@ class SampleGraph {
 
  private:
   bool NoteRange();
-  void ListPlottedItems();
   bool MustBuild(bool rangeChanged);
   void CountLogLines();
   void Build();

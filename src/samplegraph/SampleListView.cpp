@@ -8,6 +8,7 @@ namespace {
 /// Pictures of the list's image list ilsDisplayedDataItems.
 constexpr int kIconDisplayed = 1;
 constexpr int kIconNotDisplayed = 2;
+constexpr int kValueColumn = 1;
 
 void NoteChecks(const ListView& lvw, CheckedKeys& objCheckedKeys) {
   for (const auto& row : lvw.Rows()) {
@@ -42,6 +43,7 @@ ListView::Row MakeRow(const clsLogDataItem& item, const SampleListForm& form) {
   else
     row.toolTip = item.strLongName;
   row.tag = std::to_string(item.intSeq);
+  if (!form.pictures) return row;
   row.icon = item.blnDisplay ? kIconDisplayed : kIconNotDisplayed;
   if (item.blnSampleGraphPlottable) row.colour = item.lngColour;
   return row;
@@ -70,6 +72,19 @@ void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const Sampl
   }
   lvw.SetRows(std::move(rows));
   if (lvw.Count() > 0) lvw.Select(1);
+}
+
+void PopulateSampleListView(std::int32_t lngIndex, ListView& lvw, const OpenLog& log) {
+  for (int row = 1; row <= lvw.Count(); ++row)
+    lvw.SetText(row, kValueColumn,
+                lngIndex < 0 ? std::string() : log.FormatDataItem(StringToLong(lvw.At(row).tag), lngIndex));
+}
+
+std::vector<int> ItemsOfRows(const ListView& lvw, bool checkedOnly) {
+  std::vector<int> items;
+  for (const auto& row : lvw.Rows())
+    if (row.checked || !checkedOnly) items.push_back(StringToLong(row.tag));
+  return items;
 }
 
 }  // namespace tarnview

@@ -6,6 +6,7 @@
 #include "model/clsFileTypes.h"
 #include "model/clsLogDataItems.h"
 #include "model/clsLogFamilies.h"
+#include "model/OpenLog.h"
 #include "ui/ListView.h"
 
 namespace tarnview {
@@ -29,11 +30,17 @@ struct SampleListForm {
   bool blnSeqColumn = false;  ///< the first column holds the item number, "05"
   int lngFileType = 0;        ///< items of this file type's family; 0 for all
   int lngLogFamily = 0;       ///< items of this family, where it is not 0
+  bool pictures = true;       ///< each item's colour, or whether it is shown, beside it
 };
 
 /// Fills a list with data items in display order. Checks of rows on show are noted in `objCheckedKeys` first and put
 /// back from there, so that rows which are not on show keep theirs. A file type of no family leaves the list alone.
 void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const SampleListForm& form,
                          const clsLogFamilies& families, const clsLogDataItems& objItems);
+
+/// Writes the values of a store index into the second column; a negative one empties it.
+void PopulateSampleListView(std::int32_t lngIndex, ListView& lvw, const OpenLog& log);
+/// The data items of the rows, in list order.
+std::vector<int> ItemsOfRows(const ListView& lvw, bool checkedOnly = false);
 
 }  // namespace tarnview

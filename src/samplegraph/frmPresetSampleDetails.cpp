@@ -3,38 +3,24 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
-#include "base/Paths.h"
 #include "base/Text.h"
+#include "presets/FamilyItems.h"
 #include "presets/SampleGraphPresetFile.h"
 #include "samplegraph/GraphScale.h"
 
 namespace tarnview {
 namespace {
 
-constexpr int kWriteFailed = 19;
-constexpr int kNameMissing = 41;
-constexpr int kProblemLoading = 58;
-constexpr int kItemsNotRelevant = 92;
-constexpr int kOtherFamily = 8;    // question
-constexpr int kIncludeFamily = 9;  // question
-/// "File not found" of the run-time errors.
-constexpr long kFileNotFound = 53;
 constexpr const char* kDefaultGraphMax = "250";
-
-bool IsLegalFileName(std::string_view name) {
-  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." && name != "..";
-}
 
 }  // namespace
 
-frmPresetSampleDetails::frmPresetSampleDetails(Host& itsHost, const Surroundings& surroundings,
+frmPresetSampleDetails::frmPresetSampleDetails(Host& itsHost, const PresetSurroundings& surroundings,
                                                const clsSampleGraphPreset& ColItem)
     : Form(itsHost, "frmPresetSampleDetails", "Preset Sample Graph Details"), around_(surroundings), preset_(ColItem) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
-  std::vector<std::string> names;
-  for (int id = 1; id <= around_.families.Count(); ++id) names.push_back(around_.families.Item(id).strDescription);
-  cboLogFamily.SetList(std::move(names));
+  cboLogFamily.SetList(around_.families.Descriptions());
   BindControls();
   ShowPreset(preset_);
 }
@@ -49,7 +35,7 @@ void frmPresetSampleDetails::BindControls() {
   txtYMax.LostFocus = [this] { ApplyFixedGraphMax(); };
   lvwDataItems.DblClick = [this](int row) { lvwDataItems.SetChecked(row, !lvwDataItems.At(row).checked); };
   cmdSave.Click = [this] { cmdSave_Click(); };
-  cmdLoad.Click = [this] { cmdLoad_Click(); };
+  cmdLoad.Click = [this] { exchange_.Load([this](const std::string& bytes) { LoadPreset(bytes); }); };
   cmdOK.Click = [this] {
     if (!ValidateControls()) return;
     preset_ = CreatePresetSampleGraphObject();
@@ -80,9 +66,7 @@ void frmPresetSampleDetails::ListItems() {
   form.intMode = kPlottableItems;
   form.blnSeqColumn = true;
   form.lngLogFamily = Family();
-  const clsLogDataItems& items =
-      Family() == kUniversalLogFamily ? around_.catalogue.gcolUniversalDataItems : around_.catalogue.gcolFixedDataItems;
-  SetUpSampleListView(lvwDataItems, checked_, form, around_.families, items);
+  SetUpSampleListView(lvwDataItems, checked_, form, around_.families, ItemsOfFamily(around_.catalogue, Family()));
 }
 
 void frmPresetSampleDetails::TickItems(const clsSampleGraphPreset& preset) {
@@ -100,10 +84,7 @@ void frmPresetSampleDetails::ApplyFixedGraphMax() {
 
 bool frmPresetSampleDetails::ValidateControls() {
   ApplyFixedGraphMax();
-  if (!Trim(txtName.Text()).empty()) return true;
-  around_.messages.ShowMessage(kNameMissing);
-  txtName.SetFocus();
-  return false;
+  return exchange_.HasName();
 }
 
 clsSampleGraphPreset frmPresetSampleDetails::CreatePresetSampleGraphObject() const {
@@ -117,53 +98,22 @@ clsSampleGraphPreset frmPresetSampleDetails::CreatePresetSampleGraphObject() con
   return preset;
 }
 
-std::string frmPresetSampleDetails::ProposedFile() const {
-  if (!lastFile_.empty()) return lastFile_;
-  const std::string name(Trim(txtName.Text()));
-  if (!IsLegalFileName(name)) return "";
-  const std::string& folder = around_.workingDirectory;
-  return (folder.empty() ? "" : AddBackslash(folder)) + name + ".sam";
-}
-
 void frmPresetSampleDetails::cmdSave_Click() {
   if (!ValidateControls()) return;
-  const bool withFamily = around_.messages.AskQuestion(kIncludeFamily);
-  Dialog dialog;
-  dialog.kind = DialogKind::Save;
-  dialog.title = "Save As";
-  dialog.filter = kSampleGraphPresetFilter;
-  dialog.initialPath = lastFile_.empty() ? around_.workingDirectory : lastFile_;
-  dialog.path = ProposedFile();
-  if (!host.Choose(dialog)) return;
-  lastFile_ = dialog.path;
-  const std::string text = SampleGraphPresetFileText(CreatePresetSampleGraphObject(), withFamily, around_.clock.Now());
-  if (!around_.files.Write(dialog.path, text)) around_.messages.ShowMessage(kWriteFailed);
+  exchange_.Save([this](bool blnWriteFamily, const Moment& now) {
+    return SampleGraphPresetFileText(CreatePresetSampleGraphObject(), blnWriteFamily, now);
+  });
 }
 
-void frmPresetSampleDetails::cmdLoad_Click() {
-  Dialog dialog;
-  dialog.title = "Load";
-  dialog.filter = kSampleGraphPresetFilter;
-  dialog.initialPath = lastFile_.empty() ? around_.workingDirectory : lastFile_;
-  if (!host.Choose(dialog)) return;
-  lastFile_ = dialog.path;
-  if (!TrapEvent(around_.errors, name.c_str(), "cmdLoad_Click", [&] { LoadPreset(dialog.path); }))
-    around_.messages.ShowMessage(kProblemLoading);
-}
-
-void frmPresetSampleDetails::LoadPreset(const std::string& path) {
-  const auto bytes = around_.files.Read(path);
-  if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + path);
-  auto preset = ReadSampleGraphPresetFile(*bytes);
-  if (!preset) return;
-  const bool otherFamily = preset->lngLogFamily != 0 && preset->lngLogFamily != Family();
-  if (otherFamily && !around_.messages.AskQuestion(kOtherFamily)) return;
+void frmPresetSampleDetails::LoadPreset(const std::string& bytes) {
+  auto preset = ReadSampleGraphPresetFile(bytes);
+  if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily, Family())) return;
   preset->lngLogFamily = Family();
   std::string unknown;
   for (const int item : preset->colDataItems)
     if (lvwDataItems.RowOfTag(std::to_string(item)) == 0)
-      unknown += (unknown.empty() ? "" : ", ") + std::to_string(item);
-  if (!unknown.empty()) around_.messages.ShowMessage(kItemsNotRelevant, false, "Data Item(s): " + unknown);
+      unknown += (unknown.empty() ? "Data Item(s): " : ", ") + std::to_string(item);
+  exchange_.TellNotRelevant(unknown);
   ShowPreset(*preset);
 }
 

@@ -2,14 +2,9 @@
 
 #include <string>
 
-#include "base/Clock.h"
-#include "base/ErrorLog.h"
-#include "base/FileSystem.h"
-#include "base/Help.h"
-#include "base/Messages.h"
-#include "model/Catalogue.h"
-#include "model/clsLogFamilies.h"
+#include "presets/SampleGraphPresetFile.h"
 #include "presets/clsSampleGraphPreset.h"
+#include "samplegraph/PresetExchange.h"
 #include "samplegraph/SampleListView.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
@@ -24,18 +19,7 @@ namespace tarnview {
 /// Edits one preset sample graph, and exchanges it with .sam files.
 class frmPresetSampleDetails : public Form {
  public:
-  /// What it asks of the program.
-  struct Surroundings {
-    const clsLogFamilies& families;
-    const Catalogue& catalogue;
-    const std::string& workingDirectory;  ///< where the first .sam file is looked for
-    FileSystem& files;
-    Clock& clock;
-    ErrorLog& errors;
-    Messages& messages;
-    Help& help;
-  };
-  frmPresetSampleDetails(Host& itsHost, const Surroundings& surroundings, const clsSampleGraphPreset& ColItem);
+  frmPresetSampleDetails(Host& itsHost, const PresetSurroundings& surroundings, const clsSampleGraphPreset& ColItem);
 
   Label lblName{*this, "lblName", "&Name"};
   TextBox txtName{*this, "txtName"};
@@ -66,17 +50,15 @@ class frmPresetSampleDetails : public Form {
   bool ValidateControls();
   clsSampleGraphPreset CreatePresetSampleGraphObject() const;
   int Family() const { return cboLogFamily.ListIndex() + 1; }
-  std::string ProposedFile() const;
   void cmdSave_Click();
-  void cmdLoad_Click();
-  void LoadPreset(const std::string& path);
+  void LoadPreset(const std::string& bytes);
   void TickItems(const clsSampleGraphPreset& preset);
 
-  Surroundings around_;
+  PresetSurroundings around_;
+  PresetExchange exchange_{*this, txtName, around_, {".sam", kSampleGraphPresetFilter}};
   CheckedKeys checked_;
   clsSampleGraphPreset preset_;
   std::string closeMethod_ = "Cancel";
-  std::string lastFile_;  ///< the .sam file used last since the window opened
 };
 
 }  // namespace tarnview

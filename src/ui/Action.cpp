@@ -1,6 +1,7 @@
 #include "ui/Action.h"
 
 #include <charconv>
+#include <cmath>
 
 namespace tarnview {
 
@@ -9,11 +10,23 @@ const std::string& Action::Word(std::size_t n) const {
   return words[n];
 }
 
-int Action::Number(std::size_t n) const {
-  const std::string& word = Word(n);
-  int number = 0;
+namespace {
+
+template <class T>
+T WholeWord(const std::string& word, const char* kind) {
+  T number{};
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (error != std::errc() || end != word.data() + word.size()) throw CannotDo("\"" + word + "\" is no whole number");
+  if (error != std::errc() || end != word.data() + word.size()) throw CannotDo("\"" + word + "\" is no " + kind);
+  return number;
+}
+
+}  // namespace
+
+int Action::Number(std::size_t n) const { return WholeWord<int>(Word(n), "whole number"); }
+
+double Action::Decimal(std::size_t n) const {
+  const double number = WholeWord<double>(Word(n), "number");
+  if (!std::isfinite(number)) throw CannotDo("\"" + Word(n) + "\" is no number");
   return number;
 }
 

@@ -15,6 +15,8 @@ struct Action {
   const std::string& Word(std::size_t n) const;
   /// Word n as a whole number; throws CannotDo when it is none.
   int Number(std::size_t n) const;
+  /// Word n as a number such as "12.5"; throws CannotDo when it is none.
+  double Decimal(std::size_t n) const;
 };
 
 /// An action that this control, in this state, does not allow: no such row, a disabled button, a wrong verb.

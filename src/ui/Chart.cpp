@@ -5,6 +5,7 @@ namespace tarnview {
 void Chart::SetData(ChartDescription data) {
   data_ = std::move(data);
   series_ = point_ = 0;
+  HairLine = std::nullopt;
   Changed(What::Content);
 }
 
@@ -27,8 +28,25 @@ Object Chart::FullDescription() const {
 }
 
 void Chart::Perform(const Action& action) {
-  if (action.verb == "popup") return RightClick();
-  if (action.verb != "point") return Control::Perform(action);
+  const auto x = [&](std::size_t n) { return action.Decimal(n); };
+  const struct {
+    const char* verb;
+    std::function<void()> run;
+  } kGestures[] = {
+      {"popup", [&] { RightClick(); }},
+      {"point", [&] { PerformPoint(action); }},
+      {"double", [&] { DblClick(); }},
+      {"wheel", [&] { Wheel(x(0), x(1)); }},
+      {"band", [&] { Band(x(0), x(1)); }},
+      {"pan", [&] { Pan(x(0), x(1)); }},
+      {"hover", [&] { action.words.empty() ? HoverEnd() : Hover(x(0)); }},
+  };
+  for (const auto& row : kGestures)
+    if (action.verb == row.verb) return row.run();
+  Control::Perform(action);
+}
+
+void Chart::PerformPoint(const Action& action) {
   const int series = action.Number(0);
   const int point = action.Number(1);
   const auto place = static_cast<std::size_t>((series - 1) / 2);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "ui/ChartDescription.h"
 #include "ui/Control.h"
 
@@ -14,6 +16,17 @@ class Chart : public Control {
 
   Event<int, int> PointSelected;  ///< series, point; by hand or from code
   Event<> RightClick;
+
+  // What a hand does beyond choosing a point; each x in the units of the X axis.
+  Event<double, double> Wheel;  ///< at x, by so many notches: above 0 away from the user
+  Event<double, double> Band;   ///< the range from x to x was marked
+  Event<double, double> Pan;    ///< what is at the first x was drawn to the second
+  Event<> DblClick;
+  Event<double> Hover;  ///< the pointer stands at x
+  Event<> HoverEnd;     ///< it has left the graph
+
+  /// Where a thin line runs through the graph, beside the selected point's own.
+  Property<std::optional<double>> HairLine = Shown(std::optional<double>(), What::Selection);
 
   void SetData(ChartDescription data);
   const ChartDescription& Data() const { return data_; }
@@ -33,6 +46,8 @@ class Chart : public Control {
   void Perform(const Action& action) override;
 
  private:
+  void PerformPoint(const Action& action);
+
   ChartDescription data_;
   int series_ = 0;
   int point_ = 0;

@@ -50,7 +50,7 @@ struct PointCloud {
   Colour colour = 0;
   std::vector<double> tint;  ///< a third item that gives the points their colours; empty: all bear `colour`
   ChartAxis tintAxis;        ///< of the colour bar, where there is `tint`
-  bool density = false;      ///< marks that fall together are shaded by their number
+  bool density = false;      ///< without `tint`: marks that fall together are shaded by their number
 };
 
 /// The colours of a chart: what lies behind it, its lines and texts, its grid.

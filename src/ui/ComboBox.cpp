@@ -19,6 +19,7 @@ void ComboBox::SetList(std::vector<std::string> entries) {
 }
 
 int ComboBox::ListIndex() const {
+  if (chosen_ < entries_.size() && entries_[chosen_] == Text()) return static_cast<int>(chosen_);
   const auto found = std::find(entries_.begin(), entries_.end(), Text());
   return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
 }
@@ -26,8 +27,10 @@ int ComboBox::ListIndex() const {
 void ComboBox::SetListIndex(int entry) {
   const bool inside = entry >= 0 && entry < static_cast<int>(entries_.size());
   const std::string before = Text;
-  Text = inside ? entries_[static_cast<std::size_t>(entry)] : std::string();
-  if (Text() != before) Click();
+  const int entryBefore = ListIndex();
+  chosen_ = static_cast<std::size_t>(std::max(entry, 0));
+  Text = inside ? entries_[chosen_] : std::string();
+  if (Text() != before || ListIndex() != entryBefore) Click();
 }
 
 void ComboBox::Describe(Object& facts) const {

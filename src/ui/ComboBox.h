@@ -18,7 +18,7 @@ class ComboBox : public Control {
 
   void SetList(std::vector<std::string> entries);
   const std::vector<std::string>& Entries() const { return entries_; }
-  /// From 0; -1 when Text is none of the entries.
+  /// From 0; -1 when Text is none of the entries. Of equal entries the one that was chosen, else the first.
   int ListIndex() const;
   /// Chooses an entry; an index outside the list empties Text.
   void SetListIndex(int entry);
@@ -32,6 +32,7 @@ class ComboBox : public Control {
 
  private:
   std::vector<std::string> entries_;
+  std::size_t chosen_ = 0;
 };
 
 /// The entry that "choose" means: a text, or "#" and an index from 0. Throws CannotDo.

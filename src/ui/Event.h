@@ -21,6 +21,8 @@ class Event {
     handlers_.push_back(std::move(handler));
     return *this;
   }
+  /// Somebody handles it.
+  bool Heard() const { return !handlers_.empty(); }
   void operator()(Args... args) const {
     // A copy of the list, since a handler may end the window that owns this event.
     const auto handlers = handlers_;

@@ -53,7 +53,9 @@ void Form::Open(bool modal) {
 
 bool Form::Unload() {
   if (!shown_) return true;
+  unloading_ = true;
   SetFocus(nullptr);
+  unloading_ = false;
   if (!Form_QueryUnload()) return false;
   shown_ = false;
   Form_Unload();

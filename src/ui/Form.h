@@ -45,6 +45,8 @@ class Form {
   void Show();
   void ShowModal();
   bool IsShown() const { return shown_; }
+  /// While Unload is at work: a field that is left now has nothing to check any more.
+  bool IsUnloading() const { return unloading_; }
   /// Closes the window; false when it refused.
   bool Unload();
   /// Draws what has changed while a long loop runs.
@@ -86,6 +88,7 @@ class Form {
   std::vector<Control*> controls_;
   Control* active_ = nullptr;
   bool shown_ = false;
+  bool unloading_ = false;
 };
 
 }  // namespace tarnview

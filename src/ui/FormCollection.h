@@ -34,6 +34,10 @@ class FormCollection {
       Remove(number);
     }
   }
+  template <class Body>
+  void ForEach(Body&& body) const {
+    for (const auto& [number, window] : open_) body(*window);
+  }
   int Count() const { return static_cast<int>(open_.size()); }
 
  private:

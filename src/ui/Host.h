@@ -6,8 +6,10 @@
 
 namespace tarnview {
 
+class Chart;
 class Form;
 class MenuItem;
+class Page;
 
 /// Answers of a message box, with the numbers of the desktop's own boxes.
 enum class Reply { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
@@ -35,7 +37,8 @@ struct Box {
 
 enum class DialogKind { Open, Save, Folder, Colour, Printer };
 
-/// A file, folder, colour or printer dialog: what it starts from and, after OK, what was chosen.
+/// A file, folder or colour dialog (a printer's comes with Host::PrintPage): what it starts from and, after OK, what
+/// was chosen.
 struct Dialog {
   DialogKind kind = DialogKind::Open;
   std::string title;
@@ -44,6 +47,12 @@ struct Dialog {
   std::string initialPath;  ///< folder, or a file whose folder is meant
   std::string path;         ///< file name to start with; the chosen path
   long colour = 0;          ///< 0xBBGGRR
+};
+
+/// One page for the printer.
+struct PrintJob {
+  std::string title;                ///< names the job where printers list them
+  std::function<void(Page&)> fill;  ///< draws the page, as often as it is asked for
 };
 
 /// What the program asks of a desktop. The windows know this and nothing of a toolkit.
@@ -68,6 +77,17 @@ class Host {
   virtual void Repaint(Form& form) = 0;
 
   virtual void SetClipboardText(const std::string& text) = 0;
+
+  /// The picture of a chart, as its window shows it, on the clipboard.
+  virtual void CopyPicture(const Chart& chart) = 0;
+  /// The same in a file; the ending of `path` (.png, .svg, .pdf) says as what. False: nothing was written, and `error`
+  /// says why.
+  virtual bool SavePicture(const Chart& chart, const std::string& path, std::string& error) = 0;
+  /// Asks for a printer, its copies and orientation, and prints. False: nothing was printed, and `error` says why; it
+  /// is empty where the user cancelled.
+  virtual bool PrintPage(const PrintJob& job, std::string& error) = 0;
+  /// Shows the page before it is printed; returns when the user is done. As PrintPage, where printing from there fails.
+  virtual bool PreviewPage(const PrintJob& job, std::string& error) = 0;
 };
 
 }  // namespace tarnview

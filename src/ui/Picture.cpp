@@ -11,6 +11,7 @@ void Picture::Describe(Object& facts) const {
         Object{{"x", circle.x}, {"y", circle.y}, {"radius", circle.radius}, {"filled", circle.filled}});
   facts.emplace_back("width", width_);
   facts.emplace_back("height", height_);
+  if (BackColour >= 0) facts.emplace_back("colour", BackColour());
   facts.emplace_back("lines", std::move(lines));
   facts.emplace_back("circles", std::move(circles));
 }

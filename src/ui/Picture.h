@@ -22,7 +22,7 @@ struct Drawing {
   friend bool operator==(const Drawing&, const Drawing&) = default;
 };
 
-/// The control that shows a drawing. Its size is the toolkit's to say.
+/// The control that shows a drawing, or nothing but a colour. Its size is the toolkit's to say.
 class Picture : public Control {
  public:
   Picture(Form& owner, std::string itsName, int width, int height)
@@ -38,6 +38,9 @@ class Picture : public Control {
     height_ = height;
     Resize();
   }
+
+  /// 0xBBGGRR of what lies behind the drawing; -1 for the desktop's own.
+  Property<long> BackColour = Shown(-1L);
 
   const Drawing& Shapes() const { return drawing_; }
   void Draw(Drawing drawing) { drawing_ = std::move(drawing); }

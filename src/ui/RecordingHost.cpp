@@ -95,6 +95,28 @@ void RecordingHost::Show(Form& form, bool modal) {
 
 void RecordingHost::Hide(Form& form) { std::erase(open, &form); }
 
-void RecordingHost::RunModal(Form& form) { form.Unload(); }
+void RecordingHost::RunModal(Form& form) {
+  if (work) work(form);
+  if (form.IsShown()) form.Unload();
+}
+
+bool RecordingHost::SavePicture(const Chart&, const std::string& path, std::string& error) {
+  error = refusal;
+  if (error.empty()) pictures.push_back(path);
+  return error.empty();
+}
+
+bool RecordingHost::PrintPage(const PrintJob& job, std::string& error) {
+  error.clear();
+  Dialog dialog;
+  dialog.kind = DialogKind::Printer;
+  return Choose(dialog) && PreviewPage(job, error);
+}
+
+bool RecordingHost::PreviewPage(const PrintJob& job, std::string& error) {
+  error = refusal;
+  if (error.empty()) job.fill(pages.emplace_back());
+  return error.empty();
+}
 
 }  // namespace tarnview

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "ui/Host.h"
+#include "ui/RecordingPage.h"
 #include "ui/Value.h"
 
 namespace tarnview {
@@ -28,6 +30,11 @@ class RecordingHost : public Host {
   std::vector<Box> messages;       ///< the boxes alone
   std::vector<Form*> open;         ///< windows on show, the front one last
   std::string clipboard;
+  std::vector<const Chart*> copied;   ///< charts whose picture went to the clipboard
+  std::vector<std::string> pictures;  ///< paths of the pictures saved
+  std::vector<RecordingPage> pages;   ///< printed or shown before printing
+  std::function<void(Form&)> work;    ///< what a user does in a modal window; it is closed then
+  std::string refusal;                ///< why pictures and pages fail; empty: they do not
 
   Reply Ask(const Box& box) override;
   bool Choose(Dialog& dialog) override;
@@ -37,6 +44,10 @@ class RecordingHost : public Host {
   void DoEvents() override {}
   void Repaint(Form&) override {}
   void SetClipboardText(const std::string& text) override { clipboard = text; }
+  void CopyPicture(const Chart& chart) override { copied.push_back(&chart); }
+  bool SavePicture(const Chart& chart, const std::string& path, std::string& error) override;
+  bool PrintPage(const PrintJob& job, std::string& error) override;
+  bool PreviewPage(const PrintJob& job, std::string& error) override;
 
   /// The window in front; nullptr when none is open.
   Form* Front() const { return open.empty() ? nullptr : open.back(); }

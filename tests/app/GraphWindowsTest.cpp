@@ -3,24 +3,14 @@
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
 #include "samplegraph/frmPresetSampleDetails.h"
+#include "scatter/frmPresetScatterDetails.h"
+#include "support/ModalHost.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
 namespace {
 
 using Ids = std::vector<int>;
-
-/// Works a modal window by what is queued for it.
-class ModalHost : public RecordingHost {
- public:
-  std::function<void(Form&)> work;
-
- protected:
-  void RunModal(Form& form) override {
-    if (work) work(form);
-    if (form.IsShown()) form.Unload();
-  }
-};
 
 class GraphWindows : public ProgramFixture {
  protected:
@@ -122,6 +112,28 @@ TEST_F(GraphWindows, TheEditorOfPresetsWorksOnACopy) {
   };
   Main().mnuCustomisePresetSample.Do({"click", {}});
   EXPECT_EQ(Main().lvwPresets.At(1).texts[0], "Renamed");
+}
+
+TEST_F(GraphWindows, TheEditorOfScatterPresetsWorksOnItsOwnList) {
+  Open(50);
+  desk.work = [&](Form& form) {
+    if (auto* details = dynamic_cast<frmPresetScatterDetails*>(&form)) {
+      details->imgcboYAxis.Do({"choose", {"Knock Sensor"}});
+      details->cmdOK.Press();
+      return;
+    }
+    auto& window = dynamic_cast<frmMaint&>(form);
+    EXPECT_EQ(window.Caption(), "Preset Scatter Graph Editor");
+    window.cmdNew.Press();
+    window.cmdOK.Press();
+  };
+  const auto& presets = program->Global().gcolScatterGraphPresets;
+  const int before = presets.Count();
+  Main().mnuCustomisePresetScatter.Do({"click", {}});
+  ASSERT_EQ(presets.Count(), before + 1);
+  EXPECT_EQ(presets.Item(before + 1).strName, "New Preset");
+  EXPECT_EQ(presets.Item(before + 1).lngXAxisDataItem, 3);
+  EXPECT_EQ(presets.Item(before + 1).lngYAxisDataItem, 20);
 }
 
 TEST_F(GraphWindows, GoesToASampleInAGraphOfTheSameWidth) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
@@ -75,6 +77,59 @@ TEST(CommandLineProgram, GraphTellsWhatTheChartReceives) {
                                      {"y", told["series"][1]["y"]}}));
   EXPECT_EQ(told["y_axis"], Json({{"max", 35}, {"divisions", 7}}));
   EXPECT_EQ(told["messages"], Json::array());
+}
+
+TEST(CommandLineProgram, ScatterTellsDrawsAndExportsWhatTheWindowDoes) {
+  const std::vector<std::string> words{
+      "scatter", Example("turbo.txt"), "--x", "3", "--y", "5", "--filter", "5:100:", "--to", "900", "--json",
+      "--export"};
+  const auto with = [&](std::vector<std::string> more) {
+    std::vector<std::string> all = words;
+    all.insert(all.end(), more.begin(), more.end());
+    return RunCli(all);
+  };
+  const std::string out = ::testing::TempDir() + "scatter.csv";
+  const Ran ran = with({out, "--items", "3,20", "--filter", "3:1:2000"});
+  EXPECT_EQ(ran.status, kDone);
+  const Json told = Json::parse(ran.out);
+  EXPECT_EQ(told["x_item"], 3);
+  EXPECT_EQ(told["y_item"], 5);
+  EXPECT_EQ(told["filters"], (Json{"Sample [Sample No.] from 1 to 900", "MAP [Manifold Air Pressure] from 100",
+                                   "RPM [RPM] from 1 to 2000"}));
+  std::ifstream file(out, std::ios::binary);
+  const std::string text(std::istreambuf_iterator<char>(file), {});
+  EXPECT_NE(text.find("RPM [RPM] from 1 to 2000\r\n\r\nSample,RPM,MAP,Knock\r\n"), text.npos) << text.substr(0, 400);
+  EXPECT_EQ(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')), 10 + told["points"].size());
+  for (const Json& point : told["points"]) {
+    EXPECT_GE(point[1], 100);
+    EXPECT_LE(point[2], 900);
+  }
+}
+
+TEST(CommandLineProgram, ScatterRefusesAsTheWindowsDo) {
+  const struct {
+    std::vector<std::string> words;
+    int status;
+    const char* told;
+  } kRows[] = {
+      {{}, kFailed, "message 3: "},
+      {{"--filter", "3:99999:"}, kFailed, "message 46: "},
+      {{"--filter", "3:9:5"}, kFailed, "message 45: "},
+      {{"--filter", "3::"}, kFailed, "message 44: "},
+      {{"--filter", "25:7:"}, kFailed, "message 42: "},
+      {{"--filter", "99:1:"}, kFailed, "data item 99"},
+      {{"--filter", "3:1"}, kWrongCommandLine, "ITEM:FROM:TO"},
+      {{"--x", "99"}, kFailed, "axes"},
+      {{"--preset", "None such"}, kFailed, "None such"},
+      {{"--size-of-points", "11"}, kWrongCommandLine, "--size-of-points"},
+  };
+  for (const auto& row : kRows) {
+    std::vector<std::string> words{"scatter", Example("turbo.txt"), "--json"};
+    words.insert(words.end(), row.words.begin(), row.words.end());
+    const Ran ran = RunCli(words);
+    EXPECT_EQ(ran.status, row.status) << row.told;
+    EXPECT_NE(ran.err.find(row.told), std::string::npos) << ran.err;
+  }
 }
 
 TEST(CommandLineProgram, AWrongCommandLineSaysSo) {

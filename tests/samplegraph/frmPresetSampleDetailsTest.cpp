@@ -1,27 +1,21 @@
 #include <gtest/gtest.h>
 
 #include "samplegraph/frmPresetSampleDetails.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/RecordingProcesses.h"
-#include "ui/RecordingHost.h"
+#include "support/PresetWindows.h"
 
 namespace tarnview {
 namespace {
 
 using Items = std::vector<int>;
 
-class PresetDetailsTest : public ::testing::Test {
+class PresetDetailsTest : public PresetWindowsTest {
  protected:
   PresetDetailsTest() {
     preset.strName = "Boost";
     preset.lngLogFamily = 1;
     preset.colDataItems = {5, 3};
     preset.lngGraphMax = 10;
-    window.emplace(host,
-                   frmPresetSampleDetails::Surroundings{kinds.gcolLogFamilies, catalogue, folder, files, clock, errors,
-                                                        messages, help},
-                   preset);
+    window.emplace(host, Surroundings(), preset);
     window->Show();
   }
   Items Ticked() const {
@@ -30,30 +24,12 @@ class PresetDetailsTest : public ::testing::Test {
       if (row.checked) items.push_back(std::stoi(row.tag));
     return items;
   }
-  /// The ids of the boxes shown since the last call; a question is -1.
-  Items Boxes() {
-    Items ids;
-    for (const Box& box : host.messages) ids.push_back(box.style & kBoxQuestion && box.style & kBoxYesNo ? -1 : box.id);
-    host.messages.clear();
-    return ids;
-  }
   void Load(const std::string& lines) {
     files.files["/p/a.sam"] = "Preset Sample Graph Details:\r\n" + lines;
     host.answers.push_front({Answer::Kind::File, "/p/a.sam"});
     window->cmdLoad.Press();
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  RecordingProcesses processes;
-  ErrorLog errors{files, clock, ""};
-  EXEFunctions programs{processes, host};
-  Messages messages{host, [](int) { return ""; }};
-  Help help{files, programs, messages, ""};
-  FileKinds kinds = SetUpLogFamilies();
-  Catalogue catalogue = BuildDataItemCatalogue();
-  std::string folder = "/logs";
   clsSampleGraphPreset preset;
   std::optional<frmPresetSampleDetails> window;
 };

@@ -39,6 +39,12 @@ void ProgressBarAdapter::ShowContent() {
 StatusBarAdapter::StatusBarAdapter(StatusBar& bar, QStatusBar& view, Binder& binder)
     : Adapter(bar, &view, binder), bar_(bar) {
   auto* progress = view.findChild<QProgressBar*>();
+  if (progress) {
+    // It comes and goes with each draw: the bar's height must not, since the graph above would be drawn anew each time.
+    QSizePolicy policy = progress->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    progress->setSizePolicy(policy);
+  }
   for (int panel = 1; panel <= bar.Count(); ++panel) {
     auto* place = new QWidget(&view);
     auto* row = new QHBoxLayout(place);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qt/binder/Adapter.h"
+#include "qt/chart/ChartGestures.h"
 #include "qt/chart/ChartWidget.h"
 #include "ui/Chart.h"
 
@@ -9,11 +10,20 @@ namespace tarnview {
 class ChartAdapter : public Adapter {
  public:
   ChartAdapter(Chart& chart, ChartWidget& view, Binder& binder)
-      : Adapter(chart, &view, binder), chart_(chart), view_(view) {
+      : Adapter(chart, &view, binder),
+        chart_(chart),
+        view_(view),
+        gestures_(*new ChartGestures(view, chart.Wheel.Heard())) {
     // A curve at place j owns the chart's series 2j + 1.
     connect(&view, &ChartWidget::PointClicked, this,
             [this](int place, int point) { chart_.SelectPoint(2 * place + 1, point); });
     connect(&view, &ChartWidget::RightClicked, this, [this] { chart_.RightClick(); });
+    connect(&gestures_, &ChartGestures::Turned, this, [this](double x, double notches) { chart_.Wheel(x, notches); });
+    connect(&gestures_, &ChartGestures::Marked, this, [this](double x1, double x2) { chart_.Band(x1, x2); });
+    connect(&gestures_, &ChartGestures::Panned, this, [this](double grabbed, double x) { chart_.Pan(grabbed, x); });
+    connect(&gestures_, &ChartGestures::DoubleClicked, this, [this] { chart_.DblClick(); });
+    connect(&gestures_, &ChartGestures::PointedAt, this, [this](double x) { chart_.Hover(x); });
+    connect(&gestures_, &ChartGestures::PointerLeft, this, [this] { chart_.HoverEnd(); });
   }
 
  protected:
@@ -23,11 +33,13 @@ class ChartAdapter : public Adapter {
   }
   void ShowSelection() override {
     view_.Select(chart_.SelectedSeries() < 1 ? -1 : (chart_.SelectedSeries() - 1) / 2, chart_.SelectedPoint());
+    gestures_.ShowHairLine(chart_.HairLine);
   }
 
  private:
   Chart& chart_;
   ChartWidget& view_;
+  ChartGestures& gestures_;  ///< the view's
 };
 
 }  // namespace tarnview

@@ -48,6 +48,11 @@ void ListViewAdapter::SetUpColumns() {
   header.setStretchLastSection(true);
   const bool even = AllNumbers(columns);
   header.setSectionResizeMode(even ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+  // Several columns of numbers stand together at the right, and the names before them take the room.
+  if (columns.size() > 2 && columns.back().rightAligned && !even) {
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
+  }
   for (int i = 0; i < static_cast<int>(columns.size()); ++i)
     if (columns[static_cast<std::size_t>(i)].rightAligned)
       view_.headerItem()->setTextAlignment(i, Qt::AlignRight | Qt::AlignVCenter);

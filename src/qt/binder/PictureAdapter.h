@@ -17,7 +17,7 @@ class PictureAdapter : public Adapter {
   }
 
  protected:
-  void ShowContent() override { view_.SetDrawing(picture_.Shapes()); }
+  void ShowContent() override { view_.Show(picture_.Shapes(), picture_.BackColour); }
 
  private:
   Picture& picture_;

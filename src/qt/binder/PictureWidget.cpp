@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "qt/Text.h"
+
 namespace tarnview {
 namespace {
 
@@ -9,9 +11,10 @@ constexpr double kTwipsPerInch = 1440;
 
 }  // namespace
 
-void PictureWidget::SetDrawing(const Drawing& drawing) {
-  if (drawing == drawing_) return;
+void PictureWidget::Show(const Drawing& drawing, long backColour) {
+  if (drawing == drawing_ && backColour == backColour_) return;
   drawing_ = drawing;
+  backColour_ = backColour;
   update();
 }
 
@@ -28,7 +31,7 @@ QSize PictureWidget::sizeHint() const {
 
 void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), palette().base());
+  painter.fillRect(rect(), backColour_ < 0 ? palette().base() : QBrush(ColourToQt(backColour_)));
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.setRenderHint(QPainter::Antialiasing);

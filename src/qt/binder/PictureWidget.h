@@ -12,7 +12,8 @@ class PictureWidget : public QWidget {
  public:
   explicit PictureWidget(QWidget* parent = nullptr) : QWidget(parent) {}
 
-  void SetDrawing(const Drawing& drawing);
+  /// `backColour` is 0xBBGGRR, or -1 for the palette's.
+  void Show(const Drawing& drawing, long backColour);
   QSize SizeInTwips() const;
   QSize sizeHint() const override;
 
@@ -27,6 +28,7 @@ class PictureWidget : public QWidget {
   double TwipsPerPixel() const;
 
   Drawing drawing_;
+  long backColour_ = -1;
 };
 
 }  // namespace tarnview

@@ -15,12 +15,12 @@ constexpr int kReadable = 110;
 
 int Distance(const QColor& a, const QColor& b) { return std::abs(qGray(a.rgb()) - qGray(b.rgb())); }
 
+}  // namespace
+
 QColor Mix(const QColor& from, const QColor& to, double share) {
   const auto part = [&](int a, int b) { return static_cast<int>(a + (b - a) * share); };
   return QColor(part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
 }
-
-}  // namespace
 
 PaintedColours ToPaint(const ChartColours& colours, const QPalette& palette) {
   PaintedColours painted{ColourToQt(colours.backdrop), ColourToQt(colours.text), ColourToQt(colours.grid)};

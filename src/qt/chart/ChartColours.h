@@ -14,6 +14,9 @@ struct PaintedColours {
   QColor grid;
 };
 
+/// `share` of the way from one colour to the other.
+QColor Mix(const QColor& from, const QColor& to, double share);
+
 PaintedColours ToPaint(const ChartColours& colours, const QPalette& palette);
 
 }  // namespace tarnview

@@ -30,7 +30,7 @@ double PixelsOfPen(int width) { return std::clamp(1 + (width - 10) / 20.0, 1.0, 
 
 ChartWidget::ChartWidget(QWidget* parent) : QCustomPlot(parent) {
   setFocusPolicy(Qt::StrongFocus);
-  setAntialiasedElements(QCP::aePlottables | QCP::aeItems | QCP::aeLegendItems);
+  setAntialiasedElements(QCP::aePlottables | QCP::aeLegendItems);
   for (QCPAxis* axis : {xAxis, yAxis}) {
     axis->setTicker(QSharedPointer<QCPAxisTickerText>::create());
     axis->setSubTicks(false);
@@ -62,19 +62,23 @@ void ChartWidget::MakeLegendColumn() {
 
 void ChartWidget::MakeMark() {
   line_ = new QCPItemStraightLine(this);
+  across_ = new QCPItemStraightLine(this);
   ring_ = new QCPItemTracer(this);
   ring_->setStyle(QCPItemTracer::tsCircle);
-  for (QCPAbstractItem* item : std::initializer_list<QCPAbstractItem*>{line_, ring_}) {
+  for (QCPAbstractItem* item : std::initializer_list<QCPAbstractItem*>{line_, across_, ring_}) {
     item->setLayer("overlay");
     item->setVisible(false);
   }
   line_->setAntialiased(false);
+  across_->setAntialiased(false);
 }
 
 void ChartWidget::SetDescription(const ChartDescription& description) {
   chart_ = description;
   selectedPlace_ = -1;
+  drawn_ = false;
   MakeCurves();
+  MakeCloud();
   xAxis->setRange(chart_.x.min, chart_.x.max > chart_.x.min ? chart_.x.max : chart_.x.min + 1);
   yAxis->setRange(chart_.y.min, chart_.y.max > chart_.y.min ? chart_.y.max : chart_.y.min + 1);
   ApplyColours();
@@ -95,17 +99,29 @@ void ChartWidget::MakeCurves() {
   }
 }
 
+void ChartWidget::MakeCloud() {
+  cloud_ = chart_.points ? new PointCloudPlot(xAxis, yAxis, *chart_.points) : nullptr;
+  const bool tinted = chart_.points && !chart_.points->tint.empty();
+  bar_.Show(tinted, tinted ? chart_.points->tintAxis : ChartAxis());
+  if (cloud_) ApplyFonts();
+}
+
 void ChartWidget::ApplyColours() {
   const PaintedColours colours = ToPaint(chart_.colours, palette());
   setBackground(QBrush(colours.backdrop));
-  for (QCPAxis* axis : {xAxis, yAxis}) {
+  for (QCPAxis* axis : {xAxis, yAxis, bar_.Axis()}) {
+    if (!axis) continue;
     axis->setBasePen(QPen(colours.text, 1));
     axis->setTickPen(QPen(colours.text, 1));
     axis->setTickLabelColor(colours.text);
+    axis->setLabelColor(colours.text);
     axis->grid()->setPen(QPen(colours.grid, 1));
   }
   legend->setTextColor(colours.text);
-  line_->setPen(QPen(colours.text, 1));
+  if (cloud_) cloud_->SetColours(colours);
+  // Two lines that cross on a mark would hide it.
+  const QColor lines = cloud_ ? Mix(colours.backdrop, colours.text, 0.5) : colours.text;
+  for (QCPItemStraightLine* line : {line_, across_}) line->setPen(QPen(lines, 1));
   ring_->setPen(QPen(colours.text, 2));
 }
 
@@ -114,27 +130,34 @@ void ChartWidget::ApplyFonts() {
   QFont font = this->font();
   font.setPixelSize(QFontInfo(font).pixelSize());
   const QFont digits = WithEvenDigits(font);
-  xAxis->setTickLabelFont(digits);
-  yAxis->setTickLabelFont(digits);
-  legend->setFont(font);
   const int line = QFontMetrics(font).height();
+  for (QCPAxis* axis : {xAxis, yAxis, bar_.Axis()}) {
+    if (!axis) continue;
+    axis->setTickLabelFont(digits);
+    axis->setTickLabelPadding(line / 3);
+    axis->setLabelFont(font);
+    axis->setLabelPadding(line / 3);
+  }
+  bar_.SetWidth(line);
+  legend->setFont(font);
   legend->setIconSize(line * 3 / 2, line);
   legend->setIconTextPadding(line / 2);
-  legend->setMargins(QMargins(line / 2, line / 2, line, line / 2));
+  // Hidden, it takes no room.
+  legend->setMargins(cloud_ ? QMargins() : QMargins(line / 2, line / 2, line, line / 2));
   legend->setRowSpacing(line / 6);
   legend->setColumnSpacing(line);
   plotLayout()->setColumnSpacing(line / 2);
-  xAxis->setTickLabelPadding(line / 3);
-  yAxis->setTickLabelPadding(line / 3);
-  ring_->setSize(line * 3 / 4.0);
+  ring_->setSize(std::max(line * 3 / 4.0, cloud_ ? cloud_->MarkDiameter() + line / 2.0 : 0));
 }
 
 void ChartWidget::Fit(const QRect& viewport) {
   setViewport(viewport);
   legend->setVisible(!chart_.series.empty());
   FitLegend();
+  FitTitles();
   FitNumbers();
   updateLayout();
+  FitTitles();
   FitNumbers();
   const int columns = std::max(axisRect()->width(), 1);
   for (std::size_t i = 0; i < curves_.size(); ++i) {
@@ -142,6 +165,16 @@ void ChartWidget::Fit(const QRect& viewport) {
     curves_[i]->SetLine(Decimate(series.x, series.y, xAxis->range().lower, xAxis->range().upper, columns));
   }
   ShowMark();
+}
+
+void ChartWidget::FitTitles() {
+  const QFontMetricsF metrics(xAxis->labelFont());
+  const auto show = [&](QCPAxis* axis, const std::string& title, int length) {
+    if (axis) axis->setLabel(metrics.elidedText(ToQt(title), Qt::ElideRight, length));
+  };
+  show(xAxis, chart_.x.title, axisRect()->width());
+  show(yAxis, chart_.y.title, axisRect()->height());
+  if (bar_.Axis()) show(bar_.Axis(), chart_.points->tintAxis.title, bar_.Length());
 }
 
 void ChartWidget::FitNumbers() {
@@ -158,6 +191,8 @@ void ChartWidget::FitNumbers() {
   };
   show(*xAxis, AxisNumbers(chart_.x, axisRect()->width(), width + metrics.height()));
   show(*yAxis, AxisNumbers(chart_.y, axisRect()->height(), metrics.height() * 1.25));
+  if (QCPAxis* axis = bar_.Axis())
+    show(*axis, AxisNumbers(chart_.points->tintAxis, bar_.Length(), metrics.height() * 1.25));
   // Half of the outermost numbers stands beyond the ends of the axes.
   const int half = static_cast<int>(std::ceil(width / 2));
   const int above = static_cast<int>(std::ceil(metrics.height()));
@@ -182,23 +217,40 @@ void ChartWidget::Select(int place, int point) {
   selectedPlace_ = place;
   selectedPoint_ = point;
   ShowMark();
-  // The mark alone is drawn anew; before the first draw it comes with the rest.
+  RedrawMarks();
+}
+
+void ChartWidget::RedrawMarks() {
+  // Until the chart has been drawn they come with the rest.
   if (drawn_) layer("overlay")->replot();
 }
 
-void ChartWidget::ShowMark() {
+std::optional<QPointF> ChartWidget::MarkedPoint() const {
   const auto place = static_cast<std::size_t>(selectedPlace_);
   const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
-  const bool shown = selectedPlace_ >= 0 && place < chart_.series.size() && selectedPoint_ >= 1 &&
-                     at < std::min(chart_.series[place].x.size(), chart_.series[place].y.size());
-  line_->setVisible(shown);
-  ring_->setVisible(shown);
-  if (!shown) return;
-  const ChartSeries& series = chart_.series[place];
-  line_->point1->setCoords(series.x[at], yAxis->range().lower);
-  line_->point2->setCoords(series.x[at], yAxis->range().upper);
-  ring_->position->setCoords(series.x[at], series.y[at]);
-  ring_->setBrush(ColourToQt(series.pen.colour));
+  if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= (chart_.points ? 1 : chart_.series.size()))
+    return std::nullopt;
+  const auto& x = chart_.points ? chart_.points->x : chart_.series[place].x;
+  const auto& y = chart_.points ? chart_.points->y : chart_.series[place].y;
+  if (at >= std::min(x.size(), y.size()) || !std::isfinite(x[at]) || !std::isfinite(y[at])) return std::nullopt;
+  if (cloud_ && !(xAxis->range().contains(x[at]) && yAxis->range().contains(y[at]))) return std::nullopt;
+  return QPointF(x[at], y[at]);
+}
+
+void ChartWidget::ShowMark() {
+  const std::optional<QPointF> at = MarkedPoint();
+  line_->setVisible(at.has_value());
+  across_->setVisible(at && cloud_);
+  ring_->setVisible(at.has_value());
+  if (!at) return;
+  line_->point1->setCoords(at->x(), yAxis->range().lower);
+  line_->point2->setCoords(at->x(), yAxis->range().upper);
+  across_->point1->setCoords(xAxis->range().lower, at->y());
+  across_->point2->setCoords(xAxis->range().upper, at->y());
+  ring_->position->setCoords(*at);
+  ring_->setClipToAxisRect(!cloud_);
+  // Of a cloud, the mark itself is seen within the ring.
+  ring_->setBrush(cloud_ ? QBrush() : ColourToQt(chart_.series[static_cast<std::size_t>(selectedPlace_)].pen.colour));
 }
 
 void ChartWidget::Paint(QCPPainter& painter, int width, int height) {
@@ -223,15 +275,18 @@ void ChartWidget::changeEvent(QEvent* event) {
 
 void ChartWidget::mousePressEvent(QMouseEvent* event) {
   QCustomPlot::mousePressEvent(event);
-  if (event->button() == Qt::RightButton) {
-    emit RightClicked();
-  } else if (event->button() == Qt::LeftButton && axisRect()->rect().contains(event->pos())) {
-    const QPointF click = event->position();
-    const auto found = NearestPoint(chart_, [&](double x, double y) {
-      return std::hypot(xAxis->coordToPixel(x) - click.x(), yAxis->coordToPixel(y) - click.y());
-    });
-    if (found) emit PointClicked(found->place, found->point);
+  if (event->button() == Qt::RightButton) emit RightClicked();
+}
+
+void ChartWidget::ClickAt(QPointF pixel) {
+  if (cloud_) {
+    if (const auto point = cloud_->PointAt(pixel)) emit PointClicked(0, *point + 1);
+    return;
   }
+  const auto found = NearestPoint(chart_, [&](double x, double y) {
+    return std::hypot(xAxis->coordToPixel(x) - pixel.x(), yAxis->coordToPixel(y) - pixel.y());
+  });
+  if (found) emit PointClicked(found->place, found->point);
 }
 
 }  // namespace tarnview

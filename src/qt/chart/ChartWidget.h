@@ -4,12 +4,14 @@
 
 #include <vector>
 
+#include "qt/chart/ColourBar.h"
 #include "qt/chart/CurveLine.h"
+#include "qt/chart/PointCloudPlot.h"
 #include "ui/ChartDescription.h"
 
 namespace tarnview {
 
-/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1.
+/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a cloud has place 0.
 class ChartWidget : public QCustomPlot {
   Q_OBJECT
  public:
@@ -18,6 +20,10 @@ class ChartWidget : public QCustomPlot {
   void SetDescription(const ChartDescription& description);
   /// Marks a point with a ring and a line through all curves; a place or point that is not there takes the mark away.
   void Select(int place, int point);
+  /// Draws what lies over the curves anew, and the curves not.
+  void RedrawMarks();
+  /// Tells the point nearest to a pixel as clicked on; of a cloud, if it is near.
+  void ClickAt(QPointF pixel);
 
   /// Draws the chart on any device, `width` by `height` in the painter's units.
   void Paint(QCPPainter& painter, int width, int height);
@@ -37,20 +43,27 @@ class ChartWidget : public QCustomPlot {
   void ApplyColours();
   void ApplyFonts();
   void MakeCurves();
+  void MakeCloud();
   /// What depends on the size: numbers that fit, legend columns, points that the pixels can show.
   void Fit(const QRect& viewport);
   void FitNumbers();
+  void FitTitles();
   void FitLegend();
   void ShowMark();
+  /// The marked point in the axes' units; none where nothing is marked.
+  std::optional<QPointF> MarkedPoint() const;
 
   ChartDescription chart_;
-  std::vector<CurveLine*> curves_;  ///< one for each series
+  std::vector<CurveLine*> curves_;   ///< one for each series
+  PointCloudPlot* cloud_ = nullptr;  ///< null for curves
+  ColourBar bar_{*this};
   QCPLayoutGrid* legendColumn_ = nullptr;
   QCPItemStraightLine* line_ = nullptr;
+  QCPItemStraightLine* across_ = nullptr;  ///< the other line of a cloud's mark
   QCPItemTracer* ring_ = nullptr;
   int selectedPlace_ = -1;
   int selectedPoint_ = 0;
-  bool drawn_ = false;
+  bool drawn_ = false;  ///< the description that is shown now
 };
 
 /// Line width in pixels of a pen's width (10 to 50): 1 to 3.

@@ -18,11 +18,16 @@ constexpr int kPixelsPerInch = 96;
 constexpr int kLargestSide = 16384;
 
 struct Picture {
-  ChartWidget& chart;
+  Picture(const ChartDescription& description, int itsWidth, int itsHeight) : width(itsWidth), height(itsHeight) {
+    chart.resize(width, height);
+    chart.SetDescription(description);
+  }
+
+  ChartWidget chart;
   int width;
   int height;
 
-  bool PaintOn(QPaintDevice& device, bool vectors) const {
+  bool PaintOn(QPaintDevice& device, bool vectors) {
     QCPPainter painter;
     if (!painter.begin(&device)) return false;
     painter.setMode(QCPPainter::pmNoCaching);
@@ -32,12 +37,12 @@ struct Picture {
   }
 };
 
-bool DrawPng(const Picture& picture, QIODevice& to) {
+bool DrawPng(Picture& picture, QIODevice& to) {
   QImage image(picture.width, picture.height, QImage::Format_RGB32);
   return picture.PaintOn(image, false) && image.save(&to, "PNG");
 }
 
-bool DrawSvg(const Picture& picture, QIODevice& to) {
+bool DrawSvgTo(Picture& picture, QIODevice& to) {
   QSvgGenerator svg;
   svg.setOutputDevice(&to);
   svg.setTitle("Tarnview");
@@ -48,7 +53,7 @@ bool DrawSvg(const Picture& picture, QIODevice& to) {
   return picture.PaintOn(svg, true);
 }
 
-bool DrawPdf(const Picture& picture, QIODevice& to) {
+bool DrawPdf(Picture& picture, QIODevice& to) {
   QPdfWriter pdf(&to);
   pdf.setResolution(kPixelsPerInch);
   const QSizeF inches(static_cast<double>(picture.width) / kPixelsPerInch,
@@ -60,9 +65,9 @@ bool DrawPdf(const Picture& picture, QIODevice& to) {
 
 struct Format {
   const char* ending;
-  bool (*draw)(const Picture&, QIODevice&);
+  bool (*draw)(Picture&, QIODevice&);
 };
-constexpr Format kFormats[] = {{".png", DrawPng}, {".svg", DrawSvg}, {".pdf", DrawPdf}};
+constexpr Format kFormats[] = {{".png", DrawPng}, {".svg", DrawSvgTo}, {".pdf", DrawPdf}};
 
 }  // namespace
 
@@ -72,28 +77,41 @@ bool DrawPicture(const ChartDescription& chart, const std::string& path, int wid
     return name.endsWith(QLatin1String(one.ending), Qt::CaseInsensitive);
   });
   if (format == std::end(kFormats)) {
-    error = "A picture's name ends in .png, .svg or .pdf: " + path;
+    error = "A picture's name ends in .png, .svg or .pdf.";
     return false;
   }
   if (width < 1 || height < 1 || width > kLargestSide || height > kLargestSide) {
     error = "A picture is 1 to 16384 pixels wide and high.";
     return false;
   }
-  ChartWidget widget;
-  widget.resize(width, height);
-  widget.SetDescription(chart);
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  if (!format->draw({widget, width, height}, buffer)) {
-    error = "The picture could not be drawn: " + path;
+  if (Picture picture(chart, width, height); !format->draw(picture, buffer)) {
+    error = "It could not be drawn.";
     return false;
   }
   // Written beside the old file and renamed, so that at every moment the old or the new one is whole.
   QSaveFile file(name);
   if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return true;
-  error = "The picture could not be written: " + path + ": " + file.errorString().toStdString();
+  error = FromQt(file.errorString());
   return false;
+}
+
+QImage DrawImage(const ChartDescription& chart, QSize size, double ratio) {
+  QImage image(size * ratio, QImage::Format_RGB32);
+  image.setDevicePixelRatio(ratio);
+  Picture(chart, size.width(), size.height()).PaintOn(image, false);
+  return image;
+}
+
+QByteArray DrawSvg(const ChartDescription& chart, QSize size) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  Picture picture(chart, size.width(), size.height());
+  DrawSvgTo(picture, buffer);
+  return bytes;
 }
 
 }  // namespace tarnview

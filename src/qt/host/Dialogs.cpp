@@ -4,8 +4,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -91,15 +89,6 @@ bool ChooseColour(Dialog& dialog, QWidget* parent) {
   return colour.isValid();
 }
 
-bool ChoosePrinter(Dialog& dialog, QWidget* parent) {
-  QPrinter printer;
-  QPrintDialog box(&printer, parent);
-  if (!dialog.title.empty()) box.setWindowTitle(ToQt(dialog.title));
-  if (box.exec() != QDialog::Accepted) return false;
-  dialog.path = PathFromQt(printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName());
-  return true;
-}
-
 }  // namespace
 
 Reply AskInBox(const Box& box, QWidget* parent) {
@@ -119,8 +108,8 @@ bool ChooseInDialog(Dialog& dialog, QWidget* parent) {
   switch (dialog.kind) {
     case DialogKind::Colour:
       return ChooseColour(dialog, parent);
-    case DialogKind::Printer:
-      return ChoosePrinter(dialog, parent);
+    case DialogKind::Printer:  // comes with the page to print
+      return false;
     default:
       return ChooseFile(dialog, parent);
   }

@@ -13,6 +13,7 @@
 #include "qt/Text.h"
 #include "qt/binder/FormTable.h"
 #include "qt/host/KeyNames.h"
+#include "qt/host/WindowPlacement.h"
 #include "qt/icons/Icons.h"
 #include "qt/icons/Looks.h"
 #include "ui/CommandButton.h"
@@ -33,6 +34,7 @@ QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
   window->setWindowIcon(ProgramIcon());
   SetLooks(*window);
   SizeMainWindow(*window);
+  TakePlacement(form, *window);
   return *window;
 }
 
@@ -112,7 +114,12 @@ bool FormWindow::WindowEvent(QEvent& event) {
       cameToFront_(form_);
       return false;
     case QEvent::Resize:
+      NoteWhereItIs();
       form_.Form_Resize();
+      return false;
+    case QEvent::Move:
+    case QEvent::WindowStateChange:
+      NoteWhereItIs();
       return false;
     case QEvent::DragEnter:
       if (auto& drag = static_cast<QDragEnterEvent&>(event); !DraggedFile(*drag.mimeData()).isEmpty())
@@ -131,6 +138,11 @@ bool FormWindow::WindowEvent(QEvent& event) {
     default:
       return false;
   }
+}
+
+/// A window that is not on show yet has no place of its own.
+void FormWindow::NoteWhereItIs() {
+  if (window_->isVisible()) NotePlacement(*window_, form_);
 }
 
 bool FormWindow::Receives(QObject* receiver) const {

@@ -13,7 +13,7 @@ namespace tarnview {
 
 class Form;
 
-/// A form and the window that shows it: caption, pointer, keys, focus, dropped files, the close box.
+/// A form and the window that shows it: caption, pointer, place, keys, focus, dropped files, the close box.
 class FormWindow : public QObject {
  public:
   /// `cameToFront` is called when the desktop activates the window. The form must have a file in forms/.
@@ -33,6 +33,7 @@ class FormWindow : public QObject {
  private:
   void ShowCaption();
   bool WindowEvent(QEvent& event);
+  void NoteWhereItIs();
   bool KeyDown(QKeyEvent& event);
   bool KeyUp(QKeyEvent& event);
   bool EnterOrEscape(const struct KeyPress& key);

@@ -5,11 +5,14 @@
 #include <QCursor>
 #include <QEventLoop>
 #include <QMenu>
+#include <QMimeData>
 #include <QTimer>
 #include <algorithm>
 
 #include "qt/Text.h"
+#include "qt/chart/PicturePainter.h"
 #include "qt/host/Dialogs.h"
+#include "ui/Chart.h"
 #include "ui/Form.h"
 #include "ui/MenuItem.h"
 
@@ -18,6 +21,8 @@ namespace {
 
 /// Milliseconds between two repaints of a long loop: quicker, the eye sees no more and the loop loses time.
 constexpr int kRepaintEvery = 30;
+/// Of a chart that no window shows.
+constexpr QSize kPictureSize(1400, 800);
 
 }  // namespace
 
@@ -110,6 +115,36 @@ void QtHost::Repaint(Form&) {
 }
 
 void QtHost::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
+
+QSize QtHost::SizeOf(const Chart& chart) const {
+  FormWindow* window = WindowOf(chart.form);
+  const auto* view = window ? qobject_cast<QWidget*>(window->binder().ViewOf(chart)) : nullptr;
+  return view ? view->size() : kPictureSize;
+}
+
+void QtHost::CopyPicture(const Chart& chart) {
+  const QSize size = SizeOf(chart);
+  auto* picture = new QMimeData;
+  picture->setImageData(DrawImage(chart.Data(), size, qApp->devicePixelRatio()));
+  // For programs that scale what they take.
+  picture->setData("image/svg+xml", DrawSvg(chart.Data(), size));
+  QApplication::clipboard()->setMimeData(picture);
+}
+
+bool QtHost::SavePicture(const Chart& chart, const std::string& path, std::string& error) {
+  const QSize size = SizeOf(chart);
+  return DrawPicture(chart.Data(), path, size.width(), size.height(), error);
+}
+
+bool QtHost::PrintPage(const PrintJob& job, std::string& error) {
+  FlushAll();
+  return printing_.Print(job, ParentForNew(), error);
+}
+
+bool QtHost::PreviewPage(const PrintJob& job, std::string& error) {
+  FlushAll();
+  return printing_.Preview(job, ParentForNew(), error);
+}
 
 void QtHost::FlushAll() {
   for (const auto& window : windows_) window->binder().Flush();

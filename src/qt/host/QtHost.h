@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "qt/host/FormWindow.h"
+#include "qt/host/Printing.h"
 #include "ui/Host.h"
 
 class QEventLoop;
@@ -24,6 +25,10 @@ class QtHost : public Host {
   void DoEvents() override;
   void Repaint(Form& form) override;
   void SetClipboardText(const std::string& text) override;
+  void CopyPicture(const Chart& chart) override;
+  bool SavePicture(const Chart& chart, const std::string& path, std::string& error) override;
+  bool PrintPage(const PrintJob& job, std::string& error) override;
+  bool PreviewPage(const PrintJob& job, std::string& error) override;
 
   bool AnyWindow() const { return !windows_.empty(); }
   /// The window of a form; nullptr while it has none.
@@ -36,12 +41,14 @@ class QtHost : public Host {
   };
 
   QWidget* ParentForNew() const;
+  QSize SizeOf(const Chart& chart) const;
   void CameToFront(Form& form);
   void FlushAll();
   void RunModal(Form& form);
 
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<ModalLoop> loops_;
+  Printing printing_{[this](const Chart& chart) { return SizeOf(chart); }};
   const Form* front_ = nullptr;
   QElapsedTimer sinceRepaint_;
   bool repainting_ = false;

@@ -1,5 +1,6 @@
 #include "qt/icons/DesktopStyle.h"
 
+#include <QComboBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -39,6 +40,18 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     DrawCheckBox(*option, *painter);
   else
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const {
+  const auto* box = control == CC_ComboBox ? qobject_cast<const QComboBox*>(widget) : nullptr;
+  if (!box || !box->isEditable() || box->count() > 0)
+    return QProxyStyle::drawComplexControl(control, option, painter, widget);
+  QStyleOptionFrame field;
+  field.QStyleOption::operator=(*option);
+  field.lineWidth = pixelMetric(PM_DefaultFrameWidth, option, widget);
+  field.state |= State_Sunken;
+  drawPrimitive(PE_PanelLineEdit, &field, painter, widget);
 }
 
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -32,6 +32,8 @@ AllWindows::AllWindows(Host& host, const std::string& log)
   oneSample_.glngDataLog.AddRow();
   program_.Start(log, false);
   MakeGraphWindows();
+  MakeScatterDetails(!log.empty());
+  MakeScatterGraphs();
   for (Form* form : Forms())
     if (!form->IsShown()) form->Show();
 }
@@ -70,8 +72,8 @@ void AllWindows::MakeGraphWindows() {
       families, 1, messages_, help_);
   presetDetails_ = std::make_unique<frmPresetSampleDetails>(
       host,
-      frmPresetSampleDetails::Surroundings{families, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory,
-                                           files_, clock_, errors_, messages_, help_},
+      PresetSurroundings{families, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory, files_, clock_,
+                         errors_, messages_, help_},
       presets.Item(1));
   definitionFiles_ =
       std::make_unique<DefinitionFiles>(files_, messages_, errors_, globals.catalogue.gcolFixedDataItems);
@@ -79,10 +81,80 @@ void AllWindows::MakeGraphWindows() {
                                                *definitionFiles_, messages_);
 }
 
+void AllWindows::MakeScatterDetails(bool filled) {
+  Globals& globals = program_.Global();
+  Host& host = program_.MainWindow().host;
+  clsScatterGraphPreset preset = clsScatterGraphPresets::BlankPreset();
+  clsScatterFilter filter;
+  if (filled) {
+    preset.strName = "Spool Up";
+    preset.lngXAxisDataItem = ItemOf(kRPM);
+    preset.lngYAxisDataItem = ItemOf(kMAP);
+    preset.lngPointShape = static_cast<int>(PointShape::UpTriangle);
+    preset.lngPointSize = 6;
+    preset.lngPointColour = 0x0080FF;
+    filter.lngDataItemSeq = ItemOf(kMAP);
+    filter.dblFrom = 100.5;
+    preset.objFilters.AddDirect(filter);
+    preset.objFilters.AddDirect({.dblTo = 7000, .dblFrom = 1200, .lngDataItemSeq = ItemOf(kRPM)});
+    preset.objFilters.AddDirect({.dblFrom = 1, .lngDataItemSeq = ItemOf(kThrottle)});
+  }
+  scatterDetails_ = std::make_unique<frmPresetScatterDetails>(
+      host,
+      PresetSurroundings{globals.kinds.gcolLogFamilies, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory,
+                         files_, clock_, errors_, messages_, help_},
+      preset);
+  filter_ = std::make_unique<frmScatterFilter>(host, globals.catalogue, messages_, help_);
+  filter_->SetScatterFilter(filter, 1, true);
+}
+
+/// One as it opens; with a log also few points, all points shaded where they fall together, and all coloured by a third
+/// item, with one selected.
+void AllWindows::MakeScatterGraphs() {
+  frmDataLogViewer& main = program_.MainWindow();
+  scatterGraphs_.push_back(&main.OpenScatterGraph());
+  const OpenLog& log = program_.Global().log;
+  if (!log.gblnSamplesLoaded) return;
+  constexpr int kFew = 300;
+  const double start = log.glngFirstSampleTime;
+  const struct {
+    int yItem, colourBy;
+    bool density;
+    clsScatterFilter filter;
+    PointStyle style;
+  } kGraphs[] = {
+      {ItemOf(kMAP), 0, false, {start + kFew - 1, start, ItemOf(kSample)}, {8, 6, 0x0080FF}},
+      {ItemOf(kMAP), 0, true, {kBoundNotSet, 0, ItemOf(kRPM)}, {1, 4, 0xA00000}},
+      {ItemOf(kIAdv), ItemOf(kMAP), false, {kBoundNotSet, 0, ItemOf(kRPM)}, {1, 4, 0xA00000}},
+  };
+  for (const auto& graph : kGraphs) {
+    frmScatterGraph& window = main.OpenScatterGraph();
+    window.AddFilter(graph.filter);
+    window.ChooseAxes(ItemOf(kRPM), graph.yItem);
+    window.ChooseColourBy(graph.colourBy);
+    window.Style().Show(graph.style);
+    window.mnuViewDensity.Checked = graph.density;
+    window.DrawScatter(true);
+    if (graph.colourBy > 0 && window.chScatterGraph.Data().points) window.chScatterGraph.SelectPoint(1, 1);
+    scatterGraphs_.push_back(&window);
+  }
+}
+
 std::vector<Form*> AllWindows::Forms() {
-  return {
-      &program_.MainWindow(), &splash_,       &about_, &message_, &tags_, goto_.get(), newPreset_.get(), maint_.get(),
-      presetDetails_.get(),   firstRun_.get()};
+  std::vector<Form*> forms{&program_.MainWindow(),
+                           &splash_,
+                           &about_,
+                           &message_,
+                           &tags_,
+                           goto_.get(),
+                           newPreset_.get(),
+                           maint_.get(),
+                           presetDetails_.get(),
+                           scatterDetails_.get(),
+                           filter_.get(),
+                           firstRun_.get()};
+  forms.insert(forms.end(), scatterGraphs_.begin(), scatterGraphs_.end());
+  return forms;
 }
 
 }  // namespace tarnview

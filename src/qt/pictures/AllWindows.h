@@ -12,6 +12,8 @@
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
 #include "samplegraph/frmPresetSampleDetails.h"
+#include "scatter/frmPresetScatterDetails.h"
+#include "scatter/frmScatterFilter.h"
 
 namespace tarnview {
 
@@ -23,12 +25,16 @@ class AllWindows {
   ~AllWindows();
 
   std::vector<Form*> Forms();
+  /// The program behind the main window.
+  Program& TheProgram() { return program_; }
 
  private:
   struct NoMainWindow;
 
   void Fill();
   void MakeGraphWindows();
+  void MakeScatterDetails(bool filled);
+  void MakeScatterGraphs();
 
   RealFileSystem files_;
   RealClock clock_;
@@ -51,6 +57,9 @@ class AllWindows {
   std::unique_ptr<MaintainedCollection<clsSampleGraphPresets>> presetList_;
   std::unique_ptr<frmMaint> maint_;
   std::unique_ptr<frmPresetSampleDetails> presetDetails_;
+  std::unique_ptr<frmPresetScatterDetails> scatterDetails_;
+  std::unique_ptr<frmScatterFilter> filter_;
+  std::vector<Form*> scatterGraphs_;  ///< the main window's
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
 };

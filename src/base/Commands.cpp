@@ -1,4 +1,4 @@
-#include "app/Commands.h"
+#include "base/Commands.h"
 
 namespace tarnview {
 

@@ -1,0 +1,37 @@
+// What the main window hands out of its graph: on paper, on the clipboard, as a picture.
+
+#include "app/frmDataLogViewer.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kSampleItem = 1, kSecondsItem = 63;
+
+}  // namespace
+
+std::vector<Command> frmDataLogViewer::OutputCommands() {
+  const auto drawn = [this] { return drawn_; };
+  const auto copy = [this] { output_.Copy(chSampleGraph); };
+  const auto print = [this] { output_.Print(chSampleGraph, DetailsToPrint()); };
+  return {
+      {&mnuCopy, "mnuCopy_Click", copy, drawn},
+      {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
+      {&mnuFilePrint, "mnuFilePrint_Click", print, drawn},
+      {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
+      {&mnuFilePrintPreview, "mnuFilePrintPreview_Click",
+       [this] { output_.PrintPreview(chSampleGraph, DetailsToPrint()); }, drawn},
+      {&mnuFileSavePicture, "mnuFileSavePicture_Click",
+       [this] { output_.SavePictureAs(chSampleGraph, log_.gstrCurrentFile); }, drawn},
+  };
+}
+
+PrintDetails frmDataLogViewer::DetailsToPrint() const {
+  const auto text = [this](int item, std::int32_t index) { return log_.FormatDataItem(item, index); };
+  const std::int32_t first = plot_.lngPlotFirstIndex, last = plot_.lngPlotLastIndex;
+  return {" Sample Graph",
+          {{"File", log_.gstrCurrentFile},
+           {"Sample Range From", text(kSampleItem, first) + " to " + text(kSampleItem, last)},
+           {"Time Range From", text(kSecondsItem, first) + " secs to " + text(kSecondsItem, last) + " secs"}}};
+}
+
+}  // namespace tarnview

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "qt/host/PaperPage.h"
+#include "ui/Host.h"
+
+class QPrinter;
+class QWidget;
+
+namespace tarnview {
+
+/// The printer, with what was chosen in its dialog last: printer, paper and orientation stay for the next page.
+class Printing {
+ public:
+  explicit Printing(SizeOfChart sizeOf);
+  ~Printing();
+
+  /// As Host::PrintPage and Host::PreviewPage.
+  bool Print(const PrintJob& job, QWidget* parent, std::string& error);
+  bool Preview(const PrintJob& job, QWidget* parent, std::string& error);
+
+ private:
+  QPrinter& PrinterFor(const PrintJob& job);
+
+  SizeOfChart sizeOf_;
+  std::unique_ptr<QPrinter> printer_;
+};
+
+/// Draws the page on a printer that was chosen. False: `error` says why.
+bool DrawPage(const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf, std::string& error);
+
+}  // namespace tarnview

@@ -1,0 +1,28 @@
+#include "samplegraph/ExportRun.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kExportFailed = 64;
+
+}  // namespace
+
+bool ExportRun::Run(std::string& path, const std::function<void(const std::string&)>& write) const {
+  Dialog dialog;
+  dialog.kind = DialogKind::Save;
+  dialog.title = "Export";
+  dialog.filter = "CSV files (*.csv)|*.csv";
+  dialog.initialPath = dialog.path = path;
+  if (!window.host.Choose(dialog)) return false;
+  path = dialog.path;
+  status.Say("Exporting...");
+  window.Pointer = MousePointer::Hourglass;
+  const bool exported = TrapEvent(errors, window.name.c_str(), procedure, [&] { write(path); });
+  status.HideProgress();
+  window.Pointer = MousePointer::Default;
+  status.Say(exported ? "Export complete" : "");
+  if (!exported) messages.ShowMessage(kExportFailed);
+  return exported;
+}
+
+}  // namespace tarnview

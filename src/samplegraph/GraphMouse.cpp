@@ -1,0 +1,121 @@
+#include "samplegraph/GraphMouse.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ranges>
+
+#include "base/Numbers.h"
+#include "model/Column.h"
+#include "samplegraph/GraphScale.h"
+
+namespace tarnview {
+namespace {
+
+/// Gentler than the zoom buttons: three notches halve the range.
+constexpr double kZoomOfNotch = 1.26;
+/// Store rows from the first to the last of the narrowest range.
+constexpr std::int32_t kNarrowest = 2;
+
+}  // namespace
+
+GraphMouse::GraphMouse(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+                       PointHighlight& highlight, MainWindow& mainWindow)
+    : controls_(controls), plot_(plot), range_(range), log_(log), highlight_(highlight), mainWindow_(mainWindow) {
+  Chart& chart = controls_.chSampleGraph;
+  chart.Wheel = [this](double x, double notches) { ZoomAt(x, notches); };
+  chart.Band = [this](double x1, double x2) { ShowBand(x1, x2); };
+  chart.Pan = [this](double grabbed, double x) { MoveTo(grabbed, x); };
+  chart.DblClick = [this] { controls_.cmdZoomFull.Press(); };
+  chart.Hover = [this](double x) { PointAt(x); };
+  chart.HoverEnd = [this] { PointAway(); };
+}
+
+double GraphMouse::TimeOf(std::int32_t index) const {
+  return log_.gcolDataItems->Item(ItemOf(kSecs)).GetRawData(log_.glngDataLog(kSecs, index));
+}
+
+/// The sample nearest to a time. Where the log's times run backwards somewhere, it is one of the log's all the same.
+std::int32_t GraphMouse::IndexAt(double x) const {
+  const auto rows = std::views::iota(log_.glngFirstSample, log_.glngLastSample + 1);
+  const auto found = std::ranges::lower_bound(rows, x, {}, [this](std::int32_t index) { return TimeOf(index); });
+  const std::int32_t index = found == rows.end() ? log_.glngLastSample : *found;
+  if (index == log_.glngFirstSample) return index;
+  return std::abs(TimeOf(index) - x) < std::abs(x - TimeOf(index - 1)) ? index : index - 1;
+}
+
+std::int32_t GraphMouse::WidestRange() const {
+  const std::int32_t wholeLog = log_.glngLastSample - log_.glngFirstSample;
+  return controls_.chkQuickGraph.Value ? wholeLog : std::min(wholeLog, kWidestFullRange);
+}
+
+void GraphMouse::ZoomAt(double x, double notches) {
+  if (!Drawn() || notches == 0) return;
+  const std::int32_t width = plot_.Width();
+  const std::int32_t at = std::clamp(IndexAt(x), plot_.lngPlotFirstIndex, plot_.lngPlotLastIndex);
+  const std::int32_t widest = WidestRange();
+  const double zoomed = width * std::pow(kZoomOfNotch, -notches);
+  std::int32_t wanted = RoundToLong(std::min<double>(zoomed, widest));
+  if (wanted == width) wanted += notches < 0 ? 1 : -1;
+  wanted = std::clamp(wanted, std::min(kNarrowest, widest), widest);
+  const double share = width > 0 ? static_cast<double>(at - plot_.lngPlotFirstIndex) / width : 0.5;
+  const std::int32_t first =
+      std::clamp(RoundToLong(at - share * wanted), log_.glngFirstSample, log_.glngLastSample - wanted);
+  ShowRows(first, first + wanted, Move::OneOfMany);
+  if (pointing_) PointAt(x);
+}
+
+void GraphMouse::MoveTo(double grabbed, double x) {
+  if (!Drawn()) return;
+  const std::int32_t width = plot_.lngPlotLastIndex - plot_.lngPlotFirstIndex;
+  const std::int32_t first = std::clamp(plot_.lngPlotFirstIndex + IndexAt(grabbed) - IndexAt(x), log_.glngFirstSample,
+                                        log_.glngLastSample - width);
+  ShowRows(first, first + width, Move::OneOfMany);
+  if (pointing_) PointAt(grabbed);
+}
+
+void GraphMouse::ShowBand(double x1, double x2) {
+  if (Drawn()) ShowRows(IndexAt(std::min(x1, x2)), IndexAt(std::max(x1, x2)), Move::Alone);
+}
+
+void GraphMouse::ShowRows(std::int32_t first, std::int32_t last, Move move) {
+  if (first == plot_.lngPlotFirstIndex && last == plot_.lngPlotLastIndex) return;
+  range_.SetFrom(log_.Sample(first));
+  range_.SetTo(log_.Sample(last));
+  // Where numbers are missing from the log, rows are fewer than numbers.
+  if (!controls_.chkQuickGraph.Value && range_.Span() > kWidestFullRange)
+    range_.SetTo(range_.From() + kWidestFullRange);
+  range_.EnsureMinimumPlotRange();
+  if (plot_.lngHighlightSample < range_.From() || plot_.lngHighlightSample > range_.To()) plot_.lngHighlightSample = 0;
+  Draw(move);
+}
+
+/// Notches and steps of a drag that follow each other, with no other draw between them, are one move for the history:
+/// "Previous Graph" leads back to where the hand began.
+void GraphMouse::Draw(Move move) {
+  const History now{plot_.strPlotFromHistory, plot_.strPlotToHistory};
+  if (move == Move::OneOfMany && now == afterMove_) {
+    plot_.strPlotFromHistory = beforeMove_[0];
+    plot_.strPlotToHistory = beforeMove_[1];
+    plot_.blnForceRedraw = true;
+  } else {
+    beforeMove_ = now;
+  }
+  mainWindow_.DrawSampleGraph();
+  afterMove_ = move == Move::OneOfMany ? History{plot_.strPlotFromHistory, plot_.strPlotToHistory} : History{};
+}
+
+void GraphMouse::PointAt(double x) {
+  if (!Drawn()) return;
+  pointing_ = true;
+  const std::int32_t index = std::clamp(IndexAt(x), plot_.lngPlotFirstIndex, plot_.lngPlotLastIndex);
+  controls_.chSampleGraph.HairLine = TimeOf(index);
+  highlight_.LookAt(index);
+}
+
+void GraphMouse::PointAway() {
+  pointing_ = false;
+  controls_.chSampleGraph.HairLine = std::nullopt;
+  if (Drawn()) highlight_.LookAt(highlight_.SelectedIndex());
+}
+
+}  // namespace tarnview

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "model/OpenLog.h"
+#include "samplegraph/PlotRange.h"
+#include "samplegraph/PlotState.h"
+#include "samplegraph/PointHighlight.h"
+#include "ui/Chart.h"
+#include "ui/CheckBox.h"
+#include "ui/CommandButton.h"
+
+namespace tarnview {
+
+/// The mouse on the Sample Graph: its wheel zooms, a drag pans or marks a range, a double click shows the whole log,
+/// and the list tells the values at the pointer while it is there.
+class GraphMouse {
+ public:
+  struct Controls {
+    Chart& chSampleGraph;
+    CheckBox& chkQuickGraph;
+    CommandButton& cmdZoomFull;
+  };
+  /// What it needs of the main window.
+  struct MainWindow {
+    virtual ~MainWindow() = default;
+    virtual void DrawSampleGraph() = 0;
+  };
+  GraphMouse(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, PointHighlight& highlight,
+             MainWindow& mainWindow);
+
+ private:
+  /// From's and To's history.
+  using History = std::array<std::array<std::string, 2>, 2>;
+  enum class Move { Alone, OneOfMany };
+
+  void ZoomAt(double x, double notches);
+  void MoveTo(double grabbed, double x);
+  void ShowBand(double x1, double x2);
+  void ShowRows(std::int32_t first, std::int32_t last, Move move);
+  void Draw(Move move);
+  void PointAt(double x);
+  void PointAway();
+
+  bool Drawn() const { return !controls_.chSampleGraph.Data().series.empty(); }
+  double TimeOf(std::int32_t index) const;
+  std::int32_t IndexAt(double x) const;
+  std::int32_t WidestRange() const;
+
+  Controls controls_;
+  PlotState& plot_;
+  PlotRange& range_;
+  const OpenLog& log_;
+  PointHighlight& highlight_;
+  MainWindow& mainWindow_;
+  bool pointing_ = false;
+  History beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a graph being drawn along
+  History afterMove_;
+};
+
+}  // namespace tarnview

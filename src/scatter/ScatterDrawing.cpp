@@ -1,0 +1,122 @@
+#include "scatter/ScatterDrawing.h"
+
+#include <algorithm>
+
+#include "presets/ScatterFilters.h"
+#include "samplegraph/ColourScheme.h"
+#include "scatter/ScatterPoints.h"
+#include "scatter/ScatterScale.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kTooManySamples = 3;
+constexpr int kNothingMatches = 46;
+/// "Subscript out of range" of the run-time errors.
+constexpr long kOutOfRange = 9;
+
+}  // namespace
+
+ScatterDrawing::ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log, const Settings& settings,
+                               StatusArea& status, Messages& messages, ErrorLog& errors)
+    : window_(window),
+      controls_(controls),
+      log_(log),
+      settings_(settings),
+      status_(status),
+      messages_(messages),
+      errors_(errors) {
+  Clear();
+}
+
+void ScatterDrawing::Clear() {
+  controls_.chScatterGraph.SetData({});
+  controls_.chScatterGraph.Enabled = controls_.chScatterGraph.Visible = false;
+  controls_.fraPicture.Visible = true;
+  controls_.fraSampleDetails.Enabled = false;
+}
+
+void ScatterDrawing::DrawScatter(const ScatterRequest& request, bool blnQuiet) {
+  window_.Pointer = MousePointer::Hourglass;
+  Clear();
+  status_.Say("Preparing to draw graph");
+  status_.SayLoaded("");
+  const bool ended = TrapEvent(errors_, "frmScatterGraph", "DrawScatter", [&] { Build(request, blnQuiet); });
+  if (!ended || !Drawn()) status_.Say("");
+  window_.host.DoEvents();
+  status_.HideProgress();
+  window_.Pointer = MousePointer::Default;
+}
+
+void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
+  const ScatterRange range = RangeOfFilters(log_, request.objFilters);
+  if (range.tooWide) {
+    if (!blnQuiet) messages_.ShowMessage(kTooManySamples);
+    // The end of the range falls before its start, where no table can be made; kept on purpose.
+    throw RuntimeError(kOutOfRange, "Subscript out of range");
+  }
+  const std::int32_t span = std::max(range.to - range.from, 1);
+  status_.ShowProgressInStatusBar(span);
+  rows_ = PassingRows(log_, range, request.objFilters, [&](std::int32_t row) {
+    status_.Progress("Examining log line " + log_.FormatDataItem(ItemOf(kSample), row),
+                     std::clamp(log_.Sample(row) - range.from, 0, span));
+  });
+  if (rows_.empty()) {
+    if (!blnQuiet) messages_.ShowMessage(kNothingMatches);
+    return;
+  }
+  status_.ProgressFull();
+  status_.Say("Drawing graph - please wait");
+  ofOpenLog_ = true;
+  strGraphedFile_ = log_.gstrCurrentFile;
+  filters_.clear();
+  for (const clsScatterFilter& filter : request.objFilters)
+    filters_.push_back(FilterPrintString(filter, *log_.gcolDataItems));
+  controls_.chScatterGraph.SetData(Describe(request));
+  controls_.fraPicture.Visible = false;
+  controls_.chScatterGraph.Enabled = controls_.chScatterGraph.Visible = true;
+  controls_.fraSampleDetails.Enabled = true;
+  status_.Say("Graph draw complete");
+  status_.SayLoaded(std::to_string(rows_.size()) + (rows_.size() == 1 ? " point" : " points"));
+}
+
+ChartDescription ScatterDrawing::Describe(const ScatterRequest& request) const {
+  const auto title = [&](int item) { return log_.gcolDataItems->Item(item).strLongName; };
+  ChartDescription chart;
+  PointCloud& cloud = chart.points.emplace();
+  cloud.xItem = request.xItem;
+  cloud.yItem = request.yItem;
+  cloud.x = ValuesOf(log_, request.xItem, rows_);
+  cloud.y = ValuesOf(log_, request.yItem, rows_);
+  cloud.sample.resize(rows_.size());
+  std::transform(rows_.begin(), rows_.end(), cloud.sample.begin(), [&](std::int32_t row) { return log_.Sample(row); });
+  cloud.shape = static_cast<PointShape>(request.style.lngPointShape);
+  cloud.size = request.style.lngPointSize;
+  cloud.colour = request.style.lngPointColour;
+  Colour(cloud, request);
+  chart.x = AutomaticAxis(cloud.x, title(request.xItem));
+  chart.y = AutomaticAxis(cloud.y, title(request.yItem));
+  SetGraphColourScheme(chart, settings_.gintGraphColourScheme);
+  chart.facts = {{"filters", MakeList(filters_)}};
+  return chart;
+}
+
+void ScatterDrawing::Colour(PointCloud& cloud, const ScatterRequest& request) const {
+  cloud.density = request.density;
+  cloud.tint.clear();
+  if (request.tintItem == 0) return;
+  cloud.tint = ValuesOf(log_, request.tintItem, rows_);
+  cloud.tintAxis = AutomaticAxis(cloud.tint, log_.gcolDataItems->Item(request.tintItem).strLongName);
+}
+
+void ScatterDrawing::Recolour(const ScatterRequest& request) {
+  if (!OfOpenLog()) return;
+  Chart& chart = controls_.chScatterGraph;
+  const int point = chart.SelectedPoint();
+  ChartDescription data = chart.Data();
+  Colour(*data.points, request);
+  chart.SetData(std::move(data));
+  if (point > 0) chart.SelectPoint(1, point);
+}
+
+}  // namespace tarnview

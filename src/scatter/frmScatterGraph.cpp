@@ -1,0 +1,187 @@
+#include "scatter/frmScatterGraph.h"
+
+#include "samplegraph/SampleListView.h"
+
+namespace tarnview {
+namespace {
+
+constexpr const char* kHelpTopic = "ScatterGraph";
+/// To be seen on all three backdrops.
+constexpr PointStyle kFirstStyle{0, 4, 0xC06000};
+
+}  // namespace
+
+frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings, MainWindow& mainWindow)
+    : ScatterWindowControls(itsHost),
+      around_(surroundings),
+      mainWindow_(mainWindow),
+      style_({cboPointShape, cboPointSize, picColour, cmdColourSelector}),
+      filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete},
+               {around_.catalogue, around_.messages, around_.help}),
+      presets_(lvwPresets, around_.presets, around_.kinds.gcolLogFamilies),
+      drawing_(*this, {chScatterGraph, fraPicture, fraSampleDetails}, around_.log, around_.settings, status_,
+               around_.messages, around_.errors),
+      output_(itsHost, around_.messages, around_.errors),
+      commands_(around_.errors, "frmScatterGraph") {
+  noItem_.strLongName = "None";
+  style_.Show(kFirstStyle);
+  DefaultButton = &cmdDrawGraph;
+  BindControls();
+  commands_.Bind(CommandRows());
+}
+
+void frmScatterGraph::BindControls() {
+  cboColourBy.Click = [this] { Recolour(); };
+  lvwPresets.ItemClick = [this](int row) {
+    if (const clsScatterGraphPreset* preset = presets_.Of(row)) SelectPreset(*preset);
+  };
+  lvwPresets.DblClick = [this](int row) {
+    if (presets_.Of(row)) cmdDrawGraph.Press();
+  };
+  chScatterGraph.PointSelected = [this](int, int point) { chScatterGraph_PointSelected(point); };
+  chScatterGraph.RightClick = [this] { host.PopupMenu(mnuRightClick); };
+}
+
+std::vector<Command> frmScatterGraph::CommandRows() {
+  const auto drawn = [this] { return drawing_.Drawn(); };
+  const auto copy = [this] { output_.Copy(chScatterGraph); };
+  const auto print = [this] { output_.Print(chScatterGraph, DetailsForPrint()); };
+  return {
+      {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawScatter(false); },
+       [this] { return around_.log.gblnSamplesLoaded; }},
+      {&cmdShowPoint, "cmdShowPoint_Click", [this] { cmdShowPoint_Click(); }, drawn},
+      {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); },
+       [this] { return drawing_.OfOpenLog(); }},
+      {&mnuFilePrint, "mnuFilePrint_Click", print, drawn},
+      {&mnuFilePrintPreview, "mnuFilePrintPreview_Click",
+       [this] { output_.PrintPreview(chScatterGraph, DetailsForPrint()); }, drawn},
+      {&mnuFileSavePicture, "mnuFileSavePicture_Click",
+       [this] { output_.SavePictureAs(chScatterGraph, drawing_.strGraphedFile()); }, drawn},
+      {&mnuFileClose, "mnuFileClose_Click", [this] { Unload(); }, {}},
+      {&mnuEditCopy, "mnuEditCopy_Click", copy, drawn},
+      {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { mnuEditUpdatePreset_Click(); },
+       [this] { return presets_.HasRows(); }},
+      {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, {}},
+      {&mnuViewSampleDetails, "mnuViewSampleDetails_Click", [this] { ShowSampleDetails(!blnShowSampleDetails_); }, {}},
+      {&mnuViewDensity,
+       "mnuViewDensity_Click",
+       [this] {
+         mnuViewDensity.Checked = !mnuViewDensity.Checked;
+         Recolour();
+       },
+       {}},
+      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { around_.help.ShowHelp(kHelpTopic); }, {}},
+      {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
+      {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
+  };
+}
+
+void frmScatterGraph::Form_Load() {
+  ApplyPlacement(around_.settings.windows.scatterGraph, *this);
+  SetCaption();
+  RefreshDataItems();
+  xAxis_.Choose(ItemOf(kRPM), around_.messages, true);
+  yAxis_.DataItemImageComboDefault();
+  ShowSampleDetails(around_.settings.gblnDisplaySampleInScatter);
+  if (initialPreset_ >= 1 && initialPreset_ <= around_.presets.Count()) {
+    lvwPresets.Select(lvwPresets.RowOfTag(std::to_string(initialPreset_)));
+    SelectPreset(around_.presets.Item(initialPreset_));
+  } else if (around_.settings.gblnAutoScatterFilter) {
+    if (const auto filter = mainWindow_.RangeFilter()) filters_.AddFilter(*filter);
+  }
+}
+
+void frmScatterGraph::Form_Unload() {
+  if (const auto placement = PlacementOf(*this)) around_.settings.windows.scatterGraph = placement;
+  mainWindow_.ScatterGraphClosed(ID);
+}
+
+bool frmScatterGraph::Form_KeyUp(const KeyPress& key) {
+  if (key != KeyPress{"F1"}) return false;
+  around_.help.ShowHelp(kHelpTopic);
+  return true;
+}
+
+/// Before a first log, items are those of the file type that the user opens most.
+int frmScatterGraph::FileType() const {
+  return around_.log.gintCurrentFileType > 0 ? around_.log.gintCurrentFileType : around_.settings.gintDefaultFileType;
+}
+
+void frmScatterGraph::SetCaption() {
+  const OpenLog& log = around_.log;
+  std::string caption = "Tarnview Scatter Graph - " + log.gstrCurrentFileTitle;
+  if (log.glngDataLog.Rows() >= kMostSamples)
+    caption += " Sample Load Range " + std::to_string(log.glngFirstSampleTime) + " - " +
+               std::to_string(log.glngLastSampleTime);
+  Caption = caption;
+}
+
+void frmScatterGraph::LogIsClosing() {
+  drawing_.LogChanged();
+  PopulateSampleListViewFromSample(-1);
+  commands_.Update();
+}
+
+void frmScatterGraph::RefreshDataItems() {
+  DataItemList items = AxisItems(around_.catalogue, Family());
+  xAxis_.SetItems(items);
+  yAxis_.SetItems(items);
+  items.insert(items.begin(), &noItem_);
+  colourBy_.SetItems(items);
+  filters_.SetLogFamily(Family());
+  CheckedKeys noChecks;
+  SampleListForm form;
+  form.intMode = kDisplayedItems;
+  form.lngFileType = FileType();
+  form.pictures = false;
+  SetUpSampleListView(lvwSampleDetails, noChecks, form, around_.kinds.gcolLogFamilies,
+                      ItemsOfFamily(around_.catalogue, Family()));
+  PopulatePresets();
+  commands_.Update();
+}
+
+ScatterRequest frmScatterGraph::Request() const {
+  return {xAxis_.Item(),    yAxis_.Item(),          style_.Style(),
+          colourBy_.Item(), mnuViewDensity.Checked, filters_.objFilters()};
+}
+
+void frmScatterGraph::DrawScatter(bool blnQuiet) {
+  if (!around_.log.gblnSamplesLoaded) return;
+  lngShowPointSample_ = 0;
+  PopulateSampleListViewFromSample(-1);
+  drawing_.DrawScatter(Request(), blnQuiet);
+  if (drawing_.Drawn()) SetCaption();
+  commands_.Update();
+}
+
+void frmScatterGraph::Recolour() { drawing_.Recolour(Request()); }
+
+bool frmScatterGraph::ChooseAxes(int xItem, int yItem) {
+  const int before = xAxis_.Item();
+  if (!xAxis_.SearchImageComboForDataItem(xItem)) return false;
+  if (yAxis_.SearchImageComboForDataItem(yItem)) return true;
+  xAxis_.SearchImageComboForDataItem(before);
+  return false;
+}
+
+void frmScatterGraph::chScatterGraph_PointSelected(int point) {
+  lngShowPointSample_ =
+      static_cast<std::int32_t>(drawing_.dblScatterData().sample[static_cast<std::size_t>(point - 1)]);
+  PopulateSampleListViewFromSample(drawing_.IndexOfPoint(point));
+}
+
+void frmScatterGraph::PopulateSampleListViewFromSample(std::int32_t index) {
+  PopulateSampleListView(index, lvwSampleDetails, around_.log);
+}
+
+void frmScatterGraph::cmdShowPoint_Click() {
+  if (lngShowPointSample_ > 0 && around_.log.gblnSamplesLoaded) mainWindow_.ShowPoint(lngShowPointSample_);
+}
+
+void frmScatterGraph::ShowSampleDetails(bool show) {
+  blnShowSampleDetails_ = show;
+  mnuViewSampleDetails.Checked = show;
+  fraSampleDetails.Visible = show;
+}
+
+}  // namespace tarnview

@@ -1,0 +1,102 @@
+// The main window and its scatter windows: the range on show, a load, the graphs drawn after it, the end of the
+// program.
+
+#include "support/ProgramFixture.h"
+
+namespace tarnview {
+namespace {
+
+constexpr const char* kPreset =
+    "[New Preset Scatter Graphs]\r\n"
+    "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point Size=6\r\n"
+    "Graph 1 X Axis=3\r\nGraph 1 Y Axis=5\r\nGraph 1 File Open Draw=Y\r\nGraph 1 Log Family=1\r\n"
+    "Graph 2 Name=Other family\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point Size=1\r\n"
+    "Graph 2 X Axis=3\r\nGraph 2 Y Axis=5\r\nGraph 2 File Open Draw=Y\r\nGraph 2 Log Family=6\r\n";
+
+class ScatterWindows : public ProgramFixture {
+ protected:
+  ~ScatterWindows() override { program.reset(); }
+  void Open(const std::string& settings, int samples = 40) {
+    files.files["/logs/run.txt"] = SmallLog(samples);
+    Start("", settings);
+    Main().LoadDataFile("/logs/run.txt", 0);
+  }
+  std::vector<frmScatterGraph*> Windows() {
+    std::vector<frmScatterGraph*> windows;
+    for (Form* form : host.open)
+      if (auto* window = dynamic_cast<frmScatterGraph*>(form)) windows.push_back(window);
+    return windows;
+  }
+};
+
+TEST_F(ScatterWindows, TakeTheRangeOnShowAsAFilter) {
+  for (const bool wanted : {true, false}) {
+    Open(std::string("[General]\r\nAuto Scatter Graph Sample Filter=") + (wanted ? "Y" : "N") + "\r\n");
+    EXPECT_EQ(Main().OpenScatterGraph().objFilters().Count(), 0) << "the whole log";
+    Main().PlotRangeTo.Do({"type", {"30"}});
+    const clsScatterFilters& filters = Main().OpenScatterGraph().objFilters();
+    ASSERT_EQ(filters.Count(), wanted ? 1 : 0);
+    if (!wanted) continue;
+    EXPECT_EQ(filters.Item(1).lngDataItemSeq, 1);
+    EXPECT_EQ(filters.Item(1).dblFrom, 1);
+    EXPECT_EQ(filters.Item(1).dblTo, 30);
+  }
+}
+
+TEST_F(ScatterWindows, AreDrawnAfterALoadWhereThatIsWanted) {
+  Open(std::string("[General]\r\nScatter Graph Auto Draw=Y\r\n") + kPreset);
+  ASSERT_EQ(Windows().size(), 1u) << "the other preset is of another family";
+  EXPECT_EQ(Windows()[0]->chScatterGraph.Data().points->x.size(), 40u);
+  EXPECT_EQ(Windows()[0]->cboPointShape.Text(), "Up Tri");
+  Main().mnuFileDrawScatter.Do({"click", {}});
+  EXPECT_FALSE(program->Global().settings.gblnScatterGraphAutoDraw);
+  Main().LoadDataFile("/logs/run.txt", 0);
+  EXPECT_EQ(Windows().size(), 1u);
+}
+
+TEST_F(ScatterWindows, AnAutomaticGraphIsSilentAboutItsFaults) {
+  files.files["/logs/run.txt"] = SmallLog(5100);
+  Start("", std::string("[General]\r\nScatter Graph Auto Draw=Y\r\n") + kPreset);
+  host.messages.clear();
+  Main().LoadDataFile("/logs/run.txt", 0);
+  EXPECT_EQ(MessageIds(), std::vector<int>{16}) << "the load's own alone: no zones";
+  ASSERT_EQ(Windows().size(), 1u);
+  EXPECT_FALSE(Windows()[0]->chScatterGraph.Data().points);
+}
+
+TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
+  Open("[General]\r\n");
+  frmScatterGraph& window = Main().OpenScatterGraph();
+  window.cmdDrawGraph.Press();
+  window.chScatterGraph.SelectPoint(1, 40);
+  files.files["/logs/short.txt"] = SmallLog(5);
+  Main().LoadDataFile("/logs/short.txt", 0);
+  EXPECT_EQ(window.chScatterGraph.Data().points->x.size(), 40u);
+  EXPECT_EQ(window.Caption(), "Tarnview Scatter Graph - run.txt");
+  EXPECT_FALSE(window.mnuFileExport.Enabled()) << "its samples are gone";
+  EXPECT_TRUE(window.mnuFilePrint.Enabled());
+  window.chScatterGraph.SelectPoint(1, 40);
+  EXPECT_EQ(window.lvwSampleDetails.At(1).texts[1], "");
+  Main().LoadDataFile("/logs/none.txt", 0);
+  EXPECT_FALSE(window.cmdDrawGraph.Enabled());
+  window.cmdShowPoint.Press();
+  Main().LoadDataFile("/logs/short.txt", 0);
+  window.cmdDrawGraph.Press();
+  EXPECT_EQ(window.chScatterGraph.Data().points->x.size(), 5u);
+  EXPECT_EQ(window.Caption(), "Tarnview Scatter Graph - short.txt");
+}
+
+TEST_F(ScatterWindows, CloseWithTheMainWindow) {
+  Open("[General]\r\n");
+  frmScatterGraph& window = Main().OpenScatterGraph();
+  Main().OpenScatterGraph().mnuFileClose.Do({"click", {}});
+  EXPECT_EQ(Windows(), std::vector<frmScatterGraph*>{&window});
+  window.Width = 9000;
+  window.Height = 6000;
+  Main().Unload();
+  EXPECT_TRUE(Windows().empty());
+  EXPECT_EQ(program->Global().settings.windows.scatterGraph->lngWidth, 9000);
+}
+
+}  // namespace
+}  // namespace tarnview

@@ -1,0 +1,4 @@
+#include "fuzz/FuzzScatterGraphPresetFile.cpp"
+#include "support/ReplayCorpus.h"
+
+TEST(Replay, ScatterGraphPresetFile) { tarnview::ReplayCorpus("FuzzScatterGraphPresetFile", LLVMFuzzerTestOneInput); }
