@@ -33,10 +33,10 @@ class MainWindowControls : public Form {
   // Left column: plot range and zoom, then the items.
   Frame picMainBorder{*this, "picMainBorder"};
   Frame fraGraphSeriesFrame{*this, "fraGraphSeriesFrame"};
-  Label lblPlotRangeFrom{*this, "lblPlotRangeFrom", "Plot &From"};
+  Label lblPlotRangeFrom{*this, "lblPlotRangeFrom", "Plot F&rom"};
   TextBox PlotRangeFrom{*this, "PlotRangeFrom"};
   UpDown updPlotRangeFrom{*this, "updPlotRangeFrom"};
-  Label lblPlotRangeTo{*this, "lblPlotRangeTo", "Plot &To"};
+  Label lblPlotRangeTo{*this, "lblPlotRangeTo", "P&lot To"};
   TextBox PlotRangeTo{*this, "PlotRangeTo"};
   UpDown updPlotRangeTo{*this, "updPlotRangeTo"};
   CommandButton cmdDrawGraph{*this, "cmdDrawGraph", "&Draw"};
@@ -49,7 +49,7 @@ class MainWindowControls : public Form {
   CommandButton cmdZoomFull{*this, "cmdZoomFull", "F&ull"};
   Label lblZoomAmount{*this, "lblZoomAmount", "Zoom &Amount"};
   ComboBox cboZoomAmount{*this, "cboZoomAmount", true};
-  CheckBox chkShowCheckedOnly{*this, "chkShowCheckedOnly", "&Checked Data Items Only"};
+  CheckBox chkShowCheckedOnly{*this, "chkShowCheckedOnly", "Chec&ked Data Items Only"};
   ListView lvwSampleDetails{*this, "lvwSampleDetails", {{"Item"}, {"Value", true}}, true};
   ListView lvwPresets{*this, "lvwPresets", {{"Preset Graphs"}}};
   Frame fraZoneInfl{*this, "fraZoneInfl", "Zone Influence"};

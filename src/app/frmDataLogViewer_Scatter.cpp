@@ -19,6 +19,7 @@ frmScatterGraph& frmDataLogViewer::NewScatterGraph() {
   frmScatterGraph::MainWindow& self = *this;
   frmScatterGraph& window = scatterGraphs_.Add(std::make_unique<frmScatterGraph>(host, around, self));
   window.ID = number;
+  window.Cascade = scatterGraphs_.Count() - 1;
   return window;
 }
 

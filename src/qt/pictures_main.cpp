@@ -1,5 +1,5 @@
-// tarnview-windows FOLDER [LOG]: draws every window into a folder, without a screen: empty and (with a log) filled,
-// light and dark, small, large, and in a font 40 % wider.
+// tarnview-windows FOLDER [LOG [SETTINGS]]: draws every window into a folder, without a screen: empty and (with a log)
+// filled, light and dark, small, large, and in a font 40 % wider.
 
 #include <QApplication>
 #include <QDir>
@@ -58,9 +58,16 @@ bool SaveMenus(QWidget& window, const QDir& folder, const QString& look) {
   return saved;
 }
 
-bool DrawAll(const QDir& folder, const std::string& log, const Look& look) {
+/// What the filled windows show.
+struct Content {
+  std::string log;
+  std::string settings;
+};
+
+bool DrawAll(const QDir& folder, const Content& content, const Look& look) {
   UnattendedHost host;
-  AllWindows windows(host, log);
+  const std::string& log = content.log;
+  AllWindows windows(host, log, content.settings);
   const QString ending = QString(log.empty() ? "empty-" : "filled-") + look.name;
   bool saved = true;
   std::map<std::string, int> seen;
@@ -79,10 +86,10 @@ bool DrawAll(const QDir& folder, const std::string& log, const Look& look) {
 
 /// The main window as tuners set it up: on small and large screens, in each colour scheme, with and without zone
 /// influence.
-bool DrawMainWindow(const QDir& folder, const std::string& log, bool dark) {
+bool DrawMainWindow(const QDir& folder, const Content& content, bool dark) {
   constexpr std::pair<int, const char*> kSchemes[] = {{1, "grey"}, {2, "black"}, {3, "white"}};
   UnattendedHost host;
-  AllWindows windows(host, log);
+  AllWindows windows(host, content.log, content.settings);
   Settings& settings = windows.TheProgram().Global().settings;
   frmDataLogViewer& form = windows.TheProgram().MainWindow();
   QWidget& window = host.WindowOf(form)->window();
@@ -112,7 +119,7 @@ bool DrawMainWindow(const QDir& folder, const std::string& log, bool dark) {
 int main(int argc, char** argv) {
   using namespace tarnview;
   if (argc < 2) {
-    std::fputs("usage: tarnview-windows FOLDER [LOG]\n", stderr);
+    std::fputs("usage: tarnview-windows FOLDER [LOG [SETTINGS]]\n", stderr);
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -122,19 +129,20 @@ int main(int argc, char** argv) {
   const QPalette light = QApplication::palette();
   const QFont font = QApplication::font();
   const QDir folder(QFile::decodeName(argv[1]));
+  const Content content{argc > 2 ? argv[2] : "", argc > 3 ? argv[3] : ""};
   bool saved = QDir().mkpath(folder.path());
   for (const Look& look : kLooks) {
     QApplication::setPalette(look.dark ? DarkPalette() : light);
     QFont sized = font;
     sized.setPointSizeF(font.pointSizeF() * look.font);
     QApplication::setFont(sized);
-    saved = DrawAll(folder, "", look) && saved;
-    if (argc > 2) saved = DrawAll(folder, argv[2], look) && saved;
+    saved = DrawAll(folder, {}, look) && saved;
+    if (!content.log.empty()) saved = DrawAll(folder, content, look) && saved;
   }
   QApplication::setFont(font);
   for (const bool dark : {false, true}) {
     QApplication::setPalette(dark ? DarkPalette() : light);
-    if (argc > 2) saved = DrawMainWindow(folder, argv[2], dark) && saved;
+    if (!content.log.empty()) saved = DrawMainWindow(folder, content, dark) && saved;
   }
   return saved ? 0 : 1;
 }

@@ -3,10 +3,10 @@
 #include <map>
 #include <string>
 
+#include "model/OpenLog.h"
 #include "model/clsFileTypes.h"
 #include "model/clsLogDataItems.h"
 #include "model/clsLogFamilies.h"
-#include "model/OpenLog.h"
 #include "ui/ListView.h"
 
 namespace tarnview {

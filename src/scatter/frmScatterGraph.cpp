@@ -8,6 +8,8 @@ namespace {
 constexpr const char* kHelpTopic = "ScatterGraph";
 /// To be seen on all three backdrops.
 constexpr PointStyle kFirstStyle{0, 4, 0xC06000};
+/// Between two windows that open on each other, so that the caption of the lower one shows; in twips, 24 pixels.
+constexpr int kCascadeStep = 360;
 
 }  // namespace
 
@@ -78,6 +80,7 @@ std::vector<Command> frmScatterGraph::CommandRows() {
 
 void frmScatterGraph::Form_Load() {
   ApplyPlacement(around_.settings.windows.scatterGraph, *this);
+  MoveDown(Cascade);
   SetCaption();
   RefreshDataItems();
   xAxis_.Choose(ItemOf(kRPM), around_.messages, true);
@@ -91,7 +94,14 @@ void frmScatterGraph::Form_Load() {
   }
 }
 
+/// Only of use where a place is known: the desktop finds one for each window that has none.
+void frmScatterGraph::MoveDown(int steps) {
+  Left += steps * kCascadeStep;
+  Top += steps * kCascadeStep;
+}
+
 void frmScatterGraph::Form_Unload() {
+  MoveDown(-Cascade);
   if (const auto placement = PlacementOf(*this)) around_.settings.windows.scatterGraph = placement;
   mainWindow_.ScatterGraphClosed(ID);
 }

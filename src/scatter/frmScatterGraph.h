@@ -57,7 +57,8 @@ class frmScatterGraph : public ScatterWindowControls {
   };
   frmScatterGraph(Host& itsHost, const Surroundings& surroundings, MainWindow& mainWindow);
 
-  int ID = 0;  ///< its number among the open scatter windows
+  int ID = 0;       ///< its number among the open scatter windows
+  int Cascade = 0;  ///< how many it opens on top of: each stands a little further down than the last
 
   /// Before it is shown: the preset (by its place) that it opens with.
   void InitialPresetGraph(int preset) { initialPreset_ = preset; }
@@ -100,6 +101,7 @@ class frmScatterGraph : public ScatterWindowControls {
   int FileType() const;
   int Family() const { return around_.kinds.gcolLogFamilies.FirstLogFamily(FileType()); }
   void SetCaption();
+  void MoveDown(int steps);
   void Recolour();
 
   void SelectPreset(const clsScatterGraphPreset& preset);

@@ -59,7 +59,7 @@ class BinderTest : public testing::Test {
       return key.key == "Left";
     }
     bool Form_KeyUp(const KeyPress& key) override {
-      keys.push_back("up " + key.key);
+      keys.push_back(std::string("up ") + (key.ctrl ? "Ctrl+" : "") + key.key);
       return false;
     }
   } form_{host_};
@@ -212,7 +212,16 @@ TEST_F(BinderTest, KeysGoThroughTheFormFirst) {
   EXPECT_EQ(draws, 1);
   form_.keys.clear();
   Press(Qt::Key_O, Qt::ControlModifier);
-  EXPECT_THAT(form_.keys, ElementsAre("Ctrl+O", "up O"));
+  EXPECT_THAT(form_.keys, ElementsAre("Ctrl+O", "up Ctrl+O"));
+}
+
+TEST_F(BinderTest, AKeyLetGoAfterItsModifierCountsAsItWasPressed) {
+  QWidget* focus = &Find<QLineEdit>("PlotRangeFrom");
+  focus->setFocus();
+  form_.keys.clear();
+  QTest::keyPress(focus, Qt::Key_I, Qt::ControlModifier);
+  QTest::keyRelease(focus, Qt::Key_I);
+  EXPECT_THAT(form_.keys, ElementsAre("Ctrl+I", "up Ctrl+I"));
 }
 
 TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {

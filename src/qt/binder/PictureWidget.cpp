@@ -32,17 +32,17 @@ QSize PictureWidget::sizeHint() const {
 void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), backColour_ < 0 ? palette().base() : QBrush(ColourToQt(backColour_)));
-  painter.setPen(palette().color(QPalette::Mid));
+  // The colours between button face and shadow do not show on every desktop's ground, light or dark; this does.
+  QColor faint = palette().color(QPalette::Text);
+  faint.setAlphaF(0.35F);
+  painter.setPen(faint);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(1 / TwipsPerPixel(), 1 / TwipsPerPixel());
-  const auto pen = [&](QPalette::ColorRole role, double pixels) {
-    return QPen(palette().color(role), pixels * TwipsPerPixel());
-  };
-  // The button face itself would not show on every desktop's white.
-  painter.setPen(pen(QPalette::Mid, 1));
+  const auto pen = [&](const QColor& colour, double pixels) { return QPen(colour, pixels * TwipsPerPixel()); };
+  painter.setPen(pen(faint, 1));
   for (const Drawing::Line& line : drawing_.lines) painter.drawLine(line.x1, line.y1, line.x2, line.y2);
-  painter.setPen(pen(QPalette::Highlight, 1.5));
+  painter.setPen(pen(palette().color(QPalette::Highlight), 1.5));
   for (const Drawing::Circle& circle : drawing_.circles) {
     painter.setBrush(circle.filled ? palette().brush(QPalette::Highlight) : QBrush(Qt::NoBrush));
     painter.drawEllipse(QPoint(circle.x, circle.y), circle.radius, circle.radius);

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QUrl>
 #include <QVariant>
+#include <utility>
 
 #include "qt/Text.h"
 #include "qt/binder/FormTable.h"
@@ -117,6 +118,7 @@ bool FormWindow::WindowEvent(QEvent& event) {
       NoteWhereItIs();
       form_.Form_Resize();
       return false;
+    case QEvent::Show:
     case QEvent::Move:
     case QEvent::WindowStateChange:
       NoteWhereItIs();
@@ -155,6 +157,7 @@ bool FormWindow::KeyDown(QKeyEvent& event) {
   if (draining_ && event.isAutoRepeat()) return true;
   const auto key = ToKeyPress(event);
   if (!key) return false;
+  pressed_ = key;
   const QPointer<FormWindow> self(this);
   if (form_.KeyGoesDown(*key)) {
     if (self) DrainRepeats();
@@ -192,8 +195,11 @@ bool FormWindow::EnterOrEscape(const KeyPress& key) {
 
 bool FormWindow::KeyUp(QKeyEvent& event) {
   if (event.isAutoRepeat()) return false;
-  const auto key = ToKeyPress(event);
-  return key && form_.KeyGoesUp(*key);
+  auto key = ToKeyPress(event);
+  if (!key) return false;
+  // Hands often let Ctrl or Shift go first: the key counts as it was pressed.
+  if (pressed_ && pressed_->key == key->key) key = std::exchange(pressed_, std::nullopt);
+  return form_.KeyGoesUp(*key);
 }
 
 }  // namespace tarnview

@@ -4,8 +4,10 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "qt/binder/Binder.h"
+#include "ui/Keys.h"
 
 class QKeyEvent;
 
@@ -36,7 +38,7 @@ class FormWindow : public QObject {
   void NoteWhereItIs();
   bool KeyDown(QKeyEvent& event);
   bool KeyUp(QKeyEvent& event);
-  bool EnterOrEscape(const struct KeyPress& key);
+  bool EnterOrEscape(const KeyPress& key);
   bool Receives(QObject* receiver) const;
   void DrainRepeats();
 
@@ -45,6 +47,7 @@ class FormWindow : public QObject {
   Binder binder_;
   std::function<void(Form&)> cameToFront_;
   bool draining_ = false;
+  std::optional<KeyPress> pressed_;  ///< the key that went down last
 };
 
 }  // namespace tarnview

@@ -17,11 +17,11 @@ struct AllWindows::NoMainWindow : frmDataTags::MainWindow {
   void ShowHelp(const char*) override {}
 };
 
-AllWindows::AllWindows(Host& host, const std::string& log)
+AllWindows::AllWindows(Host& host, const std::string& log, const std::string& settingsFile)
     : messages_(host, [](int) { return std::string(); }),
       programs_(processes_, host),
       help_(files_, programs_, messages_, ""),
-      program_(host, files_, clock_, processes_, ProgramFolders{}),
+      program_(host, files_, clock_, processes_, ProgramFolders{}, settingsFile),
       mainWindow_(std::make_unique<NoMainWindow>()),
       splash_(host),
       about_(host, Definition(!log.empty()), [] {}),
