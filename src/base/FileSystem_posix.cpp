@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "base/FileSystem.h"
+#include "base/LargeMemory.h"
 #include "base/Paths.h"
 
 namespace tarnview {
@@ -57,18 +59,19 @@ bool WriteAll(int file, std::string_view bytes) {
   return true;
 }
 
-/// Reads on to the end of the file. The buffer starts with the size that the file says it has.
+/// Reads on to the end of the file, though it has grown. A string clears what it grows by: by steps that stay in the
+/// processor's cache until the file's bytes replace them.
 bool ReadAll(int file, std::string& bytes, std::size_t expected) {
+  constexpr std::size_t kStep = 1 << 18, kMore = 4096;
   std::size_t filled = 0;
-  bytes.resize(expected);
+  bytes.reserve(expected + kMore);
+  PreferLargePages(bytes.data(), bytes.capacity());
   for (;;) {
-    char more[4096];
-    const bool full = filled == bytes.size();
-    const ssize_t got = full ? ::read(file, more, sizeof more) : ::read(file, &bytes[filled], bytes.size() - filled);
+    bytes.resize(filled + (filled < expected ? std::min(kStep, expected - filled) : kMore));
+    const ssize_t got = ::read(file, &bytes[filled], bytes.size() - filled);
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return false;
     if (got == 0) break;
-    if (full) bytes.append(more, static_cast<std::size_t>(got));
     filled += static_cast<std::size_t>(got);
   }
   bytes.resize(filled);

@@ -100,7 +100,7 @@ double detail::StringToDoubleSlowly(std::string_view text) {
   return Convert(scan, end ? end : scan.end);
 }
 
-double ValDouble(std::string_view text) {
+double detail::ValDoubleSlowly(std::string_view text) {
   const Scan scan = ScanNumber(text);
   return Convert(scan, scan.end);
 }

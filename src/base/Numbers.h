@@ -90,12 +90,18 @@ inline bool ReadShortNumber(std::string_view text, double& value) {
 }
 
 double StringToDoubleSlowly(std::string_view text);
+double ValDoubleSlowly(std::string_view text);
 
 }  // namespace detail
 
 inline double StringToDouble(std::string_view text) {
   double value;
   return detail::ReadShortNumber(text, value) ? value : detail::StringToDoubleSlowly(text);
+}
+
+inline double ValDouble(std::string_view text) {
+  double value;
+  return detail::ReadShortNumber(text, value) ? value : detail::ValDoubleSlowly(text);
 }
 
 inline std::int32_t StringToLong(std::string_view text) { return RoundToLong(StringToDouble(text)); }

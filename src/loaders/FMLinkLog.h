@@ -30,7 +30,8 @@ struct LoadMessage {
   LoadMessage(int itsId, std::string itsExtra = "") : id(itsId), extra(std::move(itsExtra)) {}
 
   int id;
-  std::string extra;  ///< what it is about, such as the line; may be empty
+  std::string extra;   ///< what it is about, such as the line; may be empty
+  std::string report;  ///< path of a file that tells more; may be empty
 };
 
 /// What came of a load.

@@ -7,7 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "base/Units.h"
-#include "loaders/DelimitedLine.h"
+#include "loaders/FieldColumn.h"
 #include "loaders/SampleFinish.h"
 #include "loaders/SampleLog.h"
 #include "model/Column.h"
@@ -18,7 +18,7 @@ namespace {
 
 enum class Rule {
   Count,       ///< the sample's number; the time follows by the line frequency
-  Seconds,     ///< the time; samples are numbered as they come
+  Seconds,     ///< number x 10000: the time; samples are numbered as they come
   Whole,       ///< an integer
   Tenths,      ///< number x 10
   Hundredths,  ///< number x 100
@@ -28,8 +28,21 @@ enum class Rule {
   Throttle,    ///< 1 for "Open" and "On", else 0
 };
 
+/// The power of ten that a rule stores a number with; -1 for any other rule.
 int ScaleOf(Rule rule) {
-  return rule == Rule::Whole ? 0 : rule == Rule::Tenths ? 1 : rule == Rule::Hundredths ? 2 : -1;
+  switch (rule) {
+    case Rule::Count:
+    case Rule::Whole:
+      return 0;
+    case Rule::Tenths:
+      return 1;
+    case Rule::Hundredths:
+      return 2;
+    case Rule::Seconds:
+      return 4;
+    default:
+      return -1;
+  }
 }
 
 /// A column of the log, by the name or the number that its heading may bear.
@@ -42,7 +55,7 @@ struct Heading {
 // Count  RPM   MAP    TPS   OXY  ETEMP  ADV  IAT   LAMBST  RadFan      between tabs, in any number and order
 // 1042   3250  101.3  18.5  75   88     28   25.5  +       Off
 constexpr Heading kHeadings[] = {
-    {"COUNT", "", kSample, Rule::Count},       {"CRNUM", "", kSample, Rule::Seconds},
+    {"COUNT", "", kSample, Rule::Count},       {"CRNUM", "", kSecs, Rule::Seconds},
     {"RPM", "1100", kRPM, Rule::Whole},        {"MAP", "1101", kMAP, Rule::Tenths},
     {"TPS", "1102", kTPS, Rule::Hundredths},   {"OXY", "", kO2, Rule::Whole},
     {"", "1103", kO2, Rule::Hundredths},       {"ETEMP", "1104", kCTemp, Rule::Whole},
@@ -104,13 +117,10 @@ class LinkPlusLog : public SampleLog {
   void ReadSamples(long lineStep) override;
 
  private:
-  struct Known {
-    const Heading* heading;  ///< nullptr for a field that is passed over
-    int scale = -1;          ///< stored as the number x 10^scale; -1 for a rule of its own
-  };
-
-  void Store(const Heading& heading, std::string_view text, int row);
-  void StoreNumberAndTime(Rule rule, std::string_view text, int row);
+  void StoreBlock(FieldIndex& block);
+  void StoreColumn(FieldIndex& block, std::size_t field, const Heading& heading, int first);
+  std::int32_t Stored(const Heading& heading, std::string_view text) const;
+  void StoreTime(Rule rule, int first);
   void FillAirFuel();
 
   const std::string_view bytes_;
@@ -119,35 +129,30 @@ class LinkPlusLog : public SampleLog {
   SampleStore& store_;
   const double airTempFactor_;
   const Marks lambda_, idle_;
-  std::vector<Known> fields_;
+  std::vector<const Heading*> fields_;  ///< nullptr for a field that is passed over
 };
 
 std::size_t LinkPlusLog::ReadHeading() {
   for (int line = 0; !IsHeadingLine(lines_.Next()); ++line)
     if (line + 1 == kHeadingWithinLines) throw RuntimeError(5, "Not a Link Plus log");
-  for (const std::string& text : Split(lines_.Current(), kDelimiter)) {
-    const Heading* heading = FindHeading(text);
-    fields_.push_back({heading, heading ? ScaleOf(heading->rule) : -1});
-  }
+  for (const std::string& text : Split(lines_.Current(), kDelimiter)) fields_.push_back(FindHeading(text));
   TextLines behind = lines_;
   const std::size_t length = behind.AtEnd() ? 0 : behind.Next().size();
   return length > 0 ? length : kUsualLineLength;
 }
 
 void LinkPlusLog::ReadSamples(long lineStep) {
-  EndedLine ended(bytes_);
+  FieldIndex block(bytes_, kDelimiter, fields_.size());
   SampleLines lines(lines_, context_, lineStep);
   for (std::string_view line; lines.Next(line);) {
-    if (!HasFields(line, kDelimiter, fields_.size())) continue;
-    const int row = store_.AddRow();
-    DelimitedLine fields(ended(line), kDelimiter);
-    for (const Known& field : fields_) {
-      if (ShortNumber number; field.scale >= 0 && fields.TakeNumber(number))
-        store_.Set(field.heading->column, row, number.Stored(field.scale));
-      else if (const std::string_view text = fields.TakeText(); field.heading)
-        Store(*field.heading, text, row);
+    if (block.Add(line) < fields_.size()) {
+      block.DropLast();
+      continue;
     }
+    store_.AddRow();
+    if (block.Full()) StoreBlock(block);
   }
+  StoreBlock(block);
   FillBoostAndVacuum(context_);
   FillAirFuel();
   FillWithZero(kCR, context_);
@@ -155,42 +160,63 @@ void LinkPlusLog::ReadSamples(long lineStep) {
   FindFirstPlotSample(context_);
 }
 
-void LinkPlusLog::Store(const Heading& heading, std::string_view text, int row) {
-  const auto set = [&](std::int32_t value) { store_.Set(heading.column, row, value); };
-  switch (heading.rule) {
-    case Rule::Count:
-    case Rule::Seconds:
-      return StoreNumberAndTime(heading.rule, text, row);
-    case Rule::Whole:
-      return set(StringToLong(text));
-    case Rule::Tenths:
-      return set(RoundToLong(StringToDouble(text) * 10));
-    case Rule::Hundredths:
-      return set(RoundToLong(StringToDouble(text) * 100));
-    case Rule::AirTemp:
-      set(RoundToLong(StringToDouble(text) * airTempFactor_));
-      return LowerAirTemp(store_(kATemp, row), airTempFactor_, context_.log);
-    case Rule::Mark: {
-      const char first = text.empty() ? ' ' : text[0];
-      return set((heading.column == kLambda ? lambda_ : idle_)[static_cast<unsigned char>(first)]);
-    }
-    case Rule::Switch:
-      return set(text == "On");
-    case Rule::Throttle:
-      return set(text == "On" || text == "Open");
-  }
+void LinkPlusLog::StoreBlock(FieldIndex& block) {
+  const int first = store_.Rows() - static_cast<int>(block.Lines());
+  for (std::size_t field = 0; field < fields_.size(); ++field)
+    if (fields_[field]) StoreColumn(block, field, *fields_[field], first);
+  block.Clear();
 }
 
-void LinkPlusLog::StoreNumberAndTime(Rule rule, std::string_view text, int row) {
-  if (rule == Rule::Seconds) {
-    store_.Set(kSample, row, row + 1);
-    store_.Set(kSecs, row, RoundToLong(StringToDouble(text) * kStoredPerSecond));
-    return;
+/// `first`: the row of the block's first line.
+void LinkPlusLog::StoreColumn(FieldIndex& block, std::size_t field, const Heading& heading, int first) {
+  const int scale = ScaleOf(heading.rule);
+  NumberShape shape;
+  BlockOf<std::int32_t> cells;
+  ReadColumn(block, field, cells, [&](FieldKey key, std::size_t line) {
+    ShortNumber number;
+    return scale >= 0 && shape.Read(key, number) ? number.Stored(scale) : Stored(heading, block.Field(line, field));
+  });
+  store_.SetRows(heading.column, first, {cells.data(), block.Lines()});
+  if (heading.rule == Rule::Count || heading.rule == Rule::Seconds) StoreTime(heading.rule, first);
+}
+
+std::int32_t LinkPlusLog::Stored(const Heading& heading, std::string_view text) const {
+  switch (heading.rule) {
+    case Rule::Count:
+    case Rule::Whole:
+      return StringToLong(text);
+    case Rule::Tenths:
+      return RoundToLong(StringToDouble(text) * 10);
+    case Rule::Hundredths:
+      return RoundToLong(StringToDouble(text) * 100);
+    case Rule::Seconds:
+      return RoundToLong(StringToDouble(text) * kStoredPerSecond);
+    case Rule::AirTemp: {
+      const std::int32_t stored = RoundToLong(StringToDouble(text) * airTempFactor_);
+      LowerAirTemp(stored, airTempFactor_, context_.log);
+      return stored;
+    }
+    case Rule::Mark: {
+      const char first = text.empty() ? ' ' : text[0];
+      return (heading.column == kLambda ? lambda_ : idle_)[static_cast<unsigned char>(first)];
+    }
+    case Rule::Switch:
+      return text == "On";
+    case Rule::Throttle:
+      return text == "On" || text == "Open";
   }
-  const std::int32_t sample = StringToLong(text);
-  store_.Set(kSample, row, sample);
-  const double seconds = RoundPlaces(sample / context_.settings.gdblDataLogLineFrequency, 4);
-  store_.Set(kSecs, row, RoundToLong(seconds * kStoredPerSecond));
+  return 0;
+}
+
+/// What the samples from `first` on still lack of number and time.
+void LinkPlusLog::StoreTime(Rule rule, int first) {
+  for (int row = first; row < store_.Rows(); ++row) {
+    if (rule == Rule::Seconds)
+      store_.Set(kSample, row, row + 1);
+    else
+      store_.Set(kSecs, row,
+                 RoundToLong(store_(kSample, row) / context_.settings.gdblDataLogLineFrequency * kStoredPerSecond));
+  }
 }
 
 void LinkPlusLog::FillAirFuel() {

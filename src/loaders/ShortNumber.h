@@ -34,9 +34,9 @@ struct ShortNumber {
 
   /// The double nearest to it: both sides of the division are exact.
   double Value() const { return static_cast<double>(digits) / detail::kPowersOfTen[places]; }
-  /// RoundToLong(Value() * 10^scale), scale 0 to 3; a whole number where the text has no more places than that.
+  /// RoundToLong(Value() * 10^scale), scale 0 to 4; a whole number where the text has no more places than that.
   std::int32_t Stored(int scale) const {
-    constexpr std::int32_t kTens[] = {1, 10, 100, 1000};
+    constexpr std::int32_t kTens[] = {1, 10, 100, 1000, 10000};
     if (places > scale) return RoundToLong(Value() * kTens[scale]);
     const std::int64_t stored = digits * kTens[scale - places];
     return stored == static_cast<std::int32_t>(stored) ? static_cast<std::int32_t>(stored) : 0;
@@ -115,25 +115,5 @@ inline bool ReadWord(TextWord word, ShortNumber& number) {
   number.digits = negative ? -whole : whole;
   return true;
 }
-
-/// A field as the last line had it: most quantities of a log change slower than its lines come.
-class LastNumber {
- public:
-  /// The number x 10^scale, rounded; always the same scale. False where the quick road does not know the text.
-  bool Stored(TextWord word, int scale, std::int32_t& stored) {
-    if (word != word_) {
-      ShortNumber number;
-      if (!ReadWord(word, number)) return false;
-      word_ = word;
-      stored_ = number.Stored(scale);
-    }
-    stored = stored_;
-    return true;
-  }
-
- private:
-  TextWord word_ = 0;  // eight NUL characters are a 0, too
-  std::int32_t stored_ = 0;
-};
 
 }  // namespace tarnview

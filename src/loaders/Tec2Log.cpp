@@ -1,8 +1,5 @@
 #include "loaders/Tec2Log.h"
 
-#include "base/Units.h"
-#include "loaders/SampleFinish.h"
-#include "loaders/SampleLog.h"
 #include "loaders/TecLine.h"
 
 namespace tarnview {
@@ -40,17 +37,11 @@ class Tec2Log : public SampleLog {
     SampleStore& store = context_.log.glngDataLog;
     TecFields<kTec2> fields(factors_);
     SampleLines lines(FromFirstPoint(lines_, kSecondsPoint), context_, lineStep);
-    for (std::string_view line; lines.Next(line);) {
-      if (line.size() != kLineLength) continue;
-      const int row = store.AddRow();
-      store.Set(kSample, row, row + 1);
-      store.Set(kSecs, row, RoundToLong(TecNumber(line.substr(0, kSecondsLength)) * kStoredPerSecond));
+    const auto fits = [](std::size_t length) { return length == kLineLength; };
+    ReadTecLines(lines, context_, factors_, fits, [&](std::string_view line, int row) {
+      store.Set(kSecs, row, TecTime(line.substr(0, kSecondsLength)));
       fields.Read(line.data(), store, row);
-      LowerAirTemp(store(kATemp, row), factors_[kATemp], context_.log);
-    }
-    FillBoostAndVacuum(context_);
-    FillWithZero(kFuelPercentM, context_);
-    FindFirstPlotSample(context_);
+    });
   }
 
  private:

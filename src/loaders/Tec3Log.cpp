@@ -1,8 +1,5 @@
 #include "loaders/Tec3Log.h"
 
-#include "base/Units.h"
-#include "loaders/SampleFinish.h"
-#include "loaders/SampleLog.h"
 #include "loaders/TecLine.h"
 
 namespace tarnview {
@@ -59,28 +56,22 @@ class Tec3Log : public SampleLog {
     TecFields<kRestOf164> restOf164(factors_);
     TecFields<kRestOf156> restOf156(factors_);
     SampleLines lines(FromFirstPoint(lines_, kSecondsPoint), context_, lineStep);
-    for (std::string_view line; lines.Next(line);) {
-      if (line.size() != kShort && line.size() != kLong) continue;
-      const int row = store.AddRow();
-      store.Set(kSample, row, row + 1);
+    const auto fits = [](std::size_t length) { return length == kShort || length == kLong; };
+    ReadTecLines(lines, context_, factors_, fits, [&](std::string_view line, int row) {
       store.Set(kSecs, row, Seconds(line, row));
       fields.Read(line.data(), store, row);
       if (line.size() == kLong)
         restOf164.Read(line.data(), store, row);
       else
         restOf156.Read(line.data(), store, row);
-      LowerAirTemp(store(kATemp, row), factors_[kATemp], context_.log);
-    }
-    FillBoostAndVacuum(context_);
-    FillWithZero(kFuelPercentM, context_);
-    FindFirstPlotSample(context_);
+    });
   }
 
  private:
   /// A clock that stands still or jumps back goes on by one ten-thousandth; one that is lost (0) by the line frequency.
   std::int32_t Seconds(std::string_view line, int row) const {
     const SampleStore& store = context_.log.glngDataLog;
-    const std::int32_t seconds = RoundToLong(TecNumber(line.substr(0, kSecondsLength)) * kStoredPerSecond);
+    const std::int32_t seconds = TecTime(line.substr(0, kSecondsLength));
     if (row == 0 || seconds > store(kSecs, row - 1)) return seconds;
     if (seconds != 0) return RoundToLong(store(kSecs, row - 1) + 1.0);
     return RoundToLong(RoundPlaces(row / context_.settings.gdblDataLogLineFrequency, 4) * kStoredPerSecond);

@@ -5,8 +5,10 @@
 #include <string_view>
 #include <utility>
 
-#include "loaders/ShortNumber.h"
-#include "loaders/TextLines.h"
+#include "base/Units.h"
+#include "loaders/NumberShape.h"
+#include "loaders/SampleFinish.h"
+#include "loaders/SampleLog.h"
 #include "model/Column.h"
 #include "model/SampleStore.h"
 #include "model/clsLogDataItems.h"
@@ -40,12 +42,6 @@ inline TecFactors FactorsOf(const clsLogDataItems& items) {
   return factors;
 }
 
-/// The number of a field, always the one at its start: "1e3" is 1.
-inline double TecNumber(std::string_view text) {
-  double value;
-  return detail::ReadShortNumber(text, value) ? value : ValDouble(text);
-}
-
 /// What the rule makes of a field's text.
 inline std::int32_t TecValue(TecRule rule, std::string_view text, double factor) {
   switch (rule) {
@@ -54,15 +50,15 @@ inline std::int32_t TecValue(TecRule rule, std::string_view text, double factor)
     case TecRule::WholeFactored:
       return RoundToLong(StringToLong(text) * factor);
     case TecRule::Factored:
-      return RoundToLong(TecNumber(text) * factor);
+      return RoundToLong(ValDouble(text) * factor);
     case TecRule::Rounded:
-      return RoundToLong(TecNumber(text));
+      return RoundToLong(ValDouble(text));
     case TecRule::Tenths:
-      return RoundToLong(TecNumber(text) * 10);
+      return RoundToLong(ValDouble(text) * 10);
     case TecRule::Hundredths:
-      return RoundToLong(TecNumber(text) * 100);
+      return RoundToLong(ValDouble(text) * 100);
     case TecRule::Correction:
-      return RoundToLong(TecNumber(text) * 1000 + 1000);
+      return RoundToLong(ValDouble(text) * 1000 + 1000);
   }
   return 0;
 }
@@ -79,7 +75,7 @@ constexpr int ScaleOf(TecRule rule) {
 template <TecField F>
 std::int32_t ReadTecField(const char* line, const TecFactors& factors, LastNumber& last) {
   static_assert(F.at + F.length > static_cast<int>(kWordLength), "the eight characters before a field's end are read");
-  static_assert(F.length <= static_cast<int>(kWordLength));
+  static_assert(F.length < static_cast<int>(kWordLength));
   constexpr auto kLength = static_cast<std::size_t>(F.length);
   const char* const end = line + F.at - 1 + F.length;
   const TextWord word = WordBefore(end, kLength);
@@ -89,6 +85,14 @@ std::int32_t ReadTecField(const char* line, const TecFactors& factors, LastNumbe
     if (ShortNumber number; ReadWord(word, number)) return RoundToLong(number.Value() * factors[F.column]);
   }
   return TecValue(F.rule, {end - kLength, kLength}, factors[F.column]);
+}
+
+/// The time of a text of eight or nine characters, in ten-thousandths.
+inline std::int32_t TecTime(std::string_view text) {
+  ShortNumber number;
+  const bool fits = text.size() == kWordLength || text.front() == ' ';
+  if (fits && ReadWord(WordBefore(text.data() + text.size(), kWordLength), number)) return number.Stored(4);
+  return RoundToLong(ValDouble(text) * kStoredPerSecond);
 }
 
 /// The fields of a table, read into a row from a line that reaches behind the last of them.
@@ -108,6 +112,23 @@ class TecFields {
   const TecFactors& factors_;
   LastNumber last_[std::size(Fields)];
 };
+
+/// All samples: `read(line, row)` of each line whose length fits, and what follows from the others of its columns.
+template <class Fits, class Read>
+void ReadTecLines(SampleLines lines, const LoadContext& context, const TecFactors& factors, const Fits& fits,
+                  const Read& read) {
+  SampleStore& store = context.log.glngDataLog;
+  for (std::string_view line; lines.Next(line);) {
+    if (!fits(line.size())) continue;
+    const int row = store.AddRow();
+    store.Set(kSample, row, row + 1);
+    read(line, row);
+    LowerAirTemp(store(kATemp, row), factors[kATemp], context.log);
+  }
+  FillBoostAndVacuum(context);
+  FillWithZero(kFuelPercentM, context);
+  FindFirstPlotSample(context);
+}
 
 /// The second line says SECONDS, the third is longer than `blankAt` and has a blank there. Throws where not.
 void CheckTecHeading(TextLines lines, std::size_t blankAt);

@@ -1,12 +1,14 @@
 #include "loaders/UTECCSVLog.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <string>
 #include <vector>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "loaders/DelimitedLine.h"
+#include "loaders/FieldColumn.h"
 #include "loaders/SampleLog.h"
 #include "loaders/UTECSamples.h"
 
@@ -93,10 +95,13 @@ class UTECCSVLog : public SampleLog {
   Cells ReadRow();
   void FindColumns(const Cells& names, const Cells& subHeadings, const Cells& above);
   bool RepeatsHeading(std::string_view line) const;
-  void Store(const Known& field, DelimitedLine& line);
-  void StoreText(const Known& field, std::string_view text);
-  double AirFuelOf(std::string_view text);
-  double Ratio(double number) const { return *hundredths_ ? number / 100 : number; }
+  void StoreBlock(FieldIndex& block);
+  void StoreColumn(FieldIndex& block, std::size_t field, int first);
+  void StoreEachSample(FieldIndex& block, std::size_t field, int first);
+  void FindHundredths(const FieldIndex& block);
+  double NumberOf(UTECRule rule, std::string_view text) const;
+  double AirFuelOf(std::string_view text) const;
+  double Ratio(double number) const { return hundredths_.value_or(false) ? number / 100 : number; }
 
   const std::string_view bytes_;
   TextLines lines_;
@@ -152,19 +157,17 @@ bool UTECCSVLog::RepeatsHeading(std::string_view line) const {
 }
 
 void UTECCSVLog::ReadSamples(long lineStep) {
-  EndedLine ended(bytes_);
+  FieldIndex block(bytes_, kDelimiter, fields_.size());
   SampleLines lines(lines_, context_, lineStep);
   for (std::string_view line; lines.Next(line);) {
-    if (!HasFields(line, kDelimiter, fields_.size()) || RepeatsHeading(line)) continue;
-    samples_.Add();
-    DelimitedLine fields(ended(line), kDelimiter);
-    for (const Known& field : fields_) {
-      if (ShortNumber number; field.scale >= 0 && fields.TakeNumber(number))
-        samples_.SetStored(field.column, number.Stored(field.scale));
-      else
-        Store(field, fields);
+    if (block.Add(line) < fields_.size() || RepeatsHeading(line)) {
+      block.DropLast();
+      continue;
     }
+    samples_.Add();
+    if (block.Full()) StoreBlock(block);
   }
+  StoreBlock(block);
   const auto has = [this](Column column) {
     return std::any_of(fields_.begin(), fields_.end(),
                        [=](const Known& field) { return field.word && field.column == column; });
@@ -172,37 +175,80 @@ void UTECCSVLog::ReadSamples(long lineStep) {
   samples_.Finish(has(kSecs), has(kFuelPercentM));
 }
 
-void UTECCSVLog::Store(const Known& field, DelimitedLine& line) {
-  ShortNumber number;
-  const bool isRatio = field.word && field.word->rule == AirFuel;
-  if (!field.word || (isRatio && !hundredths_) || !line.TakeNumber(number)) return StoreText(field, line.TakeText());
-  samples_.Set(field.word->rule, field.column, isRatio ? Ratio(number.Value()) : number.Value());
+void UTECCSVLog::StoreBlock(FieldIndex& block) {
+  if (!hundredths_) FindHundredths(block);
+  const int first = context_.log.glngDataLog.Rows() - static_cast<int>(block.Lines());
+  for (std::size_t field = 0; field < fields_.size(); ++field) {
+    if (!fields_[field].word) continue;
+    const UTECRule rule = fields_[field].word->rule;
+    if (rule == GaugeMAP || rule == MAP || rule == ModifiedAdvance)
+      StoreEachSample(block, field, first);
+    else
+      StoreColumn(block, field, first);
+  }
+  block.Clear();
 }
 
-void UTECCSVLog::StoreText(const Known& field, std::string_view text) {
-  if (!field.word) return;
-  const UTECRule rule = field.word->rule;
-  if (rule == AirFuel)
-    samples_.SetAirFuel(AirFuelOf(Trim(text)));
-  else if (rule == ModifiedAdvance)
-    samples_.SetModifiedAdvance(text, StringToDouble(text));
-  else if (rule == CoolantTemp && Trim(text) == "<5")  // colder than it can tell
-    samples_.Set(rule, field.column, 5);
-  else if (rule == AirTemp && Trim(text) == "<1")
-    samples_.Set(rule, field.column, 1);
-  else
-    samples_.Set(rule, field.column, StringToDouble(text));
+/// `first`: the row of the block's first line.
+void UTECCSVLog::StoreColumn(FieldIndex& block, std::size_t field, int first) {
+  const Known& known = fields_[field];
+  const UTECRule rule = known.word->rule;
+  NumberShape shape;
+  BlockOf<std::int32_t> cells;
+  ReadColumn(block, field, cells, [&](FieldKey key, std::size_t line) {
+    ShortNumber number;
+    if (!shape.Read(key, number)) return samples_.Stored(rule, known.column, NumberOf(rule, block.Field(line, field)));
+    if (known.scale >= 0) return number.Stored(known.scale);
+    return samples_.Stored(rule, known.column, rule == AirFuel ? Ratio(number.Value()) : number.Value());
+  });
+  context_.log.glngDataLog.SetRows(known.column, first, {cells.data(), block.Lines()});
+}
+
+/// For a rule that looks at the sample's other columns.
+void UTECCSVLog::StoreEachSample(FieldIndex& block, std::size_t field, int first) {
+  constexpr double kECUs = std::numeric_limits<double>::quiet_NaN();  // no text is read as that
+  const Known& known = fields_[field];
+  const UTECRule rule = known.word->rule;
+  NumberShape shape;
+  BlockOf<double> numbers;
+  ReadColumn(block, field, numbers, [&](FieldKey key, std::size_t line) {
+    ShortNumber number;
+    if (shape.Read(key, number)) return number.Value();
+    const std::string_view text = block.Field(line, field);
+    return rule == ModifiedAdvance && IsECUs(text) ? kECUs : NumberOf(rule, text);
+  });
+  for (std::size_t line = 0; line < block.Lines(); ++line) {
+    samples_.Use(first + static_cast<int>(line));
+    if (std::isnan(numbers[line]))
+      samples_.KeepAdvance();
+    else
+      samples_.Set(rule, known.column, numbers[line]);
+  }
 }
 
 /// Ratios may be given as hundredths, without a point; the first number decides for the whole file.
-double UTECCSVLog::AirFuelOf(std::string_view text) {
+void UTECCSVLog::FindHundredths(const FieldIndex& block) {
+  for (std::size_t line = 0; line < block.Lines(); ++line)
+    for (std::size_t field = 0; field < fields_.size(); ++field) {
+      const std::string_view text = block.Field(line, field);
+      if (hundredths_ || !fields_[field].word || fields_[field].word->rule != AirFuel || !IsNumeric(text)) continue;
+      hundredths_ = text.find('.') == std::string_view::npos;
+    }
+}
+
+double UTECCSVLog::NumberOf(UTECRule rule, std::string_view text) const {
+  if (rule == AirFuel) return AirFuelOf(Trim(text));
+  if (rule == CoolantTemp && Trim(text) == "<5") return 5;  // colder than it can tell
+  if (rule == AirTemp && Trim(text) == "<1") return 1;
+  return StringToDouble(text);
+}
+
+double UTECCSVLog::AirFuelOf(std::string_view text) const {
   if (const auto ratio = AirFuelOfWord(text)) return *ratio;
   if (SameIgnoringCase(text, "W/B")) return 24.5;
   if (text == ">25:1") return 25;
   const double number = StringToDouble(text);
-  if (!IsNumeric(text)) return number;
-  if (!hundredths_) hundredths_ = text.find('.') == std::string_view::npos;
-  return Ratio(number);
+  return IsNumeric(text) ? Ratio(number) : number;
 }
 
 }  // namespace

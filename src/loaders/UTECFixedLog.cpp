@@ -184,7 +184,7 @@ void UTECFixedLog::Store(const Known& known, std::string_view line) {
     case AirFuel:
       return StoreAirFuel(text, line);
     case ModifiedAdvance:
-      return samples_.SetModifiedAdvance(text, StringToDouble(text));
+      return IsECUs(text) ? samples_.KeepAdvance() : samples_.Set(known.rule, known.column, StringToDouble(text));
     case CoolantTemp:
     case AirTemp:
       return samples_.Set(known.rule, known.column, StringToLong(text));

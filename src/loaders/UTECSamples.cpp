@@ -30,73 +30,65 @@ int UTECSamples::ScaleOf(UTECRule rule, Column column) const {
   return factor == 1 ? 0 : factor == 10 ? 1 : factor == 100 ? 2 : factor == 1000 ? 3 : -1;
 }
 
-void UTECSamples::Set(UTECRule rule, Column column, double number) {
+std::int32_t UTECSamples::Stored(UTECRule rule, Column column, double number) {
   constexpr double kFullDuty = 133;
+  constexpr double kCountsFrom = 100;  // kPa, whatever the atmosphere of the settings: kept on purpose
   switch (rule) {
     case UTECRule::Factored:
     case UTECRule::CoolantTemp:
     case UTECRule::AirFuel:
     case UTECRule::ModifiedAdvance:
-      return SetFactored(column, number);
+      return Factored(column, number);
     case UTECRule::Boost:
-      return store_.Set(column, row_, RoundToLong(number));
+      return RoundToLong(number);
     case UTECRule::Time:
-      return SetTime(number);
+      return Time(number);
     case UTECRule::GaugeMAP:
-      return SetGaugeMAP(number);
+      return Factored(column, number / kPsiPerKPa + context_.settings.gintDefaultAtmosphericPressure);
     case UTECRule::MAP:
-      return SetMAP(number);
+      return Factored(column, number / kPsiPerKPa + kCountsFrom);
     case UTECRule::AirTemp:
-      return SetAirTemp(number);
+      return AirTemp(number);
     case UTECRule::WastegateDuty:
-      return SetFactored(column, number / kFullDuty * 100);
+      return Factored(column, number / kFullDuty * 100);
     case UTECRule::InjectorDuty:
-      return SetFactored(column, std::min(number, 100.0));
+      return Factored(column, std::min(number, 100.0));
     case UTECRule::ModifiedFuel:
-      return store_.Set(column, row_, RoundToLong(factor_[column] * number + noModifiedFuel_));
+      return RoundToLong(factor_[column] * number + noModifiedFuel_);
   }
+  return 0;
 }
 
-void UTECSamples::SetBoostAndVacuum(std::int32_t boost, std::int32_t vacuum) {
-  store_.Set(kBoost, row_, boost);
-  store_.Set(kVacuum, row_, vacuum);
-}
-
-void UTECSamples::SetGaugeMAP(double psi) {
-  if (psi < 0)
-    SetBoostAndVacuum(0, RoundToLong(factor_[kVacuum] * std::fabs(psi) / kPsiPerKPa * kInHgPerKPa));
+void UTECSamples::Set(UTECRule rule, Column column, double number) {
+  const std::int32_t stored = Stored(rule, column, number);
+  store_.Set(column, row_, stored);
+  BoostOrVacuum found;
+  if (rule == UTECRule::MAP)
+    found = BoostOrVacuumOf(stored, atmosphere_);
+  else if (rule == UTECRule::GaugeMAP && number < 0)
+    found.vacuum = Factored(kVacuum, std::fabs(number) / kPsiPerKPa * kInHgPerKPa);
+  else if (rule == UTECRule::GaugeMAP)
+    found.boost = Factored(kBoost, number);
   else
-    SetBoostAndVacuum(RoundToLong(factor_[kBoost] * psi), 0);
-  SetFactored(kMAP, psi / kPsiPerKPa + context_.settings.gintDefaultAtmosphericPressure);
-}
-
-/// Such a log counts from 100 kPa, whatever the atmosphere of the settings: kept on purpose.
-void UTECSamples::SetMAP(double psi) {
-  constexpr double kCountsFrom = 100;
-  SetFactored(kMAP, psi / kPsiPerKPa + kCountsFrom);
-  const BoostOrVacuum found = BoostOrVacuumOf(store_(kMAP, row_), atmosphere_);
-  SetBoostAndVacuum(found.boost, found.vacuum);
+    return;
+  store_.Set(kBoost, row_, found.boost);
+  store_.Set(kVacuum, row_, found.vacuum);
 }
 
 void UTECSamples::KeepAirFuel() { store_.Set(kAF, row_, row_ > 0 ? store_(kAF, row_ - 1) : 0); }
 
-void UTECSamples::SetModifiedAdvance(std::string_view text, double number) {
-  if (text.find("ECU") != std::string_view::npos)
-    store_.Set(kIAdvM, row_, store_(kIAdv, row_));
-  else
-    SetFactored(kIAdvM, number);
-}
+void UTECSamples::KeepAdvance() { store_.Set(kIAdvM, row_, store_(kIAdv, row_)); }
 
-void UTECSamples::SetAirTemp(double degrees) {
-  SetFactored(kATemp, degrees);
+std::int32_t UTECSamples::AirTemp(double degrees) {
   std::int32_t& lowest = context_.log.glngLowestAirTemp;
   if (degrees < lowest) lowest = RoundToLong(degrees);
+  return Factored(kATemp, degrees);
 }
 
-void UTECSamples::SetTime(double count) {
+std::int32_t UTECSamples::Time(double count) {
   constexpr double kMicrosecondsPerCount = 500, kMicroseconds = 1000000;
   if (!firstTime_) firstTime_ = count;
-  store_.Set(kSecs, row_, RoundToLong(factor_[kSecs] * (count - *firstTime_) * kMicrosecondsPerCount / kMicroseconds));
+  return RoundToLong(factor_[kSecs] * (count - *firstTime_) * kMicrosecondsPerCount / kMicroseconds);
 }
 
 void UTECSamples::Finish(bool hasTime, bool hasModifiedFuel) {

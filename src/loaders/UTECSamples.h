@@ -31,27 +31,26 @@ class UTECSamples {
   explicit UTECSamples(const LoadContext& context);
 
   void Add();
+  /// The sample that the calls below are about; after Add it is the new one.
+  void Use(int row) { row_ = row; }
 
   /// For a rule that stores the number x 10^scale as it stands: the scale; -1 for any other.
   int ScaleOf(UTECRule rule, Column column) const;
-  void SetStored(Column column, std::int32_t stored) { store_.Set(column, row_, stored); }
-  /// Any rule but those below, which need more than a number.
+  /// Any rule; but a MAP sets more columns than its own, and the advance may be that of the ECU.
+  std::int32_t Stored(UTECRule rule, Column column, double number);
   void Set(UTECRule rule, Column column, double number);
   /// `ratio` as such: 14.7.
-  void SetAirFuel(double ratio) { SetFactored(kAF, ratio); }
+  void SetAirFuel(double ratio) { Set(UTECRule::AirFuel, kAF, ratio); }
   void KeepAirFuel();  ///< that of the sample before
-  void SetModifiedAdvance(std::string_view text, double number);
+  void KeepAdvance();  ///< modified as the ECU has it
 
   /// What follows once all samples are there. Without a time column a log runs at five lines a second.
   void Finish(bool hasTime, bool hasModifiedFuel);
 
  private:
-  void SetFactored(Column column, double value) { store_.Set(column, row_, RoundToLong(factor_[column] * value)); }
-  void SetBoostAndVacuum(std::int32_t boost, std::int32_t vacuum);
-  void SetGaugeMAP(double psi);
-  void SetMAP(double psi);
-  void SetAirTemp(double degrees);
-  void SetTime(double count);
+  std::int32_t Factored(Column column, double value) const { return RoundToLong(factor_[column] * value); }
+  std::int32_t AirTemp(double degrees);
+  std::int32_t Time(double count);
 
   const LoadContext& context_;
   SampleStore& store_;
@@ -61,6 +60,9 @@ class UTECSamples {
   int row_ = -1;
   std::optional<double> firstTime_;
 };
+
+/// Whether the UTEC passes the ECU's own figure on.
+inline bool IsECUs(std::string_view text) { return text.find("ECU") != std::string_view::npos; }
 
 /// The ratio of "RICH" and "LEAN", in any case; nothing for any other text.
 std::optional<double> AirFuelOfWord(std::string_view text);

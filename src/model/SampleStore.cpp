@@ -1,76 +1,91 @@
 #include "model/SampleStore.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <cstring>
-#include <new>
+#include <utility>
 
 namespace tarnview {
 namespace {
 
 constexpr int kFewestRows = 64;
 
-/// Large blocks start at the same place of a memory page. Loaders write a row through all columns, which would then
-/// fight for one set of the processor's cache; so each column starts a cache line (16 cells) behind its neighbour.
-constexpr std::size_t Stagger(int column) { return static_cast<std::size_t>(column) % 64 * 16; }
+/// Cells from one column's begin to the next one's. Loaders may write a row through all columns, which would fight for
+/// one set of the processor's cache if they began at the same place of a memory page (1024 cells); so each begins a
+/// cache line (16 cells) behind its neighbour.
+std::size_t Stride(int capacity) { return (static_cast<std::size_t>(capacity) + 1023) / 1024 * 1024 + 16; }
+
+LargeMemory MemoryFor(std::size_t columns, int capacity) {
+  return LargeMemory(columns * Stride(capacity) * sizeof(std::int32_t));
+}
 
 }  // namespace
 
-void SampleStore::Free::operator()(std::int32_t* cells) const { std::free(cells - stagger); }
-
 void SampleStore::Prepare(int columns, int expectedRows) {
-  columns_.clear();
-  columns_.resize(static_cast<std::size_t>(std::max(columns, 0)));
-  rows_ = 0;
   capacity_ = columns > 0 ? std::clamp(expectedRows, kFewestRows, kMostSamples) : 0;
+  columns_.assign(static_cast<std::size_t>(std::max(columns, 0)), nullptr);
+  memory_ = LargeMemory();  // the old one goes before the new one comes
+  memory_ = MemoryFor(columns_.size(), capacity_);
+  made_ = 0;
+  rows_ = 0;
 }
 
 void SampleStore::Make(int column) {
-  // Large zeroed blocks come from the system untouched: rows that are never written take no memory.
-  const std::size_t stagger = Stagger(column);
-  auto* block =
-      static_cast<std::int32_t*>(std::calloc(stagger + static_cast<std::size_t>(capacity_), sizeof(std::int32_t)));
-  if (!block) throw std::bad_alloc();
-  columns_[static_cast<std::size_t>(column)] = Cells(block + stagger, Free{stagger});
+  auto* const start = static_cast<std::int32_t*>(memory_.Data());
+  const std::size_t stride = Stride(capacity_);
+  columns_[static_cast<std::size_t>(column)] = start + made_ * stride;
+  ++made_;
+  // Most of these end within a large page, which cannot be had any more once a small one of it is in use: so it is
+  // asked for ahead of the next column, if no more than half of it may go to waste.
+  constexpr std::size_t kHalfOfLargePage = 1 << 20;
+  const std::size_t made = made_ * stride * sizeof(std::int32_t), all = columns_.size() * stride * sizeof(std::int32_t);
+  PreferLargePages(start, std::min(made + kHalfOfLargePage, all));
 }
 
 void SampleStore::Grow() {
-  const int larger = std::max(capacity_ + capacity_ / 8, kFewestRows);
+  const int larger = std::max(capacity_ + capacity_ / 2, kFewestRows);
   const int grown = capacity_ < kMostSamples ? std::min(larger, kMostSamples) : larger;
-  for (Cells& cells : columns_) {
+  LargeMemory memory = MemoryFor(columns_.size(), grown);
+  const auto* const old = static_cast<const std::int32_t*>(memory_.Data());
+  auto* const start = static_cast<std::int32_t*>(memory.Data());
+  PreferLargePages(start, made_ * Stride(grown) * sizeof(std::int32_t));
+  for (std::int32_t*& cells : columns_) {
     if (!cells) continue;
-    // realloc moves large blocks by remapping their pages, so that neither time nor memory is spent on a copy.
-    const Free free = cells.get_deleter();
-    void* block = std::realloc(cells.get() - free.stagger,
-                               (free.stagger + static_cast<std::size_t>(grown)) * sizeof(std::int32_t));
-    if (!block) throw std::bad_alloc();
-    (void)cells.release();
-    cells.reset(static_cast<std::int32_t*>(block) + free.stagger);
-    std::fill(cells.get() + capacity_, cells.get() + grown, 0);
+    const std::size_t place = static_cast<std::size_t>(cells - old) / Stride(capacity_);
+    cells = std::copy_n(cells, rows_, start + place * Stride(grown)) - rows_;
   }
+  memory_ = std::move(memory);
   capacity_ = grown;
 }
 
+void SampleStore::SetRows(int column, int first, std::span<const std::int32_t> values) {
+  std::int32_t*& cells = columns_[static_cast<std::size_t>(column)];
+  if (!cells) {
+    if (std::all_of(values.begin(), values.end(), [](std::int32_t value) { return value == 0; })) return;
+    Make(column);
+  }
+  std::copy(values.begin(), values.end(), cells + first);
+}
+
 void SampleStore::Fill(int column, int first, int end, std::int32_t value) {
-  auto& cells = columns_[static_cast<std::size_t>(column)];
+  std::int32_t*& cells = columns_[static_cast<std::size_t>(column)];
   if (first >= end || (!cells && value == 0)) return;
   if (!cells) Make(column);
-  std::fill(cells.get() + first, cells.get() + end, value);
+  std::fill(cells + first, cells + end, value);
 }
 
 std::span<const std::int32_t> SampleStore::Column(int column) const {
-  const auto& cells = columns_[static_cast<std::size_t>(column)];
-  return {cells.get(), cells ? static_cast<std::size_t>(rows_) : 0};
+  const std::int32_t* cells = columns_[static_cast<std::size_t>(column)];
+  return {cells, cells ? static_cast<std::size_t>(rows_) : 0};
 }
 
 std::span<std::int32_t> SampleStore::Writable(int column) {
-  auto& cells = columns_[static_cast<std::size_t>(column)];
+  std::int32_t*& cells = columns_[static_cast<std::size_t>(column)];
   if (!cells) Make(column);
-  return {cells.get(), static_cast<std::size_t>(rows_)};
+  return {cells, static_cast<std::size_t>(rows_)};
 }
 
 std::size_t SampleStore::DeliveredBytes() const {
-  const auto delivered = std::count_if(columns_.begin(), columns_.end(), [](const Cells& cells) { return !!cells; });
+  const auto delivered =
+      std::count_if(columns_.begin(), columns_.end(), [](const std::int32_t* cells) { return cells != nullptr; });
   return static_cast<std::size_t>(delivered) * static_cast<std::size_t>(rows_) * sizeof(std::int32_t);
 }
 

@@ -2,9 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <span>
 #include <vector>
+
+#include "base/LargeMemory.h"
 
 namespace tarnview {
 
@@ -31,7 +32,7 @@ class SampleStore {
   }
 
   std::int32_t operator()(int column, int row) const {
-    const auto& cells = columns_[static_cast<std::size_t>(column)];
+    const std::int32_t* cells = columns_[static_cast<std::size_t>(column)];
     return cells ? cells[static_cast<std::size_t>(row)] : 0;
   }
   void Set(int column, int row, std::int32_t value) {
@@ -43,6 +44,8 @@ class SampleStore {
     cells[static_cast<std::size_t>(row)] = value;
   }
 
+  /// Values of the rows from `first` on.
+  void SetRows(int column, int first, std::span<const std::int32_t> values);
   /// The same value in the rows from `first` to `end` - 1.
   void Fill(int column, int first, int end, std::int32_t value);
 
@@ -55,15 +58,12 @@ class SampleStore {
   std::size_t DeliveredBytes() const;
 
  private:
-  struct Free {
-    std::size_t stagger;  ///< cells between the start of the block and the first row
-    void operator()(std::int32_t* cells) const;
-  };
-  using Cells = std::unique_ptr<std::int32_t[], Free>;
   void Make(int column);
   void Grow();
 
-  std::vector<Cells> columns_;
+  LargeMemory memory_;
+  std::vector<std::int32_t*> columns_;  ///< where a column begins; nullptr for one that is not delivered
+  std::size_t made_ = 0;                ///< of the columns, one behind the other in the order of their making
   int rows_ = 0;
   int capacity_ = 0;
 };

@@ -22,9 +22,10 @@ class clsLogDataItem {
   int intType = kPlainItem;
   std::string strShortName;  ///< column heading and legend; up to 8 characters in the catalogue
   std::string strLongName;
-  int intKey = 0;        ///< rank in display order, from 1; the item's key in its collection is "k" + intKey
-  int intSeq = 0;        ///< position in the sample row, from 1: the item's column plus 1
-  double dblFactor = 1;  ///< counts for scaled items only
+  std::string strColumnTitles;  ///< of the columns of a Universal log that it is read from, "TitleA, TitleB"
+  int intKey = 0;               ///< rank in display order, from 1; the item's key in its collection is "k" + intKey
+  int intSeq = 0;               ///< position in the sample row, from 1: the item's column plus 1
+  double dblFactor = 1;         ///< counts for scaled items only
   std::vector<std::string> varDescList;
   bool blnDisplay = true;
   long lngLineWidth = 1;  ///< 1 to 5

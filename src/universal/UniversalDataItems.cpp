@@ -28,8 +28,6 @@ void TakeDisplay(clsLogDataItem& item, const clsDataLogColumn& column) {
 }
 
 void TakeColumn(clsLogDataItem& item, const clsDataLogColumn& column) {
-  item.strLongName = column.strDescription;
-  item.strShortName = column.strName;
   item.intType = column.lngType;
   TakeNumbers(item, column);
   TakeDisplay(item, column);
@@ -43,9 +41,13 @@ void TakeColumn(clsLogDataItem& item, const clsDataLogColumn& column) {
 clsLogDataItems GenerateLogDataItemsGeneric(const clsDataLog& objDefinition, const clsLogDataItems& catalogue) {
   clsLogDataItems items = catalogue.Duplicate();
   for (const clsDataLogColumn& column : objDefinition.objColumns) TakeColumn(items.Item(column.lngDataItemID), column);
-  for (int id = 1; id <= items.Count(); ++id)
+  for (int id = 1; id <= items.Count(); ++id) {
+    clsLogDataItem& item = items.Item(id);
+    bool found = false;
+    objDefinition.objColumns.DataItemDetails(id, item.strShortName, item.strLongName, found, item.strColumnTitles);
     if (IsDataItemInDataLogDefinition(id, objDefinition, catalogue))
-      items.Item(id).colApplicableLogFamilies.push_back(kUniversalLogFamily);
+      item.colApplicableLogFamilies.push_back(kUniversalLogFamily);
+  }
   return items;
 }
 

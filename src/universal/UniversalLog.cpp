@@ -117,9 +117,13 @@ class Load {
     const SampleStore& store = log_.glngDataLog;
     const clsLogDataItem& air = context_.items.Item(ItemOf(kATemp));
     const clsLogDataItem& coolant = context_.items.Item(ItemOf(kCTemp));
-    for (int row = 0; row < store.Rows() && header.Feeds(ItemOf(kATemp)); ++row)
-      log_.glngLowestAirTemp = std::min(log_.glngLowestAirTemp, RoundToLong(air.GetRawData(store(kATemp, row))));
-    for (int row = 0; row < store.Rows() && header.Feeds(ItemOf(kCTemp)) && log_.glngFirstPlotSample == -1; ++row)
+    if (header.Feeds(ItemOf(kATemp)) && store.Rows() > 0) {
+      const auto stored = store.Column(kATemp);
+      const std::int32_t lowest = stored.empty() ? 0 : *std::min_element(stored.begin(), stored.end());
+      log_.glngLowestAirTemp = std::min(log_.glngLowestAirTemp, RoundToLong(air.GetRawData(lowest)));
+    }
+    if (!header.Feeds(ItemOf(kCTemp))) return;
+    for (int row = 0; row < store.Rows() && log_.glngFirstPlotSample == -1; ++row)
       if (coolant.GetRawData(store(kCTemp, row)) >= context_.settings.gintPlotFromTemperature)
         log_.glngFirstPlotSample = row;
   }
@@ -141,10 +145,10 @@ class Load {
     }
     // Times never fall: one that would is a stored unit behind the one before.
     std::int32_t previous = 0;
-    for (int row = 0; row < store.Rows(); ++row) {
-      std::int32_t time = store(kSecs, row);
+    if (store.Column(kSecs).empty()) return;
+    for (std::int32_t& time : store.Writable(kSecs)) {
       if (time < previous) time = previous + (previous < std::numeric_limits<std::int32_t>::max());
-      store.Set(kSecs, row, previous = time);
+      previous = time;
     }
   }
 

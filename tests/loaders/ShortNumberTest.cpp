@@ -38,16 +38,5 @@ TEST(ShortNumber, ALongNumberBeyond32BitsIsStoredAs0) {
   EXPECT_EQ(number.Stored(2), 0);
 }
 
-TEST(ShortNumber, TheLastNumberIsRememberedByItsText) {
-  LastNumber last;
-  std::int32_t stored = -1;
-  for (const auto& [text, expected] :
-       {std::pair{"    12.5", 125}, {"    12.5", 125}, {"    1.25", 12}, {"      -7", -70}}) {
-    ASSERT_TRUE(last.Stored(WordBefore(text + 8, 8), 1, stored));
-    EXPECT_EQ(stored, expected);
-  }
-  EXPECT_FALSE(last.Stored(WordBefore("      1x" + 8, 8), 1, stored));
-}
-
 }  // namespace
 }  // namespace tarnview

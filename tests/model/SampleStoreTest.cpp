@@ -50,6 +50,19 @@ TEST(SampleStore, FillsAStretch) {
             (std::vector<std::int32_t>{0, 9, 0, 0, 0}));
 }
 
+TEST(SampleStore, RowsOfZerosMakeNoColumn) {
+  SampleStore store;
+  store.Prepare(2, 0);
+  for (int i = 0; i < 5; ++i) store.AddRow();
+  const std::int32_t zeros[] = {0, 0}, values[] = {7, 0, 9};
+  store.SetRows(0, 1, zeros);
+  EXPECT_TRUE(store.Column(0).empty());
+  store.SetRows(0, 2, values);
+  store.SetRows(0, 3, zeros);
+  EXPECT_EQ(std::vector<std::int32_t>(store.Column(0).begin(), store.Column(0).end()),
+            (std::vector<std::int32_t>{0, 0, 7, 0, 0}));
+}
+
 TEST(SampleStore, PrepareEmptiesIt) {
   SampleStore store;
   store.Prepare(2, 100);

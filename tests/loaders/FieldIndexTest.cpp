@@ -1,0 +1,90 @@
+// The fields of a block of lines: where they stand, their keys, and what is read of a column.
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <string>
+
+#include "base/Text.h"
+#include "loaders/FieldColumn.h"
+
+namespace tarnview {
+namespace {
+
+TEST(ByteMarks, BothWaysMarkTheSameBytes) {
+  std::mt19937 random(3);
+  for (int n = 0; n < 2000; ++n) {
+    char bytes[kMarkedBytes];
+    for (char& byte : bytes) byte = static_cast<char>(random() % 3 ? ',' + random() % 3 - 1 : random() % 256);
+    std::uint64_t wanted = 0;
+    for (std::size_t at = 0; at < kMarkedBytes; ++at) wanted |= std::uint64_t{bytes[at] == ','} << at;
+    ASSERT_EQ(MarksOf(bytes, ','), wanted);
+    ASSERT_EQ(detail::MarksByWords(bytes, ','), wanted);
+  }
+}
+
+TEST(FieldIndex, CutsLinesAsSplittingDoes) {
+  std::mt19937 random(11);
+  for (const int delimiter : {44, 9, 48, 0x80, 300}) {
+    std::string bytes;
+    for (int n = 0; n < 4000; ++n) {
+      const auto kind = random() % 8;
+      bytes += kind < 3 ? static_cast<char>(delimiter) : kind < 4 ? '\n' : static_cast<char>('a' + random() % 26);
+      if (random() % 300 == 0) bytes += std::string(100, 'x');
+    }
+    constexpr std::size_t kMost = 5;
+    FieldIndex block(bytes, delimiter, kMost);
+    for (std::string_view rest = bytes; !rest.empty();) {
+      const std::string_view line = rest.substr(0, rest.find('\n'));
+      rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+      auto wanted =
+          delimiter <= 255 || line.empty() ? Split(line, static_cast<char>(delimiter)) : std::vector{std::string(line)};
+      if (wanted.size() > kMost) wanted.resize(kMost);
+      ASSERT_EQ(block.Add(line), wanted.size()) << delimiter;
+      const std::size_t last = block.Lines() - 1;
+      for (std::size_t field = 0; field < wanted.size(); ++field) ASSERT_EQ(block.Field(last, field), wanted[field]);
+      if (random() % 4 == 0) block.DropLast();
+      if (block.Full()) block.Clear();
+    }
+  }
+}
+
+TEST(FieldIndex, FieldsOfOneKeyHaveOneText) {
+  std::mt19937 random(5);
+  constexpr std::string_view kCharacters{"01\0\3\7 .x\xFF", 9};
+  std::map<FieldKey, std::string> texts;
+  for (int n = 0; n < 50000; ++n) {
+    std::string text;
+    for (auto left = random() % 10; left > 0; --left) text += kCharacters[random() % kCharacters.size()];
+    const FieldKey key = KeyOfField((text + "12345678").data(), text.size());
+    ASSERT_NE(key, kNoField);
+    if (key == kOtherField) continue;
+    ASSERT_EQ(texts.emplace(key, text).first->second, text);
+  }
+}
+
+TEST(FieldColumn, ReadsEachTextAndMarksLinesWithoutTheField) {
+  const std::string bytes = "1,long text 1\n2,long text 2\n2\n3,\n";
+  FieldIndex block(bytes, ',', 2);
+  for (std::string_view rest = bytes; !rest.empty(); rest.remove_prefix(rest.find('\n') + 1))
+    block.Add(rest.substr(0, rest.find('\n')));
+  BlockOf<std::string> texts;
+  int asked = 0;
+  const auto read = [&](std::size_t field) {
+    asked = 0;
+    return ReadColumn(block, field, texts, [&](FieldKey key, std::size_t line) {
+      ++asked;
+      return key == kNoField ? "none" : std::string(block.Field(line, field));
+    });
+  };
+  EXPECT_FALSE(read(0));
+  EXPECT_EQ(std::vector(texts.begin(), texts.begin() + 4), (std::vector<std::string>{"1", "2", "2", "3"}));
+  EXPECT_EQ(asked, 3);
+  EXPECT_FALSE(read(1));
+  EXPECT_EQ(std::vector(texts.begin(), texts.begin() + 4),
+            (std::vector<std::string>{"long text 1", "long text 2", "none", ""}));
+}
+
+}  // namespace
+}  // namespace tarnview

@@ -1,0 +1,63 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+#include <string>
+
+#include "loaders/NumberShape.h"
+
+namespace tarnview {
+namespace {
+
+bool Read(NumberShape& shape, const std::string& field, ShortNumber& number) {
+  const std::string bytes = field + "5.599999";  // what stands behind the field must not count
+  return shape.Read(KeyOfField(bytes.data(), field.size()), number);
+}
+
+TEST(NumberShape, AgreesWithTheTolerantRoadWhateverItReadBefore) {
+  std::mt19937 random(7);
+  constexpr std::string_view kCharacters{"01234567890123456789012345678901234567890123456789..-+ (/:;e,\0\7", 63};
+  const auto character = [&] { return kCharacters[random() % kCharacters.size()]; };
+  NumberShape shape;
+  std::string field;
+  int quick = 0;
+  for (int n = 0; n < 400000; ++n) {
+    if (n % 4 == 0) {
+      field.clear();
+      for (auto left = 1 + random() % 8; left > 0; --left) field += character();
+    } else {
+      field[random() % field.size()] = character();  // much alike
+    }
+    ShortNumber number;
+    if (!Read(shape, field, number)) continue;
+    ++quick;
+    ASSERT_TRUE(IsNumeric(field)) << field;
+    ASSERT_EQ(number.Value(), StringToDouble(field)) << field;
+    const int scale = static_cast<int>(random() % 5);
+    ASSERT_EQ(number.Stored(scale), RoundToLong(StringToDouble(field) * std::pow(10, scale))) << field;
+  }
+  EXPECT_GT(quick, 100000);
+}
+
+TEST(NumberShape, PlainNumbersTakeTheQuickRoad) {
+  NumberShape shape;
+  ShortNumber number;
+  for (const char* field : {"0", "12", "-1.5", "12345678", "-1234567", "1234.678", ".5", "5.", "-.5", "+1", "  21.5"})
+    EXPECT_TRUE(Read(shape, field, number)) << field;
+  for (const char* field : {"-", ".", "-.", "1.2.3", "--1", "1-", "1 ", "- 1", "", "123456789"})
+    EXPECT_FALSE(Read(shape, field, number)) << field;
+}
+
+TEST(LastNumber, IsRememberedByItsText) {
+  LastNumber last;
+  std::int32_t stored = -1;
+  for (const auto& [text, expected] :
+       {std::pair{"    12.5", 125}, {"    12.5", 125}, {"    1.25", 12}, {"      -7", -70}}) {
+    ASSERT_TRUE(last.Stored(WordBefore(text + 8, 8), 1, stored));
+    EXPECT_EQ(stored, expected);
+  }
+  EXPECT_FALSE(last.Stored(WordBefore("      1x" + 8, 8), 1, stored));
+}
+
+}  // namespace
+}  // namespace tarnview
