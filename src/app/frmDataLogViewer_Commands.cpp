@@ -102,7 +102,8 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands()}) rows.insert(rows.end(), part.begin(), part.end());
+  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands()})
+    rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(
         {item.get(), "mnuRecentlyUsed_Click", [this, index = item->index] { OpenRecentlyUsedFile(index); }, {}});

@@ -104,7 +104,14 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
   LoadOutcome outcome = loader->load(
       *bytes, {log_, items, globals_.settings, globals_.tables, progress, &globals_.gclsDataLogDefinition});
   if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
-  for (const LoadMessage& message : outcome.messages) services_.messages.ShowMessage(message.id, false, message.extra);
+  for (const LoadMessage& message : outcome.messages) {
+    if (message.report.empty())
+      services_.messages.ShowMessage(message.id, false, message.extra);
+    else
+      services_.messages.ShowMessageWithOffer(
+          message.id, message.extra, "&Open Report",
+          [&programs = services_.programs, report = message.report] { programs.ShellOpen(report); });
+  }
   return outcome.loaded;
 }
 

@@ -28,7 +28,8 @@ const clsLogDataItems& frmDataLogViewer::ItemsOf(int fileType) const {
   return fileType == kUniversalLog ? globals_.catalogue.gcolUniversalDataItems : globals_.catalogue.gcolFixedDataItems;
 }
 
-/// Writes the report of unknown columns, which the message about a log with no known one names, and logs the faults.
+/// Writes the report of unknown columns, which the message about a log with no known one offers to open, and logs the
+/// faults.
 void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome& outcome) {
   std::string report;
   if (!outcome.unknownColumns.empty() && !globals_.gstrProgramFolder.empty())
@@ -37,8 +38,9 @@ void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome
   if (outcome.loaded) return;
   for (LoadMessage& message : outcome.messages) {
     services_.errors.LogError("modUniversal", "LoadGenericDataLog", RuntimeError(-message.id, message.extra), false);
-    if (message.id == kNoColumnsRecognised && !report.empty())
-      message.extra += "\r\n\r\nThe columns are listed in the report:\r\n" + report;
+    if (message.id != kNoColumnsRecognised || report.empty()) continue;
+    message.extra += "\r\n\r\nThe columns are listed in the report:\r\n" + report;
+    message.report = report;
   }
 }
 

@@ -201,12 +201,16 @@ Messages::Messages(Host& host, std::function<std::string(int)> fileTypeDescripti
     : host_(host), fileTypeDescription_(std::move(fileTypeDescription)) {}
 
 void Messages::ShowMessage(int id, bool nonModal, const std::string& extra) {
-  std::string text = Text(id);
-  if (!extra.empty()) text += "\r\n\r\n" + extra;
+  const std::string text = TextWith(id, extra);
   if (nonModal && ShowNonModal)
     ShowNonModal(id, text);
   else
     host_.Ask({id, text, Style(id), kApplicationTitle});
+}
+
+void Messages::ShowMessageWithOffer(int id, const std::string& extra, const std::string& offer,
+                                    std::function<void()> take) {
+  host_.Ask({id, TextWith(id, extra), Style(id), kApplicationTitle, offer, std::move(take)});
 }
 
 bool Messages::AskQuestion(int id, bool defaultNo) {
@@ -214,6 +218,10 @@ bool Messages::AskQuestion(int id, bool defaultNo) {
 }
 
 Reply Messages::Tell(const std::string& text, int style) { return host_.Ask({0, text, style, kApplicationTitle}); }
+
+std::string Messages::TextWith(int id, const std::string& extra) const {
+  return extra.empty() ? Text(id) : Text(id) + "\r\n\r\n" + extra;
+}
 
 std::string Messages::Text(int id) const {
   if (const Message* message = RowOf(kMessages, id)) return message->text;

@@ -18,6 +18,8 @@ class Messages {
   /// Shows a message in a box, or beside the program's own course where `nonModal`. `extra` (the bad item's name)
   /// follows behind an empty line.
   void ShowMessage(int id, bool nonModal = false, const std::string& extra = "");
+  /// The same in a box with one more button, "&Open Report" or the like.
+  void ShowMessageWithOffer(int id, const std::string& extra, const std::string& offer, std::function<void()> take);
   /// A question with Yes and No; true on Yes. `defaultNo`: Enter presses No.
   bool AskQuestion(int id, bool defaultNo = false);
   /// A box of the program that has no number.
@@ -32,6 +34,8 @@ class Messages {
   std::function<void(int id, const std::string& text)> ShowNonModal;
 
  private:
+  std::string TextWith(int id, const std::string& extra) const;
+
   Host& host_;
   std::function<std::string(int)> fileTypeDescription_;
 };

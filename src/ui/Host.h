@@ -30,6 +30,10 @@ struct Box {
   std::string text;
   int style = kBoxOk;
   std::string title;
+  /// One more button, for who can show it: what it says, and what it does once the box is gone. The box's own answer
+  /// is then that of Enter.
+  std::string offer = {};
+  std::function<void()> takeOffer = {};
 
   /// The button that Enter presses.
   Reply DefaultReply() const;

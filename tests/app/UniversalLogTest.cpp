@@ -29,6 +29,7 @@ TEST_F(UniversalLogs, ALogIsReadThroughTheDefinitionOfTheSettings) {
   EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal - Test Log)");
   EXPECT_EQ(Log().FormatDataItem(3, 1), "2000");
   EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).texts[0], "Revs");
+  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).toolTip, "Data log column(s): Revs");
   EXPECT_EQ(Main().lvwSampleDetails.RowOfTag("5"), 0);
   EXPECT_NE(files.files[std::string("/car/") + kUnknownColumnsFile].find("Unknown Columns:\r\nOther\r\n"),
             std::string::npos);
@@ -43,11 +44,15 @@ TEST_F(UniversalLogs, ALogOfUnknownColumnsNamesTheReport) {
   EXPECT_EQ(host.messages[0].text,
             "Error loading data log - no columns recognised:\r\n\r\na,b\r\n\r\n"
             "The columns are listed in the report:\r\n/car/Universal Load Unknown Columns.txt");
+  EXPECT_EQ(host.messages[0].offer, "&Open Report");
+  host.messages[0].takeOffer();
+  EXPECT_EQ(processes.opened, std::vector<std::string>{"/car/Universal Load Unknown Columns.txt"});
   // Without a folder to write to there is no report, and the message says no more than the line.
   Start();
   host.messages.clear();
   Main().LoadDataFile("/run.csv", kUniversalLog);
   EXPECT_EQ(host.messages[0].id, 90);
+  EXPECT_EQ(host.messages[0].offer, "");
 }
 
 TEST_F(UniversalLogs, ADefinitionThatIsMissingOrBadIsToldAndTheBuiltInOneServes) {

@@ -81,6 +81,22 @@ TEST(QtHostTest, BoxesAnswerWithTheirButtons) {
   }
 }
 
+TEST(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
+  TestApplication();
+  for (const bool take : {true, false}) {
+    QTimer::singleShot(0, [&] {
+      QWidget* const box = QApplication::activeModalWidget();
+      if (!take) return QTest::keyClick(box, Qt::Key_Escape);
+      for (auto* button : box->findChildren<QPushButton*>())
+        if (button->text() == "&Open Report") button->click();
+    });
+    QtHost host;
+    int taken = 0;
+    EXPECT_EQ(host.Ask({83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}), Reply::Ok);
+    EXPECT_EQ(taken, take);
+  }
+}
+
 TEST(DialogsTest, FiltersTakeTheToolkitsForm) {
   EXPECT_EQ(ToNameFilters("Logs (*.txt)|*.txt;*.csv|All|*.*"), (QStringList{"Logs (*.txt *.csv)", "All (*)"}));
   EXPECT_EQ(ToNameFilters(""), QStringList());

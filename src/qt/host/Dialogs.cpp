@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -98,7 +99,14 @@ Reply AskInBox(const Box& box, QWidget* parent) {
   for (const Answered& row : kAnswers)
     if (row.reply == box.DefaultReply()) shown.setDefaultButton(row.button);
   if ((box.style & 7) == kBoxYesNo) shown.setEscapeButton(QMessageBox::No);
+  const QAbstractButton* offer =
+      box.offer.empty() ? nullptr : shown.addButton(ToQt(box.offer), QMessageBox::ActionRole);
+  if (offer && (box.style & 7) == kBoxOk) shown.setEscapeButton(QMessageBox::Ok);
   const int pressed = shown.exec();
+  if (offer && shown.clickedButton() == offer) {
+    box.takeOffer();
+    return box.DefaultReply();
+  }
   for (const Answered& row : kAnswers)
     if (row.button == pressed) return row.reply;
   return Reply::Cancel;
