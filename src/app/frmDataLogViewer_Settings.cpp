@@ -24,6 +24,7 @@ void frmDataLogViewer::TakeSettings() {
   txtYMax.Enabled = updYMax.Enabled = false;
   chkFixY.Value = settings.gblnFixGraphMax;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
+  fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
   for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
     const auto [fileType, path] = RecentFiles::ParseTag(*entry);
     const int known =

@@ -6,6 +6,7 @@ namespace tarnview {
 namespace {
 
 constexpr const char* kHelpTopic = "ScatterGraph";
+constexpr int kPictureNotFound = 18;
 /// To be seen on all three backdrops.
 constexpr PointStyle kFirstStyle{0, 4, 0xC06000};
 /// Between two windows that open on each other, so that the caption of the lower one shows; in twips, 24 pixels.
@@ -81,6 +82,7 @@ std::vector<Command> frmScatterGraph::CommandRows() {
 void frmScatterGraph::Form_Load() {
   ApplyPlacement(around_.settings.windows.scatterGraph, *this);
   MoveDown(Cascade);
+  ShowBackgroundPicture();
   SetCaption();
   RefreshDataItems();
   xAxis_.Choose(ItemOf(kRPM), around_.messages, true);
@@ -98,6 +100,13 @@ void frmScatterGraph::Form_Load() {
 void frmScatterGraph::MoveDown(int steps) {
   Left += steps * kCascadeStep;
   Top += steps * kCascadeStep;
+}
+
+void frmScatterGraph::ShowBackgroundPicture() {
+  const std::string& picture = around_.settings.gstrAlternativeBackgroundPicture;
+  fraPicture.BackgroundPicture = picture;
+  const bool quiet = initialPreset_ > 0;
+  if (!quiet && !picture.empty() && !around_.files.FileExists(picture)) around_.messages.ShowMessage(kPictureNotFound);
 }
 
 void frmScatterGraph::Form_Unload() {

@@ -102,6 +102,7 @@ class frmScatterGraph : public ScatterWindowControls {
   int Family() const { return around_.kinds.gcolLogFamilies.FirstLogFamily(FileType()); }
   void SetCaption();
   void MoveDown(int steps);
+  void ShowBackgroundPicture();
   void Recolour();
 
   void SelectPreset(const clsScatterGraphPreset& preset);

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -241,6 +242,23 @@ TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {
   EXPECT_EQ(form_.chSampleGraph.SelectedSeries(), 3);
   EXPECT_EQ(form_.chSampleGraph.SelectedPoint(), 2);
   EXPECT_EQ(rightClicks, 1);
+}
+
+TEST_F(BinderTest, AFrameHasAPictureBehindIt) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath("red.png");
+  QImage red(8, 8, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  ASSERT_TRUE(red.save(path));
+  auto& frame = Find<QWidget>("fraPicture");
+  const auto foot = [&] { return frame.grab().toImage().pixelColor(frame.width() / 2, frame.height() - 8); };
+  const QColor bare = foot();
+  form_.fraPicture.BackgroundPicture = path.toStdString();
+  Settle();
+  EXPECT_LT(foot().green(), bare.green() - 50);
+  form_.fraPicture.BackgroundPicture = std::string("/gone.png");
+  Settle();
+  EXPECT_EQ(foot(), bare);
 }
 
 TEST_F(BinderTest, ATimerRunsOnlyWhileItIsEnabled) {

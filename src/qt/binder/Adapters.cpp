@@ -5,6 +5,7 @@
 #include "qt/binder/BarAdapters.h"
 #include "qt/binder/ButtonAdapters.h"
 #include "qt/binder/ChartAdapter.h"
+#include "qt/binder/FrameAdapter.h"
 #include "qt/binder/ListViewAdapter.h"
 #include "qt/binder/MenuAdapters.h"
 #include "qt/binder/PictureAdapter.h"

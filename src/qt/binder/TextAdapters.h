@@ -41,12 +41,6 @@ class GroupBoxAdapter : public Adapter {
   QGroupBox& view_;
 };
 
-/// A frame without a caption: it shows whether it can be used and seen.
-class FrameAdapter : public Adapter {
- public:
-  FrameAdapter(Frame& frame, QWidget& view, Binder& binder) : Adapter(frame, &view, binder) {}
-};
-
 class LineEditAdapter : public Adapter {
  public:
   LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder);
