@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 #include "base/Numbers.h"
 #include "model/Column.h"
@@ -36,9 +35,14 @@ double GraphMouse::TimeOf(std::int32_t index) const {
 
 /// The sample nearest to a time. Where the log's times run backwards somewhere, it is one of the log's all the same.
 std::int32_t GraphMouse::IndexAt(double x) const {
-  const auto rows = std::views::iota(log_.glngFirstSample, log_.glngLastSample + 1);
-  const auto found = std::ranges::lower_bound(rows, x, {}, [this](std::int32_t index) { return TimeOf(index); });
-  const std::int32_t index = found == rows.end() ? log_.glngLastSample : *found;
+  std::int32_t index = log_.glngFirstSample, end = log_.glngLastSample;
+  while (index < end) {
+    const std::int32_t middle = index + (end - index) / 2;
+    if (TimeOf(middle) < x)
+      index = middle + 1;
+    else
+      end = middle;
+  }
   if (index == log_.glngFirstSample) return index;
   return std::abs(TimeOf(index) - x) < std::abs(x - TimeOf(index - 1)) ? index : index - 1;
 }

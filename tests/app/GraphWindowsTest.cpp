@@ -4,8 +4,8 @@
 #include "samplegraph/frmNewPresetName.h"
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "scatter/frmPresetScatterDetails.h"
-#include "support/ModalHost.h"
 #include "support/ProgramFixture.h"
+#include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
@@ -41,7 +41,7 @@ class GraphWindows : public ProgramFixture {
     Main().mnuViewGoto.Do({"click", {}});
   }
 
-  ModalHost desk;
+  RecordingHost desk;
 };
 
 constexpr const char* kPresets =

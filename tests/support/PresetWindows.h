@@ -8,8 +8,8 @@
 #include "samplegraph/PresetExchange.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "support/ModalHost.h"
 #include "support/RecordingProcesses.h"
+#include "ui/RecordingHost.h"
 
 namespace tarnview {
 
@@ -27,7 +27,7 @@ class PresetWindowsTest : public ::testing::Test {
     return ids;
   }
 
-  ModalHost host;
+  RecordingHost host;
   MemoryFileSystem files;
   FixedClock clock;
   RecordingProcesses processes;
