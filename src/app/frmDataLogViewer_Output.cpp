@@ -1,13 +1,9 @@
 // What the main window hands out of its graph: on paper, on the clipboard, as a picture.
 
 #include "app/frmDataLogViewer.h"
+#include "model/Column.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kSampleItem = 1, kSecondsItem = 63;
-
-}  // namespace
 
 std::vector<Command> frmDataLogViewer::OutputCommands() {
   const auto drawn = [this] { return drawn_; };
@@ -30,8 +26,8 @@ PrintDetails frmDataLogViewer::DetailsToPrint() const {
   const std::int32_t first = plot_.lngPlotFirstIndex, last = plot_.lngPlotLastIndex;
   return {" Sample Graph",
           {{"File", log_.gstrCurrentFile},
-           {"Sample Range From", text(kSampleItem, first) + " to " + text(kSampleItem, last)},
-           {"Time Range From", text(kSecondsItem, first) + " secs to " + text(kSecondsItem, last) + " secs"}}};
+           {"Sample Range From", text(ItemOf(kSample), first) + " to " + text(ItemOf(kSample), last)},
+           {"Time Range From", text(ItemOf(kSecs), first) + " secs to " + text(ItemOf(kSecs), last) + " secs"}}};
 }
 
 }  // namespace tarnview

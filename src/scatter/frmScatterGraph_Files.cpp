@@ -7,6 +7,7 @@
 #include "scatter/frmScatterGraph.h"
 
 namespace tarnview {
+
 void frmScatterGraph::PopulatePresets(bool selectLast) {
   const int selected = lvwPresets.SelectedRow();
   const ListView::Row before = selected > 0 ? lvwPresets.At(selected) : ListView::Row{};
