@@ -25,13 +25,14 @@ bool FirstRun::GenerateINIFile(const std::string& path) {
   Choice choice{};
   if (!Ask(choice)) return false;
   const std::string from = TemplateOf(path, choice.fileType);
-  auto text = services_.files.Read(from);
-  if (!text) {
+  const auto bytes = services_.files.Read(from);
+  if (!bytes) {
     services_.messages.ShowMessage(kNoTemplate);
     return true;
   }
-  FillIn(*text, choice);
-  if (!services_.files.Write(path, *text)) services_.messages.ShowMessage(kNotWritten);
+  std::string text(*bytes);
+  FillIn(text, choice);
+  if (!services_.files.Write(path, text)) services_.messages.ShowMessage(kNotWritten);
   return true;
 }
 

@@ -139,7 +139,8 @@ IniTable SettingsFile::ReadTable() {
     return {};
   }
   constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of UTF-8, as some editors put it in front
-  const std::string_view lines = text->starts_with(kMark) ? std::string_view(*text).substr(kMark.size()) : *text;
+  std::string_view lines = *text;
+  if (lines.starts_with(kMark)) lines.remove_prefix(kMark.size());
   if (IsIniText(lines)) return ReadINIFileToArray(lines);
   SetAside(path);
   return {};

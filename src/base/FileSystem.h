@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/FileBytes.h"
+
 namespace tarnview {
 
 /// The disk. Paths are the platform's bytes. Nothing here throws; a failure is false or nothing.
@@ -17,7 +19,7 @@ class FileSystem {
   virtual bool FileExists(const std::string& path) = 0;
   virtual bool FolderExists(const std::string& path) = 0;
   /// The whole file; nothing for a folder, a pipe or device, or a file that cannot be read.
-  virtual std::optional<std::string> Read(const std::string& path) = 0;
+  virtual std::optional<FileBytes> Read(const std::string& path) = 0;
   /// Writes a new file beside the old one and renames it, so that at every moment the old or the new one is whole.
   virtual bool Write(const std::string& path, std::string_view bytes) = 0;
   virtual bool Append(const std::string& path, std::string_view bytes) = 0;
@@ -35,7 +37,7 @@ class RealFileSystem : public FileSystem {
  public:
   bool FileExists(const std::string& path) override;
   bool FolderExists(const std::string& path) override;
-  std::optional<std::string> Read(const std::string& path) override;
+  std::optional<FileBytes> Read(const std::string& path) override;
   bool Write(const std::string& path, std::string_view bytes) override;
   bool Append(const std::string& path, std::string_view bytes) override;
   bool DeleteFile(const std::string& path) override;

@@ -11,7 +11,6 @@
 #include <utility>
 
 #include "base/FileSystem.h"
-#include "base/LargeMemory.h"
 #include "base/Paths.h"
 
 namespace tarnview {
@@ -59,23 +58,17 @@ bool WriteAll(int file, std::string_view bytes) {
   return true;
 }
 
-/// Reads on to the end of the file, though it has grown. A string clears what it grows by: by steps that stay in the
-/// processor's cache until the file's bytes replace them.
-bool ReadAll(int file, std::string& bytes, std::size_t expected) {
-  constexpr std::size_t kStep = 1 << 18, kMore = 4096;
-  std::size_t filled = 0;
-  bytes.reserve(expected + kMore);
-  PreferLargePages(bytes.data(), bytes.capacity());
+/// Reads on to the end of the file, though it has grown.
+bool ReadAll(int file, FileBytes& bytes, std::size_t expected) {
+  constexpr std::size_t kMore = 4096;
+  bytes.Reserve(expected + kMore);
   for (;;) {
-    bytes.resize(filled + (filled < expected ? std::min(kStep, expected - filled) : kMore));
-    const ssize_t got = ::read(file, &bytes[filled], bytes.size() - filled);
+    if (bytes.Room() == 0) bytes.Reserve(std::string_view(bytes).size() * 2);
+    const ssize_t got = ::read(file, bytes.End(), bytes.Room());
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return false;
-    if (got == 0) break;
-    filled += static_cast<std::size_t>(got);
+    if (got <= 0) return got == 0;
+    bytes.Add(static_cast<std::size_t>(got));
   }
-  bytes.resize(filled);
-  return true;
 }
 
 /// Where a path leads, links followed, so that a new file takes the place of the old one and not of a link to it.
@@ -106,13 +99,13 @@ void FlushFolderOf(const std::string& path) {
 
 }  // namespace
 
-std::optional<std::string> RealFileSystem::Read(const std::string& path) {
+std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
   if (!IsRegular(path)) return std::nullopt;
   const Descriptor file(OpenRegular(path, O_RDONLY));
   struct stat facts;
   if (!file || ::fstat(file(), &facts) != 0 || facts.st_size > kMostBytes) return std::nullopt;
   try {
-    std::string bytes;
+    FileBytes bytes;
     if (!ReadAll(file(), bytes, static_cast<std::size_t>(facts.st_size))) return std::nullopt;
     return bytes;
   } catch (const std::exception&) {  // a file larger than the memory

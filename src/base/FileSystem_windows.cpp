@@ -58,17 +58,16 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
   return true;
 }
 
-bool ReadAll(HANDLE file, std::string& bytes) {
-  std::size_t filled = 0;
-  while (filled < bytes.size()) {
+bool ReadAll(HANDLE file, FileBytes& bytes, std::size_t size) {
+  bytes.Reserve(size);
+  while (bytes.Room() > 0) {
     DWORD got = 0;
-    const std::size_t left = bytes.size() - filled;
-    if (!ReadFile(file, &bytes[filled], static_cast<DWORD>(left < kMostAtOnce ? left : kMostAtOnce), &got, nullptr))
+    const std::size_t left = bytes.Room();
+    if (!ReadFile(file, bytes.End(), static_cast<DWORD>(left < kMostAtOnce ? left : kMostAtOnce), &got, nullptr))
       return false;
     if (got == 0) break;
-    filled += got;
+    bytes.Add(got);
   }
-  bytes.resize(filled);
   return true;
 }
 
@@ -79,15 +78,15 @@ bool FillNewFile(const std::string& path, std::string_view bytes) {
 
 }  // namespace
 
-std::optional<std::string> RealFileSystem::Read(const std::string& path) {
+std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
   const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
   LARGE_INTEGER size;
   if (!file || GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size) || size.QuadPart > kMostBytes)
     return std::nullopt;
   try {
-    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
-    if (!ReadAll(file(), bytes)) return std::nullopt;
+    FileBytes bytes;
+    if (!ReadAll(file(), bytes, static_cast<std::size_t>(size.QuadPart))) return std::nullopt;
     return bytes;
   } catch (const std::exception&) {  // a file larger than the memory
     return std::nullopt;

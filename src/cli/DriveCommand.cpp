@@ -21,8 +21,8 @@ int Drive(const DriveOptions& options) {
   std::string text;
   if (options.script == "-") {
     text.assign(std::istreambuf_iterator<char>(std::cin), {});
-  } else if (auto bytes = RealFileSystem().Read(options.script)) {
-    text = std::move(*bytes);
+  } else if (const auto bytes = RealFileSystem().Read(options.script)) {
+    text = std::string_view(*bytes);
   } else {
     std::fprintf(stderr, "tarnview-cli: cannot read %s\n", options.script.c_str());
     return kWrongCommandLine;

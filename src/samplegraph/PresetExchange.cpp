@@ -56,7 +56,7 @@ void PresetExchange::Save(const std::function<std::string(bool blnWriteFamily, c
     around_.messages.ShowMessage(kWriteFailed);
 }
 
-void PresetExchange::Load(const std::function<void(const std::string& bytes)>& take) {
+void PresetExchange::Load(const std::function<void(std::string_view bytes)>& take) {
   Dialog dialog = DialogFor(DialogKind::Open, "Load");
   if (!window_.host.Choose(dialog)) return;
   lastFile_ = dialog.path;

@@ -44,7 +44,7 @@ class PresetExchange {
   /// Asks about the log family and for the file, and writes the text.
   void Save(const std::function<std::string(bool blnWriteFamily, const Moment& now)>& text);
   /// Asks for the file and hands its bytes over; an error in it is told.
-  void Load(const std::function<void(const std::string& bytes)>& take);
+  void Load(const std::function<void(std::string_view bytes)>& take);
   /// Whether a preset of that family (0: of any) is to be taken although another one is selected.
   bool AgreesToFamily(int lngLogFamily, int selected);
   /// Tells which numbers of a file are no items of the family; an empty text tells nothing.

@@ -35,7 +35,7 @@ void frmPresetSampleDetails::BindControls() {
   txtYMax.LostFocus = [this] { ApplyFixedGraphMax(); };
   lvwDataItems.DblClick = [this](int row) { lvwDataItems.SetChecked(row, !lvwDataItems.At(row).checked); };
   cmdSave.Click = [this] { cmdSave_Click(); };
-  cmdLoad.Click = [this] { exchange_.Load([this](const std::string& bytes) { LoadPreset(bytes); }); };
+  cmdLoad.Click = [this] { exchange_.Load([this](std::string_view bytes) { LoadPreset(bytes); }); };
   cmdOK.Click = [this] {
     if (!ValidateControls()) return;
     preset_ = CreatePresetSampleGraphObject();
@@ -105,7 +105,7 @@ void frmPresetSampleDetails::cmdSave_Click() {
   });
 }
 
-void frmPresetSampleDetails::LoadPreset(const std::string& bytes) {
+void frmPresetSampleDetails::LoadPreset(std::string_view bytes) {
   auto preset = ReadSampleGraphPresetFile(bytes);
   if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily, Family())) return;
   preset->lngLogFamily = Family();

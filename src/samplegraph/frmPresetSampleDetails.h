@@ -51,7 +51,7 @@ class frmPresetSampleDetails : public Form {
   clsSampleGraphPreset CreatePresetSampleGraphObject() const;
   int Family() const { return cboLogFamily.ListIndex() + 1; }
   void cmdSave_Click();
-  void LoadPreset(const std::string& bytes);
+  void LoadPreset(std::string_view bytes);
   void TickItems(const clsSampleGraphPreset& preset);
 
   PresetSurroundings around_;

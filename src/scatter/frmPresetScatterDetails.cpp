@@ -15,7 +15,7 @@ frmPresetScatterDetails::frmPresetScatterDetails(Host& itsHost, const PresetSurr
   cboLogFamily.SetList(around_.families.Descriptions());
   cboLogFamily.Click = [this] { ListItems(); };
   cmdSave.Click = [this] { cmdSave_Click(); };
-  cmdLoad.Click = [this] { exchange_.Load([this](const std::string& bytes) { LoadPreset(bytes); }); };
+  cmdLoad.Click = [this] { exchange_.Load([this](std::string_view bytes) { LoadPreset(bytes); }); };
   cmdOK.Click = [this] {
     if (!exchange_.HasName()) return;
     preset_ = CreatePresetScatterGraphObject();
@@ -74,7 +74,7 @@ void frmPresetScatterDetails::cmdSave_Click() {
   });
 }
 
-void frmPresetScatterDetails::LoadPreset(const std::string& bytes) {
+void frmPresetScatterDetails::LoadPreset(std::string_view bytes) {
   auto preset = ReadScatterGraphPresetFile(bytes, ItemsOfFamily(around_.catalogue, Family()));
   if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily, Family())) return;
   preset->lngLogFamily = Family();

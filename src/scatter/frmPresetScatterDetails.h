@@ -66,7 +66,7 @@ class frmPresetScatterDetails : public Form {
   void ShowPreset(const clsScatterGraphPreset& preset);
   clsScatterGraphPreset CreatePresetScatterGraphObject() const;
   void cmdSave_Click();
-  void LoadPreset(const std::string& bytes);
+  void LoadPreset(std::string_view bytes);
   void TakeWhatFits(clsScatterGraphPreset& preset);
 
   PresetSurroundings around_;

@@ -60,7 +60,8 @@ TEST_F(ChartOutputTest, AFailureIsToldAndLogged) {
   ASSERT_EQ(host.messages.size(), 2u);
   EXPECT_EQ(host.messages[0].text, "Problem saving the picture /out/a.png.\r\n\r\nThe disk is full.");
   EXPECT_EQ(host.messages[1].text, "Problem printing the graph.\r\n\r\nThe disk is full.");
-  EXPECT_NE(files.Read("/car/error.log").value_or("").find("The disk is full."), std::string::npos);
+  EXPECT_NE(std::string_view(files.Read("/car/error.log").value_or("")).find("The disk is full."),
+            std::string_view::npos);
 }
 
 }  // namespace

@@ -33,11 +33,11 @@ class MemoryFileSystem : public FileSystem {
     Note("folder", path);
     return IsFolder(path);
   }
-  std::optional<std::string> Read(const std::string& path) override {
+  std::optional<FileBytes> Read(const std::string& path) override {
     Note("read", path);
     const auto found = files.find(path);
     if (failReads || broken.contains(path) || found == files.end()) return std::nullopt;
-    return found->second;
+    return FileBytes(found->second);
   }
   bool Write(const std::string& path, std::string_view bytes) override {
     Note("write", path);
