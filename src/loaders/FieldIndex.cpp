@@ -1,5 +1,7 @@
 #include "loaders/FieldIndex.h"
 
+#include "loaders/WideSteps.h"
+
 namespace tarnview {
 namespace {
 
@@ -19,7 +21,7 @@ FieldIndex::FieldIndex(std::string_view bytes, std::int32_t delimiter, std::size
   lines_.reserve(mostLines_);
 }
 
-std::size_t FieldIndex::Add(std::string_view line) {
+TARNVIEW_WIDE_STEPS std::size_t FieldIndex::Add(std::string_view line) {
   const auto begin = static_cast<std::size_t>(line.data() - bytes_.data());
   const char* text = line.data();
   if (bytes_.size() - begin - line.size() < kStep) {  // a step looks beyond the line

@@ -10,10 +10,10 @@ namespace tarnview {
 /// A field of 1 to 8 characters as one word: the last character in the highest byte, and in the lowest one, where that
 /// is free, the length. Fields of the same key have the same text.
 using FieldKey = std::uint64_t;
-// Keys of no text: the lowest byte of all others is a length or a character from ' ' on.
+// Keys of no text: the lowest byte of all others is a length up to 7 or a character from ' ' on.
 inline constexpr FieldKey kEmptyField = 0;
-inline constexpr FieldKey kNoField = 0x100;     ///< the line has no such field
-inline constexpr FieldKey kOtherField = 0x200;  ///< any text that has no key of its own
+inline constexpr FieldKey kNoField = 9;      ///< the line has no such field
+inline constexpr FieldKey kOtherField = 10;  ///< any text that has no key of its own
 
 /// kWordLength bytes must be there to read at `text`, whatever the length.
 inline FieldKey KeyOfField(const char* text, std::size_t length) {

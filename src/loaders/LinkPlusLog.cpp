@@ -7,7 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "base/Units.h"
-#include "loaders/FieldColumn.h"
+#include "loaders/NumberColumn.h"
 #include "loaders/SampleFinish.h"
 #include "loaders/SampleLog.h"
 #include "model/Column.h"
@@ -129,6 +129,7 @@ class LinkPlusLog : public SampleLog {
   SampleStore& store_;
   const double airTempFactor_;
   const Marks lambda_, idle_;
+  NumberColumn numbers_;                ///< of the field that is read
   std::vector<const Heading*> fields_;  ///< nullptr for a field that is passed over
 };
 
@@ -169,28 +170,20 @@ void LinkPlusLog::StoreBlock(FieldIndex& block) {
 
 /// `first`: the row of the block's first line.
 void LinkPlusLog::StoreColumn(FieldIndex& block, std::size_t field, const Heading& heading, int first) {
-  const int scale = ScaleOf(heading.rule);
-  NumberShape shape;
   BlockOf<std::int32_t> cells;
-  ReadColumn(block, field, cells, [&](FieldKey key, std::size_t line) {
-    ShortNumber number;
-    return scale >= 0 && shape.Read(key, number) ? number.Stored(scale) : Stored(heading, block.Field(line, field));
-  });
+  if (const int scale = ScaleOf(heading.rule); scale >= 0) {
+    numbers_.Read(block, field, [&](std::size_t line) { return StringToDouble(block.Field(line, field)); });
+    numbers_.Stored(scale, cells);
+  } else {
+    ReadColumn(block, field, cells, [&](std::size_t line) { return Stored(heading, block.Field(line, field)); });
+  }
   store_.SetRows(heading.column, first, {cells.data(), block.Lines()});
   if (heading.rule == Rule::Count || heading.rule == Rule::Seconds) StoreTime(heading.rule, first);
 }
 
+/// By a rule that does not scale a number.
 std::int32_t LinkPlusLog::Stored(const Heading& heading, std::string_view text) const {
   switch (heading.rule) {
-    case Rule::Count:
-    case Rule::Whole:
-      return StringToLong(text);
-    case Rule::Tenths:
-      return RoundToLong(StringToDouble(text) * 10);
-    case Rule::Hundredths:
-      return RoundToLong(StringToDouble(text) * 100);
-    case Rule::Seconds:
-      return RoundToLong(StringToDouble(text) * kStoredPerSecond);
     case Rule::AirTemp: {
       const std::int32_t stored = RoundToLong(StringToDouble(text) * airTempFactor_);
       LowerAirTemp(stored, airTempFactor_, context_.log);
@@ -204,8 +197,9 @@ std::int32_t LinkPlusLog::Stored(const Heading& heading, std::string_view text) 
       return text == "On";
     case Rule::Throttle:
       return text == "On" || text == "Open";
+    default:
+      return 0;
   }
-  return 0;
 }
 
 /// What the samples from `first` on still lack of number and time.

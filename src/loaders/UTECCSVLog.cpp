@@ -8,7 +8,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "loaders/FieldColumn.h"
+#include "loaders/NumberColumn.h"
 #include "loaders/SampleLog.h"
 #include "loaders/UTECSamples.h"
 
@@ -57,6 +57,7 @@ constexpr Word kWords[] = {
     {"WG", kAny, kWGPercent, WastegateDuty},
 };
 constexpr char kDelimiter = ',';
+constexpr double kECUs = std::numeric_limits<double>::quiet_NaN();  ///< the ECU's own figure; no text is read as that
 constexpr std::size_t kFewestColumns = 3;
 constexpr SampleLogKind kUTECCSVLog{.wrongFile = 59, .fewestSamples = 4};
 
@@ -101,12 +102,14 @@ class UTECCSVLog : public SampleLog {
   void FindHundredths(const FieldIndex& block);
   double NumberOf(UTECRule rule, std::string_view text) const;
   double AirFuelOf(std::string_view text) const;
-  double Ratio(double number) const { return hundredths_.value_or(false) ? number / 100 : number; }
+  void Read(FieldIndex& block, std::size_t field);
+  void ReadNumbers(FieldIndex& block, std::size_t field, BlockOf<double>& numbers);
 
   const std::string_view bytes_;
   TextLines lines_;
   const LoadContext& context_;
   UTECSamples samples_;
+  NumberColumn numbers_;  ///< of the field that is read
   std::vector<std::string_view> headingRows_;
   std::vector<Known> fields_;
   std::optional<bool> hundredths_;  ///< how ratios are given; the first one tells
@@ -192,37 +195,45 @@ void UTECCSVLog::StoreBlock(FieldIndex& block) {
 /// `first`: the row of the block's first line.
 void UTECCSVLog::StoreColumn(FieldIndex& block, std::size_t field, int first) {
   const Known& known = fields_[field];
-  const UTECRule rule = known.word->rule;
-  NumberShape shape;
   BlockOf<std::int32_t> cells;
-  ReadColumn(block, field, cells, [&](FieldKey key, std::size_t line) {
-    ShortNumber number;
-    if (!shape.Read(key, number)) return samples_.Stored(rule, known.column, NumberOf(rule, block.Field(line, field)));
-    if (known.scale >= 0) return number.Stored(known.scale);
-    return samples_.Stored(rule, known.column, rule == AirFuel ? Ratio(number.Value()) : number.Value());
-  });
+  if (known.scale >= 0) {
+    Read(block, field);
+    numbers_.Stored(known.scale, cells);
+  } else {
+    BlockOf<double> numbers;
+    ReadNumbers(block, field, numbers);
+    for (std::size_t line = 0; line < block.Lines(); ++line)
+      cells[line] = samples_.Stored(known.word->rule, known.column, numbers[line]);
+  }
   context_.log.glngDataLog.SetRows(known.column, first, {cells.data(), block.Lines()});
 }
 
 /// For a rule that looks at the sample's other columns.
 void UTECCSVLog::StoreEachSample(FieldIndex& block, std::size_t field, int first) {
-  constexpr double kECUs = std::numeric_limits<double>::quiet_NaN();  // no text is read as that
   const Known& known = fields_[field];
-  const UTECRule rule = known.word->rule;
-  NumberShape shape;
   BlockOf<double> numbers;
-  ReadColumn(block, field, numbers, [&](FieldKey key, std::size_t line) {
-    ShortNumber number;
-    if (shape.Read(key, number)) return number.Value();
-    const std::string_view text = block.Field(line, field);
-    return rule == ModifiedAdvance && IsECUs(text) ? kECUs : NumberOf(rule, text);
-  });
+  ReadNumbers(block, field, numbers);
   for (std::size_t line = 0; line < block.Lines(); ++line) {
     samples_.Use(first + static_cast<int>(line));
     if (std::isnan(numbers[line]))
       samples_.KeepAdvance();
     else
-      samples_.Set(rule, known.column, numbers[line]);
+      samples_.Set(known.word->rule, known.column, numbers[line]);
+  }
+}
+
+void UTECCSVLog::Read(FieldIndex& block, std::size_t field) {
+  const UTECRule rule = fields_[field].word->rule;
+  numbers_.Read(block, field, [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
+}
+
+void UTECCSVLog::ReadNumbers(FieldIndex& block, std::size_t field, BlockOf<double>& numbers) {
+  const UTECRule rule = fields_[field].word->rule;
+  if (rule == AirFuel && hundredths_.value_or(false)) {
+    ReadColumn(block, field, numbers, [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
+  } else {
+    Read(block, field);
+    numbers_.Values(block.Lines(), numbers);
   }
 }
 
@@ -238,6 +249,7 @@ void UTECCSVLog::FindHundredths(const FieldIndex& block) {
 
 double UTECCSVLog::NumberOf(UTECRule rule, std::string_view text) const {
   if (rule == AirFuel) return AirFuelOf(Trim(text));
+  if (rule == ModifiedAdvance && IsECUs(text)) return kECUs;
   if (rule == CoolantTemp && Trim(text) == "<5") return 5;  // colder than it can tell
   if (rule == AirTemp && Trim(text) == "<1") return 1;
   return StringToDouble(text);
@@ -248,7 +260,7 @@ double UTECCSVLog::AirFuelOf(std::string_view text) const {
   if (SameIgnoringCase(text, "W/B")) return 24.5;
   if (text == ">25:1") return 25;
   const double number = StringToDouble(text);
-  return IsNumeric(text) ? Ratio(number) : number;
+  return hundredths_.value_or(false) && IsNumeric(text) ? number / 100 : number;
 }
 
 }  // namespace

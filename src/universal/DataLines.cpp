@@ -1,8 +1,10 @@
 #include "universal/DataLines.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Numbers.h"
+#include "loaders/WideSteps.h"
 
 namespace tarnview {
 namespace {
@@ -19,10 +21,10 @@ inline std::int32_t StoredInteger(double stored) {
 
 // Each of these is one plain loop over the rows of a block, which the compiler turns into steps of several rows.
 
-/// The values that a target makes of numbers.
-void Convert(const FieldTarget& target, const double* numbers, double* values, std::size_t rows) {
+/// Numbers to the values that a target makes of them.
+void Convert(const FieldTarget& target, double* values, std::size_t rows) {
   const double before = target.before, factor = target.factor, after = target.after;
-  for (std::size_t row = 0; row < rows; ++row) values[row] = (numbers[row] + before) * factor + after;
+  for (std::size_t row = 0; row < rows; ++row) values[row] = (values[row] + before) * factor + after;
 }
 
 void Store(const FieldTarget& target, const double* values, std::int32_t* cells, std::size_t rows) {
@@ -74,25 +76,21 @@ void DataLines::Flush() {
 
 /// `first` is the row of the first line that is gathered.
 void DataLines::FlushField(std::size_t field, int first) {
-  const std::size_t lines = block_.Lines();
-  Numbers numbers;
-  bool alike = false;         // all of them
-  Kind read = Kind::Nothing;  // what `numbers` holds: the targets of a field mostly read it alike
+  bool read = false;
   for (const FieldTarget& target : header_.Targets(static_cast<int>(field))) {
-    if (target.kind != read && target.kind == Kind::Number) alike = ReadNumbers(field, numbers);
-    if (target.kind != read && target.kind == Kind::Date) alike = ReadMoments(field, numbers);
-    read = target.kind;
     Cells cells;
-    if (target.bounded || field >= block_.FewestFields()) TakeCells(target.column, first, cells);
-    if (target.kind == Kind::Value) {
-      StoreValues(target, field, cells);
-    } else if (alike && !target.bounded) {
-      StoreNumbers(target, field, numbers, 1, cells);
-      std::fill_n(cells.begin(), lines, cells[0]);
-    } else {
-      StoreNumbers(target, field, numbers, lines, cells);
+    if (target.bounded || Ragged(field)) TakeCells(target.column, first, cells);
+    if (target.kind == Kind::Value) StoreListed(target, field, cells);
+    if (target.kind == Kind::Number) {
+      if (!std::exchange(read, true)) ReadNumbers(field);
+      StoreNumbers(target, field, cells);
     }
-    store_.SetRows(target.column, first, {cells.data(), lines});
+    if (target.kind == Kind::Date) {
+      Numbers moments;
+      ReadMoments(field, moments);
+      StoreValues(target, field, moments, block_.Lines(), cells);
+    }
+    store_.SetRows(target.column, first, {cells.data(), block_.Lines()});
   }
 }
 
@@ -103,11 +101,25 @@ void DataLines::TakeCells(int column, int first, Cells& cells) const {
     std::copy_n(delivered.data() + first, block_.Lines(), cells.data());
 }
 
-void DataLines::StoreNumbers(const FieldTarget& target, std::size_t field, const Numbers& numbers, std::size_t rows,
-                             Cells& cells) const {
+void DataLines::StoreNumbers(const FieldTarget& target, std::size_t field, Cells& cells) const {
+  const std::size_t lines = block_.Lines();
+  if (target.tens && !Ragged(field)) {
+    numbers_.Stored(*target.tens, cells);
+    for (std::size_t line = 0; line < lines; ++line) cells[line] = std::max(cells[line], 0);
+    return;
+  }
+  const bool once = numbers_.Alike() && !target.bounded;
   Numbers values;
-  Convert(target, numbers.data(), values.data(), rows);
-  if (!target.bounded && field < block_.FewestFields()) return Store(target, values.data(), cells.data(), rows);
+  numbers_.Values(once ? 1 : lines, values);
+  StoreValues(target, field, values, once ? 1 : lines, cells);
+  if (once) std::fill_n(cells.begin(), lines, cells[0]);
+}
+
+/// Converts `values` as well.
+TARNVIEW_WIDE_STEPS void DataLines::StoreValues(const FieldTarget& target, std::size_t field, Numbers& values,
+                                                std::size_t rows, Cells& cells) const {
+  Convert(target, values.data(), rows);
+  if (!target.bounded && !Ragged(field)) return Store(target, values.data(), cells.data(), rows);
 
   BlockOf<bool> kept;
   for (std::size_t row = 0; row < rows; ++row) kept[row] = block_.Fields(row) > field;
@@ -117,24 +129,20 @@ void DataLines::StoreNumbers(const FieldTarget& target, std::size_t field, const
   for (std::size_t row = 0; row < rows; ++row) cells[row] = kept[row] ? stored[row] : cells[row];
 }
 
-/// Both of these tell whether all lines have one number.
-bool DataLines::ReadNumbers(std::size_t field, Numbers& numbers) {
-  NumberShape shape;
-  return ReadColumn(block_, field, numbers, [&](FieldKey key, std::size_t line) {
-    ShortNumber number;
-    if (shape.Read(key, number)) return number.Value();
-    return key == kNoField ? 0 : ValDouble(block_.Field(line, field));
+void DataLines::ReadNumbers(std::size_t field) {
+  numbers_.Read(block_, field, [&](std::size_t line) {
+    return block_.Fields(line) > field ? ValDouble(block_.Field(line, field)) : 0;
   });
 }
 
-bool DataLines::ReadMoments(std::size_t field, Numbers& numbers) {
-  return ReadColumn(block_, field, numbers, [&](FieldKey key, std::size_t line) {
-    const auto moment = key == kNoField ? std::nullopt : ParseFieldMoment(block_.Field(line, field));
+void DataLines::ReadMoments(std::size_t field, Numbers& moments) {
+  ReadColumn(block_, field, moments, [&](std::size_t line) {
+    const auto moment = block_.Fields(line) > field ? ParseFieldMoment(block_.Field(line, field)) : std::nullopt;
     return moment ? moment->Since(*firstMoment_) : 0;
   });
 }
 
-void DataLines::StoreValues(const FieldTarget& target, std::size_t field, Cells& cells) const {
+void DataLines::StoreListed(const FieldTarget& target, std::size_t field, Cells& cells) const {
   for (std::size_t row = 0; row < block_.Lines(); ++row)
     if (block_.Fields(row) > field) cells[row] = (*target.values)(block_.Field(row, field));
 }

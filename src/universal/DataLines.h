@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "loaders/FieldColumn.h"
+#include "loaders/NumberColumn.h"
 #include "model/SampleStore.h"
 #include "universal/FieldDate.h"
 #include "universal/HeaderMap.h"
@@ -31,15 +31,18 @@ class DataLines {
   void FindFirstMoment();
   void FlushField(std::size_t field, int first);
   void TakeCells(int column, int first, Cells& cells) const;
-  bool ReadNumbers(std::size_t field, Numbers& numbers);
-  bool ReadMoments(std::size_t field, Numbers& numbers);
-  void StoreNumbers(const FieldTarget& target, std::size_t field, const Numbers& numbers, std::size_t rows,
-                    Cells& cells) const;
-  void StoreValues(const FieldTarget& target, std::size_t field, Cells& cells) const;
+  void ReadNumbers(std::size_t field);
+  void ReadMoments(std::size_t field, Numbers& moments);
+  void StoreNumbers(const FieldTarget& target, std::size_t field, Cells& cells) const;
+  void StoreValues(const FieldTarget& target, std::size_t field, Numbers& values, std::size_t rows, Cells& cells) const;
+  void StoreListed(const FieldTarget& target, std::size_t field, Cells& cells) const;
+  /// A line of the block lacks the field.
+  bool Ragged(std::size_t field) const { return field >= block_.FewestFields(); }
 
   const HeaderMap& header_;
   SampleStore& store_;
   FieldIndex block_;
+  NumberColumn numbers_;  ///< of the field that is read
   bool anyDate_ = false;
   std::optional<FieldMoment> firstMoment_;  ///< of the log, whichever column it stands in
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/Column.h"
 
@@ -11,6 +12,13 @@ namespace {
 
 /// Not even an overflowing value reaches it from within.
 constexpr double kBeyond = std::numeric_limits<double>::infinity();
+
+/// The power of ten that a factor is, up to the fourth.
+std::optional<int> TensOf(double factor) {
+  for (int tens = 0; tens <= 4; ++tens)
+    if (factor == PowerOfTen(tens)) return tens;
+  return std::nullopt;
+}
 
 }  // namespace
 
@@ -44,6 +52,8 @@ FieldTarget::FieldTarget(const clsDataLogColumn& it)
       storedOffset(it.Scale() * it.dblOffset) {
   (it.blnConversionFactorFirst ? after : before) = it.dblConversionOffset;
   if (it.lngType == kNumericColumn) kind = it.lngConversionType == kDateAndTime ? Kind::Date : Kind::Number;
+  if (kind == Kind::Number && !bounded && factor == 1 && before == 0 && after == 0 && storedOffset == 0)
+    tens = TensOf(scale);
   if (it.lngType != kValueListColumn) return;
   kind = Kind::Value;
   values = std::make_shared<ValueLookup>(*it.objColumnValues);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,6 +39,7 @@ struct FieldTarget {
   bool bounded, setToMin, setToMax;
   double min, max;                      ///< beyond everything where they are not set
   double scale, storedOffset;           ///< a value is stored as value x scale + storedOffset
+  std::optional<int> tens;              ///< where all of that comes to number x 10^tens
   std::shared_ptr<ValueLookup> values;  ///< of a column of values
 };
 

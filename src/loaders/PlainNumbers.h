@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "loaders/FieldKey.h"
+
+namespace tarnview {
+
+/// A number is plain when it is digits with at most one point, behind blanks or a minus. A logger writes a quantity
+/// with the same number of decimals throughout, so the points of a column, seen from the fields' ends, stand in one
+/// place, and several such numbers are read in one go.
+class PlainNumbers {
+ public:
+  static constexpr std::size_t kAtOnce = 4;
+
+  /// Numbers of the look of two samples: whose point stands where that of the first or else of the second does, and
+  /// that have blanks or a minus in front only if one of them has.
+  PlainNumbers(FieldKey first, FieldKey second);
+
+  /// Of them behind the point.
+  int Places() const { return places_; }
+  /// The digits of `count` keys (1 to 64) as whole numbers; also 0 for a text without any. Keys are read, and `digits`
+  /// written, up to the next kAtOnce. Gives a bit for each key that is no such number, and whose digits are void.
+  std::uint64_t Read(const FieldKey* keys, std::size_t count, std::int32_t* digits) const;
+
+ private:
+  int places_ = 0;
+  bool leads_;                                   ///< something may stand in front
+  FieldKey looks_ = detail::kEachByte * '0';     ///< eight digits 0, with the point
+  FieldKey most_ = detail::kEachByte * 9;        ///< that a byte may differ from it
+  FieldKey weights_ = detail::kEachByte;         ///< what a byte counts that does not differ more
+  FieldKey before_ = 0, behind_ = ~FieldKey{0};  ///< the point's own byte is in neither
+  std::uint32_t point_ = 0;                      ///< what the point counts beyond a digit
+};
+
+}  // namespace tarnview
