@@ -58,7 +58,9 @@ void Load(benchmark::State& state, const LogFile& file, Loader load) {
 
 void Reporter::ReportRuns(const std::vector<Run>& runs) {
   ConsoleReporter::ReportRuns(runs);
-  for (const Run& run : runs) milliseconds[run.run_name.function_name] = run.GetAdjustedCPUTime();
+  for (const Run& run : runs)
+    if (run.run_type == Run::RT_Iteration || run.aggregate_name == "median")
+      milliseconds[run.run_name.function_name] = run.GetAdjustedCPUTime();
 }
 
 }  // namespace tarnview::bench

@@ -1,5 +1,8 @@
 #include "loaders/FieldIndex.h"
 
+#include <algorithm>
+#include <bit>
+
 #include "loaders/WideSteps.h"
 
 namespace tarnview {
@@ -15,63 +18,59 @@ FieldIndex::FieldIndex(std::string_view bytes, std::int32_t delimiter, std::size
       delimits_(delimiter <= 255),
       delimiter_(static_cast<char>(delimiter)),
       most_(most),
-      mostLines_(std::clamp(kMostFieldsGathered / std::max<std::size_t>(most, 1), std::size_t{1}, kMostLines)) {
-  // The last step of a line may find that many more than are wanted.
+      rowLength_(most + 1),
+      mostLines_(std::clamp(kMostFieldsGathered / rowLength_, std::size_t{1}, kMostLines)) {
+  // The last step of a line may find that many more than are wanted; the next line overwrites them.
   keys_.resize((most + kStep + 1) * mostLines_);
-  lines_.reserve(mostLines_);
+  ends_.resize(rowLength_ * mostLines_ + kStep + 1);
 }
 
 TARNVIEW_WIDE_STEPS std::size_t FieldIndex::Add(std::string_view line) {
   const auto begin = static_cast<std::size_t>(line.data() - bytes_.data());
+  const std::size_t length = line.size(), toNextKey = mostLines_, most = most_;
   const char* text = line.data();
-  if (bytes_.size() - begin - line.size() < kStep) {  // a step looks beyond the line
-    padded_ = line;
-    padded_.append(kStep, '\0');
-    text = padded_.data();
+  if (begin < kWordLength || bytes_.size() - begin - length < kStep) {  // a key is read from before it, a step beyond
+    padded_.assign(kWordLength, '\0').append(line).append(kStep, '\0');
+    text = padded_.data() + kWordLength;
   }
-  const std::size_t room = used_ + std::min(line.size(), most_) + kStep + 2;
-  if (starts_.size() < room) starts_.resize(room + room / 2);
-  std::uint32_t* const starts = starts_.data() + used_;
-  std::uint32_t* start = starts;
-  FieldKey* key = keys_.data() + lines_.size();
-  const std::size_t toNextKey = mostLines_;
-  std::size_t at = 0;
-  *start = static_cast<std::uint32_t>(begin);
-  const auto endField = [&](std::size_t end) {
-    *key = KeyOfField(text + at, end - at);
+  std::uint32_t* end = ends_.data() + lines_ * rowLength_;
+  const std::uint32_t* const enough = end + most;
+  FieldKey* key = keys_.data() + lines_;
+  begins_[lines_] = static_cast<std::uint32_t>(begin);
+  std::uint32_t last = *end = kBeforeLine;
+  const auto endField = [&](std::uint32_t at) {
+    *key = KeyOfField(text + at, at - last);
     key += toNextKey;
-    at = end + 1;
-    *++start = static_cast<std::uint32_t>(begin + at);
+    last = *++end = at;
   };
-  const auto count = [&] { return static_cast<std::size_t>(start - starts); };
-  for (std::size_t step = 0; step < line.size() && delimits_ && count() < most_; step += kStep) {
-    std::uint64_t marks = MarksOf(text + step, delimiter_);
-    if (line.size() - step < kStep) marks &= (std::uint64_t{1} << (line.size() - step)) - 1;
-    for (; marks; marks &= marks - 1) endField(step + static_cast<std::size_t>(std::countr_zero(marks)));
+  const char delimiter = delimiter_;
+  for (std::size_t step = 0; step < length && delimits_ && end < enough; step += kStep) {
+    std::uint64_t marks = MarksOf(text + step, delimiter);
+    if (length - step < kStep) marks &= (std::uint64_t{1} << (length - step)) - 1;
+    for (; marks; marks &= marks - 1)
+      endField(static_cast<std::uint32_t>(step) + static_cast<std::uint32_t>(std::countr_zero(marks)));
   }
-  if (count() < most_ && !line.empty()) endField(line.size());
-  const std::size_t fields = std::min(count(), most_);
-  fewestFields_ = lines_.empty() ? fields : std::min(fewestFields_, fields);
+  if (end < enough && length > 0) endField(static_cast<std::uint32_t>(length));
+  return Count(static_cast<std::size_t>(std::min<const std::uint32_t*>(end, enough) - (enough - most)));
+}
+
+/// One more line has so many fields.
+std::size_t FieldIndex::Count(std::size_t fields) {
+  fewestFields_ = lines_ == 0 ? fields : std::min(fewestFields_, fields);
   mostFields_ = std::max(mostFields_, fields);
-  lines_.push_back({used_, fields});
-  used_ += fields + 1;
-  return fields;
+  return fields_[lines_++] = fields;
 }
 
 void FieldIndex::DropLast() {
-  used_ = lines_.back().first;
-  lines_.pop_back();
-}
-
-void FieldIndex::Clear() {
-  lines_.clear();
-  used_ = mostFields_ = 0;
+  const std::size_t left = lines_ - 1;
+  Clear();
+  while (lines_ < left) Count(fields_[lines_]);
 }
 
 const FieldKey* FieldIndex::Keys(std::size_t field) {
   FieldKey* const keys = keys_.data() + field * mostLines_;
-  for (std::size_t line = 0; field >= fewestFields_ && line < lines_.size(); ++line)
-    if (lines_[line].fields <= field) keys[line] = kNoField;
+  for (std::size_t line = 0; field >= fewestFields_ && line < lines_; ++line)
+    if (fields_[line] <= field) keys[line] = kNoField;
   return keys;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <algorithm>
-#include <bit>
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,36 +24,36 @@ class FieldIndex {
   /// A line of `bytes`; returns its number of fields. An empty line has none.
   std::size_t Add(std::string_view line);
   void DropLast();
-  bool Full() const { return lines_.size() == mostLines_; }
-  void Clear();
+  bool Full() const { return lines_ == mostLines_; }
+  void Clear() { lines_ = mostFields_ = fewestFields_ = 0; }
 
-  std::size_t Lines() const { return lines_.size(); }
-  std::size_t Fields(std::size_t line) const { return lines_[line].fields; }
-  std::size_t MostFields() const { return mostFields_; }  ///< of a line
-  /// No line has fewer.
-  std::size_t FewestFields() const { return fewestFields_; }
+  std::size_t Lines() const { return lines_; }
+  std::size_t Fields(std::size_t line) const { return fields_[line]; }
+  std::size_t MostFields() const { return mostFields_; }      ///< of a line
+  std::size_t FewestFields() const { return fewestFields_; }  ///< no line has fewer
   std::string_view Field(std::size_t line, std::size_t field) const {
-    const std::uint32_t* start = starts_.data() + lines_[line].first + field;
-    return {bytes_.data() + start[0], start[1] - start[0] - 1};
+    const std::uint32_t* before = ends_.data() + line * rowLength_ + field;
+    const std::uint32_t start = before[0] + 1;
+    return {bytes_.data() + begins_[line] + start, before[1] - start};
   }
   /// The keys of a field in all lines, kNoField where a line has none.
   const FieldKey* Keys(std::size_t field);
 
  private:
   static constexpr std::size_t kStep = kMarkedBytes;
+  static constexpr std::uint32_t kBeforeLine = ~std::uint32_t{0};  ///< where a field before the first would end
 
-  struct Line {
-    std::size_t first;  ///< of its starts
-    std::size_t fields;
-  };
+  std::size_t Count(std::size_t fields);
+
   const std::string_view bytes_;
   const bool delimits_;
   const char delimiter_;
-  const std::size_t most_, mostLines_;
-  std::vector<Line> lines_;
-  std::vector<std::uint32_t> starts_;  ///< of each field, and at a line's end where the next field would start
-  std::vector<FieldKey> keys_;         ///< column by column, mostLines_ of each
-  std::size_t used_ = 0;               ///< of starts_
+  const std::size_t most_, rowLength_, mostLines_;
+  std::size_t lines_ = 0;
+  std::array<std::size_t, kMostLines> fields_;     ///< of each line
+  std::array<std::uint32_t, kMostLines> begins_;   ///< of each line, in the bytes
+  std::vector<std::uint32_t> ends_;                ///< a row a line: kBeforeLine, and in the line the end of each field
+  std::vector<FieldKey> keys_;                     ///< column by column, mostLines_ of each
   std::size_t mostFields_ = 0, fewestFields_ = 0;  ///< of a line of the block
   std::string padded_;
 };

@@ -1,6 +1,7 @@
 #include "loaders/NumberColumn.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "loaders/WideSteps.h"
 
@@ -37,10 +38,8 @@ TARNVIEW_WIDE_STEPS void NumberColumn::Stored(int scale, BlockOf<std::int32_t>& 
   const std::size_t count = alike_ ? 1 : lines_;
   if (places_ <= scale) {  // a whole number as it stands
     const std::int32_t times = kTens[scale - places_], most = std::numeric_limits<std::int32_t>::max() / times;
-    for (std::size_t line = 0; line < count; ++line) {
-      const bool fits = (digits_[line] <= most) & (digits_[line] >= -most);
-      cells[line] = fits ? digits_[line] * times : 0;
-    }
+    for (std::size_t line = 0; line < count; ++line)
+      cells[line] = std::abs(digits_[line]) <= most ? digits_[line] * times : 0;
   } else {
     const double one = detail::kPowersOfTen[places_], times = kTens[scale];
     for (std::size_t line = 0; line < count; ++line)

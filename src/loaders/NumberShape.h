@@ -38,11 +38,11 @@ class NumberShape {
 
 inline bool NumberShape::Learn(FieldKey key) {
   *this = NumberShape();
-  const std::uint64_t length = key & 0xFF;
-  const bool full = length >= kWordLength;
-  std::uint64_t looks = full ? 0 : length, fixed = fixed_;
+  const std::uint64_t lengthAnd1 = key & 0xFF;
+  const bool full = lengthAnd1 > kWordLength;
+  std::uint64_t looks = full ? 0 : lengthAnd1, fixed = fixed_;
   bool anyDigit = false, signedYet = false, point = false;
-  for (int at = full ? 0 : 64 - 8 * static_cast<int>(length); at < 64; at += 8) {
+  for (int at = full ? 0 : 72 - 8 * static_cast<int>(lengthAnd1); at < 64; at += 8) {
     const std::uint64_t character = key >> at & 0xFF;
     const bool leads = !anyDigit && !signedYet && !point;
     const bool isDigit = character >= '0' && character <= '9';

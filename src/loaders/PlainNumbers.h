@@ -12,7 +12,7 @@ namespace tarnview {
 /// place, and several such numbers are read in one go.
 class PlainNumbers {
  public:
-  static constexpr std::size_t kAtOnce = 4;
+  static constexpr std::size_t kAtOnce = 8;  ///< at most
 
   /// Numbers of the look of two samples: whose point stands where that of the first or else of the second does, and
   /// that have blanks or a minus in front only if one of them has.
@@ -24,14 +24,20 @@ class PlainNumbers {
   /// written, up to the next kAtOnce. Gives a bit for each key that is no such number, and whose digits are void.
   std::uint64_t Read(const FieldKey* keys, std::size_t count, std::int32_t* digits) const;
 
+  /// What keys are compared with.
+  struct Look {
+    bool leads = false;                          ///< something may stand in front
+    FieldKey digits = detail::kEachByte * '0';   ///< eight digits 0, with the point
+    FieldKey most = detail::kEachByte * 9;       ///< that a byte may differ from it
+    FieldKey weights = detail::kEachByte;        ///< what a byte counts that does not differ more
+    FieldKey before = 0, behind = ~FieldKey{0};  ///< the point's own byte is in neither
+    std::uint32_t point = 0;                     ///< what the point counts beyond a digit
+  };
+  const Look& Sought() const { return look_; }
+
  private:
   int places_ = 0;
-  bool leads_;                                   ///< something may stand in front
-  FieldKey looks_ = detail::kEachByte * '0';     ///< eight digits 0, with the point
-  FieldKey most_ = detail::kEachByte * 9;        ///< that a byte may differ from it
-  FieldKey weights_ = detail::kEachByte;         ///< what a byte counts that does not differ more
-  FieldKey before_ = 0, behind_ = ~FieldKey{0};  ///< the point's own byte is in neither
-  std::uint32_t point_ = 0;                      ///< what the point counts beyond a digit
+  Look look_;
 };
 
 }  // namespace tarnview

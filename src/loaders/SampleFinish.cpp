@@ -18,8 +18,10 @@ BoostOrVacuum BoostOrVacuumOf(std::int32_t MAP, std::int32_t atmosphere) {
 void FillBoostAndVacuum(const LoadContext& context) {
   SampleStore& store = context.log.glngDataLog;
   const std::int32_t atmosphere = AtmosphereAsMAP(context);
+  std::int32_t MAP = atmosphere;
+  BoostOrVacuum found;
   for (int row = 0; row < store.Rows(); ++row) {
-    const BoostOrVacuum found = BoostOrVacuumOf(store(kMAP, row), atmosphere);
+    if (store(kMAP, row) != MAP) found = BoostOrVacuumOf(MAP = store(kMAP, row), atmosphere);
     store.Set(kBoost, row, found.boost);
     store.Set(kVacuum, row, found.vacuum);
   }

@@ -102,6 +102,9 @@ class UTECCSVLog : public SampleLog {
   void FindHundredths(const FieldIndex& block);
   double NumberOf(UTECRule rule, std::string_view text) const;
   double AirFuelOf(std::string_view text) const;
+  bool InHundredths(std::size_t field) const {
+    return fields_[field].word->rule == AirFuel && hundredths_.value_or(false);
+  }
   void Read(FieldIndex& block, std::size_t field);
   void ReadNumbers(FieldIndex& block, std::size_t field, BlockOf<double>& numbers);
 
@@ -196,14 +199,13 @@ void UTECCSVLog::StoreBlock(FieldIndex& block) {
 void UTECCSVLog::StoreColumn(FieldIndex& block, std::size_t field, int first) {
   const Known& known = fields_[field];
   BlockOf<std::int32_t> cells;
-  if (known.scale >= 0) {
+  if (known.scale >= 0 && !InHundredths(field)) {
     Read(block, field);
     numbers_.Stored(known.scale, cells);
   } else {
     BlockOf<double> numbers;
     ReadNumbers(block, field, numbers);
-    for (std::size_t line = 0; line < block.Lines(); ++line)
-      cells[line] = samples_.Stored(known.word->rule, known.column, numbers[line]);
+    samples_.Stored(known.word->rule, known.column, {numbers.data(), block.Lines()}, cells.data());
   }
   context_.log.glngDataLog.SetRows(known.column, first, {cells.data(), block.Lines()});
 }
@@ -229,7 +231,7 @@ void UTECCSVLog::Read(FieldIndex& block, std::size_t field) {
 
 void UTECCSVLog::ReadNumbers(FieldIndex& block, std::size_t field, BlockOf<double>& numbers) {
   const UTECRule rule = fields_[field].word->rule;
-  if (rule == AirFuel && hundredths_.value_or(false)) {
+  if (InHundredths(field)) {
     ReadColumn(block, field, numbers, [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
   } else {
     Read(block, field);

@@ -25,12 +25,12 @@ void UTECSamples::Add() {
 
 int UTECSamples::ScaleOf(UTECRule rule, Column column) const {
   if (rule == UTECRule::Boost) return 0;
-  if (rule != UTECRule::Factored && rule != UTECRule::CoolantTemp) return -1;
+  if (rule != UTECRule::Factored && rule != UTECRule::CoolantTemp && rule != UTECRule::AirFuel) return -1;
   const double factor = factor_[column];
   return factor == 1 ? 0 : factor == 10 ? 1 : factor == 100 ? 2 : factor == 1000 ? 3 : -1;
 }
 
-std::int32_t UTECSamples::Stored(UTECRule rule, Column column, double number) {
+inline std::int32_t UTECSamples::StoredOne(UTECRule rule, Column column, double number) {
   constexpr double kFullDuty = 133;
   constexpr double kCountsFrom = 100;  // kPa, whatever the atmosphere of the settings: kept on purpose
   switch (rule) {
@@ -59,8 +59,16 @@ std::int32_t UTECSamples::Stored(UTECRule rule, Column column, double number) {
   return 0;
 }
 
+std::int32_t UTECSamples::Stored(UTECRule rule, Column column, double number) {
+  return StoredOne(rule, column, number);
+}
+
+void UTECSamples::Stored(UTECRule rule, Column column, std::span<const double> numbers, std::int32_t* stored) {
+  for (const double number : numbers) *stored++ = StoredOne(rule, column, number);
+}
+
 void UTECSamples::Set(UTECRule rule, Column column, double number) {
-  const std::int32_t stored = Stored(rule, column, number);
+  const std::int32_t stored = StoredOne(rule, column, number);
   store_.Set(column, row_, stored);
   BoostOrVacuum found;
   if (rule == UTECRule::MAP)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "base/Numbers.h"
@@ -38,6 +39,8 @@ class UTECSamples {
   int ScaleOf(UTECRule rule, Column column) const;
   /// Any rule; but a MAP sets more columns than its own, and the advance may be that of the ECU.
   std::int32_t Stored(UTECRule rule, Column column, double number);
+  /// The same for many numbers.
+  void Stored(UTECRule rule, Column column, std::span<const double> numbers, std::int32_t* stored);
   void Set(UTECRule rule, Column column, double number);
   /// `ratio` as such: 14.7.
   void SetAirFuel(double ratio) { Set(UTECRule::AirFuel, kAF, ratio); }
@@ -48,6 +51,7 @@ class UTECSamples {
   void Finish(bool hasTime, bool hasModifiedFuel);
 
  private:
+  std::int32_t StoredOne(UTECRule rule, Column column, double number);
   std::int32_t Factored(Column column, double value) const { return RoundToLong(factor_[column] * value); }
   std::int32_t AirTemp(double degrees);
   std::int32_t Time(double count);

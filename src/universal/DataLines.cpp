@@ -1,10 +1,12 @@
 #include "universal/DataLines.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "base/Numbers.h"
 #include "loaders/WideSteps.h"
+#include "model/Column.h"
 
 namespace tarnview {
 namespace {
@@ -68,8 +70,11 @@ void DataLines::FindFirstMoment() {
 }
 
 void DataLines::Flush() {
-  const int first = store_.Rows(), end = first + static_cast<int>(block_.Lines());
-  for (int row = first; row < end; ++row) store_.Set(0, store_.AddRow(), row + 1);
+  const int first = store_.Rows();
+  for (std::size_t line = 0; line < block_.Lines(); ++line) store_.AddRow();
+  Cells numbers;
+  std::iota(numbers.begin(), numbers.end(), first + 1);
+  store_.SetRows(kSample, first, {numbers.data(), block_.Lines()});
   for (std::size_t field = 0; field < block_.MostFields(); ++field) FlushField(field, first);
   block_.Clear();
 }

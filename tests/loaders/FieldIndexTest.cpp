@@ -57,7 +57,7 @@ TEST(FieldIndex, FieldsOfOneKeyHaveOneText) {
   for (int n = 0; n < 50000; ++n) {
     std::string text;
     for (auto left = random() % 10; left > 0; --left) text += kCharacters[random() % kCharacters.size()];
-    const FieldKey key = KeyOfField((text + "12345678").data(), text.size());
+    const FieldKey key = KeyOfField(("12345678" + text).data() + 8 + text.size(), text.size() + 1);
     ASSERT_NE(key, kNoField);
     if (key == kOtherField) continue;
     ASSERT_EQ(texts.emplace(key, text).first->second, text);

@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "loaders/NumberColumn.h"
+#ifdef __SSE2__
+#include "loaders/PlainNumberSteps.h"
+#endif
 
 namespace tarnview {
 namespace {
@@ -67,12 +70,31 @@ TEST(NumberColumn, AgreesWithTheTolerantRoad) {
   EXPECT_LT(slow, all / 8);  // the quick roads are taken
 }
 
+#ifdef __SSE2__
+TEST(PlainNumbers, ReadsTheSameInRegistersOfAnyWidth) {
+  std::mt19937 random(23);
+  for (int n = 0; n < 20000; ++n) {
+    FieldKey keys[FieldIndex::kMostLines] = {};
+    const std::vector<std::string> fields = Column(random);
+    for (std::size_t at = 0; at < fields.size(); ++at)
+      keys[at] = KeyOfField((std::string(8, ',') + fields[at]).data() + 8 + fields[at].size(), fields[at].size() + 1);
+    std::int32_t digits[FieldIndex::kMostLines] = {}, inSteps[FieldIndex::kMostLines] = {};
+    const PlainNumbers plain(keys[0], keys[fields.size() - 1]);
+    const auto wanted = ~std::uint64_t{0} >> (64 - fields.size());
+    const std::uint64_t others = plain.Read(keys, fields.size(), digits) & wanted;
+    ASSERT_EQ(ReadInSteps(plain.Sought(), keys, fields.size(), inSteps) & wanted, others);
+    for (std::size_t at = 0; at < fields.size(); ++at)
+      ASSERT_TRUE(inSteps[at] == digits[at] || (others >> at & 1)) << fields[at];
+  }
+}
+#endif
+
 TEST(PlainNumbers, PlainOnesTakeTheQuickestRoad) {
   const auto others = [](const std::vector<std::string>& fields) {
-    FieldKey keys[4] = {};
+    FieldKey keys[PlainNumbers::kAtOnce] = {};
     for (std::size_t at = 0; at < fields.size(); ++at)
-      keys[at] = KeyOfField((fields[at] + "5.599999").data(), fields[at].size());
-    std::int32_t digits[4];
+      keys[at] = KeyOfField(("5.599999" + fields[at]).data() + 8 + fields[at].size(), fields[at].size() + 1);
+    std::int32_t digits[PlainNumbers::kAtOnce];
     return PlainNumbers(keys[0], keys[fields.size() - 1]).Read(keys, fields.size(), digits) &
            ((1u << fields.size()) - 1);
   };

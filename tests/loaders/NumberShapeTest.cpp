@@ -10,8 +10,8 @@ namespace tarnview {
 namespace {
 
 bool Read(NumberShape& shape, const std::string& field, ShortNumber& number) {
-  const std::string bytes = field + "5.599999";  // what stands behind the field must not count
-  return shape.Read(KeyOfField(bytes.data(), field.size()), number);
+  const std::string bytes = "5.599999" + field;  // what stands before the field must not count
+  return shape.Read(KeyOfField(bytes.data() + bytes.size(), field.size() + 1), number);
 }
 
 TEST(NumberShape, AgreesWithTheTolerantRoadWhateverItReadBefore) {
