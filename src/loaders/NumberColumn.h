@@ -19,6 +19,10 @@ class NumberColumn {
   template <class Slowly>
   void Read(FieldIndex& block, std::size_t field, const Slowly& slowly);
 
+  /// The same of the keys of `lines` fields, up to BlockOf's size and with as much room behind them.
+  template <class Slowly>
+  void Read(const FieldKey* keys, std::size_t lines, const Slowly& slowly);
+
   /// All lines have one text.
   bool Alike() const { return alike_; }
   /// The first `count` numbers.
@@ -39,9 +43,13 @@ class NumberColumn {
 
 template <class Slowly>
 void NumberColumn::Read(FieldIndex& block, std::size_t field, const Slowly& slowly) {
-  lines_ = block.Lines();
+  Read(block.Keys(field), block.Lines(), slowly);
+}
+
+template <class Slowly>
+void NumberColumn::Read(const FieldKey* keys, std::size_t lines, const Slowly& slowly) {
+  lines_ = lines;
   if (lines_ == 0) return;
-  const FieldKey* const keys = block.Keys(field);
   ReadPlain(keys);
   NumberShape shape;
   FieldKey last = kOtherField;  // so that the first one is read

@@ -68,26 +68,4 @@ inline bool NumberShape::Learn(FieldKey key) {
   return true;
 }
 
-/// A field of up to seven characters as the last line had it: most quantities of a log change slower than its lines
-/// come.
-class LastNumber {
- public:
-  /// The number x 10^scale, rounded; always the same scale. False where the quick road does not know the text.
-  bool Stored(TextWord word, int scale, std::int32_t& stored) {
-    if (word != word_) {
-      ShortNumber number;
-      if (!shape_.Read(word, number) && !ReadWord(word, number)) return false;
-      word_ = word;
-      stored_ = number.Stored(scale);
-    }
-    stored = stored_;
-    return true;
-  }
-
- private:
-  NumberShape shape_;
-  TextWord word_ = 0;  // eight NUL characters are a 0, too
-  std::int32_t stored_ = 0;
-};
-
 }  // namespace tarnview

@@ -42,8 +42,7 @@ constexpr SampleLogKind kTec3Log{.wrongFile = 55};
 
 class Tec3Log : public SampleLog {
  public:
-  Tec3Log(std::string_view bytes, const LoadContext& context)
-      : lines_(bytes), context_(context), factors_(FactorsOf(context.items)) {}
+  Tec3Log(std::string_view bytes, const LoadContext& context) : lines_(bytes), context_(context) {}
 
   std::size_t ReadHeading() override {
     CheckTecHeading(lines_, kSecondsBlank);
@@ -51,27 +50,30 @@ class Tec3Log : public SampleLog {
   }
 
   void ReadSamples(long lineStep) override {
-    SampleStore& store = context_.log.glngDataLog;
-    TecFields<kTec3> fields(factors_);
-    TecFields<kRestOf164> restOf164(factors_);
-    TecFields<kRestOf156> restOf156(factors_);
     SampleLines lines(FromFirstPoint(lines_, kSecondsPoint), context_, lineStep);
     const auto fits = [](std::size_t length) { return length == kShort || length == kLong; };
-    ReadTecLines(lines, context_, factors_, fits, [&](std::string_view line, int row) {
-      store.Set(kSecs, row, Seconds(line, row));
-      fields.Read(line.data(), store, row);
-      if (line.size() == kLong)
-        restOf164.Read(line.data(), store, row);
+    ReadTecLines(lines, context_, fits, [this](TecBlock& block) {
+      StoreSeconds(block);
+      block.Store(kTec3);
+      if (block.LineLength() == kLong)
+        block.Store(kRestOf164);
       else
-        restOf156.Read(line.data(), store, row);
+        block.Store(kRestOf156);
     });
   }
 
  private:
+  void StoreSeconds(const TecBlock& block) const {
+    SampleStore& store = context_.log.glngDataLog;
+    int row = store.Rows() - static_cast<int>(block.Lines());
+    for (std::size_t line = 0; line < block.Lines(); ++line, ++row)
+      store.Set(kSecs, row, Seconds({block.Line(line), kSecondsLength}, row));
+  }
+
   /// A clock that stands still or jumps back goes on by one ten-thousandth; one that is lost (0) by the line frequency.
-  std::int32_t Seconds(std::string_view line, int row) const {
+  std::int32_t Seconds(std::string_view text, int row) const {
     const SampleStore& store = context_.log.glngDataLog;
-    const std::int32_t seconds = TecTime(line.substr(0, kSecondsLength));
+    const std::int32_t seconds = RoundToLong(ValDouble(text) * kStoredPerSecond);
     if (row == 0 || seconds > store(kSecs, row - 1)) return seconds;
     if (seconds != 0) return RoundToLong(store(kSecs, row - 1) + 1.0);
     return RoundToLong(RoundPlaces(row / context_.settings.gdblDataLogLineFrequency, 4) * kStoredPerSecond);
@@ -79,7 +81,6 @@ class Tec3Log : public SampleLog {
 
   const TextLines lines_;
   const LoadContext& context_;
-  const TecFactors factors_;
 };
 
 }  // namespace

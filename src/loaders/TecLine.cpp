@@ -1,6 +1,70 @@
 #include "loaders/TecLine.h"
 
 namespace tarnview {
+namespace {
+
+/// The power of ten that a rule stores a number with; -1 for a rule that does more.
+int ScaleOf(TecRule rule) {
+  switch (rule) {
+    case TecRule::Whole:
+    case TecRule::Rounded:
+      return 0;
+    case TecRule::Tenths:
+      return 1;
+    case TecRule::Hundredths:
+      return 2;
+    case TecRule::Seconds:
+      return 4;
+    default:
+      return -1;
+  }
+}
+
+/// Integers may have an exponent, other numbers end in front of it.
+double NumberOf(TecRule rule, std::string_view text) {
+  const bool whole = rule == TecRule::Whole || rule == TecRule::WholeFactored;
+  return whole ? StringToDouble(text) : ValDouble(text);
+}
+
+}  // namespace
+
+void TecBlock::Store(std::span<const TecField> fields) {
+  if (count_ == 0) return;
+  for (const TecField& field : fields) {
+    Read(field);
+    Cells cells;
+    Convert(field, cells);
+    store_.SetRows(field.column, store_.Rows() - static_cast<int>(count_), {cells.data(), count_});
+    if (field.column != kATemp) continue;
+    const double factor = context_.items.Item(ItemOf(kATemp)).Factor();
+    for (std::size_t line = 0; line < count_; ++line) LowerAirTemp(cells[line], factor, context_.log);
+  }
+}
+
+void TecBlock::Read(const TecField& field) {
+  const auto length = static_cast<std::size_t>(field.length);
+  const std::size_t end = static_cast<std::size_t>(field.at - 1) + length;
+  BlockOf<FieldKey> keys{};
+  for (std::size_t line = 0; line < count_; ++line)
+    keys[line] = length < kWordLength ? WordBefore(lines_[line] + end, length)  // as eight, with blanks in front
+                                      : KeyOfField(lines_[line] + end, kWordLength + 1);
+  numbers_.Read(keys.data(), count_, [&](std::size_t line) {
+    return NumberOf(field.rule, {lines_[line] + end - length, length});
+  });
+}
+
+void TecBlock::Convert(const TecField& field, Cells& cells) const {
+  if (const int scale = ScaleOf(field.rule); scale >= 0) return numbers_.Stored(scale, cells);
+  const double factor = context_.items.Item(ItemOf(field.column)).Factor();
+  BlockOf<double> values;
+  numbers_.Values(count_, values);
+  for (std::size_t line = 0; line < count_; ++line) {
+    const double value = values[line];
+    cells[line] = field.rule == TecRule::Correction      ? RoundToLong(value * 1000 + 1000)
+                  : field.rule == TecRule::WholeFactored ? RoundToLong(RoundToLong(value) * factor)
+                                                         : RoundToLong(value * factor);
+  }
+}
 
 void CheckTecHeading(TextLines lines, std::size_t blankAt) {
   lines.Skip(1);

@@ -17,8 +17,8 @@ namespace {
 
 /// A column as a logger may write it: mostly of one look, with some fields of any characters.
 std::vector<std::string> Column(std::mt19937& random) {
-  static constexpr char kText[] = "0123456789..-- +x\0\7\t9";
-  constexpr std::string_view kCharacters{kText, sizeof kText - 1};
+  using namespace std::string_view_literals;
+  constexpr std::string_view kCharacters = "0123456789..-- +x\0\7\t9"sv;
   const auto lines = 1 + random() % FieldIndex::kMostLines, odd = random() % 4 * 5, places = random() % 4;
   const bool lead = random() % 2, constant = random() % 8 == 0;
   const double span = std::pow(10, random() % 6);

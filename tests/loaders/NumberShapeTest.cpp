@@ -48,16 +48,5 @@ TEST(NumberShape, PlainNumbersTakeTheQuickRoad) {
     EXPECT_FALSE(Read(shape, field, number)) << field;
 }
 
-TEST(LastNumber, IsRememberedByItsText) {
-  LastNumber last;
-  std::int32_t stored = -1;
-  for (const auto& [text, expected] :
-       {std::pair{"    12.5", 125}, {"    12.5", 125}, {"    1.25", 12}, {"      -7", -70}}) {
-    ASSERT_TRUE(last.Stored(WordBefore(text + 8, 8), 1, stored));
-    EXPECT_EQ(stored, expected);
-  }
-  EXPECT_FALSE(last.Stored(WordBefore("      1x" + 8, 8), 1, stored));
-}
-
 }  // namespace
 }  // namespace tarnview
