@@ -121,7 +121,7 @@ class LinkPlusLog : public SampleLog {
   void StoreColumn(FieldIndex& block, std::size_t field, const Heading& heading, int first);
   std::int32_t Stored(const Heading& heading, std::string_view text) const;
   void StoreTime(Rule rule, int first);
-  void FillAirFuel();
+  void FillAirFuel(int first);
 
   const std::string_view bytes_;
   TextLines lines_;
@@ -154,8 +154,6 @@ void LinkPlusLog::ReadSamples(long lineStep) {
     if (block.Full()) StoreBlock(block);
   }
   StoreBlock(block);
-  FillBoostAndVacuum(context_);
-  FillAirFuel();
   FillWithZero(kCR, context_);
   FillWithZero(kFuelPercentM, context_);
   FindFirstPlotSample(context_);
@@ -165,6 +163,8 @@ void LinkPlusLog::StoreBlock(FieldIndex& block) {
   const int first = store_.Rows() - static_cast<int>(block.Lines());
   for (std::size_t field = 0; field < fields_.size(); ++field)
     if (fields_[field]) StoreColumn(block, field, *fields_[field], first);
+  FillBoostAndVacuum(context_, first);
+  FillAirFuel(first);
   block.Clear();
 }
 
@@ -213,8 +213,8 @@ void LinkPlusLog::StoreTime(Rule rule, int first) {
   }
 }
 
-void LinkPlusLog::FillAirFuel() {
-  for (int row = 0; row < store_.Rows(); ++row) store_.Set(kAF, row, OxygenTableOutput(store_(kO2, row)));
+void LinkPlusLog::FillAirFuel(int first) {
+  for (int row = first; row < store_.Rows(); ++row) store_.Set(kAF, row, OxygenTableOutput(store_(kO2, row)));
 }
 
 }  // namespace

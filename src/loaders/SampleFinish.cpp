@@ -15,12 +15,12 @@ BoostOrVacuum BoostOrVacuumOf(std::int32_t MAP, std::int32_t atmosphere) {
   return {0, RoundToLong(-above * kInHgPerKPa)};
 }
 
-void FillBoostAndVacuum(const LoadContext& context) {
+void FillBoostAndVacuum(const LoadContext& context, int first) {
   SampleStore& store = context.log.glngDataLog;
   const std::int32_t atmosphere = AtmosphereAsMAP(context);
   std::int32_t MAP = atmosphere;
   BoostOrVacuum found;
-  for (int row = 0; row < store.Rows(); ++row) {
+  for (int row = first; row < store.Rows(); ++row) {
     if (store(kMAP, row) != MAP) found = BoostOrVacuumOf(MAP = store(kMAP, row), atmosphere);
     store.Set(kBoost, row, found.boost);
     store.Set(kVacuum, row, found.vacuum);

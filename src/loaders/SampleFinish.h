@@ -4,7 +4,7 @@
 
 namespace tarnview {
 
-// What samples get from their other columns, once all are read.
+// What samples get from their other columns.
 
 /// The default atmospheric pressure as "MAP" stores it.
 std::int32_t AtmosphereAsMAP(const LoadContext& context);
@@ -15,8 +15,8 @@ struct BoostOrVacuum {
 };
 BoostOrVacuum BoostOrVacuumOf(std::int32_t MAP, std::int32_t atmosphere);
 
-/// "Boost" and "Vacuum" of all samples, from their "MAP".
-void FillBoostAndVacuum(const LoadContext& context);
+/// "Boost" and "Vacuum" of the samples from `first` on, from their "MAP".
+void FillBoostAndVacuum(const LoadContext& context, int first);
 
 /// Sets glngFirstPlotSample: the first sample whose "C Temp" is at least the setting.
 void FindFirstPlotSample(const LoadContext& context);

@@ -70,6 +70,7 @@ void ReadTecLines(SampleLines lines, const LoadContext& context, const Fits& fit
   TecBlock block(context);
   const auto flush = [&] {
     store(block);
+    FillBoostAndVacuum(context, samples.Rows() - static_cast<int>(block.Lines()));
     block.Clear();
   };
   for (std::string_view line; lines.Next(line);) {
@@ -80,7 +81,6 @@ void ReadTecLines(SampleLines lines, const LoadContext& context, const Fits& fit
     samples.Set(kSample, row, row + 1);
   }
   flush();
-  FillBoostAndVacuum(context);
   FillWithZero(kFuelPercentM, context);
   FindFirstPlotSample(context);
 }
