@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <bit>
 
-#ifdef __SSE2__
+#ifdef __x86_64__
 #include "loaders/PlainNumberSteps.h"
 #endif
 
@@ -28,7 +28,7 @@ PlainNumbers::PlainNumbers(FieldKey first, FieldKey second) {
   look_.point = kPoint;
 }
 
-#if defined(__SSE2__) && defined(__GNUC__)
+#if defined(__x86_64__) && defined(__GNUC__)
 
 std::uint64_t ReadPlainNumbersWide(const PlainNumbers::Look& look, const FieldKey* keys, std::size_t count,
                                    std::int32_t* digits);

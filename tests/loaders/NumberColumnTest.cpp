@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "loaders/NumberColumn.h"
-#ifdef __SSE2__
+#ifdef __x86_64__
 #include "loaders/PlainNumberSteps.h"
 #endif
 
@@ -71,7 +71,7 @@ TEST(NumberColumn, AgreesWithTheTolerantRoad) {
   EXPECT_LT(slow, all / 8);  // the quick roads are taken
 }
 
-#ifdef __SSE2__
+#ifdef __x86_64__
 TEST(PlainNumbers, ReadsTheSameInRegistersOfAnyWidth) {
   std::mt19937 random(23);
   for (int n = 0; n < 20000; ++n) {
@@ -99,7 +99,7 @@ TEST(PlainNumbers, PlainOnesTakeTheQuickestRoad) {
     return PlainNumbers(keys[0], keys[fields.size() - 1]).Read(keys, fields.size(), digits) &
            ((1u << fields.size()) - 1);
   };
-#ifdef __SSE2__
+#ifdef __x86_64__
   EXPECT_EQ(others({"0", "12", "1234567", "12345678"}), 0u);
   EXPECT_EQ(others({"1.5", "123456.7", ".5", "0.0"}), 0u);
   EXPECT_EQ(others({" 1.5", "  -2.5", "3.5", "-.5"}), 0u);
