@@ -28,9 +28,10 @@ char ByteOf(std::uint32_t code) {
   return found == kHighControls.end() ? '?' : static_cast<char>(0x80 + (found - kHighControls.begin()));
 }
 
+constexpr std::uint32_t kIllFormed = 0xFFFD;
+
 /// Takes one character off the front; an ill-formed byte counts as a character that Windows-1252 lacks.
 std::uint32_t TakeCharacter(std::string_view& text) {
-  constexpr std::uint32_t kIllFormed = 0xFFFD;
   const auto lead = static_cast<unsigned char>(text[0]);
   const std::size_t length = lead < 0x80   ? 1
                              : lead < 0xC2 ? 0
@@ -142,6 +143,23 @@ std::string FromUtf8(std::string_view text) {
   bytes.reserve(text.size());
   while (!text.empty()) bytes += ByteOf(TakeCharacter(text));
   return bytes;
+}
+
+std::string ShownAsUtf8(std::string_view text) {
+  std::string shown;
+  while (!text.empty()) {
+    std::string_view rest = text;
+    const bool wellFormed = TakeCharacter(rest) != kIllFormed;
+    const std::size_t length = text.size() - rest.size();
+    if (wellFormed) {
+      shown += text.substr(0, length);
+      text = rest;
+    } else {
+      shown += ToUtf8(text.substr(0, 1));
+      text.remove_prefix(1);
+    }
+  }
+  return shown;
 }
 
 bool TakeLine(std::string_view& rest, std::string_view& line) {

@@ -28,6 +28,9 @@ void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t
 /// Windows-1252 bytes as UTF-8, for the edges of the program (JSON, the toolkit), and back ('?' for what it lacks).
 std::string ToUtf8(std::string_view text);
 std::string FromUtf8(std::string_view text);
+/// ToUtf8 of a text that is only shown and may hold a path, whose bytes are the platform's: what is a character of
+/// UTF-8 already, of more than one byte, stays.
+std::string ShownAsUtf8(std::string_view text);
 
 /// Takes the next line off the front of `rest`, without its end (CR LF, LF; the last line needs none). False at the
 /// end of the text.

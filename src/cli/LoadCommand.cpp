@@ -35,7 +35,7 @@ int Load(const LogOptions& options) {
   if (ok) session.EnterRange();
   Json out{{"ok", ok},
            {"file_type", log.gintCurrentFileType},
-           {"title", ToUtf8(session.Window().Caption())},
+           {"title", ShownAsUtf8(session.Window().Caption())},
            {"samples_loaded", log.gblnSamplesLoaded},
            {"zones_loaded", log.gblnZonesLoaded},
            {"changes_loaded", log.gblnChangesLoaded},

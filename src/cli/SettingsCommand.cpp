@@ -43,7 +43,7 @@ int ConvertSettings(const SettingsOptions& options) {
   program.Start("", false);
   program.MainWindow().Unload();
   Json recent = Json::array();
-  for (const std::string& entry : program.Global().settings.recentFiles) recent.push_back(ToUtf8(entry));
+  for (const std::string& entry : program.Global().settings.recentFiles) recent.push_back(ShownAsUtf8(entry));
   Print({{"messages", MessagesJson(host.messages)},
          {"window_placements", PlacementsJson(program.Global().settings.windows)},
          {"recent", std::move(recent)}});

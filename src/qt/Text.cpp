@@ -9,6 +9,8 @@ namespace tarnview {
 QString ToQt(const std::string& text) { return QString::fromStdString(ToUtf8(text)); }
 std::string FromQt(const QString& text) { return FromUtf8(text.toStdString()); }
 
+QString ShownToQt(const std::string& text) { return QString::fromStdString(ShownAsUtf8(text)); }
+
 QString PathToQt(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
 std::string PathFromQt(const QString& path) { return QFile::encodeName(path).toStdString(); }
 

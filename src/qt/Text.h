@@ -9,6 +9,8 @@ namespace tarnview {
 /// The program's texts (Windows-1252 bytes) as the toolkit's, and back.
 QString ToQt(const std::string& text);
 std::string FromQt(const QString& text);
+/// A text that is only shown, never read back, and may hold a path.
+QString ShownToQt(const std::string& text);
 
 /// Paths are the platform's bytes.
 QString PathToQt(const std::string& path);

@@ -47,6 +47,9 @@ TEST(Text, GoesThroughUnicodeAndBack) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
   EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
+  EXPECT_EQ(ShownAsUtf8("/j\xc3\xb6rg/\xe2\x82\xac.txt, 5 \xb0"
+                        "C, \x80\xc3"),
+            "/j\u00f6rg/\u20ac.txt, 5 \u00b0C, \u20ac\u00c3");
 }
 
 }  // namespace

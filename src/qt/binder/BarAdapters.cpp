@@ -62,7 +62,7 @@ StatusBarAdapter::StatusBarAdapter(StatusBar& bar, QStatusBar& view, Binder& bin
 
 void StatusBarAdapter::ShowContent() {
   for (int panel = 1; panel <= bar_.Count(); ++panel)
-    panels_[static_cast<std::size_t>(panel - 1)]->setText(ToQt(bar_.Panel(panel)));
+    panels_[static_cast<std::size_t>(panel - 1)]->setText(ShownToQt(bar_.Panel(panel)));
 }
 
 }  // namespace tarnview

@@ -17,7 +17,7 @@ MenuActionAdapter::MenuActionAdapter(MenuItem& item, QAction& view, Binder& bind
 
 void MenuActionAdapter::ShowContent() {
   const bool rule = item_.Caption() == "-";
-  if (!keepsItsText_) view_.setText(rule ? QString() : ToQt(item_.Caption));
+  if (!keepsItsText_) view_.setText(rule ? QString() : ShownToQt(item_.Caption));
   view_.setSeparator(rule);
   if (item_.Checked) view_.setCheckable(true);
   view_.setChecked(item_.Checked);

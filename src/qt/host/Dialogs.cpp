@@ -93,7 +93,7 @@ bool ChooseColour(Dialog& dialog, QWidget* parent) {
 }  // namespace
 
 Reply AskInBox(const Box& box, QWidget* parent) {
-  QMessageBox shown(IconOf(box.style), ToQt(box.title), ToQt(box.text).replace("\r\n", "\n").replace("\r", "\n"),
+  QMessageBox shown(IconOf(box.style), ToQt(box.title), ShownToQt(box.text).replace("\r\n", "\n").replace("\r", "\n"),
                     ButtonsOf(box.style), parent);
   shown.setTextFormat(Qt::PlainText);
   for (const Answered& row : kAnswers)

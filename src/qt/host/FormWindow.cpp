@@ -74,7 +74,7 @@ void FormWindow::LetGo() {
 }
 
 void FormWindow::ShowCaption() {
-  window_->setWindowTitle(ToQt(form_.Caption));
+  window_->setWindowTitle(ShownToQt(form_.Caption));
   if (form_.Pointer == MousePointer::Hourglass)
     window_->setCursor(Qt::WaitCursor);
   else

@@ -42,7 +42,7 @@ PaperPage::PaperPage(QCPPainter& painter, const QPagedPaintDevice& paper, SizeOf
 }
 
 double PaperPage::TextWidth(const std::string& text, int points) const {
-  return QFontMetricsF(FontOf(points)).horizontalAdvance(ToQt(text));
+  return QFontMetricsF(FontOf(points)).horizontalAdvance(ShownToQt(text));
 }
 
 double PaperPage::LineHeight(int points) const { return QFontMetricsF(FontOf(points)).lineSpacing(); }
@@ -56,7 +56,7 @@ void PaperPage::DrawText(const std::string& text, int points, double left, doubl
   const QFont font = FontOf(points);
   painter_.setFont(font);
   painter_.setPen(Qt::black);
-  painter_.drawText(QPointF(left, top + QFontMetricsF(font).ascent()), ToQt(text));
+  painter_.drawText(QPointF(left, top + QFontMetricsF(font).ascent()), ShownToQt(text));
 }
 
 void PaperPage::DrawPicture(const Chart& chart, const PageRect& place) {

@@ -41,7 +41,7 @@ Printing::~Printing() = default;
 QPrinter& Printing::PrinterFor(const PrintJob& job) {
   // Made when it is wanted: to look for the printers takes its time.
   if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  printer_->setDocName(ToQt(job.title));
+  printer_->setDocName(ShownToQt(job.title));
   printer_->setFullPage(true);
   printer_->setCopyCount(1);
   return *printer_;
@@ -58,7 +58,7 @@ bool Printing::Print(const PrintJob& job, QWidget* parent, std::string& error) {
 bool Printing::Preview(const PrintJob& job, QWidget* parent, std::string& error) {
   error.clear();
   QPrintPreviewDialog box(&PrinterFor(job), parent, Qt::Window);
-  box.setWindowTitle(QObject::tr("Print Preview") + " - " + ToQt(job.title));
+  box.setWindowTitle(QObject::tr("Print Preview") + " - " + ShownToQt(job.title));
   const QSize screen = box.screen()->availableSize();
   box.resize((screen * 3 / 4).expandedTo(kToolsAndPage).boundedTo(screen));
   QObject::connect(&box, &QPrintPreviewDialog::paintRequested, [&](QPrinter* printer) {
