@@ -45,9 +45,7 @@ void TecBlock::Read(const TecField& field) {
   const auto length = static_cast<std::size_t>(field.length);
   const std::size_t end = static_cast<std::size_t>(field.at - 1) + length;
   BlockOf<FieldKey> keys{};
-  for (std::size_t line = 0; line < count_; ++line)
-    keys[line] = length < kWordLength ? WordBefore(lines_[line] + end, length)  // as eight, with blanks in front
-                                      : KeyOfField(lines_[line] + end, kWordLength + 1);
+  for (std::size_t line = 0; line < count_; ++line) keys[line] = KeyOfField(lines_[line] + end, length + 1);
   numbers_.Read(keys.data(), count_, [&](std::size_t line) {
     return NumberOf(field.rule, {lines_[line] + end - length, length});
   });

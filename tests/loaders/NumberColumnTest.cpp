@@ -71,6 +71,19 @@ TEST(NumberColumn, AgreesWithTheTolerantRoad) {
   EXPECT_LT(slow, all / 8);  // the quick roads are taken
 }
 
+TEST(NumberColumn, ANumberBeyond32BitsIsStoredAs0) {
+  const std::string bytes = "a,99999999\n";
+  FieldIndex block(bytes, ',', 2);
+  block.Add(std::string_view(bytes).substr(0, bytes.size() - 1));
+  NumberColumn numbers;
+  numbers.Read(block, 1, [](std::size_t) { return 0.0; });
+  BlockOf<std::int32_t> cells;
+  numbers.Stored(1, cells);
+  EXPECT_EQ(cells[0], 999999990);
+  numbers.Stored(2, cells);
+  EXPECT_EQ(cells[0], 0);
+}
+
 #ifdef __x86_64__
 TEST(PlainNumbers, ReadsTheSameInRegistersOfAnyWidth) {
   std::mt19937 random(23);
