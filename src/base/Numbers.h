@@ -24,11 +24,14 @@ double ValDouble(std::string_view text);
 
 // Rounding is half to even everywhere.
 
-inline double RoundHalfEven(double value) {
+/// The nearest whole number, where |value| is below 2^51: two steps without a decision.
+inline double WithoutFraction(double value) {
   // Adding 1.5 * 2^52 leaves no room for a fraction, and the processor rounds halves to even.
   constexpr double kNoFraction = 6755399441055744.0;
-  if (!(std::fabs(value) < 2251799813685248.0)) return std::nearbyint(value);
   return value + kNoFraction - kNoFraction;
+}
+inline double RoundHalfEven(double value) {
+  return std::fabs(value) < 2251799813685248.0 ? WithoutFraction(value) : std::nearbyint(value);
 }
 /// The nearest whole number; 0 where that does not fit 32 bits or is no number.
 inline std::int32_t RoundToLong(double value) {

@@ -34,7 +34,6 @@ TARNVIEW_WIDE_STEPS void NumberColumn::Values(std::size_t count, BlockOf<double>
 
 TARNVIEW_WIDE_STEPS void NumberColumn::Stored(int scale, BlockOf<std::int32_t>& cells) const {
   constexpr std::int32_t kTens[] = {1, 10, 100, 1000, 10000};
-  constexpr double kNoFraction = 6755399441055744.0;  // as in RoundHalfEven: eight digits are never too large for it
   const std::size_t count = alike_ ? 1 : lines_;
   if (places_ <= scale) {  // a whole number as it stands
     const std::int32_t times = kTens[scale - places_], most = std::numeric_limits<std::int32_t>::max() / times;
@@ -43,7 +42,7 @@ TARNVIEW_WIDE_STEPS void NumberColumn::Stored(int scale, BlockOf<std::int32_t>& 
   } else {
     const double one = detail::kPowersOfTen[places_], times = kTens[scale];
     for (std::size_t line = 0; line < count; ++line)
-      cells[line] = static_cast<std::int32_t>(digits_[line] / one * times + kNoFraction - kNoFraction);
+      cells[line] = static_cast<std::int32_t>(WithoutFraction(digits_[line] / one * times));
   }
   for (std::uint64_t rest = others_; rest; rest &= rest - 1) {
     const auto line = static_cast<std::size_t>(std::countr_zero(rest));

@@ -16,8 +16,7 @@ using Kind = FieldTarget::Kind;
 /// The stored integer: rounded half to even, not below 0, and 0 where it does not fit.
 inline std::int32_t StoredInteger(double stored) {
   constexpr double kTooLarge = 2147483648.0;
-  constexpr double kNoFraction = 6755399441055744.0;  // as in RoundHalfEven, without its look at the range
-  const double rounded = (stored > 0 ? stored : 0) + kNoFraction - kNoFraction;
+  const double rounded = WithoutFraction(stored > 0 ? stored : 0);  // too large stays so, whatever it is rounded to
   return static_cast<std::int32_t>(rounded < kTooLarge ? rounded : 0);
 }
 
