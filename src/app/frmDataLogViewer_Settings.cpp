@@ -4,17 +4,12 @@
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
+#include "model/SettingLimits.h"
 #include "universal/BuiltInPresets.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/DefinitionPresets.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kLeastGraphYMax = 10, kGreatestGraphYMax = 1000;
-
-}  // namespace
-
 void frmDataLogViewer::TakeSettings() {
   const Settings& settings = globals_.settings;
   ApplyPlacement(settings.windows.main, *this);
@@ -50,7 +45,7 @@ void frmDataLogViewer::GatherSettings() {
   settings.gintZoomAmount = ZoomAmount(StringToLong(cboZoomAmount.Text()));
   settings.gblnQuickGraph = chkQuickGraph.Value;
   settings.gblnFixGraphMax = chkFixY.Value;
-  settings.gintGraphYMax = std::clamp(StringToLong(txtYMax.Text()), kLeastGraphYMax, kGreatestGraphYMax);
+  settings.gintGraphYMax = kGraphYMaxLimits.Hold(StringToLong(txtYMax.Text()));
   settings.gblnShowCheckedOnly = chkShowCheckedOnly.Value;
   settings.gblnScatterGraphAutoDraw = mnuFileDrawScatter.Checked;
   settings.recentFiles = recent_.Tags();

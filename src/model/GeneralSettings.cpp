@@ -20,10 +20,13 @@ using enum IniFlagForm;
 using enum IniBeyond;
 
 constexpr const char* kGeneral = "General";
-
-/// Degrees C: the air around the car, and the wet bulb's reading in it.
-constexpr int kColdest = -30, kHottest = 60;
 constexpr int kWetBulb = 1;  ///< gintHumidityType
+
+// Where settings are set: the pages of the Options window, and other windows.
+constexpr const char* kGeneralPage = "frmOptions/General";
+constexpr const char* kLinkPage = "frmOptions/FM Link ECU";
+constexpr const char* kFilesPage = "frmOptions/File Locations";
+constexpr const char* kMain = "frmDataLogViewer";
 
 void ReadCheckedItems(S& settings, std::string_view text) {
   auto items = ReadItemNumbers(text);
@@ -37,7 +40,7 @@ void ReadEngineSize(S& settings, std::string_view text) {
 
 void ReadComPort(S& settings, std::string_view text) {
   const int port = StringToLong(text);
-  settings.gstrSerialComPort = std::to_string(port >= 1 && port <= 9 ? port : 1);
+  settings.gstrSerialComPort = std::to_string(kComPortLimits.Allow(port) ? port : kComPortLimits.least);
 }
 
 void ReadLineFrequency(S& settings, std::string_view text) {
@@ -49,43 +52,70 @@ void ReadGearFactor(S& settings, std::string_view text) {
     settings.gdblGearSpeedConvFactor = factor;
 }
 
+constexpr Rule kZoomAmount{
+    [](S& settings, std::string_view text) { settings.gintZoomAmount = ZoomAmount(StringToLong(text)); },
+    [](const S& settings) { return std::to_string(settings.gintZoomAmount); },
+    "one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100"};
+constexpr Rule kCheckedItems{ReadCheckedItems,
+                             [](const S& settings) { return ItemNumbersText(settings.gcolCheckedDataItems); },
+                             "data item numbers with commas"};
+constexpr Rule kComPort{ReadComPort, [](const S& settings) { return settings.gstrSerialComPort; }, "1 to 9"};
+constexpr Rule kEngineSize{
+    ReadEngineSize, [](const S& settings) { return ShortestText(settings.gdblDefaultEngineSize); }, "1.6 or 1.8"};
+constexpr Rule kLineFrequency{
+    ReadLineFrequency, [](const S& settings) { return ShortestText(settings.gdblDataLogLineFrequency); }, "above 0"};
+constexpr Rule kGearFactor{ReadGearFactor,
+                           [](const S& settings) { return ShortestText(settings.gdblGearSpeedConvFactor); },
+                           "from 0 to below 100"};
+constexpr Rule kHumidityType{
+    [](S& settings, std::string_view text) { settings.gintHumidityType = StringToLong(text) == kWetBulb; },
+    [](const S& settings) { return std::to_string(settings.gintHumidityType); }, "0 or 1"};
+/// Held to its limits once all that they hang on is known: SettleHumidity.
+constexpr Rule kHumidity{[](S& settings, std::string_view text) { settings.gintRelativeHumidity = StringToLong(text); },
+                         [](const S& settings) { return std::to_string(settings.gintRelativeHumidity); },
+                         "0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp"};
+
 template <std::size_t N>
 constexpr Rule kUploadDefault{
     [](S& settings, std::string_view text) { settings.gblnUploadDefaults[N] = StringToDouble(text) != 0; },
-    [](const S& settings) { return std::string(settings.gblnUploadDefaults[N] ? "1" : "0"); }};
+    [](const S& settings) { return std::string(settings.gblnUploadDefaults[N] ? "1" : "0"); }, "1 or 0"};
 
 const IniKey<S> kUpToWindows[] = {
     {"Initial Directory", Text{&S::gstrInitialDirectory}},
-    {"Default File Type", Whole{&S::gintDefaultFileType, kFMLinkLog, kUniversalLog}},
-    {"Zoom Amount", Rule{[](S& s, std::string_view text) { s.gintZoomAmount = ZoomAmount(StringToLong(text)); },
-                         [](const S& s) { return std::to_string(s.gintZoomAmount); }}},
-    {"Quick Graph", Flag{&S::gblnQuickGraph, Number}},
-    {"Checked Data Items", Rule{ReadCheckedItems, [](const S& s) { return ItemNumbersText(s.gcolCheckedDataItems); }},
-     true},
-    {"Log EXE", Text{&S::gstrLogEXE}, true},
-    {"Conversion EXE", Text{&S::gstrConversionEXE}, true},
-    {"Alternative Background Picture", Text{&S::gstrAlternativeBackgroundPicture}},
-    {"Default Working Directory", Text{&S::gstrDefaultWorkingDirectory}, true},
-    {"Aux Input Conversion File", Text{&S::gstrAuxInputConversionFile}},
-    {"O2 Input Conversion File", Text{&S::gstrO2InputConversionFile}},
-    {"Generic Data Log Definition File", Text{&S::gstrGenericDefinitionFile}},
-    {"Last Converted Binary File", Text{&S::gstrLastConvertedBinary}},
-    {"Serial Com Port", Rule{ReadComPort, [](const S& s) { return s.gstrSerialComPort; }}},
-    {"Default Engine Size", Rule{ReadEngineSize, [](const S& s) { return ShortestText(s.gdblDefaultEngineSize); }}},
-    {"Default Chip Date", Day{&S::gdatDefaultChipDate}},
-    {"Default Chip Version", Whole{&S::gintDefaultChipVersion, 1, 3, Left}},
-    {"Default Atmospheric Pressure", Whole{&S::gintDefaultAtmosphericPressure, 75, 115}},
-    {"Silent Defaults", Flag{&S::gblnSilentDefaults, OffUnlessY}},
-    {"Default Benchmark", Text{&S::gstrDefaultBenchmark}},
-    {"Plot From Temperature", Whole{&S::gintPlotFromTemperature, -99, 99}},
-    {"Display Zone Influence", Flag{&S::gblnDisplayZoneInfluence, OnUnlessN}},
-    {"Display Sample Details in Scatter Graph", Flag{&S::gblnDisplaySampleInScatter, OnUnlessN}},
-    {"Upload Default 0", kUploadDefault<0>},
-    {"Upload Default 1", kUploadDefault<1>},
-    {"Upload Default 2", kUploadDefault<2>},
-    {"Upload Default 3", kUploadDefault<3>},
-    {"Retain Binary Files", Flag{&S::gblnRetainBinary, OnUnlessN}},
-    {"Auto Open Data Tags Window", Flag{&S::gblnAutoOpenDataTags, OnUnlessN}},
+    {"Default File Type", Whole{&S::gintDefaultFileType, {kFMLinkLog, kUniversalLog}}, {kFilesPage, "cboFileType"}},
+    {"Zoom Amount", kZoomAmount, {kMain, "cboZoomAmount"}},
+    {"Quick Graph", Flag{&S::gblnQuickGraph, Number}, {kMain, "chkQuickGraph"}},
+    {"Checked Data Items", kCheckedItems, {kMain, "lvwSampleDetails"}, true},
+    {"Log EXE", Text{&S::gstrLogEXE}, {kLinkPage, "txtPath(0)"}, true},
+    {"Conversion EXE", Text{&S::gstrConversionEXE}, {kLinkPage, "txtPath(1)"}, true},
+    {"Alternative Background Picture", Text{&S::gstrAlternativeBackgroundPicture}, {kFilesPage, "txtPath(2)"}},
+    {"Default Working Directory", Text{&S::gstrDefaultWorkingDirectory}, {kFilesPage, "txtPath(3)"}, true},
+    {"Aux Input Conversion File", Text{&S::gstrAuxInputConversionFile}, {kLinkPage, "txtPath(4)"}},
+    {"O2 Input Conversion File", Text{&S::gstrO2InputConversionFile}, {kLinkPage, "txtPath(5)"}},
+    {"Generic Data Log Definition File", Text{&S::gstrGenericDefinitionFile}, {kFilesPage, "txtPath(6)"}},
+    {"Last Converted Binary File", Text{&S::gstrLastConvertedBinary}, {"frmConvertBIN", "txtPath(0)"}},
+    {"Serial Com Port", kComPort, {kLinkPage, "txtComPort"}},
+    {"Default Engine Size", kEngineSize, {kLinkPage, "cboChipType"}},
+    {"Default Chip Date", Day{&S::gdatDefaultChipDate}, {kLinkPage, "txtChipDate"}},
+    {"Default Chip Version", Whole{&S::gintDefaultChipVersion, kChipVersionLimits, Left}, {kLinkPage, "cboChipType"}},
+    {"Default Atmospheric Pressure",
+     Whole{&S::gintDefaultAtmosphericPressure, kAtmosphericPressureLimits},
+     {kGeneralPage, "txtAtmos"}},
+    {"Silent Defaults", Flag{&S::gblnSilentDefaults, OffUnlessY}, {kLinkPage, "chkSilentDefaults"}},
+    {"Default Benchmark", Text{&S::gstrDefaultBenchmark}, {"frmZoneData", "cboBenchmark"}},
+    {"Plot From Temperature",
+     Whole{&S::gintPlotFromTemperature, kPlotFromTemperatureLimits},
+     {kGeneralPage, "txtPlotFromTemp"}},
+    {"Display Zone Influence", Flag{&S::gblnDisplayZoneInfluence, OnUnlessN}, {kMain, "mnuViewZoneInfl"}},
+    {"Display Sample Details in Scatter Graph",
+     Flag{&S::gblnDisplaySampleInScatter, OnUnlessN},
+     {kGeneralPage, "chkSampleScatter"}},
+    {"Upload Default 0", kUploadDefault<0>, {kLinkPage, "chkUploadDefs(0)"}},
+    {"Upload Default 1", kUploadDefault<1>, {kLinkPage, "chkUploadDefs(1)"}},
+    {"Upload Default 2", kUploadDefault<2>, {kLinkPage, "chkUploadDefs(2)"}},
+    {"Upload Default 3", kUploadDefault<3>, {kLinkPage, "chkUploadDefs(3)"}},
+    {"Retain Binary Files", Flag{&S::gblnRetainBinary, OnUnlessN}, {kLinkPage, "chkRetainBIN"}},
+    {"Auto Open Data Tags Window", Flag{&S::gblnAutoOpenDataTags, OnUnlessN}, {kLinkPage, "chkAutoTag"}},
 };
 
 struct WindowRow {
@@ -102,26 +132,33 @@ constexpr WindowRow kWindows[] = {
 };
 
 const IniKey<S> kBehindWindows[] = {
-    {"Fix Graph Max", Flag{&S::gblnFixGraphMax, Number}},
-    {"Graph Y Max", Whole{&S::gintGraphYMax, 10, 1000}},
-    {"Show Checked Only", Flag{&S::gblnShowCheckedOnly, OffUnlessY}},
-    {"Auto File Names", Flag{&S::gblnAutoFileNames, OffUnlessY}},
-    {"Scatter Graph Auto Draw", Flag{&S::gblnScatterGraphAutoDraw, OffUnlessY}},
-    {"Auto Scatter Graph Sample Filter", Flag{&S::gblnAutoScatterFilter, OnUnlessN}},
-    {"Show Point Sample Graph Width", Whole{&S::glngShowPointWidth, 50, 1000}},
-    {"Data Log Line Frequency",
-     Rule{ReadLineFrequency, [](const S& s) { return ShortestText(s.gdblDataLogLineFrequency); }}},
-    {"Auto Gear Selection", Flag{&S::gblnAutoGearSelection, OnUnlessN}},
-    {"Auto Gear Selection Speed Units", Whole{&S::gintGearSpeedUnits, 1, 3, Left}},
-    {"Auto Gear Selection Speed Conversion Factor",
-     Rule{ReadGearFactor, [](const S& s) { return ShortestText(s.gdblGearSpeedConvFactor); }}},
-    {"Initial Plot Width", Whole{&S::glngInitialPlotWidth, 0, 300000}},
-    {"Ambient Temp", Whole{&S::gintAmbientTemp, kColdest, kHottest}},
-    {"Humidity Type", Rule{[](S& s, std::string_view text) { s.gintHumidityType = StringToLong(text) == kWetBulb; },
-                           [](const S& s) { return std::to_string(s.gintHumidityType); }}},
-    {"Relative Humidity", Whole{&S::gintRelativeHumidity}},
-    {"SAE Correction", Flag{&S::gblnSAECorrection, OffUnlessY}},
-    {"Graph Colour Scheme", Whole{&S::gintGraphColourScheme, 1, 3}},
+    {"Fix Graph Max", Flag{&S::gblnFixGraphMax, Number}, {kMain, "chkFixY"}},
+    {"Graph Y Max", Whole{&S::gintGraphYMax, kGraphYMaxLimits}, {kMain, "txtYMax"}},
+    {"Show Checked Only", Flag{&S::gblnShowCheckedOnly, OffUnlessY}, {kMain, "chkShowCheckedOnly"}},
+    {"Auto File Names", Flag{&S::gblnAutoFileNames, OffUnlessY}, {kGeneralPage, "chkAutoFileNames"}},
+    {"Scatter Graph Auto Draw", Flag{&S::gblnScatterGraphAutoDraw, OffUnlessY}, {kGeneralPage, "chkScatterAutoDraw"}},
+    {"Auto Scatter Graph Sample Filter",
+     Flag{&S::gblnAutoScatterFilter, OnUnlessN},
+     {kGeneralPage, "chkAutoScatterFilter"}},
+    {"Show Point Sample Graph Width",
+     Whole{&S::glngShowPointWidth, kShowPointWidthLimits},
+     {kGeneralPage, "txtSampleWidth"}},
+    {"Data Log Line Frequency", kLineFrequency, {kGeneralPage, "txtDefFreq"}},
+    {"Auto Gear Selection", Flag{&S::gblnAutoGearSelection, OnUnlessN}, {kGeneralPage, "chkPowerGraphGearSelection"}},
+    {"Auto Gear Selection Speed Units",
+     Whole{&S::gintGearSpeedUnits, kSpeedUnitsLimits, Left},
+     {kGeneralPage, "cboSpeedUnits"}},
+    {"Auto Gear Selection Speed Conversion Factor", kGearFactor, {kGeneralPage, "txtmsConvFactor"}},
+    {"Initial Plot Width",
+     Whole{&S::glngInitialPlotWidth, kInitialPlotWidthLimits},
+     {kGeneralPage, "txtInitialPlotWidth"}},
+    {"Ambient Temp", Whole{&S::gintAmbientTemp, kAirTemperatureLimits}, {kGeneralPage, "txtAmbTemp"}},
+    {"Humidity Type", kHumidityType, {kGeneralPage, "cboHumidityType"}},
+    {"Relative Humidity", kHumidity, {kGeneralPage, "txtRH"}},
+    {"SAE Correction", Flag{&S::gblnSAECorrection, OffUnlessY}, {kGeneralPage, "chkSAE"}},
+    {"Graph Colour Scheme",
+     Whole{&S::gintGraphColourScheme, kColourSchemeLimits},
+     {kGeneralPage, "cboGraphColourScheme"}},
 };
 
 /// Older files have one key for both: "1" correction by relative humidity, "2" by the wet bulb, else none.
@@ -132,26 +169,33 @@ void ReadOldSAEType(const IniTable& table, S& settings) {
   if (!table.Find(kGeneral, "Humidity Type")) settings.gintHumidityType = *type == "2" ? kWetBulb : 0;
 }
 
-/// What the humidity means, its default and its limits hang on its type and on the air's temperature.
 void SettleHumidity(const IniTable& table, S& settings) {
   constexpr int kUsualWetBulb = 15;  // degrees C
   const bool missing = !table.Find(kGeneral, "Relative Humidity");
-  int& humidity = settings.gintRelativeHumidity;
-  if (settings.gintHumidityType == kWetBulb)
-    humidity = std::clamp(missing ? kUsualWetBulb : humidity, kColdest, settings.gintAmbientTemp);
-  else
-    humidity = std::clamp(humidity, 0, 100);
+  if (missing && settings.gintHumidityType == kWetBulb) settings.gintRelativeHumidity = kUsualWetBulb;
+  settings.gintRelativeHumidity = HumidityLimits(settings).Hold(settings.gintRelativeHumidity);
 }
 
 using A = GraphAngles;
-constexpr int kGreatestAngle = 359;
+constexpr const char* kAnglesSection = "3D Graph";
 
 const IniKey<A> kAngles[] = {
-    {"Initial Fuel Rotation", IniWhole<A>{&A::lngFuelRotation, 0, kGreatestAngle}},
-    {"Initial Fuel Elevation", IniWhole<A>{&A::lngFuelElevation, 0, kGreatestAngle}},
-    {"Initial Ignition Rotation", IniWhole<A>{&A::lngIgnitionRotation, 0, kGreatestAngle}},
-    {"Initial Ignition Elevation", IniWhole<A>{&A::lngIgnitionElevation, 0, kGreatestAngle}},
+    {"Initial Fuel Rotation", IniWhole<A>{&A::lngFuelRotation, kAngleLimits}, {kLinkPage, "txt3DSpec(0)"}},
+    {"Initial Fuel Elevation", IniWhole<A>{&A::lngFuelElevation, kAngleLimits}, {kLinkPage, "txt3DSpec(1)"}},
+    {"Initial Ignition Rotation", IniWhole<A>{&A::lngIgnitionRotation, kAngleLimits}, {kLinkPage, "txt3DSpec(2)"}},
+    {"Initial Ignition Elevation", IniWhole<A>{&A::lngIgnitionElevation, kAngleLimits}, {kLinkPage, "txt3DSpec(3)"}},
 };
+
+/// A row for those who are neither reader nor writer. `part` gives the part of the settings that the key belongs to.
+template <class Record, class Part>
+SettingRow RowOf(const char* section, const IniKey<Record>& key, Part part) {
+  return {section,
+          key.name,
+          key.setIn,
+          LimitsOf(key),
+          [&key, part](const S& settings) { return IniTextOf(key, *part(&settings)); },
+          [&key, part](S& settings, std::string_view text) { ReadIniText(key, text, *part(&settings)); }};
+}
 
 constexpr int kMostRecentFiles = 9;
 
@@ -182,11 +226,11 @@ void WriteGeneralSettings(const Settings& settings, IniWriter& file) {
 }
 
 void ReadGraphAngles(const IniTable& table, GraphAngles& angles) {
-  ReadIniKeys<A>(kAngles, table, {"3D Graph"}, angles);
+  ReadIniKeys<A>(kAngles, table, {kAnglesSection}, angles);
 }
 
 void WriteGraphAngles(const GraphAngles& angles, IniWriter& file) {
-  WriteIniKeys<A>(kAngles, {"3D Graph"}, angles, file);
+  WriteIniKeys<A>(kAngles, {kAnglesSection}, angles, file);
 }
 
 std::vector<std::string> ReadFileList(const IniTable& table, const char* section) {
@@ -201,6 +245,21 @@ std::vector<std::string> ReadFileList(const IniTable& table, const char* section
 void WriteFileList(const std::vector<std::string>& files, IniWriter& file) {
   const int count = std::min(static_cast<int>(files.size()), kMostRecentFiles);
   for (int n = 0; n < count; ++n) file.Line(FileKey(n), files[static_cast<std::size_t>(n)]);
+}
+
+Limits HumidityLimits(const Settings& settings) {
+  if (settings.gintHumidityType != kWetBulb) return kPerCentLimits;
+  return {kAirTemperatureLimits.least, settings.gintAmbientTemp};
+}
+
+std::vector<SettingRow> AllSettings() {
+  const auto whole = [](auto* settings) { return settings; };
+  const auto angles = [](auto* settings) { return &settings->angles; };
+  std::vector<SettingRow> rows;
+  for (const auto& key : kUpToWindows) rows.push_back(RowOf(kGeneral, key, whole));
+  for (const auto& key : kBehindWindows) rows.push_back(RowOf(kGeneral, key, whole));
+  for (const auto& key : kAngles) rows.push_back(RowOf(kAnglesSection, key, angles));
+  return rows;
 }
 
 std::vector<NamedPlacement> AllPlacements() {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+
 #include "model/IniFile.h"
+#include "model/IniKeys.h"
 #include "model/Settings.h"
 
 namespace tarnview {
@@ -14,6 +17,22 @@ void WriteGeneralSettings(const Settings& settings, IniWriter& file);
 
 void ReadGraphAngles(const IniTable& table, GraphAngles& angles);
 void WriteGraphAngles(const GraphAngles& angles, IniWriter& file);
+
+/// A setting as those see it who are neither reader nor writer: the Options window, lists for people.
+struct SettingRow {
+  const char* section;
+  const char* key;
+  SetIn setIn;
+  std::string limits;                                     ///< in words; "" for any text
+  std::function<std::string(const Settings&)> text;       ///< as the file holds it
+  std::function<void(Settings&, std::string_view)> take;  ///< as the reader takes it: clamped, or left as it is
+};
+
+/// Every setting of "General" and "3D Graph" but the windows' placements, in the order of the file.
+std::vector<SettingRow> AllSettings();
+
+/// What the humidity may be: per cent, or a wet bulb's degrees C up to those of the air.
+Limits HumidityLimits(const Settings& settings);
 
 /// "File 0" is the latest; an entry that is missing or empty is passed over.
 std::vector<std::string> ReadFileList(const IniTable& table, const char* section);

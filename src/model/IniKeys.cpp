@@ -29,6 +29,11 @@ std::string ItemNumbersText(const std::vector<int>& items) {
   return Join(texts, ",");
 }
 
+std::string detail::LimitsText(Limits limits) {
+  if (limits == kAnyWhole) return "a whole number";
+  return std::to_string(limits.least) + " to " + std::to_string(limits.most);
+}
+
 std::string detail::FlagText(bool value, IniFlagForm form) {
   switch (form) {
     case IniFlagForm::Number:

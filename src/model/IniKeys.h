@@ -12,6 +12,7 @@
 #include "base/Dates.h"
 #include "base/Numbers.h"
 #include "model/IniFile.h"
+#include "model/SettingLimits.h"
 
 namespace tarnview {
 
@@ -36,7 +37,7 @@ struct IniText {
 template <class Record>
 struct IniWhole {
   std::int32_t Record::*value;
-  std::int32_t least = std::numeric_limits<std::int32_t>::min(), most = std::numeric_limits<std::int32_t>::max();
+  Limits limits = kAnyWhole;
   IniBeyond beyond = IniBeyond::Clamped;
 };
 template <class Record>
@@ -59,6 +60,14 @@ template <class Record>
 struct IniRule {
   void (*read)(Record& record, std::string_view text);
   std::string (*write)(const Record& record);
+  const char* limits = "";  ///< in words
+};
+
+/// Where a user sets a value: a page of the Options window or another window, and the control there. Empty: nowhere,
+/// the program keeps it for itself.
+struct SetIn {
+  const char* window = "";
+  const char* control = "";
 };
 
 template <class Record>
@@ -66,6 +75,7 @@ struct IniKey {
   const char* name;
   std::variant<IniText<Record>, IniWhole<Record>, IniNumber<Record>, IniFlag<Record>, IniDate<Record>, IniRule<Record>>
       kind;
+  SetIn setIn = {};
   bool fromInstall = false;  ///< an empty value is looked up in Tarnview_Install.ini
 };
 
@@ -91,6 +101,7 @@ namespace detail {
 
 std::string FlagText(bool value, IniFlagForm form);
 bool ReadFlag(std::string_view text, IniFlagForm form);
+std::string LimitsText(Limits limits);
 
 template <class Number>
 void TakeNumber(Number& to, Number number, Number least, Number most, IniBeyond beyond) {
@@ -108,7 +119,7 @@ struct IniReader {
   // Not inlined: GCC 12 else takes the row's rule for one of a record that holds no text, and warns of its bounds.
   [[gnu::noinline]] void operator()(const IniText<Record>& key) const { record.*key.value = text; }
   void operator()(const IniWhole<Record>& key) const {
-    TakeNumber(record.*key.value, StringToLong(text), key.least, key.most, key.beyond);
+    TakeNumber(record.*key.value, StringToLong(text), key.limits.least, key.limits.most, key.beyond);
   }
   void operator()(const IniNumber<Record>& key) const {
     TakeNumber(record.*key.value, StringToDouble(text), key.least, key.most, key.beyond);
@@ -130,7 +141,51 @@ struct IniTextOf {
   std::string operator()(const IniRule<Record>& key) const { return key.write(record); }
 };
 
+struct IniLimitsOf {
+  template <class Record>
+  std::string operator()(const IniText<Record>&) const {
+    return "";
+  }
+  template <class Record>
+  std::string operator()(const IniWhole<Record>& key) const {
+    return LimitsText(key.limits);
+  }
+  template <class Record>
+  std::string operator()(const IniNumber<Record>& key) const {
+    return ShortestText(key.least) + " to " + ShortestText(key.most);
+  }
+  template <class Record>
+  std::string operator()(const IniFlag<Record>& key) const {
+    return FlagText(true, key.form) + " or " + FlagText(false, key.form);
+  }
+  template <class Record>
+  std::string operator()(const IniDate<Record>&) const {
+    return "yyyy-mm-dd";
+  }
+  template <class Record>
+  std::string operator()(const IniRule<Record>& key) const {
+    return key.limits;
+  }
+};
+
 }  // namespace detail
+
+/// What a key's value may be, in words: "10 to 1000", "Y or N"; "" for anything.
+template <class Record>
+std::string LimitsOf(const IniKey<Record>& key) {
+  return std::visit(detail::IniLimitsOf{}, key.kind);
+}
+
+/// Takes a key's text, by its rule.
+template <class Record>
+void ReadIniText(const IniKey<Record>& key, std::string_view text, Record& record) {
+  std::visit(detail::IniReader<Record>{record, text}, key.kind);
+}
+/// A key's text, as the file holds it.
+template <class Record>
+std::string IniTextOf(const IniKey<Record>& key, const Record& record) {
+  return std::visit(detail::IniTextOf<Record>{record}, key.kind);
+}
 
 /// Reads the keys of a record. `install` is the table of Tarnview_Install.ini, where there is one.
 template <class Record>
@@ -145,14 +200,13 @@ void ReadIniKeys(std::span<const IniKey<Record>> keys, const IniTable& table, co
       if (!installed.empty()) value = &installed;
     }
     if (value || missing == IniMissing::IsEmpty)
-      std::visit(detail::IniReader<Record>{record, value ? std::string_view(*value) : std::string_view()}, key.kind);
+      ReadIniText(key, value ? std::string_view(*value) : std::string_view(), record);
   }
 }
 
 template <class Record>
 void WriteIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, const Record& record, IniWriter& file) {
-  for (const auto& key : keys)
-    file.Line(place.KeyOf(key.name), std::visit(detail::IniTextOf<Record>{record}, key.kind));
+  for (const auto& key : keys) file.Line(place.KeyOf(key.name), IniTextOf(key, record));
 }
 
 }  // namespace tarnview

@@ -10,7 +10,6 @@ namespace {
 using I = clsLogDataItem;
 
 constexpr long kBlack = 0, kWhite = 0xFFFFFF;
-constexpr long kThinnest = 1, kFattest = 5;
 
 const IniKey<I> kKeys[] = {
     {"Colour", IniRule<I>{[](I& item, std::string_view text) {
@@ -19,12 +18,11 @@ const IniKey<I> kKeys[] = {
                           [](const I& item) { return std::to_string(item.lngColour); }}},
     {"Style", IniRule<I>{[](I& item, std::string_view text) { item.lngLineStyle = StringToLong(text); },
                          [](const I& item) { return std::to_string(item.lngLineStyle); }}},
-    {"Width", IniRule<I>{[](I& item, std::string_view text) {
-                           item.lngLineWidth = std::clamp<long>(StringToLong(text), kThinnest, kFattest);
-                         },
-                         [](const I& item) { return std::to_string(item.lngLineWidth); }}},
+    {"Width",
+     IniRule<I>{[](I& item, std::string_view text) { item.lngLineWidth = kLineWidthLimits.Hold(StringToLong(text)); },
+                [](const I& item) { return std::to_string(item.lngLineWidth); }}},
     {"Display", IniFlag<I>{&I::blnDisplay, IniFlagForm::TrueOrNot}},
-    {"Display Factor", IniNumber<I>{&I::dblSampleDisplayFactor, 0.01, 100}},
+    {"Display Factor", IniNumber<I>{&I::dblSampleDisplayFactor, kLeastDisplayFactor, kMostDisplayFactor}},
 };
 
 IniPlace PlaceOf(const char* section, int item) { return {section, "Item " + std::to_string(item) + " "}; }

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
+#include "model/SettingLimits.h"
 #include "samplegraph/ColourScheme.h"
 #include "samplegraph/GraphScale.h"
 #include "samplegraph/LocateSample.h"
@@ -199,7 +200,7 @@ void SampleGraph::chkFixY_Click() {
 }
 
 void SampleGraph::StepYMax(int by) {
-  controls_.txtYMax.Text = std::to_string(std::clamp(StringToLong(controls_.txtYMax.Text()) + by, 10, 1000));
+  controls_.txtYMax.Text = std::to_string(kGraphYMaxLimits.Hold(StringToLong(controls_.txtYMax.Text()) + by));
 }
 
 }  // namespace tarnview

@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/Column.h"
+#include "model/SettingLimits.h"
 
 namespace tarnview {
 namespace {
@@ -49,8 +50,8 @@ constexpr Attribute<Col> kColumn[] = {
     {"DISPLAYFACTOR",          "dblDisplayFactor",        &Col::dblDisplayFactor, kAny, kAll, "blnDisplayFactorSet"},
     {"DISPLAYZERO",            "blnDisplayZero",          &Col::blnDisplayZero, kAny, kAll, "blnDisplayZeroSet"},
     {"DISPLAYCOLOUR",          "lngColour",               &Col::lngColour, 0, kMostColour, "blnColourSet"},
-    {"DISPLAYLINESTYLE",       "lngLineStyle",            &Col::lngLineStyle, 1, 3, "blnLineStyleSet"},
-    {"DISPLAYLINEWIDTH",       "lngLineWidth",            &Col::lngLineWidth, 1, 5, "blnLineWidthSet"},
+    {"DISPLAYLINESTYLE",       "lngLineStyle",            &Col::lngLineStyle, kLineStyleLimits.least, kLineStyleLimits.most, "blnLineStyleSet"},
+    {"DISPLAYLINEWIDTH",       "lngLineWidth",            &Col::lngLineWidth, kLineWidthLimits.least, kLineWidthLimits.most, "blnLineWidthSet"},
     {"COLUMNMINIMUMVALUE",     "dblMinValue",             &Col::dblMinValue, kAny, kAll, "blnMinValueSet"},
     {"COLUMNMAXIMUMVALUE",     "dblMaxValue",             &Col::dblMaxValue, kAny, kAll, "blnMaxValueSet"},
     {"CONVERSIONFACTOR",       "dblConversionFactor",     &Col::dblConversionFactor, kAny, kAll, "blnConversionFactorSet"},
@@ -66,7 +67,7 @@ constexpr Attribute<Sample> kSampleGraph[] = {
     {"DATA ITEMS",    "colDataItems",   &Sample::colDataItems, 1, kColumnCount},
     {"NAME",          "strName",        &Sample::strName},
     {"FIX GRAPH MAX", "blnFixGraphMax", &Sample::blnFixGraphMax},
-    {"GRAPH MAX",     "lngGraphMax",    &Sample::lngGraphMax, 10, 1000},
+    {"GRAPH MAX",     "lngGraphMax",    &Sample::lngGraphMax, kGraphYMaxLimits.least, kGraphYMaxLimits.most},
 };
 
 constexpr Attribute<Scatter> kScatterGraph[] = {

@@ -180,6 +180,87 @@ TEST(Settings, TakeFromTheInstallFileWhatIsEmpty) {
   EXPECT_EQ(settings.gstrInitialDirectory, "");
 }
 
+/// Key, default, limits, and where it is set.
+std::string Listed(const std::vector<SettingRow>& rows) {
+  std::string text;
+  const Settings defaults;
+  for (const SettingRow& row : rows)
+    text += Join({row.key, row.text(defaults), row.limits, row.setIn.window, row.setIn.control}, " | ") + "\n";
+  return text;
+}
+
+TEST(Settings, AreListedWithDefaultLimitsAndPlace) {
+  EXPECT_EQ(Listed(AllSettings()), R"(Initial Directory |  |  |  | 
+Default File Type | 1 | 1 to 8 | frmOptions/File Locations | cboFileType
+Zoom Amount | 2 | one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100 | frmDataLogViewer | cboZoomAmount
+Quick Graph | 1 | 1 or 0 | frmDataLogViewer | chkQuickGraph
+Checked Data Items | 3,5,7,17,20,21,23,36 | data item numbers with commas | frmDataLogViewer | lvwSampleDetails
+Log EXE |  |  | frmOptions/FM Link ECU | txtPath(0)
+Conversion EXE |  |  | frmOptions/FM Link ECU | txtPath(1)
+Alternative Background Picture |  |  | frmOptions/File Locations | txtPath(2)
+Default Working Directory |  |  | frmOptions/File Locations | txtPath(3)
+Aux Input Conversion File |  |  | frmOptions/FM Link ECU | txtPath(4)
+O2 Input Conversion File |  |  | frmOptions/FM Link ECU | txtPath(5)
+Generic Data Log Definition File |  |  | frmOptions/File Locations | txtPath(6)
+Last Converted Binary File |  |  | frmConvertBIN | txtPath(0)
+Serial Com Port | 1 | 1 to 9 | frmOptions/FM Link ECU | txtComPort
+Default Engine Size | 1.6 | 1.6 or 1.8 | frmOptions/FM Link ECU | cboChipType
+Default Chip Date | 2000-01-01 | yyyy-mm-dd | frmOptions/FM Link ECU | txtChipDate
+Default Chip Version | 2 | 1 to 3 | frmOptions/FM Link ECU | cboChipType
+Default Atmospheric Pressure | 75 | 75 to 115 | frmOptions/General | txtAtmos
+Silent Defaults | N | Y or N | frmOptions/FM Link ECU | chkSilentDefaults
+Default Benchmark |  |  | frmZoneData | cboBenchmark
+Plot From Temperature | 0 | -99 to 99 | frmOptions/General | txtPlotFromTemp
+Display Zone Influence | Y | Y or N | frmDataLogViewer | mnuViewZoneInfl
+Display Sample Details in Scatter Graph | Y | Y or N | frmOptions/General | chkSampleScatter
+Upload Default 0 | 1 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(0)
+Upload Default 1 | 1 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(1)
+Upload Default 2 | 0 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(2)
+Upload Default 3 | 0 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(3)
+Retain Binary Files | Y | Y or N | frmOptions/FM Link ECU | chkRetainBIN
+Auto Open Data Tags Window | Y | Y or N | frmOptions/FM Link ECU | chkAutoTag
+Fix Graph Max | 0 | 1 or 0 | frmDataLogViewer | chkFixY
+Graph Y Max | 250 | 10 to 1000 | frmDataLogViewer | txtYMax
+Show Checked Only | N | Y or N | frmDataLogViewer | chkShowCheckedOnly
+Auto File Names | N | Y or N | frmOptions/General | chkAutoFileNames
+Scatter Graph Auto Draw | N | Y or N | frmOptions/General | chkScatterAutoDraw
+Auto Scatter Graph Sample Filter | Y | Y or N | frmOptions/General | chkAutoScatterFilter
+Show Point Sample Graph Width | 100 | 50 to 1000 | frmOptions/General | txtSampleWidth
+Data Log Line Frequency | 6.66 | above 0 | frmOptions/General | txtDefFreq
+Auto Gear Selection | Y | Y or N | frmOptions/General | chkPowerGraphGearSelection
+Auto Gear Selection Speed Units | 1 | 1 to 3 | frmOptions/General | cboSpeedUnits
+Auto Gear Selection Speed Conversion Factor | 0.44704 | from 0 to below 100 | frmOptions/General | txtmsConvFactor
+Initial Plot Width | 0 | 0 to 300000 | frmOptions/General | txtInitialPlotWidth
+Ambient Temp | 20 | -30 to 60 | frmOptions/General | txtAmbTemp
+Humidity Type | 0 | 0 or 1 | frmOptions/General | cboHumidityType
+Relative Humidity | 50 | 0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp | frmOptions/General | txtRH
+SAE Correction | N | Y or N | frmOptions/General | chkSAE
+Graph Colour Scheme | 1 | 1 to 3 | frmOptions/General | cboGraphColourScheme
+Initial Fuel Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(0)
+Initial Fuel Elevation | 240 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(1)
+Initial Ignition Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(2)
+Initial Ignition Elevation | 130 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(3)
+)");
+}
+
+TEST(Settings, AreTakenOneByOneAsTheReaderTakesThem) {
+  for (const SettingRow& row : AllSettings()) {
+    SCOPED_TRACE(row.key);
+    const std::string line = std::string("[") + row.section + "]\n" + row.key + "=8\n";
+    Settings taken;
+    row.take(taken, "8");
+    EXPECT_EQ(row.text(taken), row.text(ReadSettings(line)));
+  }
+}
+
+TEST(Settings, HoldTheHumidityToWhatItsTypeMeans) {
+  Settings settings;
+  settings.gintAmbientTemp = 31;
+  EXPECT_EQ(HumidityLimits(settings), (Limits{0, 100}));
+  settings.gintHumidityType = 1;
+  EXPECT_EQ(HumidityLimits(settings), (Limits{-30, 31}));
+}
+
 TEST(Settings, WriteTheShortestDecimal) {
   const std::pair<double, const char*> kRows[] = {{0.1, "0.1"},
                                                   {1.8, "1.8"},
