@@ -4,12 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "ui/Colour.h"
 #include "ui/Value.h"
 
 namespace tarnview {
-
-/// Colours are 0xBBGGRR: red in the low byte.
-using Colour = long;
 
 /// A line: style 1 is solid, 2 dotted, anything else dashed; width in tenths of an item's line width (10 to 50).
 struct Pen {

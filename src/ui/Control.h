@@ -63,6 +63,12 @@ class Control {
 
  protected:
   virtual void Perform(const Action& action);
+  /// A key that neither the window nor a handler took: true if this kind of control takes it.
+  virtual bool TakesKey(const KeyPress&) { return false; }
+  /// The same for a key that would write: with a toolkit, its own field does that.
+  virtual bool WritesKey(const KeyPress&) { return false; }
+  /// Before LostFocus.
+  virtual void LeavesFocus() {}
   void Changed(What what) const;
   /// A Property of this control that is shown, and nothing more.
   template <class T>

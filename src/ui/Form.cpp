@@ -33,7 +33,10 @@ void Form::SetFocus(Control* control) {
   if (control == active_) return;
   Control* left = active_;
   active_ = control;
-  if (left) left->LostFocus();
+  if (left) {
+    left->LeavesFocus();
+    left->LostFocus();
+  }
   if (active_ == control && control) {
     control->GotFocus();
     control->Changed(What::Focus);
@@ -67,11 +70,11 @@ bool Form::KeyGoesDown(const KeyPress& key) {
   if (Form_KeyDown(key)) return true;
   bool eaten = false;
   if (active_ && active_->Enabled) active_->KeyDown(key, eaten);
-  return eaten;
+  return eaten || (active_ && active_->Enabled && active_->TakesKey(key));
 }
 
 bool Form::Press(const KeyPress& key) {
-  bool taken = KeyGoesDown(key);
+  bool taken = KeyGoesDown(key) || (active_ && active_->Enabled && active_->WritesKey(key));
   if (!taken && key.Plain()) {
     CommandButton* button = key.key == "Enter" ? DefaultButton : key.key == "Escape" ? CancelButton : nullptr;
     if (button && button->Enabled) {

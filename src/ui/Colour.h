@@ -1,0 +1,10 @@
+#pragma once
+
+namespace tarnview {
+
+/// Colours are 0xBBGGRR: red in the low byte.
+using Colour = long;
+/// Stands for the desktop's own colour in that place.
+inline constexpr Colour kDesktopColour = -1;
+
+}  // namespace tarnview
