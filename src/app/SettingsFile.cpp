@@ -71,6 +71,7 @@ struct Section {
   Half half;
   void (*read)(const Reading& from);
   void (*write)(const Globals& globals, IniWriter& file);
+  bool mayBeMissing = false;  ///< its heading stands only over lines
 };
 
 /// In the order of the file.
@@ -103,6 +104,9 @@ const Section kSections[] = {
      [](const Globals& globals, IniWriter& file) { WriteItemDisplay(globals.catalogue.gcolFixedDataItems, file); }},
     {kGenericItemDisplaySection, nullptr, Half::BehindDefinition, ReadUniversalDisplay,
      [](const Globals& globals, IniWriter& file) { WriteItemDisplay(globals.catalogue.gcolUniversalDataItems, file); }},
+    {kBeyondSection, nullptr, Half::BeforeDefinition,
+     [](const Reading& from) { ReadBeyondSettings(from.table, from.globals.settings.beyond); },
+     [](const Globals& globals, IniWriter& file) { WriteBeyondSettings(globals.settings.beyond, file); }, true},
 };
 
 void ReadHalf(Half half, const Reading& from) {
@@ -172,8 +176,11 @@ bool SettingsFile::WriteINIFile(const std::string& path, const std::function<voi
   IniWriter file;
   for (const Section& section : kSections) {
     if (section.status) say(section.status);
+    IniWriter body;
+    section.write(globals_, body);
+    if (section.mayBeMissing && body.Text().empty()) continue;
     file.Section(section.heading);
-    section.write(globals_, file);
+    file.Lines(body);
   }
   if (!services_.files.Write(path, file.Text())) {
     services_.messages.ShowMessage(kNotWritten);

@@ -273,6 +273,7 @@ Settings ReadSettings(std::string_view text) {
   Settings settings;
   ReadGeneralSettings(table, nullptr, settings);
   ReadGraphAngles(table, settings.angles);
+  ReadBeyondSettings(table, settings.beyond);
   settings.recentFiles = ReadFileList(table, "Recently Used Files");
   settings.recentPowerGraphFiles = ReadFileList(table, "Recently Used Power Graph Files");
   return settings;

@@ -47,6 +47,8 @@ class IniWriter {
  public:
   void Section(std::string_view name);
   void Line(std::string_view key, std::string_view value);
+  /// What another one has written.
+  void Lines(const IniWriter& other) { text_ += other.text_; }
   const std::string& Text() const { return text_; }
 
  private:

@@ -209,4 +209,15 @@ void WriteIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, c
   for (const auto& key : keys) file.Line(place.KeyOf(key.name), IniTextOf(key, record));
 }
 
+/// The keys alone whose text is not that of a fresh record.
+template <class Record>
+void WriteChangedIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, const Record& record,
+                         IniWriter& file) {
+  const Record fresh{};
+  for (const auto& key : keys) {
+    const std::string text = std::visit(detail::IniTextOf<Record>{record}, key.kind);
+    if (text != std::visit(detail::IniTextOf<Record>{fresh}, key.kind)) file.Line(place.KeyOf(key.name), text);
+  }
+}
+
 }  // namespace tarnview

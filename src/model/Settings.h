@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Dates.h"
+#include "model/BeyondSettings.h"
 #include "model/clsWindowConfig.h"
 
 namespace tarnview {
@@ -70,8 +71,9 @@ struct Settings {
   int gintHumidityType = 0;                  ///< 0 relative humidity, 1 wet bulb temperature
   int gintRelativeHumidity = 50;             ///< per cent, or degrees C up to gintAmbientTemp
   bool gblnSAECorrection = false;
-  int gintGraphColourScheme = 1;                   ///< 1 grey, 2 black, 3 white
-  GraphAngles angles;                              ///< section "3D Graph"
+  int gintGraphColourScheme = 1;  ///< 1 grey, 2 black, 3 white
+  GraphAngles angles;             ///< section "3D Graph"
+  BeyondSettings beyond;
   std::vector<std::string> recentFiles;            ///< "id|path", the latest first
   std::vector<std::string> recentPowerGraphFiles;  ///< paths, the latest first
   bool firstRun = false;  ///< the file is fresh from a template, and no user's choices are in it yet

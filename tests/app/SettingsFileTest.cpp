@@ -165,6 +165,16 @@ TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
             catalogue.gcolFixedDataItems.Item(kKnockRetard).lngLineStyle);
 }
 
+TEST_F(SettingsFileTest, SettingsBeyondTheSettledOnesStandLastAndOnlyWhereTheyAreNotTheirDefault) {
+  const std::string drawn = "[Beyond]\r\nDraw After Opening=Y\r\n";
+  StartKeeping(drawn);
+  EXPECT_TRUE(program->Global().settings.beyond.drawAfterOpening);
+  EXPECT_TRUE(Closed().ends_with("\r\n" + drawn));
+  StartKeeping("[Beyond]\r\nDraw After Opening=N\r\n");
+  EXPECT_FALSE(program->Global().settings.beyond.drawAfterOpening);
+  EXPECT_THAT(Closed(), Not(HasSubstr("Beyond")));
+}
+
 TEST_F(SettingsFileTest, TheCommandLineKeepsNothing) {
   Start("", FullSettings());
   Main().Unload();

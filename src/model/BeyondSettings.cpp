@@ -1,0 +1,24 @@
+#include "model/BeyondSettings.h"
+
+#include "model/IniKeys.h"
+
+namespace tarnview {
+namespace {
+
+using B = BeyondSettings;
+
+const IniKey<B> kKeys[] = {
+    {"Draw After Opening", IniFlag<B>{&B::drawAfterOpening, IniFlagForm::OffUnlessY}},
+};
+
+}  // namespace
+
+void ReadBeyondSettings(const IniTable& table, BeyondSettings& settings) {
+  ReadIniKeys<B>(kKeys, table, {kBeyondSection}, settings);
+}
+
+void WriteBeyondSettings(const BeyondSettings& settings, IniWriter& file) {
+  WriteChangedIniKeys<B>(kKeys, {kBeyondSection}, settings, file);
+}
+
+}  // namespace tarnview

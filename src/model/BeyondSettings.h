@@ -1,0 +1,19 @@
+#pragma once
+
+#include "model/IniFile.h"
+
+namespace tarnview {
+
+inline constexpr const char* kBeyondSection = "Beyond";
+
+/// Settings that came after the file's form was settled: the section "Beyond", behind all others. Each is written only
+/// where it differs from its default, so that a file with none of them is as it always was.
+struct BeyondSettings {
+  bool drawAfterOpening = false;  ///< a log's ticked items are drawn as soon as it is open
+};
+
+void ReadBeyondSettings(const IniTable& table, BeyondSettings& settings);
+/// Writes no heading, and nothing where every setting has its default.
+void WriteBeyondSettings(const BeyondSettings& settings, IniWriter& file);
+
+}  // namespace tarnview
