@@ -198,6 +198,40 @@ TEST_F(BinderTest, AScrollBarCountsWhenItsThumbIsLetGo) {
   EXPECT_THAT(values, ElementsAre(300, 400, 50)) << "no echo";
 }
 
+TEST_F(BinderTest, AThumbThatIsHeldIsLookedAtAgainWhenItIsLetGo) {
+  form_.hsbGraphScroll.Max = 1000;
+  Settle();
+  auto& bar = Find<QScrollBar>("hsbGraphScroll");
+  bar.setSliderDown(true);
+  form_.hsbGraphScroll.Value = 500;
+  form_.lblZoomAmount.Caption = std::string("Zoomed");
+  Settle();
+  EXPECT_EQ(Find<QLabel>("lblZoomAmount").text(), "Zoomed");
+  EXPECT_EQ(bar.value(), 0);
+  bar.setSliderDown(false);
+  Settle();
+  EXPECT_EQ(bar.value(), 500);
+}
+
+TEST_F(BinderTest, AFlushEndsThoughSomethingMarksItselfInIt) {
+  struct SelfMarking : Adapter {
+    SelfMarking(Control& control, QObject* view, Binder& binder) : Adapter(control, view, binder) {}
+    void ShowContent() override {
+      ++shown;
+      if (again) MarkDirty(What::Content);
+    }
+    int shown = 0;
+    bool again = true;
+  } marking(form_.lblZoomAmount, &Find<QLabel>("lblZoomAmount"), window_.binder());
+  marking.MarkDirty(What::Content);
+  window_.binder().Flush();
+  const int first = marking.shown;
+  EXPECT_GT(first, 1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return marking.shown > first; })) << "it is not forgotten";
+  marking.again = false;
+  window_.binder().Flush();
+}
+
 TEST_F(BinderTest, KeysGoThroughTheFormFirst) {
   int draws = 0;
   form_.DefaultButton = &form_.cmdDrawGraph;

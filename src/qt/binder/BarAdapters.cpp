@@ -16,10 +16,12 @@ ScrollBarAdapter::ScrollBarAdapter(ScrollBar& bar, QScrollBar& view, Binder& bin
     MarkDirty(What::Content);
     bar_.Value = value;
   });
+  connect(&view, &QScrollBar::sliderReleased, this, [this] { MarkDirty(What::Content); });
 }
 
 void ScrollBarAdapter::ShowContent() {
-  if (view_.isSliderDown()) return MarkDirty(What::Content);
+  // A thumb in the user's hand stays there; it is looked at again when it is let go.
+  if (view_.isSliderDown()) return;
   const QSignalBlocker quiet(view_);
   const auto [low, high] = std::minmax(bar_.Min(), bar_.Max());
   view_.setRange(low, high);

@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QPointer>
-#include <QTimer>
 #include <QVariant>
 #include <QWidget>
 #include <algorithm>
@@ -11,6 +10,14 @@
 #include "ui/Form.h"
 
 namespace tarnview {
+namespace {
+
+/// Showing the focus makes a field dirty that was left, whose handler corrects another: no window needs more.
+constexpr std::size_t kMostRounds = 4;
+/// Milliseconds until what is dirty even then is shown: short for the eye, long for the processor.
+constexpr int kLater = 20;
+
+}  // namespace
 
 std::string ViewName(const Control& control) {
   return control.index < 0 ? control.name : control.name + "_" + std::to_string(control.index);
@@ -26,6 +33,8 @@ std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window) {
 }
 
 Binder::Binder(Form& form, QWidget& window) : window_(window) {
+  nextFlush_.setSingleShot(true);
+  connect(&nextFlush_, &QTimer::timeout, this, &Binder::Flush);
   for (Control* control : form.Controls()) Bind(*control);
   Flush();
 }
@@ -46,18 +55,23 @@ void Binder::Add(std::unique_ptr<Adapter> adapter) {
 }
 
 void Binder::Queue(Adapter& adapter) {
-  if (std::find(dirty_.begin(), dirty_.end(), &adapter) != dirty_.end()) return;
-  if (dirty_.empty()) QTimer::singleShot(0, this, &Binder::Flush);
-  dirty_.push_back(&adapter);
+  if (std::find(dirty_.begin(), dirty_.end(), &adapter) == dirty_.end()) dirty_.push_back(&adapter);
+  if (!nextFlush_.isActive()) nextFlush_.start(0);
 }
 
 void Binder::Flush() {
-  // Showing focus raises events of the controls, which may make others dirty.
-  while (!dirty_.empty()) {
+  // A handler of the focus may close the window, and this binder goes with it.
+  const QPointer<Binder> self(this);
+  for (std::size_t left = kMostRounds * adapters_.size(); left > 0 && !dirty_.empty(); --left) {
     Adapter* next = dirty_.front();
     dirty_.erase(dirty_.begin());
     next->Refresh();
+    if (!self) return;
   }
+  if (dirty_.empty())
+    nextFlush_.stop();
+  else
+    nextFlush_.start(kLater);
 }
 
 Control* Binder::ControlOf(const QObject* widget) const {

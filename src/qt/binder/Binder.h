@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,7 +21,8 @@ std::string ViewName(const Control& control);
 std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window);
 
 /// Ties the controls of a form to the widgets of its window by their names. What changes in the controls is shown
-/// once per turn of the event loop, or at once by Flush.
+/// once per turn of the event loop, or at once by Flush. What a refresh changes again is shown in the same flush, a few
+/// rounds long; then it waits for a later one, so that two that change each other never hold up the program.
 class Binder : public QObject {
  public:
   Binder(Form& form, QWidget& window);
@@ -40,6 +42,7 @@ class Binder : public QObject {
   QWidget& window_;
   std::vector<std::unique_ptr<Adapter>> adapters_;
   std::vector<Adapter*> dirty_;
+  QTimer nextFlush_;
 };
 
 }  // namespace tarnview
