@@ -12,7 +12,8 @@ std::string FromQt(const QString& text);
 /// A text that is only shown, never read back, and may hold a path.
 QString ShownToQt(const std::string& text);
 
-/// Paths are the platform's bytes.
+/// Paths are the platform's bytes; one whose bytes are no text of the platform goes to the toolkit and back unharmed,
+/// though only files of the program's own FileSystem are found under it there.
 QString PathToQt(const std::string& path);
 std::string PathFromQt(const QString& path);
 

@@ -290,6 +290,11 @@ TEST_F(BinderTest, AFrameHasAPictureBehindIt) {
   form_.fraPicture.BackgroundPicture = path.toStdString();
   Settle();
   EXPECT_LT(foot().green(), bare.green() - 50);
+  const std::string pipe = folder.filePath("pipe.png").toStdString();
+  ASSERT_EQ(std::system(("mkfifo '" + pipe + "'").c_str()), 0);
+  form_.fraPicture.BackgroundPicture = pipe;
+  Settle();
+  EXPECT_EQ(foot(), bare) << "nobody waits for a pipe";
   form_.fraPicture.BackgroundPicture = std::string("/gone.png");
   Settle();
   EXPECT_EQ(foot(), bare);

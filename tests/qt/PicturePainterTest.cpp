@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QFile>
 #include <QImage>
@@ -10,9 +10,13 @@
 #include "qt/chart/ChartColours.h"
 #include "qt/chart/ClipLine.h"
 #include "qt/chart/PicturePainter.h"
+#include "support/MemoryFileSystem.h"
 
 namespace tarnview {
 namespace {
+
+using testing::Each;
+using testing::StartsWith;
 
 ChartDescription TwoCurves(const ChartColours& colours, int points = 500) {
   ChartDescription chart;
@@ -89,6 +93,27 @@ TEST(ClipLineTest, KeepsWhatLiesWithin) {
   EXPECT_EQ(ClipLine({{-5, 5}, {15, 5}}, box), (std::vector<QPolygonF>{{{0, 5}, {10, 5}}}));
   EXPECT_TRUE(ClipLine({{-5, 12}, {15, 12}}, box).empty());
   EXPECT_TRUE(ClipLine({{3, 3}}, box).empty());
+}
+
+TEST_F(PicturePainterTest, APictureIsWrittenAsEveryFileIs) {
+  MemoryFileSystem disk;
+  for (const std::string path : {"/a.png", "/b.svg", "/c.pdf", "/run \xE9.png"}) {
+    EXPECT_TRUE(DrawPicture(disk, TwoCurves({}), path, 100, 100, error_)) << error_;
+    disk.failWrites = true;
+    EXPECT_FALSE(DrawPicture(disk, TwoCurves({}), path, 90, 90, error_)) << path;
+    EXPECT_NE(error_.find("cannot be written"), std::string::npos);
+    disk.failWrites = false;
+  }
+  EXPECT_THAT(disk.accesses, Each(StartsWith("write /"))) << "nothing goes past the disk";
+  EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(disk.files["/a.png"])).size(), QSize(100, 100));
+  EXPECT_TRUE(disk.files.contains("/run \xE9.png")) << "a name that is no UTF-8";
+}
+
+TEST(TextTest, APathOfAnyBytesComesBack) {
+  for (const std::string path :
+       {"/run.txt", "/\xC3\xA9\xF0\x9F\x98\x80.txt", "/\xE9 \xC3\xA9.txt", "\xED\xB2\x80", "\xFF"})
+    EXPECT_EQ(PathFromQt(PathToQt(path)), path);
+  EXPECT_EQ(PathFromQt(PathToQt("/\xE9/") + QString::fromUtf8("\xC3\xA9.png")), "/\xE9/\xC3\xA9.png");
 }
 
 TEST_F(PicturePainterTest, WhatCannotBeDrawnIsTold) {

@@ -10,6 +10,7 @@
 #include "qt/TestApplication.h"
 #include "qt/host/Printing.h"
 #include "qt/host/QtHost.h"
+#include "support/MemoryFileSystem.h"
 #include "ui/Chart.h"
 #include "ui/Form.h"
 #include "ui/RecordingHost.h"
@@ -30,6 +31,7 @@ class PrintingTest : public ::testing::Test {
   static QSize Wide(const Chart&) { return {1400, 700}; }
 
   QTemporaryDir folder;
+  RealFileSystem disk;
   RecordingHost host;
   Form form{host, "frmAny", "Any"};
   Chart chart{form, "chAny"};
@@ -46,7 +48,7 @@ TEST_F(PrintingTest, APageOfAPrinterHasTitleAndChart) {
   std::string error;
   const auto size = [&](const QString& name, const PrintJob& what) {
     printer.setOutputFileName(folder.filePath(name));
-    EXPECT_TRUE(DrawPage(what, printer, Wide, error)) << error;
+    EXPECT_TRUE(DrawPage(disk, what, printer, Wide, error)) << error;
     QFile file(folder.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
@@ -56,8 +58,24 @@ TEST_F(PrintingTest, APageOfAPrinterHasTitleAndChart) {
   const PrintJob empty{"Page", [](Page&) {}};
   EXPECT_GT(size("page.pdf", job), size("empty.pdf", empty) + 2000);
   printer.setOutputFileName(folder.filePath("none/page.pdf"));
-  EXPECT_FALSE(DrawPage(job, printer, Wide, error));
+  EXPECT_FALSE(DrawPage(disk, job, printer, Wide, error));
   EXPECT_NE(error.find("none/page.pdf"), std::string::npos);
+}
+
+TEST_F(PrintingTest, AFileInThePrintersPlaceIsWrittenWholeOrNotAtAll) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(QPageLayout::Landscape);
+  printer.setOutputFileName("/paper/page.pdf");
+  MemoryFileSystem memory;
+  std::string error;
+  EXPECT_TRUE(DrawPage(memory, job, printer, Wide, error)) << error;
+  const std::string whole = memory.files["/paper/page.pdf"];
+  EXPECT_EQ(whole.substr(0, 5), "%PDF-");
+  EXPECT_NE(whole.find("MediaBox [0 0 842"), std::string::npos) << "the page as the printer has it";
+  memory.failWrites = true;
+  EXPECT_FALSE(DrawPage(memory, job, printer, Wide, error));
+  EXPECT_NE(error.find("/paper/page.pdf"), std::string::npos);
+  EXPECT_EQ(memory.files["/paper/page.pdf"], whole);
 }
 
 TEST_F(PrintingTest, ThePictureIsCopiedAsPixelsAndAsADrawing) {

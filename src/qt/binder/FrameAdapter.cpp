@@ -5,13 +5,23 @@
 #include <QStyle>
 #include <QWidget>
 
-#include "qt/Text.h"
+#include "base/FileSystem.h"
 
 namespace tarnview {
 namespace {
 
 /// Faint enough for the texts in front to be read.
 constexpr double kOpacity = 0.4;
+
+/// Read as every file is, under a name of any bytes, and never from a pipe that nobody fills. None for what is none.
+QPixmap PictureIn(const std::string& path) {
+  QPixmap picture;
+  if (const auto bytes = RealFileSystem().Read(path)) {
+    const std::string_view all = *bytes;
+    picture.loadFromData(reinterpret_cast<const uchar*>(all.data()), static_cast<uint>(all.size()));
+  }
+  return picture;
+}
 
 }  // namespace
 
@@ -23,7 +33,7 @@ FrameAdapter::FrameAdapter(Frame& frame, QWidget& view, Binder& binder)
 void FrameAdapter::ShowContent() {
   const std::string& path = frame_.BackgroundPicture();
   if (path.empty() && picture_.isNull()) return;
-  picture_ = path.empty() ? QPixmap() : QPixmap(PathToQt(path));
+  picture_ = path.empty() ? QPixmap() : PictureIn(path);
   view_.update();
 }
 

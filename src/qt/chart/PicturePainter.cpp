@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QImage>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <algorithm>
 
@@ -16,6 +15,9 @@ namespace {
 /// What a pixel of a picture is on paper.
 constexpr int kPixelsPerInch = 96;
 constexpr int kLargestSide = 16384;
+/// The disk does not tell the reason apart.
+constexpr const char* kNotWritten =
+    "The file cannot be written: its folder is missing or closed to writing, or the disk is full.";
 
 struct Picture {
   Picture(const ChartDescription& description, int itsWidth, int itsHeight) : width(itsWidth), height(itsHeight) {
@@ -71,7 +73,8 @@ constexpr Format kFormats[] = {{".png", DrawPng}, {".svg", DrawSvgTo}, {".pdf", 
 
 }  // namespace
 
-bool DrawPicture(const ChartDescription& chart, const std::string& path, int width, int height, std::string& error) {
+bool DrawPicture(FileSystem& files, const ChartDescription& chart, const std::string& path, int width, int height,
+                 std::string& error) {
   const QString name = PathToQt(path);
   const auto format = std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format& one) {
     return name.endsWith(QLatin1String(one.ending), Qt::CaseInsensitive);
@@ -91,11 +94,14 @@ bool DrawPicture(const ChartDescription& chart, const std::string& path, int wid
     error = "It could not be drawn.";
     return false;
   }
-  // Written beside the old file and renamed, so that at every moment the old or the new one is whole.
-  QSaveFile file(name);
-  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return true;
-  error = FromQt(file.errorString());
+  if (files.Write(path, bytes.toStdString())) return true;
+  error = kNotWritten;
   return false;
+}
+
+bool DrawPicture(const ChartDescription& chart, const std::string& path, int width, int height, std::string& error) {
+  RealFileSystem files;
+  return DrawPicture(files, chart, path, width, height, error);
 }
 
 QImage DrawImage(const ChartDescription& chart, QSize size, double ratio) {

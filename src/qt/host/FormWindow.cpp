@@ -40,8 +40,13 @@ QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
 }
 
 /// The one local file that is dragged; empty for anything else.
-QString DraggedFile(const QMimeData& data) {
-  return data.urls().size() == 1 ? data.urls().constFirst().toLocalFile() : QString();
+std::string DraggedFile(const QMimeData& data) {
+  if (data.urls().size() != 1) return {};
+  const QUrl url = data.urls().constFirst();
+  const QString path = url.toLocalFile();
+  // The toolkit has a mark in the place of each byte that is no text.
+  if (!path.contains(QChar::ReplacementCharacter)) return PathFromQt(path);
+  return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
 
 /// Enter belongs to a field of several lines and to an open list.
@@ -124,17 +129,17 @@ bool FormWindow::WindowEvent(QEvent& event) {
       NoteWhereItIs();
       return false;
     case QEvent::DragEnter:
-      if (auto& drag = static_cast<QDragEnterEvent&>(event); !DraggedFile(*drag.mimeData()).isEmpty())
+      if (auto& drag = static_cast<QDragEnterEvent&>(event); !DraggedFile(*drag.mimeData()).empty())
         drag.acceptProposedAction();
       return true;
     case QEvent::Drop: {
       auto& drop = static_cast<QDropEvent&>(event);
-      const QString path = DraggedFile(*drop.mimeData());
-      if (path.isEmpty()) return true;
+      const std::string path = DraggedFile(*drop.mimeData());
+      if (path.empty()) return true;
       drop.acceptProposedAction();
       // Opened after the drop is over, so that the window dragged from does not wait for a long load.
       QMetaObject::invokeMethod(
-          this, [this, path] { form_.DropFile(PathFromQt(path)); }, Qt::QueuedConnection);
+          this, [this, path] { form_.DropFile(path); }, Qt::QueuedConnection);
       return true;
     }
     default:

@@ -2,6 +2,9 @@
 
 #include <qcustomplot.h>
 
+#include <QBuffer>
+#include <QPaintEngine>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -22,17 +25,39 @@ std::string Refusal(const QPrinter& printer) {
   return "The printer does not answer: " + FromQt(printer.printerName());
 }
 
+bool Fill(const PrintJob& job, QPagedPaintDevice& paper, const SizeOfChart& sizeOf) {
+  QCPPainter painter;
+  if (!painter.begin(&paper)) return false;
+  PaperPage page(painter, paper, sizeOf);
+  job.fill(page);
+  return painter.end();
+}
+
+/// What the preview asks for is drawn on its own pages, though the printer names a file.
+bool GoesToFile(const QPrinter& printer) {
+  return !printer.outputFileName().isEmpty() && printer.paintEngine()->type() != QPaintEngine::Picture;
+}
+
+/// The toolkit's own printing into a file tells nothing of a disk that is full at the end.
+bool FillFile(FileSystem& files, const PrintJob& job, const QPrinter& printer, const SizeOfChart& sizeOf) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter pdf(&buffer);
+  pdf.setTitle(printer.docName());
+  pdf.setResolution(printer.resolution());
+  pdf.setPageLayout(printer.pageLayout());
+  return Fill(job, pdf, sizeOf) && files.Write(PathFromQt(printer.outputFileName()), bytes.toStdString());
+}
+
 }  // namespace
 
-bool DrawPage(const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf, std::string& error) {
-  QCPPainter painter;
-  if (painter.begin(&printer)) {
-    PaperPage page(painter, printer, sizeOf);
-    job.fill(page);
-    if (painter.end() && printer.printerState() != QPrinter::Error) return true;
-  }
-  error = Refusal(printer);
-  return false;
+bool DrawPage(FileSystem& files, const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf,
+              std::string& error) {
+  const bool drawn = GoesToFile(printer) ? FillFile(files, job, printer, sizeOf)
+                                         : Fill(job, printer, sizeOf) && printer.printerState() != QPrinter::Error;
+  if (!drawn) error = Refusal(printer);
+  return drawn;
 }
 
 Printing::Printing(SizeOfChart sizeOf) : sizeOf_(std::move(sizeOf)) {}
@@ -52,7 +77,7 @@ bool Printing::Print(const PrintJob& job, QWidget* parent, std::string& error) {
   QPrinter& printer = PrinterFor(job);
   QPrintDialog box(&printer, parent);
   box.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-  return box.exec() == QDialog::Accepted && DrawPage(job, printer, sizeOf_, error);
+  return box.exec() == QDialog::Accepted && DrawPage(files_, job, printer, sizeOf_, error);
 }
 
 bool Printing::Preview(const PrintJob& job, QWidget* parent, std::string& error) {
@@ -63,7 +88,7 @@ bool Printing::Preview(const PrintJob& job, QWidget* parent, std::string& error)
   box.resize((screen * 3 / 4).expandedTo(kToolsAndPage).boundedTo(screen));
   QObject::connect(&box, &QPrintPreviewDialog::paintRequested, [&](QPrinter* printer) {
     error.clear();
-    DrawPage(job, *printer, sizeOf_, error);
+    DrawPage(files_, job, *printer, sizeOf_, error);
   });
   box.exec();
   return error.empty();

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "base/FileSystem.h"
 #include "qt/host/PaperPage.h"
 #include "ui/Host.h"
 
@@ -24,11 +25,12 @@ class Printing {
  private:
   QPrinter& PrinterFor(const PrintJob& job);
 
+  RealFileSystem files_;
   SizeOfChart sizeOf_;
   std::unique_ptr<QPrinter> printer_;
 };
 
-/// Draws the page on a printer that was chosen. False: `error` says why.
-bool DrawPage(const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf, std::string& error);
+/// Draws the page on a printer that was chosen, or into the file that was chosen in its place. False: `error` says why.
+bool DrawPage(FileSystem& files, const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf, std::string& error);
 
 }  // namespace tarnview
