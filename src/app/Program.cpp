@@ -40,6 +40,7 @@ void Program::FindInstallINIFile() {
 
 void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
+  if (!folders_.program.empty()) files_.ClearLeftovers(folders_.program);
   clsFileTypes& types = globals_.kinds.gcolFileTypes;
   for (int id = 1; id <= types.Count(); ++id) types.Item(id).blnEnabled = true;
   if (splash) {

@@ -11,10 +11,12 @@ ErrorLog::ErrorLog(FileSystem& files, Clock& clock, std::string path)
     : files_(files), clock_(clock), path_(std::move(path)) {}
 
 void ErrorLog::ResetErrorLog() {
-  if (path_.empty()) return;
+  if (path_.empty() || !files_.Hold(path_)) return;
+  files_.LetGo(path_);
   files_.DeleteFile(path_);
   files_.Write(path_, std::string("Tarnview Error File") + kLineEnd + "File Created : " + LogTime(clock_.Now()) +
                           kLineEnd + kLineEnd);
+  files_.Hold(path_);  // the new file
 }
 
 void ErrorLog::LogError(const std::string& module, const std::string& procedure, const RuntimeError& error,

@@ -17,6 +17,7 @@ class ErrorLog {
   /// An empty path writes nothing.
   ErrorLog(FileSystem& files, Clock& clock, std::string path);
 
+  /// Not while another running program has it: both then write into one.
   void ResetErrorLog();
 
   /// Appends an entry. With `reraise` the error goes on to the caller's handler, which logs its own entry; the

@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -6,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <memory>
 #include <utility>
@@ -15,9 +17,6 @@
 
 namespace tarnview {
 namespace {
-
-/// No file that the program reads is near it; a sparse file may claim any size.
-constexpr off_t kMostBytes = off_t{1} << 30;
 
 class Descriptor {
  public:
@@ -77,22 +76,31 @@ std::string Resolved(const std::string& path) {
   return real ? real.get() : path;
 }
 
-/// The name bears the process's number: two programs that save at once do not meet, and what a killed one left
-/// behind is in nobody's way.
+std::string FolderOf(const std::string& path) { return path.substr(0, path.size() - FileTitle(path).size()); }
+
+/// The name bears the process's number: two programs that save at once do not meet.
 std::string NameBeside(const std::string& path) {
-  return path.substr(0, path.size() - FileTitle(path).size()) + ".tarnview-" + std::to_string(::getpid()) + ".tmp";
+  return FolderOf(path) + ".tarnview-" + std::to_string(::getpid()) + ".tmp";
 }
 
-bool FillNewFile(const std::string& path, std::string_view bytes, const struct stat* old) {
-  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+/// Fills the new file, which stays locked as long as `file` is open: it is no leftover. (A disk without locks never
+/// has its leftovers cleared.)
+bool FillNewFile(const Descriptor& file, std::string_view bytes, const struct stat* old) {
   if (!file) return false;
+  ::flock(file(), LOCK_EX | LOCK_NB);
   if (old && ::fchmod(file(), old->st_mode & 07777) != 0) return false;
-  return WriteAll(file(), bytes) && ::fsync(file()) == 0 && file.Close();
+  return WriteAll(file(), bytes) && ::fsync(file()) == 0;
+}
+
+/// Deletes an unfinished file unless its writer still has it.
+void ClearLeftover(const std::string& path) {
+  const Descriptor file(OpenRegular(path, O_RDONLY));
+  if (file && ::flock(file(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
 }
 
 /// Brings a folder's new entry to the disk, so that it outlives a power cut; a disk that cannot do it is no failure.
 void FlushFolderOf(const std::string& path) {
-  const std::string folder = path.substr(0, path.size() - FileTitle(path).size());
+  const std::string folder = FolderOf(path);
   const Descriptor opened(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (opened) ::fsync(opened());
 }
@@ -103,7 +111,7 @@ std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
   if (!IsRegular(path)) return std::nullopt;
   const Descriptor file(OpenRegular(path, O_RDONLY));
   struct stat facts;
-  if (!file || ::fstat(file(), &facts) != 0 || facts.st_size > kMostBytes) return std::nullopt;
+  if (!file || ::fstat(file(), &facts) != 0 || facts.st_size > kMostFileBytes) return std::nullopt;
   try {
     FileBytes bytes;
     if (!ReadAll(file(), bytes, static_cast<std::size_t>(facts.st_size))) return std::nullopt;
@@ -113,19 +121,48 @@ std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
   }
 }
 
+std::string RealFileSystem::WhyNotRead(const std::string& path) {
+  struct stat facts;
+  if (::stat(path.c_str(), &facts) != 0) return std::strerror(errno);
+  if (!S_ISREG(facts.st_mode)) return "It is not a file.";
+  if (facts.st_size > kMostFileBytes) return kTooLargeToRead;
+  if (::access(path.c_str(), R_OK) != 0) return std::strerror(errno);
+  return kNoMemoryToRead;
+}
+
 bool RealFileSystem::Write(const std::string& path, std::string_view bytes) {
   const std::string target = Resolved(path);
   struct stat facts;
   const bool isThere = ::stat(target.c_str(), &facts) == 0;
   if (isThere && !S_ISREG(facts.st_mode)) return false;
+  ClearLeftovers(FolderOf(target));
   const std::string fresh = NameBeside(target);
-  ::unlink(fresh.c_str());
-  if (FillNewFile(fresh, bytes, isThere ? &facts : nullptr) && ::rename(fresh.c_str(), target.c_str()) == 0) {
+  const Descriptor file(::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  if (FillNewFile(file, bytes, isThere ? &facts : nullptr) && ::rename(fresh.c_str(), target.c_str()) == 0) {
     FlushFolderOf(target);
     return true;
   }
-  ::unlink(fresh.c_str());
+  if (file) ::unlink(fresh.c_str());
   return false;
+}
+
+bool RealFileSystem::MayReplace(const std::string& path) {
+  struct stat facts;
+  if (::stat(path.c_str(), &facts) != 0) return true;
+  // The superuser may write anything, and still means what a file without any right to write says.
+  return (facts.st_mode & 0222) != 0 && ::access(path.c_str(), W_OK) == 0;
+}
+
+void RealFileSystem::ClearLeftovers(const std::string& folder) {
+  for (const std::string& name : List(folder, ".tarnview-*.tmp")) ClearLeftover(folder + name);
+}
+
+bool RealFileSystem::Hold(const std::string& path) {
+  LetGo(path);
+  const auto file = std::make_shared<Descriptor>(OpenRegular(path, O_RDWR | O_CREAT));
+  if (*file && ::flock((*file)(), LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
+  held_[path] = file;
+  return true;
 }
 
 bool RealFileSystem::Append(const std::string& path, std::string_view bytes) {

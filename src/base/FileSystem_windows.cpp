@@ -4,6 +4,7 @@
 #undef DeleteFile
 
 #include <exception>
+#include <system_error>
 #include <utility>
 
 #include "base/FileSystem.h"
@@ -36,9 +37,6 @@ bool IsFolder(const std::string& path) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
-
-/// No file that the program reads is near it; a sparse file may claim any size.
-constexpr LONGLONG kMostBytes = LONGLONG{1} << 30;
 
 /// Takes away what would keep a file from being replaced or deleted.
 void ClearAttributes(const std::string& path) {
@@ -82,7 +80,7 @@ std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
   const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
   LARGE_INTEGER size;
-  if (!file || GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size) || size.QuadPart > kMostBytes)
+  if (!file || GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size) || size.QuadPart > kMostFileBytes)
     return std::nullopt;
   try {
     FileBytes bytes;
@@ -93,17 +91,49 @@ std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
   }
 }
 
+std::string RealFileSystem::WhyNotRead(const std::string& path) {
+  const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return std::system_category().message(static_cast<int>(GetLastError()));
+  LARGE_INTEGER size;
+  if (GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size)) return "It is not a file.";
+  return size.QuadPart > kMostFileBytes ? kTooLargeToRead : kNoMemoryToRead;
+}
+
 bool RealFileSystem::Write(const std::string& path, std::string_view bytes) {
   if (IsFolder(path)) return false;
   // The name bears the process's number, so that two programs that save at once do not meet.
-  const std::string fresh = path.substr(0, path.size() - FileTitle(path).size()) + "tarnview-" +
-                            std::to_string(GetCurrentProcessId()) + ".tmp";
+  const std::string folder = path.substr(0, path.size() - FileTitle(path).size());
+  ClearLeftovers(folder);
+  const std::string fresh = folder + "tarnview-" + std::to_string(GetCurrentProcessId()) + ".tmp";
   if (FillNewFile(fresh, bytes)) {
     ClearAttributes(path);
     if (MoveFileExA(fresh.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
   }
   DeleteFileA(fresh.c_str());
   return false;
+}
+
+bool RealFileSystem::MayReplace(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  return attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY);
+}
+
+void RealFileSystem::ClearLeftovers(const std::string& folder) {
+  // What is still being written is open to its writer alone, and cannot be deleted.
+  for (const std::string& name : List(folder, "tarnview-*.tmp")) DeleteFileA((folder + name).c_str());
+}
+
+bool RealFileSystem::Hold(const std::string& path) {
+  LetGo(path);
+  const auto file = std::make_shared<Handle>(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE,
+                                                         FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
+                                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+  // One byte far behind any file's end, so that the lock is in no write's way.
+  constexpr DWORD kFar = 0x7FFFFFFF;
+  if (*file && !LockFile((*file)(), 0, kFar, 1, 0)) return GetLastError() != ERROR_LOCK_VIOLATION;
+  held_[path] = file;
+  return true;
 }
 
 bool RealFileSystem::Append(const std::string& path, std::string_view bytes) {

@@ -84,6 +84,7 @@ TEST_F(SettingsFileTest, WhatTheWindowShowsIsKept) {
 
 TEST_F(SettingsFileTest, AFullDiskLeavesTheOldFile) {
   StartKeeping(FullSettings());
+  EXPECT_THAT(files.accesses, ::testing::Contains("clear /car/"));
   files.failWrites = true;
   EXPECT_EQ(Closed(), FullSettings());
   EXPECT_THAT(MessageIds(), ElementsAre(39));

@@ -34,6 +34,17 @@ TEST_F(ErrorLogTest, NestsTheEntriesOfOneFailure) {
             "--------------------------------------------------\r\n");
 }
 
+TEST_F(ErrorLogTest, ASecondProgramWritesBehindTheFirst) {
+  files.files["error.log"] = "of the first\r\n";
+  files.heldByAnother = {"error.log"};
+  log.ResetErrorLog();
+  log.LogError("m", "p", RuntimeError(1, "x"), false);
+  EXPECT_EQ(files.files["error.log"],
+            "of the first\r\n"
+            "Date & Time  : 24-Nov-2026 14:05\r\nLocation     : Tarnview/m/p\r\nNumber       : 1 x\r\n\r\n"
+            "--------------------------------------------------\r\n");
+}
+
 TEST_F(ErrorLogTest, TellsOtherFailuresAsNumberFive) {
   EXPECT_THROW(Trap(log, "m", "p", []() -> int { throw std::out_of_range("index"); }), RuntimeError);
   EXPECT_NE(files.files["error.log"].find("Number       : 5 index\r\n"), std::string::npos);

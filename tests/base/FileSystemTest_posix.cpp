@@ -68,6 +68,40 @@ TEST_F(FileSystemTest, AFailedWriteKeepsTheOldFile) {
   EXPECT_EQ(files.Read(path), "old");
 }
 
+TEST_F(FileSystemTest, WhatAKilledSaveLeftIsClearedAndWhatOneIsWritingIsNot) {
+  const auto names = [&] { return files.List(folder, "*"); };
+  const std::string leftover = folder + ".tarnview-99999999.tmp", busy = folder + ".tarnview-1.tmp";
+  for (const std::string& path : {leftover, busy, folder + "mine.tmp"}) ASSERT_TRUE(files.Append(path, "half"));
+  RealFileSystem another;
+  ASSERT_TRUE(another.Hold(busy));
+  files.ClearLeftovers(folder);
+  EXPECT_EQ(names(), (std::vector<std::string>{".tarnview-1.tmp", "mine.tmp"}));
+  another.LetGo(busy);
+  ASSERT_TRUE(files.Write(folder + "a.txt", "new"));
+  EXPECT_EQ(names(), (std::vector<std::string>{"a.txt", "mine.tmp"}));
+}
+
+TEST_F(FileSystemTest, AFileIsHeldByOneProgramAtATime) {
+  const std::string path = folder + "error.log";
+  RealFileSystem another;
+  EXPECT_TRUE(files.Hold(path));
+  EXPECT_TRUE(files.Hold(path));
+  EXPECT_FALSE(another.Hold(path));
+  EXPECT_TRUE(another.Append(path, "told all the same"));
+  files.LetGo(path);
+  EXPECT_TRUE(another.Hold(path));
+  EXPECT_TRUE(files.Hold(folder + "none/error.log"));
+}
+
+TEST_F(FileSystemTest, AFileWithoutTheRightToWriteIsProtected) {
+  const std::string path = folder + "a.txt";
+  EXPECT_TRUE(files.MayReplace(path));
+  ASSERT_TRUE(files.Write(path, "old"));
+  EXPECT_TRUE(files.MayReplace(path));
+  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+  EXPECT_FALSE(files.MayReplace(path));
+}
+
 TEST_F(FileSystemTest, TouchesOnlyFiles) {
   const std::string pipe = folder + "pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -86,6 +120,9 @@ TEST_F(FileSystemTest, ASparseGiantIsNotRead) {
   fs::resize_file(path, std::uintmax_t{1} << 40, failed);
   if (failed) GTEST_SKIP() << "this disk holds no such file";
   EXPECT_FALSE(files.Read(path));
+  EXPECT_EQ(files.WhyNotRead(path), "It is larger than 1 GiB.");
+  EXPECT_EQ(files.WhyNotRead(folder), "It is not a file.");
+  EXPECT_EQ(files.WhyNotRead(folder + "none"), "No such file or directory");
 }
 
 TEST_F(FileSystemTest, FindsByNameAndByWildcard) {

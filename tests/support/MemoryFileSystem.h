@@ -19,8 +19,10 @@ class MemoryFileSystem : public FileSystem {
   std::set<std::string> folders;      ///< without a separator at the end
   std::vector<std::string> accesses;  ///< verb and path, in their order
   bool failReads = false;
-  bool failWrites = false;       ///< a full disk
-  std::set<std::string> broken;  ///< paths that can be neither read nor changed
+  bool failWrites = false;         ///< a full disk
+  std::set<std::string> broken;    ///< paths that can be neither read nor changed
+  std::set<std::string> readOnly;  ///< protected by their owner
+  std::set<std::string> heldByAnother;
 
   bool FileExists(const std::string& path) override {
     Note("exists", path);
@@ -39,6 +41,16 @@ class MemoryFileSystem : public FileSystem {
     if (failReads || broken.contains(path) || found == files.end()) return std::nullopt;
     return FileBytes(found->second);
   }
+  std::string WhyNotRead(const std::string& path) override {
+    return files.contains(path) ? kTooLargeToRead : "No such file or directory";
+  }
+  bool MayReplace(const std::string& path) override { return !readOnly.contains(path); }
+  void ClearLeftovers(const std::string& folder) override { Note("clear", folder); }
+  bool Hold(const std::string& path) override {
+    Note("hold", path);
+    return !heldByAnother.contains(path);
+  }
+  void LetGo(const std::string& path) override { Note("let go", path); }
   bool Write(const std::string& path, std::string_view bytes) override {
     Note("write", path);
     if (!MayChange(path)) return false;
