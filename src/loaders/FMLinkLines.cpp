@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "loaders/FixedLine.h"
+#include "fields/FixedLine.h"
 
 namespace tarnview {
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <exception>
 
+#include "fields/TextLines.h"
 #include "loaders/CalculatedData.h"
 #include "loaders/FMLinkSamples.h"
 #include "loaders/FMLinkZones.h"
-#include "loaders/TextLines.h"
 #include "zones/ZoneDefaults.h"
 #include "zones/ZoneFlags.h"
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
+#include "fields/TextLines.h"
 #include "loaders/FMLinkLines.h"
 #include "loaders/FMLinkLog.h"
-#include "loaders/TextLines.h"
 
 namespace tarnview {
 

@@ -6,7 +6,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "loaders/FixedLine.h"
+#include "fields/FixedLine.h"
 #include "zones/ChipIdentity.h"
 
 namespace tarnview {

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
+#include "fields/TextLines.h"
 #include "loaders/LoadProgress.h"
-#include "loaders/TextLines.h"
 #include "model/OpenLog.h"
 
 namespace tarnview {

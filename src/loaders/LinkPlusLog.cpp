@@ -7,7 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "base/Units.h"
-#include "loaders/NumberColumn.h"
+#include "fields/NumberColumn.h"
 #include "loaders/SampleFinish.h"
 #include "loaders/SampleLog.h"
 #include "model/Column.h"

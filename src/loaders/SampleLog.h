@@ -2,8 +2,8 @@
 
 #include <string_view>
 
+#include "fields/TextLines.h"
 #include "loaders/FMLinkLog.h"
-#include "loaders/TextLines.h"
 
 namespace tarnview {
 

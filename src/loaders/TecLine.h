@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "base/Units.h"
-#include "loaders/NumberColumn.h"
+#include "fields/NumberColumn.h"
 #include "loaders/SampleFinish.h"
 #include "loaders/SampleLog.h"
 #include "model/Column.h"

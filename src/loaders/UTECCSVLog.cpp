@@ -8,7 +8,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "loaders/NumberColumn.h"
+#include "fields/NumberColumn.h"
 #include "loaders/SampleLog.h"
 #include "loaders/UTECSamples.h"
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/Numbers.h"
-#include "loaders/WideSteps.h"
+#include "fields/WideSteps.h"
 #include "model/Column.h"
 
 namespace tarnview {

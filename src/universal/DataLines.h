@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "loaders/NumberColumn.h"
+#include "fields/NumberColumn.h"
 #include "model/SampleStore.h"
 #include "universal/FieldDate.h"
 #include "universal/HeaderMap.h"

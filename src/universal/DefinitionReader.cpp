@@ -3,7 +3,7 @@
 #include <array>
 
 #include "base/Text.h"
-#include "loaders/TextLines.h"
+#include "fields/TextLines.h"
 #include "model/Column.h"
 #include "universal/DefinitionAttributes.h"
 #include "universal/DefinitionFaults.h"

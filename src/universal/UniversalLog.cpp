@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "base/Numbers.h"
-#include "loaders/TextLines.h"
+#include "fields/TextLines.h"
 #include "model/Column.h"
 #include "universal/DataLines.h"
 #include "universal/DefinitionFaults.h"

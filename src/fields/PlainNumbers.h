@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "loaders/FieldKey.h"
+#include "fields/FieldKey.h"
 
 namespace tarnview {
 

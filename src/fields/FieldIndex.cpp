@@ -1,9 +1,9 @@
-#include "loaders/FieldIndex.h"
+#include "fields/FieldIndex.h"
 
 #include <algorithm>
 #include <bit>
 
-#include "loaders/WideSteps.h"
+#include "fields/WideSteps.h"
 
 namespace tarnview {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "base/Text.h"
-#include "loaders/FieldColumn.h"
+#include "fields/FieldColumn.h"
 
 namespace tarnview {
 namespace {

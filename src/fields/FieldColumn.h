@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "loaders/FieldIndex.h"
+#include "fields/FieldIndex.h"
 
 namespace tarnview {
 

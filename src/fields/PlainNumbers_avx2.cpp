@@ -2,7 +2,7 @@
 
 #ifdef __AVX2__
 
-#include "loaders/PlainNumberSteps.h"
+#include "fields/PlainNumberSteps.h"
 
 namespace tarnview {
 

@@ -3,7 +3,7 @@
 #include <random>
 #include <string>
 
-#include "loaders/NumberShape.h"
+#include "fields/NumberShape.h"
 
 namespace tarnview {
 namespace {

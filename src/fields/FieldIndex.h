@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "loaders/ByteMarks.h"
-#include "loaders/FieldKey.h"
+#include "fields/ByteMarks.h"
+#include "fields/FieldKey.h"
 
 namespace tarnview {
 

@@ -1,9 +1,9 @@
-#include "loaders/NumberColumn.h"
+#include "fields/NumberColumn.h"
 
 #include <algorithm>
 #include <cstdlib>
 
-#include "loaders/WideSteps.h"
+#include "fields/WideSteps.h"
 
 namespace tarnview {
 

@@ -1,10 +1,10 @@
-#include "loaders/PlainNumbers.h"
+#include "fields/PlainNumbers.h"
 
 #include <algorithm>
 #include <bit>
 
 #ifdef __x86_64__
-#include "loaders/PlainNumberSteps.h"
+#include "fields/PlainNumberSteps.h"
 #endif
 
 namespace tarnview {

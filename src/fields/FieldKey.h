@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "loaders/ShortNumber.h"
+#include "fields/ShortNumber.h"
 
 namespace tarnview {
 

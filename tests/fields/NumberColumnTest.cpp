@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "loaders/NumberColumn.h"
+#include "fields/NumberColumn.h"
 #ifdef __x86_64__
-#include "loaders/PlainNumberSteps.h"
+#include "fields/PlainNumberSteps.h"
 #endif
 
 namespace tarnview {

@@ -5,9 +5,9 @@
 #include <limits>
 
 #include "base/Numbers.h"
-#include "loaders/FieldColumn.h"
-#include "loaders/NumberShape.h"
-#include "loaders/PlainNumbers.h"
+#include "fields/FieldColumn.h"
+#include "fields/NumberShape.h"
+#include "fields/PlainNumbers.h"
 
 namespace tarnview {
 

@@ -5,7 +5,7 @@
 
 #include <immintrin.h>
 
-#include "loaders/PlainNumbers.h"
+#include "fields/PlainNumbers.h"
 
 namespace tarnview {
 namespace {

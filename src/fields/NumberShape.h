@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "loaders/FieldKey.h"
-#include "loaders/ShortNumber.h"
+#include "fields/FieldKey.h"
+#include "fields/ShortNumber.h"
 
 namespace tarnview {
 
