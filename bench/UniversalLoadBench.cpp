@@ -24,7 +24,7 @@ void LoadUniversal(benchmark::State& state, const LogFile& file) {
   for (auto _ : state) {
     OpenLog log;
     const auto bytes = RealFileSystem().Read(file.Path());
-    if (!LoadGenericDataLog(*bytes, {log, items, settings, tables, progress, &definition}).loaded)
+    if (!LoadGenericDataLog(*bytes, {log, items, settings, tables, progress}, definition).loaded)
       state.SkipWithError("not loaded");
     benchmark::DoNotOptimize(log);
   }

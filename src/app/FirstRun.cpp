@@ -7,9 +7,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kNoTemplate = 29;
-constexpr int kNotWritten = 39;
-
 constexpr const char* kGeneral = "General";
 constexpr const char* kPicture = "Alternative Background Picture";
 constexpr const char* kDefinitions = "Universal Data Log Formats";
@@ -27,17 +24,18 @@ bool FirstRun::GenerateINIFile(const std::string& path) {
   const std::string from = TemplateOf(path, choice.fileType);
   const auto bytes = services_.files.Read(from);
   if (!bytes) {
-    services_.messages.ShowMessage(kNoTemplate);
+    services_.messages.ShowMessage(Message::SettingsFileNotFound);
     return true;
   }
   std::string text(*bytes);
   FillIn(text, choice);
-  if (!services_.files.Write(path, text)) services_.messages.ShowMessage(kNotWritten);
+  if (!services_.files.Write(path, text)) services_.messages.ShowMessage(Message::SettingsNotWritten);
   return true;
 }
 
 bool FirstRun::Ask(Choice& choice) {
-  DefinitionFiles files(services_.files, services_.messages, services_.errors, globals_.catalogue.gcolFixedDataItems);
+  DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors,
+                        globals_.catalogue.gcolFixedDataItems);
   std::vector<DefinitionChoice> definitions = files.GenericFileLocation(AddBackslash(programFolder_ + kDefinitions));
   if (dataFolder_ != programFolder_)
     for (DefinitionChoice& found : files.GenericFileLocation(AddBackslash(dataFolder_ + kDefinitions)))

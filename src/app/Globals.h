@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "base/EXEFunctions.h"
 #include "base/ErrorLog.h"
-#include "base/Help.h"
-#include "base/Messages.h"
+#include "desk/EXEFunctions.h"
+#include "desk/Help.h"
+#include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "model/ConversionTables.h"
 #include "model/OpenLog.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "loaders/FMLinkLog.h"
 #include "loaders/LinkPlusLog.h"
 #include "loaders/Tec2Log.h"
 #include "loaders/Tec3Log.h"
@@ -14,17 +15,19 @@
 namespace tarnview {
 namespace {
 
+template <LoadOutcome (*load)(std::string_view, const LoadContext&)>
+LoadOutcome Fixed(std::string_view bytes, const LoadContext& context, const clsDataLog&) {
+  return load(bytes, context);
+}
+
 LoadOutcome FMLinkLog(std::string_view bytes, const LoadContext& context) {
   return LoadFMLinkLog(bytes, context, context.settings.gblnSilentDefaults);
 }
 
 constexpr std::array kLoaders{
-    LoaderRow{kFMLinkLog, FMLinkLog},
-    LoaderRow{kTec2Log, LoadTec2Log},
-    LoaderRow{kTec3Log, LoadTec3Log},
-    LoaderRow{kLinkPlusLog, LoadLinkPlusLog},
-    LoaderRow{kUTECCSVLog, LoadUTECCSVLog},
-    LoaderRow{kUTECFixedLog, LoadUTECFixedLog},
+    LoaderRow{kFMLinkLog, Fixed<FMLinkLog>},       LoaderRow{kTec2Log, Fixed<LoadTec2Log>},
+    LoaderRow{kTec3Log, Fixed<LoadTec3Log>},       LoaderRow{kLinkPlusLog, Fixed<LoadLinkPlusLog>},
+    LoaderRow{kUTECCSVLog, Fixed<LoadUTECCSVLog>}, LoaderRow{kUTECFixedLog, Fixed<LoadUTECFixedLog>},
     LoaderRow{kUniversalLog, LoadGenericDataLog},
 };
 

@@ -8,8 +8,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kFirstRunCancelled = 65;
-constexpr int kDefinitionNotFound = 79;
 constexpr const char* kInstallFile = "Tarnview_Install.ini";
 
 std::string In(const std::string& folder, const char* name) { return folder.empty() ? "" : folder + name; }
@@ -48,7 +46,7 @@ void Program::Start(const std::string& commandLine, bool splash) {
     splash_->Show();
     host_.DoEvents();
     if (!HasINIFile()) {
-      messages_.ShowMessage(kFirstRunCancelled);
+      messages_.ShowMessage(Message::FirstRunCancelled);
       splash_->Unload();
       return;
     }
@@ -74,7 +72,7 @@ void Program::FindDefinition() {
   if (!definitionFile_.empty()) {
     path = definitionFile_;
   } else if (!path.empty() && !files_.FileExists(path)) {
-    messages_.ShowMessage(kDefinitionNotFound, false, path);
+    messages_.ShowMessage(Message::DefinitionOfSettingsNotFound, false, path);
     globals_.missingDefinitionFile = std::exchange(path, "");
   }
 }

@@ -10,11 +10,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kPictureNotFound = 18;
-constexpr int kNoWorkingDirectory = 32;
-constexpr int kNotWritten = 39;
-constexpr int kUnknownItem = 43;
-
 constexpr const char* kRecentFiles = "Recently Used Files";
 constexpr const char* kRecentPowerGraphFiles = "Recently Used Power Graph Files";
 
@@ -25,7 +20,7 @@ struct Reading {
   Messages& messages;
 
   TellUnknownItems TellUnknown() const {
-    return [this](const std::vector<int>&) { messages.ShowMessage(kUnknownItem); };
+    return [this](const std::vector<int>&) { messages.ShowMessage(Message::DataItemNotFound); };
   }
 };
 
@@ -164,12 +159,14 @@ void SettingsFile::SetAside(const std::string& path) {
 
 void SettingsFile::FindBackgroundPicture() {
   const std::string& picture = globals_.settings.gstrAlternativeBackgroundPicture;
-  if (!picture.empty() && !services_.files.FileExists(picture)) services_.messages.ShowMessage(kPictureNotFound);
+  if (!picture.empty() && !services_.files.FileExists(picture))
+    services_.messages.ShowMessage(Message::BackgroundPictureNotFound);
 }
 
 void SettingsFile::ValidateWorkingDirectory() {
   const std::string& folder = globals_.settings.gstrDefaultWorkingDirectory;
-  if (!folder.empty() && !services_.files.FolderExists(folder)) services_.messages.ShowMessage(kNoWorkingDirectory);
+  if (!folder.empty() && !services_.files.FolderExists(folder))
+    services_.messages.ShowMessage(Message::WorkingDirectoryNotFound);
 }
 
 bool SettingsFile::WriteINIFile(const std::string& path, const std::function<void(const char*)>& say) {
@@ -183,7 +180,7 @@ bool SettingsFile::WriteINIFile(const std::string& path, const std::function<voi
     file.Lines(body);
   }
   if (!services_.files.Write(path, file.Text())) {
-    services_.messages.ShowMessage(kNotWritten);
+    services_.messages.ShowMessage(Message::SettingsNotWritten);
     return false;
   }
   say("Done");

@@ -3,14 +3,11 @@
 #include "app/CommandLine.h"
 #include "app/SystemInformation.h"
 #include "app/frmAbout.h"
+#include "desk/Placement.h"
 #include "model/ConversionFiles.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kFileNotLoaded = 15;
-
-}  // namespace
+namespace {}  // namespace
 
 frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile)
     : MainWindowControls(services.host),
@@ -37,7 +34,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
   DefaultButton = &cmdDrawGraph;
   SetUpZoomMenus();
   BindCommands();
-  services_.messages.ShowNonModal = [this](int, const std::string& text) { ShowNonModal(text); };
+  services_.messages.ShowNonModal = [this](Message, const std::string& text) { ShowNonModal(text); };
 }
 
 void frmDataLogViewer::Form_Load() {
@@ -57,7 +54,7 @@ void frmDataLogViewer::Form_Activate() {
 }
 
 void frmDataLogViewer::LoadConversionFiles() {
-  ConversionFiles files(services_.files, services_.messages, services_.errors);
+  ConversionFiles files(services_.files, services_.messages.Teller(), services_.errors);
   files.LoadAuxInputConvFile(globals_.tables, globals_.settings.gstrAuxInputConversionFile);
   files.LoadO2ConvFile(globals_.tables, globals_.settings.gstrO2InputConversionFile);
 }
@@ -69,7 +66,7 @@ void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
   const int fileType = file.fileType ? types.ValidateFileType(*file.fileType)
                                      : types.GuessFileType(file.path, globals_.settings.gintDefaultFileType);
   if (!services_.files.FileExists(file.path)) {
-    services_.messages.ShowMessage(kFileNotLoaded);
+    services_.messages.ShowMessage(Message::FileNotLoaded);
     return;
   }
   if (!OpenRecentlyUsedFile(0, file.path, fileType) || !cmdDrawGraph.Enabled) return;

@@ -8,10 +8,10 @@
 #include "app/RecentFiles.h"
 #include "app/SettingsFile.h"
 #include "app/frmNonModalMessage.h"
-#include "base/Commands.h"
 #include "customise/frmMaint.h"
-#include "loaders/FMLinkLog.h"
-#include "printing/ChartOutput.h"
+#include "desk/ChartOutput.h"
+#include "desk/Commands.h"
+#include "loaders/LoadContext.h"
 #include "samplegraph/GraphMouse.h"
 #include "samplegraph/LogExport.h"
 #include "samplegraph/PlotRange.h"
@@ -61,7 +61,7 @@ class frmDataLogViewer : public MainWindowControls,
   /// The last export since a log was opened wrote its file.
   bool Exported() const { return exported_; }
   void DrawGraph() { graph_.DrawGraphChecked(); }
-  void TellMessage(int id) { services_.messages.ShowMessage(id); }
+  void TellMessage(Message id) { services_.messages.ShowMessage(id); }
   /// The plot range, as `Sample` values; 0 with no log.
   std::int64_t PlotFrom() const { return range_.From(); }
   std::int64_t PlotTo() const { return range_.To(); }

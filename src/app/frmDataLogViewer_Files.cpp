@@ -10,10 +10,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kTooFewRecords = 12;
-constexpr int kFileNotLoaded = 15;
-constexpr int kWrongKindOfFile = 31;
-
 /// A loader's progress in the status bar.
 class StatusProgress : public LoadProgress {
  public:
@@ -58,7 +54,7 @@ bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, 
   if (services_.files.FileExists(entry.path))
     loaded = LoadDataFile(entry.path, entry.fileType);
   else
-    services_.messages.ShowMessage(kFileNotLoaded);
+    services_.messages.ShowMessage(Message::FileNotLoaded);
   recent_.Rewrite();
   return loaded;
 }
@@ -79,7 +75,7 @@ bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
     status_.Say("Loading complete");
     if (fileType != kMAPFile) DrawAutoScatterGraphs();
   } else {
-    services_.messages.ShowMessage(kTooFewRecords);
+    services_.messages.ShowMessage(Message::TooFewRecords);
     status_.Say("Loading failed");
   }
   Pointer = MousePointer::Default;
@@ -91,18 +87,18 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
   log_.Clear(items, 0);
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) {
-    services_.messages.ShowMessage(kWrongKindOfFile);
+    services_.messages.ShowMessage(Message::OddKindOfFile);
     return false;
   }
   const auto bytes = services_.files.Read(path);
   if (!bytes) {
-    services_.messages.ShowMessage(kFileNotLoaded);
+    services_.messages.ShowMessage(Message::FileNotLoaded);
     return false;
   }
   LoadConversionFiles();
   StatusProgress progress(status_);
-  LoadOutcome outcome = loader->load(
-      *bytes, {log_, items, globals_.settings, globals_.tables, progress, &globals_.gclsDataLogDefinition});
+  LoadOutcome outcome =
+      loader->load(*bytes, {log_, items, globals_.settings, globals_.tables, progress}, globals_.gclsDataLogDefinition);
   if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
   for (const LoadMessage& message : outcome.messages) {
     if (message.report.empty())

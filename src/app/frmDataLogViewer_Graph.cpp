@@ -2,6 +2,7 @@
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
+#include "desk/Placement.h"
 #include "samplegraph/ExportRun.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"

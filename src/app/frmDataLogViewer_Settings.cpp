@@ -4,6 +4,7 @@
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
+#include "desk/Placement.h"
 #include "model/SettingLimits.h"
 #include "universal/BuiltInPresets.h"
 #include "universal/DefaultDataLogDefinition.h"

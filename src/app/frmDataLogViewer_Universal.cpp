@@ -8,15 +8,9 @@
 #include "universal/UnknownColumns.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kNoColumnsRecognised = 83;
-
-}  // namespace
-
 void frmDataLogViewer::LoadDataLogDefinitionLocal(bool addPresets) {
   const clsLogDataItems& catalogue = globals_.catalogue.gcolFixedDataItems;
-  DefinitionFiles files(services_.files, services_.messages, services_.errors, catalogue);
+  DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors, catalogue);
   clsDataLog& definition = globals_.gclsDataLogDefinition;
   definition = files.LoadDataLogDefinitionWrapper(globals_.settings.gstrGenericDefinitionFile);
   globals_.catalogue.gcolUniversalDataItems = GenerateLogDataItemsGeneric(definition, catalogue);
@@ -37,8 +31,9 @@ void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome
                                           globals_.settings.gstrGenericDefinitionFile, path, outcome.unknownColumns);
   if (outcome.loaded) return;
   for (LoadMessage& message : outcome.messages) {
-    services_.errors.LogError("modUniversal", "LoadGenericDataLog", RuntimeError(-message.id, message.extra), false);
-    if (message.id != kNoColumnsRecognised || report.empty()) continue;
+    services_.errors.LogError("modUniversal", "LoadGenericDataLog",
+                              RuntimeError(-static_cast<int>(message.id), message.extra), false);
+    if (message.id != Message::NoColumnsRecognised || report.empty()) continue;
     message.extra += "\r\n\r\nThe columns are listed in the report:\r\n" + report;
     message.report = report;
   }

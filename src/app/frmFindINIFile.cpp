@@ -7,7 +7,6 @@ namespace tarnview {
 namespace {
 
 constexpr const char* kOther = "<Other>";
-constexpr int kPathNotValid = 78;
 
 }  // namespace
 
@@ -70,7 +69,7 @@ bool frmFindINIFile::ValidateForm() {
   if (!OtherIsChosen()) return lstFileType.ListIndex() >= 0;
   const std::string path(Trim(txtPathOther.Text()));
   if (path.empty())
-    messages_.ShowMessage(kPathNotValid, false, path);
+    messages_.ShowMessage(Message::DefinitionPathNotValid, false, path);
   else if (files_.LoadDataLogDefinition(path))
     return true;
   txtPathOther.SetFocus();

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "model/clsFileTypes.h"
 #include "ui/CommandButton.h"
 #include "ui/Form.h"

@@ -1,6 +1,6 @@
 #include "app/frmNonModalMessage.h"
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 
 namespace tarnview {
 

@@ -5,6 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/ConsoleHost.h"
 #include "cli/Json.h"
+#include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/DefinitionAttributes.h"
@@ -90,7 +91,7 @@ int CheckDefinition(const DefinitionOptions& options) {
   Messages messages(host, {});
   ErrorLog errors(files, clock, "");
   const Catalogue catalogue = BuildDataItemCatalogue();
-  DefinitionFiles loader(files, messages, errors, catalogue.gcolFixedDataItems);
+  DefinitionFiles loader(files, messages.Teller(), errors, catalogue.gcolFixedDataItems);
   const auto definition =
       options.file == "-" ? std::optional(DefaultDataLogDefinition()) : loader.LoadDataLogDefinition(options.file);
   const clsDataLog none;

@@ -7,11 +7,7 @@
 #include "base/Text.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kFileNotLoaded = 15;
-
-}  // namespace
+namespace {}  // namespace
 
 void LogOptions::AddTo(CLI::App& command) {
   command.add_option("LOG", log, "The log to open")->required();
@@ -32,7 +28,7 @@ LogSession::LogSession(const LogOptions& options)
 
 bool LogSession::Open() {
   if (files_.FileExists(options_.log)) return Window().LoadDataFile(options_.log, options_.fileType.value_or(0));
-  Window().TellMessage(kFileNotLoaded);
+  Window().TellMessage(Message::FileNotLoaded);
   return false;
 }
 

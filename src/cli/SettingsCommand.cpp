@@ -33,7 +33,6 @@ Json PlacementsJson(const WindowPlacements& windows) {
 
 /// Starts the program with a settings file and closes its window again.
 int ConvertSettings(const SettingsOptions& options) {
-  constexpr int kNotWritten = 39;
   ConsoleHost host;
   RealFileSystem files;
   RealClock clock;
@@ -47,7 +46,7 @@ int ConvertSettings(const SettingsOptions& options) {
   Print({{"messages", MessagesJson(host.messages)},
          {"window_placements", PlacementsJson(program.Global().settings.windows)},
          {"recent", std::move(recent)}});
-  const auto failed = [](const Box& box) { return box.id == kNotWritten; };
+  const auto failed = [](const Box& box) { return box.id == static_cast<int>(Message::SettingsNotWritten); };
   const bool written = std::none_of(host.messages.begin(), host.messages.end(), failed);
   return written && !program.Global().gstrINIFileToWrite.empty() ? kDone : kFailed;
 }

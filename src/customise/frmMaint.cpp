@@ -5,12 +5,7 @@
 #include "base/Numbers.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kNothingSelected = 40;
-constexpr int kSureToDelete = 1;
-
-}  // namespace
+namespace {}  // namespace
 
 frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families,
                    int firstFamily, Messages& messages, Help& help)
@@ -93,7 +88,7 @@ int frmMaint::FindObject(int row) const { return row < 1 ? 0 : StringToLong(lvwN
 
 bool frmMaint::NothingSelected() {
   if (lvwNameList.SelectedRow() > 0) return false;
-  messages_.ShowMessage(kNothingSelected);
+  messages_.ShowMessage(Message::NoPresetSelected);
   return true;
 }
 
@@ -108,7 +103,7 @@ void frmMaint::cmdModify_Click() {
 }
 
 void frmMaint::cmdDelete_Click() {
-  if (NothingSelected() || !messages_.AskQuestion(kSureToDelete)) return;
+  if (NothingSelected() || !messages_.AskQuestion(Question::DeleteItem)) return;
   const int row = lvwNameList.SelectedRow();
   col_.Remove(FindObject(row));
   PopulatePresetsListView(row);

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "base/Help.h"
-#include "base/Messages.h"
 #include "customise/MaintainedList.h"
+#include "desk/Help.h"
+#include "desk/Messages.h"
 #include "model/clsLogFamilies.h"
 #include "ui/ComboBox.h"
 #include "ui/CommandButton.h"

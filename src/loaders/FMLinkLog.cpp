@@ -13,8 +13,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kNotAnFMLinkLog = 52, kCouldNotBeLoaded = 15, kZoneProblem = 16, kChangesProblem = 17, kTooLong = 51;
-
 /// Rows to expect: lines of about 57 bytes, one of 17 a summary. A little high, so that the store need not grow.
 int ExpectedRows(std::size_t bytes) {
   constexpr double kBytesPerLine = 57;
@@ -40,7 +38,7 @@ class Load {
       End(silent);
     } catch (const std::exception&) {  // out of memory
       log_.gblnSamplesLoaded = false;
-      outcome_.messages.emplace_back(kCouldNotBeLoaded);
+      outcome_.messages.emplace_back(Message::FileNotLoaded);
     }
     outcome_.loaded = log_.gblnSamplesLoaded || log_.gblnZonesLoaded || log_.gblnChangesLoaded;
     return outcome_;
@@ -53,18 +51,18 @@ class Load {
     log_.Clear(context_.items, expected);
     if (!bytes_.starts_with("Sample")) throw RuntimeError(5, "Not an FM Link log");
 
-    messageOfStage_ = kCouldNotBeLoaded;
+    messageOfStage_ = Message::FileNotLoaded;
     log_.zones.zones.fill(-1);
     samples_.Read(lines_, LineStep(bytes_.size()));
     samples_.Finish();
     log_.gblnSamplesLoaded = log_.glngDataLog.Rows() >= kFewestSamples;
 
-    messageOfStage_ = kZoneProblem;
+    messageOfStage_ = Message::ZonesNotLoaded;
     log_.zones.chip = samples_.Chip();
     ReadZoneSection(lines_, log_.zones.zones, context_.progress);
     log_.gblnZonesLoaded = true;
 
-    messageOfStage_ = kChangesProblem;
+    messageOfStage_ = Message::ChangesNotLoaded;
     ReadChangesSection(lines_, log_.zones, context_.progress);
     log_.zones.original = log_.zones.zones;
     log_.gblnChangesLoaded = true;
@@ -80,7 +78,7 @@ class Load {
     log_.zones.gblnZoneLayout6 = IsNormallyAspirated(log_.zones.zones[zone::kFlags]);
     context_.progress.Stage("Generating calculated data...");
     GenerateCalculatedData(log_, context_.tables);
-    if (samples_.Full()) outcome_.messages.emplace_back(kTooLong);
+    if (samples_.Full()) outcome_.messages.emplace_back(Message::LogTooLong);
   }
 
   const std::string_view bytes_;
@@ -88,7 +86,7 @@ class Load {
   OpenLog& log_;
   FMLinkSamples samples_;
   TextLines lines_;
-  int messageOfStage_ = kNotAnFMLinkLog;
+  Message messageOfStage_ = Message::NotAnFMLinkLog;
   LoadOutcome outcome_;
 };
 

@@ -4,7 +4,7 @@
 
 #include "fields/TextLines.h"
 #include "loaders/FMLinkLines.h"
-#include "loaders/FMLinkLog.h"
+#include "loaders/LoadContext.h"
 
 namespace tarnview {
 

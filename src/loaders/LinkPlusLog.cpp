@@ -76,7 +76,7 @@ constexpr Heading kHeadings[] = {
 constexpr int kHeadingWithinLines = 6;
 constexpr std::size_t kUsualLineLength = 90;
 constexpr char kDelimiter = '\t';
-constexpr SampleLogKind kLinkPlusLog{.wrongFile = 53};
+constexpr SampleLogKind kLinkPlusLog{.wrongFile = Message::NotALinkPlusLog};
 
 /// nullptr for a heading that is passed over, as "ACTTPS", "FLAGS1", "FLAGS2" and "Markers".
 const Heading* FindHeading(std::string_view text) {

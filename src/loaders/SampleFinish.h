@@ -1,6 +1,7 @@
 #pragma once
 
-#include "loaders/FMLinkLog.h"
+#include "loaders/LoadContext.h"
+#include "model/Column.h"
 
 namespace tarnview {
 

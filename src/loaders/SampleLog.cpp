@@ -6,7 +6,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kCouldNotBeLoaded = 15, kTooLong = 51;
 constexpr std::size_t kMostExpected = 1'000'000'000;
 constexpr std::string_view kPreparing = "Preparing to load";
 
@@ -27,10 +26,10 @@ LoadOutcome LoadSampleLog(SampleLog& reader, std::string_view bytes, const LoadC
   log.Clear(context.items, 0);
 
   LoadOutcome outcome;
-  int messageOfStage = kind.wrongFile;
+  Message messageOfStage = kind.wrongFile;
   try {
     const std::size_t lines = bytes.size() / reader.ReadHeading();
-    messageOfStage = kCouldNotBeLoaded;
+    messageOfStage = Message::FileNotLoaded;
     const int expected = static_cast<int>(std::min(lines, kMostExpected));
     context.progress.Stage(kPreparing, expected);
     log.glngDataLog.Prepare(context.items.Count(), expected);
@@ -39,7 +38,7 @@ LoadOutcome LoadSampleLog(SampleLog& reader, std::string_view bytes, const LoadC
   } catch (const std::exception&) {
     outcome.messages.push_back(messageOfStage);
   }
-  if (log.glngDataLog.Rows() >= kMostSamples) outcome.messages.push_back(kTooLong);
+  if (log.glngDataLog.Rows() >= kMostSamples) outcome.messages.push_back(Message::LogTooLong);
   outcome.loaded = log.gblnSamplesLoaded;
   return outcome;
 }

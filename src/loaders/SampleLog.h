@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "fields/TextLines.h"
-#include "loaders/FMLinkLog.h"
+#include "loaders/LoadContext.h"
 
 namespace tarnview {
 
@@ -19,7 +19,7 @@ class SampleLog {
 };
 
 struct SampleLogKind {
-  int wrongFile;  ///< the message where ReadHeading throws
+  Message wrongFile;  ///< the message where ReadHeading throws
   int fewestSamples = kFewestSamples;
 };
 

@@ -23,7 +23,7 @@ constexpr TecField kTec2[] = {
 };
 // clang-format on
 constexpr std::size_t kLineLength = 98, kSecondsPoint = 6, kSecondsBlank = 9;
-constexpr SampleLogKind kTec2Log{.wrongFile = 54};
+constexpr SampleLogKind kTec2Log{.wrongFile = Message::NotATec2Log};
 
 class Tec2Log : public SampleLog {
  public:

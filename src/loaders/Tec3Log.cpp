@@ -38,7 +38,7 @@ constexpr TecField kRestOf156[] = {
     {kKNR, 155, 2, WholeFactored},
 };
 constexpr std::size_t kLong = 164, kShort = 156, kSecondsLength = 9, kSecondsPoint = 7, kSecondsBlank = 10;
-constexpr SampleLogKind kTec3Log{.wrongFile = 55};
+constexpr SampleLogKind kTec3Log{.wrongFile = Message::NotATec3Log};
 
 class Tec3Log : public SampleLog {
  public:

@@ -59,7 +59,7 @@ constexpr Word kWords[] = {
 constexpr char kDelimiter = ',';
 constexpr double kECUs = std::numeric_limits<double>::quiet_NaN();  ///< the ECU's own figure; no text is read as that
 constexpr std::size_t kFewestColumns = 3;
-constexpr SampleLogKind kUTECCSVLog{.wrongFile = 59, .fewestSamples = 4};
+constexpr SampleLogKind kUTECCSVLog{.wrongFile = Message::NotAUTECCSVLog, .fewestSamples = 4};
 
 /// nullptr for a column that is passed over; so is the boost that the ECU keeps to itself.
 const Word* FindWord(std::string_view name, std::string_view subHeading) {

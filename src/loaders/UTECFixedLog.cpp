@@ -92,7 +92,7 @@ constexpr Place kWideBand{75, 5};
 
 constexpr int kHeadingWithinLines = 30;
 constexpr std::size_t kHeadingMayDiffer = 2;  ///< so many characters, in a heading and in a line of data
-constexpr SampleLogKind kUTECFixedLog{.wrongFile = 60};
+constexpr SampleLogKind kUTECFixedLog{.wrongFile = Message::NotAUTECFixedLog};
 
 std::size_t Apart(std::size_t a, std::size_t b) { return a > b ? a - b : b - a; }
 bool Says(std::string_view line, const Heading& heading) { return SameIgnoringCase(Trim(line), Trim(heading.text)); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "loaders/FMLinkLog.h"
+#include "loaders/LoadContext.h"
 
 namespace tarnview {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "base/Numbers.h"
-#include "loaders/FMLinkLog.h"
+#include "loaders/LoadContext.h"
 #include "model/Column.h"
 
 namespace tarnview {

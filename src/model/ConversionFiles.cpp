@@ -7,7 +7,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kUnableToLoadConversionFile = 4;
 constexpr long kPathFileAccessError = 75;
 
 }  // namespace
@@ -16,7 +15,7 @@ ConversionTable ConversionFiles::LoadConversionTable(const std::string& path, co
   if (path.empty() || !files_.FileExists(path)) return defaults;
   const auto text = files_.Read(path);
   if (!text) {
-    messages_.ShowMessage(kUnableToLoadConversionFile);
+    tell_(Message::ConversionFileNotLoaded, "");
     log_.LogError("modTarnview", "LoadConversionTable", RuntimeError(kPathFileAccessError, "Path/File access error"),
                   /*reraise=*/false);
     return defaults;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "base/ErrorLog.h"
 #include "base/FileSystem.h"
-#include "base/Messages.h"
+#include "base/MessageTable.h"
 #include "model/ConversionTables.h"
 
 namespace tarnview {
@@ -13,8 +14,8 @@ namespace tarnview {
 /// silently gives the built-in table; one that is there and cannot be read does so with message 4.
 class ConversionFiles {
  public:
-  ConversionFiles(FileSystem& files, Messages& messages, ErrorLog& log)
-      : files_(files), messages_(messages), log_(log) {}
+  ConversionFiles(FileSystem& files, TellMessage tell, ErrorLog& log)
+      : files_(files), tell_(std::move(tell)), log_(log) {}
 
   ConversionTable LoadConversionTable(const std::string& path, const ConversionTable& defaults);
 
@@ -24,7 +25,7 @@ class ConversionFiles {
 
  private:
   FileSystem& files_;
-  Messages& messages_;
+  TellMessage tell_;
   ErrorLog& log_;
 };
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/ChartDescription.h"
+#include "base/Colour.h"
 
 namespace tarnview {
 

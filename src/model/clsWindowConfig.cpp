@@ -12,10 +12,9 @@ using Config = clsWindowConfig;
 using Whole = IniWhole<Config>;
 
 constexpr const char* kWindowState = "Window State";
-constexpr int kMaximized = 2;
 
 const IniKey<Config> kKeys[] = {
-    {kWindowState, Whole{&Config::lngWindowState, 0, kMaximized}},
+    {kWindowState, Whole{&Config::lngWindowState, 0, Config::kMaximized}},
     {"Window Left", Whole{&Config::lngLeft}},
     {"Window Top", Whole{&Config::lngTop}},
     {"Window Width", Whole{&Config::lngWidth}},
@@ -26,26 +25,6 @@ const IniKey<Config> kKeys[] = {
 
 void clsWindowConfig::WriteIniFileEntry(IniWriter& file, const std::string& prefix) const {
   WriteIniKeys<Config>(kKeys, {"", prefix}, *this, file);
-}
-
-void ApplyPlacement(const std::optional<clsWindowConfig>& config, Form& window) {
-  if (!config) return;
-  window.Left = config->lngLeft;
-  window.Top = config->lngTop;
-  window.Width = config->lngWidth;
-  window.Height = config->lngHeight;
-  window.WindowState = config->lngWindowState;
-}
-
-std::optional<clsWindowConfig> PlacementOf(const Form& window) {
-  if (window.Width <= 0) return std::nullopt;
-  clsWindowConfig config;
-  config.lngLeft = window.Left;
-  config.lngTop = window.Top;
-  config.lngWidth = window.Width;
-  config.lngHeight = window.Height;
-  config.lngWindowState = window.WindowState == kMaximized ? kMaximized : 0;
-  return config;
 }
 
 std::optional<clsWindowConfig> ReadWindowConfig(const IniTable& table, const std::string& section,

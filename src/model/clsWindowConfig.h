@@ -5,7 +5,6 @@
 #include <string>
 
 #include "model/IniFile.h"
-#include "ui/Form.h"
 
 namespace tarnview {
 
@@ -18,6 +17,8 @@ class clsWindowConfig {
   std::int32_t lngTop = 0;
   std::int32_t lngWindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized
 
+  static constexpr int kMaximized = 2;
+
   /// `prefix` is in front of the names of the keys: "Scatter Graph ", empty for the main window.
   void WriteIniFileEntry(IniWriter& file, const std::string& prefix) const;
 
@@ -29,12 +30,6 @@ struct WindowKeys {
   const char* prefix;
   std::int32_t leastWidth, leastHeight;
 };
-
-/// Puts a window where its placement says; without one it keeps its design size.
-void ApplyPlacement(const std::optional<clsWindowConfig>& config, Form& window);
-/// Where a window stands; nothing for one that no toolkit has placed. A minimized one counts as normal, so that it can
-/// be seen next time.
-std::optional<clsWindowConfig> PlacementOf(const Form& window);
 
 /// Nothing for a window without a state: it keeps its design size.
 std::optional<clsWindowConfig> ReadWindowConfig(const IniTable& table, const std::string& section,

@@ -1,11 +1,7 @@
 #include "samplegraph/ExportRun.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kExportFailed = 64;
-
-}  // namespace
+namespace {}  // namespace
 
 bool ExportRun::Run(std::string& path, const std::function<void(const std::string&)>& write) const {
   Dialog dialog;
@@ -21,7 +17,7 @@ bool ExportRun::Run(std::string& path, const std::function<void(const std::strin
   status.HideProgress();
   window.Pointer = MousePointer::Default;
   status.Say(exported ? "Export complete" : "");
-  if (!exported) messages.ShowMessage(kExportFailed);
+  if (!exported) messages.ShowMessage(Message::ExportFailed);
   return exported;
 }
 

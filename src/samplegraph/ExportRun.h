@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/ErrorLog.h"
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "samplegraph/StatusArea.h"
 #include "ui/Form.h"
 

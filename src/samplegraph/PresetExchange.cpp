@@ -6,13 +6,7 @@
 namespace tarnview {
 namespace {
 
-constexpr int kWriteFailed = 19;
-constexpr int kNameMissing = 41;
 /// Kept on purpose: it speaks of sample graphs for files of scatter graphs as well.
-constexpr int kProblemLoading = 58;
-constexpr int kItemsNotRelevant = 92;
-constexpr int kOtherFamily = 8;    // question
-constexpr int kIncludeFamily = 9;  // question
 /// "File not found" of the run-time errors.
 constexpr long kFileNotFound = 53;
 
@@ -24,7 +18,7 @@ bool IsLegalFileName(std::string_view name) {
 
 bool PresetExchange::HasName() {
   if (!Trim(txtName_.Text()).empty()) return true;
-  around_.messages.ShowMessage(kNameMissing);
+  around_.messages.ShowMessage(Message::NameMissing);
   txtName_.SetFocus();
   return false;
 }
@@ -47,13 +41,13 @@ std::string PresetExchange::ProposedFile() const {
 }
 
 void PresetExchange::Save(const std::function<std::string(bool blnWriteFamily, const Moment& now)>& text) {
-  const bool withFamily = around_.messages.AskQuestion(kIncludeFamily);
+  const bool withFamily = around_.messages.AskQuestion(Question::IncludeLogFamily);
   Dialog dialog = DialogFor(DialogKind::Save, "Save As");
   dialog.path = ProposedFile();
   if (!window_.host.Choose(dialog)) return;
   lastFile_ = dialog.path;
   if (!around_.files.Write(dialog.path, text(withFamily, around_.clock.Now())))
-    around_.messages.ShowMessage(kWriteFailed);
+    around_.messages.ShowMessage(Message::SomethingWentWrong);
 }
 
 void PresetExchange::Load(const std::function<void(std::string_view bytes)>& take) {
@@ -65,15 +59,15 @@ void PresetExchange::Load(const std::function<void(std::string_view bytes)>& tak
     if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + dialog.path);
     take(*bytes);
   });
-  if (!loaded) around_.messages.ShowMessage(kProblemLoading);
+  if (!loaded) around_.messages.ShowMessage(Message::SamplePresetNotLoaded);
 }
 
 bool PresetExchange::AgreesToFamily(int lngLogFamily, int selected) {
-  return lngLogFamily == 0 || lngLogFamily == selected || around_.messages.AskQuestion(kOtherFamily);
+  return lngLogFamily == 0 || lngLogFamily == selected || around_.messages.AskQuestion(Question::PresetOfOtherFamily);
 }
 
 void PresetExchange::TellNotRelevant(const std::string& items) {
-  if (!items.empty()) around_.messages.ShowMessage(kItemsNotRelevant, false, items);
+  if (!items.empty()) around_.messages.ShowMessage(Message::ItemsNotRelevant, false, items);
 }
 
 }  // namespace tarnview

@@ -13,9 +13,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kRangeShortened = 1;
-constexpr int kNothingChecked = 10;
-
 /// A range's end is remembered with the one before it.
 bool Note(std::array<std::string, 2>& history, const std::string& text) {
   if (StringToLong(text) == StringToLong(history[0])) return false;
@@ -51,11 +48,11 @@ SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& rang
 void SampleGraph::DrawGraphChecked() {
   ApplyFixedGraphMax();
   if (!AnyChecked(controls_.lvwSampleDetails)) {
-    messages_.ShowMessage(kNothingChecked);
+    messages_.ShowMessage(Message::NothingChecked);
     return;
   }
   if (!controls_.chkQuickGraph.Value && range_.Span() > kWidestFullRange) {
-    messages_.ShowMessage(kRangeShortened);
+    messages_.ShowMessage(Message::RangeShortened);
     range_.SetFrom(range_.To() - kWidestFullRange);
   }
   range_.CorrectForDraw();
@@ -69,7 +66,7 @@ void SampleGraph::DrawSampleGraph() {
   const bool rangeChanged = NoteRange();
   plot_.intPlottedItems = ItemsOfRows(controls_.lvwSampleDetails, true);
   if (plot_.intPlottedItems.empty())
-    messages_.ShowMessage(kNothingChecked);
+    messages_.ShowMessage(Message::NothingChecked);
   else if (MustBuild(rangeChanged))
     Build();
   mainWindow_.SetUpScrollBar();

@@ -8,7 +8,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kRangeShortened = 1;
 constexpr std::int32_t kLeastAmount = 2;
 constexpr std::int32_t kGreatestAmount = 100;
 
@@ -73,7 +72,7 @@ void Zoom::ClampToLog() {
 
 void Zoom::ShortenForFullGraph() {
   if (controls_.chkQuickGraph.Value || range_.Span() <= kWidestFullRange) return;
-  messages_.ShowMessage(kRangeShortened);
+  messages_.ShowMessage(Message::RangeShortened);
   const std::int64_t inward = RoundToLong(static_cast<double>(range_.Span() - kWidestFullRange) / 2);
   range_.SetTo(range_.To() - inward);
   range_.SetFrom(range_.From() + inward);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "model/OpenLog.h"
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/PlotState.h"

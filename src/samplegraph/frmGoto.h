@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "base/Help.h"
+#include "desk/Help.h"
 #include "model/OpenLog.h"
 #include "ui/CheckBox.h"
 #include "ui/CommandButton.h"

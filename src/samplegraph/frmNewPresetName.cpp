@@ -3,11 +3,7 @@
 #include "base/Text.h"
 
 namespace tarnview {
-namespace {
-
-constexpr int kNameMissing = 41;
-
-}  // namespace
+namespace {}  // namespace
 
 frmNewPresetName::frmNewPresetName(Host& itsHost, Messages& messages, const std::string& name)
     : Form(itsHost, "frmNewPresetName", "New Preset Graph Name"), messages_(messages) {
@@ -21,7 +17,7 @@ frmNewPresetName::frmNewPresetName(Host& itsHost, Messages& messages, const std:
 void frmNewPresetName::cmdOK_Click() {
   name_ = Trim(txtName.Text());
   if (name_.empty()) {
-    messages_.ShowMessage(kNameMissing);
+    messages_.ShowMessage(Message::NameMissing);
     txtName.SetFocus();
     return;
   }

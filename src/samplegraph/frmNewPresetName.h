@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "ui/CommandButton.h"
 #include "ui/Form.h"
 #include "ui/Label.h"

@@ -3,11 +3,7 @@
 #include <algorithm>
 
 namespace tarnview {
-namespace {
-
-constexpr int kItemNotFound = 43;
-
-}  // namespace
+namespace {}  // namespace
 
 void DataItemCombo::SetItems(const DataItemList& items) {
   const int before = Item();
@@ -37,7 +33,7 @@ void DataItemCombo::DataItemImageComboDefault() { combo_.SetListIndex(0); }
 
 void DataItemCombo::Choose(int item, Messages& messages, bool blnQuiet) {
   if (SearchImageComboForDataItem(item)) return;
-  if (!blnQuiet) messages.ShowMessage(kItemNotFound, false, "Data Item: " + std::to_string(item));
+  if (!blnQuiet) messages.ShowMessage(Message::DataItemNotFound, false, "Data Item: " + std::to_string(item));
   DataItemImageComboDefault();
 }
 

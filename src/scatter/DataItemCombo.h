@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "presets/FamilyItems.h"
 #include "ui/ComboBox.h"
 

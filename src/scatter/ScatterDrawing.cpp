@@ -10,8 +10,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kTooManySamples = 3;
-constexpr int kNothingMatches = 46;
 /// "Subscript out of range" of the run-time errors.
 constexpr long kOutOfRange = 9;
 
@@ -51,7 +49,7 @@ void ScatterDrawing::DrawScatter(const ScatterRequest& request, bool blnQuiet) {
 void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
   const ScatterRange range = RangeOfFilters(log_, request.objFilters);
   if (range.tooWide) {
-    if (!blnQuiet) messages_.ShowMessage(kTooManySamples);
+    if (!blnQuiet) messages_.ShowMessage(Message::TooManyScatterSamples);
     // The end of the range falls before its start, where no table can be made; kept on purpose.
     throw RuntimeError(kOutOfRange, "Subscript out of range");
   }
@@ -62,7 +60,7 @@ void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
                      std::clamp(log_.Sample(row) - range.from, 0, span));
   });
   if (rows_.empty()) {
-    if (!blnQuiet) messages_.ShowMessage(kNothingMatches);
+    if (!blnQuiet) messages_.ShowMessage(Message::NothingMatches);
     return;
   }
   status_.ProgressFull();

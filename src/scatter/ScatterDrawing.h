@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/ErrorLog.h"
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 #include "presets/clsScatterFilter.h"

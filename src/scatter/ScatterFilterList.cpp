@@ -9,8 +9,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kSureToDelete = 2;  // question
-
 std::string BoundCell(double bound, const clsLogDataItem& item) {
   return bound == kBoundNotSet ? "-" : FilterBoundText(bound, item);
 }
@@ -82,7 +80,7 @@ void ScatterFilterList::ModifyFilter() {
 
 void ScatterFilterList::DeleteFilter() {
   const int row = controls_.lvwFilters.SelectedRow();
-  if (row == 0 || !around_.messages.AskQuestion(kSureToDelete)) return;
+  if (row == 0 || !around_.messages.AskQuestion(Question::DeleteFilter)) return;
   filters_.Remove(Selected());
   PopulateFiltersListView(row);
   controls_.lvwFilters.SetFocus();

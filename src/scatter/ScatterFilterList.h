@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "base/Help.h"
-#include "base/Messages.h"
+#include "desk/Help.h"
+#include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "presets/clsScatterFilter.h"
 #include "ui/CommandButton.h"

@@ -9,10 +9,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kNotRecognised = 42;
-constexpr int kNoCriteria = 44;
-constexpr int kFromAboveTo = 45;
-
 double BoundIn(const ComboBox& box) { return box.Text->empty() ? kBoundNotSet : StringToDouble(box.Text()); }
 
 }  // namespace
@@ -88,7 +84,7 @@ bool frmScatterFilter::Recognise(ComboBox& box) {
 }
 
 void frmScatterFilter::Refuse(ComboBox& box) {
-  messages_.ShowMessage(kNotRecognised);
+  messages_.ShowMessage(Message::ValueNotRecognised);
   box.SetFocus();
 }
 
@@ -105,8 +101,8 @@ void frmScatterFilter::cmdOK_Click() {
     if (!Recognise(*box)) return Refuse(*box);
   const clsScatterFilter filter = FilterInWindow();
   const bool hasFrom = filter.dblFrom != kBoundNotSet, hasTo = filter.dblTo != kBoundNotSet;
-  if (!hasFrom && !hasTo) return messages_.ShowMessage(kNoCriteria);
-  if (hasFrom && hasTo && filter.dblFrom > filter.dblTo) return messages_.ShowMessage(kFromAboveTo);
+  if (!hasFrom && !hasTo) return messages_.ShowMessage(Message::NoFilterCriteria);
+  if (hasFrom && hasTo && filter.dblFrom > filter.dblTo) return messages_.ShowMessage(Message::FromAboveTo);
   filter_ = filter;
   outcome_ = kAccepted;
   Unload();

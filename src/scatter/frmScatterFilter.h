@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/Help.h"
-#include "base/Messages.h"
+#include "desk/Help.h"
+#include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "presets/clsScatterFilter.h"
 #include "scatter/DataItemCombo.h"

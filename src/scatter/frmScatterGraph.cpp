@@ -1,12 +1,12 @@
 #include "scatter/frmScatterGraph.h"
 
+#include "desk/Placement.h"
 #include "samplegraph/SampleListView.h"
 
 namespace tarnview {
 namespace {
 
 constexpr const char* kHelpTopic = "ScatterGraph";
-constexpr int kPictureNotFound = 18;
 /// To be seen on all three backdrops.
 constexpr PointStyle kFirstStyle{0, 4, 0xC06000};
 /// Between two windows that open on each other, so that the caption of the lower one shows; in twips, 24 pixels.
@@ -106,7 +106,8 @@ void frmScatterGraph::ShowBackgroundPicture() {
   const std::string& picture = around_.settings.gstrAlternativeBackgroundPicture;
   fraPicture.BackgroundPicture = picture;
   const bool quiet = initialPreset_ > 0;
-  if (!quiet && !picture.empty() && !around_.files.FileExists(picture)) around_.messages.ShowMessage(kPictureNotFound);
+  if (!quiet && !picture.empty() && !around_.files.FileExists(picture))
+    around_.messages.ShowMessage(Message::BackgroundPictureNotFound);
 }
 
 void frmScatterGraph::Form_Unload() {

@@ -5,17 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "base/Commands.h"
 #include "base/ErrorLog.h"
 #include "base/FileSystem.h"
-#include "base/Help.h"
-#include "base/Messages.h"
+#include "desk/ChartOutput.h"
+#include "desk/Commands.h"
+#include "desk/Help.h"
+#include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 #include "model/clsLogFamilies.h"
 #include "presets/clsScatterGraphPreset.h"
-#include "printing/ChartOutput.h"
 #include "samplegraph/PresetList.h"
 #include "samplegraph/StatusArea.h"
 #include "scatter/DataItemCombo.h"

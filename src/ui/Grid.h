@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/Colour.h"
+#include "base/Colour.h"
 #include "ui/Control.h"
 
 namespace tarnview {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "ui/ChartDescription.h"
+#include "base/Colour.h"
 
 namespace tarnview {
 

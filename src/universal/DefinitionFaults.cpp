@@ -20,7 +20,7 @@ std::string Line(const char* label, std::int32_t value) { return label + std::to
 /// One thing that can be wrong with a block, its message, and the lines of the message's detail.
 template <class Subject>
 struct Check {
-  int message;
+  Message message;
   bool (*fails)(const Subject&);
   Texts (*detail)(const Subject&);
 };
@@ -51,21 +51,22 @@ bool HasNoTime(const HeaderBlock& h) {
 }
 
 constexpr Check<HeaderBlock> kHeaderChecks[] = {
-    {74, LacksHeaderData,
+    {Message::HeaderIncomplete, LacksHeaderData,
      [](const HeaderBlock& h) {
        return Texts{h.path, Line("File Name: ", h.log.strName), Line("File Extension: ", h.log.strFileExtension),
                     Line("Delimiter ASCII Character: ", h.log.lngDelimiterAsciiCharacter)};
      }},
-    {75, HasBadExtension,
+    {Message::BadFileExtension, HasBadExtension,
      [](const HeaderBlock& h) {
        return Texts{h.path, Line("File Extension: ", h.log.strFileExtension)};
      }},
-    {91, HasNameOfOther,
+    {Message::BadDefinitionName, HasNameOfOther,
      [](const HeaderBlock& h) {
        return Texts{h.path, Line("File Name: ", h.log.strName)};
      }},
 };
-constexpr Check<HeaderBlock> kTimeChecks[] = {{77, HasNoTime, [](const HeaderBlock& h) { return Texts{h.path}; }}};
+constexpr Check<HeaderBlock> kTimeChecks[] = {
+    {Message::NoTimeOrFrequency, HasNoTime, [](const HeaderBlock& h) { return Texts{h.path}; }}};
 
 // A column.
 
@@ -109,7 +110,7 @@ Texts NameAndItem(const ColumnBlock& c) {
 }
 
 constexpr Check<ColumnBlock> kColumnChecks[] = {
-    {71, IsIncomplete,
+    {Message::ColumnIncomplete, IsIncomplete,
      [](const ColumnBlock& c) {
        return Texts{Line("Column Name: ", c.it.strName),
                     Line("Column Title: ", c.it.strColumnTitle),
@@ -118,21 +119,21 @@ constexpr Check<ColumnBlock> kColumnChecks[] = {
                     Line("Column Data Type: ", c.it.lngType),
                     Line("Column Decimal Places Set: ", c.it.lngColumnDecimalPlaces.IsSet() ? "Y" : "N")};
      }},
-    {84, FeedsSample, NameAndItem},
-    {88, HasNoRange,
+    {Message::DataItemCannotBeUsed, FeedsSample, NameAndItem},
+    {Message::NoValidRange, HasNoRange,
      [](const ColumnBlock& c) {
        return Texts{Line("Column Name: ", c.it.strName), Line("Minimum: ", c.it.dblMinValue.Value()),
                     Line("Maximum: ", c.it.dblMaxValue.Value())};
      }},
-    {85, FeedsNoItem, NameAndItem},
-    {73, HasWrongKind,
+    {Message::DataItemOfDefinitionNotFound, FeedsNoItem, NameAndItem},
+    {Message::ColumnOfOtherType, HasWrongKind,
      [](const ColumnBlock& c) {
        // The last is the type that a column of this type requires of its item.
        return Texts{Line("Column Name: ", c.it.strName), Line("Data Item ID: ", c.it.lngDataItemID),
                     Line("Column Data Type: ", c.it.lngType), Line("Data Item Type: ", c.it.lngType)};
      }},
-    {80, HasValuesButIsNumeric, NameOfColumn},
-    {81, LacksValues, NameOfColumn},
+    {Message::ValuesNotAllowed, HasValuesButIsNumeric, NameOfColumn},
+    {Message::NoColumnValues, LacksValues, NameOfColumn},
 };
 
 // Presets. All of them may use only items that the definition delivers.
@@ -157,11 +158,12 @@ auto ForeignItem(const SampleGraphBlock& s) {
 }
 
 constexpr Check<SampleGraphBlock> kSampleGraphChecks[] = {
-    {93, [](const SampleGraphBlock& s) { return s.it.strName.empty(); },
+    {Message::BadSamplePreset, [](const SampleGraphBlock& s) { return s.it.strName.empty(); },
      [](const SampleGraphBlock& s) {
        return Texts{s.known.path, Line("Name: ", s.it.strName)};
      }},
-    {100, [](const SampleGraphBlock& s) { return ForeignItem(s) != s.it.colDataItems.end(); },
+    {Message::SampleItemNotInDefinition,
+     [](const SampleGraphBlock& s) { return ForeignItem(s) != s.it.colDataItems.end(); },
      [](const SampleGraphBlock& s) {
        return Texts{s.known.path, Line("Name: ", s.it.strName), Line("Data Item ID: ", *ForeignItem(s))};
      }},
@@ -193,13 +195,13 @@ bool IsNoListedValue(const FilterBlock& f) {
 }
 
 constexpr Check<FilterBlock> kFilterChecks[] = {
-    {95, HasNoBound,
+    {Message::BadScatterFilter, HasNoBound,
      [](const FilterBlock& f) {
        return With(With(f.Lines(), Line("Filter From Value: ", f.it.dblFrom)), Line("Filter To Value: ", f.it.dblTo));
      }},
-    {96, [](const FilterBlock& f) { return f.known.Lacks(f.it.lngDataItemSeq); },
+    {Message::FilterItemNotInDefinition, [](const FilterBlock& f) { return f.known.Lacks(f.it.lngDataItemSeq); },
      [](const FilterBlock& f) { return f.Lines(); }},
-    {97, IsNoListedValue,
+    {Message::FilterValueNotInList, IsNoListedValue,
      [](const FilterBlock& f) { return With(f.Lines(), Line("Filter From Value: ", f.it.dblFrom)); }},
 };
 
@@ -217,13 +219,13 @@ bool IsIncompleteScatter(const ScatterGraphBlock& s) {
 }
 
 constexpr Check<ScatterGraphBlock> kScatterGraphChecks[] = {
-    {94, IsIncompleteScatter,
+    {Message::BadScatterPreset, IsIncompleteScatter,
      [](const ScatterGraphBlock& s) {
        return With(With(With(s.Lines(), Line("Point Size: ", s.it.lngPointSize)), s.X()), s.Y());
      }},
-    {98, [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngXAxisDataItem); },
+    {Message::XAxisItemNotInDefinition, [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngXAxisDataItem); },
      [](const ScatterGraphBlock& s) { return With(s.Lines(), s.X()); }},
-    {99, [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngYAxisDataItem); },
+    {Message::YAxisItemNotInDefinition, [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngYAxisDataItem); },
      [](const ScatterGraphBlock& s) { return With(s.Lines(), s.Y()); }},
 };
 

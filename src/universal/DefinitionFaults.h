@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "base/MessageTable.h"
 #include "base/RuntimeError.h"
 #include "universal/clsDataLog.h"
 
@@ -12,8 +13,8 @@ namespace tarnview {
 /// message, negative; its description is the message's detail.
 class DefinitionFault : public RuntimeError {
  public:
-  DefinitionFault(int message, const std::string& detail) : RuntimeError(-message, detail) {}
-  int Message() const { return static_cast<int>(-number); }
+  DefinitionFault(Message message, const std::string& detail) : RuntimeError(-static_cast<int>(message), detail) {}
+  Message Told() const { return static_cast<Message>(-number); }
 };
 
 /// The lines of a detail as one text.

@@ -10,32 +10,31 @@
 namespace tarnview {
 namespace {
 
-constexpr int kFileNotFound = 70, kUnknownError = 101;
 constexpr int kFileAccessError = 75;  // of the run-time
 
 }  // namespace
 
 clsDataLog DefinitionFiles::Load(const std::string& path) {
-  if (!files_.FileExists(path)) throw DefinitionFault(kFileNotFound, path);
+  if (!files_.FileExists(path)) throw DefinitionFault(Message::DefinitionFileNotFound, path);
   const auto text = files_.Read(path);
   if (!text) throw RuntimeError(kFileAccessError, "Path/File access error");
   return ReadDataLogDefinition(*text, path, catalogue_);
 }
 
 std::optional<clsDataLog> DefinitionFiles::LoadDataLogDefinition(const std::string& strFileName, bool blnQuiet) {
-  const auto fail = [&](int message, const RuntimeError& error) {
-    if (!blnQuiet) messages_.ShowMessage(message, false, error.what());
+  const auto fail = [&](Message message, const RuntimeError& error) {
+    if (!blnQuiet) tell_(message, error.what());
     errors_.LogError("modUniversal", "LoadDataLogDefinition", error, false);
     return std::nullopt;
   };
   try {
     return Load(strFileName);
   } catch (const DefinitionFault& fault) {
-    return fail(fault.Message(), fault);
+    return fail(fault.Told(), fault);
   } catch (const RuntimeError& error) {
-    return fail(kUnknownError, error);
+    return fail(Message::UnknownDefinitionError, error);
   } catch (const std::exception& error) {
-    return fail(kUnknownError, RuntimeError(7, error.what()));
+    return fail(Message::UnknownDefinitionError, RuntimeError(7, error.what()));
   }
 }
 

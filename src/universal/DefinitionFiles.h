@@ -2,11 +2,12 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/ErrorLog.h"
 #include "base/FileSystem.h"
-#include "base/Messages.h"
+#include "base/MessageTable.h"
 #include "universal/clsDataLog.h"
 
 namespace tarnview {
@@ -20,8 +21,8 @@ struct DefinitionChoice {
 /// Loads definition files. What is wrong with one is told by its message and goes to the error log.
 class DefinitionFiles {
  public:
-  DefinitionFiles(FileSystem& files, Messages& messages, ErrorLog& errors, const clsLogDataItems& catalogue)
-      : files_(files), messages_(messages), errors_(errors), catalogue_(catalogue) {}
+  DefinitionFiles(FileSystem& files, TellMessage tell, ErrorLog& errors, const clsLogDataItems& catalogue)
+      : files_(files), tell_(std::move(tell)), errors_(errors), catalogue_(catalogue) {}
 
   /// Nothing for a file with a fault. `blnQuiet`: the user is not told.
   std::optional<clsDataLog> LoadDataLogDefinition(const std::string& strFileName, bool blnQuiet = false);
@@ -34,7 +35,7 @@ class DefinitionFiles {
   clsDataLog Load(const std::string& path);
 
   FileSystem& files_;
-  Messages& messages_;
+  TellMessage tell_;
   ErrorLog& errors_;
   const clsLogDataItems& catalogue_;
 };

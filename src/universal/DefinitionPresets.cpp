@@ -13,21 +13,9 @@ void Join(const Presets& from, Presets& to, bool clear) {
 }  // namespace
 
 void AddDefinitionPresets(const clsDataLog& definition, clsSampleGraphPresets& samples,
-                          clsScatterGraphPresets& scatters) {
-  Join(definition.objPresetSampleGraphs, samples, false);
-  Join(definition.objPresetScatterGraphs, scatters, false);
-}
-
-void OfferDefinitionPresets(const clsDataLog& definition, clsSampleGraphPresets& samples,
-                            clsScatterGraphPresets& scatters, Messages& messages) {
-  if (definition.objPresetSampleGraphs.Count() + definition.objPresetScatterGraphs.Count() == 0) return;
-  const Reply reply = messages.Tell(
-      "The Data Log Definition you have loaded contains Preset Sample Graphs or Preset Scatter Graphs.\r\n"
-      "Do you want to clear your existing sets of Universal log family preset graphs before adding the new ones?",
-      kBoxYesNoCancel | kBoxQuestion | kBoxSecondIsDefault);
-  if (reply == Reply::Cancel) return;
-  Join(definition.objPresetSampleGraphs, samples, reply == Reply::Yes);
-  Join(definition.objPresetScatterGraphs, scatters, reply == Reply::Yes);
+                          clsScatterGraphPresets& scatters, bool clear) {
+  Join(definition.objPresetSampleGraphs, samples, clear);
+  Join(definition.objPresetScatterGraphs, scatters, clear);
 }
 
 }  // namespace tarnview

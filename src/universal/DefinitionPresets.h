@@ -1,17 +1,12 @@
 #pragma once
 
-#include "base/Messages.h"
 #include "universal/clsDataLog.h"
 
 namespace tarnview {
 
-/// Adds a definition's presets of both kinds to the user's.
+/// Adds a definition's presets of both kinds to the user's. `clear`: those of the Universal family go first; a kind
+/// that the definition has none of stays as it is.
 void AddDefinitionPresets(const clsDataLog& definition, clsSampleGraphPresets& samples,
-                          clsScatterGraphPresets& scatters);
-
-/// Asks what to do with the presets of a definition that has any: Yes clears those of the Universal family first, No
-/// adds to them, Cancel adds nothing. A kind that the definition has none of stays as it is.
-void OfferDefinitionPresets(const clsDataLog& definition, clsSampleGraphPresets& samples,
-                            clsScatterGraphPresets& scatters, Messages& messages);
+                          clsScatterGraphPresets& scatters, bool clear = false);
 
 }  // namespace tarnview

@@ -11,8 +11,6 @@
 namespace tarnview {
 namespace {
 
-constexpr int kBadColumnLine = 66, kNoColumns = 67, kBadHeaderLine = 68, kNoDefinition = 69;
-
 constexpr std::string_view kDefinition = "[DATALOGDEFINITION]", kColumn = "[COLUMN]", kValues = "[VALUES]",
                            kSampleGraph = "[SAMPLE GRAPH]", kScatterGraph = "[SCATTER GRAPH]", kFilter = "[FILTER]";
 
@@ -57,18 +55,18 @@ class Reader {
   bool Is(std::string_view section) const { return SameIgnoringCase(Line(), section); }
   /// The current line starts a block of that kind. A section line that ends the file starts nothing.
   bool Starts(std::string_view section) const { return Is(section) && !lines_.AtEnd(); }
-  [[noreturn]] void Fail(int message) const { throw DefinitionFault(message, std::string(Line())); }
+  [[noreturn]] void Fail(Message message) const { throw DefinitionFault(message, std::string(Line())); }
 
   void ReadHeader() {
-    if (lines_.AtEnd() || !SameIgnoringCase(lines_.Next(), kDefinition)) Fail(kNoDefinition);
+    if (lines_.AtEnd() || !SameIgnoringCase(lines_.Next(), kDefinition)) Fail(Message::NoHeaderDefinition);
     while (!lines_.AtEnd()) {
       lines_.Next();
       // The line that ends the file is not looked at: kept on purpose.
       if (lines_.AtEnd() || Is(kColumn)) break;
-      if (!ReadAttribute(definition_, Line())) Fail(kBadHeaderLine);
+      if (!ReadAttribute(definition_, Line())) Fail(Message::BadHeaderAttribute);
     }
     CheckHeader(definition_, path_);
-    if (!Starts(kColumn)) Fail(kNoColumns);
+    if (!Starts(kColumn)) Fail(Message::NoColumnDefinitions);
   }
 
   void ReadColumns() {
@@ -96,7 +94,7 @@ class Reader {
         ReadValues(*column.objColumnValues);
         break;
       }
-      if (!ReadAttribute(column, Line())) Fail(kBadColumnLine);
+      if (!ReadAttribute(column, Line())) Fail(Message::BadColumnAttribute);
     }
     return column;
   }

@@ -15,8 +15,9 @@
 namespace tarnview {
 namespace {
 
-constexpr int kCouldNotBeLoaded = 15, kTooLong = 51, kTooFewFields = 73, kNoHeader = 74, kNothingKnown = 83,
-              kNoTimeColumn = 89, kNoIDText = 90;
+// A line of titles that is missing or too short is told by messages about definitions: kept on purpose.
+constexpr Message kTooFewFields = Message::ColumnOfOtherType;
+constexpr Message kNoHeader = Message::HeaderIncomplete;
 
 /// A log is known by a text that stands at a place of one of its first lines.
 void Identify(std::string_view text, const clsDataLog& definition) {
@@ -30,7 +31,7 @@ void Identify(std::string_view text, const clsDataLog& definition) {
   if (before >= 0 && static_cast<std::size_t>(before) <= line.size() &&
       line.substr(static_cast<std::size_t>(before)).starts_with(definition.strFileIDText))
     return;
-  throw DefinitionFault(kNoIDText,
+  throw DefinitionFault(Message::FileIDTextNotFound,
                         DetailText({"Lines before: " + std::to_string(definition.lngFileIDTextLinesBefore),
                                     "Columns before: " + std::to_string(before), "ID Text: " + definition.strFileIDText,
                                     "Line read from data log: ", std::string(line)}));
@@ -65,8 +66,8 @@ int RowsToHold(std::string_view text, long expected) {
 
 class Load {
  public:
-  Load(std::string_view bytes, const LoadContext& context, LoadOutcome& outcome)
-      : bytes_(bytes), context_(context), definition_(*context.definition), log_(context.log), outcome_(outcome) {}
+  Load(std::string_view bytes, const LoadContext& context, const clsDataLog& definition, LoadOutcome& outcome)
+      : bytes_(bytes), context_(context), definition_(definition), log_(context.log), outcome_(outcome) {}
 
   void Run() {
     context_.progress.Stage("Preparing to load");
@@ -81,21 +82,21 @@ class Load {
     SetTimes(header);
     if (log_.glngDataLog.Rows() >= kFewestSamples) log_.gblnSamplesLoaded = true;
     Smooth(header);
-    if (log_.glngDataLog.Rows() >= kMostSamples) outcome_.messages.emplace_back(kTooLong);
+    if (log_.glngDataLog.Rows() >= kMostSamples) outcome_.messages.emplace_back(Message::LogTooLong);
   }
 
  private:
   void CheckHeader(const HeaderMap& header, std::string_view line) {
     if (definition_.dblLineFrequency == 0 && !header.Feeds(ItemOf(kSecs)))
-      throw DefinitionFault(kNoTimeColumn, std::string(line));
+      throw DefinitionFault(Message::NoTimeColumn, std::string(line));
     outcome_.unknownColumns = header.Unknown();
-    if (!header.AnyKnown()) throw DefinitionFault(kNothingKnown, std::string(line));
+    if (!header.AnyKnown()) throw DefinitionFault(Message::NoColumnsRecognised, std::string(line));
   }
 
   void ReadData(const HeaderMap& header, long expected) {
     std::string_view text = bytes_;
     if (!SkipFileLines(text, definition_.lngDataLinesBefore))
-      throw DefinitionFault(kCouldNotBeLoaded, log_.gstrCurrentFile);
+      throw DefinitionFault(Message::FileNotLoaded, log_.gstrCurrentFile);
     context_.progress.Stage("Preparing to load", expected);
     log_.Clear(context_.items, RowsToHold(text, expected));
     SampleStore& store = log_.glngDataLog;
@@ -176,15 +177,15 @@ bool SkipFileLines(std::string_view& text, long lines) {
   return true;
 }
 
-LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context) {
+LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context, const clsDataLog& definition) {
   LoadOutcome outcome;
   try {
-    Load(bytes, context, outcome).Run();
+    Load(bytes, context, definition, outcome).Run();
   } catch (const DefinitionFault& fault) {
-    outcome.messages.emplace_back(fault.Message(), fault.what());
+    outcome.messages.emplace_back(fault.Told(), fault.what());
   } catch (const std::exception&) {  // out of memory
     context.log.Clear(context.items, 0);
-    outcome.messages.emplace_back(kCouldNotBeLoaded);
+    outcome.messages.emplace_back(Message::FileNotLoaded);
   }
   outcome.loaded = context.log.gblnSamplesLoaded;
   return outcome;

@@ -4,20 +4,19 @@
 
 namespace tarnview {
 
-std::vector<int> ApplyZoneDefaults(LoadedZones& zones, const Settings& settings, bool silent) {
-  constexpr int kEngineSizeMessage = 7, kChipDateMessage = 8, kPressureMessage = 9;
-  std::vector<int> messages;
+std::vector<Message> ApplyZoneDefaults(LoadedZones& zones, const Settings& settings, bool silent) {
+  std::vector<Message> messages;
   if (!IsEngineSize(zones.chip.dblEngineSize)) {
     zones.chip.dblEngineSize = settings.gdblDefaultEngineSize;
-    messages.push_back(kEngineSizeMessage);
+    messages.push_back(Message::EngineSizeAssumed);
   }
   if (zones.chip.datChipDate == kNoDate) {
     zones.chip.datChipDate = settings.gdatDefaultChipDate;
-    messages.push_back(kChipDateMessage);
+    messages.push_back(Message::ChipDateAssumed);
   }
   if (zones.intAtmosphericPressure == 0) {
     zones.intAtmosphericPressure = settings.gintDefaultAtmosphericPressure;
-    messages.push_back(kPressureMessage);
+    messages.push_back(Message::PressureAssumed);
   }
   if (zones.chip.intChipVersion == 0) zones.chip.intChipVersion = settings.gintDefaultChipVersion;
   if (silent || settings.gblnSilentDefaults) messages.clear();

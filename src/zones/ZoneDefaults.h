@@ -2,13 +2,14 @@
 
 #include <vector>
 
+#include "base/MessageTable.h"
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 
 namespace tarnview {
 
 /// Gives zone settings the user's own chip where the file does not say which chip they are of. Returns the messages
-/// (7 engine size, 8 chip date, 9 atmospheric pressure); `silent`, or the setting "Silent Defaults", keeps them back.
-std::vector<int> ApplyZoneDefaults(LoadedZones& zones, const Settings& settings, bool silent);
+/// about what was assumed; `silent`, or the setting "Silent Defaults", keeps them back.
+std::vector<Message> ApplyZoneDefaults(LoadedZones& zones, const Settings& settings, bool silent);
 
 }  // namespace tarnview

@@ -1,4 +1,5 @@
 #include "loaders/FMLinkLog.h"
+#include "model/Catalogue.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   using namespace tarnview;

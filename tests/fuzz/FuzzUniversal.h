@@ -40,7 +40,7 @@ inline int FuzzUniversalLog(const unsigned char* data, std::size_t size) {
   const ConversionTables tables;
   NoProgress progress;
   OpenLog log;
-  LoadGenericDataLog(text, {log, items, settings, tables, progress, &definition});
+  LoadGenericDataLog(text, {log, items, settings, tables, progress}, definition);
   return 0;
 }
 

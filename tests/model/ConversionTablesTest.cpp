@@ -4,7 +4,6 @@
 #include "model/ConversionTables.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
@@ -76,11 +75,10 @@ TEST(ConversionTables, ParsesRowsAndSkipsWhatIsNone) {
 class ConversionFilesTest : public testing::Test {
  protected:
   MemoryFileSystem files;
-  RecordingHost host;
+  std::vector<Message> told;
   FixedClock clock;
-  Messages messages{host, [](int) { return ""; }};
   ErrorLog log{files, clock, "error.log"};
-  ConversionFiles conversions{files, messages, log};
+  ConversionFiles conversions{files, [this](Message id, const std::string&) { told.push_back(id); }, log};
 };
 
 TEST_F(ConversionFilesTest, FallsBackToTheDefaultAndTellsOnlyOfAnUnreadableFile) {
@@ -93,10 +91,9 @@ TEST_F(ConversionFilesTest, FallsBackToTheDefaultAndTellsOnlyOfAnUnreadableFile)
   EXPECT_EQ(conversions.LoadConversionTable("good.txt", defaults), (ConversionTable{{1, 2}}));
   for (const char* path : {"", "missing.txt", "heading.txt", "wrong.txt"})
     EXPECT_EQ(conversions.LoadConversionTable(path, defaults), defaults) << path;
-  EXPECT_TRUE(host.messages.empty());
+  EXPECT_TRUE(told.empty());
   EXPECT_EQ(conversions.LoadConversionTable("broken.txt", defaults), defaults);
-  ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(host.messages[0].id, 4);
+  EXPECT_EQ(told, std::vector{Message::ConversionFileNotLoaded});
   EXPECT_NE(files.files["error.log"].find("/modTarnview/LoadConversionTable"), std::string::npos);
 }
 

@@ -6,7 +6,7 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
-#include "printing/PageLayout.h"
+#include "desk/PageLayout.h"
 #include "qt/TestApplication.h"
 #include "qt/host/Printing.h"
 #include "qt/host/QtHost.h"

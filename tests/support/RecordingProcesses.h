@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "base/EXEFunctions.h"
+#include "base/Processes.h"
 
 namespace tarnview {
 

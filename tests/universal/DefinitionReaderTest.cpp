@@ -21,7 +21,7 @@ std::string FaultOf(std::string_view text) {
   } catch (const DefinitionFault& fault) {
     std::string detail = fault.what();
     for (auto at = detail.find("\r\n"); at != std::string::npos; at = detail.find("\r\n")) detail.replace(at, 2, "|");
-    return std::to_string(fault.Message()) + ": " + detail;
+    return std::to_string(static_cast<int>(fault.Told())) + ": " + detail;
   }
 }
 

@@ -46,7 +46,7 @@ TEST(ShippedDefinitions, EachReadsItsLog) {
     OpenLog log;
     NoProgress progress;
     const LoadOutcome outcome =
-        LoadGenericDataLog(*bytes, {log, items, Settings{}, ConversionTables{}, progress, &definition});
+        LoadGenericDataLog(*bytes, {log, items, Settings{}, ConversionTables{}, progress}, definition);
     EXPECT_EQ(outcome.messages, std::vector<int>{});
     EXPECT_EQ(outcome.unknownColumns.size(), shipped.unknown);
     ASSERT_EQ(log.glngDataLog.Rows(), 12);

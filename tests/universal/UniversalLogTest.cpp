@@ -21,7 +21,7 @@ struct Loaded {
         items(GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems)) {
     log.gstrCurrentFile = "/run.csv";
     NoProgress progress;
-    outcome = LoadGenericDataLog(text, {log, items, settings, ConversionTables{}, progress, &definition});
+    outcome = LoadGenericDataLog(text, {log, items, settings, ConversionTables{}, progress}, definition);
   }
   Loaded(const DefinitionText& text, std::string_view logText, const Settings& settings = {})
       : Loaded(ReadDataLogDefinition(text.Text(), "", BuildDataItemCatalogue().gcolFixedDataItems), logText, settings) {
@@ -35,7 +35,9 @@ struct Loaded {
     return text;
   }
   std::string FirstMessage() const {
-    return outcome.messages.empty() ? "" : std::to_string(outcome.messages[0].id) + ": " + outcome.messages[0].extra;
+    return outcome.messages.empty()
+               ? ""
+               : std::to_string(static_cast<int>(outcome.messages[0].id)) + ": " + outcome.messages[0].extra;
   }
 
   Catalogue catalogue = BuildDataItemCatalogue();

@@ -77,7 +77,8 @@ TEST(AirFuelTargets, NarrowWideAndBoth) {
 TEST(ZoneDefaults, FillsWhatIsMissingAndTells) {
   Settings settings;
   LoadedZones zones;
-  EXPECT_EQ(ApplyZoneDefaults(zones, settings, false), (std::vector<int>{7, 8, 9}));
+  EXPECT_EQ(ApplyZoneDefaults(zones, settings, false),
+            (std::vector{Message::EngineSizeAssumed, Message::ChipDateAssumed, Message::PressureAssumed}));
   EXPECT_EQ(zones.chip.dblEngineSize, 1.6);
   EXPECT_EQ(zones.chip.datChipDate, MakeDate(2000, 1, 1));
   EXPECT_EQ(zones.chip.intChipVersion, 2);

@@ -76,7 +76,7 @@ void AllWindows::MakeGraphWindows() {
                          errors_, messages_, help_},
       presets.Item(1));
   definitionFiles_ =
-      std::make_unique<DefinitionFiles>(files_, messages_, errors_, globals.catalogue.gcolFixedDataItems);
+      std::make_unique<DefinitionFiles>(files_, messages_.Teller(), errors_, globals.catalogue.gcolFixedDataItems);
   firstRun_ = std::make_unique<frmFindINIFile>(host, globals.kinds.gcolFileTypes, std::vector<DefinitionChoice>{},
                                                *definitionFiles_, messages_);
 }

@@ -1,4 +1,4 @@
-#include "printing/PageLayout.h"
+#include "desk/PageLayout.h"
 
 #include <algorithm>
 

@@ -1,11 +1,10 @@
-#include "base/Help.h"
+#include "desk/Help.h"
 
 #include <algorithm>
 
 namespace tarnview {
 namespace {
 
-constexpr int kHelpFailed = 30;
 constexpr const char* kLauncher = "HelpLauncher.htm";
 
 std::string Slashed(std::string path) {
@@ -38,7 +37,7 @@ void Help::ShowHelp(const std::string& topic) {
         programs_.ShellOpen(folder + kLauncher);
         return;
       }
-  messages_.ShowMessage(kHelpFailed);
+  messages_.ShowMessage(Message::HelpFailed);
 }
 
 bool Help::WriteLauncher(const std::string& launcher, const std::string& page) {

@@ -1,10 +1,10 @@
-#include "printing/ChartOutput.h"
+#include "desk/ChartOutput.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include "base/Paths.h"
-#include "printing/PageLayout.h"
+#include "desk/PageLayout.h"
 
 namespace tarnview {
 namespace {

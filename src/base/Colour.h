@@ -2,7 +2,7 @@
 
 namespace tarnview {
 
-/// Colours are 0xBBGGRR: red in the low byte.
+/// A colour is 0xBBGGRR: red in the low byte.
 using Colour = long;
 /// Stands for the desktop's own colour in that place.
 inline constexpr Colour kDesktopColour = -1;

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <string>
-#include <vector>
-
-#include "ui/Host.h"
 
 namespace tarnview {
 
-/// Outside programs. The real form is in EXEFunctions_posix.cpp and EXEFunctions_windows.cpp.
+/// Outside programs. The real form is in Processes_posix.cpp and Processes_windows.cpp.
 class Processes {
  public:
   virtual ~Processes() = default;
@@ -22,20 +19,6 @@ class RealProcesses : public Processes {
  public:
   int Run(const std::string& command) override;
   int Open(const std::string& path) override;
-};
-
-class EXEFunctions {
- public:
-  EXEFunctions(Processes& processes, Host& host) : processes_(processes), host_(host) {}
-
-  /// Waits with no time limit; returns the program's exit code.
-  int RunAndWait(const std::string& command) { return processes_.Run(command); }
-  /// Opens a document; a failure (a code below 33) is told in a box.
-  int ShellOpen(const std::string& path);
-
- private:
-  Processes& processes_;
-  Host& host_;
 };
 
 }  // namespace tarnview

@@ -4,8 +4,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <string>
+#include <vector>
 
-#include "base/EXEFunctions.h"
+#include "base/Processes.h"
 
 extern char** environ;
 

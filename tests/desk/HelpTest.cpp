@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "base/Help.h"
+#include "desk/Help.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
 #include "ui/RecordingHost.h"

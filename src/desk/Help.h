@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "base/EXEFunctions.h"
 #include "base/FileSystem.h"
-#include "base/Messages.h"
+#include "desk/EXEFunctions.h"
+#include "desk/Messages.h"
 
 namespace tarnview {
 

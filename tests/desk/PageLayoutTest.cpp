@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "printing/PageLayout.h"
+#include "desk/PageLayout.h"
 #include "ui/RecordingPage.h"
 
 namespace tarnview {

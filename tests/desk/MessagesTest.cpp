@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -48,8 +48,8 @@ TEST_F(MessagesTest, HaveTextAndStyle) {
       {102, 48, "Unknown error."},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(messages.Text(row.id), row.text);
-    EXPECT_EQ(Messages::Style(row.id), row.style) << row.id;
+    EXPECT_EQ(messages.Text(static_cast<Message>(row.id)), row.text);
+    EXPECT_EQ(Messages::Style(static_cast<Message>(row.id)), row.style) << row.id;
   }
 }
 
@@ -58,32 +58,35 @@ TEST_F(MessagesTest, NameTheWrongKindOfFile) {
       {52, "FM Link Data Log"}, {53, "LinkPlus Data Log"}, {54, "Tec-2 Data Log"},   {55, "Tec-3 Data Log"},
       {56, "FM Link MAP File"}, {59, "UTEC CSV Data Log"}, {60, "UTEC Fixed-Width "}};
   for (const auto& [id, name] : rows)
-    EXPECT_EQ(messages.Text(id), std::string("That doesn't look like a ") + name +
-                                     " file to me.\r\nPlease ensure correct file type is chosen when opening a file.");
+    EXPECT_EQ(messages.Text(static_cast<Message>(id)),
+              std::string("That doesn't look like a ") + name +
+                  " file to me.\r\nPlease ensure correct file type is chosen when opening a file.");
 }
 
 TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgram) {
-  messages.ShowMessage(79, false, "C:\\x.def");
+  messages.ShowMessage(Message::DefinitionOfSettingsNotFound, false, "C:\\x.def");
   ASSERT_EQ(host.messages.size(), 1u);
   EXPECT_EQ(host.messages[0].id, 79);
   EXPECT_EQ(host.messages[0].style, 48);
   EXPECT_EQ(host.messages[0].title, "Tarnview");
   EXPECT_EQ(host.messages[0].text, "Universal data log definition file not found:\r\n\r\nC:\\x.def");
 
-  messages.ShowMessage(15, true);  // no window to show it: a box
+  messages.ShowMessage(Message::FileNotLoaded, true);  // no window to show it: a box
   EXPECT_EQ(host.messages.size(), 2u);
   std::string shown;
-  messages.ShowNonModal = [&](int id, const std::string& text) { shown = std::to_string(id) + " " + text; };
-  messages.ShowMessage(15, true);
+  messages.ShowNonModal = [&](Message id, const std::string& text) {
+    shown = std::to_string(static_cast<int>(id)) + " " + text;
+  };
+  messages.ShowMessage(Message::FileNotLoaded, true);
   EXPECT_EQ(shown, "15 File could not be loaded.");
   EXPECT_EQ(host.messages.size(), 2u);
 }
 
 TEST_F(MessagesTest, AskQuestions) {
-  EXPECT_TRUE(messages.AskQuestion(1));
-  EXPECT_FALSE(messages.AskQuestion(8, true));
+  EXPECT_TRUE(messages.AskQuestion(Question::DeleteItem));
+  EXPECT_FALSE(messages.AskQuestion(Question::PresetOfOtherFamily, true));
   host.answers.push_back({Answer::Kind::No, "", 0});
-  EXPECT_FALSE(messages.AskQuestion(15));
+  EXPECT_FALSE(messages.AskQuestion(static_cast<Question>(15)));
   ASSERT_EQ(host.messages.size(), 3u);
   EXPECT_EQ(host.messages[0].style, 36);
   EXPECT_EQ(host.messages[0].id, 0);

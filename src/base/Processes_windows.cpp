@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "base/EXEFunctions.h"
+#include "base/Processes.h"
 
 namespace tarnview {
 

@@ -1,4 +1,4 @@
-#include "base/Commands.h"
+#include "desk/Commands.h"
 
 namespace tarnview {
 

@@ -1,8 +1,8 @@
-#include "base/EXEFunctions.h"
+#include "desk/EXEFunctions.h"
 
 #include <utility>
 
-#include "base/Messages.h"
+#include "desk/Messages.h"
 
 namespace tarnview {
 namespace {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "base/MessageTable.h"
 #include "ui/Host.h"
 
 namespace tarnview {
@@ -17,24 +18,25 @@ class Messages {
 
   /// Shows a message in a box, or beside the program's own course where `nonModal`. `extra` (the bad item's name)
   /// follows behind an empty line.
-  void ShowMessage(int id, bool nonModal = false, const std::string& extra = "");
+  void ShowMessage(Message id, bool nonModal = false, const std::string& extra = "");
   /// The same in a box with one more button, "&Open Report" or the like.
-  void ShowMessageWithOffer(int id, const std::string& extra, const std::string& offer, std::function<void()> take);
+  void ShowMessageWithOffer(Message id, const std::string& extra, const std::string& offer, std::function<void()> take);
   /// A question with Yes and No; true on Yes. `defaultNo`: Enter presses No.
-  bool AskQuestion(int id, bool defaultNo = false);
+  bool AskQuestion(Question id, bool defaultNo = false);
+  /// ShowMessage for a room that knows no windows.
+  TellMessage Teller();
   /// A box of the program that has no number.
   Reply Tell(const std::string& text, int style);
 
   /// Text and style of a message; an unknown id gives "Unknown error." with style 48.
-  std::string Text(int id) const;
-  static int Style(int id);
-  static std::string QuestionText(int id);
+  std::string Text(Message id) const;
+  static int Style(Message id);
 
   /// How a non-modal message is shown; the windows' room sets it. Unset, it is a box.
-  std::function<void(int id, const std::string& text)> ShowNonModal;
+  std::function<void(Message id, const std::string& text)> ShowNonModal;
 
  private:
-  std::string TextWith(int id, const std::string& extra) const;
+  std::string TextWith(Message id, const std::string& extra) const;
 
   Host& host_;
   std::function<std::string(int)> fileTypeDescription_;

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "printing/ChartOutput.h"
+#include "desk/ChartOutput.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "ui/Form.h"

@@ -1,0 +1,75 @@
+#include "desk/Messages.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace tarnview {
+namespace {
+
+/// The messages of a file that is not of the kind that it was opened as.
+struct WrongFile {
+  Message id;
+  int fileType;
+  int lengthFrom;  ///< file type whose description's length, less one, is where the name is cut
+};
+
+constexpr WrongFile kWrongFiles[] = {
+    {Message::NotAnFMLinkLog, 1, 1},
+    {Message::NotALinkPlusLog, 5, 5},
+    {Message::NotATec2Log, 3, 3},
+    {Message::NotATec3Log, 4, 4},
+    {Message::NotAMapFile, 2, 2},
+    {Message::NotAUTECCSVLog, 6, 6},
+    // Kept as it has always read: "That doesn't look like a UTEC Fixed-Width  file to me.", with two blanks.
+    {Message::NotAUTECFixedLog, 7, 6},
+};
+
+}  // namespace
+
+Messages::Messages(Host& host, std::function<std::string(int)> fileTypeDescription)
+    : host_(host), fileTypeDescription_(std::move(fileTypeDescription)) {}
+
+void Messages::ShowMessage(Message id, bool nonModal, const std::string& extra) {
+  const std::string text = TextWith(id, extra);
+  if (nonModal && ShowNonModal)
+    ShowNonModal(id, text);
+  else
+    host_.Ask({static_cast<int>(id), text, Style(id), kApplicationTitle});
+}
+
+void Messages::ShowMessageWithOffer(Message id, const std::string& extra, const std::string& offer,
+                                    std::function<void()> take) {
+  host_.Ask({static_cast<int>(id), TextWith(id, extra), Style(id), kApplicationTitle, offer, std::move(take)});
+}
+
+bool Messages::AskQuestion(Question id, bool defaultNo) {
+  return Tell(QuestionText(id), kBoxYesNo | kBoxQuestion | (defaultNo ? kBoxSecondIsDefault : 0)) == Reply::Yes;
+}
+
+TellMessage Messages::Teller() {
+  return [this](Message id, const std::string& extra) { ShowMessage(id, false, extra); };
+}
+
+Reply Messages::Tell(const std::string& text, int style) { return host_.Ask({0, text, style, kApplicationTitle}); }
+
+std::string Messages::TextWith(Message id, const std::string& extra) const {
+  return extra.empty() ? Text(id) : Text(id) + "\r\n\r\n" + extra;
+}
+
+std::string Messages::Text(Message id) const {
+  if (const MessageRow* row = FindMessage(id)) return row->text;
+  const auto wrong =
+      std::find_if(std::begin(kWrongFiles), std::end(kWrongFiles), [id](const auto& row) { return row.id == id; });
+  if (wrong == std::end(kWrongFiles)) return "Unknown error.";
+  const auto description = [this](int type) { return fileTypeDescription_ ? fileTypeDescription_(type) : ""; };
+  const std::size_t length = description(wrong->lengthFrom).size();
+  return "That doesn't look like a " + description(wrong->fileType).substr(0, length > 0 ? length - 1 : 0) +
+         " file to me.\r\nPlease ensure correct file type is chosen when opening a file.";
+}
+
+int Messages::Style(Message id) {
+  const MessageRow* row = FindMessage(id);
+  return static_cast<int>(row ? row->icon : MessageIcon::Exclamation);
+}
+
+}  // namespace tarnview
