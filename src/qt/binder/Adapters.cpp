@@ -6,9 +6,11 @@
 #include "qt/binder/ButtonAdapters.h"
 #include "qt/binder/ChartAdapter.h"
 #include "qt/binder/FrameAdapter.h"
+#include "qt/binder/GridAdapter.h"
 #include "qt/binder/ListViewAdapter.h"
 #include "qt/binder/MenuAdapters.h"
 #include "qt/binder/PictureAdapter.h"
+#include "qt/binder/TabStripAdapter.h"
 #include "qt/binder/TextAdapters.h"
 #include "qt/binder/TimerAdapter.h"
 
@@ -38,11 +40,14 @@ constexpr Maker kPairs[] = {
     Pair<CommandButton, QAbstractButton, CommandButtonAdapter>,
     Pair<CommandButton, QAction, CommandActionAdapter>,
     Pair<CheckBox, QCheckBox, CheckBoxAdapter>,
+    Pair<OptionButton, QRadioButton, OptionButtonAdapter>,
+    Pair<TabStrip, QTabWidget, TabStripAdapter>,
     Pair<TextBox, QLineEdit, LineEditAdapter>,
     Pair<TextBox, QPlainTextEdit, TextEditAdapter>,
     Pair<ComboBox, QComboBox, ComboBoxAdapter>,
     Pair<ListBox, QListWidget, ListBoxAdapter>,
     Pair<ListView, QTreeWidget, ListViewAdapter>,
+    Pair<Grid, GridWidget, GridAdapter>,
     Pair<UpDown, UpDownWidget, UpDownAdapter>,
     Pair<ScrollBar, QScrollBar, ScrollBarAdapter>,
     Pair<ProgressBar, QProgressBar, ProgressBarAdapter>,

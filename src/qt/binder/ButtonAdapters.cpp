@@ -1,6 +1,7 @@
 #include "qt/binder/ButtonAdapters.h"
 
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include "qt/Text.h"
 #include "ui/Form.h"
@@ -41,6 +42,24 @@ CheckBoxAdapter::CheckBoxAdapter(CheckBox& box, QCheckBox& view, Binder& binder)
 void CheckBoxAdapter::ShowContent() {
   view_.setText(ToQt(box_.Caption));
   view_.setChecked(box_.Value);
+}
+
+OptionButtonAdapter::OptionButtonAdapter(OptionButton& button, QRadioButton& view, Binder& binder)
+    : Adapter(button, &view, binder), button_(button), view_(view) {
+  // Toggled, since an arrow key chooses, too.
+  connect(&view, &QRadioButton::toggled, this, [this](bool on) {
+    MarkDirty(What::Content);
+    if (on) button_.Value = true;
+  });
+}
+
+void OptionButtonAdapter::ShowContent() {
+  view_.setText(ToQt(button_.Caption));
+  const QSignalBlocker quiet(view_);
+  // An exclusive button that is on cannot be put out.
+  view_.setAutoExclusive(false);
+  view_.setChecked(button_.Value);
+  view_.setAutoExclusive(true);
 }
 
 UpDownAdapter::UpDownAdapter(UpDown& arrows, UpDownWidget& view, Binder& binder) : Adapter(arrows, &view, binder) {

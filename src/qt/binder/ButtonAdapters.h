@@ -3,11 +3,13 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
+#include <QRadioButton>
 
 #include "qt/binder/Adapter.h"
 #include "qt/binder/UpDownWidget.h"
 #include "ui/CheckBox.h"
 #include "ui/CommandButton.h"
+#include "ui/OptionButton.h"
 #include "ui/UpDown.h"
 
 namespace tarnview {
@@ -47,6 +49,18 @@ class CheckBoxAdapter : public Adapter {
  private:
   CheckBox& box_;
   QCheckBox& view_;
+};
+
+class OptionButtonAdapter : public Adapter {
+ public:
+  OptionButtonAdapter(OptionButton& button, QRadioButton& view, Binder& binder);
+
+ protected:
+  void ShowContent() override;
+
+ private:
+  OptionButton& button_;
+  QRadioButton& view_;
 };
 
 class UpDownAdapter : public Adapter {

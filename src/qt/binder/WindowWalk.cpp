@@ -13,7 +13,7 @@ namespace tarnview {
 
 std::vector<std::string> WindowFaults(const Form& form, const QWidget& window) {
   static const QRegularExpression controlLike(
-      "^(mnu|cmd|chk|cbo|lvw|txt|upd|lbl|fra|hsb|vsb|ch|sta|pro|lst|opt|pic|grd|tab|tmr)[A-Z]");
+      "^(mnu|cmd|chk|cbo|lvw|txt|upd|lbl|fra|hsb|vsb|ch|sta|pro|lst|opt|rad|pic|grd|tab|tmr)[A-Z]");
   std::vector<std::string> faults;
   std::set<std::string> names;
   for (const Control* control : form.Controls()) {

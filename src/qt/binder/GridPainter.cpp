@@ -1,0 +1,118 @@
+#include "qt/binder/GridPainter.h"
+
+#include <QPolygonF>
+#include <algorithm>
+#include <cstdlib>
+
+#include "qt/Text.h"
+#include "qt/chart/ChartColours.h"
+
+namespace tarnview {
+namespace {
+
+/// Raised and lowered, told apart by every kind of eye (Okabe and Ito, 2008), on a light and on a dark desktop.
+struct MarkColours {
+  QRgb onLight, onDark;
+};
+constexpr MarkColours kRaised{0xFFD55E00, 0xFFE69F00};
+constexpr MarkColours kLowered{0xFF0072B2, 0xFF56B4E9};
+
+/// Of 255: below, a text is hard to read.
+constexpr int kReadable = 90;
+constexpr double kMarkedTint = 0.18;
+constexpr double kSelectedTint = 0.3;
+
+bool IsDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
+
+QColor Of(const MarkColours& colours, bool dark) { return QColor(dark ? colours.onDark : colours.onLight); }
+
+const MarkColours* ColoursOf(GridCell::Mark mark) {
+  switch (mark) {
+    case GridCell::Mark::Raised:
+      return &kRaised;
+    case GridCell::Mark::Lowered:
+      return &kLowered;
+    case GridCell::Mark::None:
+      break;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void GridPainter::Text(const QRect& place, const std::string& text, const QColor& colour) const {
+  if (text.empty()) return;
+  painter_.setPen(colour);
+  const int room = painter_.fontMetrics().height() / 3;
+  painter_.drawText(place.adjusted(1, 0, -room, 0), Qt::AlignRight | Qt::AlignVCenter, ToQt(text));
+}
+
+void GridPainter::Heading(const QRect& place, const std::string& text, bool lit) const {
+  const QColor face = palette_.color(QPalette::Button);
+  painter_.fillRect(place, lit ? Mix(face, palette_.color(QPalette::Highlight), kSelectedTint) : face);
+  Text(place, text, palette_.color(QPalette::ButtonText));
+}
+
+QColor GridPainter::BackOf(const GridCell& cell) const {
+  if (cell.backColour != kDesktopColour) return ColourToQt(cell.backColour);
+  const QColor base = palette_.color(cell.locked ? QPalette::Button : QPalette::Base);
+  const MarkColours* mark = ColoursOf(cell.mark);
+  return mark ? Mix(base, Of(*mark, IsDark(base)), kMarkedTint) : base;
+}
+
+/// A text that would vanish on what is behind it is drawn in black or white.
+QColor GridPainter::TextOf(const GridCell& cell, const QColor& back) const {
+  const QColor wanted = cell.colour == kDesktopColour ? palette_.color(QPalette::Text) : ColourToQt(cell.colour);
+  if (std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable || wanted.hsvSaturation() > 128) return wanted;
+  return IsDark(back) ? Qt::white : Qt::black;
+}
+
+void GridPainter::Cell(const QRect& place, const GridCell& cell, bool selected) const {
+  if (cell.blackedOut) {
+    painter_.fillRect(place, Qt::black);
+    painter_.fillRect(place, QBrush(QColor(0x60, 0x60, 0x60), Qt::BDiagPattern));
+    return;
+  }
+  QColor back = BackOf(cell);
+  const QColor light = palette_.color(active_ ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
+  if (selected) back = Mix(back, light, active_ ? kSelectedTint : kSelectedTint / 2);
+  painter_.fillRect(place, back);
+  Mark(place, cell.mark);
+  Text(place, cell.text, TextOf(cell, back));
+}
+
+/// In the corner away from the number: above for raised, below for lowered.
+void GridPainter::Mark(const QRect& place, GridCell::Mark mark) const {
+  const MarkColours* colours = ColoursOf(mark);
+  if (!colours) return;
+  const double side = place.height() / 3.0;
+  const bool raised = mark == GridCell::Mark::Raised;
+  const QRectF at(place);
+  const QPointF corner = raised ? at.topLeft() : at.bottomLeft();
+  const QPointF along(corner.x() + side, corner.y());
+  const QPointF away(corner.x(), raised ? corner.y() + side : corner.y() - side);
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(Of(*colours, IsDark(palette_.color(QPalette::Base))));
+  painter_.drawPolygon(QPolygonF{corner, along, away});
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void GridPainter::Current(const QRect& place) const {
+  painter_.setBrush(Qt::NoBrush);
+  painter_.setPen(QPen(palette_.color(QPalette::Highlight), active_ ? 2 : 1));
+  painter_.drawRect(active_ ? place.adjusted(1, 1, 0, 0) : place.adjusted(0, 0, -1, -1));
+}
+
+void GridPainter::Ring(const QPointF& centre, double radius) const {
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+  painter_.setBrush(Qt::NoBrush);
+  // A light line under a dark one is seen on every colour.
+  for (const QPen& pen : {QPen(Qt::white, 4), QPen(Qt::black, 2)}) {
+    painter_.setPen(pen);
+    painter_.drawEllipse(centre, radius, radius);
+  }
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+}  // namespace tarnview

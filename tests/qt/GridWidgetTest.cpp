@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include <QFrame>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "qt/TestApplication.h"
+#include "qt/binder/Binder.h"
+#include "qt/binder/GridWidget.h"
+#include "qt/binder/UpDownWidget.h"
+#include "ui/Form.h"
+#include "ui/Frame.h"
+#include "ui/OptionButton.h"
+#include "ui/RecordingHost.h"
+#include "ui/TabStrip.h"
+
+namespace tarnview {
+namespace {
+
+/// A window with two pages: a grid on one, two choices on the other.
+class GridWidgetTest : public testing::Test {
+ protected:
+  GridWidgetTest() {
+    grid.SetSize(3, 4);
+    grid.SetText(1, 1, "11");
+    tabs.SetTabs({{"Grid", &fraGrid}, {"&Unit", &fraUnit}});
+    auto* column = new QVBoxLayout(&window);
+    book = Named(new QTabWidget, "tabPages");
+    column->addWidget(book);
+    auto* first = Named(new QWidget, "fraGrid");
+    view = Named(new GridWidget(first), "grdData_2");
+    (new QVBoxLayout(first))->addWidget(view);
+    auto* second = Named(new QWidget, "fraUnit");
+    auto* choices = new QVBoxLayout(second);
+    for (int i = 0; i < 2; ++i) choices->addWidget(buttons[i] = Named(new QRadioButton, i == 0 ? "radA" : "radB"));
+    for (QWidget* page : {first, second}) book->addTab(page, "");
+    binder = std::make_unique<Binder>(form, window);
+    window.resize(400, 300);
+    window.show();
+    window.activateWindow();
+    Settle();
+  }
+
+  template <class Widget>
+  static Widget* Named(Widget* widget, const char* name) {
+    widget->setObjectName(name);
+    return widget;
+  }
+  QPoint Middle(int row, int column) const { return view->RectOf({row, column}).center(); }
+  QLineEdit& Field() const { return *view->findChild<QLineEdit*>("field"); }
+
+  QApplication& application = TestApplication();
+  RecordingHost host;
+  Form form{host, "frmGrid", "Grid"};
+  Grid grid{form, "grdData", 2};
+  TabStrip tabs{form, "tabPages"};
+  Frame fraGrid{form, "fraGrid"}, fraUnit{form, "fraUnit"};
+  OptionButton radA{form, "radA", "fraUnit", "A"}, radB{form, "radB", "fraUnit", "B"};
+  QWidget window;
+  QTabWidget* book = nullptr;
+  GridWidget* view = nullptr;
+  QRadioButton* buttons[2] = {};
+  std::unique_ptr<Binder> binder;
+};
+
+TEST_F(GridWidgetTest, TheMouseMarksCells) {
+  for (int row = 0; row < 3; ++row)
+    for (int column = 0; column < 4; ++column) EXPECT_EQ(view->PlaceAt(Middle(row, column)), (GridPlace{row, column}));
+  QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, Middle(2, 3));
+  EXPECT_EQ(grid.Selection(), (GridRange{2, 3, 2, 3}));
+  // QTest's own move tells no button.
+  QMouseEvent drag(QEvent::MouseMove, Middle(1, 2), view->mapToGlobal(Middle(1, 2)), Qt::NoButton, Qt::LeftButton, {});
+  QApplication::sendEvent(view, &drag);
+  EXPECT_EQ(grid.Selection(), (GridRange{1, 2, 2, 3}));
+  QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, Middle(1, 2));
+  QTest::mouseClick(view, Qt::LeftButton, Qt::ShiftModifier, Middle(2, 1));
+  EXPECT_EQ(grid.Selection(), (GridRange{2, 1, 2, 3}));
+  QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, Middle(0, 2));  // a heading
+  EXPECT_EQ(grid.Selection(), (GridRange{2, 1, 2, 3}));
+}
+
+TEST_F(GridWidgetTest, ACellIsEditedInItsPlace) {
+  std::string told;
+  grid.Edited = [&](int row, int column, const std::string& text) {
+    told += std::to_string(row) + std::to_string(column) + "=" + text + " ";
+  };
+  QTest::mouseDClick(view, Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
+  Settle();
+  ASSERT_TRUE(Field().isVisible());
+  EXPECT_TRUE(Field().geometry().intersects(view->RectOf({1, 1})));
+  EXPECT_EQ(Field().selectedText(), "11");
+  QTest::keyClicks(&Field(), "25");
+  EXPECT_EQ(grid.EditText(), "25");
+  QTest::mouseClick(view->findChild<UpDownWidget*>()->findChildren<QWidget*>()[0], Qt::LeftButton);
+  Settle();
+  EXPECT_EQ(Field().text(), "26");
+  QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, Middle(2, 2));
+  Settle();
+  EXPECT_FALSE(Field().isVisible());
+  EXPECT_TRUE(view->hasFocus());
+  // Typing opens it with what was typed, and goes on behind that.
+  QTest::keyClicks(view, "-");
+  Settle();
+  EXPECT_EQ(Field().text(), "-");
+  QTest::keyClicks(&Field(), "7");
+  grid.CommitEdit();
+  Settle();
+  EXPECT_EQ(told, "11=26 22=-7 ");
+  EXPECT_TRUE(view->hasFocus());
+}
+
+TEST_F(GridWidgetTest, RingMarksAndBlackoutsAreDrawn) {
+  const QImage before = view->grab().toImage();
+  grid.Ring = GridPoint{1.5, 1.5};
+  Settle();
+  const QImage ringed = view->grab().toImage();
+  EXPECT_NE(before, ringed);
+  const QPoint between = (Middle(1, 1) + Middle(2, 2)) / 2;
+  EXPECT_EQ(before.copy(QRect(Middle(2, 3), QSize(5, 5))), ringed.copy(QRect(Middle(2, 3), QSize(5, 5))));
+  const QRect around(between - QPoint(16, 16), QSize(32, 32));
+  EXPECT_NE(before.copy(around), ringed.copy(around));
+  for (const auto mark : {GridCell::Mark::Raised, GridCell::Mark::Lowered}) {
+    GridCell cell;
+    cell.mark = mark;
+    grid.SetCell(2, 3, cell);
+    Settle();
+    const QRect place = view->RectOf({2, 3});
+    const bool raised = mark == GridCell::Mark::Raised;
+    const QImage shown = view->grab().toImage();
+    const QColor above = shown.pixelColor(place.topLeft() + QPoint(1, 1));
+    const QColor below = shown.pixelColor(place.bottomLeft() + QPoint(1, -1));
+    EXPECT_GT((raised ? above : below).hsvSaturation(), (raised ? below : above).hsvSaturation() + 50);
+  }
+  GridCell black;
+  black.blackedOut = true;
+  grid.SetCell(2, 3, black);
+  Settle();
+  EXPECT_LT(qGray(view->grab().toImage().pixel(Middle(2, 3))), 0x70);
+}
+
+TEST_F(GridWidgetTest, TabsAndChoicesFollowBothWays) {
+  EXPECT_TRUE(view->isVisible());
+  book->setCurrentIndex(1);
+  Settle();
+  EXPECT_EQ(tabs.Selected(), 2);
+  EXPECT_TRUE(buttons[0]->isVisible());
+  buttons[1]->click();
+  EXPECT_TRUE(radB.Value);
+  radA.Value = true;
+  Settle();
+  EXPECT_TRUE(buttons[0]->isChecked() && !buttons[1]->isChecked());
+  buttons[0]->setFocus();
+  QTest::keyClick(buttons[0], Qt::Key_Down);
+  EXPECT_TRUE(radB.Value && !radA.Value);
+  radB.Value = false;
+  Settle();
+  EXPECT_FALSE(buttons[0]->isChecked() || buttons[1]->isChecked());
+  tabs.SetTabs({{"Grid alone", &fraGrid}});
+  Settle();
+  EXPECT_FALSE(book->isTabVisible(1));
+  EXPECT_EQ(book->tabText(0), "Grid alone");
+  EXPECT_TRUE(view->isVisible());
+}
+
+}  // namespace
+}  // namespace tarnview
