@@ -1,0 +1,140 @@
+#include "universal/ShapeField.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "universal/TimeText.h"
+
+namespace tarnview {
+namespace {
+
+constexpr std::string_view kNoValues[] = {"-",    "--",   "---",  "nan", "-nan", "n/a", "na",
+                                          "#n/a", "null", "none", "inf", "-inf", "?"};
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsGap(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view TrimGaps(std::string_view text) {
+  while (!text.empty() && IsGap(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsGap(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+void SplitAtGaps(std::string_view line, std::vector<std::string_view>& fields) {
+  for (;;) {
+    line = TrimGaps(line);
+    if (line.empty()) return;
+    const auto end = std::min(line.find_first_of(" \t"), line.size());
+    fields.push_back(line.substr(0, end));
+    line.remove_prefix(end);
+  }
+}
+
+/// The length of the field that a line starts with.
+std::size_t FieldLength(std::string_view line, const FieldForm& form) {
+  std::size_t from = 0;
+  const auto first = line.find_first_not_of(" \t");
+  if (form.quoted && first != std::string_view::npos && line[first] == '"') {
+    const auto closing = line.find('"', first + 1);
+    if (closing != std::string_view::npos) from = closing;
+    while (from + 1 < line.size() && closing != std::string_view::npos && line[from + 1] == '"') {  // "" within
+      const auto next = line.find('"', from + 2);
+      if (next == std::string_view::npos) break;
+      from = next;
+    }
+  }
+  return std::min(line.find(form.delimiter, from), line.size());
+}
+
+std::string_view Bare(std::string_view field, bool quoted) {
+  field = TrimGaps(field);
+  if (quoted && field.size() >= 2 && field.front() == '"' && field.back() == '"')
+    field = TrimGaps(field.substr(1, field.size() - 2));
+  return field;
+}
+
+/// Digits in groups of three behind the first, set off by `sign`: "1,234,567".
+bool Grouped(std::string_view whole, char sign) {
+  const auto first = whole.find(sign);
+  if (first == 0 || first > 3) return false;
+  for (std::size_t at = first; at < whole.size(); at += 4) {
+    if (whole[at] != sign || whole.size() - at < 4) return false;
+    if (!std::all_of(whole.begin() + static_cast<std::ptrdiff_t>(at) + 1,
+                     whole.begin() + static_cast<std::ptrdiff_t>(at) + 4, IsDigit))
+      return false;
+  }
+  return true;
+}
+
+/// The text with "." and no groups; false where it has a sign too many.
+bool Simplify(std::string_view text, char decimalSign, std::string& simple) {
+  const char groupSign = decimalSign == '.' ? ',' : '.';
+  const auto point = text.find(decimalSign);
+  const std::string_view whole = text.substr(0, point);
+  if (whole.find(groupSign) != std::string_view::npos && !Grouped(whole, groupSign)) return false;
+  for (const char c : whole)
+    if (c != groupSign) simple += c;
+  if (point == std::string_view::npos) return true;
+  simple += '.';
+  simple += text.substr(point + 1);
+  return text.find(groupSign, point) == std::string_view::npos;
+}
+
+/// The value of digits with at most one point and an exponent.
+std::optional<double> ValueOf(const std::string& simple) {
+  if (simple.empty() || (!IsDigit(simple[0]) && simple[0] != '.') || !IsNumeric(simple)) return std::nullopt;
+  return StringToDouble(simple);
+}
+
+}  // namespace
+
+std::vector<std::string_view> SplitShapeLine(std::string_view line, const FieldForm& form) {
+  std::vector<std::string_view> fields;
+  if (line.empty()) return fields;
+  if (form.delimiter == ' ') {
+    SplitAtGaps(line, fields);
+    return fields;
+  }
+  for (;;) {
+    const std::size_t length = FieldLength(line, form);
+    fields.push_back(Bare(line.substr(0, length), form.quoted));
+    if (length == line.size()) return fields;
+    line.remove_prefix(length + 1);
+  }
+}
+
+std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSign) {
+  text = TrimGaps(text);
+  if (text.ends_with('%')) text = TrimGaps(text.substr(0, text.size() - 1));
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  if (text.empty() || text.size() > 40 || (!IsDigit(text[0]) && text[0] != decimalSign)) return std::nullopt;
+  std::string simple;
+  if (!Simplify(text, decimalSign, simple)) return std::nullopt;
+  const auto value = ValueOf(simple);
+  if (!value) return std::nullopt;
+  FieldNumber number{negative ? -*value : *value, 0};
+  const auto point = simple.find('.');
+  for (std::size_t at = point; at != std::string::npos && ++at < simple.size() && IsDigit(simple[at]);) ++number.places;
+  return number;
+}
+
+bool IsNoValue(std::string_view text) {
+  if (text.size() == 11 && text.starts_with("-21474836")) return true;  // just above the least of 32 bits
+  return std::any_of(std::begin(kNoValues), std::end(kNoValues),
+                     [&](std::string_view token) { return SameIgnoringCase(token, text); });
+}
+
+std::vector<std::string_view> NoValueTexts() { return {std::begin(kNoValues), std::end(kNoValues)}; }
+
+FieldKind KindOfField(std::string_view field, char decimalSign) {
+  if (field.empty()) return FieldKind::Empty;
+  if (IsNoValue(field)) return FieldKind::NoValue;
+  if (ReadShapeNumber(field, decimalSign)) return FieldKind::Number;
+  return ReadTimeText(field) ? FieldKind::Time : FieldKind::Text;
+}
+
+}  // namespace tarnview
