@@ -1,0 +1,192 @@
+#include "universal/ShapeRows.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/Text.h"
+#include "universal/Units.h"
+
+namespace tarnview {
+namespace {
+
+using Fields = std::vector<std::string_view>;
+
+constexpr std::size_t kMostLinesJudged = 2000;
+
+/// Fields of each kind.
+std::array<int, 5> CountKinds(const Fields& fields, char decimalSign) {
+  std::array<int, 5> counts{};
+  for (const std::string_view field : fields) ++counts[static_cast<std::size_t>(KindOfField(field, decimalSign))];
+  return counts;
+}
+
+int Of(const std::array<int, 5>& counts, FieldKind kind) { return counts[static_cast<std::size_t>(kind)]; }
+
+/// Titles may hold a delimiter between brackets that nobody quoted: "Torque (lb, ft)". Such parts are joined again.
+std::vector<std::string> JoinInBrackets(const Fields& fields, char delimiter) {
+  std::vector<std::string> joined;
+  int open = 0;
+  for (const std::string_view field : fields) {
+    if (open > 0)
+      joined.back() += delimiter + std::string(field);
+    else
+      joined.emplace_back(field);
+    for (const char c : field) open += (c == '(') - (c == ')');
+    open = std::max(open, 0);
+  }
+  return joined;
+}
+
+/// Signs such as "#" or "%" and blanks in front of the first title.
+std::string_view MarkOf(std::string_view line) {
+  const auto end = line.find_first_not_of("#%*>!/ ");
+  return end == std::string_view::npos ? std::string_view() : line.substr(0, end);
+}
+
+std::vector<std::string> TitlesOf(std::string_view line, const FieldFormGuess& guess) {
+  FieldForm form = guess.form;
+  form.quoted = true;
+  line.remove_prefix(MarkOf(line).size());
+  const Fields fields = SplitShapeLine(line, form);
+  if (static_cast<int>(fields.size()) <= guess.fields) return {fields.begin(), fields.end()};
+  const auto joined = JoinInBrackets(fields, form.delimiter);
+  return static_cast<int>(joined.size()) >= guess.fields ? joined
+                                                         : std::vector<std::string>(fields.begin(), fields.end());
+}
+
+/// A row that may name columns: about as many texts as there are fields, hardly a number among them.
+bool MayBeTitles(std::string_view line, const FieldFormGuess& guess) {
+  if (line.empty()) return false;
+  const auto titles = TitlesOf(line, guess);
+  const int usual = guess.fields, found = static_cast<int>(titles.size());
+  if (found < 2 || found + 2 < usual || (found < usual && usual < 4 && found + 1 < usual)) return false;
+  const auto counts = CountKinds({titles.begin(), titles.end()}, guess.form.decimalSign);
+  const int texts = Of(counts, FieldKind::Text);
+  return texts >= 1 && texts >= 2 * (Of(counts, FieldKind::Number) + Of(counts, FieldKind::Time));
+}
+
+bool IsUnitsRow(const std::vector<std::string>& fields) {
+  int known = 0, texts = 0;
+  for (const std::string& field : fields) {
+    if (field.empty()) continue;
+    ++texts;
+    known += IsUnit(field);
+  }
+  return texts > 0 && 2 * known >= texts;
+}
+
+bool AnyLetter(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<signed char>(c) < 0;
+  });
+}
+
+/// The first line of data: of it and the four behind it at least three are data, or all where fewer follow.
+int FirstDataLine(const std::vector<std::string_view>& lines, const FieldFormGuess& guess) {
+  for (std::size_t at = 0; at < std::min(lines.size(), kMostLinesJudged); ++at) {
+    if (!IsDataLine(lines[at], guess)) continue;
+    std::size_t data = 0, looked = 0;
+    for (std::size_t next = at; next < std::min(at + 5, lines.size()); ++next, ++looked)
+      data += IsDataLine(lines[next], guess);
+    if (data >= std::min<std::size_t>(3, looked)) return static_cast<int>(at);
+  }
+  return -1;
+}
+
+/// The lines above the data that are of as many fields, from the lowest to the highest; blank lines and short marks
+/// such as "[Channel Data]" may stand between them and the data.
+std::vector<int> RowsAbove(const std::vector<std::string_view>& lines, int dataLine, const FieldFormGuess& guess) {
+  std::vector<int> rows;
+  for (int at = dataLine - 1; at >= 0 && at >= dataLine - 12; --at) {
+    const std::string_view line = lines[static_cast<std::size_t>(at)];
+    const int fields = static_cast<int>(SplitShapeLine(line, guess.form).size());
+    if (MayBeTitles(line, guess) || (fields >= guess.fields - 1 && fields > 1 && !IsDataLine(line, guess)))
+      rows.push_back(at);
+    else if (!rows.empty())
+      break;
+  }
+  return rows;
+}
+
+/// Of those rows the topmost that may be titles, unless a line of comment.
+int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<int>& rows, const FieldFormGuess& guess) {
+  int found = -1;
+  for (const int row : rows) {
+    const std::string_view line = lines[static_cast<std::size_t>(row)];
+    if (!MayBeTitles(line, guess) || (found >= 0 && line.starts_with('#'))) continue;
+    if (found < 0 || !IsUnitsRow(TitlesOf(line, guess))) found = row;
+  }
+  return found;
+}
+
+/// The line of units between titles and data; -1 for none.
+int UnitsLineOf(const std::vector<std::string_view>& lines, const ShapeRows& rows, const FieldFormGuess& guess) {
+  for (int at = rows.titleLine + 1; at < rows.dataLine; ++at) {
+    const auto fields = TitlesOf(lines[static_cast<std::size_t>(at)], guess);
+    if (fields.size() > 1 && IsUnitsRow(fields)) return at;
+  }
+  return -1;
+}
+
+/// What lines among the data begin with that are none and have one beginning in common: "#", "//".
+std::string CommentPrefixOf(const std::vector<std::string_view>& lines, std::size_t from) {
+  constexpr std::string_view kPrefixes[] = {"#", "//", "%", "*"};
+  for (const std::string_view prefix : kPrefixes)
+    if (std::any_of(lines.begin() + static_cast<std::ptrdiff_t>(from), lines.end(),
+                    [&](std::string_view line) { return line.starts_with(prefix); }))
+      return std::string(prefix);
+  return "";
+}
+
+double DataShare(const std::vector<std::string_view>& lines, std::size_t from, const FieldFormGuess& guess) {
+  int data = 0, all = 0;
+  for (std::size_t at = from; at < std::min(lines.size(), from + kMostLinesJudged); ++at) {
+    if (lines[at].empty()) continue;
+    ++all;
+    data += IsDataLine(lines[at], guess);
+  }
+  return all == 0 ? 0 : static_cast<double>(data) / all;
+}
+
+}  // namespace
+
+void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines, const FieldFormGuess& guess,
+                   int titleLine, int unitsLine) {
+  const int count = static_cast<int>(lines.size());
+  rows.titleLine = titleLine < count ? titleLine : -1;
+  rows.unitsLine = unitsLine < count ? unitsLine : -1;
+  rows.titles.clear();
+  rows.units.clear();
+  rows.titleMark.clear();
+  if (rows.titleLine < 0) rows.unitsLine = -1;
+  if (rows.titleLine < 0) return;
+  rows.titles = TitlesOf(lines[static_cast<std::size_t>(rows.titleLine)], guess);
+  rows.titleMark = Trim(MarkOf(lines[static_cast<std::size_t>(rows.titleLine)]));
+  if (rows.unitsLine < 0) return;
+  rows.units = TitlesOf(lines[static_cast<std::size_t>(rows.unitsLine)], guess);
+  rows.units.resize(rows.titles.size());
+}
+
+bool IsDataLine(std::string_view line, const FieldFormGuess& guess) {
+  const Fields fields = SplitShapeLine(line, guess.form);
+  const int found = static_cast<int>(fields.size());
+  if (found < 2 || found * 3 < guess.fields * 2 || found > guess.fields + 2) return false;
+  const auto counts = CountKinds(fields, guess.form.decimalSign);
+  const int numbers = Of(counts, FieldKind::Number) + Of(counts, FieldKind::Time);
+  return numbers > 0 && numbers + Of(counts, FieldKind::NoValue) >= Of(counts, FieldKind::Text);
+}
+
+ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess) {
+  ShapeRows rows;
+  rows.dataLine = FirstDataLine(lines, guess);
+  if (rows.dataLine < 0) return rows;
+  const auto from = static_cast<std::size_t>(rows.dataLine);
+  rows.titleLine = TitleLineOf(lines, RowsAbove(lines, rows.dataLine, guess), guess);
+  if (rows.titleLine >= 0) SetTitleLines(rows, lines, guess, rows.titleLine, UnitsLineOf(lines, rows, guess));
+  rows.commentPrefix = CommentPrefixOf(lines, from);
+  rows.dataShare = DataShare(lines, from, guess);
+  if (rows.titleLine >= 0 && !std::any_of(rows.titles.begin(), rows.titles.end(), AnyLetter)) rows.titleLine = -1;
+  return rows;
+}
+
+}  // namespace tarnview
