@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include "MadeLogs.h"
+#include "base/FileSystem.h"
+#include "base/Numbers.h"
+#include "model/Catalogue.h"
+#include "universal/LogShape.h"
+
+namespace tarnview {
+namespace {
+
+const TitleDictionary& Dictionary() {
+  static const TitleDictionary dictionary(*RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
+  return dictionary;
+}
+
+LogShape ShapeOf(std::string_view text, const ShapeChoices& choices = {}) {
+  static const Catalogue catalogue = BuildDataItemCatalogue();
+  return ReadLogShape(text, Dictionary(), catalogue.gcolFixedDataItems, choices);
+}
+
+std::string PrintedItem(const ShapeItem& item) {
+  std::string text = std::to_string(item.item) + " " + item.name;
+  if (!item.unit.empty()) text += " [" + item.unit + "]";
+  if (item.factor != 1 || item.offset != 0)
+    text += " x" + NumberText(RoundPlaces(item.factor, 4)) + "+" + NumberText(RoundPlaces(item.offset, 2));
+  return text + (item.list ? " list" : "");
+}
+
+std::string Printed(const LogShape& shape) {
+  const auto number = [](double value) { return NumberText(RoundPlaces(value, 5)); };
+  std::string text(EncodingName(shape.encoding));
+  text += " " + std::string(DelimiterName(shape.form.delimiter)) + " " + shape.form.decimalSign;
+  text += shape.form.quoted ? " quoted" : "";
+  text += " titles " + std::to_string(shape.rows.titleLine + 1) + " units " + std::to_string(shape.rows.unitsLine + 1) +
+          " data " + std::to_string(shape.rows.dataLine + 1) + "\ntime " + std::to_string(shape.time.column) + " " +
+          std::string(TimeFormName(shape.time.form)) + " " + number(shape.time.step) + " rate " +
+          number(shape.lineFrequency) + "\n";
+  for (const ShapeItem& item : shape.items) text += (&item == shape.items.data() ? "| " : " | ") + PrintedItem(item);
+  return text + "\n";
+}
+
+TEST(LogShape, LogsInTheMannerOfLoggersOfTheField) {
+  for (const MadeLog& log : MadeLogs()) {
+    const LogShape shape = ShapeOf(log.text);
+    EXPECT_EQ(Printed(shape), log.shape) << log.name;
+    EXPECT_GE(shape.score, 80) << log.name;
+  }
+}
+
+TEST(LogShape, WhatIsNoLogHasALowScore) {
+  std::string numbers, prose, code, bytes;
+  for (int line = 0; line < 50; ++line) {
+    numbers += std::to_string(line * 7 % 10) + "," + std::to_string(line * 3 % 11) + "\n";
+    prose += "The quick brown fox, it is said; jumps over 12 lazy dogs.\nNobody saw it\n";
+    code += "  for (int i = 0; i < 10; ++i) {\n    sum += values[i];\n  }\n";
+  }
+  for (int byte = 0; byte < 5000; ++byte) bytes += static_cast<char>(byte * 37 % 256);
+  for (const std::string& text : {numbers, prose, code, bytes, std::string(), std::string("a,b\n1,2\n"),
+                                  std::string(9000, '\n'), std::string(9000, ',')})
+    EXPECT_FALSE(ShapeOf(text).Found()) << text.substr(0, 40) << ShapeOf(text).score;
+}
+
+TEST(LogShape, TheUnitOfATimeIsThePlausibleOneWhereNoneIsTold) {
+  const struct {
+    double step;
+    const char* form;
+  } kRows[] = {{0.02, "SECONDS"},     {1, "SECONDS"},          {2, "SECONDS"},     {20, "MILLISECONDS"},
+               {250, "MILLISECONDS"}, {20000, "MICROSECONDS"}, {0.000002, "DAYS"}, {1e9, ""}};
+  for (const auto& row : kRows) {
+    std::string text = "Time,RPM\n";
+    for (int line = 0; line < 8; ++line) {
+      char stamp[40];
+      std::snprintf(stamp, sizeof stamp, "%.6f,%d\n", line * row.step, 900 + line);
+      text += stamp;
+    }
+    EXPECT_EQ(TimeFormName(ShapeOf(text).time.form), row.form) << row.step;
+  }
+}
+
+TEST(LogShape, PressuresAreToldApartByTheirValues) {
+  const struct {
+    const char* title;
+    const char* first;
+    const char* second;
+    const char* item;
+  } kRows[] = {
+      {"MAP (kPa)", "33", "180", "5 MAP [kPa]"},
+      {"MAP (psi)", "-9", "12", "37 Boost [psi]"},
+      {"Boost (kPa)", "35", "210", "5 MAP [kPa]"},
+      {"Boost (kPa)", "0", "110", "37 Boost [psi] x0.145+0"},
+      {"Ladedruck (hPa)", "950", "2100", "5 MAP [kPa] x0.1+0"},
+      {"MAP", "0.35", "1.8", "5 MAP [kPa] x100+0"},
+      {"AFR", "0.8", "1.1", "36 A/F [AFR] x14.7+0"},
+      {"Lambda", "11.5", "14.7", "36 A/F [AFR]"},
+      {"CLT", "170", "190", "23 C Temp [C] x0.5556+-17.78"},
+      {"Throttle Position (V)", "1", "4", "101 Throttle Position [V]"},
+      {"Target Engine Speed (rpm)", "1", "4", "101 Target Engine Speed [rpm]"},
+  };
+  for (const auto& row : kRows) {
+    const std::string text = std::string("Time (s),") + row.title + "\n0," + row.first + "\n0.1," + row.second +
+                             "\n0.2," + row.second + "\n0.3," + row.first + "\n";
+    EXPECT_EQ(PrintedItem(ShapeOf(text).items.at(1)), row.item);
+  }
+}
+
+TEST(LogShape, WhatAUserSettlesStands) {
+  const std::string log = "note\nTime;RPM;Load\ns;rpm;%\n0;900;1,5\n1;901;1,6\n2;902;1,7\n3;903;1,8\n";
+  ShapeChoices choices;
+  choices.timeColumn = -1;
+  choices.lineFrequency = 25;
+  choices.unitsLine = -1;
+  choices.decimalSign = '.';
+  EXPECT_EQ(Printed(ShapeOf(log, choices)),
+            "UTF-8 semicolon . titles 2 units 0 data 4\ntime -1  0 rate 25\n"
+            "| 101 Time | 3 RPM [rpm] | 102 Load list\n");
+  ShapeChoices others;
+  others.titleLine = -1;
+  others.timeForm = TimeForm::Minutes;
+  EXPECT_EQ(Printed(ShapeOf(log, others)),
+            "UTF-8 semicolon , titles 0 units 0 data 4\ntime 0 MINUTES 1 rate 0\n"
+            "| 63 Secs [s] | 101 Column 2 | 102 Column 3\n");
+}
+
+TEST(LogShape, OfALargeLogBothEndsAreLookedAt) {
+  std::string log = "Time (s),RPM,Late\n";
+  for (int line = 0; line < 60000; ++line)
+    log += std::to_string(line) + ".5,900," + (line > 59000 ? std::to_string(line) : "") + "\n";
+  const LogShape shape = ShapeOf(log);
+  EXPECT_EQ(shape.columns.at(2).content, ColumnContent::Number);
+  EXPECT_EQ(shape.columns.at(2).highest, 59999);
+  EXPECT_EQ(shape.time.step, 1);
+}
+
+}  // namespace
+}  // namespace tarnview
