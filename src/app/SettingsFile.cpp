@@ -4,7 +4,6 @@
 #include "model/ItemDisplaySettings.h"
 #include "power/CarDefSettings.h"
 #include "presets/PresetSettings.h"
-#include "universal/BuiltInPresets.h"
 #include "zones/BenchmarkSettings.h"
 
 namespace tarnview {
@@ -39,20 +38,10 @@ void ReadScatters(const Reading& from) {
   ReadScatterPresets(from.table, catalogue.gcolFixedDataItems, catalogue.gcolUniversalDataItems, from.TellUnknown(),
                      from.globals.gcolScatterGraphPresets);
 }
-void WriteSamples(const Globals& globals, IniWriter& file) {
-  const BuiltInPresets builtIn;
-  WriteSamplePresets(
-      globals.gcolSampleGraphPresets, [&](const auto& preset) { return !builtIn.Holds(preset); }, file);
-}
-void WriteScatters(const Globals& globals, IniWriter& file) {
-  const BuiltInPresets builtIn;
-  WriteScatterPresets(
-      globals.gcolScatterGraphPresets, [&](const auto& preset) { return !builtIn.Holds(preset); }, file);
-}
-
-/// Of a fresh file, and of one that says nothing about them, Universal items look as their definition says.
+/// On a first run Universal items look as their definition says; later as the built-in ones do, but for what the file
+/// says about them.
 void ReadUniversalDisplay(const Reading& from) {
-  if (from.globals.settings.firstRun || !HasItemDisplay(from.table, kGenericItemDisplaySection)) return;
+  if (from.globals.settings.firstRun) return;
   Catalogue& catalogue = from.globals.catalogue;
   CopyItemDisplay(catalogue.gcolFixedDataItems, catalogue.gcolUniversalDataItems);
   ReadItemDisplay(from.table, kGenericItemDisplaySection, catalogue.gcolUniversalDataItems);
@@ -79,8 +68,10 @@ const Section kSections[] = {
     {"3D Graph", "3D Graph Defaults", Half::BeforeDefinition,
      [](const Reading& from) { ReadGraphAngles(from.table, from.globals.settings.angles); },
      [](const Globals& globals, IniWriter& file) { WriteGraphAngles(globals.settings.angles, file); }},
-    {"New Preset Sample Graphs", "Preset Sample Graphs", Half::BehindDefinition, ReadSamples, WriteSamples},
-    {"New Preset Scatter Graphs", "Preset Scatter Graphs", Half::BehindDefinition, ReadScatters, WriteScatters},
+    {"New Preset Sample Graphs", "Preset Sample Graphs", Half::BehindDefinition, ReadSamples,
+     [](const Globals& globals, IniWriter& file) { WriteSamplePresets(globals.gcolSampleGraphPresets, file); }},
+    {"New Preset Scatter Graphs", "Preset Scatter Graphs", Half::BehindDefinition, ReadScatters,
+     [](const Globals& globals, IniWriter& file) { WriteScatterPresets(globals.gcolScatterGraphPresets, file); }},
     {"Benchmarks", "Benchmarks", Half::BeforeDefinition,
      [](const Reading& from) { ReadBenchmarks(from.table, from.globals.settings, from.globals.gcolBenchmarks); },
      [](const Globals& globals, IniWriter& file) { WriteBenchmarks(globals.gcolBenchmarks, file); }},
@@ -116,6 +107,7 @@ void SettingsFile::LoadINIFileNew() {
   const auto text = services_.files.Read(globals_.gstrInstallINIFile);
   const IniTable install = text ? ReadINIFileToArray(*text) : IniTable();
   ReadHalf(Half::BeforeDefinition, {globals_, table_, text ? &install : nullptr, services_.messages});
+  globals_.settings.firstRun = globals_.settings.firstRun || noFile_;
   FindBackgroundPicture();
   ValidateWorkingDirectory();
 }
@@ -127,7 +119,8 @@ void SettingsFile::LoadPresets() {
 
 IniTable SettingsFile::ReadTable() {
   const std::string& path = globals_.gstrINIFile;
-  if (path.empty() || !services_.files.FileExists(path)) return {};
+  noFile_ = path.empty() || !services_.files.FileExists(path);
+  if (noFile_) return {};
   const auto text = services_.files.Read(path);
   if (!text) {
     services_.messages.Tell(

@@ -31,6 +31,7 @@ class SettingsFile {
 
   Globals& globals_;
   Services& services_;
+  bool noFile_ = false;
   IniTable table_;  ///< between the two halves of loading
 };
 

@@ -6,8 +6,6 @@
 #include "base/Numbers.h"
 #include "desk/Placement.h"
 #include "model/SettingLimits.h"
-#include "universal/BuiltInPresets.h"
-#include "universal/DefaultDataLogDefinition.h"
 #include "universal/DefinitionPresets.h"
 
 namespace tarnview {
@@ -32,13 +30,11 @@ void frmDataLogViewer::TakeSettings() {
   chkShowCheckedOnly.Value = settings.gblnShowCheckedOnly;
 }
 
-/// The built-in definition brings its presets each time; those of a file join once, when it is chosen.
+/// A definition's presets join the user's on a first run, and later whenever one is chosen.
 void frmDataLogViewer::JoinDefinitionPresets() {
-  const clsDataLog& definition = globals_.gclsDataLogDefinition;
-  if (definition.strName == DefaultDataLogDefinition().strName)
-    AddBuiltInPresets(globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets);
-  else if (globals_.settings.firstRun)
-    AddDefinitionPresets(definition, globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets);
+  if (!globals_.settings.firstRun) return;
+  AddDefinitionPresets(globals_.gclsDataLogDefinition, globals_.gcolSampleGraphPresets,
+                       globals_.gcolScatterGraphPresets);
 }
 
 void frmDataLogViewer::GatherSettings() {

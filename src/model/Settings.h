@@ -76,7 +76,7 @@ struct Settings {
   BeyondSettings beyond;
   std::vector<std::string> recentFiles;            ///< "id|path", the latest first
   std::vector<std::string> recentPowerGraphFiles;  ///< paths, the latest first
-  bool firstRun = false;  ///< the file is fresh from a template, and no user's choices are in it yet
+  bool firstRun = false;  ///< no file yet, or one fresh from a template: no user's choices are in it
 };
 
 /// What the zoom box offers.

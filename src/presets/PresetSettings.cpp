@@ -22,11 +22,9 @@ void ReadAll(const Read& read, const TellUnknownItems& tell, Presets& presets) {
 }
 
 template <class Preset>
-void WriteAll(const PresetCollection<Preset>& presets, const std::function<bool(const Preset&)>& isWritten,
-              IniWriter& file) {
+void WriteAll(const PresetCollection<Preset>& presets, IniWriter& file) {
   int n = 0;
   for (const Preset& preset : presets) {
-    if (!isWritten(preset)) continue;
     Preset named = preset;
     if (Trim(named.strName).empty()) named.strName = PresetCollection<Preset>::NEW_NAME;
     WriteToFile(named, file, ++n, true);
@@ -47,14 +45,8 @@ void ReadScatterPresets(const IniTable& table, const clsLogDataItems& fixedItems
   ReadOldScatterPresets(table, fixedItems, presets);
 }
 
-void WriteSamplePresets(const clsSampleGraphPresets& presets,
-                        const std::function<bool(const clsSampleGraphPreset&)>& isWritten, IniWriter& file) {
-  WriteAll(presets, isWritten, file);
-}
+void WriteSamplePresets(const clsSampleGraphPresets& presets, IniWriter& file) { WriteAll(presets, file); }
 
-void WriteScatterPresets(const clsScatterGraphPresets& presets,
-                         const std::function<bool(const clsScatterGraphPreset&)>& isWritten, IniWriter& file) {
-  WriteAll(presets, isWritten, file);
-}
+void WriteScatterPresets(const clsScatterGraphPresets& presets, IniWriter& file) { WriteAll(presets, file); }
 
 }  // namespace tarnview

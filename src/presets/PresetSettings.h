@@ -20,11 +20,9 @@ void ReadSamplePresets(const IniTable& table, const TellUnknownItems& tell, clsS
 void ReadScatterPresets(const IniTable& table, const clsLogDataItems& fixedItems, const clsLogDataItems& universalItems,
                         const TellUnknownItems& tell, clsScatterGraphPresets& presets);
 
-/// Writes those that `isWritten` says; one with no name is written as "New Preset", since a reader would stop there.
-void WriteSamplePresets(const clsSampleGraphPresets& presets,
-                        const std::function<bool(const clsSampleGraphPreset&)>& isWritten, IniWriter& file);
-void WriteScatterPresets(const clsScatterGraphPresets& presets,
-                         const std::function<bool(const clsScatterGraphPreset&)>& isWritten, IniWriter& file);
+/// One with no name is written as "New Preset", since a reader would stop there.
+void WriteSamplePresets(const clsSampleGraphPresets& presets, IniWriter& file);
+void WriteScatterPresets(const clsScatterGraphPresets& presets, IniWriter& file);
 
 /// Adds the presets of the older sections "Preset Graph Series" and "Preset Scatter Graphs".
 void ReadOldSamplePresets(const IniTable& table, clsSampleGraphPresets& presets);

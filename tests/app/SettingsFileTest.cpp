@@ -136,20 +136,41 @@ TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
   EXPECT_EQ(program->Global().settings.gstrLogEXE, "beside");
 }
 
-TEST_F(SettingsFileTest, OnlyAChangedBuiltInPresetIsTheUsersOwn) {
-  StartKeeping("");
-  clsSampleGraphPresets& presets = program->Global().gcolSampleGraphPresets;
-  const int count = presets.Count();
-  ASSERT_GT(count, 0);
-  EXPECT_EQ(presets.Item(1).strName, "Overview");
-  presets.Item(1).colDataItems = {3};
-  const std::string written = Closed();
-  EXPECT_THAT(written, HasSubstr("Graph 1 Name=Overview\r\nGraph 1 Data Items=3\r\n"));
-  EXPECT_THAT(written, Not(HasSubstr("Graph 2 Name")));
+/// "family name" of each preset of a section, in the file's order.
+std::string PresetsIn(const std::string& settings, const std::string& section) {
+  const IniTable table = ReadINIFileToArray(settings);
+  std::string names;
+  for (int n = 1;; ++n) {
+    const std::string graph = "Graph " + std::to_string(n);
+    const std::string* name = table.Find(section, graph + " Name");
+    if (!name) return names;
+    names += *table.Find(section, graph + " Log Family") + " " + *name + "\n";
+  }
+}
+
+TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThenOn) {
+  const std::string section = "New Preset Sample Graphs";
+  StartKeeping("[General]\nFirst Run Indicator=Y\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Log Family=2\n");
+  clsSampleGraphPresets* presets = &program->Global().gcolSampleGraphPresets;
+  presets->Item(4).strName = "Mine";
+  presets->Remove(2);
+  presets->AddDirect(presets->Item(5), 1);
+  presets->Remove(6);
+  std::string written = Closed();
+  const std::string kept =
+      "7 Power Graphing\n2 A\n7 A/F Investigation\n7 Mine\n7 Knock Investigation 2\n7 Clear All Checkboxes\n";
+  EXPECT_EQ(PresetsIn(written, section), kept);
   StartKeeping(written);
-  EXPECT_EQ(program->Global().gcolSampleGraphPresets.Count(), count);
-  StartKeeping("[General]\nGeneric Data Log Definition File=/defs/mine.txt\n");
-  EXPECT_EQ(program->Global().gcolSampleGraphPresets.Count(), 0);
+  written = Closed();
+  EXPECT_EQ(PresetsIn(written, section), kept);
+  EXPECT_THAT(PresetsIn(written, "New Preset Scatter Graphs"), HasSubstr("7 Spool Up (MAP)\n"));
+
+  StartKeeping("[General]\n");
+  EXPECT_EQ(PresetsIn(Closed(), section), "");
+  files.files.erase(kPath);
+  program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
+  program->Start("", false);
+  EXPECT_THAT(PresetsIn(Closed(), section), ::testing::StartsWith("7 Overview\n"));
 }
 
 TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
@@ -159,11 +180,15 @@ TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
   StartKeeping("[General]\nFirst Run Indicator=Y\n" + display);
   EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour, kOfBuiltInDefinition);
   EXPECT_THAT(Closed(), Not(HasSubstr("First Run")));
-  StartKeeping("[General]\n" + display);
-  const Catalogue& catalogue = program->Global().catalogue;
-  EXPECT_EQ(catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour, 5);
-  EXPECT_EQ(catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngLineStyle,
-            catalogue.gcolFixedDataItems.Item(kKnockRetard).lngLineStyle);
+  for (const bool told : {true, false}) {  // else as the built-in items do
+    StartKeeping("[General]\n" + (told ? display : ""));
+    const Catalogue& catalogue = program->Global().catalogue;
+    const clsLogDataItem& item = catalogue.gcolUniversalDataItems.Item(kKnockRetard);
+    const clsLogDataItem& builtIn = catalogue.gcolFixedDataItems.Item(kKnockRetard);
+    EXPECT_EQ(item.lngColour, told ? 5 : builtIn.lngColour);
+    EXPECT_EQ(item.lngLineStyle, builtIn.lngLineStyle);
+    EXPECT_NE(builtIn.lngColour, kOfBuiltInDefinition);
+  }
 }
 
 TEST_F(SettingsFileTest, SettingsBeyondTheSettledOnesStandLastAndOnlyWhereTheyAreNotTheirDefault) {

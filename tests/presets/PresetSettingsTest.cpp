@@ -24,10 +24,8 @@ struct ReadBack {
 /// The records of both kinds as they are written.
 std::string Written(const ReadBack& read) {
   IniWriter file;
-  WriteSamplePresets(
-      read.samples, [](const auto&) { return true; }, file);
-  WriteScatterPresets(
-      read.scatters, [](const auto&) { return true; }, file);
+  WriteSamplePresets(read.samples, file);
+  WriteScatterPresets(read.scatters, file);
   return file.Text();
 }
 
