@@ -7,6 +7,16 @@
 #include "base/Text.h"
 
 namespace tarnview {
+namespace {
+
+/// A "&" of a name is no mark of a letter to press.
+std::string WithoutMnemonics(const std::string& name) {
+  std::string caption;
+  for (const char one : name) caption.append(one == '&' ? 2 : 1, one);
+  return caption;
+}
+
+}  // namespace
 
 RecentFiles::RecentFiles(ControlArray<MenuItem>& mnuRecentlyUsed, MenuItem& mnuSepRecentlyUsed)
     : items_(mnuRecentlyUsed), separator_(mnuSepRecentlyUsed) {
@@ -36,8 +46,10 @@ void RecentFiles::Rewrite() {
     const bool used = item->index < Count();
     item->Visible = used;
     if (!used) continue;
+    const std::string path = At(item->index).path;
     item->Tag = tags_[static_cast<std::size_t>(item->index)];
-    item->Caption = "&" + std::to_string(item->index + 1) + " " + ShortPath(At(item->index).path);
+    item->Caption = "&" + std::to_string(item->index + 1) + " " + WithoutMnemonics(ShortPath(path));
+    item->ToolTip = path;
   }
 }
 

@@ -20,6 +20,7 @@ frmFindINIFile::frmFindINIFile(Host& itsHost, const clsFileTypes& types,
   cmdBrowse.Click = [this] { cmdBrowse_Click(); };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };
+  txtPathOther.HoldsPath = true;
   FillList(types, definitions);
 }
 
@@ -53,7 +54,10 @@ void frmFindINIFile::cmdBrowse_Click() {
   dialog.title = "Open";
   dialog.filter = "Text Files|*.txt";
   dialog.initialPath = dialog.path = txtPathOther.Text();
-  if (host.Choose(dialog)) txtPathOther.Text = dialog.path;
+  if (!host.Choose(dialog)) return;
+  txtPathOther.Text = dialog.path;
+  // Enter then means OK, and not another look for a file.
+  cmdOK.SetFocus();
 }
 
 void frmFindINIFile::cmdOK_Click() {

@@ -1,5 +1,6 @@
 #include "base/Paths.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace tarnview {
@@ -19,6 +20,20 @@ char SeparatorOf(std::string_view path) {
   const auto separator = path.find_last_of(kSeparators);
   return separator == std::string_view::npos ? static_cast<char>(std::filesystem::path::preferred_separator)
                                              : path[separator];
+}
+
+bool IsWithinCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
+/// At most so many bytes of a text, no character of UTF-8 cut in two.
+std::string_view StartOf(std::string_view text, std::size_t length) {
+  if (length >= text.size()) return text;
+  while (length > 0 && IsWithinCharacter(text[length])) --length;
+  return text.substr(0, length);
+}
+std::string_view EndOf(std::string_view text, std::size_t length) {
+  std::size_t start = text.size() - std::min(length, text.size());
+  while (start < text.size() && IsWithinCharacter(text[start])) ++start;
+  return text.substr(start);
 }
 
 }  // namespace
@@ -58,8 +73,11 @@ std::string ShortPath(std::string_view path, std::size_t length) {
   for (auto at = head.size(); (at = path.find_first_of(kSeparators, at)) != std::string_view::npos; ++at)
     if (head.size() + kDots.size() + path.size() - at <= length)
       return std::string(head) + std::string(kDots) + std::string(path.substr(at));
-  if (length <= kDots.size()) return std::string(path.substr(path.size() - length));
-  return std::string(kDots) + std::string(path.substr(path.size() - (length - kDots.size())));
+  // A name that is too long by itself shows its beginning, which tells it apart, and its end.
+  const std::string_view title = Title(path);
+  if (length <= kDots.size()) return std::string(title.substr(0, length));
+  const std::size_t room = length - kDots.size();
+  return std::string(StartOf(title, room - room / 3)) + std::string(kDots) + std::string(EndOf(title, room / 3));
 }
 
 }  // namespace tarnview

@@ -1,6 +1,7 @@
 #include "qt/Text.h"
 
 #include <QFile>
+#include <QTextDocument>
 #include <utility>
 
 #include "base/Text.h"
@@ -18,6 +19,13 @@ QString ToQt(const std::string& text) { return QString::fromStdString(ToUtf8(tex
 std::string FromQt(const QString& text) { return FromUtf8(text.toStdString()); }
 
 QString ShownToQt(const std::string& text) { return QString::fromStdString(ShownAsUtf8(text)); }
+
+QString TipToQt(const std::string& text) {
+  const QString tip = ShownToQt(text);
+  return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+}
+
+QString CaptionToQt(const std::string& text) { return ShownToQt(text).replace("[*]", "[*][*]"); }
 
 QString PathToQt(const std::string& path) {
   const QByteArray bytes = QByteArray::fromStdString(path);

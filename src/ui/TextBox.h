@@ -16,6 +16,7 @@ class TextBox : public Control {
   Event<> Change;  ///< after each change of Text, by hand or from code
   bool MultiLine = false;
   bool ReadOnly = false;
+  bool HoldsPath = false;  ///< its text is the platform's bytes and no Windows-1252
 
   /// LostFocus is the moment at which a window checks what was typed.
   std::string_view Kind() const override { return "text box"; }

@@ -66,7 +66,7 @@ class FirstRunTest : public ::testing::Test {
 };
 
 TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
-  host.user = [](frmFindINIFile& window) {
+  host.user = [this](frmFindINIFile& window) {
     EXPECT_THAT(window.lstFileType.Entries(),
                 ElementsAre("FM Link Data Logs", "FM Link MAP Files", "LinkPlus Data Logs", "OBDLink Data Logs",
                             "Tec-2 Data Logs", "Tec-3 Data Logs", "UTEC CSV Data Logs", "UTEC Fixed-Width Data Logs",
@@ -75,6 +75,9 @@ TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
     EXPECT_FALSE(window.txtPathOther.Enabled());
     window.lstFileType.Do({"choose", {"<Other>"}});
     EXPECT_TRUE(window.txtPathOther.Enabled() && window.lblPathOther.Enabled() && window.cmdBrowse.Enabled());
+    host.nextFile = Answer{Answer::Kind::File, "/logs/my.txt"};
+    window.cmdBrowse.Press();
+    EXPECT_EQ(window.ActiveControl(), &window.cmdOK) << "Enter goes on from there";
     window.lstFileType.Do({"choose", {"#3"}});
     EXPECT_FALSE(window.cmdBrowse.Enabled());
   };

@@ -24,5 +24,15 @@ TEST(RecentFiles, KeepsNineTheLatestOnTopEachOnce) {
   EXPECT_TRUE(window.mnuSepRecentlyUsed.Visible());
 }
 
+TEST(RecentFiles, ANameIsShownAsItIs) {
+  RecordingHost host;
+  MainWindowControls window(host);
+  RecentFiles recent(window.mnuRecentlyUsed, window.mnuSepRecentlyUsed);
+  const std::string path = "/logs/" + std::string(60, 'x') + " Tom & Jerry.txt";
+  recent.AddRecentlyUsedFile(path, 1);
+  EXPECT_EQ(window.mnuRecentlyUsed(0).Caption(), "&1 " + std::string(32, 'x') + "...Tom && Jerry.txt");
+  EXPECT_EQ(window.mnuRecentlyUsed(0).ToolTip(), path);
+}
+
 }  // namespace
 }  // namespace tarnview

@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -276,6 +277,39 @@ TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {
   EXPECT_EQ(form_.chSampleGraph.SelectedSeries(), 3);
   EXPECT_EQ(form_.chSampleGraph.SelectedPoint(), 2);
   EXPECT_EQ(rightClicks, 1);
+}
+
+TEST_F(BinderTest, TextsOfFilesAreShownAsTheyAre) {
+  const QString title = "<img src='x.png'> run[*] \u00E9";
+  const std::string text = title.toStdString();
+  form_.Caption = text;
+  form_.cmdDrawGraph.ToolTip = text;
+  form_.lvwSampleDetails.SetRows({{{"RPM", "900"}, "a", text, false, 0, -1}});
+  form_.mnuRecentlyUsed(0).Caption = "&1 " + text;
+  Settle();
+  EXPECT_EQ(window_.window().windowTitle(), "<img src='x.png'> run[*][*] \u00E9")
+      << "doubled, the toolkit shows it once";
+  const auto shownTip = [](const QString& tip) { return QTextDocumentFragment::fromHtml(tip).toPlainText(); };
+  EXPECT_EQ(shownTip(Find<QPushButton>("cmdDrawGraph").toolTip()), title);
+  EXPECT_EQ(shownTip(Find<QTreeWidget>("lvwSampleDetails").topLevelItem(0)->toolTip(0)), title);
+  EXPECT_EQ(Find<QToolButton>("recentFile0").text(), "&1 " + title);
+  form_.cmdDrawGraph.ToolTip = std::string("Draws & shows");
+  Settle();
+  EXPECT_EQ(Find<QPushButton>("cmdDrawGraph").toolTip(), "Draws & shows");
+}
+
+TEST_F(BinderTest, AFieldThatHoldsAPathKeepsItsBytes) {
+  Find<QLineEdit>("PlotRangeTo").setFocus();
+  form_.PlotRangeFrom.HoldsPath = true;
+  form_.PlotRangeFrom.Text = std::string("/caf\xC3\xA9/");
+  form_.PlotRangeFrom.SetFocus();
+  Settle();
+  auto& field = Find<QLineEdit>("PlotRangeFrom");
+  EXPECT_EQ(field.text(), QString::fromUtf8("/caf\xC3\xA9/"));
+  EXPECT_EQ(field.selectedText(), field.text()) << "the next text typed takes its place";
+  QTest::keyClick(&field, Qt::Key_End);
+  emit field.textEdited(field.text() + QString::fromUtf8("\xC5\x82"));
+  EXPECT_EQ(form_.PlotRangeFrom.Text(), "/caf\xC3\xA9/\xC5\x82") << "a letter beyond Windows-1252";
 }
 
 TEST_F(BinderTest, AFrameHasAPictureBehindIt) {

@@ -97,6 +97,36 @@ TEST(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
   }
 }
 
+TEST(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
+  TestApplication();
+  const struct {
+    std::string text, shown;
+  } rows[] = {{"<img src='/etc/x.png'> <b>a</b>", "<img src='/etc/x.png'> <b>a</b>"},
+              {std::string(20000, 'x'), ""},
+              {[] {
+                 std::string lines;
+                 for (int i = 0; i < 300; ++i) lines += "column " + std::to_string(i) + "\r\n";
+                 return lines;
+               }(),
+               ""}};
+  for (const auto& row : rows) {
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      const QSize screen = box->screen()->availableSize();
+      EXPECT_LT(box->height(), screen.height());
+      EXPECT_LT(box->width(), screen.width());
+      EXPECT_EQ(box->textFormat(), Qt::PlainText);
+      if (row.shown.empty())
+        EXPECT_TRUE(box->text().endsWith("..."));
+      else
+        EXPECT_EQ(box->text().toStdString(), row.shown);
+      QTest::keyClick(box, Qt::Key_Return);
+    });
+    QtHost host;
+    EXPECT_EQ(host.Ask({1, row.text, kBoxOk, "Tarnview [*]"}), Reply::Ok);
+  }
+}
+
 TEST(DialogsTest, FiltersTakeTheToolkitsForm) {
   EXPECT_EQ(ToNameFilters("Logs (*.txt)|*.txt;*.csv|All|*.*"), (QStringList{"Logs (*.txt *.csv)", "All (*)"}));
   EXPECT_EQ(ToNameFilters(""), QStringList());

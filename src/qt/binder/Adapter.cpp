@@ -17,7 +17,7 @@ constexpr unsigned Bit(What what) { return 1u << static_cast<unsigned>(what); }
 template <class View>
 void ShowCommonState(View& view, const Control& control) {
   view.setEnabled(control.Enabled);
-  if (!control.ToolTip->empty()) view.setToolTip(ToQt(control.ToolTip));
+  if (!control.ToolTip->empty()) view.setToolTip(TipToQt(control.ToolTip));
   view.setVisible(control.Visible);
 }
 
@@ -58,7 +58,8 @@ void Adapter::ShowState() {
 void Adapter::ShowFocus() {
   auto* widget = qobject_cast<QWidget*>(view_);
   if (widget && !IsSecondView() && control_.form.ActiveControl() == &control_ && !widget->hasFocus())
-    widget->setFocus(Qt::OtherFocusReason);
+    // As by Tab: the text of a field is selected, for a user who types another.
+    widget->setFocus(Qt::TabFocusReason);
 }
 
 }  // namespace tarnview

@@ -116,7 +116,8 @@ void ListViewAdapter::ShowRow(int number) {
       item.setFont(i, digits_);
     }
   }
-  if (item.toolTip(0) != ToQt(row.toolTip)) item.setToolTip(0, ToQt(row.toolTip));
+  const QString tip = TipToQt(row.toolTip);
+  if (item.toolTip(0) != tip) item.setToolTip(0, tip);
   // The picture is made anew only when it differs.
   const QVariant look = QVariantList{static_cast<qlonglong>(row.colour), row.icon, chips_};
   if (item.data(0, Qt::UserRole) != look) {

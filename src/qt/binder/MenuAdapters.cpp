@@ -24,14 +24,17 @@ void MenuActionAdapter::ShowContent() {
 }
 
 MenuAdapter::MenuAdapter(MenuItem& item, QMenu& view, Binder& binder)
-    : Adapter(item, &view, binder), item_(item), view_(view) {}
+    : Adapter(item, &view, binder), item_(item), view_(view) {
+  // An entry with a tip of its own (the whole path of a recent file) shows it.
+  view.setToolTipsVisible(true);
+}
 
 void MenuAdapter::ShowState() {
   view_.menuAction()->setEnabled(item_.Enabled);
   view_.menuAction()->setVisible(item_.Visible);
 }
 
-void MenuAdapter::ShowContent() { view_.setTitle(ToQt(item_.Caption)); }
+void MenuAdapter::ShowContent() { view_.setTitle(ShownToQt(item_.Caption)); }
 
 MenuButtonAdapter::MenuButtonAdapter(MenuItem& item, QAbstractButton& view, Binder& binder)
     : Adapter(item, &view, binder), item_(item), view_(view) {
@@ -41,7 +44,7 @@ MenuButtonAdapter::MenuButtonAdapter(MenuItem& item, QAbstractButton& view, Bind
 }
 
 void MenuButtonAdapter::ShowContent() {
-  if (!keepsItsText_) view_.setText(ToQt(item_.Caption));
+  if (!keepsItsText_) view_.setText(ShownToQt(item_.Caption));
 }
 
 }  // namespace tarnview

@@ -8,7 +8,7 @@ namespace tarnview {
 namespace {
 
 /// Inside the program a line ends with CR LF; the toolkit's fields know LF alone.
-QString Lines(const std::string& text) { return ToQt(text).replace("\r\n", "\n"); }
+QString Lines(const QString& text) { return QString(text).replace("\r\n", "\n"); }
 
 }  // namespace
 
@@ -17,17 +17,18 @@ LabelAdapter::LabelAdapter(Label& label, QLabel& view, Binder& binder)
   view.setTextFormat(Qt::PlainText);
 }
 
-void LabelAdapter::ShowContent() { view_.setText(Lines(label_.Caption)); }
+void LabelAdapter::ShowContent() { view_.setText(Lines(ShownToQt(label_.Caption))); }
 
 void GroupBoxAdapter::ShowContent() { view_.setTitle(ToQt(frame_.Caption)); }
 
 LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
-  connect(&view, &QLineEdit::textEdited, this, [this](const QString& text) { box_.Text = FromQt(text); });
+  connect(&view, &QLineEdit::textEdited, this,
+          [this](const QString& text) { box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text); });
 }
 
 void LineEditAdapter::ShowContent() {
-  const QString text = ToQt(box_.Text);
+  const QString text = box_.HoldsPath ? PathToQt(box_.Text) : ToQt(box_.Text);
   if (view_.text() != text) view_.setText(text);
   view_.setReadOnly(box_.ReadOnly);
 }
@@ -40,7 +41,7 @@ TextEditAdapter::TextEditAdapter(TextBox& box, QPlainTextEdit& view, Binder& bin
 }
 
 void TextEditAdapter::ShowContent() {
-  const QString text = Lines(box_.Text);
+  const QString text = Lines(ToQt(box_.Text));
   const QSignalBlocker quiet(view_);
   if (view_.toPlainText() != text) view_.setPlainText(text);
   view_.setReadOnly(box_.ReadOnly);

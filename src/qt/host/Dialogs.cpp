@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <algorithm>
 
 #include "qt/Text.h"
@@ -60,7 +61,7 @@ QString EndingOf(const QString& nameFilter) {
 }
 
 bool ChooseFile(Dialog& dialog, QWidget* parent) {
-  QFileDialog box(parent, ToQt(dialog.title));
+  QFileDialog box(parent, CaptionToQt(dialog.title));
   const QStringList filters = ToNameFilters(dialog.filter);
   const bool folder = dialog.kind == DialogKind::Folder;
   const bool save = dialog.kind == DialogKind::Save;
@@ -90,12 +91,31 @@ bool ChooseColour(Dialog& dialog, QWidget* parent) {
   return colour.isValid();
 }
 
+/// Characters of a word without a gap: a line of a file that is a box's text may have no blank at all.
+constexpr qsizetype kLongestWord = 60;
+
+QString WithGaps(const QString& text) {
+  static const QRegularExpression longWord(QString(R"((\S{%1})(?=\S))").arg(kLongestWord));
+  return QString(text).replace(longWord, "\\1" + QString(QChar(0x200B)));
+}
+
+/// Cuts the text until the box and its buttons have room on the screen.
+void FitText(QMessageBox& box) {
+  const QSize most = box.screen()->availableSize() * 3 / 4;
+  const auto fits = [&] { return box.sizeHint().height() <= most.height() && box.sizeHint().width() <= most.width(); };
+  for (QString text = box.text(); !fits() && !text.isEmpty();) {
+    text.truncate(text.size() * 3 / 4);
+    box.setText(text + "...");
+  }
+}
+
 }  // namespace
 
 Reply AskInBox(const Box& box, QWidget* parent) {
-  QMessageBox shown(IconOf(box.style), ToQt(box.title), ShownToQt(box.text).replace("\r\n", "\n").replace("\r", "\n"),
-                    ButtonsOf(box.style), parent);
+  const QString text = ShownToQt(box.text).replace("\r\n", "\n").replace("\r", "\n");
+  QMessageBox shown(IconOf(box.style), CaptionToQt(box.title), WithGaps(text), ButtonsOf(box.style), parent);
   shown.setTextFormat(Qt::PlainText);
+  FitText(shown);
   for (const Answered& row : kAnswers)
     if (row.reply == box.DefaultReply()) shown.setDefaultButton(row.button);
   if ((box.style & 7) == kBoxYesNo) shown.setEscapeButton(QMessageBox::No);

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -79,7 +80,7 @@ void FormWindow::LetGo() {
 }
 
 void FormWindow::ShowCaption() {
-  window_->setWindowTitle(ShownToQt(form_.Caption));
+  window_->setWindowTitle(CaptionToQt(form_.Caption));
   if (form_.Pointer == MousePointer::Hourglass)
     window_->setCursor(Qt::WaitCursor);
   else
@@ -89,7 +90,9 @@ void FormWindow::ShowCaption() {
 void FormWindow::Raise(bool modal) {
   binder_.Flush();
   if (modal) window_->setWindowModality(Qt::ApplicationModal);
+  const bool opens = !window_->isVisible();
   window_->show();
+  if (auto* field = qobject_cast<QLineEdit*>(window_->focusWidget()); field && opens) field->selectAll();
   window_->raise();
   window_->activateWindow();
 }
