@@ -1,5 +1,6 @@
 #include "zones/ChipIdentity.h"
 
+#include <optional>
 #include <string>
 
 #include "base/Numbers.h"
@@ -31,13 +32,14 @@ std::string_view Last(std::string_view text, std::size_t length) {
 }
 
 /// The date by position: "18-Sep-2001" and "18-Sep-01" with hyphens, "18Sep2001" without.
-Date DateByPosition(std::string_view text, Date unreadable) {
+std::optional<Date> DateByPosition(std::string_view text) {
   const bool hyphens = text.find('-') != std::string_view::npos;
   const int day = StringToLong(From(text, 0, 2));
   const int month = MonthIn(From(text, hyphens ? 3 : 2, 3));
   const bool shortYear = hyphens && text.size() <= 9;
   const int year = shortYear ? 2000 + StringToLong(Last(text, 2)) : StringToLong(Last(text, 4));
-  return year == 0 || month == 0 || day == 0 ? unreadable : MakeDate(year, month, day);
+  if (year == 0 || month == 0 || day == 0) return std::nullopt;
+  return MakeDate(year, month, day);
 }
 
 }  // namespace
@@ -50,12 +52,10 @@ int ValidateChipVersion(std::string_view text) {
 }
 
 Date ParseChipDate(std::string_view text, Date defaultDate) {
-  const Date unreadable = MakeDate(2000, 1, 1);
   text = Trim(text);
   if (!text.empty() && (text.front() == 'X' || text.front() == 'x')) text.remove_prefix(1);
-  const auto valid = ParseDate(text);
-  const Date date = valid ? *valid : DateByPosition(text, unreadable);
-  return date == unreadable ? defaultDate : date;
+  if (const auto valid = ParseDate(text)) return *valid;
+  return DateByPosition(text).value_or(defaultDate);
 }
 
 std::span<const ChipType> ChipTypes() { return kChipTypes; }
