@@ -20,6 +20,7 @@ struct LoadedZones {
   ZoneSettings original{};  ///< column 1, "Original Zone Settings"
   ChipIdentity chip;
   int intAtmosphericPressure = 0;  ///< kPa; 0 for not known
+  std::string strNotes;            ///< of a MAP file alone; lines end with CR LF
   bool gblnZoneLayout6 = false;    ///< six rows of about 13 kPa (normally aspirated), not rows of 40 kPa
 };
 

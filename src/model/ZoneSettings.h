@@ -15,6 +15,7 @@ struct ChipIdentity {
   double dblEngineSize = 0;  ///< litres: 1.6 or 1.8; 0 for not known
   Date datChipDate = kNoDate;
   int intChipVersion = 0;  ///< 1 to 3; 0 for not known
+  friend bool operator==(const ChipIdentity&, const ChipIdentity&) = default;
 };
 
 }  // namespace tarnview

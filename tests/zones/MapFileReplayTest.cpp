@@ -1,0 +1,4 @@
+#include "fuzz/FuzzMapFile.cpp"
+#include "support/ReplayCorpus.h"
+
+TEST(Replay, MapFile) { tarnview::ReplayCorpus("FuzzMapFile", LLVMFuzzerTestOneInput); }
