@@ -4,7 +4,7 @@
 
 #include "cli/Commands.h"
 #include "cli/LogSession.h"
-#include "samplegraph/LocateSample.h"
+#include "model/LocateSample.h"
 
 namespace tarnview {
 namespace {

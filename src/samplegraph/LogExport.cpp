@@ -4,8 +4,8 @@
 
 #include "base/Paths.h"
 #include "model/Column.h"
+#include "model/LocateSample.h"
 #include "samplegraph/ExportText.h"
-#include "samplegraph/LocateSample.h"
 #include "samplegraph/SampleListView.h"
 
 namespace tarnview {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
-#include "samplegraph/LocateSample.h"
+#include "model/LocateSample.h"
 
 namespace tarnview {
 namespace {

@@ -4,10 +4,10 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
+#include "model/LocateSample.h"
 #include "model/SettingLimits.h"
 #include "samplegraph/ColourScheme.h"
 #include "samplegraph/GraphScale.h"
-#include "samplegraph/LocateSample.h"
 #include "samplegraph/SampleListView.h"
 
 namespace tarnview {

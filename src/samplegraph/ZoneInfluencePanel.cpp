@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
-#include "samplegraph/LocateSample.h"
+#include "model/LocateSample.h"
 #include "samplegraph/ZoneInfluence.h"
 
 namespace tarnview {

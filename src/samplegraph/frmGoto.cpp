@@ -4,8 +4,8 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
+#include "model/LocateSample.h"
 #include "samplegraph/ClosestSample.h"
-#include "samplegraph/LocateSample.h"
 
 namespace tarnview {
 

@@ -7,7 +7,7 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
-#include "samplegraph/LocateSample.h"
+#include "model/LocateSample.h"
 
 namespace tarnview {
 namespace {

@@ -1,4 +1,4 @@
-#include "samplegraph/LocateSample.h"
+#include "model/LocateSample.h"
 
 #include <algorithm>
 
