@@ -1,0 +1,5 @@
+#include "FuzzPower.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  return tarnview::FuzzPowerFile(data, size);
+}
