@@ -59,7 +59,7 @@ std::int32_t clsLogDataItem::SetRawData(double value) const {
   if (minSet_) value = std::max(min_, value);
   if (maxSet_) value = std::min(max_, value);
   if (intType != kListItem) value = value * Factor() + lngStorageOffset;
-  return std::max(RoundAsText(value), 0);
+  return std::max(RoundAsText(value), LeastStored());
 }
 
 }  // namespace tarnview

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,7 @@ class clsLogDataItem {
   double dblSampleDisplayFactor = 1;  ///< value to height on the Sample Graph's shared axis
   bool blnDisplayZero = true;         ///< false: the text of a zero is empty
   std::int32_t lngStorageOffset = 0;
+  bool blnSigned = false;  ///< stored integers may be negative
   bool blnSampleGraphPlottable = true;
   bool blnMandatory = false;
   std::vector<int> colApplicableLogFamilies;  ///< ids of log families
@@ -65,7 +67,8 @@ class clsLogDataItem {
     const double factor = Factor();
     return factor == 0 ? 0 : value / factor;
   }
-  /// The stored integer of a value: clamped to the bounds, scaled, rounded half to even, and never below 0.
+  std::int32_t LeastStored() const { return blnSigned ? std::numeric_limits<std::int32_t>::min() : 0; }
+  /// The stored integer of a value: clamped to the bounds, scaled, rounded half to even, and not below LeastStored.
   std::int32_t SetRawData(double value) const;
 
   /// A deep copy (a plain copy is one too).

@@ -1,6 +1,7 @@
 #include "universal/DataLines.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -13,10 +14,10 @@ namespace {
 
 using Kind = FieldTarget::Kind;
 
-/// The stored integer: rounded half to even, not below 0, and 0 where it does not fit.
-inline std::int32_t StoredInteger(double stored) {
+/// The stored integer: rounded half to even, not below `least`, which is 0 or below, and 0 where it does not fit.
+inline std::int32_t StoredInteger(double stored, double least) {
   constexpr double kTooLarge = 2147483648.0;
-  const double rounded = WithoutFraction(stored > 0 ? stored : 0);  // too large stays so, whatever it is rounded to
+  const double rounded = WithoutFraction(stored > least ? stored : 0);  // too large stays so, whatever it is rounded to
   return static_cast<std::int32_t>(rounded < kTooLarge ? rounded : 0);
 }
 
@@ -30,7 +31,8 @@ void Convert(const FieldTarget& target, double* values, std::size_t rows) {
 
 void Store(const FieldTarget& target, const double* values, std::int32_t* cells, std::size_t rows) {
   const double scale = target.scale, offset = target.storedOffset;
-  for (std::size_t row = 0; row < rows; ++row) cells[row] = StoredInteger(values[row] * scale + offset);
+  const double least = target.negative ? std::numeric_limits<std::int32_t>::min() : 0;
+  for (std::size_t row = 0; row < rows; ++row) cells[row] = StoredInteger(values[row] * scale + offset, least);
 }
 
 /// A bound itself counts as out of bounds. `kept` is cleared for values that are refused.
@@ -109,7 +111,8 @@ void DataLines::StoreNumbers(const FieldTarget& target, std::size_t field, Cells
   const std::size_t lines = block_.Lines();
   if (target.tens && !Ragged(field)) {
     numbers_.Stored(*target.tens, cells);
-    for (std::size_t line = 0; line < lines; ++line) cells[line] = std::max(cells[line], 0);
+    const std::int32_t least = target.negative ? std::numeric_limits<std::int32_t>::min() : 0;
+    for (std::size_t line = 0; line < lines; ++line) cells[line] = std::max(cells[line], least);
     return;
   }
   const bool once = numbers_.Alike() && !target.bounded;

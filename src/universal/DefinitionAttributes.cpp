@@ -61,6 +61,7 @@ constexpr Attribute<Col> kColumn[] = {
     {"ALLOWSETTOMINIMUMVALUE", "blnSetToMinimum",         &Col::blnSetToMinimum},
     {"CONVERSIONTYPE",         "lngConversionType",       &Col::lngConversionType},
     {"SMOOTH",                 "blnSmooth",               &Col::blnSmooth},
+    {"SIGNED",                 "blnSigned",               &Col::blnSigned},
 };
 
 constexpr Attribute<Sample> kSampleGraph[] = {

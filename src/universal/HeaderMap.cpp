@@ -46,6 +46,7 @@ FieldTarget::FieldTarget(const clsDataLogColumn& it)
       bounded(it.dblMinValue.IsSet() || it.dblMaxValue.IsSet()),
       setToMin(it.blnSetToMinimum),
       setToMax(it.blnSetToMaximum),
+      negative(it.blnSigned),
       min(it.dblMinValue.IsSet() ? it.dblMinValue.Value() : -kBeyond),
       max(it.dblMaxValue.IsSet() ? it.dblMaxValue.Value() : kBeyond),
       scale(it.Scale()),

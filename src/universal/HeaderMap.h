@@ -37,6 +37,7 @@ struct FieldTarget {
   /// A number becomes (number + before) x factor + after: the conversion's offset is one of the two, the other is 0.
   double before = 0, factor, after = 0;
   bool bounded, setToMin, setToMax;
+  bool negative;                        ///< values below 0 are stored
   double min, max;                      ///< beyond everything where they are not set
   double scale, storedOffset;           ///< a value is stored as value x scale + storedOffset
   std::optional<int> tens;              ///< where all of that comes to number x 10^tens

@@ -9,7 +9,7 @@
 
 namespace tarnview {
 
-void SmoothColumn(SampleStore& store, int column) {
+void SmoothColumn(SampleStore& store, int column, std::int32_t least) {
   if (store.Column(column).empty()) return;  // zeros throughout
   const std::span<std::int32_t> values = store.Writable(column);
   std::size_t last = 0;
@@ -20,7 +20,7 @@ void SmoothColumn(SampleStore& store, int column) {
     for (std::size_t j = last; j <= i; ++j) {
       const double y = LinearInterpolate(static_cast<double>(last), static_cast<double>(i), static_cast<double>(j),
                                          lastValue, value, false);
-      values[j] = std::max(RoundToLong(y), 0);
+      values[j] = std::max(RoundToLong(y), least);
     }
     last = i;
     lastValue = value;

@@ -29,6 +29,7 @@ void TakeDisplay(clsLogDataItem& item, const clsDataLogColumn& column) {
 
 void TakeColumn(clsLogDataItem& item, const clsDataLogColumn& column) {
   item.intType = column.lngType;
+  item.blnSigned = column.blnSigned;
   TakeNumbers(item, column);
   TakeDisplay(item, column);
   if (column.lngType != kValueListColumn) return;

@@ -156,7 +156,8 @@ class Load {
   void Smooth(const HeaderMap& header) {
     if (header.Smoothed().empty()) return;
     context_.progress.Stage("Smoothing data...");
-    for (const int item : header.Smoothed()) SmoothColumn(log_.glngDataLog, item - 1);
+    for (const int item : header.Smoothed())
+      SmoothColumn(log_.glngDataLog, item - 1, context_.items.Item(item).LeastStored());
   }
 
   const std::string_view bytes_;

@@ -44,6 +44,7 @@ class clsDataLogColumn {
   bool blnSetToMinimum = true;
   Clamped<kPlainNumber, kDateAndTime> lngConversionType;
   bool blnSmooth = false;
+  bool blnSigned = false;  ///< negative values are stored as they are; else they become 0
 
   /// The title as the headings of logs are compared with it.
   std::string strColumnTitleCaps() const { return Upper(strColumnTitle); }
