@@ -5,7 +5,7 @@
 
 #include "base/ErrorLog.h"
 #include "desk/Messages.h"
-#include "samplegraph/StatusArea.h"
+#include "desk/StatusArea.h"
 #include "ui/Form.h"
 
 namespace tarnview {

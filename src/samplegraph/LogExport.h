@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "base/FileSystem.h"
+#include "desk/StatusArea.h"
 #include "model/OpenLog.h"
 #include "samplegraph/PlotRange.h"
-#include "samplegraph/StatusArea.h"
 #include "ui/CheckBox.h"
 #include "ui/ListView.h"
 

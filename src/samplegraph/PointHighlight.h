@@ -2,11 +2,11 @@
 
 #include <functional>
 
+#include "desk/StatusArea.h"
 #include "model/OpenLog.h"
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/PlotState.h"
 #include "samplegraph/SampleDetails.h"
-#include "samplegraph/StatusArea.h"
 #include "ui/Chart.h"
 #include "ui/CommandButton.h"
 

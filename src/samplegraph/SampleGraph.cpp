@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
+#include "desk/ColourScheme.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "model/SettingLimits.h"
-#include "samplegraph/ColourScheme.h"
 #include "samplegraph/GraphScale.h"
 #include "samplegraph/SampleListView.h"
 

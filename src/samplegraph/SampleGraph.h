@@ -1,11 +1,11 @@
 #pragma once
 
 #include "desk/Messages.h"
+#include "desk/StatusArea.h"
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/PlotState.h"
-#include "samplegraph/StatusArea.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
 #include "ui/Form.h"

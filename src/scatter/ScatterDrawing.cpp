@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "desk/ColourScheme.h"
 #include "presets/ScatterFilters.h"
-#include "samplegraph/ColourScheme.h"
 #include "scatter/ScatterPoints.h"
 #include "scatter/ScatterScale.h"
 

@@ -6,10 +6,10 @@
 
 #include "base/ErrorLog.h"
 #include "desk/Messages.h"
+#include "desk/StatusArea.h"
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 #include "presets/clsScatterFilter.h"
-#include "samplegraph/StatusArea.h"
 #include "scatter/PointStyle.h"
 #include "ui/Chart.h"
 #include "ui/Form.h"

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/FileSystem.h"
+#include "desk/StatusArea.h"
 #include "model/OpenLog.h"
-#include "samplegraph/StatusArea.h"
 #include "scatter/ScatterDrawing.h"
 
 namespace tarnview {

@@ -1,4 +1,4 @@
-#include "samplegraph/ColourScheme.h"
+#include "desk/ColourScheme.h"
 
 namespace tarnview {
 
