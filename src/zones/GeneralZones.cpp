@@ -28,110 +28,114 @@ constexpr ZoneConversion kVICS{
     [](int shown) { return RoundToLong(std::min<double>(shown, kMostVICSRPM) / kRPMPerVICSStep); }};
 
 bool Is18(const ChipIdentity& chip) { return chip.dblEngineSize == 1.8; }
-bool AdvanceLimit(const ChipIdentity& chip) { return ChipAllows(ChipRule::AdvanceLimit, chip); }
+bool AdvanceLimitLabel(const ChipIdentity& chip) { return ChipAllows(ChipRule::AdvanceLimit, chip); }
 bool Speedo(const ChipIdentity& chip) { return ChipAllows(ChipRule::SpeedoCalibration, chip); }
 bool RunIAC(const ChipIdentity& chip) { return ChipAllows(ChipRule::RunIACLabels, chip); }
 bool L3LowMAP(const ChipIdentity& chip) { return ChipAllows(ChipRule::L3LowMAPLabels, chip); }
 bool OldTargets(const ChipIdentity& chip) { return ChipAllows(ChipRule::MixtureFuelFlag, chip); }
 
 constexpr int kTrimOffset = 20;
+/// z21 is stored in quarter degrees: two's complement on a 1.6 of before November 2000, else with an offset.
 bool TrimIsTwosComplement(const ChipIdentity& chip) {
   return chip.datChipDate < MakeDate(2000, 11, 1) && chip.dblEngineSize == 1.6;
 }
 
+using Z = GeneralZone;
+using enum ChipRule;
+
 /// Of the rows of a zone, the first that fits the chip counts; a row without condition fits all.
 constexpr GeneralZone kZones[] = {
-    // zone, label, range, conversion, step, range of the shown value, "OFF" at 255, condition
-    {0, "Overrun MAP", "015/085", &kPlus<3>},
-    {1, "Master Fuel", "001/140", &kPlain},
-    {2, "Rev Limit (RPM)", "050/090", &kTimes<100>, 100, "5000/9000"},
-    {3, "MAP Limit (kPa)", "000/255", &kPlain, 1, "", true},
-    {4, "Advance Limit", "000/050", &kPlain, 1, "", false, AdvanceLimit},
-    {4, "Intake Limit ('C)", "025/080", &kPlain},
-    {6, "Choke Scale", "", &kPlain},
-    {7, "Speedo. Calib.", "", &kPlain, 1, "", false, Speedo},
-    {7, "Volt. Correction", "", &kPlain},
-    {8, "Target RPM", "005/025", &kTimes<50>, 50, "500/2500"},
-    {9, "Fan Temp ('C)", "070/110", &kPlain},
-    {10, "TPS Offset", "-128/127", &kTwosComplement},
-    {11, "TPS Scale", "000/255", &kPlain},
-    {12, "Sensitivity", "", &kPlain},
-    {13, "Knock Thr.", "", &kPlain, 1, "", true},
-    {14, "Base Pres. (kPa)", "015/100", &kPlain},
-    {15, "RPM", "020/072", &kTimes<100>, 100, "2000/7200"},
-    {16, "Cold Fuel", "", &kPlain},
-    {17, "Hot Restart", "-70/185", &kPlus<-70>, 1, "", false, Is18},
-    {17, "Hot Restart", "000/255", &kPlain},
-    {18, "Run IAC", "016/085", &kPlain, 1, "", false, RunIAC},
-    {18, "Hot IAC", "016/085", &kPlain},
-    {19, "Start IAC", "016/085", &kPlain, 1, "", false, RunIAC},
-    {19, "Cold IAC", "016/085", &kPlain},
-    {20, "A/C Idle %", "000/025", &kPlain},
-    {21, "Trim (deg.)", "-20/020", &kTwosComplement, 1, "", false, TrimIsTwosComplement},
-    {21, "Trim (deg.)", "-20/020", &kPlus<-kTrimOffset>},
-    {22, "0-2", "", &kPlain},
-    {23, "2-4", "", &kPlain},
-    {24, "4-6", "", &kPlain},
-    {25, "6-8", "", &kPlain},
-    {26, "Idle", "070/110", &kPlain, 1, "", false, OldTargets},
-    {26, "Idle", "000/127", &kPlain},
-    {27, "Cruise", "070/110", &kPlain, 1, "", false, OldTargets},
-    {27, "Cruise", "000/127", &kPlain},
-    {28, "300", "070/110", &kPlain, 1, "", false, OldTargets},
-    {28, "300", "000/127", &kPlain},
-    {29, "400", "070/110", &kPlain, 1, "", false, OldTargets},
-    {29, "400", "000/127", &kPlain},
-    {30, "500", "070/110", &kPlain, 1, "", false, OldTargets},
-    {30, "500", "000/127", &kPlain},
-    {31, "600", "070/110", &kPlain, 1, "", false, OldTargets},
-    {31, "600", "000/127", &kPlain},
-    {112, "Closed Lp -ve", "000/040", &kPlain},
-    {113, "Closed Lp +ve", "000/040", &kPlain},
-    {208, "Overshoot Supp.", "000/255", &kPlain},
-    {209, "Droop Supp.", "000/255", &kPlain},
-    {224, "MAP Deadband", "", &kPlain},
-    {225, "Coolant Limit ('C)", "000/140", &kPlain, 1, "", false, Is18},
-    {225, "Coolant Limit ('C)", "000/140", &kCoolantOf16, 2},
-    {226, "Choke Decay", "", &kPlain},
-    {227, "Prime Factor", "", &kPlain},
-    {228, "Def Atmos. (kPa)", "075/115", &kPlain},
-    {229, "25", kBoostTargetRange, &kPlain},
-    {230, "30", kBoostTargetRange, &kPlain},
-    {231, "35", kBoostTargetRange, &kPlain},
-    {232, "40", kBoostTargetRange, &kPlain},
-    {233, "45", kBoostTargetRange, &kPlain},
-    {234, "50", kBoostTargetRange, &kPlain},
-    {235, "55", kBoostTargetRange, &kPlain},
-    {236, "60", kBoostTargetRange, &kPlain},
-    {237, "65", kBoostTargetRange, &kPlain},
-    {238, "70", kBoostTargetRange, &kPlain},
-    {239, "75", kBoostTargetRange, &kPlain},
-    {243, "VICS Act. (RPM)", "0/9937", &kVICS},
-    {244, "Debug Data", "", &kPlain},
-    {245, "Offset Slope", "", &kPlain},
-    {246, "Injector Offset", "-80/120", &kTwosComplement},
-    {247, "Prime Delay", "", &kPlain},
-    {248, "Boost Hysteresis", "000/255", &kPlain},
-    {249, "Rise Rate Weight", "000/255", &kPlain},
-    {250, "Decel Scale", "000/255", &kPlain},
-    {251, "IAC Rate", "000/255", &kPlain},
-    {252, "L3 Low MAP", "000/255", &kPlain, 1, "", false, L3LowMAP},
-    {252, "Fuel Low Slope", "000/255", &kPlain},
-    {253, "Intake Comp.", "000/255", &kPlain, 1, "", false, L3LowMAP},
-    {253, "Fuel High Slope", "000/255", &kPlain},
-    {254, "Ignition Start ('C)", "025/150", &kPlain},
-    {255, "Ignition Slope", "000/255", &kPlain},
+    Z{0, "Overrun MAP", "015/085", &kPlus<3>},
+    Z{1, "Master Fuel", "001/140", &kPlain},
+    Z{2, "Rev Limit (RPM)", "5000/9000", &kTimes<100>}.Steps(100),
+    Z{3, "MAP Limit (kPa)", "000/255", &kPlain}.Off().Boost(),
+    Z{4, "Advance Limit", "000/050", &kPlain}.If(AdvanceLimitLabel).Exists(AdvanceLimitAvailable),
+    Z{4, "Intake Limit ('C)", "025/080", &kPlain},
+    Z{6, "Choke Scale", "", &kPlain},
+    Z{7, "Speedo. Calib.", "", &kPlain}.If(Speedo),
+    Z{7, "Volt. Correction", "", &kPlain},
+    Z{8, "Target RPM", "500/2500", &kTimes<50>}.Steps(50),
+    Z{9, "Fan Temp ('C)", "070/110", &kPlain}.Exists(FanAndTPS),
+    Z{10, "TPS Offset", "-128/127", &kTwosComplement}.Exists(FanAndTPS),
+    Z{11, "TPS Scale", "000/255", &kPlain}.Exists(FanAndTPS),
+    Z{12, "Sensitivity", "", &kPlain}.Boost(),
+    Z{13, "Knock Thr.", "", &kPlain}.Off(),
+    Z{14, "Base Pres. (kPa)", "015/100", &kPlain}.Boost(),
+    Z{15, "RPM", "2000/7200", &kTimes<100>}.Steps(100).Boost(),
+    Z{16, "Cold Fuel", "", &kPlain},
+    Z{17, "Hot Restart", "-70/185", &kPlus<-70>}.If(Is18),
+    Z{17, "Hot Restart", "000/255", &kPlain},
+    Z{18, "Run IAC", "016/085", &kPlain}.If(RunIAC),
+    Z{18, "Hot IAC", "016/085", &kPlain},
+    Z{19, "Start IAC", "016/085", &kPlain}.If(RunIAC),
+    Z{19, "Cold IAC", "016/085", &kPlain},
+    Z{20, "A/C Idle %", "000/025", &kPlain},
+    Z{21, "Trim (deg.)", "-20/020", &kTwosComplement}.If(TrimIsTwosComplement),
+    Z{21, "Trim (deg.)", "-20/020", &kPlus<-kTrimOffset>},
+    Z{22, "0-2", "", &kPlain},
+    Z{23, "2-4", "", &kPlain},
+    Z{24, "4-6", "", &kPlain},
+    Z{25, "6-8", "", &kPlain},
+    Z{26, "Idle", "070/110", &kPlain}.If(OldTargets),
+    Z{26, "Idle", "000/127", &kPlain},
+    Z{27, "Cruise", "070/110", &kPlain}.If(OldTargets),
+    Z{27, "Cruise", "000/127", &kPlain},
+    Z{28, "300", "070/110", &kPlain}.If(OldTargets),
+    Z{28, "300", "000/127", &kPlain},
+    Z{29, "400", "070/110", &kPlain}.If(OldTargets),
+    Z{29, "400", "000/127", &kPlain},
+    Z{30, "500", "070/110", &kPlain}.If(OldTargets),
+    Z{30, "500", "000/127", &kPlain},
+    Z{31, "600", "070/110", &kPlain}.If(OldTargets),
+    Z{31, "600", "000/127", &kPlain},
+    Z{112, "Closed Lp -ve", "000/040", &kPlain}.Exists(ClosedLoop).Boost(),
+    Z{113, "Closed Lp +ve", "000/040", &kPlain}.Exists(ClosedLoop).Boost(),
+    Z{208, "Overshoot Supp.", "000/255", &kPlain}.Exists(OvershootAndDroop).Boost(),
+    Z{209, "Droop Supp.", "000/255", &kPlain}.Exists(OvershootAndDroop).Boost(),
+    Z{224, "MAP Deadband", "", &kPlain},
+    Z{225, "Coolant Limit ('C)", "000/140", &kPlain}.If(Is18),
+    Z{225, "Coolant Limit ('C)", "000/140", &kCoolantOf16}.EvenOnly(),
+    Z{226, "Choke Decay", "", &kPlain},
+    Z{227, "Prime Factor", "", &kPlain},
+    Z{228, "Def Atmos. (kPa)", "075/115", &kPlain},
+    Z{229, "25", kBoostTargetRange, &kPlain}.Boost(),
+    Z{230, "30", kBoostTargetRange, &kPlain}.Boost(),
+    Z{231, "35", kBoostTargetRange, &kPlain}.Boost(),
+    Z{232, "40", kBoostTargetRange, &kPlain}.Boost(),
+    Z{233, "45", kBoostTargetRange, &kPlain}.Boost(),
+    Z{234, "50", kBoostTargetRange, &kPlain}.Boost(),
+    Z{235, "55", kBoostTargetRange, &kPlain}.Boost(),
+    Z{236, "60", kBoostTargetRange, &kPlain}.Boost(),
+    Z{237, "65", kBoostTargetRange, &kPlain}.Boost(),
+    Z{238, "70", kBoostTargetRange, &kPlain}.Boost(),
+    Z{239, "75", kBoostTargetRange, &kPlain}.Boost(),
+    Z{243, "VICS Act. (RPM)", "0/9937", &kVICS}.Exists(VICSActivation),
+    Z{244, "Debug Data", "", &kPlain}.Exists(InjectorOffset),
+    Z{245, "Offset Slope", "", &kPlain}.Exists(OffsetSlope),
+    Z{246, "Injector Offset", "-80/120", &kTwosComplement}.Exists(InjectorOffset),
+    Z{247, "Prime Delay", "", &kPlain}.Exists(ChipRule::EnablePrimeDelay),
+    Z{248, "Boost Hysteresis", "000/255", &kPlain}.Exists(BoostHysteresis).Boost(),
+    Z{249, "Rise Rate Weight", "000/255", &kPlain}.Exists(BoostHysteresis).Boost(),
+    Z{250, "Decel Scale", "000/255", &kPlain}.Exists(DecelScale),
+    Z{251, "IAC Rate", "000/255", &kPlain}.Exists(IACRate),
+    Z{252, "L3 Low MAP", "000/255", &kPlain}.If(L3LowMAP).Exists(FuelLowSlopeOrL3LowMAP),
+    Z{252, "Fuel Low Slope", "000/255", &kPlain}.Exists(FuelLowSlopeOrL3LowMAP),
+    Z{253, "Intake Comp.", "000/255", &kPlain}.If(L3LowMAP).Exists(AirTemperature),
+    Z{253, "Fuel High Slope", "000/255", &kPlain}.Exists(AirTemperature),
+    Z{254, "Ignition Start ('C)", "025/150", &kPlain}.Exists(IgnitionStartAndSlope),
+    Z{255, "Ignition Slope", "000/255", &kPlain}.Exists(IgnitionStartAndSlope),
 };
 
 }  // namespace
 
-int GeneralZone::Force(int shown) const {
-  const ZoneRange limits = Range();
-  const int held = std::clamp(shown, limits.low, limits.high);
-  return static_cast<int>(std::floor((held + step / 2) / static_cast<double>(step))) * step;
+int GeneralZone::Force(int shown, const ZoneRange& limits) const {
+  const int held = std::clamp(shown, limits.low, std::max(limits.low, limits.high));
+  return static_cast<int>(std::floor((held + roundUp) / static_cast<double>(step))) * step;
 }
 
-std::string GeneralZone::Text(int raw) const { return offAt255 && raw == 255 ? "OFF" : std::to_string(ToShown(raw)); }
+std::string GeneralZone::Text(int shown) const {
+  return offAt255 && shown == kOffValue ? std::string(kOffText) : std::to_string(shown);
+}
 
 const GeneralZone* FindGeneralZone(int zone, const ChipIdentity& chip) {
   const auto* found = std::find_if(std::begin(kZones), std::end(kZones), [&](const GeneralZone& row) {
@@ -140,15 +144,20 @@ const GeneralZone* FindGeneralZone(int zone, const ChipIdentity& chip) {
   return found == std::end(kZones) ? nullptr : found;
 }
 
-int TrimQuarters(int raw, const ChipIdentity& chip) {
-  return TrimIsTwosComplement(chip) ? kTwosComplement.toShown(raw) : raw - kTrimOffset;
+std::array<const GeneralZone*, 256> GeneralZonesOf(const ChipIdentity& chip) {
+  std::array<const GeneralZone*, 256> found{};
+  for (const GeneralZone& row : kZones) {
+    const GeneralZone*& place = found[static_cast<std::size_t>(row.zone)];
+    if (!place && (!row.when || row.when(chip))) place = &row;
+  }
+  return found;
 }
 
-double TrimDegrees(int raw, const ChipIdentity& chip) { return TrimQuarters(raw, chip) / 4.0; }
+std::string TrimDegreesText(int quarters) { return FixedText(quarters / 4.0, 2); }
 
-int TrimRaw(double degrees, const ChipIdentity& chip) {
-  const int quarters = RoundToLong(std::clamp(degrees, -5.0, 5.0) * 4);
-  return TrimIsTwosComplement(chip) ? kTwosComplement.toRaw(quarters) : quarters + kTrimOffset;
+int TrimQuarters(std::string_view degrees) {
+  constexpr double kMost = 5;
+  return RoundToLong(std::clamp(StringToDouble(degrees), -kMost, kMost) * 4);
 }
 
 }  // namespace tarnview

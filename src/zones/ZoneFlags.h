@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "model/ZoneSettings.h"
@@ -15,8 +16,10 @@ constexpr int SetBit(int value, int bit, bool on) {
 
 /// Zones that the rules name.
 namespace zone {
-inline constexpr int kMasterFuel = 1, kFlags = 5, kKnockThreshold = 13, kFirstTarget = 26;
-inline constexpr int kMoreFlags = 240, kEGRFlags = 242, kIgnitionStart = 254, kIgnitionSlope = 255;
+inline constexpr int kMasterFuel = 1, kIntakeLimit = 4, kFlags = 5, kTrim = 21, kHotRestart = 17, kKnockThreshold = 13,
+                     kFirstTarget = 26;
+inline constexpr int kCoolantLimit = 225, kPrimeFactor = 227, kFirstBoostTarget = 229, kMoreFlags = 240, kUnnamed = 241,
+                     kEGRFlags = 242, kIgnitionStart = 254, kIgnitionSlope = 255;
 }  // namespace zone
 
 /// Bits of z5.
@@ -29,10 +32,16 @@ namespace z800 {
 inline constexpr int kSecurity = 0, kTPSIdle = 1, kL3Alone = 2, kKnockLightOrIATTarget = 3, kKnockLight = 4;
 }
 
+/// The knock light's bit of z800; it is lit by a clear one.
+constexpr int KnockLightBit(int chipVersion) {
+  return chipVersion == 1 ? z800::kKnockLightOrIATTarget : z800::kKnockLight;
+}
+
 constexpr bool IsNormallyAspirated(int flags) { return !BitIsSet(flags, z5::kTurboMAP); }
 
 /// "NA1", "T1", "NA2" or "T2", from bits 1 and 5 of z5.
 std::string_view MAPIDText(int flags);
+std::span<const std::string_view> MAPIDs();
 /// z5 with the two bits of a MAP ID; unchanged for a text that is none.
 int SetMAPID(int flags, std::string_view text);
 
@@ -42,10 +51,5 @@ void SetTPSIdleValue(ZoneSettings& zones, int chipVersion, bool on);
 
 /// What is saved in z800: 255 becomes 233, a quirk that ECUs in use depend on.
 constexpr int SavedZ800(int value) { return value == 255 ? 233 : value; }
-
-/// What a flag of a zone is called on a chip; "" where the bit has no tick box.
-std::string_view FlagLabel(int zone, int bit, const ChipIdentity& chip);
-/// A flag whose tick stands for a clear bit.
-bool FlagIsInverted(int zone, int bit, const ChipIdentity& chip);
 
 }  // namespace tarnview

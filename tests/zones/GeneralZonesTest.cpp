@@ -41,28 +41,42 @@ TEST(GeneralZones, RawAndShownAndBack) {
     const GeneralZone* zone = FindGeneralZone(c.zone, c.chip);
     ASSERT_TRUE(zone) << c.zone;
     EXPECT_EQ(zone->label, c.label);
-    EXPECT_EQ(zone->Text(c.raw), c.text) << c.label;
+    EXPECT_EQ(zone->Text(zone->ToShown(c.raw)), c.text) << c.label;
     EXPECT_EQ(zone->ToRaw(zone->ToShown(c.raw)), c.raw) << c.label;
   }
   EXPECT_EQ(FindGeneralZone(5, kOld16), nullptr);
 }
 
 TEST(GeneralZones, TypedValuesAreHeldToRangeAndStep) {
-  const GeneralZone& revLimit = *FindGeneralZone(2, kOld16);
-  EXPECT_EQ(revLimit.ToRaw(7250), 73);
-  EXPECT_EQ(revLimit.ToRaw(99999), 90);
-  EXPECT_EQ(revLimit.ToRaw(-5), 50);
-  EXPECT_EQ(FindGeneralZone(8, kOld16)->Force(3000), 2500);
-  EXPECT_EQ(FindGeneralZone(225, kOld16)->Force(79), 80);
-  EXPECT_EQ(FindGeneralZone(10, kOld16)->ToRaw(-500), 128);
+  const struct {
+    int zone;
+    ChipIdentity chip;
+    int typed, held, raw;
+  } cases[] = {
+      {2, kOld16, 7250, 7300, 73},   {2, kOld16, 7249, 7200, 72}, {2, kOld16, 99999, 9000, 90},
+      {2, kOld16, -5, 5000, 50},     {8, kOld16, 3000, 2500, 50}, {8, kOld16, 825, 850, 17},
+      {15, kOld16, 2049, 2000, 20},  {225, kOld16, 79, 78, 179},  {225, kNew18, 79, 79, 79},
+      {10, kOld16, -500, -128, 128}, {0, kOld16, 90, 85, 82},     {243, kNew18, 99999, 9937, 159},
+      {246, kNew18, -81, -80, 176},  {17, kNew18, 255, 185, 255}, {17, kOld16, -5, 0, 0},
+  };
+  for (const auto& c : cases) {
+    const GeneralZone& zone = *FindGeneralZone(c.zone, c.chip);
+    EXPECT_EQ(zone.Force(c.typed), c.held) << c.zone << " " << c.typed;
+    EXPECT_EQ(zone.ToRaw(c.held), c.raw) << c.zone << " " << c.typed;
+  }
+  EXPECT_EQ(FindGeneralZone(0, kOld16)->ToRaw(300), 297);
 }
 
 TEST(GeneralZones, TrimInQuarterDegrees) {
-  EXPECT_EQ(TrimDegrees(250, kOld16), -1.5);
-  EXPECT_EQ(TrimRaw(-1.5, kOld16), 250);
-  EXPECT_EQ(TrimDegrees(14, kNew18), -1.5);
-  EXPECT_EQ(TrimRaw(-1.45, kNew18), 14);
-  EXPECT_EQ(TrimRaw(9, kNew18), 40);
+  const ChipIdentity edge{1.6, MakeDate(2000, 10, 31), 1}, after{1.6, MakeDate(2000, 11, 1), 1};
+  EXPECT_EQ(FindGeneralZone(21, edge)->ToShown(250), -6);
+  EXPECT_EQ(FindGeneralZone(21, edge)->ToRaw(-6), 250);
+  EXPECT_EQ(FindGeneralZone(21, after)->ToShown(14), -6);
+  EXPECT_EQ(FindGeneralZone(21, kNew18)->ToRaw(-6), 14);
+  EXPECT_EQ(TrimDegreesText(-6), "-1.50");
+  EXPECT_EQ(TrimQuarters("-1.45"), -6);
+  EXPECT_EQ(TrimQuarters("9"), 20);
+  EXPECT_EQ(TrimQuarters("-5.2"), -20);
 }
 
 TEST(ZoneRange, Limits) {
@@ -115,9 +129,6 @@ TEST(ZoneFlags, BitsAndTheirQuirks) {
   EXPECT_FALSE(GetTPSIdleValue(zones));
   SetTPSIdleValue(zones, 2, true);
   EXPECT_TRUE(GetTPSIdleValue(zones));
-  EXPECT_EQ(FlagLabel(5, 6, kOld16), "       1.8 TPS");
-  EXPECT_EQ(FlagLabel(240, 4, kNew18), "  Knock Light");
-  EXPECT_TRUE(FlagIsInverted(240, 3, kOld16));
 }
 
 }  // namespace
