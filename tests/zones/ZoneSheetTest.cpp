@@ -1,0 +1,240 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+#include <set>
+#include <string>
+
+#include "zones/ZoneEdits.h"
+#include "zones/ZoneFlags.h"
+#include "zones/ZoneGrid.h"
+#include "zones/ZoneNames.h"
+#include "zones/ZoneSheet.h"
+
+namespace tarnview {
+namespace {
+
+const ChipIdentity kOld16{1.6, MakeDate(2000, 1, 1), 1};
+const ChipIdentity kMid16{1.6, MakeDate(2001, 3, 11), 2};
+const ChipIdentity kMid18{1.8, MakeDate(2002, 6, 10), 2};
+const ChipIdentity kNew18{1.8, MakeDate(2005, 2, 10), 3};
+const ChipIdentity kFirst{1.6, MakeDate(2003, 6, 20), 1};
+const ChipIdentity kChips[] = {kOld16, kMid16, kMid18, kNew18, kFirst};
+
+ZoneMap MapWith(const ChipIdentity& chip, int flags, int more = 0) {
+  ZoneMap map;
+  map.zones.fill(100);
+  map.chip = chip;
+  map.intAtmosphericPressure = 101;
+  map.zones[5] = static_cast<std::int16_t>(flags);
+  map.zones[240] = static_cast<std::int16_t>(more);
+  return map;
+}
+
+/// "11011": which of the chips have it, turbo and (after the slash) normally aspirated where that differs.
+std::string Chips(const std::function<bool(const ZoneSheet&)>& has) {
+  std::string turbo, aspirated;
+  for (const ChipIdentity& chip : kChips) {
+    turbo += has(OpenSheet(MapWith(chip, 2 + 8))) ? '1' : '0';
+    aspirated += has(OpenSheet(MapWith(chip, 8))) ? '1' : '0';
+  }
+  return turbo == aspirated ? turbo : turbo + "/" + aspirated;
+}
+
+TEST(ZoneSheet, WhichChipsHaveWhichFields) {
+  std::string told;
+  for (int zone = 0; zone < 256; ++zone) {
+    const auto chips = Chips([&](const ZoneSheet& sheet) { return FieldExists(sheet, zone); });
+    if (chips != "11111" && chips != "00000") told += ZoneName(zone) + " " + chips + "\n";
+  }
+  for (int i = 0; i < kTicks; ++i)
+    told += std::string(TickCaption(Tick{i}, kNew18)) + " " +
+            Chips([&](const ZoneSheet& sheet) { return TickExists(sheet, Tick{i}); }) + "\n";
+  EXPECT_EQ(told, R"(z3 11111/00000
+z9 00110
+z10 00110
+z11 00110
+z12 11111/00000
+z14 11111/00000
+z15 11111/00000
+z112 01111/00000
+z113 01111/00000
+z208 01111/00000
+z209 01111/00000
+z725 11111/00000
+z730 11111/00000
+z735 11111/00000
+z740 11111/00000
+z745 11111/00000
+z750 11111/00000
+z755 11111/00000
+z760 11111/00000
+z765 11111/00000
+z770 11111/00000
+z775 11111/00000
+z815 00010
+z820 00011
+z825 00010
+z830 00011
+z835 00011
+z840 00110/00000
+z845 00110/00000
+z850 00111
+z855 00111
+z860 01111
+z865 01111
+z870 01111
+z875 01111
+       EGR Enabled 10111
+  Security Enabled 01111
+  Quad Inj. 01000
+  Alt. EGR Curve 00010
+  Knock Light 00011
+ TPS Target Cont. 11111/00000
+ IAT Target Cont. 00010/00000
+TPS Idle Sw. 00010
+ Idle Stabilise 00011
+ M. Fuel 11000
+)");
+}
+
+/// Every field, its number for 100 and its range; of a second chip only what differs. Five to a line.
+TEST(ZoneSheet, LabelsNumbersAndRanges) {
+  std::set<std::string> seen;
+  std::string told;
+  int count = 0;
+  for (const ChipIdentity& chip : {kNew18, kOld16}) {
+    const ZoneSheet sheet = OpenSheet(MapWith(chip, 2));
+    for (int zone = 0; zone < 256; ++zone) {
+      const std::string row =
+          std::string(FieldLabel(sheet, zone)) + "=" + FieldText(sheet, zone) + "[" + RangeText(sheet, zone) + "]";
+      if (!FieldLabel(sheet, zone).empty() && seen.insert(std::to_string(zone) + row).second)
+        told += row + (++count % 5 ? " " : "\n");
+    }
+  }
+  EXPECT_EQ(
+      told,
+      R"(Overrun MAP=103[015/085] Master Fuel=100[001/140] Rev Limit (RPM)=10000[5000/9000] MAP Limit (kPa)=100[000/255] Intake Limit ('C)=80[025/080]
+Choke Scale=100[] Speedo. Calib.=100[] Target RPM=5000[500/2500] Fan Temp ('C)=100[070/110] TPS Offset=100[-128/127]
+TPS Scale=100[000/255] Sensitivity=100[] Knock Thr.=100[] Base Pres. (kPa)=100[015/100] RPM=10000[2000/7200]
+Cold Fuel=100[] Hot Restart=30[-70/185] Run IAC=100[016/085] Start IAC=100[016/085] A/C Idle %=100[000/025]
+Trim (deg.)=80[-20/020] 0-2=100[] 2-4=100[] 4-6=100[] 6-8=100[]
+Idle=100[000/127] Cruise=100[000/127] 300=100[000/127] 400=100[000/127] 500=100[000/127]
+600=100[000/127] Closed Lp -ve=100[000/040] Closed Lp +ve=100[000/040] Overshoot Supp.=100[000/255] Droop Supp.=100[000/255]
+MAP Deadband=100[] Coolant Limit ('C)=100[000/140] Choke Decay=100[] Prime Factor=100[] Def Atmos. (kPa)=100[075/115]
+25=100[100/255] 30=100[100/255] 35=100[100/255] 40=100[100/255] 45=100[100/255]
+50=100[100/255] 55=100[100/255] 60=100[100/255] 65=100[100/255] 70=100[100/255]
+75=100[100/255] VICS Act. (RPM)=6250[0/9937] Debug Data=100[] Offset Slope=100[] Injector Offset=100[-80/120]
+Prime Delay=100[] Boost Hysteresis=100[000/255] Rise Rate Weight=100[000/255] Decel Scale=100[000/255] IAC Rate=100[000/255]
+L3 Low MAP=100[000/255] Intake Comp.=100[000/255] Ignition Start ('C)=100[025/150] Ignition Slope=100[000/255] Advance Limit=50[000/050]
+Volt. Correction=100[] Hot Restart=100[000/255] Hot IAC=100[016/085] Cold IAC=100[016/085] Trim (deg.)=100[-20/020]
+Idle=100[070/110] Cruise=100[070/110] 300=100[070/110] 400=100[070/110] 500=100[070/110]
+600=100[070/110] Coolant Limit ('C)=-80[000/140] Fuel Low Slope=100[000/255] Fuel High Slope=100[000/255] )");
+}
+
+TEST(ZoneSheet, FlagsComeBackAsTheBoxesStand) {
+  const ChipIdentity day{1.8, MakeDate(2004, 5, 8), 3}, before{1.8, MakeDate(2004, 5, 7), 3};
+  const struct {
+    const char* what;
+    ChipIdentity chip;
+    int flags, more;
+    const char* sensor;
+    const char* type;
+    int flagsAfter, moreAfter;
+  } cases[] = {
+      {"both sensors", day, 0x99, 0, "NB+WB", "L3+L4", 0x99, 0},
+      {"a day earlier: EGR and no wide band", before, 0x99, 0, "NB", "L3+L4", 0x89, 0},
+      {"both sensors without L3", day, 0x19, 0, "NB", "Lambda", 0x01, 0},
+      {"wide band alone", day, 0x13, 0, "WB", "Lambda", 0x13, 0},
+      {"mixture fuel and EGR of old chips", kOld16, 0x1a, 0, "NB", "Off", 0x9a, 0},
+      {"EGR that a chip lacks is lost", kMid16, 0x0a, 0, "NB", "Off", 0x02, 0},
+      {"bit 6 of a chip without a box for it", kMid18, 0x42, 0, "NB", "Off", 0x42, 0},
+      {"bit 6 as quad injection", kMid16, 0x42, 0, "NB", "Off", 0x42, 0},
+      {"wide band of the first chips beside EGR", {1.8, MakeDate(2003, 3, 15), 1}, 0x19, 0, "WB", "Lambda", 0x11, 0},
+      {"L3 alone", day, 0x81, 4, "NB", "L3", 0x81, 4},
+      {"255 in z800", kNew18, 0x02, 255, "NB", "Off", 0x02, 233},
+      {"z800 of a chip without boxes", kOld16, 0x02, 0x5a, "NB", "Off", 0x82, 0x5a},
+  };
+  for (const auto& c : cases) {
+    const ZoneMap map = MapWith(c.chip, c.flags, c.more);
+    const ZoneSheet sheet = OpenSheet(map);
+    EXPECT_EQ(sheet.O2Sensor, c.sensor) << c.what;
+    EXPECT_EQ(sheet.autoTuneType, c.type) << c.what;
+    const ZoneMap after = Rebuild(sheet, map);
+    EXPECT_EQ(after.zones[5], c.flagsAfter) << c.what;
+    EXPECT_EQ(after.zones[240], c.moreAfter) << c.what;
+  }
+}
+
+TEST(ZoneSheet, EachBoxHasItsBit) {
+  std::string told;
+  for (const ChipIdentity& chip : {kNew18, kFirst, kMid16}) {
+    const ZoneMap map = MapWith(chip, 2 + 8);
+    const ZoneSheet sheet = OpenSheet(map);
+    const ZoneMap plain = Rebuild(sheet, map);
+    for (int i = 0; i < kTicks; ++i) {
+      const ZoneMap other = Rebuild(WithTick(sheet, Tick{i}, !sheet.Ticked(Tick{i})), map);
+      for (const int zone : {5, 240, 242})
+        if (const int bits = other.zones[static_cast<std::size_t>(zone)] ^ plain.zones[static_cast<std::size_t>(zone)])
+          told += std::to_string(i) + ":" + ZoneName(zone) + "^" + std::to_string(bits) + " ";
+    }
+    told += "\n";
+  }
+  EXPECT_EQ(told,
+            "0:z5^8 1:z800^1 3:z810^1 4:z800^16 5:z5^4 6:z800^8 7:z800^2 8:z5^64 \n"
+            "0:z5^8 1:z800^1 4:z800^8 5:z5^4 8:z5^64 \n"
+            "1:z800^1 2:z5^64 5:z5^4 9:z5^16 \n");
+}
+
+/// What is in range and has its boxes comes back as it was, whatever the numbers.
+TEST(ZoneSheet, MapsComeBackWhole) {
+  std::mt19937 random(7);
+  const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
+  for (int round = 0; round < 300; ++round) {
+    ZoneMap map = MapWith(kChips[below(5)], 0);
+    for (auto& zone : map.zones) zone = static_cast<std::int16_t>(below(256));
+    map.zones[4] = 30;
+    map.zones[243] = static_cast<std::int16_t>(below(160));
+    const int flags[] = {0, 2, 32, 34};
+    map.zones[5] = static_cast<std::int16_t>(flags[below(4)]);
+    if (map.chip == kOld16) map.zones[5] = static_cast<std::int16_t>(map.zones[5] | 128);
+    if (map.zones[240] == 255) map.zones[240] = 254;
+    map.strNotes = std::to_string(round);
+    const ZoneMap after = Rebuild(OpenSheet(map), map);
+    for (std::size_t zone = 0; zone < 256; ++zone)
+      ASSERT_EQ(after.zones[zone], map.zones[zone]) << zone << " " << round;
+    ASSERT_EQ(after, map);
+  }
+}
+
+TEST(ZoneSheet, WhatCannotBeShownDoesNotComeBack) {
+  ZoneMap map = MapWith(kNew18, 2);
+  map.zones[4] = 90;
+  map.zones[243] = 200;
+  map.zones[10] = -1;
+  map.zones[3] = 255;
+  const ZoneSheet sheet = OpenSheet(map);
+  EXPECT_EQ(FieldText(sheet, 3), "OFF");
+  const ZoneMap after = Rebuild(sheet, map);
+  EXPECT_EQ(after.zones[4], 80);
+  EXPECT_EQ(after.zones[243], 159);
+  EXPECT_EQ(after.zones[10], 255);
+  EXPECT_EQ(after.zones[3], 255);
+}
+
+TEST(ZoneSheet, PrimeFactorFollowsMasterFuelOnChipVersion2Alone) {
+  EXPECT_EQ(RangeText(WithField(OpenSheet(MapWith(kMid18, 2)), 1, "140"), 227), "000/093");
+  EXPECT_EQ(RangeText(WithField(OpenSheet(MapWith(kNew18, 2)), 1, "140"), 227), "");
+  EXPECT_EQ(Forced(WithField(OpenSheet(MapWith(kMid18, 2)), 1, "140"), 227, 200), 93);
+}
+
+TEST(ZoneSheet, UnitOfTheBoostTargetsByTheirMean) {
+  ZoneMap map = MapWith(kNew18, 2);
+  EXPECT_TRUE(OpenSheet(map).boostTargets);
+  map.zones[239] = 99;
+  EXPECT_FALSE(OpenSheet(map).boostTargets);
+  EXPECT_EQ(RangeText(OpenSheet(map), 229), "000/099");
+}
+
+}  // namespace
+}  // namespace tarnview
