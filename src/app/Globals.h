@@ -4,7 +4,6 @@
 
 #include "base/ErrorLog.h"
 #include "desk/EXEFunctions.h"
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "model/ConversionTables.h"
@@ -45,7 +44,6 @@ struct Services {
   EXEFunctions& programs;
   ErrorLog& errors;
   Messages& messages;
-  Help& help;
 };
 
 }  // namespace tarnview

@@ -23,7 +23,8 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
       messages_(host, [this](int id) { return globals_.kinds.gcolFileTypes.Item(id).strDescription; }),
       programs_(processes, host),
       help_(files, programs_, messages_, In(folders_.data, "Documentation/"), folders_.program),
-      services_{host, files, clock, programs_, errors_, messages_, help_} {
+      services_{host, files, clock, programs_, errors_, messages_} {
+  host_.ShowHelp = [this](const std::string& topic) { help_.ShowHelp(topic); };
   globals_.gstrProgramFolder = folders_.program;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");
   globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);

@@ -7,6 +7,7 @@
 #include "app/SettingsFile.h"
 #include "app/frmDataLogViewer.h"
 #include "app/frmSplash.h"
+#include "desk/Help.h"
 
 namespace tarnview {
 

@@ -7,8 +7,6 @@
 #include "model/ConversionFiles.h"
 
 namespace tarnview {
-namespace {}  // namespace
-
 frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile)
     : MainWindowControls(services.host),
       globals_(globals),
@@ -32,6 +30,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       tags_(services.host, log_.gcolLogTags, *this),
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
+  HelpTopic = "SampleGraph";
   SetUpZoomMenus();
   BindCommands();
   services_.messages.ShowNonModal = [this](Message, const std::string& text) { ShowNonModal(text); };

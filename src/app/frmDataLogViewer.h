@@ -142,7 +142,6 @@ class frmDataLogViewer : public MainWindowControls,
   void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
   bool CurrentRange(clsLogTag& tag) const override;
   void ShowRange(const clsLogTag& tag) override;
-  void ShowHelp(const char* topic) override { services_.help.ShowHelp(topic); }
   void ShowPoint(std::int32_t sample) override;
   std::optional<clsScatterFilter> RangeFilter() const override;
   std::vector<int> ListedItems() const override;

@@ -34,7 +34,7 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", [this] { MaintainList(2); }, {}},
       {&mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", kNotYet, {}},
       {&mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", kNotYet, {}},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { ShowHelp(""); }, {}},
+      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
        "mnuHelpAbout_Click",
        [this] {
@@ -175,7 +175,6 @@ bool frmDataLogViewer::Form_KeyUp(const KeyPress& key) {
       {{"F", false, true}, [this] { cmdZoomFull.Press(); }},
       {{"I", false, true}, [this] { cmdZoomIn.Press(); }},
       {{"O", false, true}, [this] { cmdZoomOut.Press(); }},
-      {{"F1"}, [this] { ShowHelp("SampleGraph"); }},
   };
   for (const auto& row : kKeys)
     if (row.key == key) {

@@ -18,9 +18,9 @@ constexpr std::int64_t kNarrowGraph = 10;
 }  // namespace
 
 void frmDataLogViewer::GotoSample() {
-  frmGoto window(host, log_, services_.help, plot_.lngHighlightSample, blnGotoShowPointWidth_);
+  frmGoto window(host, log_, plot_.lngHighlightSample, blnGotoShowPointWidth_);
   window.ShowModal();
-  if (window.CloseMethod() != frmGoto::kAccepted || window.lngSampleNumber() <= 0) return;
+  if (!window.Accepted() || window.lngSampleNumber() <= 0) return;
   blnGotoShowPointWidth_ = window.blnShowPointWidth();
   ShowAround(window.lngSampleNumber(), blnGotoShowPointWidth_);
 }
@@ -50,7 +50,7 @@ void frmDataLogViewer::mnuFileExport_Click() {
 void frmDataLogViewer::mnuEditNewPreset_Click() {
   frmNewPresetName window(host, services_.messages, clsSampleGraphPresets::NEW_NAME);
   window.ShowModal();
-  if (window.CloseMethod() != "OK") return;
+  if (!window.Accepted()) return;
   presets_.AddPreset(window.strName(), PresetFileType());
   WriteINIFile();
   presets_.PopulatePresetGraphs(true, PresetFileType());
@@ -85,10 +85,10 @@ bool frmDataLogViewer::EditPreset(Preset& preset) {
   Window window(host,
                 PresetSurroundings{globals_.kinds.gcolLogFamilies, globals_.catalogue,
                                    globals_.settings.gstrDefaultWorkingDirectory, services_.files, services_.clock,
-                                   services_.errors, services_.messages, services_.help},
+                                   services_.errors, services_.messages},
                 preset);
   window.ShowModal();
-  if (window.CloseMethod() != "OK") return false;
+  if (!window.Accepted()) return false;
   preset = window.ColItem();
   return true;
 }
@@ -99,11 +99,11 @@ void frmDataLogViewer::Maintain(const frmMaint::Texts& texts, Collection& kept,
   MaintainedCollection<Collection> copy(kept, std::move(edit));
   const clsLogFamilies& families = globals_.kinds.gcolLogFamilies;
   frmMaint window(host, copy, texts, families, families.FirstLogFamily(globals_.settings.gintDefaultFileType),
-                  services_.messages, services_.help);
+                  services_.messages);
   ApplyPlacement(globals_.settings.windows.maintenance, window);
   window.ShowModal();
   globals_.settings.windows.maintenance = PlacementOf(window);
-  if (window.CloseMethod() != "OK") return;
+  if (!window.Accepted()) return;
   kept = copy.Col;
   presets_.PopulatePresetGraphs(false, PresetFileType());
   UpdateScatterPresetsOnForms();

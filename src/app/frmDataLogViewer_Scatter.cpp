@@ -7,15 +7,9 @@ namespace tarnview {
 
 frmScatterGraph& frmDataLogViewer::NewScatterGraph() {
   const int number = scatterGraphs_.NextNumber();
-  const frmScatterGraph::Surroundings around{globals_.kinds,
-                                             globals_.catalogue,
-                                             log_,
-                                             globals_.settings,
-                                             globals_.gcolScatterGraphPresets,
-                                             services_.files,
-                                             services_.errors,
-                                             services_.messages,
-                                             services_.help};
+  const frmScatterGraph::Surroundings around{
+      globals_.kinds,   globals_.catalogue, log_, globals_.settings, globals_.gcolScatterGraphPresets, services_.files,
+      services_.errors, services_.messages};
   frmScatterGraph::MainWindow& self = *this;
   frmScatterGraph& window = scatterGraphs_.Add(std::make_unique<frmScatterGraph>(host, around, self));
   window.ID = number;

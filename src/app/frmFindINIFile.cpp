@@ -64,8 +64,7 @@ void frmFindINIFile::cmdOK_Click() {
   if (!ValidateForm()) return;
   chosen_ = rows_[static_cast<std::size_t>(lstFileType.ListIndex())];
   if (OtherIsChosen()) chosen_.definition = Trim(txtPathOther.Text());
-  accepted_ = true;
-  Unload();
+  Accept();
 }
 
 /// A definition picked by hand must be a good one; what is wrong with it is told.

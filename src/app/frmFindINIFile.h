@@ -29,7 +29,6 @@ class frmFindINIFile : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  bool Accepted() const { return accepted_; }
   /// The file type chosen, 1 to 8.
   int FileType() const { return chosen_.fileType; }
   /// Of a Universal choice.
@@ -51,7 +50,6 @@ class frmFindINIFile : public Form {
   Messages& messages_;
   std::vector<Row> rows_;  ///< beside the list's entries
   Row chosen_{};
-  bool accepted_ = false;
 };
 
 }  // namespace tarnview

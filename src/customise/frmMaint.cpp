@@ -5,19 +5,16 @@
 #include "base/Numbers.h"
 
 namespace tarnview {
-namespace {}  // namespace
-
 frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families,
-                   int firstFamily, Messages& messages, Help& help)
+                   int firstFamily, Messages& messages)
     : Form(itsHost, "frmMaint", texts.FormCaption),
       col_(col),
-      helpTopic_(texts.HelpTopic),
       families_(families),
       firstFamily_(firstFamily),
-      messages_(messages),
-      help_(help) {
+      messages_(messages) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = texts.HelpTopic;
   fraNameList.Caption = std::string(texts.FrameCaption);
   cboLogFamily.Click = [this] { PopulatePresetsListView(1); };
   lvwNameList.ItemClick = [this](int) { UpdateButtons(); };
@@ -39,10 +36,7 @@ frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const
   cmdDelete.Click = [this] { cmdDelete_Click(); };
   cmdPresetUp.Click = [this] { MovePreset(-1); };
   cmdPresetDown.Click = [this] { MovePreset(1); };
-  cmdOK.Click = [this] {
-    closeMethod_ = "OK";
-    Unload();
-  };
+  cmdOK.Click = [this] { Accept(); };
   cmdCancel.Click = [this] { Unload(); };
 }
 
@@ -51,12 +45,6 @@ void frmMaint::Form_Load() {
   cboLogFamily.SetListIndex(firstFamily_ - 1);
   EnableLogFamilyFunction();
   PopulatePresetsListView(1);
-}
-
-bool frmMaint::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  help_.ShowHelp(helpTopic_);
-  return true;
 }
 
 void frmMaint::EnableLogFamilyFunction() {

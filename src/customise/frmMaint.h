@@ -3,7 +3,6 @@
 #include <string>
 
 #include "customise/MaintainedList.h"
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "model/clsLogFamilies.h"
 #include "ui/ComboBox.h"
@@ -25,7 +24,7 @@ class frmMaint : public Form {
     const char* HelpTopic;
   };
   frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families, int firstFamily,
-           Messages& messages, Help& help);
+           Messages& messages);
 
   Label lblLogFamily{*this, "lblLogFamily", "&Log Family"};
   ComboBox cboLogFamily{*this, "cboLogFamily"};
@@ -39,12 +38,8 @@ class frmMaint : public Form {
   CommandButton cmdOK{*this, "cmdOK", "&OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "&Cancel"};
 
-  /// "OK" or "Cancel": the button that closed the window.
-  const std::string& CloseMethod() const { return closeMethod_; }
-
  protected:
   void Form_Load() override;
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   void EnableLogFamilyFunction();
@@ -60,12 +55,9 @@ class frmMaint : public Form {
   void MovePreset(int by);
 
   MaintainedList& col_;
-  const char* helpTopic_;
   const clsLogFamilies& families_;
   int firstFamily_;
   Messages& messages_;
-  Help& help_;
-  std::string closeMethod_ = "Cancel";
 };
 
 }  // namespace tarnview

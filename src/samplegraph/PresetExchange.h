@@ -6,7 +6,6 @@
 #include "base/Clock.h"
 #include "base/ErrorLog.h"
 #include "base/FileSystem.h"
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "model/clsLogFamilies.h"
@@ -24,7 +23,6 @@ struct PresetSurroundings {
   Clock& clock;
   ErrorLog& errors;
   Messages& messages;
-  Help& help;
 };
 
 /// How the details window of a preset exchanges it with files: the dialogs, the file used last since the window opened,

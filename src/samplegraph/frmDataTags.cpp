@@ -13,6 +13,7 @@ constexpr int kLastRow = 99999;
 frmDataTags::frmDataTags(Host& itsHost, clsLogTags& tags, MainWindow& mainWindow)
     : Form(itsHost, "frmDataTags", "Tarnview Data Tags"), tags_(tags), mainWindow_(mainWindow) {
   CancelButton = &cmdClose;
+  HelpTopic = "DataTags";
   cmdNew.Click = [this] { NewDataTag(); };
   cmdShow.Click = [this] { cmdShow_Click(); };
   cmdDelete.Click = [this] { cmdDelete_Click(); };
@@ -26,12 +27,6 @@ frmDataTags::frmDataTags(Host& itsHost, clsLogTags& tags, MainWindow& mainWindow
 }
 
 void frmDataTags::Form_Load() { PopulateList(1); }
-
-bool frmDataTags::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  mainWindow_.ShowHelp("DataTags");
-  return true;
-}
 
 void frmDataTags::NewDataTag() {
   clsLogTag tag;

@@ -17,7 +17,6 @@ class frmDataTags : public Form {
     virtual bool CurrentRange(clsLogTag& tag) const = 0;
     /// Writes the stretch into the range boxes and draws it.
     virtual void ShowRange(const clsLogTag& tag) = 0;
-    virtual void ShowHelp(const char* topic) = 0;
   };
 
   frmDataTags(Host& itsHost, clsLogTags& tags, MainWindow& mainWindow);
@@ -35,7 +34,6 @@ class frmDataTags : public Form {
 
  protected:
   void Form_Load() override;
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   void cmdShow_Click();

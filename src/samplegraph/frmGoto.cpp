@@ -9,10 +9,11 @@
 
 namespace tarnview {
 
-frmGoto::frmGoto(Host& itsHost, const OpenLog& log, Help& help, std::int32_t lngSample, bool blnShowPointWidth)
-    : Form(itsHost, "frmGoto", "Goto Sample"), log_(log), help_(help), sample_(lngSample) {
+frmGoto::frmGoto(Host& itsHost, const OpenLog& log, std::int32_t lngSample, bool blnShowPointWidth)
+    : Form(itsHost, "frmGoto", "Goto Sample"), log_(log), sample_(lngSample) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "GotoSample";
   txtSampleNumber.Text = std::to_string(lngSample);
   ShowTime(LocateSample(log_, lngSample, lngSample));
   chkShowPointWidth.Value = blnShowPointWidth;
@@ -20,12 +21,6 @@ frmGoto::frmGoto(Host& itsHost, const OpenLog& log, Help& help, std::int32_t lng
   txtSampleTime.LostFocus = [this] { ValidateSampleTime(); };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-bool frmGoto::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  help_.ShowHelp("GotoSample");
-  return true;
 }
 
 void frmGoto::ValidateSampleNumber() {
@@ -57,8 +52,7 @@ void frmGoto::cmdOK_Click() {
   else
     ValidateSampleNumber();
   sample_ = StringToLong(txtSampleNumber.Text());
-  outcome_ = kAccepted;
-  Unload();
+  Accept();
 }
 
 }  // namespace tarnview

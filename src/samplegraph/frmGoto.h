@@ -2,7 +2,6 @@
 
 #include <cstdint>
 
-#include "desk/Help.h"
 #include "model/OpenLog.h"
 #include "ui/CheckBox.h"
 #include "ui/CommandButton.h"
@@ -15,10 +14,8 @@ namespace tarnview {
 /// Asks for a sample, by its number or by its time; each of the two fields follows the other.
 class frmGoto : public Form {
  public:
-  enum Outcome : int { kCancelled = 1, kAccepted = 2 };
-
   /// The log must hold a row.
-  frmGoto(Host& itsHost, const OpenLog& log, Help& help, std::int32_t lngSample, bool blnShowPointWidth);
+  frmGoto(Host& itsHost, const OpenLog& log, std::int32_t lngSample, bool blnShowPointWidth);
 
   Label lblSampleNumber{*this, "lblSampleNumber", "Sample &Number"};
   TextBox txtSampleNumber{*this, "txtSampleNumber"};
@@ -28,13 +25,9 @@ class frmGoto : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  Outcome CloseMethod() const { return outcome_; }
   /// What was accepted.
   std::int32_t lngSampleNumber() const { return sample_; }
   bool blnShowPointWidth() const { return chkShowPointWidth.Value; }
-
- protected:
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   void ValidateSampleNumber();
@@ -43,8 +36,6 @@ class frmGoto : public Form {
   void cmdOK_Click();
 
   const OpenLog& log_;
-  Help& help_;
-  Outcome outcome_ = kCancelled;
   std::int32_t sample_;
 };
 

@@ -3,8 +3,6 @@
 #include "base/Text.h"
 
 namespace tarnview {
-namespace {}  // namespace
-
 frmNewPresetName::frmNewPresetName(Host& itsHost, Messages& messages, const std::string& name)
     : Form(itsHost, "frmNewPresetName", "New Preset Graph Name"), messages_(messages) {
   DefaultButton = &cmdOK;
@@ -21,8 +19,7 @@ void frmNewPresetName::cmdOK_Click() {
     txtName.SetFocus();
     return;
   }
-  closeMethod_ = "OK";
-  Unload();
+  Accept();
 }
 
 }  // namespace tarnview

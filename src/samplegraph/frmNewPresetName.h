@@ -20,8 +20,6 @@ class frmNewPresetName : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// "OK" or "Cancel": the button that closed the window.
-  const std::string& CloseMethod() const { return closeMethod_; }
   /// What was accepted; never empty.
   const std::string& strName() const { return name_; }
 
@@ -29,7 +27,6 @@ class frmNewPresetName : public Form {
   void cmdOK_Click();
 
   Messages& messages_;
-  std::string closeMethod_ = "Cancel";
   std::string name_;
 };
 

@@ -20,6 +20,7 @@ frmPresetSampleDetails::frmPresetSampleDetails(Host& itsHost, const PresetSurrou
     : Form(itsHost, "frmPresetSampleDetails", "Preset Sample Graph Details"), around_(surroundings), preset_(ColItem) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "PresetSampleGraphDetails";
   cboLogFamily.SetList(around_.families.Descriptions());
   BindControls();
   ShowPreset(preset_);
@@ -39,16 +40,9 @@ void frmPresetSampleDetails::BindControls() {
   cmdOK.Click = [this] {
     if (!ValidateControls()) return;
     preset_ = CreatePresetSampleGraphObject();
-    closeMethod_ = "OK";
-    Unload();
+    Accept();
   };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-bool frmPresetSampleDetails::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  around_.help.ShowHelp("PresetSampleGraphDetails");
-  return true;
 }
 
 void frmPresetSampleDetails::ShowPreset(const clsSampleGraphPreset& preset) {

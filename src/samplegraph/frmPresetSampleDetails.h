@@ -35,13 +35,10 @@ class frmPresetSampleDetails : public Form {
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
   /// "OK" or "Cancel": the button that closed the window.
-  const std::string& CloseMethod() const { return closeMethod_; }
   /// The preset as the user left it.
   const clsSampleGraphPreset& ColItem() const { return preset_; }
 
  protected:
-  bool Form_KeyUp(const KeyPress& key) override;
-
  private:
   void BindControls();
   void ShowPreset(const clsSampleGraphPreset& preset);
@@ -58,7 +55,6 @@ class frmPresetSampleDetails : public Form {
   PresetExchange exchange_{*this, txtName, around_, {".sam", kSampleGraphPresetFilter}};
   CheckedKeys checked_;
   clsSampleGraphPreset preset_;
-  std::string closeMethod_ = "Cancel";
 };
 
 }  // namespace tarnview

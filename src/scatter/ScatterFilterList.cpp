@@ -59,10 +59,10 @@ ListView::Row ScatterFilterList::RowOf(const clsScatterFilter& filter, int posit
 }
 
 bool ScatterFilterList::NewFilterDetails(clsScatterFilter& filter, bool blnNew) {
-  frmScatterFilter window(controls_.lvwFilters.form.host, around_.catalogue, around_.messages, around_.help);
+  frmScatterFilter window(controls_.lvwFilters.form.host, around_.catalogue, around_.messages);
   window.SetScatterFilter(filter, family_, blnNew);
   window.ShowModal();
-  if (window.CloseMethod() != frmScatterFilter::kAccepted) return false;
+  if (!window.Accepted()) return false;
   filter = window.GetScatterFilter();
   return true;
 }

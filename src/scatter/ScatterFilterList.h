@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "presets/clsScatterFilter.h"
@@ -28,7 +27,6 @@ class ScatterFilterList {
   struct Surroundings {
     const Catalogue& catalogue;
     Messages& messages;
-    Help& help;
   };
   ScatterFilterList(const Controls& controls, const Surroundings& surroundings);
 

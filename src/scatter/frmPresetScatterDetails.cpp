@@ -12,6 +12,7 @@ frmPresetScatterDetails::frmPresetScatterDetails(Host& itsHost, const PresetSurr
       preset_(ColItem) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "PresetScatterGraphDetails";
   cboLogFamily.SetList(around_.families.Descriptions());
   cboLogFamily.Click = [this] { ListItems(); };
   cmdSave.Click = [this] { cmdSave_Click(); };
@@ -19,19 +20,12 @@ frmPresetScatterDetails::frmPresetScatterDetails(Host& itsHost, const PresetSurr
   cmdOK.Click = [this] {
     if (!exchange_.HasName()) return;
     preset_ = CreatePresetScatterGraphObject();
-    closeMethod_ = "OK";
-    Unload();
+    Accept();
   };
   cmdCancel.Click = [this] { Unload(); };
 }
 
 void frmPresetScatterDetails::Form_Load() { ShowPreset(preset_); }
-
-bool frmPresetScatterDetails::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  around_.help.ShowHelp("PresetScatterGraphDetails");
-  return true;
-}
 
 void frmPresetScatterDetails::ListItems() {
   const DataItemList items = AxisItems(around_.catalogue, Family());

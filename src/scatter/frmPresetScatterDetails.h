@@ -52,13 +52,11 @@ class frmPresetScatterDetails : public Form {
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
   /// "OK" or "Cancel": the button that closed the window.
-  const std::string& CloseMethod() const { return closeMethod_; }
   /// The preset as the user left it.
   const clsScatterGraphPreset& ColItem() const { return preset_; }
 
  protected:
   void Form_Load() override;
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   int Family() const { return cboLogFamily.ListIndex() + 1; }
@@ -75,9 +73,8 @@ class frmPresetScatterDetails : public Form {
   DataItemCombo yAxis_{imgcboYAxis};
   PointStyleControls points_{{cboPointShape, cboPointSize, picColour, cmdColourSelector}};
   ScatterFilterList filters_{{lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete},
-                             {around_.catalogue, around_.messages, around_.help}};
+                             {around_.catalogue, around_.messages}};
   clsScatterGraphPreset preset_;
-  std::string closeMethod_ = "Cancel";
 };
 
 }  // namespace tarnview

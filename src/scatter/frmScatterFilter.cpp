@@ -13,23 +13,15 @@ double BoundIn(const ComboBox& box) { return box.Text->empty() ? kBoundNotSet : 
 
 }  // namespace
 
-frmScatterFilter::frmScatterFilter(Host& itsHost, const Catalogue& catalogue, Messages& messages, Help& help)
-    : Form(itsHost, "frmScatterFilter", "Scatter Graph Filter"),
-      catalogue_(catalogue),
-      messages_(messages),
-      help_(help) {
+frmScatterFilter::frmScatterFilter(Host& itsHost, const Catalogue& catalogue, Messages& messages)
+    : Form(itsHost, "frmScatterFilter", "Scatter Graph Filter"), catalogue_(catalogue), messages_(messages) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "ScatterFilter";
   imgcboDataItem.Click = [this] { imgcboDataItem_Click(); };
   for (ComboBox* box : {&cboFrom, &cboTo}) box->LostFocus = [this, box] { BoundIsLeft(*box); };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-bool frmScatterFilter::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  help_.ShowHelp("ScatterFilter");
-  return true;
 }
 
 const clsLogDataItem* frmScatterFilter::Item() const {
@@ -104,8 +96,7 @@ void frmScatterFilter::cmdOK_Click() {
   if (!hasFrom && !hasTo) return messages_.ShowMessage(Message::NoFilterCriteria);
   if (hasFrom && hasTo && filter.dblFrom > filter.dblTo) return messages_.ShowMessage(Message::FromAboveTo);
   filter_ = filter;
-  outcome_ = kAccepted;
-  Unload();
+  Accept();
 }
 
 }  // namespace tarnview

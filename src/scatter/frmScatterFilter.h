@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "model/Catalogue.h"
 #include "presets/clsScatterFilter.h"
@@ -15,9 +14,7 @@ namespace tarnview {
 /// Edits one filter: an item, and the bounds or the value that samples must keep to.
 class frmScatterFilter : public Form {
  public:
-  enum Outcome : int { kCancelled = 1, kAccepted = 2 };
-
-  frmScatterFilter(Host& itsHost, const Catalogue& catalogue, Messages& messages, Help& help);
+  frmScatterFilter(Host& itsHost, const Catalogue& catalogue, Messages& messages);
 
   Label lblDataItem{*this, "lblDataItem", "&Data Item"};
   ComboBox imgcboDataItem{*this, "imgcboDataItem"};
@@ -33,11 +30,8 @@ class frmScatterFilter : public Form {
   void SetScatterFilter(const clsScatterFilter& objFilter, int lngLogFamily, bool blnQuiet);
   /// What was accepted.
   const clsScatterFilter& GetScatterFilter() const { return filter_; }
-  Outcome CloseMethod() const { return outcome_; }
 
  protected:
-  bool Form_KeyUp(const KeyPress& key) override;
-
  private:
   /// The item chosen; nullptr where none is offered.
   const clsLogDataItem* Item() const;
@@ -51,11 +45,9 @@ class frmScatterFilter : public Form {
 
   const Catalogue& catalogue_;
   Messages& messages_;
-  Help& help_;
   DataItemCombo items_{imgcboDataItem};
   int family_ = 1;
   clsScatterFilter filter_;
-  Outcome outcome_ = kCancelled;
 };
 
 }  // namespace tarnview

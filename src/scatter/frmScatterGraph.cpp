@@ -6,7 +6,6 @@
 namespace tarnview {
 namespace {
 
-constexpr const char* kHelpTopic = "ScatterGraph";
 /// To be seen on all three backdrops.
 constexpr PointStyle kFirstStyle{0, 4, 0xC06000};
 /// Between two windows that open on each other, so that the caption of the lower one shows; in twips, 24 pixels.
@@ -19,13 +18,13 @@ frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings
       around_(surroundings),
       mainWindow_(mainWindow),
       style_({cboPointShape, cboPointSize, picColour, cmdColourSelector}),
-      filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete},
-               {around_.catalogue, around_.messages, around_.help}),
+      filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete}, {around_.catalogue, around_.messages}),
       presets_(lvwPresets, around_.presets, around_.kinds.gcolLogFamilies),
       drawing_(*this, {chScatterGraph, fraPicture, fraSampleDetails}, around_.log, around_.settings, status_,
                around_.messages, around_.errors),
       output_(itsHost, around_.messages, around_.errors),
       commands_(around_.errors, "frmScatterGraph") {
+  HelpTopic = "ScatterGraph";
   noItem_.strLongName = "None";
   style_.Show(kFirstStyle);
   DefaultButton = &cmdDrawGraph;
@@ -73,7 +72,7 @@ std::vector<Command> frmScatterGraph::CommandRows() {
          Recolour();
        },
        {}},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { around_.help.ShowHelp(kHelpTopic); }, {}},
+      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
       {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
       {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
   };
@@ -114,12 +113,6 @@ void frmScatterGraph::Form_Unload() {
   MoveDown(-Cascade);
   if (const auto placement = PlacementOf(*this)) around_.settings.windows.scatterGraph = placement;
   mainWindow_.ScatterGraphClosed(ID);
-}
-
-bool frmScatterGraph::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  around_.help.ShowHelp(kHelpTopic);
-  return true;
 }
 
 /// Before a first log, items are those of the file type that the user opens most.

@@ -9,7 +9,6 @@
 #include "base/FileSystem.h"
 #include "desk/ChartOutput.h"
 #include "desk/Commands.h"
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "desk/StatusArea.h"
 #include "model/Catalogue.h"
@@ -40,7 +39,6 @@ class frmScatterGraph : public ScatterWindowControls {
     FileSystem& files;
     ErrorLog& errors;
     Messages& messages;
-    Help& help;
   };
   /// What it needs of the main window.
   struct MainWindow {
@@ -93,7 +91,6 @@ class frmScatterGraph : public ScatterWindowControls {
  protected:
   void Form_Load() override;
   void Form_Unload() override;
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   std::vector<Command> CommandRows();

@@ -46,7 +46,7 @@ void frmScatterGraph::mnuEditUpdatePreset_Click() {
 void frmScatterGraph::mnuEditNewPreset_Click() {
   frmNewPresetName window(host, around_.messages, clsScatterGraphPresets::NEW_NAME);
   window.ShowModal();
-  if (window.CloseMethod() != "OK") return;
+  if (!window.Accepted()) return;
   clsScatterGraphPreset preset = presets_.NewPreset(window.strName(), FileType());
   TakeWhatIsShown(preset);
   presets_.Add(std::move(preset));

@@ -49,6 +49,7 @@ void Form::ShowModal() { Open(true); }
 void Form::Open(bool modal) {
   if (!shown_) {
     shown_ = true;
+    outcome_ = Outcome::Cancelled;
     Form_Load();
   }
   host.Show(*this, modal);
@@ -87,7 +88,19 @@ bool Form::Press(const KeyPress& key) {
       item->Click();
       taken = true;
     }
-  return Form_KeyUp(key) || taken;
+  return KeyGoesUp(key) || taken;
+}
+
+bool Form::KeyGoesUp(const KeyPress& key) {
+  if (Form_KeyUp(key)) return true;
+  if (key != KeyPress{"F1"} || HelpTopic.empty() || !host.ShowHelp) return false;
+  host.ShowHelp(HelpTopic);
+  return true;
+}
+
+void Form::Accept() {
+  outcome_ = Outcome::Accepted;
+  Unload();
 }
 
 void Form::Add(Control& control) { controls_.push_back(&control); }

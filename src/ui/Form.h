@@ -15,6 +15,9 @@ class CommandButton;
 
 enum class MousePointer { Default = 0, Hourglass = 11 };
 
+/// How a dialog was closed: by its OK, or in any other way.
+enum class Outcome { Cancelled, Accepted };
+
 /// A window without a toolkit: its controls are members of the derived class and stand in `Controls` in the order
 /// of their declaration, which is the tab order.
 class Form {
@@ -30,6 +33,7 @@ class Form {
   Property<MousePointer> Pointer;
   CommandButton* DefaultButton = nullptr;  ///< what Enter presses
   CommandButton* CancelButton = nullptr;   ///< what Escape presses
+  std::string HelpTopic;                   ///< where F1 opens the manual ("DataTags"); empty: F1 does nothing
 
   // Where the window stands and what it is: kept up to date by the toolkit, which also takes what Form_Load sets here.
   // In twips, 15 to a pixel of a screen with 96 to the inch. A Width of 0: the design size, where the desktop puts it.
@@ -49,6 +53,7 @@ class Form {
   bool IsUnloading() const { return unloading_; }
   /// Closes the window; false when it refused.
   bool Unload();
+  bool Accepted() const { return outcome_ == Outcome::Accepted; }
   /// Draws what has changed while a long loop runs.
   void Refresh() { host.Repaint(*this); }
 
@@ -58,7 +63,7 @@ class Form {
   /// The first half of Press, for a toolkit that has its own way with Enter, Escape and shortcuts.
   bool KeyGoesDown(const KeyPress& key);
   /// The same for a key that is let go.
-  bool KeyGoesUp(const KeyPress& key) { return Form_KeyUp(key); }
+  bool KeyGoesUp(const KeyPress& key);
 
   /// A file dropped on the window. False: the window takes none.
   virtual bool DropFile(const std::string& /*path*/) { return false; }
@@ -78,6 +83,8 @@ class Form {
   /// True eats the key.
   virtual bool Form_KeyDown(const KeyPress&) { return false; }
   virtual bool Form_KeyUp(const KeyPress&) { return false; }
+  /// OK: closes the window and tells its caller to take what is in it.
+  void Accept();
 
  private:
   friend class Control;
@@ -88,6 +95,7 @@ class Form {
   std::vector<Control*> controls_;
   Control* active_ = nullptr;
   bool shown_ = false;
+  Outcome outcome_ = Outcome::Cancelled;
   bool unloading_ = false;
 };
 

@@ -64,6 +64,9 @@ class Host {
  public:
   virtual ~Host() = default;
 
+  /// Opens the manual at a topic; set once by the program. Empty: there is no manual.
+  std::function<void(const std::string& topic)> ShowHelp;
+
   virtual Reply Ask(const Box& box) = 0;
   /// False on Cancel; then `dialog` is unchanged.
   virtual bool Choose(Dialog& dialog) = 0;

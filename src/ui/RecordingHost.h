@@ -24,17 +24,22 @@ struct Answer {
 /// answer queued, a box gets its default button and a dialog Cancel.
 class RecordingHost : public Host {
  public:
+  RecordingHost() {
+    ShowHelp = [this](const std::string& topic) { helpTopics.push_back(topic); };
+  }
+
   std::deque<Answer> answers;
   std::optional<Answer> nextFile;  ///< for the next file dialog, before the queue
   List boxes;                      ///< {"id", "text", "style", "reply"} or {"dialog", "title", "filter", "reply"}
   std::vector<Box> messages;       ///< the boxes alone
   std::vector<Form*> open;         ///< windows on show, the front one last
   std::string clipboard;
-  std::vector<const Chart*> copied;   ///< charts whose picture went to the clipboard
-  std::vector<std::string> pictures;  ///< paths of the pictures saved
-  std::vector<RecordingPage> pages;   ///< printed or shown before printing
-  std::function<void(Form&)> work;    ///< what a user does in a modal window; it is closed then
-  std::string refusal;                ///< why pictures and pages fail; empty: they do not
+  std::vector<std::string> helpTopics;  ///< where the manual was opened, until a program brings its own
+  std::vector<const Chart*> copied;     ///< charts whose picture went to the clipboard
+  std::vector<std::string> pictures;    ///< paths of the pictures saved
+  std::vector<RecordingPage> pages;     ///< printed or shown before printing
+  std::function<void(Form&)> work;      ///< what a user does in a modal window; it is closed then
+  std::string refusal;                  ///< why pictures and pages fail; empty: they do not
 
   Reply Ask(const Box& box) override;
   bool Choose(Dialog& dialog) override;

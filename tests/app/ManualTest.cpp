@@ -39,8 +39,7 @@ TEST(Manual, HasAChapterForEachTopicOfTheProgram) {
   for (const auto& file : fs::recursive_directory_iterator(fs::path(TARNVIEW_TESTS).parent_path() / "src"))
     if (file.path().extension() == ".cpp") {
       const std::string text = TextOf(file.path());
-      topics.merge(Between(text, "ShowHelp(\"", "\")"));
-      topics.merge(Between(text, "kHelpTopic = \"", "\""));
+      topics.merge(Between(text, "HelpTopic = \"", "\""));
       topics.merge(Between(text, "Graphs\", \"", "\"}"));  // the lists that are kept in one window
     }
   EXPECT_GE(topics.size(), 5u);

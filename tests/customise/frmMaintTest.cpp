@@ -3,7 +3,6 @@
 #include "customise/frmMaint.h"
 #include "presets/clsSampleGraphPreset.h"
 #include "support/MemoryFileSystem.h"
-#include "support/RecordingProcesses.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -39,15 +38,12 @@ class MaintTest : public ::testing::Test {
     return names;
   }
   frmMaint Make(MaintainedList& list) {
-    return {host, list, {"Editor", "&Things", "ThingEditor"}, kinds.gcolLogFamilies, 1, messages, help};
+    return {host, list, {"Editor", "&Things", "ThingEditor"}, kinds.gcolLogFamilies, 1, messages};
   }
 
   RecordingHost host;
   MemoryFileSystem files;
-  RecordingProcesses processes;
-  EXEFunctions programs{processes, host};
   Messages messages{host, [](int) { return ""; }};
-  Help help{files, programs, messages, "/car/Documentation/"};
   FileKinds kinds = SetUpLogFamilies();
   clsSampleGraphPresets kept;
   bool ok = true;             ///< how the detail window is closed
@@ -86,7 +82,7 @@ TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {
   EXPECT_EQ(host.messages.size(), 2u);
   EXPECT_EQ(host.messages[1].id, 40);
   window.cmdCancel.Press();
-  EXPECT_EQ(window.CloseMethod(), "Cancel");
+  EXPECT_FALSE(window.Accepted());
   EXPECT_EQ(All(kept), "a u b c v ");
 }
 
@@ -117,7 +113,7 @@ TEST_F(MaintTest, NewModifyAndDelete) {
   EXPECT_EQ(Listed(window), "a c ");
   EXPECT_EQ(window.lvwNameList.SelectedRow(), 2);
   window.Press({"Enter"});
-  EXPECT_EQ(window.CloseMethod(), "OK");
+  EXPECT_TRUE(window.Accepted());
 }
 
 TEST_F(MaintTest, AListWithoutFamiliesShowsAllItsRows) {

@@ -18,8 +18,7 @@ inline std::string ReadAndWritten(std::string text) {
   EXEFunctions programs(processes, host);
   ErrorLog errors(files, clock, "");
   Messages messages(host, {});
-  Help help(files, programs, messages, "");
-  Services services{host, files, clock, programs, errors, messages, help};
+  Services services{host, files, clock, programs, errors, messages};
   Globals globals;
   globals.gstrINIFile = "Tarnview.ini";
   files.files["Tarnview.ini"] = std::move(text);

@@ -15,13 +15,11 @@ class DataTagsTest : public ::testing::Test, protected frmDataTags::MainWindow {
     return range.has_value();
   }
   void ShowRange(const clsLogTag& tag) override { shown = tag.FromSequence; }
-  void ShowHelp(const char* itsTopic) override { topic = itsTopic; }
 
   RecordingHost host;
   clsLogTags tags;
   std::optional<clsLogTag> range;
   int shown = 0;
-  std::string topic;
   frmDataTags window{host, tags, *this};
 };
 
@@ -49,7 +47,7 @@ TEST_F(DataTagsTest, AddsTheRangeShowsItAndDeletesIt) {
   EXPECT_FALSE(window.cmdShow.Enabled());
   EXPECT_FALSE(window.cmdDelete.Enabled());
   window.Press({"F1"});
-  EXPECT_EQ(topic, "DataTags");
+  EXPECT_EQ(host.helpTopics.back(), "DataTags");
   window.Press({"Escape"});
   EXPECT_FALSE(window.IsShown());
 }

@@ -4,8 +4,6 @@
 #include "model/Column.h"
 #include "samplegraph/ClosestSample.h"
 #include "samplegraph/frmGoto.h"
-#include "support/MemoryFileSystem.h"
-#include "support/RecordingProcesses.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -29,11 +27,6 @@ class GotoTest : public ::testing::Test {
   const Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
   RecordingHost host;
-  MemoryFileSystem files;
-  RecordingProcesses processes;
-  EXEFunctions programs{processes, host};
-  Messages messages{host, [](int) { return ""; }};
-  Help help{files, programs, messages, "/car/Documentation/"};
 };
 
 TEST_F(GotoTest, TheClosestSampleIsWalkedToFromAGuess) {
@@ -48,7 +41,7 @@ TEST_F(GotoTest, TheClosestSampleIsWalkedToFromAGuess) {
 }
 
 TEST_F(GotoTest, NumberAndTimeFollowEachOther) {
-  frmGoto window(host, log, help, 6, true);
+  frmGoto window(host, log, 6, true);
   window.Show();
   EXPECT_EQ(window.txtSampleTime.Text(), "1.5");
   const struct {
@@ -69,22 +62,22 @@ TEST_F(GotoTest, NumberAndTimeFollowEachOther) {
 }
 
 TEST_F(GotoTest, EnterTakesWhatIsTypedAndEscapeNothing) {
-  frmGoto accepted(host, log, help, 6, false);
+  frmGoto accepted(host, log, 6, false);
   accepted.Show();
   accepted.txtSampleTime.SetFocus();
   accepted.txtSampleTime.Text = std::string("2");
   accepted.chkShowPointWidth.Value = true;
   accepted.Press({"Enter"});
   EXPECT_FALSE(accepted.IsShown());
-  EXPECT_EQ(accepted.CloseMethod(), frmGoto::kAccepted);
+  EXPECT_TRUE(accepted.Accepted());
   EXPECT_EQ(accepted.lngSampleNumber(), 7);
   EXPECT_TRUE(accepted.blnShowPointWidth());
 
-  frmGoto cancelled(host, log, help, 6, false);
+  frmGoto cancelled(host, log, 6, false);
   cancelled.Show();
   cancelled.Press({"Escape"});
   EXPECT_FALSE(cancelled.IsShown());
-  EXPECT_EQ(cancelled.CloseMethod(), frmGoto::kCancelled);
+  EXPECT_FALSE(cancelled.Accepted());
 }
 
 }  // namespace

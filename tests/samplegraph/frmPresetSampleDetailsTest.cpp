@@ -48,7 +48,7 @@ TEST_F(PresetDetailsTest, EditsAPreset) {
   window->txtName.Do({"type", {"All"}});
   window->cboLogFamily.SetListIndex(5);
   window->cmdOK.Press();
-  EXPECT_EQ(window->CloseMethod(), "OK");
+  EXPECT_TRUE(window->Accepted());
   EXPECT_EQ(window->ColItem().strName, "All");
   EXPECT_EQ(window->ColItem().lngLogFamily, 6);
   EXPECT_EQ(window->ColItem().lngGraphMax, 35);

@@ -57,7 +57,7 @@ TEST_F(ScatterDetailsTest, EditsAPreset) {
   EXPECT_EQ(Boxes(), (Ids{41}));
   window->txtName.Do({"type", {"All"}});
   window->cmdOK.Press();
-  EXPECT_EQ(window->CloseMethod(), "OK");
+  EXPECT_TRUE(window->Accepted());
   const clsScatterGraphPreset& preset = window->ColItem();
   EXPECT_EQ(preset.strName, "All");
   EXPECT_EQ(preset.lngXAxisDataItem, 3);

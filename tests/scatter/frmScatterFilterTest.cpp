@@ -12,7 +12,7 @@ class ScatterFilterTest : public PresetWindowsTest {
  protected:
   ScatterFilterTest() { Open({.dblFrom = 60, .lngDataItemSeq = 5}); }
   void Open(const clsScatterFilter& filter, bool blnQuiet = false) {
-    window.emplace(host, catalogue, messages, help);
+    window.emplace(host, catalogue, messages);
     window->SetScatterFilter(filter, 1, blnQuiet);
     window->Show();
   }
@@ -35,14 +35,14 @@ TEST_F(ScatterFilterTest, TakesBoundsOfANumber) {
   EXPECT_EQ(Enter("", " "), (Ids{44}));
   EXPECT_EQ(Enter("60.5", "60"), (Ids{45}));
   EXPECT_TRUE(window->IsShown());
-  EXPECT_EQ(window->CloseMethod(), frmScatterFilter::kCancelled);
+  EXPECT_FALSE(window->Accepted());
   const struct {
     const char *from, *to;
     double dblFrom, dblTo;
   } kRows[] = {{"5", "5", 5, 5}, {"", "1e2x", kBoundNotSet, 1}, {"x", "-0", 0, 0}, {".50", "", 0.5, kBoundNotSet}};
   for (const auto& row : kRows) {
     EXPECT_EQ(Enter(row.from, row.to), (Ids{})) << row.from;
-    EXPECT_EQ(window->CloseMethod(), frmScatterFilter::kAccepted);
+    EXPECT_TRUE(window->Accepted());
     EXPECT_EQ(window->GetScatterFilter().dblFrom, row.dblFrom) << row.from;
     EXPECT_EQ(window->GetScatterFilter().dblTo, row.dblTo) << row.to;
     EXPECT_EQ(window->GetScatterFilter().lngDataItemSeq, 5);

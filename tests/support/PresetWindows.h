@@ -8,7 +8,6 @@
 #include "samplegraph/PresetExchange.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "support/RecordingProcesses.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -17,7 +16,7 @@ namespace tarnview {
 class PresetWindowsTest : public ::testing::Test {
  protected:
   PresetSurroundings Surroundings() {
-    return {kinds.gcolLogFamilies, catalogue, folder, files, clock, errors, messages, help};
+    return {kinds.gcolLogFamilies, catalogue, folder, files, clock, errors, messages};
   }
   /// The ids of the boxes shown since the last call; a question is -1.
   std::vector<int> Boxes() {
@@ -30,11 +29,8 @@ class PresetWindowsTest : public ::testing::Test {
   RecordingHost host;
   MemoryFileSystem files;
   FixedClock clock;
-  RecordingProcesses processes;
   ErrorLog errors{files, clock, ""};
-  EXEFunctions programs{processes, host};
   Messages messages{host, [](int) { return ""; }};
-  Help help{files, programs, messages, ""};
   FileKinds kinds = SetUpLogFamilies();
   Catalogue catalogue = BuildDataItemCatalogue();
   std::string folder = "/logs";

@@ -14,13 +14,11 @@ DefinitionDetails Definition(bool filled) {
 struct AllWindows::NoMainWindow : frmDataTags::MainWindow {
   bool CurrentRange(clsLogTag&) const override { return false; }
   void ShowRange(const clsLogTag&) override {}
-  void ShowHelp(const char*) override {}
 };
 
 AllWindows::AllWindows(Host& host, const std::string& log, const std::string& settingsFile)
     : messages_(host, [](int) { return std::string(); }),
       programs_(processes_, host),
-      help_(files_, programs_, messages_, ""),
       program_(host, files_, clock_, processes_, ProgramFolders{}, settingsFile),
       mainWindow_(std::make_unique<NoMainWindow>()),
       splash_(host),
@@ -62,18 +60,18 @@ void AllWindows::MakeGraphWindows() {
     preset.colDataItems = globals.settings.gcolCheckedDataItems;
   }
   if (globals.log.gblnSamplesLoaded)
-    goto_ = std::make_unique<frmGoto>(host, globals.log, help_, program_.MainWindow().Plot().lngHighlightSample, true);
+    goto_ = std::make_unique<frmGoto>(host, globals.log, program_.MainWindow().Plot().lngHighlightSample, true);
   else
-    goto_ = std::make_unique<frmGoto>(host, oneSample_, help_, 1, false);
+    goto_ = std::make_unique<frmGoto>(host, oneSample_, 1, false);
   newPreset_ = std::make_unique<frmNewPresetName>(host, messages_, clsSampleGraphPresets::NEW_NAME);
   presetList_ = std::make_unique<MaintainedCollection<clsSampleGraphPresets>>(presets, [](auto&) { return false; });
   maint_ = std::make_unique<frmMaint>(
       host, *presetList_, frmMaint::Texts{"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
-      families, 1, messages_, help_);
+      families, 1, messages_);
   presetDetails_ = std::make_unique<frmPresetSampleDetails>(
       host,
       PresetSurroundings{families, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory, files_, clock_,
-                         errors_, messages_, help_},
+                         errors_, messages_},
       presets.Item(1));
   definitionFiles_ =
       std::make_unique<DefinitionFiles>(files_, messages_.Teller(), errors_, globals.catalogue.gcolFixedDataItems);
@@ -102,9 +100,9 @@ void AllWindows::MakeScatterDetails(bool filled) {
   scatterDetails_ = std::make_unique<frmPresetScatterDetails>(
       host,
       PresetSurroundings{globals.kinds.gcolLogFamilies, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory,
-                         files_, clock_, errors_, messages_, help_},
+                         files_, clock_, errors_, messages_},
       preset);
-  filter_ = std::make_unique<frmScatterFilter>(host, globals.catalogue, messages_, help_);
+  filter_ = std::make_unique<frmScatterFilter>(host, globals.catalogue, messages_);
   filter_->SetScatterFilter(filter, 1, true);
 }
 

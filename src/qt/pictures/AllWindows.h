@@ -43,7 +43,6 @@ class AllWindows {
   ErrorLog errors_{files_, clock_, ""};
   Messages messages_;
   EXEFunctions programs_;
-  Help help_;
   Program program_;
   std::unique_ptr<NoMainWindow> mainWindow_;
   clsLogTags tagList_;
