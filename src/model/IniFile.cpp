@@ -64,7 +64,6 @@ std::string ReadProfileValue(const IniTable& table, std::string_view section, st
 }
 
 bool IsIniText(std::string_view text) {
-  if (text.find('\0') != std::string_view::npos) return false;
   bool empty = true;
   std::string_view line;
   while (TakeLine(text, line)) {

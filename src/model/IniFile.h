@@ -38,7 +38,7 @@ std::optional<std::string_view> GetINIValue(const IniTable& table, std::string_v
 /// of quotes around the value, 255 characters at most; empty if there is none.
 std::string ReadProfileValue(const IniTable& table, std::string_view section, std::string_view key);
 
-/// False for a text with NUL bytes, or with something in it but no line of a section.
+/// False for a text with something in it but no line of a section.
 bool IsIniText(std::string_view text);
 
 /// The lines of a settings file as they are written, with CR LF. A character that would end the line early, or that no

@@ -1,0 +1,117 @@
+#include "model/IniRepair.h"
+
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <set>
+
+#include "base/Text.h"
+#include "model/IniFile.h"
+
+namespace tarnview {
+namespace {
+
+constexpr char kGone = '\0';
+constexpr int kMostRecords = 300;  ///< that a damaged number is looked for among
+
+bool IsDamaged(std::string_view text) { return text.find(kGone) != std::string_view::npos; }
+
+/// Whether a text may have been that one before it was damaged; of more damage than text nobody can tell.
+bool MayBe(std::string_view damaged, std::string_view whole) {
+  const auto gone = std::count(damaged.begin(), damaged.end(), kGone);
+  return gone <= static_cast<std::ptrdiff_t>(damaged.size() / 2) &&
+         std::equal(damaged.begin(), damaged.end(), whole.begin(), whole.end(),
+                    [](char a, char b) { return a == b || a == kGone; });
+}
+
+std::string WithMarks(std::string_view damaged) {
+  std::string text(damaged);
+  std::replace(text.begin(), text.end(), kGone, '?');
+  return text;
+}
+
+bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
+
+/// The keys that a section's records would have with each number in place of their own: their name in two halves.
+std::set<std::pair<std::string, std::string>> RecordKeys(const IniTable& table, std::string_view section) {
+  std::set<std::pair<std::string, std::string>> keys;
+  for (const IniRow& row : table.Rows()) {
+    if (row.section != section || IsDamaged(row.key)) continue;
+    const auto digits = std::find_if(row.key.begin(), row.key.end(), IsDigit);
+    if (digits == row.key.end()) continue;
+    keys.emplace(std::string(row.key.begin(), digits),
+                 std::string(std::find_if_not(digits, row.key.end(), IsDigit), row.key.end()));
+  }
+  return keys;
+}
+
+class Repair {
+ public:
+  Repair(std::string_view text, const std::vector<std::string>& headings)
+      : text_(text), table_(ReadINIFileToArray(text)), headings_(headings) {}
+
+  std::string Run() {
+    std::string_view rest = text_, line;
+    while (TakeLine(rest, line)) {
+      if (const auto repaired = IsDamaged(line) ? Line(line) : std::string(line)) out_ += *repaired + "\r\n";
+      if (line.starts_with('[') && line.ends_with(']') && !IsDamaged(line)) section_ = line.substr(1, line.size() - 2);
+    }
+    return out_;
+  }
+
+ private:
+  std::optional<std::string> Line(std::string_view line) {
+    for (const std::string& heading : headings_) {
+      if (!MayBe(line, "[" + heading + "]")) continue;
+      section_ = heading;
+      return "[" + heading + "]";
+    }
+    if (line.starts_with('[')) return WithMarks(line);  // whose it was, nobody knows
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos) return std::nullopt;
+    const auto key = Key(line.substr(0, equals));
+    const auto value = Value(line.substr(equals + 1));
+    return key && value ? std::optional(*key + "=" + *value) : std::nullopt;
+  }
+
+  std::optional<std::string> Key(std::string_view key) const {
+    if (!IsDamaged(key)) return std::string(key);
+    for (const auto& [front, back] : RecordKeys(table_, section_))
+      for (int n = 0; n <= kMostRecords; ++n)
+        if (const std::string whole = front + std::to_string(n) + back;
+            MayBe(key, whole) && !table_.Find(section_, whole))
+          return whole;
+    return std::nullopt;
+  }
+
+  static std::optional<std::string> Value(std::string_view value) {
+    if (!IsDamaged(value)) return std::string(value);
+    if (std::none_of(value.begin(), value.end(), [](unsigned char c) { return std::isalpha(c); })) return std::nullopt;
+    return WithMarks(value);
+  }
+
+  const std::string_view text_;
+  const IniTable table_;
+  const std::vector<std::string>& headings_;
+  std::string section_, out_;
+};
+
+/// Line ends that lost one of their two characters.
+std::string WithLineEnds(std::string_view text) {
+  std::string whole(text);
+  for (std::size_t at = 0; at + 1 < whole.size(); ++at) {
+    if (whole[at] == '\r' && whole[at + 1] == kGone) whole[at + 1] = '\n';
+    if (whole[at] == kGone && whole[at + 1] == '\n') whole[at] = '\r';
+  }
+  return whole;
+}
+
+}  // namespace
+
+std::string WithoutDamage(std::string_view text, const std::vector<std::string>& headings) {
+  if (!IsDamaged(text)) return std::string(text);
+  const std::string whole = WithLineEnds(text);
+  return Repair(whole, headings).Run();
+}
+
+}  // namespace tarnview
