@@ -1,120 +1,52 @@
 #include "app/SettingsFile.h"
 
-#include "model/GeneralSettings.h"
-#include "model/ItemDisplaySettings.h"
-#include "power/CarDefSettings.h"
-#include "presets/PresetSettings.h"
-#include "zones/BenchmarkSettings.h"
+#include "base/Text.h"
+#include "model/IniRepair.h"
 
 namespace tarnview {
 namespace {
 
-constexpr const char* kRecentFiles = "Recently Used Files";
-constexpr const char* kRecentPowerGraphFiles = "Recently Used Power Graph Files";
+constexpr const char* kOlder = ".old";  ///< behind the file's name: as it was before this run
 
-struct Reading {
-  Globals& globals;
-  const IniTable& table;
-  const IniTable* install;  ///< of Tarnview_Install.ini; nullptr if there is none
-  Messages& messages;
-
-  TellUnknownItems TellUnknown() const {
-    return [this](const std::vector<int>&) { messages.ShowMessage(Message::DataItemNotFound); };
-  }
-};
-
-/// A definition on a disk that is not there today is not forgotten.
-void WriteGeneral(const Globals& globals, IniWriter& file) {
-  Settings settings = globals.settings;
-  if (settings.gstrGenericDefinitionFile.empty()) settings.gstrGenericDefinitionFile = globals.missingDefinitionFile;
-  WriteGeneralSettings(settings, file);
+/// A NUL in it, or the last line end gone of what this program wrote.
+bool IsDamaged(std::string_view text) {
+  const bool isCut = text.find("\r\n") != std::string_view::npos && !text.ends_with('\n');
+  return isCut || text.find('\0') != std::string_view::npos;
 }
 
-void ReadSamples(const Reading& from) {
-  ReadSamplePresets(from.table, from.TellUnknown(), from.globals.gcolSampleGraphPresets);
-}
-void ReadScatters(const Reading& from) {
-  const Catalogue& catalogue = from.globals.catalogue;
-  ReadScatterPresets(from.table, catalogue.gcolFixedDataItems, catalogue.gcolUniversalDataItems, from.TellUnknown(),
-                     from.globals.gcolScatterGraphPresets);
-}
-/// On a first run Universal items look as their definition says; later as the built-in ones do, but for what the file
-/// says about them.
-void ReadUniversalDisplay(const Reading& from) {
-  if (from.globals.settings.firstRun) return;
-  Catalogue& catalogue = from.globals.catalogue;
-  CopyItemDisplay(catalogue.gcolFixedDataItems, catalogue.gcolUniversalDataItems);
-  ReadItemDisplay(from.table, kGenericItemDisplaySection, catalogue.gcolUniversalDataItems);
-}
-
-enum class Half { BeforeDefinition, BehindDefinition };
-
-struct Section {
-  const char* heading;
-  const char* status;  ///< what the status bar says while it is written; nullptr: nothing new
-  Half half;
-  void (*read)(const Reading& from);
-  void (*write)(const Globals& globals, IniWriter& file);
-  bool mayBeMissing = false;  ///< its heading stands only over lines
-};
-
-/// In the order of the file.
-const Section kSections[] = {
-    {"General", "General", Half::BeforeDefinition,
-     [](const Reading& from) { ReadGeneralSettings(from.table, from.install, from.globals.settings); }, WriteGeneral},
-    {"Power Graph", "Power Graph", Half::BeforeDefinition,
-     [](const Reading& from) { ReadCarDefs(from.table, from.globals.gcolCarDefs); },
-     [](const Globals& globals, IniWriter& file) { WriteCarDefs(globals.gcolCarDefs, file); }},
-    {"3D Graph", "3D Graph Defaults", Half::BeforeDefinition,
-     [](const Reading& from) { ReadGraphAngles(from.table, from.globals.settings.angles); },
-     [](const Globals& globals, IniWriter& file) { WriteGraphAngles(globals.settings.angles, file); }},
-    {"New Preset Sample Graphs", "Preset Sample Graphs", Half::BehindDefinition, ReadSamples,
-     [](const Globals& globals, IniWriter& file) { WriteSamplePresets(globals.gcolSampleGraphPresets, file); }},
-    {"New Preset Scatter Graphs", "Preset Scatter Graphs", Half::BehindDefinition, ReadScatters,
-     [](const Globals& globals, IniWriter& file) { WriteScatterPresets(globals.gcolScatterGraphPresets, file); }},
-    {"Benchmarks", "Benchmarks", Half::BeforeDefinition,
-     [](const Reading& from) { ReadBenchmarks(from.table, from.globals.settings, from.globals.gcolBenchmarks); },
-     [](const Globals& globals, IniWriter& file) { WriteBenchmarks(globals.gcolBenchmarks, file); }},
-    {kRecentFiles, "Recently Used Files", Half::BeforeDefinition,
-     [](const Reading& from) { from.globals.settings.recentFiles = ReadFileList(from.table, kRecentFiles); },
-     [](const Globals& globals, IniWriter& file) { WriteFileList(globals.settings.recentFiles, file); }},
-    {kRecentPowerGraphFiles, nullptr, Half::BeforeDefinition,
-     [](const Reading& from) {
-       from.globals.settings.recentPowerGraphFiles = ReadFileList(from.table, kRecentPowerGraphFiles);
-     },
-     [](const Globals& globals, IniWriter& file) { WriteFileList(globals.settings.recentPowerGraphFiles, file); }},
-    {kItemDisplaySection, "Data Item Display Properties", Half::BeforeDefinition,
-     [](const Reading& from) {
-       ReadItemDisplay(from.table, kItemDisplaySection, from.globals.catalogue.gcolFixedDataItems);
-     },
-     [](const Globals& globals, IniWriter& file) { WriteItemDisplay(globals.catalogue.gcolFixedDataItems, file); }},
-    {kGenericItemDisplaySection, nullptr, Half::BehindDefinition, ReadUniversalDisplay,
-     [](const Globals& globals, IniWriter& file) { WriteItemDisplay(globals.catalogue.gcolUniversalDataItems, file); }},
-    {kBeyondSection, nullptr, Half::BeforeDefinition,
-     [](const Reading& from) { ReadBeyondSettings(from.table, from.globals.settings.beyond); },
-     [](const Globals& globals, IniWriter& file) { WriteBeyondSettings(globals.settings.beyond, file); }, true},
-};
-
-void ReadHalf(Half half, const Reading& from) {
-  for (const Section& section : kSections)
-    if (section.half == half) section.read(from);
+std::string Repaired(std::string_view text) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of UTF-8, as some editors put it in front
+  if (text.starts_with(kMark)) text.remove_prefix(kMark.size());
+  return WithoutDamage(text, SettingsHeadings());
 }
 
 }  // namespace
 
 void SettingsFile::LoadINIFileNew() {
   table_ = ReadTable();
-  const auto text = services_.files.Read(globals_.gstrInstallINIFile);
-  const IniTable install = text ? ReadINIFileToArray(*text) : IniTable();
-  ReadHalf(Half::BeforeDefinition, {globals_, table_, text ? &install : nullptr, services_.messages});
+  const auto install = ReadInstall();
+  ReadSettings(SettingsHalf::BeforeDefinition, {globals_, table_, install ? &*install : nullptr, TellUnknownItem()});
   globals_.settings.firstRun = globals_.settings.firstRun || noFile_;
   FindBackgroundPicture();
   ValidateWorkingDirectory();
 }
 
 void SettingsFile::LoadPresets() {
-  ReadHalf(Half::BehindDefinition, {globals_, table_, nullptr, services_.messages});
+  ReadSettings(SettingsHalf::BehindDefinition, {globals_, table_, nullptr, TellUnknownItem()});
   table_ = {};
+}
+
+void SettingsFile::Remember() {
+  read_ = WriteSettings(globals_, [](const char*) {});
+}
+
+std::function<void(const std::vector<int>&)> SettingsFile::TellUnknownItem() {
+  return [this](const std::vector<int>&) { services_.messages.ShowMessage(Message::DataItemNotFound); };
+}
+
+std::optional<IniTable> SettingsFile::ReadInstall() {
+  const auto text = services_.files.Read(globals_.gstrInstallINIFile);
+  return text ? std::optional(ReadINIFileToArray(*text)) : std::nullopt;
 }
 
 IniTable SettingsFile::ReadTable() {
@@ -130,24 +62,37 @@ IniTable SettingsFile::ReadTable() {
     globals_.gstrINIFileToWrite.clear();
     return {};
   }
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of UTF-8, as some editors put it in front
-  std::string_view lines = *text;
-  if (lines.starts_with(kMark)) lines.remove_prefix(kMark.size());
-  if (IsIniText(lines)) return ReadINIFileToArray(lines);
-  SetAside(path);
-  return {};
+  seen_ = std::string_view(*text);
+  const std::string repaired = Repaired(seen_);
+  const bool hasSettings = IsIniText(repaired);
+  if (!hasSettings || IsDamaged(seen_)) TellDamage(path, hasSettings);
+  return hasSettings ? ReadINIFileToArray(repaired) : IniTable();
 }
 
-void SettingsFile::SetAside(const std::string& path) {
-  const std::string kept = path + ".bad";
-  std::string told = "This is no settings file, so every setting has its default:\r\n" + path;
+/// What is about to be written over is kept. A file that was but cut, or whose last line somebody wrote without its
+/// end, is no news.
+void SettingsFile::TellDamage(const std::string& path, bool hasSettings) {
+  std::string told = hasSettings ? "The settings file is damaged. What can be read of it holds:\r\n"
+                                 : "This is no settings file, so every setting has its default:\r\n";
+  told += path;
   if (globals_.gstrINIFileToWrite == path) {
-    if (services_.files.RenameFile(path, kept))
-      told += "\r\n\r\nIt is kept as:\r\n" + kept;
-    else
+    const std::string kept = SetAside(path);
+    if (kept.empty())
       globals_.gstrINIFileToWrite.clear();
+    else
+      told += "\r\n\r\nIt is kept as:\r\n" + kept;
+    if (services_.files.FileExists(path + kOlder)) told += "\r\nThe last good settings are:\r\n" + path + kOlder;
   }
-  services_.messages.Tell(told, kBoxExclamation);
+  if (!hasSettings || seen_.find('\0') != std::string::npos) services_.messages.Tell(told, kBoxExclamation);
+}
+
+/// Under a name that no earlier one has, unless it is there already; "" if it cannot be kept.
+std::string SettingsFile::SetAside(const std::string& path) {
+  for (int n = 1;; ++n) {
+    const std::string kept = path + ".bad" + (n == 1 ? "" : std::to_string(n));
+    if (const auto there = services_.files.Read(kept); there && *there == seen_) return kept;
+    if (!services_.files.FileExists(kept)) return services_.files.Write(kept, seen_) ? kept : "";
+  }
 }
 
 void SettingsFile::FindBackgroundPicture() {
@@ -162,22 +107,40 @@ void SettingsFile::ValidateWorkingDirectory() {
     services_.messages.ShowMessage(Message::WorkingDirectoryNotFound);
 }
 
+SettingsBodies SettingsFile::BodiesIn(std::string_view text) {
+  Globals other;
+  other.catalogue.gcolUniversalDataItems = globals_.catalogue.gcolUniversalDataItems.Duplicate();
+  const IniTable table = ReadINIFileToArray(Repaired(text));
+  const auto install = ReadInstall();
+  const SettingsSource from{other, table, install ? &*install : nullptr, [](const std::vector<int>&) {}};
+  ReadSettings(SettingsHalf::BeforeDefinition, from);
+  ReadSettings(SettingsHalf::BehindDefinition, from);
+  return WriteSettings(other, [](const char*) {});
+}
+
 bool SettingsFile::WriteINIFile(const std::string& path, const std::function<void(const char*)>& say) {
-  IniWriter file;
-  for (const Section& section : kSections) {
-    if (section.status) say(section.status);
-    IniWriter body;
-    section.write(globals_, body);
-    if (section.mayBeMissing && body.Text().empty()) continue;
-    file.Section(section.heading);
-    file.Lines(body);
-  }
-  if (!services_.files.Write(path, file.Text())) {
+  SettingsBodies held = WriteSettings(globals_, say);
+  std::string text = SettingsText(held);
+  const bool itsOwn = path == globals_.gstrINIFile;
+  const auto there = itsOwn ? services_.files.Read(path) : std::nullopt;
+  if (there && !read_.empty() && *there != seen_) text = SettingsText(MergeSettings(read_, held, BodiesIn(*there)));
+  if (there) KeepOlder(path, *there, text);
+  if (!services_.files.Write(path, text)) {
     services_.messages.ShowMessage(Message::SettingsNotWritten);
     return false;
   }
+  if (itsOwn) {
+    seen_ = std::move(text);
+    read_ = std::move(held);
+  }
   say("Done");
   return true;
+}
+
+/// Once a run, so that a user who broke something can go back to before it.
+void SettingsFile::KeepOlder(const std::string& path, std::string_view older, std::string_view newer) {
+  if (keptOlder_ || older == newer || IsDamaged(older) || !IsIniText(older)) return;
+  keptOlder_ = services_.files.Write(path + kOlder, older);
 }
 
 }  // namespace tarnview

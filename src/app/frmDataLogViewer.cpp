@@ -44,6 +44,8 @@ void frmDataLogViewer::Form_Load() {
   presets_.PopulatePresetGraphs(false, PresetFileType());
   zoneInfluence_.DisplayZoneInfluence();
   HideForLoad();
+  GatherSettings();
+  settingsFile_.Remember();
 }
 
 void frmDataLogViewer::Form_Activate() {

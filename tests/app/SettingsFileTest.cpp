@@ -4,6 +4,7 @@
 
 #include "app/FullSettings.h"
 #include "app/SettingsFile.h"
+#include "base/Text.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
@@ -91,19 +92,90 @@ TEST_F(SettingsFileTest, AFullDiskLeavesTheOldFile) {
 }
 
 TEST_F(SettingsFileTest, WhatIsNoSettingsFileIsKeptBesideAndToldOnce) {
-  for (const std::string& bad : {std::string("Quick Graph=0\r\n"), std::string("[General]\r\n\0", 12)}) {
+  std::string kept = "/car/Tarnview.ini.bad";
+  for (const std::string& bad : {std::string("Quick Graph=0\r\n"), std::string("\0\0", 2)}) {
     host.messages.clear();
     StartKeeping(bad);
     ASSERT_EQ(host.messages.size(), 1u);
-    EXPECT_THAT(host.messages[0].text, HasSubstr("/car/Tarnview.ini.bad"));
+    EXPECT_THAT(host.messages[0].text, HasSubstr("It is kept as:\r\n" + kept));
     EXPECT_TRUE(Main().chkQuickGraph.Value());
     EXPECT_THAT(Closed(), HasSubstr("[General]\r\n"));
-    EXPECT_EQ(files.files["/car/Tarnview.ini.bad"], bad);
+    EXPECT_EQ(files.files[kept], bad);
     StartKeeping(files.files[kPath]);
     EXPECT_EQ(host.messages.size(), 1u);
+    kept += "2";  // no later one takes the place of the first
   }
   StartKeeping("\xEF\xBB\xBF[General]\r\nQuick Graph=0\r\n");  // saved by an editor
   EXPECT_FALSE(Main().chkQuickGraph.Value());
+}
+
+TEST_F(SettingsFileTest, OfADamagedFileEachUndamagedKeyIsRead) {
+  std::string damaged = FullSettings();
+  damaged[damaged.find("Zoom Amount=30") + 12] = '\0';
+  files.files["/car/Tarnview.ini.old"] = "[General]\r\n";
+  StartKeeping(damaged);
+  ASSERT_EQ(host.messages.size(), 1u);
+  EXPECT_EQ(host.messages[0].text,
+            "The settings file is damaged. What can be read of it holds:\r\n/car/Tarnview.ini\r\n\r\n"
+            "It is kept as:\r\n/car/Tarnview.ini.bad\r\nThe last good settings are:\r\n/car/Tarnview.ini.old");
+  std::string wanted = FullSettings();
+  wanted.replace(wanted.find("Zoom Amount=30"), 14, "Zoom Amount=2");
+  EXPECT_EQ(Closed(), wanted);
+  EXPECT_EQ(files.files["/car/Tarnview.ini.bad"], damaged);
+  EXPECT_EQ(files.files["/car/Tarnview.ini.old"], "[General]\r\n");
+
+  const std::string cut = FullSettings().substr(0, FullSettings().find("Graph Y Max=") + 5);
+  StartKeeping(cut);
+  EXPECT_EQ(host.messages.size(), 1u);
+  EXPECT_EQ(files.files["/car/Tarnview.ini.bad2"], cut);
+  EXPECT_EQ(Main().cboZoomAmount.Text(), "30");
+}
+
+TEST_F(SettingsFileTest, TheSettingsFromBeforeThisRunStayBeside) {
+  StartKeeping(FullSettings());
+  Closed();
+  EXPECT_FALSE(files.files.contains("/car/Tarnview.ini.old"));
+  StartKeeping(FullSettings());
+  Main().txtYMax.Text = "90";
+  Main().WriteINIFile();
+  Main().txtYMax.Text = "100";
+  EXPECT_THAT(Closed(), HasSubstr("Graph Y Max=100\r\n"));
+  EXPECT_EQ(files.files["/car/Tarnview.ini.old"], FullSettings());
+}
+
+/// The lines that the first text has and the second has not.
+std::string LinesOnlyIn(const std::string& text, const std::string& other) {
+  std::string only;
+  std::string_view rest = text, line;
+  while (TakeLine(rest, line))
+    if (("\n" + other).find("\n" + std::string(line) + "\r") == std::string::npos) only += std::string(line) + "\n";
+  return only;
+}
+
+TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
+  StartKeeping(FullSettings());
+  const std::unique_ptr<Program> first = std::move(program);
+  // The other one starts, changes what it likes, and ends.
+  StartKeeping(FullSettings());
+  Main().txtYMax.Text = "90";
+  Main().cboZoomAmount.Do({"type", {"4"}});
+  Main().LoadDataFile("/logs/a.txt", 0);
+  program->Global().gcolSampleGraphPresets.AddDirect(clsSampleGraphPresets::BlankPreset()).lngLogFamily = 1;
+  program->Global().catalogue.gcolFixedDataItems.Item(3).lngColour = 77;
+  program->Global().settings.beyond.drawAfterOpening = true;
+  const std::string theirs = Closed();
+
+  first->MainWindow().cboZoomAmount.Do({"type", {"5"}});
+  first->Global().gcolCarDefs.Item(1).strName = "Ours";
+  first->MainWindow().WriteINIFile();
+  const std::string both = files.files[kPath];
+  EXPECT_EQ(LinesOnlyIn(both, theirs), "Zoom Amount=5\nName Car Def 1=Ours\n");
+  EXPECT_EQ(LinesOnlyIn(theirs, both), "Zoom Amount=4\nName Car Def 1=Mine\n");
+
+  // What came from the other is no change of this one's own.
+  files.files[kPath].replace(both.find("Graph Y Max=90"), 14, "Graph Y Max=80");
+  first->MainWindow().WriteINIFile();
+  EXPECT_EQ(LinesOnlyIn(files.files[kPath], both), "Graph Y Max=80\n");
 }
 
 TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {

@@ -25,8 +25,8 @@ TEST(IniFile, TellsWhatIsNoSettingsFile) {
   const struct {
     std::string_view text;
     bool wanted;
-  } kRows[] = {{"", true},       {" \r\n\r\n", true}, {"[A]", true},          {"x=1\n[A]\n", true},
-               {"x=1\n", false}, {"[A\nk=1", false}};
+  } kRows[] = {{"", true},           {" \r\n\r\n", true}, {"[A]", true},
+               {"x=1\n[A]\n", true}, {"x=1\n", false},    {"[A\nk=1", false}};
   for (const auto& row : kRows) EXPECT_EQ(IsIniText(row.text), row.wanted) << row.text;
 }
 

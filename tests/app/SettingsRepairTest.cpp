@@ -1,0 +1,64 @@
+// A byte lost anywhere in a settings file costs the line that it stood in, and no other.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "app/FullSettings.h"
+#include "app/SettingsSections.h"
+#include "model/IniRepair.h"
+
+namespace tarnview {
+namespace {
+
+std::vector<std::string> RowsOf(const std::string& text) {
+  std::vector<std::string> rows;
+  const IniTable table = ReadINIFileToArray(text);
+  for (const IniRow& row : table.Rows()) rows.push_back(row.section + "/" + row.key + "=" + row.value);
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+TEST(IniRepair, AByteLostAnywhereCostsItsOwnLineAtMost) {
+  const std::string whole = FullSettings();
+  const auto rows = RowsOf(whole);
+  const auto headings = SettingsHeadings();
+  for (std::size_t at = 0; at < whole.size(); at += 97) {
+    std::string damaged = whole;
+    damaged[at] = '\0';
+    const std::string repaired = WithoutDamage(damaged, headings);
+    std::vector<std::string> lost;
+    const auto kept = RowsOf(repaired);
+    std::set_difference(rows.begin(), rows.end(), kept.begin(), kept.end(), std::back_inserter(lost));
+    ASSERT_LE(lost.size(), 1u) << "byte " << at << " of " << whole.substr(at, 20);
+    ASSERT_EQ(repaired.find('\0'), std::string::npos);
+  }
+}
+
+TEST(IniRepair, WhatCanBeToldOfALineStays) {
+  const std::vector<std::string> headings{"General", "Graphs"};
+  const auto repaired = [&](std::string text) {
+    std::replace(text.begin(), text.end(), '#', '\0');
+    return WithoutDamage(text, headings);
+  };
+  const struct {
+    const char *damaged, *wanted;
+  } kRows[] = {
+      {"[General]\nk=1", "[General]\nk=1"},  // untouched
+      {"[Gene#al]\nk=1\n", "[General]\r\nk=1\r\n"},
+      {"#General]\nk=1\n", "[General]\r\nk=1\r\n"},
+      {"[#####al]\nk=1\n", "[?????al]\r\nk=1\r\n"},
+      {"[Oth#r]\nk=1\n", "[Oth?r]\r\nk=1\r\n"},
+      {"a=1\r#b=2\r\nc=3#\n", "a=1\r\nb=2\r\nc=3\r\n"},  // half a line end
+      {"n=12#4\nt=a#c\n", "t=a?c\r\n"},
+      {"[Graphs]\nGraph 1 Name=A\nGr#ph 2 Name=B\nGraph 3 Name=C\n",
+       "[Graphs]\r\nGraph 1 Name=A\r\nGraph 2 Name=B\r\nGraph 3 Name=C\r\n"},
+      {"[Graphs]\nGraph 1 Name=A\nGraph # Name=B\n", "[Graphs]\r\nGraph 1 Name=A\r\nGraph 0 Name=B\r\n"},
+      {"Graph 1 Name=M#ne\n", "Graph 1 Name=M?ne\r\n"},  // without it the records behind would not be found
+      {"Only#ne=1\n", ""},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(repaired(row.damaged), row.wanted) << row.damaged;
+}
+
+}  // namespace
+}  // namespace tarnview
