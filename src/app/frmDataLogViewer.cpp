@@ -28,6 +28,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       output_(services.host, services.messages, services.errors),
       zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, plot_, log_),
       tags_(services.host, log_.gcolLogTags, *this),
+      scatter_(*this, globals, services, range_, status_, *this),
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
   HelpTopic = "SampleGraph";
@@ -94,7 +95,7 @@ bool frmDataLogViewer::SaveChangesPrompt() {
 void frmDataLogViewer::Form_Unload() {
   globals_.settings.windows.main = PlacementOf(*this);
   nonModalMessages_.UnloadAll();
-  scatterGraphs_.UnloadAll();
+  scatter_.UnloadAll();
   WriteINIFile();
   tags_.Unload();
 }

@@ -6,6 +6,7 @@
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
 #include "app/RecentFiles.h"
+#include "app/ScatterWindows.h"
 #include "app/SettingsFile.h"
 #include "app/frmNonModalMessage.h"
 #include "customise/frmMaint.h"
@@ -24,7 +25,6 @@
 #include "samplegraph/ZoneInfluencePanel.h"
 #include "samplegraph/Zoom.h"
 #include "samplegraph/frmDataTags.h"
-#include "scatter/frmScatterGraph.h"
 #include "ui/FormCollection.h"
 
 namespace tarnview {
@@ -38,7 +38,7 @@ class frmDataLogViewer : public MainWindowControls,
                          private GraphMouse::MainWindow,
                          private PresetGraphs::MainWindow,
                          private frmDataTags::MainWindow,
-                         private frmScatterGraph::MainWindow {
+                         private ScatterWindows::SampleGraphWindow {
  public:
   frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
@@ -56,7 +56,7 @@ class frmDataLogViewer : public MainWindowControls,
   void LoadDataLogDefinitionLocal(bool addPresets);
 
   /// Writes the settings file, where one is kept, with what the window shows now. False: the user was told.
-  bool WriteINIFile();
+  bool WriteINIFile() override;
 
   /// The last export since a log was opened wrote its file.
   bool Exported() const { return exported_; }
@@ -67,8 +67,7 @@ class frmDataLogViewer : public MainWindowControls,
   std::int64_t PlotTo() const { return range_.To(); }
   SampleDetails& Details() { return details_; }
   PresetGraphs& Presets() { return presets_; }
-  /// Opens another scatter window, as its command does.
-  frmScatterGraph& OpenScatterGraph();
+  ScatterWindows& Scatter() { return scatter_; }
   PlotState& Plot() { return plot_; }
   const RecentFiles& Recent() const { return recent_; }
 
@@ -116,12 +115,6 @@ class frmDataLogViewer : public MainWindowControls,
   template <class Window, class Preset>
   bool EditPreset(Preset& preset);
 
-  // Scatter windows.
-  frmScatterGraph& NewScatterGraph();
-  void mnuFileDrawScatter_Click();
-  void DrawAutoScatterGraphs();
-  void UpdateScatterPresetsOnForms();
-
   // Commands.
   std::vector<Command> FileCommands();
   std::vector<Command> ViewCommands();
@@ -143,10 +136,6 @@ class frmDataLogViewer : public MainWindowControls,
   bool CurrentRange(clsLogTag& tag) const override;
   void ShowRange(const clsLogTag& tag) override;
   void ShowPoint(std::int32_t sample) override;
-  std::optional<clsScatterFilter> RangeFilter() const override;
-  std::vector<int> ListedItems() const override;
-  void ScatterPresetsChanged(bool added) override;
-  void ScatterGraphClosed(int ID) override { scatterGraphs_.Remove(ID); }
 
   Globals& globals_;
   Services& services_;
@@ -168,7 +157,7 @@ class frmDataLogViewer : public MainWindowControls,
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
-  FormCollection<frmScatterGraph> scatterGraphs_;
+  ScatterWindows scatter_;
   Commands commands_;
   bool blnGotoShowPointWidth_ = false;
   bool exported_ = false;

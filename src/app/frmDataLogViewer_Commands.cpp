@@ -20,12 +20,10 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", kNotYet, {}},
       {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
       {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
-      {&mnuFileDrawScatter, "mnuFileDrawScatter_Click", [this] { mnuFileDrawScatter_Click(); }, {}},
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
       {&mnuModulesZoneData, "mnuModulesZoneData_Click", kNotYet, {}},
-      {&mnuModulesScatterGraph, "mnuModulesScatterGraph_Click", [this] { OpenScatterGraph(); }, loaded},
       {&mnuModulesPowerGraph, "mnuModulesPowerGraph_Click", kNotYet, loaded},
       {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
       {&mnuToolsConvert, "mnuToolsConvert_Click", kNotYet, {}},
@@ -102,7 +100,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands()})
+  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(

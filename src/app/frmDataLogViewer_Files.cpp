@@ -73,7 +73,7 @@ bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
     recent_.AddRecentlyUsedFile(path, fileType);
     LoadDatalogFileSuccess(fileType);
     status_.Say("Loading complete");
-    if (fileType != kMAPFile) DrawAutoScatterGraphs();
+    if (fileType != kMAPFile) scatter_.DrawAutoScatterGraphs();
   } else {
     services_.messages.ShowMessage(Message::TooFewRecords);
     status_.Say("Loading failed");
@@ -119,7 +119,7 @@ void frmDataLogViewer::HideForLoad() {
   log_.gcolLogTags.RemoveAll();
   range_.Clear();
   graph_.Clear();
-  scatterGraphs_.ForEach([](frmScatterGraph& window) { window.LogIsClosing(); });
+  scatter_.LogIsClosing();
   scrolling_.Disable();
   cmdDataPointLeft.Enabled = cmdDataPointRight.Enabled = false;
   fraGraphSeriesFrame.Enabled = false;
@@ -151,7 +151,7 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
   commands_.Update();
   DisplayZoneInfluence();
   RefreshDataTags();
-  scatterGraphs_.ForEach([](frmScatterGraph& window) { window.RefreshDataItems(); });
+  scatter_.RefreshDataItems();
 }
 
 void frmDataLogViewer::SetFirstRange() {

@@ -38,6 +38,11 @@ void frmDataLogViewer::ShowAround(std::int32_t sample, bool showPointWidth) {
   DrawGraph();
 }
 
+void frmDataLogViewer::ShowPoint(std::int32_t sample) {
+  Show();
+  ShowAround(sample, true);
+}
+
 void frmDataLogViewer::mnuFileExport_Click() {
   if (export_.gstrExportPathFile.empty()) export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
   const ExportRun run{*this, status_, services_.messages, services_.errors, "ExportDataLog"};
@@ -106,7 +111,7 @@ void frmDataLogViewer::Maintain(const frmMaint::Texts& texts, Collection& kept,
   if (!window.Accepted()) return;
   kept = copy.Col;
   presets_.PopulatePresetGraphs(false, PresetFileType());
-  UpdateScatterPresetsOnForms();
+  scatter_.UpdatePresets();
   commands_.Update();
 }
 

@@ -107,7 +107,7 @@ int Scatter(const ScatterOptions& options) {
     session.Window().chkShowCheckedOnly.Value = true;
   }
   session.EnterRange();
-  frmScatterGraph& window = session.Window().OpenScatterGraph();
+  frmScatterGraph& window = session.Window().Scatter().OpenScatterGraph();
   const bool filled = FillIn(session, window, options);
   if (filled) window.cmdDrawGraph.Press();
   const ChartDescription& chart = window.chScatterGraph.Data();

@@ -32,9 +32,9 @@ class ScatterWindows : public ProgramFixture {
 TEST_F(ScatterWindows, TakeTheRangeOnShowAsAFilter) {
   for (const bool wanted : {true, false}) {
     Open(std::string("[General]\r\nAuto Scatter Graph Sample Filter=") + (wanted ? "Y" : "N") + "\r\n");
-    EXPECT_EQ(Main().OpenScatterGraph().objFilters().Count(), 0) << "the whole log";
+    EXPECT_EQ(Main().Scatter().OpenScatterGraph().objFilters().Count(), 0) << "the whole log";
     Main().PlotRangeTo.Do({"type", {"30"}});
-    const clsScatterFilters& filters = Main().OpenScatterGraph().objFilters();
+    const clsScatterFilters& filters = Main().Scatter().OpenScatterGraph().objFilters();
     ASSERT_EQ(filters.Count(), wanted ? 1 : 0);
     if (!wanted) continue;
     EXPECT_EQ(filters.Item(1).lngDataItemSeq, 1);
@@ -66,7 +66,7 @@ TEST_F(ScatterWindows, AnAutomaticGraphIsSilentAboutItsFaults) {
 
 TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
   Open("[General]\r\n");
-  frmScatterGraph& window = Main().OpenScatterGraph();
+  frmScatterGraph& window = Main().Scatter().OpenScatterGraph();
   window.cmdDrawGraph.Press();
   window.chScatterGraph.SelectPoint(1, 40);
   files.files["/logs/short.txt"] = SmallLog(5);
@@ -88,8 +88,8 @@ TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
 
 TEST_F(ScatterWindows, CloseWithTheMainWindow) {
   Open("[General]\r\n");
-  frmScatterGraph& window = Main().OpenScatterGraph();
-  Main().OpenScatterGraph().mnuFileClose.Do({"click", {}});
+  frmScatterGraph& window = Main().Scatter().OpenScatterGraph();
+  Main().Scatter().OpenScatterGraph().mnuFileClose.Do({"click", {}});
   EXPECT_EQ(Windows(), std::vector<frmScatterGraph*>{&window});
   window.Width = 9000;
   window.Height = 6000;

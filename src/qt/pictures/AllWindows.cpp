@@ -110,7 +110,7 @@ void AllWindows::MakeScatterDetails(bool filled) {
 /// item, with one selected.
 void AllWindows::MakeScatterGraphs() {
   frmDataLogViewer& main = program_.MainWindow();
-  scatterGraphs_.push_back(&main.OpenScatterGraph());
+  scatterGraphs_.push_back(&main.Scatter().OpenScatterGraph());
   const OpenLog& log = program_.Global().log;
   if (!log.gblnSamplesLoaded) return;
   constexpr int kFew = 300;
@@ -126,7 +126,7 @@ void AllWindows::MakeScatterGraphs() {
       {ItemOf(kIAdv), ItemOf(kMAP), false, {kBoundNotSet, 0, ItemOf(kRPM)}, {1, 4, 0xA00000}},
   };
   for (const auto& graph : kGraphs) {
-    frmScatterGraph& window = main.OpenScatterGraph();
+    frmScatterGraph& window = main.Scatter().OpenScatterGraph();
     window.AddFilter(graph.filter);
     window.ChooseAxes(ItemOf(kRPM), graph.yItem);
     window.ChooseColourBy(graph.colourBy);
