@@ -1,6 +1,7 @@
 #include "model/SampleStore.h"
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 namespace tarnview {
@@ -22,6 +23,7 @@ LargeMemory MemoryFor(std::size_t columns, int capacity) {
 void SampleStore::Prepare(int columns, int expectedRows) {
   capacity_ = columns > 0 ? std::clamp(expectedRows, kFewestRows, kMostSamples) : 0;
   columns_.assign(static_cast<std::size_t>(std::max(columns, 0)), nullptr);
+  gaps_.assign(columns_.size(), {});
   memory_ = LargeMemory();  // the old one goes before the new one comes
   memory_ = MemoryFor(columns_.size(), capacity_);
   made_ = 0;
@@ -81,6 +83,20 @@ std::span<std::int32_t> SampleStore::Writable(int column) {
   std::int32_t*& cells = columns_[static_cast<std::size_t>(column)];
   if (!cells) Make(column);
   return {cells, static_cast<std::size_t>(rows_)};
+}
+
+void SampleStore::SetGaps(int column, int first, std::size_t count, std::uint64_t gaps) {
+  auto& bits = gaps_[static_cast<std::size_t>(column)];
+  const auto word = static_cast<std::size_t>(first) / 64, shift = static_cast<std::size_t>(first) % 64;
+  bits.resize((static_cast<std::size_t>(first) + count + 63) / 64);
+  bits[word] |= gaps << shift;
+  if (shift > 0 && word + 1 < bits.size()) bits[word + 1] |= gaps >> (64 - shift);
+}
+
+int SampleStore::CountLogged(int column) const {
+  int gaps = 0;
+  for (const std::uint64_t word : gaps_[static_cast<std::size_t>(column)]) gaps += std::popcount(word);
+  return rows_ - gaps;
 }
 
 std::size_t SampleStore::DeliveredBytes() const {

@@ -54,6 +54,17 @@ class SampleStore {
   /// A column to write, made if it is not there.
   std::span<std::int32_t> Writable(int column);
 
+  /// Notes for `count` rows (up to 64) from `first` on, a bit each, where the log held no value; a cell keeps the last.
+  void SetGaps(int column, int first, std::size_t count, std::uint64_t gaps);
+  /// The cell stands for a value that was logged.
+  bool IsLogged(int column, int row) const {
+    const auto& gaps = gaps_[static_cast<std::size_t>(column)];
+    const auto word = static_cast<std::size_t>(row) / 64;
+    return word >= gaps.size() || (gaps[word] >> (row % 64) & 1) == 0;
+  }
+  /// Rows of a column whose value was logged.
+  int CountLogged(int column) const;
+
   /// Bytes that the delivered columns hold.
   std::size_t DeliveredBytes() const;
 
@@ -62,8 +73,9 @@ class SampleStore {
   void Grow();
 
   LargeMemory memory_;
-  std::vector<std::int32_t*> columns_;  ///< where a column begins; nullptr for one that is not delivered
-  std::size_t made_ = 0;                ///< of the columns, one behind the other in the order of their making
+  std::vector<std::int32_t*> columns_;            ///< where a column begins; nullptr for one that is not delivered
+  std::vector<std::vector<std::uint64_t>> gaps_;  ///< of each column, a bit a row; empty: all rows were logged
+  std::size_t made_ = 0;                          ///< of the columns, one behind the other in the order of their making
   int rows_ = 0;
   int capacity_ = 0;
 };
