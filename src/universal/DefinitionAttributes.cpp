@@ -34,6 +34,17 @@ constexpr Attribute<Log> kHeader[] = {
     {"VERSION",                  "strVersion",                  &Log::strVersion},
     {"COMMENTS",                 "strComments",                 &Log::strComments},
     {"AUTOGEARSPEEDFACTOR",      "dblAutoGearSpeedFactor",      &Log::dblAutoGearSpeedFactor},
+    {"ENCODING",                 "strEncoding",                 &Log::strEncoding},
+    {"DECIMALSIGN",              "strDecimalSign",              &Log::strDecimalSign},
+    {"QUOTED",                   "blnQuoted",                   &Log::blnQuoted},
+    {"DELIMITERRUNS",            "blnDelimiterRuns",            &Log::blnDelimiterRuns},
+    {"COMMENTPREFIX",            "strCommentPrefix",            &Log::strCommentPrefix},
+    {"UNITSROW",                 "lngUnitsRow",                 &Log::lngUnitsRow},
+    {"NOVALUETEXTS",             "strNoValueTexts",             &Log::strNoValueTexts},
+    {"TITLESSTART",              "strTitlesStart",              &Log::strTitlesStart},
+    {"TITLESFROM",               "strTitlesFrom",               &Log::strTitlesFrom},
+    {"TIMEFORM",                 "strTimeForm",                 &Log::strTimeForm},
+    {"OWNDATAITEMS",             "blnOwnDataItems",             &Log::blnOwnDataItems},
 };
 
 constexpr std::int32_t kAny = std::numeric_limits<std::int32_t>::min(), kAll = std::numeric_limits<std::int32_t>::max();
@@ -62,10 +73,13 @@ constexpr Attribute<Col> kColumn[] = {
     {"CONVERSIONTYPE",         "lngConversionType",       &Col::lngConversionType},
     {"SMOOTH",                 "blnSmooth",               &Col::blnSmooth},
     {"SIGNED",                 "blnSigned",               &Col::blnSigned},
+    {"UNIT",                   "strUnit",                 &Col::strUnit},
+    {"TITLEOCCURRENCE",        "lngTitleOccurrence",      &Col::lngTitleOccurrence, 0, kAll},
+    {"DISPLAY",                "blnDisplay",              &Col::blnDisplay, kAny, kAll, "blnDisplaySet"},
 };
 
 constexpr Attribute<Sample> kSampleGraph[] = {
-    {"DATA ITEMS",    "colDataItems",   &Sample::colDataItems, 1, kColumnCount},
+    {"DATA ITEMS",    "colDataItems",   &Sample::colDataItems, 1, kLastOwnItem},
     {"NAME",          "strName",        &Sample::strName},
     {"FIX GRAPH MAX", "blnFixGraphMax", &Sample::blnFixGraphMax},
     {"GRAPH MAX",     "lngGraphMax",    &Sample::lngGraphMax, kGraphYMaxLimits.least, kGraphYMaxLimits.most},

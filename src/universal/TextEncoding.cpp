@@ -76,15 +76,24 @@ void AddUnit(std::string& out, std::uint32_t unit) {
   }
 }
 
+/// Whole stretches of ASCII at a time, which nearly all of a log is.
 std::string FromUtf16(std::string_view text, bool bigEndian) {
-  std::string out;
-  out.reserve(text.size() / 2);
-  const std::size_t high = bigEndian ? 0 : 1;
-  for (std::size_t at = 0; at + 1 < text.size(); at += 2) {
-    const auto upper = static_cast<unsigned char>(text[at + high]),
-               lower = static_cast<unsigned char>(text[at + 1 - high]);
-    AddUnit(out, static_cast<std::uint32_t>(upper << 8 | lower));
+  std::string out(text.size() / 2, '\0');
+  std::string other;
+  const std::size_t high = bigEndian ? 0 : 1, units = text.size() / 2;
+  std::size_t length = 0;
+  for (std::size_t unit = 0; unit < units; ++unit) {
+    const auto upper = static_cast<unsigned char>(text[unit * 2 + high]);
+    const auto lower = static_cast<unsigned char>(text[unit * 2 + 1 - high]);
+    if (upper == 0 && lower < 0x80) {
+      out[length++] = static_cast<char>(lower);
+      continue;
+    }
+    other.clear();
+    AddUnit(other, static_cast<std::uint32_t>(upper << 8 | lower));
+    if (!other.empty()) out[length++] = other[0];
   }
+  out.resize(length);
   return out;
 }
 

@@ -10,6 +10,9 @@
 
 namespace tarnview {
 
+/// Items of a log's own are numbered from here on, up to the last.
+inline constexpr int kFirstOwnItem = 101, kLastOwnItem = 2200;
+
 /// A Universal Data Log Definition: how to read a delimited text log of any logger.
 class clsDataLog {
  public:
@@ -29,6 +32,26 @@ class clsDataLog {
   std::string strVersion;
   std::string strComments;
   double dblAutoGearSpeedFactor = 0;  ///< the log's unit of speed to metres per second; 0: not given
+
+  // How a log is written whose lines are not simply plain fields. Each is optional; older programs pass them over.
+  std::string strEncoding;        ///< "UTF-8", "UTF-16LE", "UTF-16BE", "WINDOWS-1252"; empty: bytes as they stand
+  std::string strDecimalSign;     ///< "," for a decimal comma
+  bool blnQuoted = false;         ///< fields may stand between double quotes, and a delimiter in them
+  bool blnDelimiterRuns = false;  ///< several delimiters running are one, and some in front of a line none
+  std::string strCommentPrefix;   ///< lines that start so are no samples
+  std::int32_t lngUnitsRow = 0;   ///< lines from the titles to the units; 0: there are none
+  std::string strNoValueTexts;    ///< with "|" between: such a field, or an empty one, keeps the last value
+  std::string strTitlesStart;     ///< of the line of titles, wherever it stands; empty: lines are counted
+  std::string strTitlesFrom;      ///< "CHANNELS": a preamble of channels; "NONE"; empty: the line of titles
+  std::string strTimeForm;       ///< of item 63 (TimeFormName): it counts from its first, and lines without it are none
+  bool blnOwnDataItems = false;  ///< columns may feed items from kFirstOwnItem up, which the log alone has
+
+  /// Any of these is given.
+  bool IsFormed() const {
+    return !strEncoding.empty() || !strDecimalSign.empty() || blnQuoted || blnDelimiterRuns ||
+           !strCommentPrefix.empty() || !strNoValueTexts.empty() || !strTitlesStart.empty() || !strTitlesFrom.empty() ||
+           !strTimeForm.empty() || blnOwnDataItems;
+  }
 };
 
 /// Whether presets and filters of a definition may use an item: it has a column, or every log has it (`blnMandatory`

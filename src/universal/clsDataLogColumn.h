@@ -44,7 +44,10 @@ class clsDataLogColumn {
   bool blnSetToMinimum = true;
   Clamped<kPlainNumber, kDateAndTime> lngConversionType;
   bool blnSmooth = false;
-  bool blnSigned = false;  ///< negative values are stored as they are; else they become 0
+  std::string strUnit;                  ///< of the values; may be empty
+  std::int32_t lngTitleOccurrence = 0;  ///< of several fields of that title the n-th; 0: each
+  Settable<bool> blnDisplay;            ///< the Sample Graph draws it
+  bool blnSigned = false;               ///< negative values are stored as they are; else they become 0
 
   /// The title as the headings of logs are compared with it.
   std::string strColumnTitleCaps() const { return Upper(strColumnTitle); }
