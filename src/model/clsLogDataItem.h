@@ -24,6 +24,7 @@ class clsLogDataItem {
   std::string strShortName;  ///< column heading and legend; up to 8 characters in the catalogue
   std::string strLongName;
   std::string strColumnTitles;  ///< of the columns of a Universal log that it is read from, "TitleA, TitleB"
+  std::string strUnit;          ///< of the values, where it is known
   int intKey = 0;               ///< rank in display order, from 1; the item's key in its collection is "k" + intKey
   int intSeq = 0;               ///< position in the sample row, from 1: the item's column plus 1
   double dblFactor = 1;         ///< counts for scaled items only

@@ -6,8 +6,10 @@
 #include <utility>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "fields/WideSteps.h"
 #include "model/Column.h"
+#include "universal/TimeText.h"
 
 namespace tarnview {
 namespace {
@@ -50,16 +52,41 @@ void Bound(const FieldTarget& target, double* values, bool* kept, std::size_t ro
 
 }  // namespace
 
-DataLines::DataLines(const HeaderMap& header, std::int32_t delimiter, std::string_view bytes, SampleStore& store)
-    : header_(header), store_(store), block_(bytes, delimiter, static_cast<std::size_t>(header.Fields())) {
+DataLines::DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes, SampleStore& store)
+    : header_(header),
+      store_(store),
+      block_(bytes, definition.lngDelimiterAsciiCharacter, static_cast<std::size_t>(header.Fields())),
+      formed_(definition.IsFormed()),
+      commentPrefix_(definition.strCommentPrefix),
+      secondsOfStamp_(SecondsOf(TimeFormOfName(definition.strTimeForm))),
+      stampsAreTexts_(TimeFormOfName(definition.strTimeForm) >= TimeForm::Clock) {
+  if (!definition.strNoValueTexts.empty()) noValues_.emplace(definition.strNoValueTexts);
+  std::vector<int> fed;
   for (int field = 0; field < header.Fields(); ++field)
-    for (const FieldTarget& target : header.Targets(field)) anyDate_ = anyDate_ || target.kind == Kind::Date;
+    for (const FieldTarget& target : header.Targets(field)) {
+      anyDate_ = anyDate_ || target.kind == Kind::Date;
+      if (target.kind == Kind::Time && !clock_) clock_ = static_cast<std::size_t>(field);
+      if (std::find(fed.begin(), fed.end(), target.column) != fed.end()) sharedColumns_.push_back(target.column);
+      fed.push_back(target.column);
+    }
 }
 
 void DataLines::Read(std::string_view line) {
   block_.Add(line);
+  if (formed_ && !IsSample(line)) return block_.DropLast();
   if (anyDate_ && !firstMoment_) FindFirstMoment();
   if (block_.Full()) Flush();
+}
+
+/// The clock of a sample holds a number or a time, which no heading, mark or comment does.
+bool DataLines::IsSample(std::string_view line) const {
+  const std::size_t last = block_.Lines() - 1, fields = block_.Fields(last);
+  if (!clock_) return fields >= 2 && (commentPrefix_.empty() || !line.starts_with(commentPrefix_));
+  if (fields <= *clock_) return false;
+  std::string_view stamp = Trim(block_.Field(last, *clock_));
+  if (stamp.starts_with('-') || stamp.starts_with('+')) stamp.remove_prefix(1);
+  const bool begins = !stamp.empty() && ((stamp[0] >= '0' && stamp[0] <= '9') || stamp[0] == '.');
+  return begins || (stampsAreTexts_ && ReadTimeText(stamp));
 }
 
 /// In the line that was read last.
@@ -83,7 +110,13 @@ void DataLines::Flush() {
 /// `first` is the row of the first line that is gathered.
 void DataLines::FlushField(std::size_t field, int first) {
   bool read = false;
-  for (const FieldTarget& target : header_.Targets(static_cast<int>(field))) {
+  const auto targets = header_.Targets(static_cast<int>(field));
+  const std::uint64_t gaps = noValues_ && !targets.empty() ? noValues_->In(block_, field) : 0;
+  for (const FieldTarget& target : targets) {
+    if (target.kind == Kind::Time) {
+      if (clock_ == field) ReadStamps(field);
+      continue;
+    }
     Cells cells;
     if (target.bounded || Ragged(field)) TakeCells(target.column, first, cells);
     if (target.kind == Kind::Value) StoreListed(target, field, cells);
@@ -96,7 +129,33 @@ void DataLines::FlushField(std::size_t field, int first) {
       ReadMoments(field, moments);
       StoreValues(target, field, moments, block_.Lines(), cells);
     }
+    WriteCells(target, first, gaps, cells);
+  }
+}
+
+void DataLines::WriteCells(const FieldTarget& target, int first, std::uint64_t gaps, Cells& cells) {
+  const bool shared = std::find(sharedColumns_.begin(), sharedColumns_.end(), target.column) != sharedColumns_.end();
+  if (noValues_ && !shared)
+    noValues_->Write(store_, target.column, first, block_.Lines(), gaps, cells);
+  else
     store_.SetRows(target.column, first, {cells.data(), block_.Lines()});
+}
+
+/// The clock's fields of the block, in seconds.
+void DataLines::ReadStamps(std::size_t field) {
+  const std::size_t lines = block_.Lines(), before = stamps_.size();
+  stamps_.resize(before + lines);
+  if (!stampsAreTexts_) {
+    ReadNumbers(field);
+    Numbers values;
+    numbers_.Values(lines, values);
+    for (std::size_t line = 0; line < lines; ++line) stamps_[before + line] = values[line] * secondsOfStamp_;
+    return;
+  }
+  for (std::size_t line = 0; line < lines; ++line) {
+    const auto time = ReadTimeText(block_.Field(line, field));
+    if (time && !firstStamp_) firstStamp_ = time->moment;
+    stamps_[before + line] = time ? time->moment.Since(*firstStamp_) : std::numeric_limits<double>::quiet_NaN();
   }
 }
 
@@ -143,10 +202,19 @@ void DataLines::ReadNumbers(std::size_t field) {
 }
 
 void DataLines::ReadMoments(std::size_t field, Numbers& moments) {
+  if (formed_) return ReadSpans(field, moments);
   ReadColumn(block_, field, moments, [&](std::size_t line) {
     const auto moment = block_.Fields(line) > field ? ParseFieldMoment(block_.Field(line, field)) : std::nullopt;
     return moment ? moment->Since(*firstMoment_) : 0;
   });
+}
+
+/// Seconds since the first time of the field itself.
+void DataLines::ReadSpans(std::size_t field, Numbers& spans) {
+  for (std::size_t line = 0; line < block_.Lines(); ++line) {
+    const auto time = block_.Fields(line) > field ? ReadTimeText(block_.Field(line, field)) : std::nullopt;
+    spans[line] = time ? time->moment.Since(firstOfField_.emplace(field, time->moment).first->second) : 0;
+  }
 }
 
 void DataLines::StoreListed(const FieldTarget& target, std::size_t field, Cells& cells) const {

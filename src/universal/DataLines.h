@@ -3,12 +3,17 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <unordered_map>
+#include <vector>
 
 #include "fields/NumberColumn.h"
 #include "model/SampleStore.h"
 #include "universal/FieldDate.h"
 #include "universal/HeaderMap.h"
+#include "universal/NoValues.h"
+#include "universal/TimeBase.h"
 
 namespace tarnview {
 
@@ -17,10 +22,14 @@ namespace tarnview {
 class DataLines {
  public:
   /// `bytes` holds all lines to come.
-  DataLines(const HeaderMap& header, std::int32_t delimiter, std::string_view bytes, SampleStore& store);
+  DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes, SampleStore& store);
 
-  /// The next row.
+  /// The next row. Where the definition tells the form of a log, a line that holds no sample is none.
   void Read(std::string_view line);
+  /// Rows read so far.
+  int Rows() const { return store_.Rows() + static_cast<int>(block_.Lines()); }
+  /// What stands in the log's clock, in seconds, a row each; empty without a form of time.
+  const std::vector<double>& Stamps() const { return stamps_; }
   /// Brings the rows read so far into the store.
   void Flush();
 
@@ -28,10 +37,14 @@ class DataLines {
   using Numbers = BlockOf<double>;
   using Cells = BlockOf<std::int32_t>;
 
+  bool IsSample(std::string_view line) const;
+  void ReadStamps(std::size_t field);
+  void WriteCells(const FieldTarget& target, int first, std::uint64_t gaps, Cells& cells);
   void FindFirstMoment();
   void FlushField(std::size_t field, int first);
   void TakeCells(int column, int first, Cells& cells) const;
   void ReadNumbers(std::size_t field);
+  void ReadSpans(std::size_t field, Numbers& spans);
   void ReadMoments(std::size_t field, Numbers& moments);
   void StoreNumbers(const FieldTarget& target, std::size_t field, Cells& cells) const;
   void StoreValues(const FieldTarget& target, std::size_t field, Numbers& values, std::size_t rows, Cells& cells) const;
@@ -44,6 +57,17 @@ class DataLines {
   FieldIndex block_;
   NumberColumn numbers_;  ///< of the field that is read
   bool anyDate_ = false;
+  // Of a log whose form is told:
+  const bool formed_;
+  const std::string commentPrefix_;
+  const double secondsOfStamp_;  ///< 1 for texts
+  const bool stampsAreTexts_;
+  std::optional<std::size_t> clock_;  ///< the field of its clock
+  std::optional<NoValues> noValues_;
+  std::vector<int> sharedColumns_;  ///< of the store, which several fields feed
+  std::unordered_map<std::size_t, FieldMoment> firstOfField_;
+  std::optional<FieldMoment> firstStamp_;
+  std::vector<double> stamps_;
   std::optional<FieldMoment> firstMoment_;  ///< of the log, whichever column it stands in
 };
 

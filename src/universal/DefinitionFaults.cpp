@@ -73,6 +73,7 @@ constexpr Check<HeaderBlock> kTimeChecks[] = {
 struct ColumnBlock {
   const clsDataLogColumn& it;
   const clsLogDataItems& catalogue;
+  bool ownItems;  ///< the definition may feed items of the log's own
 };
 
 bool IsIncomplete(const ColumnBlock& c) {
@@ -84,7 +85,10 @@ bool FeedsSample(const ColumnBlock& c) { return c.it.lngDataItemID == ItemOf(kSa
 bool HasNoRange(const ColumnBlock& c) {
   return c.it.dblMinValue.IsSet() && c.it.dblMaxValue.IsSet() && c.it.dblMinValue > c.it.dblMaxValue;
 }
-bool FeedsNoItem(const ColumnBlock& c) { return c.it.lngDataItemID > c.catalogue.Count(); }
+bool FeedsNoItem(const ColumnBlock& c) {
+  const bool own = c.ownItems && c.it.lngDataItemID >= kFirstOwnItem && c.it.lngDataItemID <= kLastOwnItem;
+  return c.it.lngDataItemID > c.catalogue.Count() && !own;
+}
 
 /// The program calculates with these, so that their kind must stay.
 constexpr int kItemsOfFixedKind[] = {ItemOf(kSample), ItemOf(kRPM),   ItemOf(kCTemp),  ItemOf(kSpeed),
@@ -241,8 +245,8 @@ void CheckTime(const clsDataLog& definition, const std::string& path) {
   Run<HeaderBlock>(kTimeChecks, {definition, path});
 }
 
-void CheckColumn(const clsDataLogColumn& column, const clsLogDataItems& catalogue) {
-  Run<ColumnBlock>(kColumnChecks, {column, catalogue});
+void CheckColumn(const clsDataLogColumn& column, const clsDataLog& definition, const clsLogDataItems& catalogue) {
+  Run<ColumnBlock>(kColumnChecks, {column, catalogue, definition.blnOwnDataItems});
 }
 
 void CheckSampleGraph(const clsSampleGraphPreset& preset, const clsDataLog& definition,

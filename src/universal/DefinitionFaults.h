@@ -24,7 +24,7 @@ std::string DetailText(const std::vector<std::string>& lines);
 // the definition file's name as it was given.
 
 void CheckHeader(const clsDataLog& definition, const std::string& path);
-void CheckColumn(const clsDataLogColumn& column, const clsLogDataItems& catalogue);
+void CheckColumn(const clsDataLogColumn& column, const clsDataLog& definition, const clsLogDataItems& catalogue);
 void CheckTime(const clsDataLog& definition, const std::string& path);
 void CheckSampleGraph(const clsSampleGraphPreset& preset, const clsDataLog& definition,
                       const clsLogDataItems& catalogue, const std::string& path);

@@ -1,6 +1,6 @@
 #include "universal/DefinitionReader.h"
 
-#include <array>
+#include <unordered_map>
 
 #include "base/Text.h"
 #include "fields/TextLines.h"
@@ -73,14 +73,13 @@ class Reader {
     clsDataLogColumns columns;
     while (Starts(kColumn)) {
       const clsDataLogColumn column = ReadColumn();
-      CheckColumn(column, catalogue_);
+      CheckColumn(column, definition_, catalogue_);
       columns.AddDirect(column);
     }
     definition_.objColumns = columns.Duplicate();
     CheckTime(definition_, path_);
     for (const clsDataLogColumn& column : definition_.objColumns) {
-      const clsDataLogColumn*& first = firstColumns_[static_cast<std::size_t>(column.lngDataItemID)];
-      if (!first) first = &column;
+      firstColumns_.emplace(column.lngDataItemID, &column);
     }
   }
 
@@ -116,6 +115,7 @@ class Reader {
       if (Is(kSampleGraph) || Is(kScatterGraph)) break;
       ReadPresetAttribute(preset, Line());
     }
+    if (!definition_.blnOwnDataItems) std::erase_if(preset.colDataItems, [](int item) { return item > kColumnCount; });
     CheckSampleGraph(preset, definition_, catalogue_, path_);
     preset.lngLogFamily = kUniversalLogFamily;
     definition_.objPresetSampleGraphs.AddDirect(std::move(preset));
@@ -149,8 +149,8 @@ class Reader {
 
   /// The value list of the first column of an item, if that is a column of values.
   const clsDataLogColumnValues* ValuesOf(int item) const {
-    const bool known = item >= 1 && static_cast<std::size_t>(item) < firstColumns_.size();
-    const clsDataLogColumn* column = known ? firstColumns_[static_cast<std::size_t>(item)] : nullptr;
+    const auto found = firstColumns_.find(item);
+    const clsDataLogColumn* column = found != firstColumns_.end() ? found->second : nullptr;
     return column && column->lngType == kValueListColumn ? column->objColumnValues.get() : nullptr;
   }
 
@@ -158,7 +158,7 @@ class Reader {
   const std::string& path_;
   const clsLogDataItems& catalogue_;
   clsDataLog definition_;
-  std::array<const clsDataLogColumn*, kColumnCount + 1> firstColumns_{};
+  std::unordered_map<int, const clsDataLogColumn*> firstColumns_;  ///< by item
 };
 
 }  // namespace

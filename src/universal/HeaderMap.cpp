@@ -60,35 +60,56 @@ FieldTarget::FieldTarget(const clsDataLogColumn& it)
   values = std::make_shared<ValueLookup>(*it.objColumnValues);
 }
 
-HeaderMap::HeaderMap(std::string_view headerLine, const clsDataLog& definition) : fed_(kColumnCount + 1) {
-  for (int n = 1; n <= definition.objColumns.Count(); ++n)
-    groups_[definition.objColumns.Item(n).strColumnTitleCaps()].columns.push_back(n);
+HeaderMap::HeaderMap(std::string_view headerLine, const clsDataLog& definition) {
+  Gather(definition);
   for (const std::string_view field : SplitFields(headerLine, definition.lngDelimiterAsciiCharacter))
     Match(field, definition);
 }
 
+HeaderMap::HeaderMap(const std::vector<std::string>& titles, const clsDataLog& definition) {
+  Gather(definition);
+  for (const std::string& title : titles) Match(title, definition);
+}
+
+void HeaderMap::Gather(const clsDataLog& definition) {
+  int most = kColumnCount;
+  for (int n = 1; n <= definition.objColumns.Count(); ++n) {
+    const clsDataLogColumn& column = definition.objColumns.Item(n);
+    Group& group = groups_[column.strColumnTitleCaps()];
+    group.columns.push_back(n);
+    group.byOccurrence = group.byOccurrence || column.lngTitleOccurrence > 0;
+    most = std::max(most, column.lngDataItemID);
+  }
+  fed_.resize(static_cast<std::size_t>(most) + 1);
+}
+
 void HeaderMap::Match(std::string_view field, const clsDataLog& definition) {
   const auto found = groups_.find(Upper(Trim(field)));
-  if (found == groups_.end() || (found->second.used && definition.blnIgnoreDuplicateColumns)) {
+  if (found == groups_.end() || (found->second.used > 0 && definition.blnIgnoreDuplicateColumns)) {
     unknown_.emplace_back(field);
     fields_.emplace_back();
     return;
   }
   Group& group = found->second;
-  if (!group.used) {
-    group.used = true;
-    group.targets.first = static_cast<std::uint32_t>(targets_.size());
-    for (const int n : group.columns) {
-      const clsDataLogColumn& column = definition.objColumns.Item(n);
-      fed_[static_cast<std::size_t>(column.lngDataItemID)] = true;
-      const FieldTarget target(column);
-      if (target.kind != FieldTarget::Kind::Nothing) targets_.push_back(target);
-      if (column.blnSmooth && std::find(smoothed_.begin(), smoothed_.end(), column.lngDataItemID) == smoothed_.end())
-        smoothed_.push_back(column.lngDataItemID);
-    }
-    group.targets.count = static_cast<std::uint32_t>(targets_.size()) - group.targets.first;
-  }
+  ++group.used;
+  if (group.used == 1 || group.byOccurrence) group.targets = AddTargets(group.columns, group.used, definition);
   fields_.push_back(group.targets);
+}
+
+/// What the columns of a title make of its field that comes as the n-th.
+HeaderMap::Range HeaderMap::AddTargets(const std::vector<int>& columns, int occurrence, const clsDataLog& definition) {
+  const auto first = static_cast<std::uint32_t>(targets_.size());
+  for (const int n : columns) {
+    const clsDataLogColumn& column = definition.objColumns.Item(n);
+    if (column.lngTitleOccurrence > 0 && column.lngTitleOccurrence != occurrence) continue;
+    fed_[static_cast<std::size_t>(column.lngDataItemID)] = true;
+    FieldTarget target(column);
+    if (!definition.strTimeForm.empty() && column.lngDataItemID == ItemOf(kSecs)) target.kind = FieldTarget::Kind::Time;
+    if (target.kind != FieldTarget::Kind::Nothing) targets_.push_back(target);
+    if (column.blnSmooth && std::find(smoothed_.begin(), smoothed_.end(), column.lngDataItemID) == smoothed_.end())
+      smoothed_.push_back(column.lngDataItemID);
+  }
+  return {first, static_cast<std::uint32_t>(targets_.size()) - first};
 }
 
 bool HeaderMap::Feeds(int item) const {

@@ -31,7 +31,7 @@ class ValueLookup {
 struct FieldTarget {
   explicit FieldTarget(const clsDataLogColumn& column);
 
-  enum class Kind { Nothing, Number, Date, Value };
+  enum class Kind { Nothing, Number, Date, Value, Time };
   Kind kind = Kind::Nothing;
   int column;  ///< of the store
   /// A number becomes (number + before) x factor + after: the conversion's offset is one of the two, the other is 0.
@@ -48,6 +48,8 @@ struct FieldTarget {
 class HeaderMap {
  public:
   HeaderMap(std::string_view headerLine, const clsDataLog& definition);
+  /// By titles that are at hand.
+  HeaderMap(const std::vector<std::string>& titles, const clsDataLog& definition);
 
   int Fields() const { return static_cast<int>(fields_.size()); }
   /// In the order of the definition's columns. A field from 0.
@@ -67,12 +69,15 @@ class HeaderMap {
   struct Range {
     std::uint32_t first = 0, count = 0;
   };
+  void Gather(const clsDataLog& definition);
   void Match(std::string_view field, const clsDataLog& definition);
+  Range AddTargets(const std::vector<int>& columns, int occurrence, const clsDataLog& definition);
 
   struct Group {  ///< the columns of one title
     std::vector<int> columns;
     Range targets;
-    bool used = false;
+    int used = 0;               ///< fields of that title so far
+    bool byOccurrence = false;  ///< a column wants one of them alone
   };
   std::unordered_map<std::string, Group> groups_;
   std::vector<Range> fields_;

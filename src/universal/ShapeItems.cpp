@@ -157,7 +157,8 @@ ShapeItem OwnItem(const ShapeColumn& column, int number) {
   while (std::max(std::fabs(column.lowest), std::fabs(column.highest)) * large > kMostStored) large /= 1000;
   item.factor = column.scale * large;
   const double lowest = column.lowest * large, highest = column.highest * large;
-  item.places = item.list ? 0 : PlacesOf(lowest, highest, large < 1 ? 3 : column.places);
+  const bool thousandths = large < 1 || column.content == ColumnContent::Time;
+  item.places = item.list ? 0 : PlacesOf(lowest, highest, thousandths ? 3 : column.places);
   item.displayFactor = item.list ? 1 : DisplayFactorOf(lowest, highest);
   item.why = "an item of its own";
   return item;

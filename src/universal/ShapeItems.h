@@ -7,11 +7,9 @@
 #include "universal/ShapeColumn.h"
 #include "universal/TimeBase.h"
 #include "universal/TitleDictionary.h"
+#include "universal/clsDataLog.h"
 
 namespace tarnview {
-
-/// Items of a log's own are numbered from here on.
-inline constexpr int kFirstOwnItem = 101;
 
 /// What a column of a log becomes.
 struct ShapeItem {

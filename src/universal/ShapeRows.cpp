@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/Text.h"
+#include "universal/FormedStart.h"
 #include "universal/Units.h"
 
 namespace tarnview {
@@ -22,31 +23,10 @@ std::array<int, 5> CountKinds(const Fields& fields, char decimalSign) {
 
 int Of(const std::array<int, 5>& counts, FieldKind kind) { return counts[static_cast<std::size_t>(kind)]; }
 
-/// Titles may hold a delimiter between brackets that nobody quoted: "Torque (lb, ft)". Such parts are joined again.
-std::vector<std::string> JoinInBrackets(const Fields& fields, char delimiter) {
-  std::vector<std::string> joined;
-  int open = 0;
-  for (const std::string_view field : fields) {
-    if (open > 0)
-      joined.back() += delimiter + std::string(field);
-    else
-      joined.emplace_back(field);
-    for (const char c : field) open += (c == '(') - (c == ')');
-    open = std::max(open, 0);
-  }
-  return joined;
-}
-
-/// Signs such as "#" or "%" and blanks in front of the first title.
-std::string_view MarkOf(std::string_view line) {
-  const auto end = line.find_first_not_of("#%*>!/ ");
-  return end == std::string_view::npos ? std::string_view() : line.substr(0, end);
-}
-
 std::vector<std::string> TitlesOf(std::string_view line, const FieldFormGuess& guess) {
   FieldForm form = guess.form;
   form.quoted = true;
-  line.remove_prefix(MarkOf(line).size());
+  line.remove_prefix(TitleMarkOf(line).size());
   const Fields fields = SplitShapeLine(line, form);
   if (static_cast<int>(fields.size()) <= guess.fields) return {fields.begin(), fields.end()};
   const auto joined = JoinInBrackets(fields, form.delimiter);
@@ -161,7 +141,8 @@ void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines, 
   if (rows.titleLine < 0) rows.unitsLine = -1;
   if (rows.titleLine < 0) return;
   rows.titles = TitlesOf(lines[static_cast<std::size_t>(rows.titleLine)], guess);
-  rows.titleMark = Trim(MarkOf(lines[static_cast<std::size_t>(rows.titleLine)]));
+  rows.titleMark = Trim(TitleMarkOf(lines[static_cast<std::size_t>(rows.titleLine)]));
+  rows.quotedTitles = lines[static_cast<std::size_t>(rows.titleLine)].find('"') != std::string_view::npos;
   if (rows.unitsLine < 0) return;
   rows.units = TitlesOf(lines[static_cast<std::size_t>(rows.unitsLine)], guess);
   rows.units.resize(rows.titles.size());

@@ -15,9 +15,10 @@ struct ShapeRows {
   int dataLine = -1;
   std::vector<std::string> titles;  ///< of the columns, as they stand without quotes and blanks at their ends
   std::vector<std::string> units;   ///< as many; empty: none is told
-  std::string titleMark;            ///< signs in front of the first title that are no part of it, such as "#"
-  std::string commentPrefix;        ///< of lines among the data that are none; empty for none
-  double dataShare = 0;             ///< of the lines from the first of data on: those that are data
+  bool quotedTitles = false;
+  std::string titleMark;      ///< signs in front of the first title that are no part of it, such as "#"
+  std::string commentPrefix;  ///< of lines among the data that are none; empty for none
+  double dataShare = 0;       ///< of the lines from the first of data on: those that are data
 };
 
 /// Finds the first row of data, the titles above it and their units.

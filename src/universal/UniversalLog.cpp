@@ -3,13 +3,19 @@
 #include <algorithm>
 #include <exception>
 #include <limits>
+#include <optional>
+#include <span>
+#include <vector>
 
 #include "base/Numbers.h"
 #include "fields/TextLines.h"
 #include "model/Column.h"
 #include "universal/DataLines.h"
 #include "universal/DefinitionFaults.h"
+#include "universal/FormedStart.h"
 #include "universal/HeaderMap.h"
+#include "universal/LogTimes.h"
+#include "universal/PlainLog.h"
 #include "universal/Smoothing.h"
 
 namespace tarnview {
@@ -67,16 +73,30 @@ int RowsToHold(std::string_view text, long expected) {
 class Load {
  public:
   Load(std::string_view bytes, const LoadContext& context, const clsDataLog& definition, LoadOutcome& outcome)
-      : bytes_(bytes), context_(context), definition_(definition), log_(context.log), outcome_(outcome) {}
+      : bytes_(PlainLog(bytes, definition, plain_)),
+        context_(context),
+        definition_(definition),
+        log_(context.log),
+        outcome_(outcome) {}
 
   void Run() {
     context_.progress.Stage("Preparing to load");
     log_.Clear(context_.items, 0);
     Identify(bytes_, definition_);
-    const std::string_view headerLine = FindHeader(bytes_, definition_, log_.gstrCurrentFile);
-    HeaderMap header(headerLine, definition_);
+    if (definition_.IsFormed()) {
+      const LogStart start = FindFormedStart(bytes_, definition_, log_.gstrCurrentFile);
+      Read(HeaderMap(start.titles, definition_), start.titleLine, start.data);
+    } else {
+      const std::string_view headerLine = FindHeader(bytes_, definition_, log_.gstrCurrentFile);
+      Read(HeaderMap(headerLine, definition_), headerLine, std::nullopt);
+    }
+  }
+
+ private:
+  /// `data`: the lines of samples, where they are not to be counted.
+  void Read(const HeaderMap& header, std::string_view headerLine, std::optional<std::string_view> data) {
     CheckHeader(header, headerLine);
-    ReadData(header, ExpectedRows(bytes_.size(), headerLine.size()));
+    ReadData(header, data ? *data : CountedData(), ExpectedRows(bytes_.size(), headerLine.size()));
     NoteTemperatures(header);
     FillOffsetItems(header);
     SetTimes(header);
@@ -85,7 +105,6 @@ class Load {
     if (log_.glngDataLog.Rows() >= kMostSamples) outcome_.messages.emplace_back(Message::LogTooLong);
   }
 
- private:
   void CheckHeader(const HeaderMap& header, std::string_view line) {
     if (definition_.dblLineFrequency == 0 && !header.Feeds(ItemOf(kSecs)))
       throw DefinitionFault(Message::NoTimeColumn, std::string(line));
@@ -93,24 +112,29 @@ class Load {
     if (!header.AnyKnown()) throw DefinitionFault(Message::NoColumnsRecognised, std::string(line));
   }
 
-  void ReadData(const HeaderMap& header, long expected) {
+  std::string_view CountedData() const {
     std::string_view text = bytes_;
     if (!SkipFileLines(text, definition_.lngDataLinesBefore))
       throw DefinitionFault(Message::FileNotLoaded, log_.gstrCurrentFile);
+    return text;
+  }
+
+  void ReadData(const HeaderMap& header, std::string_view text, long expected) {
     context_.progress.Stage("Preparing to load", expected);
     log_.Clear(context_.items, RowsToHold(text, expected));
     SampleStore& store = log_.glngDataLog;
-    DataLines data(header, definition_.lngDelimiterAsciiCharacter, bytes_, store);
+    DataLines data(header, definition_, bytes_, store);
     const long step = std::max(expected / 50, 1L);
     long nextTelling = step;
     long line = 0;
-    for (TextLines lines(text); !lines.AtEnd() && line < kMostSamples;) {
+    for (TextLines lines(text); !lines.AtEnd() && data.Rows() < kMostSamples;) {
       data.Read(lines.Next());
       if (++line != nextTelling) continue;
       context_.progress.Line(line);
       nextTelling += step;
     }
     data.Flush();
+    stamps_ = data.Stamps();
   }
 
   /// The lowest air temperature, and the first sample with a warm engine.
@@ -144,6 +168,7 @@ class Load {
         store.Set(kSecs, row, RoundToLong(RoundPlaces(1 / definition_.dblLineFrequency * row, 4) * factor));
       return;
     }
+    if (!stamps_.empty()) return SetStampedTimes();
     // Times never fall: one that would is a stored unit behind the one before.
     std::int32_t previous = 0;
     if (store.Column(kSecs).empty()) return;
@@ -153,6 +178,20 @@ class Load {
     }
   }
 
+  /// From a clock whose form is told.
+  void SetStampedTimes() {
+    const double factor = context_.items.Item(ItemOf(kSecs)).dblFactor;
+    const auto times = TimesOfLines(stamps_, TimeFormOfName(definition_.strTimeForm));
+    const std::span<std::int32_t> cells = log_.glngDataLog.Writable(kSecs);
+    for (std::size_t row = 0; row < cells.size(); ++row) cells[row] = StoredTime(times[row] * factor);
+  }
+
+  /// The last that a stored integer holds, for a clock that goes wild.
+  static std::int32_t StoredTime(double stored) {
+    constexpr auto kMost = std::numeric_limits<std::int32_t>::max();
+    return stored < kMost ? RoundToLong(stored) : kMost;
+  }
+
   void Smooth(const HeaderMap& header) {
     if (header.Smoothed().empty()) return;
     context_.progress.Stage("Smoothing data...");
@@ -160,7 +199,9 @@ class Load {
       SmoothColumn(log_.glngDataLog, item - 1, context_.items.Item(item).LeastStored());
   }
 
+  std::string plain_;  ///< the text, where it had to be written anew
   const std::string_view bytes_;
+  std::vector<double> stamps_;  ///< of a clock whose form is told, in seconds
   const LoadContext& context_;
   const clsDataLog& definition_;
   OpenLog& log_;

@@ -4,7 +4,12 @@
 #include "base/FileSystem.h"
 #include "base/Numbers.h"
 #include "model/Catalogue.h"
+#include "universal/DefinitionReader.h"
+#include "universal/DefinitionWriter.h"
 #include "universal/LogShape.h"
+#include "universal/ShapeDefinition.h"
+#include "universal/UniversalDataItems.h"
+#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
@@ -45,6 +50,45 @@ TEST(LogShape, LogsInTheMannerOfLoggersOfTheField) {
     const LogShape shape = ShapeOf(log.text);
     EXPECT_EQ(Printed(shape), log.shape) << log.name;
     EXPECT_GE(shape.score, 80) << log.name;
+  }
+}
+
+/// A cell as an export shows it.
+std::string Cell(const OpenLog& log, int item, int row) {
+  return log.glngDataLog.IsLogged(item - 1, row) ? log.FormatDataItem(item, row) : "";
+}
+
+/// Seconds of all samples, engine speeds, and the last sample: what the log's columns have become.
+std::string PrintedLog(const LogShape& shape, const OpenLog& log) {
+  const int rows = log.glngDataLog.Rows();
+  std::string text = std::to_string(rows) + " x " + std::to_string(shape.columns.size()) + ":";
+  for (int row = 0; row < rows; ++row) text += " " + log.FormatDataItem(63, row);
+  text += "; rpm";
+  for (int row = 0; row < rows; ++row) text += " " + Cell(log, 3, row);
+  text += "; last";
+  for (const ShapeItem& item : shape.items)
+    if (item.item != 63) text += " " + std::to_string(item.item) + ":" + Cell(log, item.item, rows - 1);
+  return text;
+}
+
+TEST(LogShape, ALogLoadsByTheDefinitionOfItsShapeAndByTheFileOfThat) {
+  const Catalogue catalogue = BuildDataItemCatalogue();
+  const Settings settings;
+  const ConversionTables tables;
+  NoProgress progress;
+  for (const MadeLog& made : MadeLogs()) {
+    const LogShape shape = ShapeOf(made.text);
+    const clsDataLog direct = DefinitionOfShape(shape, "Made", "csv", 10);
+    const std::string file = DefinitionFileText(direct);
+    const clsDataLog read = ReadDataLogDefinition(file, "made.txt", catalogue.gcolFixedDataItems);
+    EXPECT_EQ(DefinitionFileText(read), file) << made.name;
+    for (const clsDataLog* definition : {&direct, &read}) {
+      const clsLogDataItems items = GenerateLogDataItemsGeneric(*definition, catalogue.gcolFixedDataItems);
+      OpenLog log;
+      const LoadOutcome outcome = LoadGenericDataLog(made.text, {log, items, settings, tables, progress}, *definition);
+      EXPECT_TRUE(outcome.loaded && outcome.unknownColumns.size() < 2) << made.name;
+      EXPECT_EQ(PrintedLog(shape, log), made.loaded) << made.name;
+    }
   }
 }
 

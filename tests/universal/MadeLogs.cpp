@@ -11,6 +11,7 @@ std::vector<MadeLog> MadeLogs() {
        "50,1409,12.4,82,-7.80,2\n"
        "100,1918,20.7,83,-5.80,3\n"
        "150,2427,29.1,83,3.20,4\n",
+       "4 x 6: 0.000 0.050 0.100 0.150; rpm 900 1409 1918 2427; last 3:2427 17:29.1 23:83.0 37:3.20 101:4",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 0 MILLISECONDS 0.05 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 17 TPS [%] | 23 C Temp [C] | 37 Boost [psi]"
@@ -20,6 +21,7 @@ std::vector<MadeLog> MadeLogs() {
        "1000;900;180,5;13,90\n"
        "1040;1409;181,0;13,88\n"
        "1080;1918;181,5;13,86\n",
+       "3 x 4: 0.000 0.040 0.080; rpm 900 1409 1918; last 3:1918 23:83.1 22:13.86",
        "UTF-8 semicolon , titles 1 units 0 data 2\n"
        "time 0 MILLISECONDS 0.04 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C] x0.5556+-17.78 | 22 Volt [V]\n"},
@@ -33,6 +35,7 @@ std::vector<MadeLog> MadeLogs() {
        "MARK 001 - Tue Nov 24 14:05:10\n"
        "0.132\t0\t1918\t61.3\t181\t14.12\t-30.7\n"
        "0.198\t0\t2427\t75.1\t182\t13.83\t29.1\n",
+       "4 x 7: 0.000 0.066 0.132 0.198; rpm 900 1409 1918 2427; last 101:0 3:2427 5:75.1 23:83.3 36:13.83 21:29.1",
        "WINDOWS-1252 tab . titles 3 units 4 data 5\n"
        "time 0 SECONDS 0.066 rate 0\n"
        "| 63 Secs [s] | 101 SecL [sec] | 3 RPM [rpm] | 5 MAP [kPa]"
@@ -43,6 +46,7 @@ std::vector<MadeLog> MadeLogs() {
        "10.00\t900\t4.0\t24\t2.1\n"
        "10.10\t1409\t12.4\t25\t3.1\n"
        "10.20\t1918\t20.7\t26\t4.1\n",
+       "3 x 5: 0.000 0.100 0.200; rpm 900 1409 1918; last 3:1918 17:20.7 31:26.0 13:4.100",
        "UTF-8 tab . titles 1 units 2 data 3\n"
        "time 0 SECONDS 0.1 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 17 TPS [%] | 31 A Temp [C] | 13 Inj W [ms]\n"},
@@ -52,6 +56,7 @@ std::vector<MadeLog> MadeLogs() {
        "0.002,1409,-7.80,12.4,14.41,0.5,off,\n"
        "0.018,1918,-5.80,20.7,14.12,1.2,on,\n"
        "0.034,2427,3.00,29.1,13.83,-0,on,\n",
+       "4 x 7: 0.000 0.002 0.018 0.034; rpm 900 1409 1918 2427; last 3:2427 37:3.00 17:29.1 36:13.83 62:0.00 101:on",
        "WINDOWS-1252 comma . titles 1 units 0 data 2\n"
        "time 0 SECONDS 0.016 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 37 Boost [psi] | 17 TPS [%] | 36 A/F [AFR]"
@@ -76,6 +81,7 @@ std::vector<MadeLog> MadeLogs() {
        "0.037,,12.4,,,OL - Drive\n"
        "0.050,1918,,,4.10,\n"
        "0.062,,20.7,61.0,,\n",
+       "6 x 6: 0.000 0.012 0.025 0.037 0.050 0.062; rpm 900  1409  1918 ; last 3: 17:20.7 101:61.0 71: 102:",
        "UTF-8 comma . titles 10 units 11 data 14\n"
        "time 0 SECONDS 0.012 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 17 TPS [%]"
@@ -110,6 +116,7 @@ std::vector<MadeLog> MadeLogs() {
        "23:59:59.950,3701,1520,3632,-2147483617\n"
        "00:00:00.000,3710,2026,3632,850\n"
        "00:00:00.050,3720,2530,3633,800\n",
+       "4 x 5: 0.000 0.050 0.100 0.150; rpm 3696 3701 3710 3720; last 3:3720 5:253.0 23:90.2 36:11.76",
        "UTF-8 comma . titles 0 units 0 data 25\n"
        "time 0 CLOCK 0.05 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 5 MAP [kPa] x0.1+0 | 23 C Temp [C] x0.1+-273.15"
@@ -120,6 +127,7 @@ std::vector<MadeLog> MadeLogs() {
        "0.04;1000;;0.99;2\n"
        "0.08;1100;5.5;;3\n"
        "0.12;1200;;0.88;4\n",
+       "4 x 5: 0.000 0.040 0.080 0.120; rpm 900 1000 1100 1200; last 3:1200 17: 36:12.94 101:4",
        "UTF-8 semicolon . titles 1 units 0 data 2\n"
        "time 0 SECONDS 0.04 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 17 TPS [%] | 36 A/F [AFR] x14.7+0 | 101 custom/thing\n"},
@@ -132,6 +140,7 @@ std::vector<MadeLog> MadeLogs() {
        "38.601,0.98,1409,0.55,26,0.95,\n"
        "38.701,0.98,1918,0.95,27,0.85,\n"
        "38.801,0.98,2427,1.20,28,0.80,\n",
+       "4 x 6: 0.000 0.100 0.200 0.300; rpm 900 1409 1918 2427; last 101:0.98 3:2427 37:17.40 31:28.0 36:11.76",
        "UTF-8 comma . titles 4 units 0 data 5\n"
        "time 0 SECONDS 0.1 rate 0\n"
        "| 63 Secs [s] | 101 Amb pressure [Bar] | 3 RPM [rpm] | 37 Boost [psi] x14.5038+0"
@@ -150,6 +159,7 @@ std::vector<MadeLog> MadeLogs() {
        "1700000000.175,0,,0.050,10.50,2500,,\n"
        "1700000000.225,0,1,0.100,11.00,2600,10.9,90\n"
        "1700000000.275,0,1,0.150,11.50,,,\n",
+       "4 x 8: 0.000 0.050 0.100 0.150; rpm  2500 2600 ; last 101:1700000000 102:0 103:1 24:25.7 3: 104: 23:",
        "WINDOWS-1252 comma . titles 7 units 8 data 10\n"
        "time 3 SECONDS 0.05 rate 0\n"
        "| 101 timestamp [unix time] | 102 fragment_id | 103 lap_number | 63 Secs [s]"
@@ -161,6 +171,7 @@ std::vector<MadeLog> MadeLogs() {
        "GPS Time, Device Time, Longitude, Latitude,GPS Speed (Meters/second), Engine RPM(rpm),Engine Coolant Temperature(\xC2\xB0\x43),Turbo Boost & Vacuum Gauge(psi),Never Logged\n"
        "Wed Nov 25 00:00:00 GMT+01:00 2026,25-Nov-2026 00:00:00.403,-1.2347,51.2347,8.3,1918,83,-5.8,-\n"
        "Wed Nov 25 00:00:00 GMT+01:00 2026,25-Nov-2026 00:00:00.903,-1.2348,51.2348,8.4,2427,83,-3.8,-\n",
+       "4 x 9: 0.000 0.500 1.000 1.500; rpm 900  1918 2427; last 101:1.000 102:-1.2348 103:51.2348 104:8.4 3:2427 23:83.0 37:-3.80 105:",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 1 DATE 0.5 rate 0\n"
        "| 101 GPS Time | 63 Secs [s] | 102 Longitude | 103 Latitude"
@@ -172,6 +183,7 @@ std::vector<MadeLog> MadeLogs() {
        "0.000, 4.0, 900, 18.0, 10.0\n"
        "0.110, 3.5, 1409, 24.8, 14.0\n"
        "0.220, -2.9, 1918, 31.6, 18.1\n",
+       "3 x 5: 0.000 0.110 0.220; rpm 900 1409 1918; last 49:-2.9 3:1918 24:31.6 5:61.3",
        "UTF-8 comma . titles 2 units 0 data 3\n"
        "time 0 SECONDS 0.11 rate 0\n"
        "| 63 Secs [s] | 49 CR [%] | 3 RPM [rpm] | 24 Speed [mph] | 5 MAP [kPa] x3.3864+0\n"},
@@ -189,6 +201,7 @@ std::vector<MadeLog> MadeLogs() {
        "\"0.020\",\"1,409\",\"47.5\",\"1\"\n"
        "\"0.040\",\"2,000.00\",\"61.3\",\"2\"\n"
        "\"0.060\",\"2,427\",\"75.1\",\"2\"\n",
+       "4 x 4: 0.000 0.020 0.040 0.060; rpm 880.00 1409.00 2000.00 2427.00; last 3:2427.00 5:75.1 101:2",
        "UTF-8 comma . quoted titles 7 units 8 data 10\n"
        "time 0 SECONDS 0.02 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 5 MAP [kPa] | 101 Gear\n"},
@@ -203,6 +216,7 @@ std::vector<MadeLog> MadeLogs() {
        "\"1\",\"1409\",\"4.0\"\n"
        "\"2\",\"2000\",\"5.0\"\n"
        "\"4\",\"2427\",\"6.0\"\n",
+       "4 x 3: 0.000 0.050 0.100 0.150; rpm 880 1409 2000 2427; last 101:4 3:2427 17:6.0",
        "UTF-8 comma . quoted titles 4 units 5 data 7\n"
        "time -1  0 rate 20\n"
        "| 101 Distance [m] | 3 RPM [rpm] | 17 TPS [%]\n"},
@@ -211,6 +225,7 @@ std::vector<MadeLog> MadeLogs() {
        "1,2026-03-15,22:34:39.62814,0.22742,,1054.6875,14.7,4\n"
        "1,2026-03-15,22:34:39.72814,0.32742,,1062.5,14.6,5\n"
        "1,2026-03-15,22:34:39.82814,0.42742,,1070.3125,14.5,6\n",
+       "3 x 8: 0.000 0.100 0.200; rpm 1054.6875 1062.5000 1070.3125; last 101:1 102:0.000 103:0.200 104: 3:1070.3125 36:14.50 17:6.0",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 3 SECONDS 0.1 rate 0\n"
        "| 101 LogID | 102 LogEntryDate | 103 LogEntryTime | 63 Secs [s] | 104 LogNotes"
@@ -223,6 +238,7 @@ std::vector<MadeLog> MadeLogs() {
        "# Lap 1: 00:01:02.345\n"
        "0.200,1700000000.200,1,19.0,1100\n"
        "0.300,1700000000.300,1,19.5,1200\n",
+       "4 x 5: 0.000 0.100 0.200 0.300; rpm 900 1000 1100 1200; last 101:1700000000 102:1 24:19.5 3:1200",
        "UTF-8 comma . titles 2 units 0 data 3\n"
        "time 0 SECONDS 0.1 rate 0\n"
        "| 63 Secs [s] | 101 UTC Time | 102 Lap | 24 Speed [mph] | 3 RPM [rpm]\n"},
@@ -234,6 +250,7 @@ std::vector<MadeLog> MadeLogs() {
        "10,930,19,N,465,463,21.5,\n"
        "11,940,19,Y,470,464,22.0,\n"
        "11,950,19,Y,475,465,22.5,\n",
+       "6 x 7: 0.000 0.250 0.500 0.750 1.000 1.500; rpm 900 910 920 930 940 950; last 3:950 24:19.0 101:Y 102:475 103:465 21:22.5",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 0 SECONDS 1 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 24 Speed [mph] | 101 CLOSED LOOP list | 102 O2"
@@ -244,6 +261,7 @@ std::vector<MadeLog> MadeLogs() {
        "20, , 1409, Synced, 47.5, 82\n"
        "40, A, 1918, Lost, 61.3, 83\n"
        "60, , 2427, Synced, 75.1, 83\n",
+       "4 x 6: 0.000 0.020 0.040 0.060; rpm 900 1409 1918 2427; last 101: 3:2427 102:Synced 5:75.1 23:83.0",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 0 MILLISECONDS 0.02 rate 0\n"
        "| 63 Secs [s] | 101 Marker list | 3 RPM [rpm] | 102 Sync status list | 5 MAP [kPa]"
@@ -255,6 +273,7 @@ std::vector<MadeLog> MadeLogs() {
        "0.0,22.8.2026 15:17,900,0.1,30\n"
        "0.5,22.8.2026 15:17,1400,0.4,35\n"
        "1.0,22.8.2026 15:17,1900,0.8,40\n", false),
+       "3 x 5: 0.000 0.500 1.000; rpm 900 1400 1900; last 101:0.000 3:1900 37:11.60 24:24.9",
        "UTF-16LE comma . titles 2 units 0 data 3\n"
        "time 0 SECONDS 0.5 rate 0\n"
        "| 63 Secs [s] | 101 Clock | 3 RPM [rpm] | 37 Boost [psi] x14.5038+0"
@@ -265,6 +284,7 @@ std::vector<MadeLog> MadeLogs() {
        "22.8.2026 15:17:01,5;900;80,5;1,5\n"
        "22.8.2026 15:17:02,0;1400;80,6;2,5\n"
        "22.8.2026 15:17:02,5;1900;80,7;3,5\n", true),
+       "3 x 4: 0.000 0.500 1.000; rpm 900 1400 1900; last 3:1900 23:80.7 101:3.5",
        "UTF-16BE semicolon , titles 1 units 0 data 2\n"
        "time 0 DATE 0.5 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C] | 101 Gaspedal\n"},
@@ -273,6 +293,7 @@ std::vector<MadeLog> MadeLogs() {
        "0.0|900|20|13.9\n"
        "0.1|1400|21|13.8\n"
        "0.2|1900|22|13.7\n",
+       "3 x 4: 0.000 6.000 12.000; rpm 900 1400 1900; last 3:1900 21:22.0 22:13.70",
        "WINDOWS-1252 bar . titles 1 units 0 data 2\n"
        "time 0 MINUTES 6 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 21 IAdv [deg] | 22 Volt [V]\n"},
@@ -281,11 +302,13 @@ std::vector<MadeLog> MadeLogs() {
        "  1000   900   33.7   4.0\n"
        "  1020  1409   47.5  12.4\n"
        "  1040  1918   61.3  20.7\n",
+       "3 x 4: 0.000 0.020 0.040; rpm 900 1409 1918; last 3:1918 5:61.3 17:20.7",
        "UTF-8 blanks . titles 1 units 0 data 2\n"
        "time 0 MILLISECONDS 0.02 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 5 MAP [kPa] | 17 TPS [%]\n"},
       {"carriage returns alone, days",
        "Date,Engine RPM,Water Temp\r46000.50000,900,80\r46000.50001,1400,81\r46000.50002,1900,82\r46000.50003,2000,83\r",
+       "4 x 3: 0.000 0.864 1.728 2.592; rpm 900 1400 1900 2000; last 3:2000 23:83.0",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 0 DAYS 0.864 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},

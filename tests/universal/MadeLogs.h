@@ -10,7 +10,8 @@ namespace tarnview {
 struct MadeLog {
   std::string name;
   std::string text;
-  std::string shape;  ///< how it reads, as the test prints it
+  std::string loaded;  ///< what it loads as, as the test prints it
+  std::string shape;   ///< how it reads, as the test prints it
 };
 
 /// A text as UTF-16 with a byte order mark.

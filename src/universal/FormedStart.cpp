@@ -1,0 +1,132 @@
+#include "universal/FormedStart.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "fields/TextLines.h"
+#include "universal/ChannelBlocks.h"
+#include "universal/DefinitionFaults.h"
+#include "universal/HeaderMap.h"
+#include "universal/PlainLog.h"
+#include "universal/ShapeText.h"
+#include "universal/TextEncoding.h"
+#include "universal/UniversalLog.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kMostLinesBeforeTitles = 5000;
+
+bool IsUtf8(const clsDataLog& definition) { return EncodingOfName(definition.strEncoding) == TextEncoding::Utf8; }
+
+/// The titles of a line. Where they are more than the fields of a line of data, brackets are taken to hold delimiters.
+std::vector<std::string> TitlesOfLine(std::string_view line, std::size_t fieldsOfData, const clsDataLog& definition) {
+  const std::string decoded = IsUtf8(definition) ? PlainBytes(line, TextEncoding::Utf8) : std::string(line);
+  std::string_view text = decoded;
+  text.remove_prefix(TitleMarkOf(text).size());
+  const auto fields = SplitFields(text, definition.lngDelimiterAsciiCharacter);
+  const char delimiter = static_cast<char>(definition.lngDelimiterAsciiCharacter);
+  std::vector<std::string> titles(fields.begin(), fields.end());
+  if (auto joined = JoinInBrackets(fields, delimiter); fields.size() > fieldsOfData && joined.size() >= fieldsOfData)
+    titles = std::move(joined);
+  for (std::string& title : titles) {
+    std::replace(title.begin(), title.end(), kQuotedDelimiter, delimiter);
+    title = TrimControlCharacters(title);
+  }
+  return titles;
+}
+
+/// The line begins with the titles that the definition wants in front.
+bool StartsWithTitles(std::string_view line, const clsDataLog& definition) {
+  const auto wanted = Split(definition.strTitlesStart, static_cast<char>(definition.lngDelimiterAsciiCharacter));
+  const auto found = TitlesOfLine(line, wanted.size(), definition);
+  if (found.size() < wanted.size()) return false;
+  return std::equal(wanted.begin(), wanted.end(), found.begin(),
+                    [](const std::string& a, const std::string& b) { return SameIgnoringCase(Trim(a), b); });
+}
+
+/// Leaves `text` at the line of titles; false where no line starts as it is told.
+bool FindTitles(std::string_view& text, const clsDataLog& definition) {
+  std::string_view rest = text, line;
+  for (int lines = 0; lines < kMostLinesBeforeTitles; ++lines) {
+    const std::string_view at = rest;
+    if (!TakeLine(rest, line)) return false;
+    if (!StartsWithTitles(line, definition)) continue;
+    text = at;
+    return true;
+  }
+  return false;
+}
+
+std::size_t FieldsOfFirstLine(std::string_view data, const clsDataLog& definition) {
+  std::string_view line;
+  TakeLine(data, line);
+  return SplitFields(line, definition.lngDelimiterAsciiCharacter).size();
+}
+
+/// The preamble's channels behind a clock. All lines count as data: those without a clock's time are no samples.
+LogStart StartOfChannels(std::string_view text) {
+  LogStart start;
+  const auto channels = ReadChannelBlocks(LinesOf(text.substr(0, ShapeText::kHead)), "CHANNEL");
+  start.titles.emplace_back("Time");
+  for (const ChannelBlock& channel : channels) start.titles.push_back(channel.name);
+  start.data = text;
+  return start;
+}
+
+LogStart StartWithoutTitles(std::string_view text, const clsDataLog& definition, const std::string& path) {
+  if (!SkipFileLines(text, definition.lngDataLinesBefore)) throw DefinitionFault(Message::FileNotLoaded, path);
+  LogStart start;
+  start.titles.resize(FieldsOfFirstLine(text, definition));
+  start.data = text;
+  return start;
+}
+
+LogStart StartAtTitles(std::string_view text, const clsDataLog& definition, const std::string& path) {
+  const bool found = !definition.strTitlesStart.empty() && FindTitles(text, definition);
+  if (!found && (!SkipFileLines(text, definition.lngColumnHeadersLinesBefore) || text.empty()))
+    throw DefinitionFault(Message::HeaderIncomplete, path);
+  LogStart start;
+  start.data = text;
+  start.titleLine = TextLines(text).Next();
+  const long toData = std::max(definition.lngDataLinesBefore - definition.lngColumnHeadersLinesBefore, 1);
+  if (!SkipFileLines(start.data, toData)) throw DefinitionFault(Message::FileNotLoaded, path);
+  start.titles = TitlesOfLine(start.titleLine, FieldsOfFirstLine(start.data, definition), definition);
+  return start;
+}
+
+}  // namespace
+
+LogStart FindFormedStart(std::string_view text, const clsDataLog& definition, const std::string& path) {
+  LogStart start;
+  if (SameIgnoringCase(definition.strTitlesFrom, "CHANNELS"))
+    start = StartOfChannels(text);
+  else if (SameIgnoringCase(definition.strTitlesFrom, "NONE"))
+    start = StartWithoutTitles(text, definition, path);
+  else
+    start = StartAtTitles(text, definition, path);
+  for (std::size_t at = 0; at < start.titles.size(); ++at)
+    if (start.titles[at].empty()) start.titles[at] = "Column " + std::to_string(at + 1);
+  return start;
+}
+
+std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fields, char delimiter) {
+  std::vector<std::string> joined;
+  int open = 0;
+  for (const std::string_view field : fields) {
+    if (open > 0)
+      joined.back() += delimiter + std::string(Trim(field));
+    else
+      joined.emplace_back(field);
+    for (const char c : field) open += (c == '(') - (c == ')');
+    open = std::max(open, 0);
+  }
+  return joined;
+}
+
+std::string_view TitleMarkOf(std::string_view line) {
+  const auto end = line.find_first_not_of("#%*>!/ ");
+  return end == std::string_view::npos ? std::string_view() : line.substr(0, end);
+}
+
+}  // namespace tarnview

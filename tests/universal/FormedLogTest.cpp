@@ -1,0 +1,106 @@
+// What a definition may tell of a log's form, key by key.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "DefinitionText.h"
+#include "model/Catalogue.h"
+#include "universal/DefinitionReader.h"
+#include "universal/LogTimes.h"
+#include "universal/PlainLog.h"
+#include "universal/UniversalDataItems.h"
+#include "universal/UniversalLog.h"
+
+namespace tarnview {
+namespace {
+
+/// Cells of item 5 of a log with the columns "Time" and "A": "10 20~" where no value was logged in the second row.
+std::string CellsOf(const std::string& header, const std::string& text, const std::string& column = "",
+                    const char* time = "Time") {
+  const Catalogue catalogue = BuildDataItemCatalogue();
+  const DefinitionText file{header, {ColumnText(time, 63, 3), ColumnText("A", 5, 0, column)}, ""};
+  const clsDataLog definition = ReadDataLogDefinition(file.Text(), "", catalogue.gcolFixedDataItems);
+  const clsLogDataItems items = GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+  const Settings settings;
+  const ConversionTables tables;
+  NoProgress progress;
+  OpenLog log;
+  LoadGenericDataLog(text, {log, items, settings, tables, progress}, definition);
+  std::string cells;
+  for (int row = 0; row < log.glngDataLog.Rows(); ++row) {
+    cells += (row ? " " : "") + std::to_string(log.glngDataLog(4, row));
+    if (!log.glngDataLog.IsLogged(4, row)) cells += "~";
+  }
+  return cells;
+}
+
+TEST(FormedLog, EachKeyByItself) {
+  const struct {
+    const char* header;
+    std::string text;
+    const char* cells;
+  } kRows[] = {
+      {"", "Time,A\n1,7\n2,\n3,x\n", "7 0 0"},
+      {"NOVALUETEXTS=x|n/a\n", "Time,A\n1,\n2,7\n3,X\n4, n/a\n5,8\n", "7~ 7 7~ 7~ 8"},
+      {"NOVALUETEXTS=x\nTIMEFORM=SECONDS\n", "Time,A\n1,9\n2\n3,-2147483617\n", "9 9~ 9~"},
+      {"NOVALUETEXTS=a long text\n", "Time,A\n1,9\n2,A long text\n3,1\n", "9 9~ 1"},
+      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", "Time;A\n1;7,6\n2;8,4\n3;9\n", "8 8 9"},
+      {"QUOTED=Y\n", "\"Time\",\"A\"\n\"1\",\"2,000\"\n\"2\",\"7\"\n3,8\n", "2000 7 8"},
+      {"QUOTED=Y\nDECIMALSIGN=,\n", "Time,A\n\"1\",\"1.234,6\"\n2,\"7,4\"\n3,8\n", "1235 7 8"},
+      {"QUOTED=Y\n", "Time,A\n\"1,\"7\"\n\"2\",\"8\"\n3,9\n", "8 9"},
+      {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n", "  Time   A \n 1 \t 7\n 2   8 \n3 9\n", "7 8 9"},
+      {"COMMENTPREFIX=#\nLINEFREQUENCY=5\n", "Time,A\n#a,b\n1,7\n2,8\n3,9\n", "7 8 9"},
+      {"TITLESSTART=Time,A\nDATALINESBEFORE=2\n", "note, of it\n# Time, A\ns,kPa\n1,7\n2,8\n3,9\n", "7 8 9"},
+      {"TITLESSTART=Other,A\n", "Time,A\n1,7\n2,8\n3,9\n", "7 8 9"},
+      {"ENCODING=UTF-16LE\n",
+       std::string("T\0i\0m\0e\0,\0A\0\n\0", 14) + std::string("1\0,\0", 4) + std::string("7\0\n\0", 4) +
+           std::string("2\0,\0"
+                       "8\0\n\0"
+                       "3\0,\0"
+                       "9\0",
+                       14),
+       "7 8 9"},
+      {"ENCODING=UTF-8\n", "\xEF\xBB\xBFTime,A\r1,7\r2,8\r3,9\r", "7 8 9"},
+      {"TIMEFORM=SECONDS\n", "Time,A\n1,7\nMARK,5\n# 2,3\n\n-2,8\nTime,A\n3,9\n", "7 8 9"},
+      {"TIMEFORM=SECONDS\nTITLESFROM=CHANNELS\n", "Channel : A\nType : x\nChannel : B\n1,7\n2,8\n3,9\n", "7 8 9"},
+  };
+  for (const auto& row : kRows) {
+    std::string header = row.header;
+    EXPECT_EQ(CellsOf(header, row.text), row.cells) << row.header;
+  }
+}
+
+TEST(FormedLog, OfLikeTitlesOneCanBeMeant) {
+  const std::string log = "Time,A,A\n1,7,70\n2,8,80\n3,9,90\n";
+  EXPECT_EQ(CellsOf("TIMEFORM=SECONDS\n", log, "TITLEOCCURRENCE=1\n"), "7 8 9");
+  EXPECT_EQ(CellsOf("TIMEFORM=SECONDS\n", log, "TITLEOCCURRENCE=2\n"), "70 80 90");
+}
+
+TEST(FormedLog, WithoutTitlesTheColumnsAreNumbered) {
+  EXPECT_EQ(CellsOf("TITLESFROM=NONE\nDATALINESBEFORE=0\nTIMEFORM=SECONDS\n", "1,7\n2,8\n3,9\n",
+                    "COLUMNTITLE=Column 2\n", "Column 1"),
+            "7 8 9");
+}
+
+std::string Times(std::vector<double> stamps, TimeForm form = TimeForm::Seconds) {
+  std::string text;
+  for (const double time : TimesOfLines(stamps, form))
+    text += (text.empty() ? "" : " ") + NumberText(RoundPlaces(time, 3));
+  return text;
+}
+
+TEST(LogTimes, CountFromTheFirstAndNeverFall) {
+  const double none = std::nan("");
+  EXPECT_EQ(Times({38.5, 38.6, 38.7}), "0 0.1 0.2");
+  EXPECT_EQ(Times({86399.5, 86399.9, 0.3, 0.7}, TimeForm::Clock), "0 0.4 0.8 1.2");
+  EXPECT_EQ(Times({10, 10, 11, 11, 12, 12}), "0 0.5 1 1.5 2 2.5");  // whole seconds
+  EXPECT_EQ(Times({10, 10, 11, 11, 50, 51}), "0 0.5 1 2.5 40 41");  // a pause is no span
+  EXPECT_EQ(Times({5, 6, 7, 0, 1, 2}), "0 1 2 3 4 5");              // started anew
+  EXPECT_EQ(Times({5, 6, 5.9, 7}), "0 1 1.5 2");                    // lines changed places
+  EXPECT_EQ(Times({none, 5, none, 7}), "0 0.667 1.333 2");
+  EXPECT_EQ(Times({}), "");
+}
+
+}  // namespace
+}  // namespace tarnview
