@@ -13,7 +13,7 @@ enum Column : int {
   kO2,
   kO2A,
   kWGCM,
-  kWGPercent,  // 0
+  kWGPercent,  // item 10
   kEGR,
   kFuelP,
   kInjW,
@@ -23,7 +23,7 @@ enum Column : int {
   kTPS,
   kNeutral,
   kComp,
-  kKnock,  // 10
+  kKnock,  // item 20
   kIAdv,
   kVolt,
   kCTemp,
@@ -33,7 +33,7 @@ enum Column : int {
   kAC,
   kPRC,
   kChPurge,
-  kKnockC,  // 20
+  kKnockC,  // item 30
   kATemp,
   kAuxNS,
   kKnockT,
@@ -43,7 +43,7 @@ enum Column : int {
   kBoost,
   kVacuum,
   kAuxNF,
-  kAuxCS,  // 30
+  kAuxCS,  // item 40
   kAuxCF,
   kKnockE,
   kMAPLmt,
@@ -53,7 +53,7 @@ enum Column : int {
   kPWOFF,
   kGAMA,
   kCR,
-  kEGOV,  // 40
+  kEGOV,  // item 50
   kGPO1,
   kTDUTY,
   kTPWON,
@@ -63,7 +63,7 @@ enum Column : int {
   kAD3,
   kAD4,
   kGPO2,
-  kGFG,  // 50
+  kGFG,  // item 60
   kSIA,
   kKNR,
   kSecs,
@@ -73,7 +73,7 @@ enum Column : int {
   kIgnZV,
   kTumble,
   kL4,
-  kL3Idle,  // 60
+  kL3Idle,  // item 70
   kMAF,
   kMAFM,
   kIAdvM,
@@ -83,10 +83,10 @@ enum Column : int {
   kMLP,
   kMAPD,
   kMAFD,
-  kTPSD,  // 70
+  kTPSD,  // item 80
   kMAFHz,
   kMAFMHz,
-  kAFTgt,  // 80
+  kAFTgt,
   kColumnCount
 };
 static_assert(kColumnCount == 83 && kSecs == 62 && kKnock == 19);
