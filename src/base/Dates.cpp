@@ -28,7 +28,6 @@ struct Order {
 /// In the order in which they are tried: day first, month first, year first.
 constexpr std::array<Order, 4> kOrders{{{0, 1, 2}, {1, 0, 2}, {2, 1, 0}, {1, 2, 0}}};
 
-bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// Runs of digits and of letters; nothing if the text has other things than dates have, or not three runs.
@@ -66,7 +65,8 @@ int MonthOf(std::string_view text) {
 int YearOf(std::string_view text) {
   const int year = NumberOfDigits(text, 4);
   if (text.size() > 2) return year;
-  return year < 0 ? -1 : year < 30 ? 2000 + year : 1900 + year;
+  if (year < 0) return -1;
+  return year + (year < 30 ? 2000 : 1900);
 }
 
 std::optional<Date> InOrder(const std::array<std::string_view, 3>& parts, const Order& order) {

@@ -7,8 +7,6 @@
 namespace tarnview {
 namespace {
 
-constexpr char UpperOf(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
 template <class Drop>
 std::string_view TrimWhere(std::string_view text, Drop drop) {
   while (!text.empty() && drop(text.front())) text.remove_prefix(1);
@@ -81,12 +79,13 @@ std::string_view StripQuotes(std::string_view text) {
 
 std::string Upper(std::string_view text) {
   std::string upper(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(), UpperOf);
+  std::transform(upper.begin(), upper.end(), upper.begin(), AsciiUpper);
   return upper;
 }
 
 bool SameIgnoringCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return UpperOf(x) == UpperOf(y); });
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return AsciiUpper(x) == AsciiUpper(y); });
 }
 
 std::vector<std::string> Split(std::string_view text, char delimiter) {

@@ -16,6 +16,8 @@ std::string_view TrimSpecifiedChars(std::string_view text, std::string_view char
 /// One leading and one trailing double quote.
 std::string_view StripQuotes(std::string_view text);
 
+constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 std::string Upper(std::string_view text);
 bool SameIgnoringCase(std::string_view a, std::string_view b);
 /// An empty text has no parts.

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/Text.h"
 #include "fields/FixedLine.h"
 
 namespace tarnview {
@@ -52,6 +53,13 @@ constexpr std::size_t kSecondLayoutFrom = 63;  ///< a line of this length carrie
 
 using LogLine = FixedLine<kLogLineReach>;
 
+/// 1 for a field's first mark, 2 for its second where it has one, else 0.
+template <Field F>
+std::int32_t WhichMark(char c) {
+  if (c == F.first) return 1;
+  return F.second && c == F.second ? 2 : 0;
+}
+
 template <Field F, class Line>
 std::int32_t Read(const Line& line, const FMLinkItems& items) {
   switch (F.rule) {
@@ -62,12 +70,9 @@ std::int32_t Read(const Line& line, const FMLinkItems& items) {
     case Rule::Tenths:
       return RoundToLong(line.Number(F.at, F.length) * 10);
     case Rule::Mark:
-      return line.At(F.at) == F.first ? 1 : F.second && line.At(F.at) == F.second ? 2 : 0;
-    case Rule::UpperMark: {
-      const char c = line.At(F.at);
-      const char upper = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-      return upper == F.first ? 1 : upper == F.second ? 2 : 0;
-    }
+      return WhichMark<F>(line.At(F.at));
+    case Rule::UpperMark:
+      return WhichMark<F>(AsciiUpper(line.At(F.at)));
     case Rule::NotMark:
       return line.At(F.at) == F.first ? 0 : 1;
   }
@@ -100,12 +105,16 @@ void ReadWastegateOrEGR(const LogLine& line, SampleStore& store, int row) {
   const bool wastegate = line.At(27) != ' ' || line.Length() >= kSecondLayoutFrom;
   const std::int32_t value = line.Whole(28, 3);
   if (!wastegate) return store.Set(kEGR, row, value);
-  store.Set(kWGCM, row, line.At(27) == 'c' ? 1 : store(kMAP, row) >= kWastegateOpensAt ? 2 : 0);
+  const std::int32_t byPressure = store(kMAP, row) >= kWastegateOpensAt ? 2 : 0;
+  store.Set(kWGCM, row, line.At(27) == 'c' ? 1 : byPressure);
   store.Set(kWGPercent, row, value);
 }
 
 /// Without a throttle sensor, the idle and full throttle switches say where the throttle is.
-std::int32_t TPSOfSwitches(std::int32_t throttle) { return throttle == 1 ? 1000 : throttle == 2 ? 10000 : 5000; }
+std::int32_t TPSOfSwitches(std::int32_t throttle) {
+  if (throttle == 1) return 1000;
+  return throttle == 2 ? 10000 : 5000;
+}
 
 /// At 44: the throttle sensor of a 1.8, else the idle air valve; or, told by a point, the auxiliary input.
 void ReadThrottleAndIAC(const LogLine& line, bool version18, SampleStore& store, int row) {

@@ -26,8 +26,9 @@ void UTECSamples::Add() {
 int UTECSamples::ScaleOf(UTECRule rule, Column column) const {
   if (rule == UTECRule::Boost) return 0;
   if (rule != UTECRule::Factored && rule != UTECRule::CoolantTemp && rule != UTECRule::AirFuel) return -1;
-  const double factor = factor_[column];
-  return factor == 1 ? 0 : factor == 10 ? 1 : factor == 100 ? 2 : factor == 1000 ? 3 : -1;
+  constexpr double kPowersOfTen[] = {1, 10, 100, 1000};
+  const auto found = std::find(std::begin(kPowersOfTen), std::end(kPowersOfTen), factor_[column]);
+  return found == std::end(kPowersOfTen) ? -1 : static_cast<int>(found - std::begin(kPowersOfTen));
 }
 
 inline std::int32_t UTECSamples::StoredOne(UTECRule rule, Column column, double number) {

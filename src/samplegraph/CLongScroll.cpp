@@ -29,12 +29,14 @@ void CLongScroll::Client(ScrollBar* bar) {
 
 void CLongScroll::Max(std::int32_t max) {
   max_ = max;
-  if (Reversed() ? value_ > min_ : value_ > max_ || (max_ == min_ && value_ != max_)) value(Reversed() ? min_ : max_);
+  const std::int32_t highest = Higher();
+  if (value_ > highest || (max_ == min_ && value_ != max_)) value(highest);
 }
 
 void CLongScroll::Min(std::int32_t min) {
   min_ = min;
-  if (Reversed() ? value_ < max_ : value_ < min_ || (max_ == min_ && value_ != min_)) value(Reversed() ? max_ : min_);
+  const std::int32_t lowest = Lower();
+  if (value_ < lowest || (max_ == min_ && value_ != min_)) value(lowest);
 }
 
 void CLongScroll::value(std::int32_t value) {

@@ -34,7 +34,11 @@ VerticalScale ScaleForFixedMax(std::int32_t wanted) {
   return {fit.step * fit.lines, fit.lines};
 }
 
-std::string TimeAxisFormat(double span) { return span < 1 ? "#######0.00" : span < 10 ? "#######0.0" : "#######0"; }
+std::string TimeAxisFormat(double span) {
+  if (span < 1) return "#######0.00";
+  if (span < 10) return "#######0.0";
+  return "#######0";
+}
 
 std::int32_t ThinStep(std::int32_t plotSpan, bool quick) {
   if (!quick || plotSpan <= kQuickGraphRows) return 1;

@@ -14,8 +14,7 @@ std::weak_ordering Compare(const std::string& a, const std::string& b) {
   double x = 0, y = 0;
   const bool xIsNumber = std::from_chars(a.data(), a.data() + a.size(), x).ptr == a.data() + a.size() && !a.empty();
   const bool yIsNumber = std::from_chars(b.data(), b.data() + b.size(), y).ptr == b.data() + b.size() && !b.empty();
-  if (xIsNumber && yIsNumber)
-    return x < y ? std::weak_ordering::less : y < x ? std::weak_ordering::greater : std::weak_ordering::equivalent;
+  if (xIsNumber && yIsNumber) return std::weak_order(x, y);
   if (xIsNumber != yIsNumber) return xIsNumber ? std::weak_ordering::less : std::weak_ordering::greater;
   return a <=> b;
 }

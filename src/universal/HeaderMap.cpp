@@ -34,8 +34,7 @@ std::int32_t ValueLookup::operator()(std::string_view field) {
   field = Trim(field);
   if (field.size() > longest_) return 0;
   capitals_ = field;
-  std::transform(capitals_.begin(), capitals_.end(), capitals_.begin(),
-                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  std::transform(capitals_.begin(), capitals_.end(), capitals_.begin(), AsciiUpper);
   const auto found = translations_.find(capitals_);
   return found == translations_.end() ? 0 : found->second;
 }

@@ -14,7 +14,6 @@ constexpr std::int64_t kSecondsPerDay = 86400;
 constexpr std::string_view kMonths = "JANFEBMARAPRMAYJUNJULAUGSEPOCTNOVDEC";
 
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 /// Takes digits off the front: at most `most`, at least one.
 std::optional<int> TakeNumber(std::string_view& text, std::size_t most) {

@@ -102,7 +102,8 @@ bool ChartGestures::Press(const QMouseEvent& event) {
   pressed_ = event.position();
   grabbed_ = XAt(pressed_.x());
   const bool pans = moves_ && (!left || event.modifiers().testFlag(Qt::ShiftModifier));
-  Begin(pans ? Drag::Pan : left ? Drag::Click : Drag::None);
+  const Drag plain = left ? Drag::Click : Drag::None;
+  Begin(pans ? Drag::Pan : plain);
   return true;
 }
 

@@ -65,7 +65,9 @@ bool ChooseFile(Dialog& dialog, QWidget* parent) {
   const QStringList filters = ToNameFilters(dialog.filter);
   const bool folder = dialog.kind == DialogKind::Folder;
   const bool save = dialog.kind == DialogKind::Save;
-  box.setFileMode(folder ? QFileDialog::Directory : save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  box.setFileMode(QFileDialog::ExistingFile);
+  if (save) box.setFileMode(QFileDialog::AnyFile);
+  if (folder) box.setFileMode(QFileDialog::Directory);
   box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   box.setOption(QFileDialog::ShowDirsOnly, folder);
   if (!filters.isEmpty()) {
