@@ -2,6 +2,7 @@
 
 #include <QPolygonF>
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 #include "qt/Text.h"
@@ -21,8 +22,16 @@ constexpr MarkColours kLowered{0xFF0072B2, 0xFF56B4E9};
 constexpr int kReadable = 90;
 constexpr double kMarkedTint = 0.18;
 constexpr double kSelectedTint = 0.3;
+constexpr double kLighter = 0.35;
+/// The luminance at which black and white contrast alike (WCAG 2.1, relative luminance).
+constexpr double kBlackReadsBetter = 0.179;
 
 bool IsDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
+
+double Luminance(const QColor& colour) {
+  const auto light = [](double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+  return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) + 0.0722 * light(colour.blueF());
+}
 
 QColor Of(const MarkColours& colours, bool dark) { return QColor(dark ? colours.onDark : colours.onLight); }
 
@@ -60,11 +69,13 @@ QColor GridPainter::BackOf(const GridCell& cell) const {
   return mark ? Mix(base, Of(*mark, IsDark(base)), kMarkedTint) : base;
 }
 
-/// A text that would vanish on what is behind it is drawn in black or white.
+/// A text that would vanish on what is behind it is drawn in black or white; red on a dark desktop is lighter.
 QColor GridPainter::TextOf(const GridCell& cell, const QColor& back) const {
   const QColor wanted = cell.colour == kDesktopColour ? palette_.color(QPalette::Text) : ColourToQt(cell.colour);
-  if (std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable || wanted.hsvSaturation() > 128) return wanted;
-  return IsDark(back) ? Qt::white : Qt::black;
+  if (wanted.hsvSaturation() > 128) return IsDark(back) ? Mix(wanted, Qt::white, kLighter) : wanted;
+  if (cell.backColour == kDesktopColour && std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable)
+    return wanted;
+  return Luminance(back) < kBlackReadsBetter ? Qt::white : Qt::black;
 }
 
 void GridPainter::Cell(const QRect& place, const GridCell& cell, bool selected) const {
