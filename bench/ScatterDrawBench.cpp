@@ -18,7 +18,7 @@ ChartDescription Cloud(int points, bool tint, bool density) {
   ChartDescription chart;
   chart.x = {0, 8000, 8, "#######0", "RPM"};
   chart.y = {8, 20, 12, "#######0.0", "Air/Fuel Ratio"};
-  PointCloud& cloud = chart.points.emplace();
+  PointCloud& cloud = chart.kind.emplace<PointCloud>();
   cloud.size = 3;
   cloud.density = density;
   cloud.tintAxis = {0, 1, 10, "0.0", "Load"};

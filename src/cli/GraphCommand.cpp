@@ -35,7 +35,7 @@ bool DrawInWindow(LogSession& session, const GraphOptions& options) {
   }
   session.EnterRange();
   window.cmdDrawGraph.Press();
-  return !window.chSampleGraph.Data().series.empty();
+  return !window.chSampleGraph.Data().Series().empty();
 }
 
 int Graph(const GraphOptions& options) {

@@ -76,9 +76,9 @@ bool FillIn(LogSession& session, frmScatterGraph& window, const ScatterOptions& 
 /// What the chart received; without points where nothing was drawn.
 Json Tell(LogSession& session, const frmScatterGraph& window) {
   ChartDescription chart = window.chScatterGraph.Data();
-  if (!chart.points) {
+  if (!chart.Cloud()) {
     const ScatterRequest set = window.Request();
-    PointCloud& none = chart.points.emplace();
+    PointCloud& none = chart.kind.emplace<PointCloud>();
     none.xItem = set.xItem;
     none.yItem = set.yItem;
     List filters;
@@ -112,7 +112,7 @@ int Scatter(const ScatterOptions& options) {
   if (filled) window.cmdDrawGraph.Press();
   const ChartDescription& chart = window.chScatterGraph.Data();
   if (options.json) Print(Tell(session, window));
-  return chart.points && Export(session, window, options) && DrawPicture(chart, options.picture) ? kDone : kFailed;
+  return chart.Cloud() && Export(session, window, options) && DrawPicture(chart, options.picture) ? kDone : kFailed;
 }
 
 void AddStyleOptions(CLI::App& command, ScatterOptions& options) {

@@ -43,7 +43,7 @@ class GraphMouse {
   void PointAt(double x);
   void PointAway();
 
-  bool Drawn() const { return !controls_.chSampleGraph.Data().series.empty(); }
+  bool Drawn() const { return !controls_.chSampleGraph.Data().Series().empty(); }
   double TimeOf(std::int32_t index) const;
   std::int32_t IndexAt(double x) const;
   std::int32_t WidestRange() const;

@@ -123,10 +123,11 @@ void SampleGraph::Build() {
 ChartDescription SampleGraph::Describe() const {
   const ChartTable& table = plot_.varChartData;
   ChartDescription chart;
+  auto& series = chart.kind.emplace<Curves>().series;
   for (std::size_t j = 0; j < plot_.intPlottedItems.size(); ++j) {
     const clsLogDataItem& item = log_.gcolDataItems->Item(plot_.intPlottedItems[j]);
     const Pen pen{item.lngColour, static_cast<int>(item.lngLineStyle), static_cast<int>(item.lngLineWidth * 10)};
-    chart.series.push_back({item.intSeq, table.headings[j], table.x, table.y[j], pen});
+    series.push_back({item.intSeq, table.headings[j], table.x, table.y[j], pen});
   }
   chart.x = {table.lowestX, table.highestX, 10, TimeAxisFormat(table.highestX - table.lowestX)};
   const VerticalScale scale = controls_.chkFixY.Value
@@ -147,7 +148,7 @@ int SampleGraph::PlaceOf(int item) const {
 }
 
 void SampleGraph::SelectAgain() {
-  if (controls_.chSampleGraph.Data().series.empty()) return;
+  if (controls_.chSampleGraph.Data().Series().empty()) return;
   int place = PlaceOf(plot_.intSelectedItem);
   if (place == 0) place = PlaceOf(ItemOf(kRPM));
   if (place == 0) place = 1;

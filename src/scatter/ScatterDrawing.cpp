@@ -81,7 +81,7 @@ void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
 ChartDescription ScatterDrawing::Describe(const ScatterRequest& request) const {
   const auto title = [&](int item) { return log_.gcolDataItems->Item(item).strLongName; };
   ChartDescription chart;
-  PointCloud& cloud = chart.points.emplace();
+  PointCloud& cloud = chart.kind.emplace<PointCloud>();
   cloud.xItem = request.xItem;
   cloud.yItem = request.yItem;
   cloud.x = ValuesOf(log_, request.xItem, rows_);
@@ -112,7 +112,7 @@ void ScatterDrawing::Recolour(const ScatterRequest& request) {
   Chart& chart = controls_.chScatterGraph;
   const int point = chart.SelectedPoint();
   ChartDescription data = chart.Data();
-  Colour(*data.points, request);
+  Colour(std::get<PointCloud>(data.kind), request);
   chart.SetData(std::move(data));
   if (point > 0) chart.SelectPoint(1, point);
 }

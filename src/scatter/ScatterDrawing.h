@@ -45,13 +45,13 @@ class ScatterDrawing {
   /// The log goes: the graph stays, but its points have no samples any more.
   void LogChanged() { ofOpenLog_ = false; }
 
-  bool Drawn() const { return controls_.chScatterGraph.Data().points.has_value(); }
+  bool Drawn() const { return controls_.chScatterGraph.Data().Cloud() != nullptr; }
   bool OfOpenLog() const { return Drawn() && ofOpenLog_; }
 
   // Of the graph on show.
 
   /// The points with their `Sample` values.
-  const PointCloud& dblScatterData() const { return *controls_.chScatterGraph.Data().points; }
+  const PointCloud& dblScatterData() const { return *controls_.chScatterGraph.Data().Cloud(); }
   /// The store index of a point, from 1; -1 where the log is another by now.
   std::int32_t IndexOfPoint(int point) const { return OfOpenLog() ? rows_[static_cast<std::size_t>(point - 1)] : -1; }
   /// The log's path.

@@ -9,6 +9,13 @@ void Chart::SetData(ChartDescription data) {
   Changed(What::Content);
 }
 
+void Chart::SetView(const SurfaceView& view) {
+  auto* surface = std::get_if<Surface>(&data_.kind);
+  if (!surface || surface->view == view) return;
+  surface->view = view;
+  Changed(What::Content);
+}
+
 void Chart::SelectPoint(int series, int point) {
   series_ = series;
   point_ = point;
@@ -17,7 +24,7 @@ void Chart::SelectPoint(int series, int point) {
 }
 
 void Chart::Describe(Object& facts) const {
-  facts.emplace_back("series", static_cast<int>(data_.series.size()));
+  facts.emplace_back("series", static_cast<int>(data_.Series().size()));
   facts.emplace_back("selected", List{series_, point_});
 }
 
@@ -33,13 +40,10 @@ void Chart::Perform(const Action& action) {
     const char* verb;
     std::function<void()> run;
   } kGestures[] = {
-      {"popup", [&] { RightClick(); }},
-      {"point", [&] { PerformPoint(action); }},
-      {"double", [&] { DblClick(); }},
-      {"wheel", [&] { Wheel(x(0), x(1)); }},
-      {"band", [&] { Band(x(0), x(1)); }},
-      {"pan", [&] { Pan(x(0), x(1)); }},
-      {"hover", [&] { action.words.empty() ? HoverEnd() : Hover(x(0)); }},
+      {"popup", [&] { RightClick(); }},    {"point", [&] { PerformPoint(action); }},
+      {"double", [&] { DblClick(); }},     {"wheel", [&] { Wheel(x(0), x(1)); }},
+      {"band", [&] { Band(x(0), x(1)); }}, {"pan", [&] { Pan(x(0), x(1)); }},
+      {"turn", [&] { Turn(x(0), x(1)); }}, {"hover", [&] { action.words.empty() ? HoverEnd() : Hover(x(0)); }},
   };
   for (const auto& row : kGestures)
     if (action.verb == row.verb) return row.run();
@@ -49,12 +53,19 @@ void Chart::Perform(const Action& action) {
 void Chart::PerformPoint(const Action& action) {
   const int series = action.Number(0);
   const int point = action.Number(1);
-  const auto place = static_cast<std::size_t>((series - 1) / 2);
-  const bool known = data_.points ? series == 1 : series >= 1 && series % 2 == 1 && place < data_.series.size();
-  if (!known) throw CannotDo(FullName() + " has no such series");
-  const auto& x = data_.points ? data_.points->x : data_.series[place].x;
-  if (point < 1 || static_cast<std::size_t>(point) > x.size()) throw CannotDo(FullName() + " has no such point");
+  const std::size_t points = PointsOf(series);
+  if (points == 0) throw CannotDo(FullName() + " has no such series");
+  if (point < 1 || static_cast<std::size_t>(point) > points) throw CannotDo(FullName() + " has no such point");
   SelectPoint(series, point);
+}
+
+std::size_t Chart::PointsOf(int series) const {
+  if (series < 1) return 0;
+  const auto number = static_cast<std::size_t>(series);
+  if (const Surface* surface = data_.AsSurface()) return number <= surface->rows.size() ? surface->columns.size() : 0;
+  if (const PointCloud* cloud = data_.Cloud()) return number == 1 ? cloud->x.size() : 0;
+  const std::size_t place = (number - 1) / 2;
+  return number % 2 == 1 && place < data_.Series().size() ? data_.Series()[place].x.size() : 0;
 }
 
 }  // namespace tarnview

@@ -1,25 +1,13 @@
 #include "ui/ChartDescription.h"
 
+#include <iterator>
+
 namespace tarnview {
 namespace {
 
-Object DescribePoints(const PointCloud& cloud, Object facts) {
-  List points;
-  for (std::size_t i = 0; i < cloud.x.size(); ++i)
-    points.emplace_back(MakeList(std::vector<double>{cloud.x[i], cloud.y[i], cloud.sample[i]}));
-  facts.emplace_back("x_item", cloud.xItem);
-  facts.emplace_back("y_item", cloud.yItem);
-  facts.emplace_back("points", std::move(points));
-  return facts;
-}
-
-}  // namespace
-
-Object Describe(const ChartDescription& chart) {
-  if (chart.points) return DescribePoints(*chart.points, chart.facts);
-  Object facts = chart.facts;
+Object DescribeKind(const Curves& curves, const ChartDescription& chart) {
   List series;
-  for (const ChartSeries& one : chart.series)
+  for (const ChartSeries& one : curves.series)
     series.emplace_back(Object{{"item", one.id},
                                {"name", one.name},
                                {"x", MakeList(one.x)},
@@ -27,9 +15,54 @@ Object Describe(const ChartDescription& chart) {
                                {"colour", one.pen.colour},
                                {"style", one.pen.style},
                                {"width", one.pen.width / 10}});
-  facts.emplace_back("series", std::move(series));
-  facts.emplace_back("x_axis", Object{{"min", chart.x.min}, {"max", chart.x.max}, {"format", chart.x.format}});
-  facts.emplace_back("y_axis", Object{{"max", chart.y.max}, {"divisions", chart.y.divisions}});
+  return {{"series", std::move(series)},
+          {"x_axis", Object{{"min", chart.x.min}, {"max", chart.x.max}, {"format", chart.x.format}}},
+          {"y_axis", Object{{"max", chart.y.max}, {"divisions", chart.y.divisions}}}};
+}
+
+Object DescribeKind(const PointCloud& cloud, const ChartDescription&) {
+  List points;
+  for (std::size_t i = 0; i < cloud.x.size(); ++i)
+    points.emplace_back(MakeList(std::vector<double>{cloud.x[i], cloud.y[i], cloud.sample[i]}));
+  return {{"x_item", cloud.xItem}, {"y_item", cloud.yItem}, {"points", std::move(points)}};
+}
+
+Object DescribeKind(const Surface& surface, const ChartDescription&) {
+  List values, locked;
+  for (std::size_t row = 0; row < surface.rows.size(); ++row) {
+    List one;
+    for (std::size_t column = 0; column < surface.columns.size(); ++column) {
+      one.emplace_back(surface.At(row, column));
+      if (surface.IsLocked(row, column))
+        locked.emplace_back(List{static_cast<int>(row) + 1, static_cast<int>(column) + 1});
+    }
+    values.emplace_back(std::move(one));
+  }
+  return {{"title", surface.title},
+          {"subtitle", surface.subtitle},
+          {"rotation", surface.view.rotation},
+          {"elevation", surface.view.elevation},
+          {"zoom", surface.view.zoom},
+          {"rows", MakeList(surface.rows)},
+          {"columns", MakeList(surface.columns)},
+          {"values", std::move(values)},
+          {"locked", std::move(locked)},
+          {"height_axis",
+           Object{{"min", surface.height.min}, {"max", surface.height.max}, {"divisions", surface.height.divisions}}}};
+}
+
+}  // namespace
+
+const std::vector<ChartSeries>& ChartDescription::Series() const {
+  static const std::vector<ChartSeries> kNone;
+  const auto* curves = std::get_if<Curves>(&kind);
+  return curves ? curves->series : kNone;
+}
+
+Object Describe(const ChartDescription& chart) {
+  Object facts = chart.facts;
+  Object more = std::visit([&](const auto& kind) { return DescribeKind(kind, chart); }, chart.kind);
+  facts.insert(facts.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
   return facts;
 }
 

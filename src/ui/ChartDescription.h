@@ -1,10 +1,12 @@
 #pragma once
 
-#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "base/Colour.h"
+#include "ui/ChartAxis.h"
+#include "ui/Surface.h"
 #include "ui/Value.h"
 
 namespace tarnview {
@@ -25,12 +27,9 @@ struct ChartSeries {
   Pen pen;
 };
 
-struct ChartAxis {
-  double min = 0;
-  double max = 1;
-  int divisions = 10;      ///< major divisions between min and max
-  std::string format;      ///< "#######0.0"
-  std::string title = {};  ///< empty for none
+/// One or more curves over one X axis.
+struct Curves {
+  std::vector<ChartSeries> series;
 };
 
 /// The mark of a point, in the order and with the numbers that presets keep.
@@ -61,13 +60,17 @@ struct ChartColours {
 
 /// A chart in plain numbers: rooms fill it in, the toolkit draws it, on screen, on paper and into files alike.
 struct ChartDescription {
-  std::vector<ChartSeries> series;
-  std::optional<PointCloud> points;  ///< then there are no series
-  ChartAxis x;
+  std::variant<Curves, PointCloud, Surface> kind;
+  ChartAxis x;  ///< a surface has axes of its own
   ChartAxis y;
   ChartColours colours;
   /// What else the drawer knows about the picture (range, step, rows): told with the chart, not drawn.
   Object facts;
+
+  /// Null, or no series, for a chart of another kind.
+  const PointCloud* Cloud() const { return std::get_if<PointCloud>(&kind); }
+  const Surface* AsSurface() const { return std::get_if<Surface>(&kind); }
+  const std::vector<ChartSeries>& Series() const;
 };
 
 /// The chart as a tree of facts; `facts` come first.

@@ -20,7 +20,7 @@ class DrawGraph : public ProgramFixture {
     Main().PlotRangeTo.Text = to;
   }
   std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
-  std::size_t Rows() { return Main().chSampleGraph.Data().series.at(0).x.size(); }
+  std::size_t Rows() { return Main().chSampleGraph.Data().Series().at(0).x.size(); }
 };
 
 TEST_F(DrawGraph, ChecksTheRangeAsItWasTyped) {

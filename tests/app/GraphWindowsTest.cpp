@@ -61,9 +61,9 @@ TEST_F(GraphWindows, APresetTicksItsItemsAndDraws) {
   EXPECT_EQ(Ticked(), (Ids{20, 3}));  // in the order of the list
   EXPECT_EQ(Main().lvwSampleDetails.Count(), 2);
   EXPECT_TRUE(Main().chkFixY.Value());
-  EXPECT_TRUE(Main().chSampleGraph.Data().series.empty());
+  EXPECT_TRUE(Main().chSampleGraph.Data().Series().empty());
   Main().lvwPresets.Do({"double", {"Knock"}});
-  EXPECT_EQ(Main().chSampleGraph.Data().series.size(), 2u);
+  EXPECT_EQ(Main().chSampleGraph.Data().Series().size(), 2u);
   EXPECT_EQ(Main().chSampleGraph.Data().y.max, 120);
   Main().lvwPresets.Do({"row", {"None"}});
   EXPECT_EQ(Ticked(), (Ids{}));

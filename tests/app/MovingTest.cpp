@@ -129,7 +129,7 @@ TEST_F(Moving, KeysOfDisabledButtonsDoNothing) {
 
 TEST_F(Moving, ShiftUpAndDownWalkTheCurvesByTheirHeightAndStopAtTheEnds) {
   Reset();
-  const auto& series = Main().chSampleGraph.Data().series;
+  const auto& series = Main().chSampleGraph.Data().Series();
   ASSERT_GE(series.size(), 3u);
   const auto height = [&] {
     const PlotState& plot = Main().Plot();

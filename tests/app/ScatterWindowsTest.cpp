@@ -46,7 +46,7 @@ TEST_F(ScatterWindows, TakeTheRangeOnShowAsAFilter) {
 TEST_F(ScatterWindows, AreDrawnAfterALoadWhereThatIsWanted) {
   Open(std::string("[General]\r\nScatter Graph Auto Draw=Y\r\n") + kPreset);
   ASSERT_EQ(Windows().size(), 1u) << "the other preset is of another family";
-  EXPECT_EQ(Windows()[0]->chScatterGraph.Data().points->x.size(), 40u);
+  EXPECT_EQ(Windows()[0]->chScatterGraph.Data().Cloud()->x.size(), 40u);
   EXPECT_EQ(Windows()[0]->cboPointShape.Text(), "Up Tri");
   Main().mnuFileDrawScatter.Do({"click", {}});
   EXPECT_FALSE(program->Global().settings.gblnScatterGraphAutoDraw);
@@ -61,7 +61,7 @@ TEST_F(ScatterWindows, AnAutomaticGraphIsSilentAboutItsFaults) {
   Main().LoadDataFile("/logs/run.txt", 0);
   EXPECT_EQ(MessageIds(), std::vector<int>{16}) << "the load's own alone: no zones";
   ASSERT_EQ(Windows().size(), 1u);
-  EXPECT_FALSE(Windows()[0]->chScatterGraph.Data().points);
+  EXPECT_FALSE(Windows()[0]->chScatterGraph.Data().Cloud());
 }
 
 TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
@@ -71,7 +71,7 @@ TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
   window.chScatterGraph.SelectPoint(1, 40);
   files.files["/logs/short.txt"] = SmallLog(5);
   Main().LoadDataFile("/logs/short.txt", 0);
-  EXPECT_EQ(window.chScatterGraph.Data().points->x.size(), 40u);
+  EXPECT_EQ(window.chScatterGraph.Data().Cloud()->x.size(), 40u);
   EXPECT_EQ(window.Caption(), "Tarnview Scatter Graph - run.txt");
   EXPECT_FALSE(window.mnuFileExport.Enabled()) << "its samples are gone";
   EXPECT_TRUE(window.mnuFilePrint.Enabled());
@@ -82,7 +82,7 @@ TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
   window.cmdShowPoint.Press();
   Main().LoadDataFile("/logs/short.txt", 0);
   window.cmdDrawGraph.Press();
-  EXPECT_EQ(window.chScatterGraph.Data().points->x.size(), 5u);
+  EXPECT_EQ(window.chScatterGraph.Data().Cloud()->x.size(), 5u);
   EXPECT_EQ(window.Caption(), "Tarnview Scatter Graph - short.txt");
 }
 

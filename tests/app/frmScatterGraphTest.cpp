@@ -42,7 +42,7 @@ class ScatterGraphTest : public ProgramFixture {
     host.messages.clear();
     return ids;
   }
-  static const PointCloud& Points(const frmScatterGraph& window) { return *window.chScatterGraph.Data().points; }
+  static const PointCloud& Points(const frmScatterGraph& window) { return *window.chScatterGraph.Data().Cloud(); }
 };
 
 TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxes) {
@@ -91,13 +91,13 @@ TEST_F(ScatterGraphTest, AFaultLeavesNoGraph) {
   Open(6000);
   frmScatterGraph& window = NewWindow();
   const auto gone = [&] {
-    return !window.chScatterGraph.Data().points && !window.chScatterGraph.Visible() && window.fraPicture.Visible() &&
+    return !window.chScatterGraph.Data().Cloud() && !window.chScatterGraph.Visible() && window.fraPicture.Visible() &&
            !window.mnuFilePrint.Enabled() && !window.mnuFileExport.Enabled() && !window.cmdShowPoint.Enabled();
   };
   const auto drawsAgain = [&] {
     window.AddFilter({kBoundNotSet, 0, 3});
     Click(window.cmdDrawGraph);
-    return window.chScatterGraph.Data().points.has_value();
+    return window.chScatterGraph.Data().Cloud() != nullptr;
   };
   Click(window.cmdDrawGraph);
   EXPECT_EQ(Boxes(), Ids{3});

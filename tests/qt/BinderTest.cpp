@@ -264,7 +264,7 @@ TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {
   ChartDescription data;
   data.x = {0, 10, 10, "#######0"};
   data.y = {0, 10, 10, "#######0"};
-  data.series = {{1, "A", {0, 5, 10}, {2, 2, 2}, {}}, {2, "B", {0, 5, 10}, {8, 8, 8}, {}}};
+  std::get<Curves>(data.kind).series = {{1, "A", {0, 5, 10}, {2, 2, 2}, {}}, {2, "B", {0, 5, 10}, {8, 8, 8}, {}}};
   form_.fraPicture.Visible = false;
   form_.chSampleGraph.SetData(data);
   Settle();

@@ -20,7 +20,7 @@ class ChartGesturesTest : public testing::Test {
     ChartDescription data;
     data.x = {0, 10, 10, "#######0"};
     data.y = {0, 10, 10, "#######0"};
-    data.series = {{1, "A", {0, 5, 10}, {5, 5, 5}, {}}};
+    std::get<Curves>(data.kind).series = {{1, "A", {0, 5, 10}, {5, 5, 5}, {}}};
     chart_.resize(600, 400);
     chart_.SetDescription(data);
     chart_.show();

@@ -23,8 +23,8 @@ ChartDescription TwoCurves(const ChartColours& colours, int points = 500) {
   chart.x = {0, 100, 10, "#######0"};
   chart.y = {0, 100, 10, "#######0"};
   chart.colours = colours;
-  chart.series = {{1, "RPM", {}, {}, {0x0000FF, 1, 30}}, {2, "MAP", {}, {}, {0xFF0000, 3, 10}}};
-  for (ChartSeries& series : chart.series)
+  std::get<Curves>(chart.kind).series = {{1, "RPM", {}, {}, {0x0000FF, 1, 30}}, {2, "MAP", {}, {}, {0xFF0000, 3, 10}}};
+  for (ChartSeries& series : std::get<Curves>(chart.kind).series)
     for (int i = 0; i < points; ++i) {
       series.x.push_back(100.0 * i / points);
       series.y.push_back(50 + 40 * std::sin(i * 0.02 + series.id));
@@ -79,7 +79,8 @@ TEST_F(PicturePainterTest, VectorFilesHaveThePicturesSizeAndItsTexts) {
 
 TEST_F(PicturePainterTest, ALegendTallerThanThePictureGetsMoreColumns) {
   ChartDescription chart = TwoCurves({false, 0xFFFFFF, 0, 0});
-  chart.series.resize(40, chart.series[0]);
+  auto& series = std::get<Curves>(chart.kind).series;
+  series.resize(40, series[0]);
   ASSERT_TRUE(DrawPicture(chart, In("a.svg"), 900, 420, error_)) << error_;
   EXPECT_EQ(Read("a.svg").count(">RPM</text>"), 39);
 }

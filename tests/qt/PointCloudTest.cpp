@@ -37,7 +37,7 @@ ChartDescription ChartOf(PointCloud cloud, double width, double height) {
   ChartDescription chart;
   chart.x = {0, width, 10, "#######0", "RPM"};
   chart.y = {0, height, 10, "#######0", "Air/Fuel Ratio"};
-  chart.points = std::move(cloud);
+  chart.kind = std::move(cloud);
   return chart;
 }
 

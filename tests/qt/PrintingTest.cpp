@@ -24,7 +24,7 @@ class PrintingTest : public ::testing::Test {
     TestApplication();
     ChartDescription data;
     data.colours.systemBackdrop = true;
-    data.series.push_back({3, "RPM", {0, 1, 2}, {0.1, 0.9, 0.4}, {}});
+    std::get<Curves>(data.kind).series.push_back({3, "RPM", {0, 1, 2}, {0.1, 0.9, 0.4}, {}});
     data.x.max = 2;
     chart.SetData(data);
   }

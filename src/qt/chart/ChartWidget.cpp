@@ -89,7 +89,7 @@ void ChartWidget::SetDescription(const ChartDescription& description) {
 void ChartWidget::MakeCurves() {
   clearPlottables();
   curves_.clear();
-  for (const ChartSeries& series : chart_.series) {
+  for (const ChartSeries& series : chart_.Series()) {
     auto* curve = new CurveLine(xAxis, yAxis);
     curve->setPen(PenOf(series.pen));
     const QString name = ToQt(series.name);
@@ -100,9 +100,10 @@ void ChartWidget::MakeCurves() {
 }
 
 void ChartWidget::MakeCloud() {
-  cloud_ = chart_.points ? new PointCloudPlot(xAxis, yAxis, *chart_.points) : nullptr;
-  const bool tinted = chart_.points && !chart_.points->tint.empty();
-  bar_.Show(tinted, tinted ? chart_.points->tintAxis : ChartAxis());
+  const PointCloud* cloud = chart_.Cloud();
+  cloud_ = cloud ? new PointCloudPlot(xAxis, yAxis, *cloud) : nullptr;
+  const bool tinted = cloud && !cloud->tint.empty();
+  bar_.Show(tinted, tinted ? cloud->tintAxis : ChartAxis());
   if (cloud_) ApplyFonts();
 }
 
@@ -152,7 +153,7 @@ void ChartWidget::ApplyFonts() {
 
 void ChartWidget::Fit(const QRect& viewport) {
   setViewport(viewport);
-  legend->setVisible(!chart_.series.empty());
+  legend->setVisible(!chart_.Series().empty());
   FitLegend();
   FitTitles();
   FitNumbers();
@@ -161,7 +162,7 @@ void ChartWidget::Fit(const QRect& viewport) {
   FitNumbers();
   const int columns = std::max(axisRect()->width(), 1);
   for (std::size_t i = 0; i < curves_.size(); ++i) {
-    const ChartSeries& series = chart_.series[i];
+    const ChartSeries& series = chart_.Series()[i];
     curves_[i]->SetLine(Decimate(series.x, series.y, xAxis->range().lower, xAxis->range().upper, columns));
   }
   ShowMark();
@@ -174,7 +175,7 @@ void ChartWidget::FitTitles() {
   };
   show(xAxis, chart_.x.title, axisRect()->width());
   show(yAxis, chart_.y.title, axisRect()->height());
-  if (bar_.Axis()) show(bar_.Axis(), chart_.points->tintAxis.title, bar_.Length());
+  if (bar_.Axis()) show(bar_.Axis(), chart_.Cloud()->tintAxis.title, bar_.Length());
 }
 
 void ChartWidget::FitNumbers() {
@@ -192,7 +193,7 @@ void ChartWidget::FitNumbers() {
   show(*xAxis, AxisNumbers(chart_.x, axisRect()->width(), width + metrics.height()));
   show(*yAxis, AxisNumbers(chart_.y, axisRect()->height(), metrics.height() * 1.25));
   if (QCPAxis* axis = bar_.Axis())
-    show(*axis, AxisNumbers(chart_.points->tintAxis, bar_.Length(), metrics.height() * 1.25));
+    show(*axis, AxisNumbers(chart_.Cloud()->tintAxis, bar_.Length(), metrics.height() * 1.25));
   // Half of the outermost numbers stands beyond the ends of the axes.
   const int half = static_cast<int>(std::ceil(width / 2));
   const int above = static_cast<int>(std::ceil(metrics.height()));
@@ -228,10 +229,10 @@ void ChartWidget::RedrawMarks() {
 std::optional<QPointF> ChartWidget::MarkedPoint() const {
   const auto place = static_cast<std::size_t>(selectedPlace_);
   const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
-  if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= (chart_.points ? 1 : chart_.series.size()))
+  if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= (chart_.Cloud() ? 1 : chart_.Series().size()))
     return std::nullopt;
-  const auto& x = chart_.points ? chart_.points->x : chart_.series[place].x;
-  const auto& y = chart_.points ? chart_.points->y : chart_.series[place].y;
+  const auto& x = chart_.Cloud() ? chart_.Cloud()->x : chart_.Series()[place].x;
+  const auto& y = chart_.Cloud() ? chart_.Cloud()->y : chart_.Series()[place].y;
   if (at >= std::min(x.size(), y.size()) || !std::isfinite(x[at]) || !std::isfinite(y[at])) return std::nullopt;
   if (cloud_ && !(xAxis->range().contains(x[at]) && yAxis->range().contains(y[at]))) return std::nullopt;
   return QPointF(x[at], y[at]);
@@ -250,7 +251,7 @@ void ChartWidget::ShowMark() {
   ring_->position->setCoords(*at);
   ring_->setClipToAxisRect(!cloud_);
   // Of a cloud, the mark itself is seen within the ring.
-  ring_->setBrush(cloud_ ? QBrush() : ColourToQt(chart_.series[static_cast<std::size_t>(selectedPlace_)].pen.colour));
+  ring_->setBrush(cloud_ ? QBrush() : ColourToQt(chart_.Series()[static_cast<std::size_t>(selectedPlace_)].pen.colour));
 }
 
 void ChartWidget::Paint(QCPPainter& painter, int width, int height) {

@@ -9,8 +9,8 @@ std::optional<PointOfCurve> NearestPoint(const ChartDescription& chart,
                                          const std::function<double(double, double)>& distance) {
   std::optional<PointOfCurve> nearest;
   double best = std::numeric_limits<double>::infinity();
-  for (std::size_t place = 0; place < chart.series.size(); ++place) {
-    const ChartSeries& series = chart.series[place];
+  for (std::size_t place = 0; place < chart.Series().size(); ++place) {
+    const ChartSeries& series = chart.Series()[place];
     for (std::size_t i = 0; i < std::min(series.x.size(), series.y.size()); ++i) {
       const double away = distance(series.x[i], series.y[i]);
       if (!(away < best)) continue;

@@ -133,7 +133,7 @@ void AllWindows::MakeScatterGraphs() {
     window.Style().Show(graph.style);
     window.mnuViewDensity.Checked = graph.density;
     window.DrawScatter(true);
-    if (graph.colourBy > 0 && window.chScatterGraph.Data().points) window.chScatterGraph.SelectPoint(1, 1);
+    if (graph.colourBy > 0 && window.chScatterGraph.Data().Cloud()) window.chScatterGraph.SelectPoint(1, 1);
     scatterGraphs_.push_back(&window);
   }
 }
