@@ -8,6 +8,7 @@
 namespace tarnview {
 namespace {
 
+constexpr const char* kShortOfMemory = "There is not enough memory for that.";
 constexpr const char* kInstallFile = "Tarnview_Install.ini";
 
 std::string In(const std::string& folder, const char* name) { return folder.empty() ? "" : folder + name; }
@@ -30,6 +31,15 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
   globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
 }
 
+Program::~Program() { host_.events.Failed = nullptr; }
+
+/// Where an event ends that nothing else has ended.
+void Program::EventFailed(const std::string& module, const std::string& procedure, const std::exception& error) {
+  const RuntimeError raised = AsRuntimeError(error);
+  errors_.LogError(module, procedure, raised, false);
+  if (raised.number == kOutOfMemory) messages_.Tell(kShortOfMemory, kBoxExclamation);
+}
+
 void Program::FindInstallINIFile() {
   std::string& path = globals_.gstrInstallINIFile;
   if (globals_.gstrINIFile.empty()) return;
@@ -40,6 +50,9 @@ void Program::FindInstallINIFile() {
 void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
   if (!folders_.program.empty()) files_.ClearLeftovers(folders_.program);
+  host_.events.Failed = [this](const std::string& module, const std::string& procedure, const std::exception& error) {
+    EventFailed(module, procedure, error);
+  };
   clsFileTypes& types = globals_.kinds.gcolFileTypes;
   for (int id = 1; id <= types.Count(); ++id) types.Item(id).blnEnabled = true;
   if (splash) {
@@ -80,9 +93,10 @@ void Program::FindDefinition() {
 
 void Program::LoadMainForm(const std::string& commandLine) {
   main_ = std::make_unique<frmDataLogViewer>(globals_, services_, settingsFile_);
-  main_->Show();
+  UserEvents& events = host_.events;
+  events.Run(main_->name, "Form_Load", [&] { main_->Show(); });
   TellFolderTroubles();
-  TrapEvent(errors_, "frmDataLogViewer", "Form_Activate", [&] { main_->OpenFromCommandLine(commandLine); });
+  events.Run(main_->name, "Form_Activate", [&] { main_->OpenFromCommandLine(commandLine); });
 }
 
 /// Told once, so that nobody wonders later why a setting did not stay.

@@ -23,6 +23,7 @@ class Program {
   /// `settingsFile` stands for the program folder's Tarnview.ini; empty with no program folder: every default.
   Program(Host& host, FileSystem& files, Clock& clock, Processes& processes, ProgramFolders folders,
           std::string settingsFile = "");
+  ~Program();
 
   /// The definition of Universal logs, in place of the one that the settings name; before Start.
   void UseDefinition(std::string path) { definitionFile_ = std::move(path); }
@@ -45,6 +46,7 @@ class Program {
   void FindDefinition();
   void TellFolderTroubles();
   void LoadMainForm(const std::string& commandLine);
+  void EventFailed(const std::string& module, const std::string& procedure, const std::exception& error);
 
   Host& host_;
   FileSystem& files_;

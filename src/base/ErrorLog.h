@@ -35,11 +35,8 @@ template <class Body>
 auto Trap(ErrorLog& log, const char* module, const char* procedure, Body&& body) {
   try {
     return std::forward<Body>(body)();
-  } catch (const RuntimeError& error) {
-    log.LogError(module, procedure, error, true);
-    throw;
   } catch (const std::exception& error) {
-    const RuntimeError raised(5, error.what());
+    const RuntimeError raised = AsRuntimeError(error);
     log.LogError(module, procedure, raised, true);
     throw raised;
   }
@@ -51,10 +48,8 @@ bool TrapEvent(ErrorLog& log, const char* module, const char* procedure, Body&& 
   try {
     std::forward<Body>(body)();
     return true;
-  } catch (const RuntimeError& error) {
-    log.LogError(module, procedure, error, false);
   } catch (const std::exception& error) {
-    log.LogError(module, procedure, RuntimeError(5, error.what()), false);
+    log.LogError(module, procedure, AsRuntimeError(error), false);
   }
   return false;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <exception>
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -15,5 +17,16 @@ class RuntimeError : public std::runtime_error {
   long number;
   std::string source;
 };
+
+// Numbers of run-time errors that have no other home.
+inline constexpr long kInvalidCall = 5;
+inline constexpr long kOutOfMemory = 7;
+
+/// Any exception as a run-time error.
+inline RuntimeError AsRuntimeError(const std::exception& error) {
+  if (const auto* raised = dynamic_cast<const RuntimeError*>(&error)) return *raised;
+  if (dynamic_cast<const std::bad_alloc*>(&error)) return RuntimeError(kOutOfMemory, "Out of memory");
+  return RuntimeError(kInvalidCall, error.what());
+}
 
 }  // namespace tarnview

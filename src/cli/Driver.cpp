@@ -67,7 +67,7 @@ void Driver::RunModal(Form& form) {
 void Driver::Step() {
   const ScriptLine& line = script_[next_++];
   try {
-    DoLine(line);
+    events.Run("Driver", line.words.front(), [&] { DoLine(line); });
   } catch (const CannotDo& error) {
     throw ScriptError(error.what(), line.number);
   }

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "ui/UserEvents.h"
+
 namespace tarnview {
 
 class Chart;
@@ -67,6 +69,9 @@ class Host {
   /// Opens the manual at a topic; set once by the program. Empty: there is no manual.
   std::function<void(const std::string& topic)> ShowHelp;
 
+  /// What the user does goes through here; boxes, dialogs and modal windows pause it.
+  UserEvents events;
+
   virtual Reply Ask(const Box& box) = 0;
   /// False on Cancel; then `dialog` is unchanged.
   virtual bool Choose(Dialog& dialog) = 0;
@@ -78,7 +83,7 @@ class Host {
   /// Opens a pop-up menu at the pointer.
   virtual void PopupMenu(MenuItem& menu) = 0;
 
-  /// Lets pending events run.
+  /// Lets pending events run, but for the user's while one of them is at work.
   virtual void DoEvents() = 0;
   /// Draws what has changed, without taking input: for progress in a long loop.
   virtual void Repaint(Form& form) = 0;

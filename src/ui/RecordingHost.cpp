@@ -67,6 +67,7 @@ Reply RecordingHost::Ask(const Box& box) {
   const Reply reply = answer ? ReplyFor(box, answer->kind) : box.DefaultReply();
   messages.push_back(box);
   boxes.emplace_back(Object{{"id", box.id}, {"text", box.text}, {"style", box.style}, {"reply", Name(reply)}});
+  if (takesOffers && box.takeOffer) box.takeOffer();
   return reply;
 }
 
@@ -90,7 +91,9 @@ void RecordingHost::Show(Form& form, bool modal) {
   std::erase(open, &form);
   open.push_back(&form);
   form.Form_Activate();
-  if (modal) RunModal(form);
+  if (!modal) return;
+  const UserEvents::Pause pause(events);
+  RunModal(form);
 }
 
 void RecordingHost::Hide(Form& form) { std::erase(open, &form); }
