@@ -97,6 +97,8 @@ class frmDataLogViewer : public MainWindowControls,
   void LoadDatalogFileSuccess(int fileType);
   void SetFirstRange();
   void SetDataLogViewerCaption();
+  bool CanShowDataTags() const;
+  void ShowDataTags();
   void RefreshDataTags();
 
   // The graph's windows, panel and files.
@@ -135,6 +137,7 @@ class frmDataLogViewer : public MainWindowControls,
   void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
   bool CurrentRange(clsLogTag& tag) const override;
   void ShowRange(const clsLogTag& tag) override;
+  void TagsChanged() override { commands_.Update(); }
   void ShowPoint(std::int32_t sample) override;
 
   Globals& globals_;

@@ -51,7 +51,6 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
   const auto narrower = [this] { return drawn_ && range_.Span() >= 10; };
   const auto wider = [this] { return drawn_ && !range_.IsWholeLog(); };
   const auto previous = [this] { return drawn_ && !plot_.strPlotFromHistory[1].empty(); };
-  const auto linkFamily = [this] { return IsLinkLog(); };
   return {
       {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawGraph(); }, loaded},
       {&cmdZoomIn, "cmdZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
@@ -65,7 +64,7 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
       {&mnuViewPrevious, "mnuViewPrevious_Click", [this] { zoom_.ShowPreviousGraph(); }, previous},
       {&mnuViewGoto, "mnuViewGoto_Click", [this] { GotoSample(); }, drawn},
       {&mnuViewNewDataTag, "mnuViewNewDataTag_Click", [this] { tags_.NewDataTag(); }, drawn},
-      {&mnuViewTags, "mnuViewTags_Click", [this] { tags_.Show(); }, linkFamily},
+      {&mnuViewTags, "mnuViewTags_Click", [this] { ShowDataTags(); }, [this] { return CanShowDataTags(); }},
       {&mnuViewZoneInfl, "mnuViewZoneInfl_Click", [this] { mnuViewZoneInfl_Click(); },
        [this] { return IsLinkLog() && (log_.gblnSamplesLoaded || log_.gblnZonesLoaded); }},
   };

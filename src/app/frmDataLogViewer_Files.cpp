@@ -10,6 +10,9 @@
 namespace tarnview {
 namespace {
 
+/// In the error log.
+constexpr long kLoadingFailed = -static_cast<long>(Message::TooFewRecords);
+
 /// A loader's progress in the status bar.
 class StatusProgress : public LoadProgress {
  public:
@@ -60,7 +63,7 @@ bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, 
 }
 
 bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
-  Pointer = MousePointer::Hourglass;
+  const AtWork work(*this, status_);
   HideForLoad();
   if (fileType == kUnknownFile)
     fileType = globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType);
@@ -77,8 +80,8 @@ bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
   } else {
     services_.messages.ShowMessage(Message::TooFewRecords);
     status_.Say("Loading failed");
+    services_.errors.LogError(name, "LoadDataFile", RuntimeError(kLoadingFailed, "Loading failed: " + path), false);
   }
-  Pointer = MousePointer::Default;
   return loaded;
 }
 
@@ -116,6 +119,7 @@ void frmDataLogViewer::HideForLoad() {
   log_.gblnSamplesLoaded = log_.gblnZonesLoaded = log_.gblnChangesLoaded = false;
   log_.glngFirstSampleTime = log_.glngLastSampleTime = 0;
   log_.glngLowestAirTemp = kNoAirTemp;
+  tags_.LogIsClosing();
   log_.gcolLogTags.RemoveAll();
   range_.Clear();
   graph_.Clear();
@@ -173,6 +177,16 @@ void frmDataLogViewer::SetDataLogViewerCaption() {
   status_.SayLoaded(log_.glngLastSampleTime >= 1 ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) +
                                                        " - " + std::to_string(log_.glngLastSampleTime)
                                                  : "");
+}
+
+bool frmDataLogViewer::CanShowDataTags() const {
+  const bool loaded = log_.gblnSamplesLoaded || log_.gblnZonesLoaded;
+  return loaded && (IsLinkLog() || log_.gcolLogTags.Count() > 0);
+}
+
+void frmDataLogViewer::ShowDataTags() {
+  tags_.Show();
+  tags_.FollowOpenLog();
 }
 
 void frmDataLogViewer::RefreshDataTags() {

@@ -39,4 +39,22 @@ class StatusArea {
   ProgressBar& progress_;
 };
 
+/// The hourglass over a window for as long as it lives. However the work ends, the hourglass and the progress bar go.
+class AtWork {
+ public:
+  AtWork(Form& window, StatusArea& status) : window_(window), status_(status), before_(window.Pointer) {
+    window_.Pointer = MousePointer::Hourglass;
+  }
+  ~AtWork() {
+    status_.HideProgress();
+    window_.Pointer = before_;
+  }
+  AtWork(const AtWork&) = delete;
+
+ private:
+  Form& window_;
+  StatusArea& status_;
+  MousePointer before_;
+};
+
 }  // namespace tarnview

@@ -12,10 +12,10 @@ bool ExportRun::Run(std::string& path, const std::function<void(const std::strin
   if (!window.host.Choose(dialog)) return false;
   path = dialog.path;
   status.Say("Exporting...");
-  window.Pointer = MousePointer::Hourglass;
-  const bool exported = TrapEvent(errors, window.name.c_str(), procedure, [&] { write(path); });
-  status.HideProgress();
-  window.Pointer = MousePointer::Default;
+  const bool exported = TrapEvent(errors, window.name.c_str(), procedure, [&] {
+    const AtWork work(window, status);
+    write(path);
+  });
   status.Say(exported ? "Export complete" : "");
   if (!exported) messages.ShowMessage(Message::ExportFailed);
   return exported;

@@ -1,6 +1,9 @@
 #include "samplegraph/frmDataTags.h"
 
+#include <algorithm>
 #include <string>
+
+#include "base/Numbers.h"
 
 namespace tarnview {
 namespace {
@@ -10,8 +13,8 @@ constexpr int kLastRow = 99999;
 
 }  // namespace
 
-frmDataTags::frmDataTags(Host& itsHost, clsLogTags& tags, MainWindow& mainWindow)
-    : Form(itsHost, "frmDataTags", "Tarnview Data Tags"), tags_(tags), mainWindow_(mainWindow) {
+frmDataTags::frmDataTags(Host& itsHost, clsLogTags& logTags, MainWindow& mainWindow)
+    : Form(itsHost, "frmDataTags", "Tarnview Data Tags"), logTags_(logTags), mainWindow_(mainWindow) {
   CancelButton = &cmdClose;
   HelpTopic = "DataTags";
   cmdNew.Click = [this] { NewDataTag(); };
@@ -31,14 +34,21 @@ void frmDataTags::Form_Load() { PopulateList(1); }
 void frmDataTags::NewDataTag() {
   clsLogTag tag;
   if (!mainWindow_.CurrentRange(tag)) return;
-  tags_.Add(tag.FromSequence, tag.ToSequence);
+  logTags_.Add(tag.FromSequence, tag.ToSequence);
   PopulateList(kLastRow);
+  mainWindow_.TagsChanged();
 }
 
 void frmDataTags::PopulateList(int lngSelect) {
+  shown_ = logTags_;
+  ofOpenLog_ = true;
+  FillList(lngSelect);
+}
+
+void frmDataTags::FillList(int lngSelect) {
   std::vector<ListView::Row> rows;
-  for (int n = 1; n <= tags_.Count(); ++n) {
-    const clsLogTag& tag = tags_.Item(n);
+  for (int n = 1; n <= shown_.Count(); ++n) {
+    const clsLogTag& tag = shown_.Item(n);
     ListView::Row row;
     row.texts = {std::to_string(tag.FromSequence), std::to_string(tag.ToSequence)};
     row.tag = std::to_string(n);
@@ -47,22 +57,28 @@ void frmDataTags::PopulateList(int lngSelect) {
   lvwTags.SetRows(std::move(rows));
   cmdShow.Enabled = lvwTags.Count() > 0;
   cmdDelete.Enabled = lvwTags.Count() > 0;
-  if (lvwTags.Count() > 0) lvwTags.Select(lngSelect < 1 ? 1 : lngSelect);
+  if (lvwTags.Count() > 0) lvwTags.Select(std::max(lngSelect, 1));
+}
+
+int frmDataTags::Selected() const {
+  const int row = lvwTags.SelectedRow();
+  return row < 1 ? 0 : StringToLong(lvwTags.At(row).tag);
 }
 
 void frmDataTags::cmdShow_Click() {
   const int row = lvwTags.SelectedRow();
   if (row < 1) return;
-  const clsLogTag tag = tags_.Item(std::stoi(lvwTags.At(row).tag));
-  mainWindow_.ShowRange(tag);
+  mainWindow_.ShowRange(shown_.Item(Selected()));
   lvwTags.Select(row);
 }
 
 void frmDataTags::cmdDelete_Click() {
   const int row = lvwTags.SelectedRow();
   if (row < 1) return;
-  tags_.Remove(std::stoi(lvwTags.At(row).tag));
-  PopulateList(row);
+  if (ofOpenLog_) logTags_.Remove(Selected());
+  shown_.Remove(Selected());
+  FillList(row);
+  mainWindow_.TagsChanged();
 }
 
 }  // namespace tarnview

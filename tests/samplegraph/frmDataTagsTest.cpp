@@ -15,6 +15,7 @@ class DataTagsTest : public ::testing::Test, protected frmDataTags::MainWindow {
     return range.has_value();
   }
   void ShowRange(const clsLogTag& tag) override { shown = tag.FromSequence; }
+  void TagsChanged() override {}
 
   RecordingHost host;
   clsLogTags tags;
@@ -50,6 +51,28 @@ TEST_F(DataTagsTest, AddsTheRangeShowsItAndDeletesIt) {
   EXPECT_EQ(host.helpTopics.back(), "DataTags");
   window.Press({"Escape"});
   EXPECT_FALSE(window.IsShown());
+}
+
+TEST_F(DataTagsTest, TheTagsOfALogThatIsGoneAreAListOfTheWindowAlone) {
+  tags.Add(10, 20);
+  tags.Add(30, 40);
+  window.Show();
+  window.LogIsClosing();
+  tags.RemoveAll();
+  tags.Add(500, 600);
+  window.lvwTags.Do({"double", {"2"}});
+  EXPECT_EQ(shown, 30);
+  window.cmdDelete.Press();
+  EXPECT_EQ(window.lvwTags.Count(), 1);
+  EXPECT_EQ(tags.Count(), 1) << "the open log's";
+  window.PopulateList(1);
+  EXPECT_EQ(window.lvwTags.At(1).texts[0], "500");
+  window.LogIsClosing();
+  tags.RemoveAll();
+  range = clsLogTag{200, 100};
+  window.cmdNew.Press();
+  EXPECT_EQ(window.lvwTags.Count(), 1) << "a new tag is one of the open log";
+  EXPECT_EQ(window.lvwTags.At(1).texts[0], "100");
 }
 
 TEST_F(DataTagsTest, ASortedListShowsTheRowsOwnTag) {
