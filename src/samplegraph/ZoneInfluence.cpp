@@ -30,6 +30,7 @@ constexpr double kLeastRPM = 250;
 constexpr double kMostRPM = 7749;
 constexpr double kColumnRPM = 500;
 constexpr int kColumnName = 5;  ///< hundreds of RPM from one column to the next
+constexpr double kHalfColumn = 0.5;
 
 struct Rows {
   std::int64_t lower;
@@ -68,7 +69,8 @@ ZoneInfluence FindZoneInfluence(double rpm, double kPa, bool sixRows) {
   found.upperLow = ZoneNameOf(rows.upper, low);
   found.upperHigh = ZoneNameOf(rows.upper, high);
   found.up = rows.up;
-  found.across = (limited / 100 - static_cast<double>(low)) / static_cast<double>(high - low);
+  // A zone's name is the lower end of its column: its middle lies half a column further on.
+  found.across = (limited / 100 - static_cast<double>(low)) / static_cast<double>(high - low) - kHalfColumn;
   return found;
 }
 

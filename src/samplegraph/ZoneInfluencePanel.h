@@ -16,7 +16,8 @@ class ZoneInfluencePanel {
  public:
   struct Controls {
     Frame& fraZoneInfl;
-    ControlArray<Label>& lblZoneInfl;  ///< lower row at the lower and the higher RPM, then the upper row
+    /// The lower row at the lower and the higher RPM, above the picture; then the upper row, below it, as in the grid.
+    ControlArray<Label>& lblZoneInfl;
     Picture& picZoneInfl;
     MenuItem& mnuViewZoneInfl;
     CommandButton& cmdDrawGraph;

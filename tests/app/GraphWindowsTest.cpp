@@ -198,8 +198,8 @@ TEST_F(GraphWindows, ZoneInfluenceFollowsTheSelectedSampleOfALinkLog) {
   Main().picZoneInfl.SetSize(1120, 460);
   const auto& shapes = Main().picZoneInfl.Shapes();
   ASSERT_EQ(shapes.circles.size(), 2u);
-  // 1020 RPM between 500 and 1000; 40 kPa half way between the rows at 20 and 60.
-  EXPECT_EQ(shapes.circles[0], (Drawing::Circle{1100, 230, 30, true}));
+  // 1020 RPM between the middles of the zones, at 750 and 1250; 40 kPa half way between the rows at 20 and 60.
+  EXPECT_EQ(shapes.circles[0], (Drawing::Circle{600, 230, 30, true}));
   EXPECT_EQ(shapes.lines[0], (Drawing::Line{0, 230, 1120, 230}));
   Main().mnuViewZoneInfl.Do({"click", {}});
   EXPECT_FALSE(Main().fraZoneInfl.Visible());
