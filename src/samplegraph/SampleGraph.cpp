@@ -46,6 +46,7 @@ SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& rang
 }
 
 void SampleGraph::DrawGraphChecked() {
+  if (!log_.gblnSamplesLoaded) return;
   ApplyFixedGraphMax();
   if (!AnyChecked(controls_.lvwSampleDetails)) {
     messages_.ShowMessage(Message::NothingChecked);
@@ -61,7 +62,8 @@ void SampleGraph::DrawGraphChecked() {
 }
 
 void SampleGraph::DrawSampleGraph() {
-  window_.Pointer = MousePointer::Hourglass;
+  if (!log_.gblnSamplesLoaded) return;
+  const AtWork work(window_, status_);
   window_.host.DoEvents();
   const bool rangeChanged = NoteRange();
   plot_.intPlottedItems = ItemsOfRows(controls_.lvwSampleDetails, true);
@@ -70,14 +72,19 @@ void SampleGraph::DrawSampleGraph() {
   else if (MustBuild(rangeChanged))
     Build();
   mainWindow_.SetUpScrollBar();
-  SelectAgain();
-  mainWindow_.GraphDrawn();
   controls_.fraPicture.Visible = false;
   controls_.chSampleGraph.Visible = true;
-  controls_.chSampleGraph.SetFocus();
-  status_.HideProgress();
-  window_.Pointer = MousePointer::Default;
+  TakeFocus();
+  SelectAgain();
+  mainWindow_.GraphDrawn();
   plot_.blnForceRedraw = false;
+}
+
+/// A range box that is left by a key that draws keeps what is selected; one that the user leaves does not.
+void SampleGraph::TakeFocus() {
+  const std::int32_t highlight = plot_.lngHighlightSample;
+  controls_.chSampleGraph.SetFocus();
+  plot_.lngHighlightSample = highlight;
 }
 
 bool SampleGraph::NoteRange() {

@@ -53,6 +53,7 @@ class SampleGraph {
   void Clear();
 
  private:
+  void TakeFocus();
   bool NoteRange();
   bool MustBuild(bool rangeChanged);
   void CountLogLines();

@@ -53,6 +53,7 @@ void Scrolling::SetUp() {
     objGraphScrollLarge_.LargeChange = large;
     objGraphScrollLarge_.SmallChange = small;
     objGraphScrollLarge_.value(value);
+    ShowShare(large, max - min);
   } else {
     controls_.hsbGraphScroll.Min = min;
     controls_.hsbGraphScroll.Max = max;
@@ -62,6 +63,15 @@ void Scrolling::SetUp() {
   }
   plot_.blnIgnoreScroll = false;
   UpdateScrollCommands();
+}
+
+/// The thumb of the long bar is as long, against its way, as that of the plain one.
+void Scrolling::ShowShare(std::int32_t large, std::int32_t way) {
+  ScrollBar& bar = controls_.hsbGraphScrollLarge;
+  const double travel = bar.Max() - bar.Min();
+  const double page = way > 0 ? std::min(large * travel / way, travel) : travel;
+  // More than the small step, from which the bar could not tell it.
+  bar.LargeChange = std::max(RoundToLong(page), bar.SmallChange() + 1);
 }
 
 void Scrolling::Disable() {
@@ -93,7 +103,9 @@ void Scrolling::Moved() {
   if (plot_.blnIgnoreScroll || !log_.gblnSamplesLoaded) return;
   const std::int32_t width = plot_.Width();
   const std::int32_t half = RoundToLong(width / 2.0);
-  const std::int32_t middle = Read().value;
+  // A thumb held while the graph was zoomed may be let go where the bar does not reach any more.
+  const Bar bar = Read();
+  const std::int32_t middle = std::clamp(bar.value, std::min(bar.min, bar.max), std::max(bar.min, bar.max));
   range_.SetFrom(log_.Sample(middle - half > 0 ? middle - half : 0));
   range_.SetTo(log_.Sample(middle + half <= log_.glngLastSample ? middle + half : log_.glngLastSample));
   if (range_.From() < log_.glngFirstSampleTime) {

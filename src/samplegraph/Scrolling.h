@@ -57,6 +57,7 @@ class Scrolling {
   void MoveTo(std::int64_t value);
   void Moved();
   void UpdateScrollCommands();
+  void ShowShare(std::int32_t large, std::int32_t way);
 
   Controls controls_;
   PlotState& plot_;

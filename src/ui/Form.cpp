@@ -14,6 +14,10 @@ Form::Form(Host& itsHost, std::string itsName, std::string caption)
               [this] {
                 if (Watcher) Watcher();
               }),
+      Subtitle(std::string(),
+               [this] {
+                 if (Watcher) Watcher();
+               }),
       Pointer(MousePointer::Default, [this] {
         if (Watcher) Watcher();
       }) {}
@@ -74,12 +78,21 @@ bool Form::KeyGoesDown(const KeyPress& key) {
   return eaten || (active_ && active_->Enabled && active_->TakesKey(key));
 }
 
+bool Form::PressEnter() {
+  auto* focused = dynamic_cast<CommandButton*>(active_);
+  CommandButton* button = focused ? focused : DefaultButton;
+  if (!button || !button->Enabled) return false;
+  SetFocus(button);
+  if (active_ == button) button->Press();
+  return true;
+}
+
 bool Form::Press(const KeyPress& key) {
   bool taken = KeyGoesDown(key) || (active_ && active_->Enabled && active_->WritesKey(key));
   if (!taken && key.Plain()) {
-    CommandButton* button = key.key == "Enter" ? DefaultButton : key.key == "Escape" ? CancelButton : nullptr;
-    if (button && button->Enabled) {
-      button->Press();
+    if (key.key == "Enter" && PressEnter()) return true;
+    if (key.key == "Escape" && CancelButton && CancelButton->Enabled) {
+      CancelButton->Press();
       return true;
     }
   }

@@ -30,6 +30,7 @@ class Form {
   Host& host;
   const std::string name;  ///< its class, "frmGoto"
   Property<std::string> Caption;
+  Property<std::string> Subtitle;  ///< what the title bar tells behind the caption; empty for nothing
   Property<MousePointer> Pointer;
   CommandButton* DefaultButton = nullptr;  ///< what Enter presses
   CommandButton* CancelButton = nullptr;   ///< what Escape presses
@@ -62,6 +63,9 @@ class Form {
   bool Press(const KeyPress& key);
   /// The first half of Press, for a toolkit that has its own way with Enter, Escape and shortcuts.
   bool KeyGoesDown(const KeyPress& key);
+  /// Enter, where nothing else took it: presses the button that has the focus, else the default one, for which the
+  /// field is left first (and may keep the caret where its text will not do). False: there is no such button.
+  bool PressEnter();
   /// The same for a key that is let go.
   bool KeyGoesUp(const KeyPress& key);
 

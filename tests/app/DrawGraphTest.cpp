@@ -53,6 +53,34 @@ TEST_F(DrawGraph, WithNothingCheckedItSaysSoAndKeepsTheGraph) {
   EXPECT_EQ(Rows(), rows);
 }
 
+TEST_F(DrawGraph, WithoutALogNothingIsDrawn) {
+  Open(50);
+  Main().LoadDataFile("/logs/none.txt", 1);
+  Main().lvwSampleDetails.SetChecked(Main().lvwSampleDetails.RowOfTag("3"), true);
+  Main().DrawGraph();
+  for (const char* keys : {"Ctrl+I", "Ctrl+End", "Alt+Left", "Shift+Left"}) Main().Press(*ParseKeys(keys));
+  Main().hsbGraphScroll.Value = 20;
+  EXPECT_TRUE(Main().chSampleGraph.Data().Series().empty());
+  EXPECT_TRUE(Main().fraPicture.Visible());
+  EXPECT_FALSE(Main().mnuFilePrint.Enabled());
+}
+
+TEST_F(DrawGraph, EnterLeavesTheBoxBeforeItDraws) {
+  Open(2000);
+  Main().cmdDrawGraph.Press();
+  Main().PlotRangeFrom.SetFocus();
+  Main().PlotRangeFrom.Text = "1001";
+  Main().Press({"Enter"});
+  const ListView& list = Main().lvwSampleDetails;
+  EXPECT_EQ(Main().Plot().lngHighlightSample, 1499) << "the middle of 1001 to 2000, every second one drawn";
+  EXPECT_EQ(list.At(1).texts[1], "1499");
+  // A key that draws from within a box keeps what is selected.
+  Main().PlotRangeTo.SetFocus();
+  Main().Press({"I", false, true});
+  EXPECT_EQ(Main().Plot().lngHighlightSample, 1499);
+  EXPECT_EQ(list.At(1).texts[1], "1499");
+}
+
 TEST_F(DrawGraph, AnUnchangedGraphIsNotBuiltAgain) {
   Open(50);
   int built = 0;

@@ -114,6 +114,20 @@ TEST_F(FormTest, EnterAndEscapePressTheirButtons) {
   EXPECT_TRUE(form.Press({"Enter"}));
   EXPECT_TRUE(form.Press({"Escape"}));
   EXPECT_EQ(form.Notes(), " key:Enter ok key:Escape cancel");
+  form.txtName.SetFocus();
+  form.txtName.LostFocus = [&] {
+    form.notes += " lost";
+    if (form.txtName.Text->empty()) form.txtName.SetFocus();
+  };
+  form.Press({"Enter"});
+  EXPECT_EQ(form.Notes(), " got key:Enter lost got") << "a field that keeps the caret keeps the button from it";
+  form.txtName.Text = "a";
+  form.Press({"Enter"});
+  form.Press({"Enter"});
+  form.cmdCancel.SetFocus();
+  form.Press({"Enter"});
+  EXPECT_EQ(form.Notes(), " change:a key:Enter lost ok key:Enter ok key:Enter cancel");
+  form.SetFocus(nullptr);
   EXPECT_FALSE(form.Press({"Enter", true}));  // with Shift it is another key
   form.cmdOK.Enabled = false;
   EXPECT_FALSE(form.Press({"Enter"}));

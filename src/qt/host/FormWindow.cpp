@@ -80,7 +80,8 @@ void FormWindow::LetGo() {
 }
 
 void FormWindow::ShowCaption() {
-  window_->setWindowTitle(CaptionToQt(form_.Caption));
+  const std::string& subtitle = form_.Subtitle;
+  window_->setWindowTitle(CaptionToQt(subtitle.empty() ? form_.Caption() : form_.Caption() + " - " + subtitle));
   if (form_.Pointer == MousePointer::Hourglass)
     window_->setCursor(Qt::WaitCursor);
   else
