@@ -46,7 +46,6 @@ constexpr IniRule<Filter> kBound{
     [](Filter& filter, std::string_view text) { filter.*Bound = text.empty() ? kBoundNotSet : StringToDouble(text); },
     [](const Filter& filter) { return filter.*Bound == kBoundNotSet ? std::string() : ShortestText(filter.*Bound); }};
 
-constexpr const char* kFilterItem = "Data Item";
 constexpr const char* kFilterFrom = "From";
 
 const IniKey<Filter> kFilterKeys[] = {
@@ -126,7 +125,6 @@ void ReadFilterField(std::string_view field, std::string_view text, const clsLog
   for (const auto& key : kFilterKeys)
     if (key.name == field) std::visit(detail::IniReader<Filter>{filter, text}, key.kind);
   if (field == kFilterItem && !IsItem(filter.lngDataItemSeq)) filter.lngDataItemSeq = 1;
-  // Kept on purpose: the check is against the item as read so far, so that a bound in front of its item becomes 0.
   if (field == kFilterFrom) filter.dblFrom = ValidateFilterFrom(filter.dblFrom, filter.lngDataItemSeq, objItems);
 }
 

@@ -1,6 +1,8 @@
 #include "presets/ScatterGraphPresetFile.h"
 
+#include <algorithm>
 #include <map>
+#include <vector>
 
 #include "base/Numbers.h"
 #include "presets/PresetFile.h"
@@ -12,18 +14,34 @@ namespace {
 constexpr PresetFileLines kLines{"Tarnview Preset Scatter Graph File", "Preset Scatter Graph Details:"};
 constexpr std::string_view kFilter = "Graph 1 Filter ";
 
-/// The filters in the order in which the file first names them; "02" and "2" are the same one.
-clsScatterFilters ReadFilters(const IniTable& table, const clsLogDataItems& objItems) {
+struct FilterLine {
+  int position;  ///< of its filter, from 1
+  std::string_view field, value;
+};
+
+/// The lines of filters, which stand in the order in which the file first names them; "02" and "2" are the same one.
+std::vector<FilterLine> FilterLines(const IniTable& table) {
   std::map<int, int> positions;  // by the filter's number in the file
-  clsScatterFilters filters;
+  std::vector<FilterLine> lines;
   for (const IniRow& row : table.Rows()) {
     const std::string_view key = row.key;
     const auto blank = key.starts_with(kFilter) ? key.find(' ', kFilter.size()) : key.npos;
     if (blank == key.npos || !row.section.empty()) continue;
     const int number = StringToLong(key.substr(kFilter.size(), blank - kFilter.size()));
-    const auto [place, isNew] = positions.try_emplace(number, filters.Count() + 1);
-    if (isNew) filters.AddDirect({});
-    ReadFilterField(key.substr(blank + 1), row.value, objItems, filters.Item(place->second));
+    const int next = static_cast<int>(positions.size()) + 1;
+    lines.push_back({positions.try_emplace(number, next).first->second, key.substr(blank + 1), row.value});
+  }
+  return lines;
+}
+
+clsScatterFilters ReadFilters(const IniTable& table, const clsLogDataItems& objItems) {
+  std::vector<FilterLine> lines = FilterLines(table);
+  // A lower bound is held against its item, which may stand further down.
+  std::stable_partition(lines.begin(), lines.end(), [](const auto& line) { return line.field == kFilterItem; });
+  clsScatterFilters filters;
+  for (const FilterLine& line : lines) {
+    while (filters.Count() < line.position) filters.AddDirect({});
+    ReadFilterField(line.field, line.value, objItems, filters.Item(line.position));
   }
   return filters;
 }

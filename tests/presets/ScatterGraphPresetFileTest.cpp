@@ -89,8 +89,9 @@ TEST_F(ScatterPresetFile, GroupsTheLinesOfAFilterByItsNumber) {
       {"Graph 1 Filter 1 Data Item=27\nGraph 1 Filter 1 From=1", "A/C [A/C Switch] = On\n"},
       {"Graph 1 Filter 1 Data Item=27\nGraph 1 Filter 1 From=7", "A/C [A/C Switch] = Off\n"},
       {"Graph 1 Filter 1 Data Item=900\nGraph 1 Filter 1 From=3", "Sample [Sample No.] from 3\n"},
-      // Kept on purpose: a bound in front of its item is 0.
-      {"Graph 1 Filter 1 From=60\nGraph 1 Filter 1 Data Item=5", "MAP [Manifold Air Pressure] from 0\n"},
+      // In any order.
+      {"Graph 1 Filter 1 From=1\nGraph 1 Filter 1 Data Item=27", "A/C [A/C Switch] = On\n"},
+      {"Graph 1 Filter 1 From=60\nGraph 1 Filter 1 Data Item=5", "MAP [Manifold Air Pressure] from 60\n"},
       {"Graph 1 Filter 1 Colour=3\nGraph 1 Filters=4\nGraph 1 Filter 9\nGraph 2 Filter 1 Data Item=5", "\n"},
   };
   for (const auto& row : kRows) EXPECT_EQ(Filters(row.lines), row.filters) << row.lines;
