@@ -107,7 +107,8 @@ void frmDataLogViewer::GraphDrawn() {
 
 bool frmDataLogViewer::CurrentRange(clsLogTag& tag) const {
   const std::int64_t from = range_.From(), to = range_.To();
-  if (!log_.gblnSamplesLoaded || from >= to || from < log_.glngFirstSampleTime || to > log_.glngLastSampleTime) return false;
+  if (!log_.gblnSamplesLoaded || from >= to || from < log_.glngFirstSampleTime || to > log_.glngLastSampleTime)
+    return false;
   tag = {static_cast<std::int32_t>(to), static_cast<std::int32_t>(from)};
   return true;
 }

@@ -35,8 +35,8 @@ void WriteToFile(const clsScatterGraphPreset& preset, IniWriter& file, int lngGr
 
 inline constexpr const char* kFilterItem = "Data Item";
 
-/// Reads one line of a filter (kFilterItem, "From" or "To"; others are passed over). A number that is no item becomes 1.
-/// The lower bound is checked against the item as read so far.
+/// Reads one line of a filter (kFilterItem, "From" or "To"; others are passed over). A number that is no item
+/// becomes 1. The lower bound is checked against the item as read so far.
 void ReadFilterField(std::string_view field, std::string_view text, const clsLogDataItems& objItems,
                      clsScatterFilter& filter);
 

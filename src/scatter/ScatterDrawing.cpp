@@ -10,8 +10,7 @@
 namespace tarnview {
 namespace {
 
-/// "Subscript out of range" of the run-time errors.
-constexpr long kOutOfRange = 9;
+constexpr const char* kWhatHelps = "Too many samples for a graph without a filter: add a filter, or choose Draw All";
 
 }  // namespace
 
@@ -31,28 +30,36 @@ void ScatterDrawing::Clear() {
   controls_.chScatterGraph.SetData({});
   controls_.chScatterGraph.Enabled = controls_.chScatterGraph.Visible = false;
   controls_.fraPicture.Visible = true;
+  controls_.lblEmptyPlace.Caption = std::string("Choose two data items and press Draw");
   controls_.fraSampleDetails.Enabled = false;
 }
 
 void ScatterDrawing::DrawScatter(const ScatterRequest& request, bool blnQuiet) {
-  window_.Pointer = MousePointer::Hourglass;
+  const AtWork work(window_, status_);
   Clear();
   status_.Say("Preparing to draw graph");
   status_.SayLoaded("");
-  const bool ended = TrapEvent(errors_, "frmScatterGraph", "DrawScatter", [&] { Build(request, blnQuiet); });
-  if (!ended || !Drawn()) status_.Say("");
+  const bool ended = TrapEvent(errors_, "frmScatterGraph", "DrawScatter", [&] {
+    if (MayBuild(request, blnQuiet)) Build(request, blnQuiet);
+  });
+  if (!ended) status_.Say("");
   window_.host.DoEvents();
-  status_.HideProgress();
-  window_.Pointer = MousePointer::Default;
+}
+
+/// False: too many samples without a filter, and the user does not want them all.
+bool ScatterDrawing::MayBuild(const ScatterRequest& request, bool blnQuiet) {
+  if (!RangeOfFilters(log_, request.objFilters).tooWide) return true;
+  bool drawAll = false;
+  if (!blnQuiet)
+    messages_.ShowMessageWithOffer(Message::TooManyScatterSamples, "", "Draw &All", [&] { drawAll = true; });
+  if (drawAll) return true;
+  status_.Say(kWhatHelps);
+  controls_.lblEmptyPlace.Caption = std::string(kWhatHelps);
+  return false;
 }
 
 void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
   const ScatterRange range = RangeOfFilters(log_, request.objFilters);
-  if (range.tooWide) {
-    if (!blnQuiet) messages_.ShowMessage(Message::TooManyScatterSamples);
-    // The end of the range falls before its start, where no table can be made; kept on purpose.
-    throw RuntimeError(kOutOfRange, "Subscript out of range");
-  }
   const std::int32_t span = std::max(range.to - range.from, 1);
   status_.ShowProgressInStatusBar(span);
   rows_ = PassingRows(log_, range, request.objFilters, [&](std::int32_t row) {
@@ -60,6 +67,7 @@ void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
                      std::clamp(log_.Sample(row) - range.from, 0, span));
   });
   if (rows_.empty()) {
+    status_.Say("");
     if (!blnQuiet) messages_.ShowMessage(Message::NothingMatches);
     return;
   }

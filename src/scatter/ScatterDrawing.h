@@ -14,6 +14,7 @@
 #include "ui/Chart.h"
 #include "ui/Form.h"
 #include "ui/Frame.h"
+#include "ui/Label.h"
 
 namespace tarnview {
 
@@ -32,13 +33,14 @@ class ScatterDrawing {
   struct Controls {
     Chart& chScatterGraph;
     Frame& fraPicture;
+    Label& lblEmptyPlace;  ///< what to do while there is no graph
     Frame& fraSampleDetails;
   };
   ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log, const Settings& settings,
                  StatusArea& status, Messages& messages, ErrorLog& errors);
 
-  /// Draws anew; what was drawn before is gone in any case. Message 3 for too many samples without a filter and 46 for
-  /// none at all, unless `blnQuiet`.
+  /// Draws anew; what was drawn before is gone in any case. Message 3, which offers to draw them all, for too many
+  /// samples without a filter and 46 for none at all, unless `blnQuiet`.
   void DrawScatter(const ScatterRequest& request, bool blnQuiet);
   /// Gives the graph on show the request's colouring and nothing else of it.
   void Recolour(const ScatterRequest& request);
@@ -61,6 +63,7 @@ class ScatterDrawing {
 
  private:
   void Clear();
+  bool MayBuild(const ScatterRequest& request, bool blnQuiet);
   void Build(const ScatterRequest& request, bool blnQuiet);
   ChartDescription Describe(const ScatterRequest& request) const;
   void Colour(PointCloud& cloud, const ScatterRequest& request) const;

@@ -46,6 +46,7 @@ class ScatterWindowControls : public Form {
   // The graph, or the place where it will be, and the sample of the selected point.
   Chart chScatterGraph{*this, "chScatterGraph"};
   Frame fraPicture{*this, "fraPicture"};
+  Label lblEmptyPlace{*this, "lblEmptyPlace"};
   Frame fraSampleDetails{*this, "fraSampleDetails"};
   ListView lvwSampleDetails{*this, "lvwSampleDetails", {{"Item"}, {"Value", true}}};
   StatusBar staScatterGraph{*this, "staScatterGraph", 3};

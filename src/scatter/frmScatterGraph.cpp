@@ -20,8 +20,8 @@ frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings
       style_({cboPointShape, cboPointSize, picColour, cmdColourSelector}),
       filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete}, {around_.catalogue, around_.messages}),
       presets_(lvwPresets, around_.presets, around_.kinds.gcolLogFamilies),
-      drawing_(*this, {chScatterGraph, fraPicture, fraSampleDetails}, around_.log, around_.settings, status_,
-               around_.messages, around_.errors),
+      drawing_(*this, {chScatterGraph, fraPicture, lblEmptyPlace, fraSampleDetails}, around_.log, around_.settings,
+               status_, around_.messages, around_.errors),
       output_(itsHost, around_.messages, around_.errors),
       commands_(around_.errors, "frmScatterGraph") {
   HelpTopic = "ScatterGraph";
@@ -33,9 +33,12 @@ frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings
 }
 
 void frmScatterGraph::BindControls() {
-  cboColourBy.Click = [this] { Recolour(); };
+  cboColourBy.Click = [this] {
+    Recolour();
+    commands_.Update();
+  };
   lvwPresets.ItemClick = [this](int row) {
-    if (const clsScatterGraphPreset* preset = presets_.Of(row)) SelectPreset(*preset);
+    if (const clsScatterGraphPreset* preset = presets_.Of(row)) SelectPreset(*preset, false);
   };
   lvwPresets.DblClick = [this](int row) {
     if (presets_.Of(row)) cmdDrawGraph.Press();
@@ -65,13 +68,12 @@ std::vector<Command> frmScatterGraph::CommandRows() {
        [this] { return presets_.HasRows(); }},
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, {}},
       {&mnuViewSampleDetails, "mnuViewSampleDetails_Click", [this] { ShowSampleDetails(!blnShowSampleDetails_); }, {}},
-      {&mnuViewDensity,
-       "mnuViewDensity_Click",
+      {&mnuViewDensity, "mnuViewDensity_Click",
        [this] {
          mnuViewDensity.Checked = !mnuViewDensity.Checked;
          Recolour();
        },
-       {}},
+       [this] { return colourBy_.Item() == 0; }},
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
       {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
       {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
@@ -89,7 +91,7 @@ void frmScatterGraph::Form_Load() {
   ShowSampleDetails(around_.settings.gblnDisplaySampleInScatter);
   if (initialPreset_ >= 1 && initialPreset_ <= around_.presets.Count()) {
     lvwPresets.Select(lvwPresets.RowOfTag(std::to_string(initialPreset_)));
-    SelectPreset(around_.presets.Item(initialPreset_));
+    SelectPreset(around_.presets.Item(initialPreset_), true);
   } else if (around_.settings.gblnAutoScatterFilter) {
     if (const auto filter = mainWindow_.RangeFilter()) filters_.AddFilter(*filter);
   }
@@ -131,6 +133,7 @@ void frmScatterGraph::SetCaption() {
 
 void frmScatterGraph::LogIsClosing() {
   drawing_.LogChanged();
+  lngShowPointSample_ = 0;
   PopulateSampleListViewFromSample(-1);
   commands_.Update();
 }
@@ -154,8 +157,10 @@ void frmScatterGraph::RefreshDataItems() {
 }
 
 ScatterRequest frmScatterGraph::Request() const {
-  return {xAxis_.Item(),    yAxis_.Item(),          style_.Style(),
-          colourBy_.Item(), mnuViewDensity.Checked, filters_.objFilters()};
+  const int tint = colourBy_.Item();
+  // Colours tell either the item or how dense the points lie.
+  const bool density = mnuViewDensity.Checked && tint == 0;
+  return {xAxis_.Item(), yAxis_.Item(), style_.Style(), tint, density, filters_.objFilters()};
 }
 
 void frmScatterGraph::DrawScatter(bool blnQuiet) {
@@ -164,7 +169,14 @@ void frmScatterGraph::DrawScatter(bool blnQuiet) {
   PopulateSampleListViewFromSample(-1);
   drawing_.DrawScatter(Request(), blnQuiet);
   if (drawing_.Drawn()) SetCaption();
+  Subtitle = drawing_.Drawn() ? AxesOnShow() : std::string();
   commands_.Update();
+}
+
+std::string frmScatterGraph::AxesOnShow() const {
+  const auto name = [this](int item) { return around_.log.gcolDataItems->Item(item).strShortName; };
+  const PointCloud& points = drawing_.dblScatterData();
+  return name(points.yItem) + " against " + name(points.xItem);
 }
 
 void frmScatterGraph::Recolour() { drawing_.Recolour(Request()); }
@@ -178,8 +190,8 @@ bool frmScatterGraph::ChooseAxes(int xItem, int yItem) {
 }
 
 void frmScatterGraph::chScatterGraph_PointSelected(int point) {
-  lngShowPointSample_ =
-      static_cast<std::int32_t>(drawing_.dblScatterData().sample[static_cast<std::size_t>(point - 1)]);
+  const double sample = drawing_.dblScatterData().sample[static_cast<std::size_t>(point - 1)];
+  lngShowPointSample_ = drawing_.OfOpenLog() ? static_cast<std::int32_t>(sample) : 0;
   PopulateSampleListViewFromSample(drawing_.IndexOfPoint(point));
 }
 

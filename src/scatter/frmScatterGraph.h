@@ -98,11 +98,13 @@ class frmScatterGraph : public ScatterWindowControls {
   int FileType() const;
   int Family() const { return around_.kinds.gcolLogFamilies.FirstLogFamily(FileType()); }
   void SetCaption();
+  std::string AxesOnShow() const;
   void MoveDown(int steps);
   void ShowBackgroundPicture();
   void Recolour();
 
-  void SelectPreset(const clsScatterGraphPreset& preset);
+  /// `quiet`: nothing is said of an item that is not offered.
+  void SelectPreset(const clsScatterGraphPreset& preset, bool quiet);
   void TakeWhatIsShown(clsScatterGraphPreset& preset) const;
   void mnuEditUpdatePreset_Click();
   void mnuEditNewPreset_Click();

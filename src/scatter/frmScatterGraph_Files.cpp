@@ -18,8 +18,7 @@ void frmScatterGraph::PopulatePresets(bool selectLast) {
   commands_.Update();
 }
 
-void frmScatterGraph::SelectPreset(const clsScatterGraphPreset& preset) {
-  const bool quiet = initialPreset_ > 0 && !drawing_.Drawn();
+void frmScatterGraph::SelectPreset(const clsScatterGraphPreset& preset, bool quiet) {
   xAxis_.Choose(preset.lngXAxisDataItem, around_.messages, quiet);
   yAxis_.Choose(preset.lngYAxisDataItem, around_.messages, quiet);
   style_.Show({preset.lngPointShape, preset.lngPointSize, preset.lngPointColour});

@@ -39,6 +39,7 @@ class RecordingHost : public Host {
   std::vector<std::string> pictures;    ///< paths of the pictures saved
   std::vector<RecordingPage> pages;     ///< printed or shown before printing
   std::function<void(Form&)> work;      ///< what a user does in a modal window; it is closed then
+  bool takesOffers = false;             ///< presses the one more button of a box that has one
   std::string refusal;                  ///< why pictures and pages fail; empty: they do not
 
   Reply Ask(const Box& box) override;

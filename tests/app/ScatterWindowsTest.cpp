@@ -10,8 +10,10 @@ constexpr const char* kPreset =
     "[New Preset Scatter Graphs]\r\n"
     "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point Size=6\r\n"
     "Graph 1 X Axis=3\r\nGraph 1 Y Axis=5\r\nGraph 1 File Open Draw=Y\r\nGraph 1 Log Family=1\r\n"
-    "Graph 2 Name=Other family\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point Size=1\r\n"
-    "Graph 2 X Axis=3\r\nGraph 2 Y Axis=5\r\nGraph 2 File Open Draw=Y\r\nGraph 2 Log Family=6\r\n";
+    "Graph 2 Name=Gone\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point Size=1\r\n"
+    "Graph 2 X Axis=3\r\nGraph 2 Y Axis=61\r\nGraph 2 File Open Draw=N\r\nGraph 2 Log Family=1\r\n"
+    "Graph 3 Name=Other family\r\nGraph 3 Point Colour=0\r\nGraph 3 Point Shape=0\r\nGraph 3 Point Size=1\r\n"
+    "Graph 3 X Axis=3\r\nGraph 3 Y Axis=5\r\nGraph 3 File Open Draw=Y\r\nGraph 3 Log Family=6\r\n";
 
 class ScatterWindows : public ProgramFixture {
  protected:
@@ -62,6 +64,9 @@ TEST_F(ScatterWindows, AnAutomaticGraphIsSilentAboutItsFaults) {
   EXPECT_EQ(MessageIds(), std::vector<int>{16}) << "the load's own alone: no zones";
   ASSERT_EQ(Windows().size(), 1u);
   EXPECT_FALSE(Windows()[0]->chScatterGraph.Data().Cloud());
+  // What the user does in the window is told of as in any other.
+  Windows()[0]->lvwPresets.Do({"row", {"Gone"}});
+  EXPECT_EQ(MessageIds(), (std::vector<int>{16, 43}));
 }
 
 TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {

@@ -99,9 +99,25 @@ TEST_F(ScatterGraphTest, AFaultLeavesNoGraph) {
     Click(window.cmdDrawGraph);
     return window.chScatterGraph.Data().Cloud() != nullptr;
   };
-  Click(window.cmdDrawGraph);
-  EXPECT_EQ(Boxes(), Ids{3});
+  window.DrawScatter(true);
+  EXPECT_EQ(Boxes(), Ids{});
   EXPECT_TRUE(gone());
+  Click(window.cmdDrawGraph);
+  EXPECT_TRUE(gone());
+  for (const std::string& told : {window.staScatterGraph.Panel(1), window.lblEmptyPlace.Caption()})
+    EXPECT_EQ(told, "Too many samples for a graph without a filter: add a filter, or choose Draw All");
+  EXPECT_EQ(window.Pointer(), MousePointer::Default);
+  ASSERT_EQ(host.messages.size(), 1u);
+  EXPECT_EQ(host.messages[0].offer, "Draw &All");
+  EXPECT_EQ(Boxes(), Ids{3});
+  host.takesOffers = true;
+  Click(window.cmdDrawGraph);
+  EXPECT_EQ(Points(window).x.size(), 6000u);
+  host.takesOffers = false;
+  EXPECT_EQ(Boxes(), Ids{3});
+  Click(window.cmdDrawGraph);
+  EXPECT_TRUE(gone());
+  EXPECT_EQ(Boxes(), Ids{3});
   EXPECT_TRUE(drawsAgain()) << "one filter, though all pass, lifts the limit";
   EXPECT_EQ(Points(window).x.size(), 6000u);
   window.AddFilter({kBoundNotSet, 9000, 3});
@@ -163,6 +179,21 @@ TEST_F(ScatterGraphTest, APointLeadsBackToTheSampleGraph) {
   EXPECT_FALSE(window.mnuViewSampleDetails.Checked());
 }
 
+TEST_F(ScatterGraphTest, APointOfALogThatIsGoneIsForgotten) {
+  Open(500);
+  frmScatterGraph& window = NewWindow();
+  window.ChooseAxes(3, 5);
+  Click(window.cmdDrawGraph);
+  EXPECT_EQ(window.Subtitle(), "MAP against RPM");
+  window.chScatterGraph.Do({"point", {"1", "100"}});
+  Main().LoadDataFile("/logs/run.txt", 0);
+  Click(window.cmdShowPoint);
+  EXPECT_FALSE(Main().chSampleGraph.Visible()) << "chosen in the log before";
+  window.chScatterGraph.Do({"point", {"1", "100"}});
+  Click(window.cmdShowPoint);
+  EXPECT_FALSE(Main().chSampleGraph.Visible()) << "chosen in the graph of the log before";
+}
+
 TEST_F(ScatterGraphTest, ColoursAndDensityChangeTheGraphOnShow) {
   Open(40);
   frmScatterGraph& window = NewWindow();
@@ -175,10 +206,13 @@ TEST_F(ScatterGraphTest, ColoursAndDensityChangeTheGraphOnShow) {
   EXPECT_EQ(Points(window).tint[9], 120);
   EXPECT_EQ(Points(window).tintAxis.title, "Manifold Air Pressure");
   EXPECT_EQ(window.chScatterGraph.SelectedPoint(), 7);
-  Click(window.mnuViewDensity);
-  EXPECT_TRUE(Points(window).density);
+  EXPECT_FALSE(window.mnuViewDensity.Enabled()) << "the points have a colour already";
   window.cboColourBy.Do({"choose", {"None"}});
   EXPECT_TRUE(Points(window).tint.empty());
+  Click(window.mnuViewDensity);
+  EXPECT_TRUE(Points(window).density);
+  window.cboColourBy.Do({"choose", {"Manifold Air Pressure"}});
+  EXPECT_FALSE(Points(window).density);
 }
 
 TEST_F(ScatterGraphTest, PresetsAreAppliedUpdatedAndAdded) {

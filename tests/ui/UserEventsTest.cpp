@@ -1,10 +1,9 @@
-#include "ui/UserEvents.h"
-
 #include <gtest/gtest.h>
 
 #include <new>
 
 #include "ui/Action.h"
+#include "ui/UserEvents.h"
 
 namespace tarnview {
 namespace {
