@@ -16,6 +16,7 @@ struct Pen {
   Colour colour = 0;
   int style = 1;
   int width = 10;
+  friend bool operator==(const Pen&, const Pen&) = default;
 };
 
 /// One curve.

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "ui/ChartDescription.h"
 #include "ui/Control.h"
 
 namespace tarnview {
@@ -17,8 +18,14 @@ struct Drawing {
     bool filled;
     friend bool operator==(const Circle&, const Circle&) = default;
   };
+  struct Stroke {
+    Line line;
+    Pen pen;
+    friend bool operator==(const Stroke&, const Stroke&) = default;
+  };
   std::vector<Line> lines;  ///< in the colour of the desktop's buttons
   std::vector<Circle> circles;
+  std::vector<Stroke> strokes;  ///< as a chart draws its curves
   friend bool operator==(const Drawing&, const Drawing&) = default;
 };
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "qt/Text.h"
+#include "qt/chart/LinePen.h"
 
 namespace tarnview {
 namespace {
@@ -42,6 +43,12 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   const auto pen = [&](const QColor& colour, double pixels) { return QPen(colour, pixels * TwipsPerPixel()); };
   painter.setPen(pen(faint, 1));
   for (const Drawing::Line& line : drawing_.lines) painter.drawLine(line.x1, line.y1, line.x2, line.y2);
+  for (const Drawing::Stroke& stroke : drawing_.strokes) {
+    QPen drawn = PenOf(stroke.pen);
+    drawn.setWidthF(drawn.widthF() * TwipsPerPixel());
+    painter.setPen(drawn);
+    painter.drawLine(stroke.line.x1, stroke.line.y1, stroke.line.x2, stroke.line.y2);
+  }
   painter.setPen(pen(palette().color(QPalette::Highlight), 1.5));
   for (const Drawing::Circle& circle : drawing_.circles) {
     painter.setBrush(circle.filled ? palette().brush(QPalette::Highlight) : QBrush(Qt::NoBrush));

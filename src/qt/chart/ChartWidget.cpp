@@ -7,6 +7,7 @@
 #include "qt/Text.h"
 #include "qt/chart/AxisNumbers.h"
 #include "qt/chart/ChartColours.h"
+#include "qt/chart/LinePen.h"
 #include "qt/chart/NearestPoint.h"
 
 namespace tarnview {
@@ -15,18 +16,7 @@ namespace {
 /// Characters of a series name that the legend shows.
 constexpr int kLongestName = 24;
 
-Qt::PenStyle StyleOf(int style) { return style == 1 ? Qt::SolidLine : style == 2 ? Qt::DotLine : Qt::DashLine; }
-
-QPen PenOf(const Pen& pen) {
-  QPen line(ColourToQt(pen.colour), PixelsOfPen(pen.width), StyleOf(pen.style));
-  line.setCapStyle(pen.style == 1 ? Qt::RoundCap : Qt::FlatCap);
-  line.setJoinStyle(Qt::BevelJoin);
-  return line;
-}
-
 }  // namespace
-
-double PixelsOfPen(int width) { return std::clamp(1 + (width - 10) / 20.0, 1.0, 3.0); }
 
 ChartWidget::ChartWidget(QWidget* parent) : QCustomPlot(parent) {
   setFocusPolicy(Qt::StrongFocus);

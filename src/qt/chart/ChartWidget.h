@@ -66,7 +66,4 @@ class ChartWidget : public QCustomPlot {
   bool drawn_ = false;  ///< the description that is shown now
 };
 
-/// Line width in pixels of a pen's width (10 to 50): 1 to 3.
-double PixelsOfPen(int width);
-
 }  // namespace tarnview
