@@ -25,7 +25,7 @@ struct Drawing {
   };
   std::vector<Line> lines;  ///< in the colour of the desktop's buttons
   std::vector<Circle> circles;
-  std::vector<Stroke> strokes;  ///< as a chart draws its curves
+  std::vector<Stroke> strokes = {};  ///< as a chart draws its curves
   friend bool operator==(const Drawing&, const Drawing&) = default;
 };
 
