@@ -3,8 +3,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <filesystem>
+#include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "base/Processes.h"
@@ -13,8 +19,6 @@ extern char** environ;
 
 namespace tarnview {
 namespace {
-
-constexpr int kNotStarted = -1000;
 
 // Answers of the desktop's "open".
 constexpr int kOpened = 33;
@@ -37,18 +41,40 @@ std::vector<std::string> Words(const std::string& command) {
   return words;
 }
 
-/// Runs a program to its end.
-int RunWords(std::vector<std::string> words) {
-  if (words.empty()) return kNotStarted;
+/// What a program that is being started finds: its folder, and where its words go.
+class Surroundings {
+ public:
+  explicit Surroundings(const std::string& folder) {
+    ::posix_spawn_file_actions_init(&actions_);
+    if (!folder.empty()) ::posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str());
+    // Standard output is this program's own: the command line prints its result there.
+    ::posix_spawn_file_actions_adddup2(&actions_, STDERR_FILENO, STDOUT_FILENO);
+  }
+  ~Surroundings() { ::posix_spawn_file_actions_destroy(&actions_); }
+  Surroundings(const Surroundings&) = delete;
+
+  const posix_spawn_file_actions_t* Actions() const { return &actions_; }
+
+ private:
+  posix_spawn_file_actions_t actions_;
+};
+
+/// Starts a program whose words are `words`; 0, or the system's error number.
+int Start(const std::string& program, std::vector<std::string> words, const std::string& folder, pid_t& process) {
   std::vector<char*> arguments;
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
+  return ::posix_spawn(&process, program.c_str(), Surroundings(folder).Actions(), nullptr, arguments.data(), environ);
+}
 
-  pid_t process = 0;
-  if (::posix_spawnp(&process, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0) return kNotStarted;
+/// The exit code of a program that has ended; nothing while it runs.
+std::optional<int> ExitCodeOf(pid_t process, int options) {
   int status = 0;
-  while (::waitpid(process, &status, 0) < 0)
-    if (errno != EINTR) return kNotStarted;
+  pid_t ended = 0;
+  do ended = ::waitpid(process, &status, options);
+  while (ended < 0 && errno == EINTR);
+  if (ended == 0) return std::nullopt;
+  if (ended < 0) return 0;  // somebody else has taken its status
   // A program that a signal ended has the status that shells give it.
   const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
   return code < 128 ? code : code - 256;
@@ -56,7 +82,32 @@ int RunWords(std::vector<std::string> words) {
 
 }  // namespace
 
-int RealProcesses::Run(const std::string& command) { return RunWords(Words(command)); }
+RunResult RealProcesses::Run(const ProgramCall& call, const std::string& folder,
+                             const std::function<bool()>& keepWaiting) {
+  std::vector<std::string> words = Words(call.arguments);
+  words.insert(words.begin(), call.program);
+  // As seen from here: the program's own folder is another.
+  std::error_code unknown;
+  const auto program = std::filesystem::absolute(call.program, unknown);
+  pid_t process = 0;
+  if (const int error = Start(program.string(), std::move(words), folder, process))
+    return {RunResult::End::NotStarted, 0, std::strerror(error)};
+
+  constexpr auto kLongestNap = std::chrono::milliseconds(20);
+  for (auto nap = std::chrono::milliseconds(1);; nap = std::min(2 * nap, kLongestNap)) {
+    if (const auto code = ExitCodeOf(process, WNOHANG)) return {RunResult::End::Exited, *code};
+    if (!keepWaiting()) break;
+    std::this_thread::sleep_for(nap);
+  }
+  leftAlone_.push_back(process);
+  return {RunResult::End::LeftAlone};
+}
+
+bool RealProcesses::IsAnyLeftAlone() {
+  std::erase_if(leftAlone_,
+                [](std::intptr_t process) { return ExitCodeOf(static_cast<pid_t>(process), WNOHANG).has_value(); });
+  return !leftAlone_.empty();
+}
 
 int RealProcesses::Open(const std::string& path) {
   struct stat facts;
@@ -65,7 +116,9 @@ int RealProcesses::Open(const std::string& path) {
   // The shell ends at once and leaves the desktop's program running, which nobody waits for.
   static constexpr const char* kScript =
       "command -v xdg-open >/dev/null 2>&1 || exit 31; xdg-open \"$1\" </dev/null >/dev/null 2>&1 & exit 0";
-  return RunWords({"/bin/sh", "-c", kScript, "sh", path}) == 0 ? kOpened : kNoAssociation;
+  pid_t process = 0;
+  if (Start("/bin/sh", {"sh", "-c", kScript, "sh", path}, "", process) != 0) return kNoAssociation;
+  return ExitCodeOf(process, 0) == 0 ? kOpened : kNoAssociation;
 }
 
 }  // namespace tarnview

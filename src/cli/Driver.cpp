@@ -34,9 +34,10 @@ Object WindowFacts(const Form& form, const std::vector<const Control*>& controls
 
 }  // namespace
 
-int ScriptProcesses::Run(const std::string& command) {
-  commands.emplace_back(command);
-  return RealProcesses::Run(command);
+RunResult ScriptProcesses::Run(const ProgramCall& call, const std::string& folder,
+                               const std::function<bool()>& keepWaiting) {
+  commands.emplace_back(call.Text());
+  return RealProcesses::Run(call, folder, keepWaiting);
 }
 
 int ScriptProcesses::Open(const std::string& path) {
@@ -118,9 +119,9 @@ void Driver::PressKey(const Words& words) {
 
 void Driver::QueueAnswer(const Words& words) {
   static constexpr std::pair<const char*, Answer::Kind> kKinds[] = {
-      {"yes", Answer::Kind::Yes},       {"no", Answer::Kind::No},          {"ok", Answer::Kind::Ok},
-      {"cancel", Answer::Kind::Cancel}, {"file", Answer::Kind::File},      {"folder", Answer::Kind::Folder},
-      {"colour", Answer::Kind::Colour}, {"printer", Answer::Kind::Printer}};
+      {"yes", Answer::Kind::Yes},       {"no", Answer::Kind::No},           {"ok", Answer::Kind::Ok},
+      {"cancel", Answer::Kind::Cancel}, {"file", Answer::Kind::File},       {"folder", Answer::Kind::Folder},
+      {"colour", Answer::Kind::Colour}, {"printer", Answer::Kind::Printer}, {"stop", Answer::Kind::Stop}};
   for (const auto& [name, kind] : kKinds) {
     if (WordAt(words, 0) != name) continue;
     Answer answer{kind, {}, 0, 0};

@@ -14,7 +14,7 @@ namespace tarnview {
 class ScriptProcesses : public RealProcesses {
  public:
   List commands;
-  int Run(const std::string& command) override;
+  RunResult Run(const ProgramCall& call, const std::string& folder, const std::function<bool()>& keepWaiting) override;
   int Open(const std::string& path) override;
 };
 

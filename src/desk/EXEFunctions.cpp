@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/Paths.h"
 #include "desk/Messages.h"
 
 namespace tarnview {
@@ -32,6 +33,11 @@ const char* FailureText(int code) {
 }
 
 }  // namespace
+
+RunResult EXEFunctions::RunAndWait(const ProgramCall& call, const std::string& folder) {
+  const auto waiting = host_.Wait(FileTitle(call.program));
+  return processes_.Run(call, folder, [&waiting] { return waiting->GoOn(); });
+}
 
 int EXEFunctions::ShellOpen(const std::string& path) {
   const int code = processes_.Open(path);

@@ -12,8 +12,11 @@ class EXEFunctions {
  public:
   EXEFunctions(Processes& processes, Host& host) : processes_(processes), host_(host) {}
 
-  /// Waits with no time limit; returns the program's exit code.
-  int RunAndWait(const std::string& command) { return processes_.Run(command); }
+  /// Runs a program in a folder and waits with no time limit, until the user wants to wait no longer. Meanwhile the
+  /// windows are drawn and take no input.
+  RunResult RunAndWait(const ProgramCall& call, const std::string& folder);
+  /// Whether a program that the user stopped waiting for is still at work.
+  bool IsAnyLeftAlone() { return processes_.IsAnyLeftAlone(); }
   /// Opens a document; a failure (a code below 33) is told in a box.
   int ShellOpen(const std::string& path);
 

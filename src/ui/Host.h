@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -61,6 +62,15 @@ struct PrintJob {
   std::function<void(Page&)> fill;  ///< draws the page, as often as it is asked for
 };
 
+/// What a user sees while an outside program runs: that it does, for how long, and a button "Stop Waiting". As long as
+/// this lives the windows are drawn and take no input.
+class Waiting {
+ public:
+  virtual ~Waiting() = default;
+  /// Lets the desktop work for a moment; false once the user wants to wait no longer.
+  virtual bool GoOn() = 0;
+};
+
 /// What the program asks of a desktop. The windows know this and nothing of a toolkit.
 class Host {
  public:
@@ -87,6 +97,9 @@ class Host {
   virtual void DoEvents() = 0;
   /// Draws what has changed, without taking input: for progress in a long loop.
   virtual void Repaint(Form& form) = 0;
+
+  /// `program` is the name of what is waited for.
+  virtual std::unique_ptr<Waiting> Wait(const std::string& program) = 0;
 
   virtual void SetClipboardText(const std::string& text) = 0;
 

@@ -87,6 +87,18 @@ bool RecordingHost::Choose(Dialog& dialog) {
   return chosen;
 }
 
+std::unique_ptr<Waiting> RecordingHost::Wait(const std::string& program) {
+  struct Scripted : Waiting {
+    explicit Scripted(bool stops) : stops_(stops) {}
+    bool GoOn() override { return !stops_; }
+    bool stops_;
+  };
+  waits.push_back(program);
+  const bool stops = !answers.empty() && answers.front().kind == Answer::Kind::Stop;
+  if (stops) answers.pop_front();
+  return std::make_unique<Scripted>(stops);
+}
+
 void RecordingHost::Show(Form& form, bool modal) {
   std::erase(open, &form);
   open.push_back(&form);

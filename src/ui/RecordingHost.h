@@ -14,7 +14,7 @@ namespace tarnview {
 
 /// What a script answers to the next box or dialog.
 struct Answer {
-  enum class Kind { Yes, No, Ok, Cancel, File, Folder, Colour, Printer } kind = Kind::Ok;
+  enum class Kind { Yes, No, Ok, Cancel, File, Folder, Colour, Printer, Stop } kind = Kind::Ok;
   std::string path = {};
   long colour = 0;
   int filterIndex = 0;  ///< of a file dialog, from 1; 0 leaves it
@@ -34,6 +34,7 @@ class RecordingHost : public Host {
   std::vector<Box> messages;       ///< the boxes alone
   std::vector<Form*> open;         ///< windows on show, the front one last
   std::string clipboard;
+  std::vector<std::string> waits;       ///< programs that were waited for
   std::vector<std::string> helpTopics;  ///< where the manual was opened, until a program brings its own
   std::vector<const Chart*> copied;     ///< charts whose picture went to the clipboard
   std::vector<std::string> pictures;    ///< paths of the pictures saved
@@ -49,6 +50,8 @@ class RecordingHost : public Host {
   void PopupMenu(MenuItem&) override {}
   void DoEvents() override {}
   void Repaint(Form&) override {}
+  /// With Stop as the next answer, the user stops waiting at once.
+  std::unique_ptr<Waiting> Wait(const std::string& program) override;
   void SetClipboardText(const std::string& text) override { clipboard = text; }
   void CopyPicture(const Chart& chart) override { copied.push_back(&chart); }
   bool SavePicture(const Chart& chart, const std::string& path, std::string& error) override;

@@ -22,8 +22,22 @@ TEST(EXEFunctions, TellWhyADocumentDidNotOpen) {
     EXPECT_EQ(host.messages.back().style, kBoxOk);
   }
   EXPECT_EQ(processes.opened.size(), 5u);
+}
+
+TEST(EXEFunctions, WaitForAProgramUntilItEndsOrTheUserHasEnough) {
+  RecordingProcesses processes;
+  RecordingHost host;
+  EXEFunctions programs(processes, host);
   processes.exitCodes = {-22};
-  EXPECT_EQ(programs.RunAndWait("LinkWin.exe 1"), -22);
+  EXPECT_EQ(programs.RunAndWait({"C:\\Link\\LinkWin.exe", " 1"}, "C:\\Link\\"),
+            (RunResult{RunResult::End::Exited, -22}));
+  host.answers = {{Answer::Kind::Stop}};
+  EXPECT_EQ(programs.RunAndWait({"/l", ""}, "/"), (RunResult{RunResult::End::LeftAlone}));
+  EXPECT_TRUE(programs.IsAnyLeftAlone());
+  EXPECT_TRUE(host.answers.empty());
+  EXPECT_EQ(host.waits, (std::vector<std::string>{"LinkWin.exe", "l"}));
+  EXPECT_EQ(processes.commands, (std::vector<std::string>{"C:\\Link\\LinkWin.exe 1", "/l"}));
+  EXPECT_EQ(processes.folders, (std::vector<std::string>{"C:\\Link\\", "/"}));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "qt/Text.h"
 #include "qt/chart/PicturePainter.h"
 #include "qt/host/Dialogs.h"
+#include "qt/host/WaitingBox.h"
 #include "ui/Chart.h"
 #include "ui/Form.h"
 #include "ui/MenuItem.h"
@@ -112,6 +113,11 @@ void QtHost::Repaint(Form&) {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   repainting_ = false;
   sinceRepaint_.start();
+}
+
+std::unique_ptr<Waiting> QtHost::Wait(const std::string& program) {
+  FlushAll();
+  return std::make_unique<WaitingBox>(ToQt(program), ParentForNew());
 }
 
 void QtHost::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }

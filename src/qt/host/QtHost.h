@@ -24,6 +24,7 @@ class QtHost : public Host {
   void PopupMenu(MenuItem& menu) override;
   void DoEvents() override;
   void Repaint(Form& form) override;
+  std::unique_ptr<Waiting> Wait(const std::string& program) override;
   void SetClipboardText(const std::string& text) override;
   void CopyPicture(const Chart& chart) override;
   bool SavePicture(const Chart& chart, const std::string& path, std::string& error) override;
