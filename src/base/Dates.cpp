@@ -100,6 +100,15 @@ std::string DateText(Date date) {
          PaddedText(static_cast<unsigned>(it.day()), 2);
 }
 
+std::string DayText(Date date) {
+  if (date == kNoDate) return "";
+  constexpr std::string_view kShortMonths = "JanFebMarAprMayJunJulAugSepOctNovDec";
+  const chr::year_month_day it{chr::sys_days{chr::days{date - kDayOfEpoch}}};
+  const std::size_t month = static_cast<unsigned>(it.month()) - 1;
+  return PaddedText(static_cast<unsigned>(it.day()), 2) + "-" + std::string(kShortMonths.substr(3 * month, 3)) + "-" +
+         PaddedText(static_cast<int>(it.year()), 4);
+}
+
 std::optional<Date> ParseDate(std::string_view text) {
   const auto parts = ThreeParts(text);
   if (!parts) return std::nullopt;

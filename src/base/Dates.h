@@ -16,6 +16,8 @@ Date MakeDate(int year, int month, int day);
 
 /// "yyyy-mm-dd"; "" for no date.
 std::string DateText(Date date);
+/// "dd-mmm-yyyy", as windows show it: "18-Sep-2001"; "" for no date.
+std::string DayText(Date date);
 
 /// The date in a text such as "18-Sep-2001", "18-Sep-01", "18 Sep 2001", "2001-09-18" or "18/09/2001" (day first;
 /// month first where only that is a date). A year of two digits is 2000 to 2029 or 1930 to 1999.

@@ -8,9 +8,8 @@ LoggerFiles::LoggerFiles(const Settings& settings) : folder(GetParentFolder(sett
 
 ConverterFiles::ConverterFiles(const Settings& settings) : folder(GetParentFolder(settings.gstrConversionEXE)) {}
 
-void DeleteLeftovers(FileSystem& files, const std::string& folder) {
-  for (const char* name : {"miata.dat", "miata.map", "miatatmp.bin", "miatatmp.txt"})
-    if (files.FileExists(folder + name)) files.DeleteFile(folder + name);
+std::vector<std::string> Leftovers(const std::string& folder) {
+  return {folder + "miata.dat", folder + "miata.map", folder + "miatatmp.bin", folder + "miatatmp.txt"};
 }
 
 std::string NewDataLogDescription(const std::string& path) { return "[General]\r\nPath and Filename=" + path + "\r\n"; }

@@ -3,8 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "base/Clock.h"
-#include "base/FileSystem.h"
 #include "base/ProgramCall.h"
 #include "ecu/NewFile.h"
 #include "model/Settings.h"
@@ -36,8 +34,8 @@ struct ConverterFiles {
   std::string text() const { return folder + "miatatmp.txt"; }
 };
 
-/// Deletes what an earlier capture or conversion left in a folder, so that it cannot be taken for a new result.
-void DeleteLeftovers(FileSystem& files, const std::string& folder);
+/// What an earlier capture or conversion may have left in a folder, and what could be taken for a new result.
+std::vector<std::string> Leftovers(const std::string& folder);
 
 /// The record of a new log's path, for the logging program.
 std::string NewDataLogDescription(const std::string& path);

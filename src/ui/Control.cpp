@@ -27,7 +27,11 @@ Object Control::Facts() const {
 void Control::Do(const Action& action) {
   if (!Enabled) throw CannotDo(FullName() + " is disabled");
   if (!Visible) throw CannotDo(FullName() + " is not on show");
-  if (TakesFocus()) SetFocus();
+  if (TakesFocus()) {
+    SetFocus();
+    // A field that keeps the focus, since what stands in it is refused, keeps the user too.
+    if (form.ActiveControl() != this) return;
+  }
   Perform(action);
 }
 

@@ -52,7 +52,7 @@ class Control {
   virtual void Describe(Object& facts) const = 0;
   Object Facts() const;
 
-  /// Does what a user would do; throws CannotDo.
+  /// Does what a user would do, unless the field that has the focus does not let it go; throws CannotDo.
   void Do(const Action& action);
 
   void SetFocus();

@@ -18,6 +18,10 @@ TEST(Dates, CountDaysAndRunOver) {
   EXPECT_EQ(DateText(36951), "2001-03-01");
   EXPECT_EQ(DateText(MakeDate(2000, 2, 29)), "2000-02-29");
   EXPECT_EQ(DateText(kNoDate), "");
+  EXPECT_EQ(DayText(36951), "01-Mar-2001");
+  EXPECT_EQ(DayText(MakeDate(2003, 12, 31)), "31-Dec-2003");
+  EXPECT_EQ(DayText(MakeDate(2000, 1, 9)), "09-Jan-2000");
+  EXPECT_EQ(DayText(kNoDate), "");
 }
 
 TEST(Dates, AreReadInManyForms) {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "ecu/EcuWorld.h"
+
+namespace tarnview {
+
+/// Asks before a file that is there already is written over; true where there is none, or on Yes.
+bool MayWrite(const EcuWorld& world, const std::string& path);
+
+}  // namespace tarnview
