@@ -3,7 +3,6 @@
 #include "base/Clock.h"
 #include "base/FileSystem.h"
 #include "desk/EXEFunctions.h"
-#include "desk/Help.h"
 #include "desk/Messages.h"
 #include "model/Settings.h"
 
@@ -17,7 +16,6 @@ struct EcuWorld {
   Clock& clock;
   EXEFunctions& programs;
   Messages& messages;
-  Help& help;
 };
 
 }  // namespace tarnview

@@ -41,6 +41,7 @@ frmConvertBIN::frmConvertBIN(const EcuWorld& world, const std::string& currentFi
     : Form(world.host, "frmConvertBIN", "Convert Binary File to Data Log"), world_(world) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "ConvertBinaryFile";
   chkAutoLoad.Value = true;
   for (const Path path : {Source, Target}) {
     lblPath(path).Caption = std::string(kPaths[path].caption);
@@ -52,12 +53,6 @@ frmConvertBIN::frmConvertBIN(const EcuWorld& world, const std::string& currentFi
   }
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-bool frmConvertBIN::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  world_.help.ShowHelp("ConvertBinaryFile");
-  return true;
 }
 
 void frmConvertBIN::LeavePath(Path path) {

@@ -29,9 +29,6 @@ class frmConvertBIN : public Form {
   const std::string& TargetPath() const { return target_; }
   bool LoadIt() const { return chkAutoLoad.Value; }
 
- protected:
-  bool Form_KeyUp(const KeyPress& key) override;
-
  private:
   enum Path { Source, Target };
   void LeavePath(Path path);

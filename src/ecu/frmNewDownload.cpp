@@ -10,6 +10,7 @@ frmNewDownload::frmNewDownload(const EcuWorld& world, const NewFile& proposed)
     : Form(world.host, "frmNewDownload", "New File"), world_(world) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "NewDatalog";
   radFileType(0).Caption = std::string("&Data Log");
   radFileType(0).ToolTip = std::string("Capture a full data log");
   radFileType(1).Caption = std::string("&Zone Settings");
@@ -28,12 +29,6 @@ frmNewDownload::frmNewDownload(const EcuWorld& world, const NewFile& proposed)
   };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-bool frmNewDownload::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  world_.help.ShowHelp("NewDatalog");
-  return true;
 }
 
 NewFile frmNewDownload::Chosen() const { return {Type(), txtFileName.Text(), chkRetainBIN.Value()}; }
@@ -66,8 +61,7 @@ void frmNewDownload::cmdOK_Click() {
     txtFileName.SetFocus();
     return;
   }
-  accepted_ = true;
-  Unload();
+  Accept();
 }
 
 }  // namespace tarnview

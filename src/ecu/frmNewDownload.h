@@ -28,12 +28,7 @@ class frmNewDownload : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// OK closed it.
-  bool Accepted() const { return accepted_; }
   NewFile Chosen() const;
-
- protected:
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   NewFileType Type() const { return radFileType(0).Value ? NewFileType::DataLog : NewFileType::ZoneSettings; }
@@ -43,7 +38,6 @@ class frmNewDownload : public Form {
   void cmdOK_Click();
 
   EcuWorld world_;
-  bool accepted_ = false;
 };
 
 }  // namespace tarnview

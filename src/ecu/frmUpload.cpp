@@ -27,6 +27,7 @@ frmUpload::frmUpload(const EcuWorld& world, ComparisonChoices choices)
     : Form(world.host, "frmUpload", "Upload Zone Settings"), world_(world), choices_(std::move(choices)) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "Upload";
   for (const OptionRow& row : kOptions) {
     chkOption(row.option).Caption = std::string(row.caption);
     chkOption(row.option).ToolTip = std::string(row.toolTip);
@@ -43,17 +44,8 @@ frmUpload::frmUpload(const EcuWorld& world, ComparisonChoices choices)
     if (lstCCF.ListIndex >= 0) txtCCF.Text = lstCCF.Entries()[static_cast<std::size_t>(lstCCF.ListIndex())];
   };
   cmdCCF.Click = [this] { cmdCCF_Click(); };
-  cmdOK.Click = [this] {
-    accepted_ = true;
-    Unload();
-  };
+  cmdOK.Click = [this] { Accept(); };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-bool frmUpload::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  world_.help.ShowHelp("Upload");
-  return true;
 }
 
 UploadOptions frmUpload::Chosen() const {

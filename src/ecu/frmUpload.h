@@ -37,12 +37,7 @@ class frmUpload : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// OK closed it.
-  bool Accepted() const { return accepted_; }
   UploadOptions Chosen() const;
-
- protected:
-  bool Form_KeyUp(const KeyPress& key) override;
 
  private:
   void EnableComparison();
@@ -50,7 +45,6 @@ class frmUpload : public Form {
 
   EcuWorld world_;
   ComparisonChoices choices_;
-  bool accepted_ = false;
 };
 
 }  // namespace tarnview

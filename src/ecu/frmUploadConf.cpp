@@ -4,24 +4,16 @@
 
 namespace tarnview {
 
-frmUploadConf::frmUploadConf(Host& itsHost, const Settings& settings, Help& help)
-    : Form(itsHost, "frmUploadConf", "Upload Confirmation"), help_(help) {
+frmUploadConf::frmUploadConf(Host& itsHost, const Settings& settings)
+    : Form(itsHost, "frmUploadConf", "Upload Confirmation") {
   // Enter must not be enough to write to an ECU.
   DefaultButton = &cmdNo;
   CancelButton = &cmdNo;
+  HelpTopic = "UploadConfirmation";
   lblChipDate.Caption = DayText(settings.gdatDefaultChipDate);
   lblEngineSize.Caption = std::string(EngineSizeText(settings.gdblDefaultEngineSize));
-  cmdYes.Click = [this] {
-    confirmed_ = true;
-    Unload();
-  };
+  cmdYes.Click = [this] { Accept(); };
   cmdNo.Click = [this] { Unload(); };
-}
-
-bool frmUploadConf::Form_KeyUp(const KeyPress& key) {
-  if (key != KeyPress{"F1"}) return false;
-  help_.ShowHelp("UploadConfirmation");
-  return true;
 }
 
 }  // namespace tarnview

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desk/Help.h"
 #include "model/Settings.h"
 #include "ui/CommandButton.h"
 #include "ui/Form.h"
@@ -8,10 +7,10 @@
 
 namespace tarnview {
 
-/// The last question before an ECU is written to: is it the chip that the user owns?
+/// The last question before an ECU is written to: is it the chip that the user owns? Accepted by Yes alone.
 class frmUploadConf : public Form {
  public:
-  frmUploadConf(Host& itsHost, const Settings& settings, Help& help);
+  frmUploadConf(Host& itsHost, const Settings& settings);
 
   Label lblConfirm{*this, "lblConfirm",
                    "Confirm that the following information accurately describes the Link ECU chip that the zone data "
@@ -32,16 +31,6 @@ class frmUploadConf : public Form {
   Label lblContinue{*this, "lblContinue", "Continue with upload ?"};
   CommandButton cmdYes{*this, "cmdYes", "&Yes"};
   CommandButton cmdNo{*this, "cmdNo", "&No"};
-
-  /// Yes closed it; anything else is No.
-  bool Confirmed() const { return confirmed_; }
-
- protected:
-  bool Form_KeyUp(const KeyPress& key) override;
-
- private:
-  Help& help_;
-  bool confirmed_ = false;
 };
 
 }  // namespace tarnview

@@ -10,7 +10,7 @@
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
-#include "ui/Action.h"
+#include "support/WindowActions.h"
 #include "ui/Form.h"
 #include "ui/RecordingHost.h"
 
@@ -37,19 +37,7 @@ class EcuTest : public ::testing::Test {
 
   /// What a user does in a window of that class: actions such as "click cmdOK", one a line.
   void User(const std::string& window, const std::string& actions) {
-    users[window] = [this, actions](Form& form) { Act(form, actions); };
-  }
-  void Act(Form& form, const std::string& actions) {
-    for (const std::string& line : Split(actions, '\n')) {
-      const std::vector<std::string> words = Split(line, ' ');
-      const std::size_t bracket = words[1].find('(');
-      const int index = bracket == std::string::npos ? -1 : words[1][bracket + 1] - '0';
-      Action action{words[0], {}};
-      if (words.size() > 2) action.words.push_back(line.substr(words[0].size() + words[1].size() + 2));
-      Control* control = form.Find(words[1].substr(0, bracket), index);
-      ASSERT_TRUE(control) << line;
-      control->Do(action);
-    }
+    users[window] = [actions](Form& form) { Act(form, actions); };
   }
   /// What a program does, by the name of its file.
   void ProgramDoes(const std::string& name, std::function<void()> does) { programs_[name] = std::move(does); }
@@ -81,8 +69,7 @@ class EcuTest : public ::testing::Test {
   Settings settings;
   EXEFunctions programs{processes, host};
   Messages messages{host, [](int) { return ""; }};
-  Help help{files, programs, messages, ""};
-  EcuWorld world{host, settings, files, clock, programs, messages, help};
+  EcuWorld world{host, settings, files, clock, programs, messages};
   std::string told;
   std::map<std::string, std::function<void(Form&)>> users;
 

@@ -35,6 +35,7 @@ class MemoryFileSystem : public FileSystem {
     Note("folder", path);
     return IsFolder(path);
   }
+  bool IsProgram(const std::string& path) override { return HasProgramName(path) && files.contains(path); }
   std::optional<FileBytes> Read(const std::string& path) override {
     Note("read", path);
     const auto found = files.find(path);
