@@ -28,6 +28,8 @@ std::vector<std::string> NamesIn(const std::string& folder, const std::string& p
 
 }  // namespace
 
+bool HasProgramName(std::string_view path) { return Upper(path).ends_with("EXE"); }
+
 bool RealFileSystem::FileExists(const std::string& path) {
   if (path.empty()) return false;
   std::error_code failed;

@@ -20,6 +20,9 @@ class FileSystem {
   /// A file or folder of that name, or one that the wildcards "*" and "?" of its last part match.
   virtual bool FileExists(const std::string& path) = 0;
   virtual bool FolderExists(const std::string& path) = 0;
+  /// A file that can be run: by its name ("EXE" at its end, in any case), and where files carry a permission for that,
+  /// by that as well, so that a wrapper or an emulator serves.
+  virtual bool IsProgram(const std::string& path) = 0;
   /// The whole file; nothing for a folder, a pipe or device, or a file that cannot be read.
   virtual std::optional<FileBytes> Read(const std::string& path) = 0;
   /// In words, why Read gives nothing for a path: "It is larger than 1 GiB."
@@ -49,6 +52,7 @@ class RealFileSystem : public FileSystem {
  public:
   bool FileExists(const std::string& path) override;
   bool FolderExists(const std::string& path) override;
+  bool IsProgram(const std::string& path) override;
   std::optional<FileBytes> Read(const std::string& path) override;
   std::string WhyNotRead(const std::string& path) override;
   bool Write(const std::string& path, std::string_view bytes) override;
@@ -72,6 +76,9 @@ inline constexpr std::int64_t kMostFileBytes = std::int64_t{1} << 30;
 
 inline constexpr const char* kTooLargeToRead = "It is larger than 1 GiB.";
 inline constexpr const char* kNoMemoryToRead = "There is not enough memory for it.";
+
+/// "C:\Link\LINKWIN.exe" is.
+bool HasProgramName(std::string_view path);
 
 /// "*" stands for any characters, "?" for one; case is ignored.
 bool MatchesPattern(std::string_view name, std::string_view pattern);

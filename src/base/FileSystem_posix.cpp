@@ -174,4 +174,10 @@ bool RealFileSystem::Append(const std::string& path, std::string_view bytes) {
 
 bool RealFileSystem::DeleteFile(const std::string& path) { return ::unlink(path.c_str()) == 0; }
 
+bool RealFileSystem::IsProgram(const std::string& path) {
+  struct stat facts;
+  if (::stat(path.c_str(), &facts) != 0 || !S_ISREG(facts.st_mode)) return false;
+  return HasProgramName(path) || ::access(path.c_str(), X_OK) == 0;
+}
+
 }  // namespace tarnview

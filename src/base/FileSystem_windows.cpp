@@ -147,4 +147,6 @@ bool RealFileSystem::DeleteFile(const std::string& path) {
   return DeleteFileA(path.c_str()) != 0;
 }
 
+bool RealFileSystem::IsProgram(const std::string& path) { return HasProgramName(path) && FileExists(path); }
+
 }  // namespace tarnview
