@@ -89,6 +89,8 @@ class Form {
   virtual bool Form_KeyUp(const KeyPress&) { return false; }
   /// OK: closes the window and tells its caller to take what is in it.
   void Accept();
+  /// Tells the caller the same, however the window closes.
+  void MarkAccepted() { outcome_ = Outcome::Accepted; }
 
  private:
   friend class Control;
