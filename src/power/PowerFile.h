@@ -44,6 +44,7 @@ struct PowerFile {
   std::vector<SpeedPoint> speed;  ///< mph or km/h; empty in older files
 
   bool imperial() const { return units == "Imperial"; }
+  bool UnitsKnown() const { return imperial() || units == "Metric"; }
 };
 
 /// The file's text, CR LF behind each line. A power or torque of 1000 and an rpm of 10000 or more is written in full,

@@ -6,6 +6,7 @@
 
 #include "base/Numbers.h"
 #include "base/Units.h"
+#include "model/Column.h"
 #include "model/LocateSample.h"
 #include "power/Drag.h"
 #include "power/DriveWheel.h"
@@ -13,9 +14,6 @@
 
 namespace tarnview {
 namespace {
-
-constexpr int kRpm = 3;  // data items
-constexpr int kSecs = 63;
 
 /// What stays the same through a run: metres, kilograms, seconds, watts.
 struct Constants {
@@ -113,13 +111,12 @@ PowerCurves Failed(const std::string& fault) {
 std::vector<RunSample> SamplesOfRun(const OpenLog& log, std::int32_t from, std::int32_t to) {
   std::vector<RunSample> samples;
   if (log.glngDataLog.Rows() == 0) return samples;
-  const clsLogDataItem& rpm = log.gcolDataItems->Item(kRpm);
-  const clsLogDataItem& secs = log.gcolDataItems->Item(kSecs);
+  const clsLogDataItem& rpm = log.gcolDataItems->Item(ItemOf(kRPM));
+  const clsLogDataItem& secs = log.gcolDataItems->Item(ItemOf(kSecs));
   std::int32_t row = LocateSample(log, from - log.glngFirstSampleTime, from);
   for (; row <= log.glngLastSample && samples.size() <= kLongestRun; ++row) {
     if (log.Sample(row) < from || log.Sample(row) > to) continue;
-    samples.push_back(
-        {secs.GetRawData(log.glngDataLog(kSecs - 1, row)), rpm.GetRawData(log.glngDataLog(kRpm - 1, row))});
+    samples.push_back({secs.GetRawData(log.glngDataLog(kSecs, row)), rpm.GetRawData(log.glngDataLog(kRPM, row))});
   }
   return samples;
 }

@@ -4,12 +4,11 @@
 #include <cmath>
 #include <limits>
 
+#include "model/Column.h"
 #include "power/PowerRun.h"
 
 namespace tarnview {
 namespace {
-
-constexpr int kRpm = 3, kThrottle = 17, kSpeed = 24, kSecs = 63;  // data items
 
 constexpr double kFullThrottle = 0.9;     ///< of the widest that the log knows
 constexpr double kSensorStep = 0.98;      ///< of the highest rpm so far: a fall to less is no more noise
@@ -23,7 +22,7 @@ constexpr int kLongestPlateau = 200;      ///< rows without a new highest rpm: t
 class Finder {
  public:
   explicit Finder(const OpenLog& log)
-      : log_(log), fullThrottle_(Widest(kThrottle) * kFullThrottle), last_(log.glngLastSample) {}
+      : log_(log), fullThrottle_(Widest(kTPS) * kFullThrottle), last_(log.glngLastSample) {}
 
   std::vector<FoundRun> Runs() const {
     std::vector<FoundRun> runs;
@@ -36,25 +35,25 @@ class Finder {
   }
 
  private:
-  double Value(int item, std::int32_t row) const {
-    return log_.gcolDataItems->Item(item).GetRawData(log_.glngDataLog(item - 1, row));
+  double Value(Column column, std::int32_t row) const {
+    return log_.gcolDataItems->Item(ItemOf(column)).GetRawData(log_.glngDataLog(column, row));
   }
 
   /// The highest value of an item; 0 where the log does not deliver it.
-  double Widest(int item) const {
+  double Widest(Column column) const {
     double widest = 0;
-    if (log_.glngDataLog.Column(item - 1).empty()) return widest;
+    if (log_.glngDataLog.Column(column).empty()) return widest;
     for (std::int32_t row = log_.glngFirstSample; row <= log_.glngLastSample; ++row)
-      widest = std::max(widest, Value(item, row));
+      widest = std::max(widest, Value(column, row));
     return widest;
   }
 
-  bool Open(std::int32_t row) const { return Value(kThrottle, row) >= fullThrottle_ && Value(kRpm, row) > 0; }
+  bool Open(std::int32_t row) const { return Value(kTPS, row) >= fullThrottle_ && Value(kRPM, row) > 0; }
 
   /// rpm for each unit of road speed; 0 where the log cannot tell.
   double Gearing(std::int32_t row) const {
     const double speed = Value(kSpeed, row);
-    return speed >= kReliableSpeed ? Value(kRpm, row) / speed : 0;
+    return speed >= kReliableSpeed ? Value(kRPM, row) / speed : 0;
   }
 
   bool SameGear(double gearing, std::int32_t row) const {
@@ -69,8 +68,8 @@ class Finder {
     double gearing = Gearing(start);
     for (std::int32_t row = start; row <= last_ && row - highest <= kLongestPlateau && Open(row); ++row) {
       const bool pause = row > start && Value(kSecs, row) - Value(kSecs, row - 1) > kLongestInterval;
-      if (pause || Value(kRpm, row) < Value(kRpm, highest) * kSensorStep || !SameGear(gearing, row)) break;
-      if (Value(kRpm, row) > Value(kRpm, highest)) highest = row;
+      if (pause || Value(kRPM, row) < Value(kRPM, highest) * kSensorStep || !SameGear(gearing, row)) break;
+      if (Value(kRPM, row) > Value(kRPM, highest)) highest = row;
       if (gearing == 0) gearing = Gearing(row);
     }
     return highest;
@@ -78,15 +77,15 @@ class Finder {
 
   /// The last row of a stretch before the rpm leave their lowest.
   std::int32_t StartOfRise(std::int32_t start, std::int32_t end) const {
-    double lowest = Value(kRpm, start);
-    for (std::int32_t row = start; row <= end; ++row) lowest = std::min(lowest, Value(kRpm, row));
+    double lowest = Value(kRPM, start);
+    for (std::int32_t row = start; row <= end; ++row) lowest = std::min(lowest, Value(kRPM, row));
     std::int32_t last = end;
-    while (last > start && Value(kRpm, last) * kLeavesLowest > lowest) --last;
+    while (last > start && Value(kRPM, last) * kLeavesLowest > lowest) --last;
     return last;
   }
 
   FoundRun Between(std::int32_t from, std::int32_t to) const {
-    return {log_.Sample(from), log_.Sample(to), Value(kRpm, from), Value(kRpm, to),
+    return {log_.Sample(from), log_.Sample(to), Value(kRPM, from), Value(kRPM, to),
             Value(kSecs, to) - Value(kSecs, from)};
   }
 
