@@ -1,7 +1,10 @@
 #pragma once
 
 #include "power/CarFile.h"
+#include "power/PowerChart.h"
 #include "power/SavedRun.h"
+#include "power/SpeedChart.h"
+#include "power/SpeedQuery.h"
 
 namespace tarnview {
 
@@ -21,8 +24,11 @@ inline int FuzzPowerFile(const unsigned char* data, std::size_t size) {
   run.smoothing = 7;
   run.samples = SomeSamples();
   const auto benchmark = InUnits(graph.points, graph.imperial(), true);
-  PeaksOf(benchmark);
-  CurvesOf(run, &benchmark);
+  const PowerCurves curves = CurvesOf(run, &benchmark);
+  if (!curves.failed) PowerChart(curves, ShownBenchmark{benchmark, PeaksOf(benchmark)});
+  const auto speeds = ShownSpeeds(graph.speed, 0.44704, 0.27778, 1);
+  SpeedChart(speeds, &speeds, false);
+  TimeBetween(speeds, 10, 60);
   return 0;
 }
 
