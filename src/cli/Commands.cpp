@@ -14,7 +14,7 @@ int RunCommandLine(int count, const char* const* arguments) {
   program.footer("Example:\n  tarnview-cli graph run.txt --items 3,5,20 --out run.png");
   int status = kDone;
   for (const auto add : {AddLoadCommand, AddTableCommand, AddExportCommand, AddGraphCommand, AddScatterCommand,
-                         AddDefinitionCommand, AddSettingsCommand, AddDriveCommand})
+                         AddPowerCommand, AddDefinitionCommand, AddSettingsCommand, AddDriveCommand})
     add(program, status);
   try {
     program.parse(count, arguments);

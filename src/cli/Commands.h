@@ -15,6 +15,7 @@ void AddTableCommand(CLI::App& program, int& status);
 void AddExportCommand(CLI::App& program, int& status);
 void AddGraphCommand(CLI::App& program, int& status);
 void AddScatterCommand(CLI::App& program, int& status);
+void AddPowerCommand(CLI::App& program, int& status);
 void AddDefinitionCommand(CLI::App& program, int& status);
 void AddSettingsCommand(CLI::App& program, int& status);
 void AddDriveCommand(CLI::App& program, int& status);
