@@ -29,6 +29,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, plot_, log_),
       tags_(services.host, log_.gcolLogTags, *this),
       scatter_(*this, globals, services, range_, status_, *this),
+      power_(*this, globals, services, range_, *this),
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
   HelpTopic = "SampleGraph";
@@ -96,6 +97,7 @@ void frmDataLogViewer::Form_Unload() {
   globals_.settings.windows.main = PlacementOf(*this);
   nonModalMessages_.UnloadAll();
   scatter_.UnloadAll();
+  power_.UnloadAll();
   WriteINIFile();
   tags_.Unload();
 }
@@ -117,6 +119,14 @@ void frmDataLogViewer::ShowRange(const clsLogTag& tag) {
   if (!log_.gblnSamplesLoaded) return;
   range_.SetFrom(tag.FromSequence);
   range_.SetTo(tag.ToSequence);
+  graph_.DrawGraphChecked();
+}
+
+void frmDataLogViewer::PlotRun(const SampleRange& range, std::int32_t sample) {
+  range_.SetFrom(range.from);
+  range_.SetTo(range.to);
+  plot_.lngHighlightSample = sample;
+  plot_.blnForceRedraw = true;
   graph_.DrawGraphChecked();
 }
 

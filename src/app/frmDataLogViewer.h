@@ -5,6 +5,7 @@
 
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
+#include "app/PowerWindows.h"
 #include "app/RecentFiles.h"
 #include "app/ScatterWindows.h"
 #include "app/SettingsFile.h"
@@ -38,7 +39,8 @@ class frmDataLogViewer : public MainWindowControls,
                          private GraphMouse::MainWindow,
                          private PresetGraphs::MainWindow,
                          private frmDataTags::MainWindow,
-                         private ScatterWindows::SampleGraphWindow {
+                         private ScatterWindows::SampleGraphWindow,
+                         private PowerWindows::SampleGraphWindow {
  public:
   frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
@@ -68,6 +70,7 @@ class frmDataLogViewer : public MainWindowControls,
   SampleDetails& Details() { return details_; }
   PresetGraphs& Presets() { return presets_; }
   ScatterWindows& Scatter() { return scatter_; }
+  PowerWindows& Power() { return power_; }
   PlotState& Plot() { return plot_; }
   const RecentFiles& Recent() const { return recent_; }
 
@@ -110,7 +113,7 @@ class frmDataLogViewer : public MainWindowControls,
   void DisplayZoneInfluence();
   bool IsLinkLog() const;
   int PresetFileType() const;
-  /// Which list: 1 preset sample graphs, 2 preset scatter graphs.
+  /// Which list: 1 preset sample graphs, 2 preset scatter graphs, 4 car definitions.
   void MaintainList(int list);
   template <class Collection>
   void Maintain(const frmMaint::Texts& texts, Collection& kept, std::function<bool(typename Collection::Record&)> edit);
@@ -139,6 +142,7 @@ class frmDataLogViewer : public MainWindowControls,
   void ShowRange(const clsLogTag& tag) override;
   void TagsChanged() override { commands_.Update(); }
   void ShowPoint(std::int32_t sample) override;
+  void PlotRun(const SampleRange& range, std::int32_t sample) override;
 
   Globals& globals_;
   Services& services_;
@@ -161,6 +165,7 @@ class frmDataLogViewer : public MainWindowControls,
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
   ScatterWindows scatter_;
+  PowerWindows power_;
   Commands commands_;
   bool blnGotoShowPointWidth_ = false;
   bool exported_ = false;

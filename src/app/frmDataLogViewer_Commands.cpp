@@ -24,13 +24,12 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
       {&mnuModulesZoneData, "mnuModulesZoneData_Click", kNotYet, {}},
-      {&mnuModulesPowerGraph, "mnuModulesPowerGraph_Click", kNotYet, loaded},
       {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
       {&mnuToolsConvert, "mnuToolsConvert_Click", kNotYet, {}},
       {&mnuCustomiseOptions, "mnuCustomiseOptions_Click", kNotYet, {}},
       {&mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", [this] { MaintainList(1); }, {}},
       {&mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", [this] { MaintainList(2); }, {}},
-      {&mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", kNotYet, {}},
+      {&mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", [this] { MaintainList(4); }, {}},
       {&mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", kNotYet, {}},
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
@@ -99,7 +98,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows()})
+  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(), power_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(

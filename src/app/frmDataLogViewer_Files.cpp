@@ -124,6 +124,7 @@ void frmDataLogViewer::HideForLoad() {
   range_.Clear();
   graph_.Clear();
   scatter_.LogIsClosing();
+  power_.LogIsClosing();
   scrolling_.Disable();
   cmdDataPointLeft.Enabled = cmdDataPointRight.Enabled = false;
   fraGraphSeriesFrame.Enabled = false;
@@ -156,6 +157,7 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
   DisplayZoneInfluence();
   RefreshDataTags();
   scatter_.RefreshDataItems();
+  power_.LogIsOpen();
 }
 
 void frmDataLogViewer::SetFirstRange() {

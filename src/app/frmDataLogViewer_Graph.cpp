@@ -117,22 +117,32 @@ void frmDataLogViewer::Maintain(const frmMaint::Texts& texts, Collection& kept,
 
 void frmDataLogViewer::MaintainList(int list) {
   const struct {
+    int number;
     frmMaint::Texts texts;
     std::function<void(const frmMaint::Texts&)> maintain;
   } kLists[] = {
-      {{"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
+      {1,
+       {"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
        [this](const frmMaint::Texts& texts) {
          Maintain(texts, globals_.gcolSampleGraphPresets,
                   [this](auto& preset) { return EditPreset<frmPresetSampleDetails>(preset); });
        }},
-      {{"Preset Scatter Graph Editor", "&Preset Graphs", "PresetScatterGraphEditor"},
+      {2,
+       {"Preset Scatter Graph Editor", "&Preset Graphs", "PresetScatterGraphEditor"},
        [this](const frmMaint::Texts& texts) {
          Maintain(texts, globals_.gcolScatterGraphPresets,
                   [this](auto& preset) { return EditPreset<frmPresetScatterDetails>(preset); });
        }},
+      // The doubled word is kept on purpose.
+      {4,
+       {"Car Definition Editor Editor", "&Car Definitions", "CarDefinitionEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolCarDefs, [this](auto& car) { return power_.EditCar(car); });
+         power_.CarsChanged();
+       }},
   };
-  const auto& row = kLists[list - 1];
-  row.maintain(row.texts);
+  for (const auto& row : kLists)
+    if (row.number == list) return row.maintain(row.texts);
 }
 
 }  // namespace tarnview

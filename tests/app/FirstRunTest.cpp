@@ -187,7 +187,7 @@ TEST_F(FirstRunTest, TheShippedTemplatesHoldGoodData) {
     const Globals& globals = program->Global();
     const clsLogDataItems& items = globals.catalogue.gcolFixedDataItems;
     EXPECT_EQ(globals.settings.gintDefaultFileType, type);
-    EXPECT_EQ(globals.gcolCarDefs.Count(), 3);
+    EXPECT_EQ(globals.gcolCarDefs.Count(), 5);
     const int own = globals.kinds.gcolLogFamilies.FirstLogFamily(type);
     for (const int item : globals.settings.gcolCheckedDataItems) {
       EXPECT_TRUE(own == kUniversalLogFamily || items.Item(item).InFamily(own)) << item;

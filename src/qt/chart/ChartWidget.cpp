@@ -2,22 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "qt/Fonts.h"
 #include "qt/Text.h"
 #include "qt/chart/AxisNumbers.h"
 #include "qt/chart/ChartColours.h"
+#include "qt/chart/LegendText.h"
 #include "qt/chart/LinePen.h"
 #include "qt/chart/NearestPoint.h"
 
 namespace tarnview {
-namespace {
-
-/// Characters of a series name that the legend shows.
-constexpr int kLongestName = 24;
-
-}  // namespace
+namespace {}  // namespace
 
 ChartWidget::ChartWidget(QWidget* parent) : QCustomPlot(parent) {
   setFocusPolicy(Qt::StrongFocus);
@@ -70,7 +65,6 @@ void ChartWidget::SetDescription(const ChartDescription& description) {
   drawn_ = false;
   MakeCurves();
   MakeCloud();
-  MakeSurface();
   xAxis->setRange(chart_.x.min, chart_.x.max > chart_.x.min ? chart_.x.max : chart_.x.min + 1);
   yAxis->setRange(chart_.y.min, chart_.y.max > chart_.y.min ? chart_.y.max : chart_.y.min + 1);
   ApplyColours();
@@ -84,8 +78,7 @@ void ChartWidget::MakeCurves() {
   for (const ChartSeries& series : chart_.Series()) {
     auto* curve = new CurveLine(xAxis, yAxis);
     curve->setPen(PenOf(series.pen));
-    const QString name = ToQt(series.name);
-    curve->setName(name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(0x2026) : name);
+    curve->setName(LegendText(ToQt(series.name)));
     curve->setSelectable(QCP::stNone);
     curves_.push_back(curve);
   }
@@ -97,17 +90,6 @@ void ChartWidget::MakeCloud() {
   const bool tinted = cloud && !cloud->tint.empty();
   bar_.Show(tinted, tinted ? cloud->tintAxis : ChartAxis());
   if (cloud_) ApplyFonts();
-}
-
-/// A surface has the whole room, and axes of its own.
-void ChartWidget::MakeSurface() {
-  delete std::exchange(surfaceMark_, nullptr);
-  delete std::exchange(surface_, nullptr);
-  axisRect()->setVisible(!chart_.AsSurface());
-  if (!chart_.AsSurface()) return;
-  surface_ = new SurfacePlot(*this, *chart_.AsSurface());
-  surfaceMark_ = new SurfaceMark(*this, *surface_);
-  ApplyFonts();
 }
 
 void ChartWidget::ApplyColours() {
@@ -123,7 +105,6 @@ void ChartWidget::ApplyColours() {
   }
   legend->setTextColor(colours.text);
   if (cloud_) cloud_->SetColours(colours);
-  if (surface_) surface_->SetColours(colours);
   // Two lines that cross on a mark would hide it.
   const QColor lines = cloud_ ? Mix(colours.backdrop, colours.text, 0.5) : colours.text;
   for (QCPItemStraightLine* line : {line_, across_}) line->setPen(QPen(lines, 1));
@@ -144,7 +125,6 @@ void ChartWidget::ApplyFonts() {
     axis->setLabelPadding(line / 3);
   }
   bar_.SetWidth(line);
-  if (surface_) surface_->SetFonts(font, digits);
   legend->setFont(font);
   legend->setIconSize(line * 3 / 2, line);
   legend->setIconTextPadding(line / 2);
@@ -207,7 +187,10 @@ void ChartWidget::FitNumbers() {
 
 void ChartWidget::FitLegend() {
   const int line = QFontMetrics(legend->font()).height();
-  const int rows = std::max((viewport().height() - 3 * line) / (line + 2 * legend->rowSpacing()), 1);
+  qsizetype lines = 1;  // of the tallest entry
+  for (const CurveLine* curve : curves_) lines = std::max(lines, curve->name().count('\n') + 1);
+  const int entry = line * static_cast<int>(lines) + 2 * legend->rowSpacing();
+  const int rows = std::max((viewport().height() - 3 * line) / entry, 1);
   if (legend->wrap() != rows) {
     legend->setWrap(rows);
     // Put in anew, the items take their places by the new count of rows.
@@ -232,7 +215,6 @@ void ChartWidget::RedrawMarks() {
 }
 
 std::optional<QPointF> ChartWidget::MarkedPoint() const {
-  if (surface_) return std::nullopt;
   const auto place = static_cast<std::size_t>(selectedPlace_);
   const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
   if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= (chart_.Cloud() ? 1 : chart_.Series().size()))
@@ -245,7 +227,6 @@ std::optional<QPointF> ChartWidget::MarkedPoint() const {
 }
 
 void ChartWidget::ShowMark() {
-  if (surfaceMark_) surfaceMark_->Select(selectedPlace_ + 1, selectedPoint_);
   const std::optional<QPointF> at = MarkedPoint();
   line_->setVisible(at.has_value());
   across_->setVisible(at && cloud_);
@@ -287,10 +268,6 @@ void ChartWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void ChartWidget::ClickAt(QPointF pixel) {
-  if (surface_) {
-    if (const auto cell = surface_->CellAt(pixel)) emit PointClicked(cell->first - 1, cell->second);
-    return;
-  }
   if (cloud_) {
     if (const auto point = cloud_->PointAt(pixel)) emit PointClicked(0, *point + 1);
     return;

@@ -7,13 +7,11 @@
 #include "qt/chart/ColourBar.h"
 #include "qt/chart/CurveLine.h"
 #include "qt/chart/PointCloudPlot.h"
-#include "qt/chart/SurfacePlot.h"
 #include "ui/ChartDescription.h"
 
 namespace tarnview {
 
-/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a cloud has place 0. Of
-/// a surface, place is the row from 0 and point the column from 1.
+/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a cloud has place 0.
 class ChartWidget : public QCustomPlot {
   Q_OBJECT
  public:
@@ -22,7 +20,6 @@ class ChartWidget : public QCustomPlot {
   void SetDescription(const ChartDescription& description);
   /// Marks a point with a ring and a line through all curves; a place or point that is not there takes the mark away.
   void Select(int place, int point);
-  bool ShowsSurface() const { return surface_ != nullptr; }
   /// Draws what lies over the curves anew, and the curves not.
   void RedrawMarks();
   /// Tells the point nearest to a pixel as clicked on; of a cloud, if it is near.
@@ -47,7 +44,6 @@ class ChartWidget : public QCustomPlot {
   void ApplyFonts();
   void MakeCurves();
   void MakeCloud();
-  void MakeSurface();
   /// What depends on the size: numbers that fit, legend columns, points that the pixels can show.
   void Fit(const QRect& viewport);
   void FitNumbers();
@@ -60,8 +56,6 @@ class ChartWidget : public QCustomPlot {
   ChartDescription chart_;
   std::vector<CurveLine*> curves_;   ///< one for each series
   PointCloudPlot* cloud_ = nullptr;  ///< null for curves
-  SurfacePlot* surface_ = nullptr;   ///< null for another kind
-  SurfaceMark* surfaceMark_ = nullptr;
   ColourBar bar_{*this};
   QCPLayoutGrid* legendColumn_ = nullptr;
   QCPItemStraightLine* line_ = nullptr;

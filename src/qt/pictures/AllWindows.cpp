@@ -14,6 +14,7 @@ DefinitionDetails Definition(bool filled) {
 struct AllWindows::NoMainWindow : frmDataTags::MainWindow {
   bool CurrentRange(clsLogTag&) const override { return false; }
   void ShowRange(const clsLogTag&) override {}
+  void TagsChanged() override {}
 };
 
 AllWindows::AllWindows(Host& host, const std::string& log, const std::string& settingsFile)
@@ -32,6 +33,7 @@ AllWindows::AllWindows(Host& host, const std::string& log, const std::string& se
   MakeGraphWindows();
   MakeScatterDetails(!log.empty());
   MakeScatterGraphs();
+  power_ = std::make_unique<PowerPictures>(program_, clock_, files_, errors_, messages_, log);
   for (Form* form : Forms())
     if (!form->IsShown()) form->Show();
 }
@@ -152,6 +154,8 @@ std::vector<Form*> AllWindows::Forms() {
                            filter_.get(),
                            firstRun_.get()};
   forms.insert(forms.end(), scatterGraphs_.begin(), scatterGraphs_.end());
+  const auto power = power_->Forms();
+  forms.insert(forms.end(), power.begin(), power.end());
   return forms;
 }
 

@@ -9,6 +9,7 @@
 #include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
+#include "qt/pictures/PowerPictures.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
 #include "samplegraph/frmPresetSampleDetails.h"
@@ -60,6 +61,7 @@ class AllWindows {
   std::unique_ptr<frmPresetScatterDetails> scatterDetails_;
   std::unique_ptr<frmScatterFilter> filter_;
   std::vector<Form*> scatterGraphs_;  ///< the main window's
+  std::unique_ptr<PowerPictures> power_;
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
 };
