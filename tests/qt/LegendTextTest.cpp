@@ -1,6 +1,6 @@
-#include "qt/chart/LegendText.h"
-
 #include <gtest/gtest.h>
+
+#include "qt/chart/LegendText.h"
 
 namespace tarnview {
 namespace {
