@@ -117,10 +117,22 @@ void ScatterDrawing::Colour(PointCloud& cloud, const ScatterRequest& request) co
 
 void ScatterDrawing::Recolour(const ScatterRequest& request) {
   if (!OfOpenLog()) return;
+  ChartDescription data = controls_.chScatterGraph.Data();
+  Colour(std::get<PointCloud>(data.kind), request);
+  Replace(std::move(data));
+}
+
+void ScatterDrawing::TakeColourScheme() {
+  if (!Drawn()) return;
+  ChartDescription data = controls_.chScatterGraph.Data();
+  SetGraphColourScheme(data, settings_.gintGraphColourScheme);
+  Replace(std::move(data));
+}
+
+/// The same points in other colours: the selected one stays so.
+void ScatterDrawing::Replace(ChartDescription data) {
   Chart& chart = controls_.chScatterGraph;
   const int point = chart.SelectedPoint();
-  ChartDescription data = chart.Data();
-  Colour(std::get<PointCloud>(data.kind), request);
   chart.SetData(std::move(data));
   if (point > 0) chart.SelectPoint(1, point);
 }

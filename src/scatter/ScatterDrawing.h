@@ -44,6 +44,8 @@ class ScatterDrawing {
   void DrawScatter(const ScatterRequest& request, bool blnQuiet);
   /// Gives the graph on show the request's colouring and nothing else of it.
   void Recolour(const ScatterRequest& request);
+  /// Gives the graph on show the colour scheme of the settings.
+  void TakeColourScheme();
   /// The log goes: the graph stays, but its points have no samples any more.
   void LogChanged() { ofOpenLog_ = false; }
 
@@ -64,6 +66,7 @@ class ScatterDrawing {
  private:
   void Clear();
   bool MayBuild(const ScatterRequest& request, bool blnQuiet);
+  void Replace(ChartDescription data);
   void Build(const ScatterRequest& request, bool blnQuiet);
   ChartDescription Describe(const ScatterRequest& request) const;
   void Colour(PointCloud& cloud, const ScatterRequest& request) const;

@@ -179,6 +179,12 @@ std::string frmScatterGraph::AxesOnShow() const {
   return name(points.yItem) + " against " + name(points.xItem);
 }
 
+void frmScatterGraph::OptionsChanged() {
+  fraPicture.BackgroundPicture = around_.settings.gstrAlternativeBackgroundPicture;
+  RefreshDataItems();
+  drawing_.TakeColourScheme();
+}
+
 void frmScatterGraph::Recolour() { drawing_.Recolour(Request()); }
 
 bool frmScatterGraph::ChooseAxes(int xItem, int yItem) {
