@@ -6,6 +6,7 @@
 #include "app/frmDataLogViewer.h"
 #include "base/Paths.h"
 #include "samplegraph/GraphScale.h"
+#include "zones/MapFile.h"
 
 namespace tarnview {
 namespace {
@@ -135,6 +136,20 @@ void frmDataLogViewer::HideForLoad() {
   fraZoneInfl.Enabled = false;
   commands_.Update();
   host.DoEvents();
+}
+
+void frmDataLogViewer::CloseDataLogFile() {
+  HideForLoad();
+  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  log_.gstrCurrentFile.clear();
+  log_.gstrCurrentFileTitle.clear();
+  log_.gintCurrentFileType = kUnknownFile;
+  log_.gblnZonesDirty = false;
+  commands_.Update();
+}
+
+bool frmDataLogViewer::SaveMapFile(const std::string& path) {
+  return WriteMapFile(services_.files, path, MapOf(log_.zones), services_.clock.Now());
 }
 
 void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {

@@ -58,4 +58,28 @@ bool frmDataLogViewer::WriteINIFile() {
   return settingsFile_.WriteINIFile(globals_.gstrINIFileToWrite, [this](const char* text) { status_.Say(text); });
 }
 
+void frmDataLogViewer::ListsChanged() {
+  presets_.PopulatePresetGraphs(false, PresetFileType());
+  scatter_.UpdatePresets();
+  commands_.Update();
+}
+
+/// The graph, the list and every scatter window are shown anew, as the settings and the data items now say.
+void frmDataLogViewer::OptionsChanged() {
+  const Settings& settings = globals_.settings;
+  mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
+  fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
+  details_.SetUpSampleGraphSampleListView(PresetFileType(), ItemsOf(PresetFileType()));
+  if (log_.gblnSamplesLoaded) {
+    SetDataLogViewerCaption();
+    details_.ShowHighlighted();
+  }
+  if (drawn_) {
+    plot_.blnForceRedraw = true;
+    graph_.DrawSampleGraph();
+  }
+  ListsChanged();
+  scatter_.OptionsChanged();
+}
+
 }  // namespace tarnview

@@ -9,6 +9,7 @@
 #include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
+#include "customise/frmOptions.h"
 #include "qt/pictures/PowerPictures.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
@@ -37,6 +38,8 @@ class AllWindows {
   void MakeGraphWindows();
   void MakeScatterDetails(bool filled);
   void MakeScatterGraphs();
+  void MakeEcuWindows(bool filled);
+  void MakeOptions(bool filled);
 
   RealFileSystem files_;
   RealClock clock_;
@@ -64,6 +67,8 @@ class AllWindows {
   std::unique_ptr<PowerPictures> power_;
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
+  std::vector<std::unique_ptr<Form>> ecuWindows_;
+  std::vector<std::unique_ptr<frmOptions>> options_;  ///< one for each page, where they are filled
 };
 
 }  // namespace tarnview
