@@ -80,6 +80,7 @@ void frmDataLogViewer::OptionsChanged() {
   }
   ListsChanged();
   scatter_.OptionsChanged();
+  power_.OptionsChanged();
 }
 
 }  // namespace tarnview

@@ -117,24 +117,16 @@ void ScatterDrawing::Colour(PointCloud& cloud, const ScatterRequest& request) co
 
 void ScatterDrawing::Recolour(const ScatterRequest& request) {
   if (!OfOpenLog()) return;
-  ChartDescription data = controls_.chScatterGraph.Data();
+  Chart& chart = controls_.chScatterGraph;
+  const int point = chart.SelectedPoint();
+  ChartDescription data = chart.Data();
   Colour(std::get<PointCloud>(data.kind), request);
-  Replace(std::move(data));
+  chart.SetData(std::move(data));
+  if (point > 0) chart.SelectPoint(1, point);
 }
 
 void ScatterDrawing::TakeColourScheme() {
-  if (!Drawn()) return;
-  ChartDescription data = controls_.chScatterGraph.Data();
-  SetGraphColourScheme(data, settings_.gintGraphColourScheme);
-  Replace(std::move(data));
-}
-
-/// The same points in other colours: the selected one stays so.
-void ScatterDrawing::Replace(ChartDescription data) {
-  Chart& chart = controls_.chScatterGraph;
-  const int point = chart.SelectedPoint();
-  chart.SetData(std::move(data));
-  if (point > 0) chart.SelectPoint(1, point);
+  if (Drawn()) tarnview::TakeColourScheme(controls_.chScatterGraph, settings_.gintGraphColourScheme);
 }
 
 }  // namespace tarnview

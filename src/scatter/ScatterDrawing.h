@@ -66,7 +66,6 @@ class ScatterDrawing {
  private:
   void Clear();
   bool MayBuild(const ScatterRequest& request, bool blnQuiet);
-  void Replace(ChartDescription data);
   void Build(const ScatterRequest& request, bool blnQuiet);
   ChartDescription Describe(const ScatterRequest& request) const;
   void Colour(PointCloud& cloud, const ScatterRequest& request) const;
