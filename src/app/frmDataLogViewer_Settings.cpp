@@ -18,7 +18,8 @@ void frmDataLogViewer::TakeSettings() {
   txtYMax.Enabled = updYMax.Enabled = false;
   chkFixY.Value = settings.gblnFixGraphMax;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
-  fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
+  const std::string& picture = settings.gstrAlternativeBackgroundPicture;
+  fraPicture.BackgroundPicture = services_.files.IsFile(picture) ? picture : std::string();
   for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
     const auto [fileType, path] = RecentFiles::ParseTag(*entry);
     const int known =

@@ -205,7 +205,9 @@ void SampleGraph::chkFixY_Click() {
 }
 
 void SampleGraph::StepYMax(int by) {
-  controls_.txtYMax.Text = std::to_string(kGraphYMaxLimits.Hold(StringToLong(controls_.txtYMax.Text()) + by));
+  const std::int64_t wanted = std::int64_t{StringToLong(controls_.txtYMax.Text())} + by;
+  const Limits& limits = kGraphYMaxLimits;
+  controls_.txtYMax.Text = std::to_string(std::clamp<std::int64_t>(wanted, limits.least, limits.most));
 }
 
 }  // namespace tarnview
