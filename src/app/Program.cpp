@@ -26,7 +26,6 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
       help_(files, programs_, messages_, In(folders_.data, "Documentation/"), folders_.program),
       services_{host, files, clock, programs_, errors_, messages_} {
   host_.ShowHelp = [this](const std::string& topic) { help_.ShowHelp(topic); };
-  host_.WhyNotSave = [this](const std::string& path) { return WhyNotSave(path); };
   globals_.gstrProgramFolder = folders_.program;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");
   globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
@@ -59,6 +58,7 @@ void Program::FindInstallINIFile() {
 void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
   if (!folders_.program.empty()) files_.ClearLeftovers(folders_.program);
+  host_.WhyNotSave = [this](const std::string& path) { return WhyNotSave(path); };
   host_.events.Failed = [this](const std::string& module, const std::string& procedure, const std::exception& error) {
     EventFailed(module, procedure, error);
   };

@@ -96,6 +96,7 @@ class frmDataLogViewer : public MainWindowControls,
   // Opening a file.
   void mnuFileOpen_Click();
   bool Load(const std::string& path, int fileType);
+  void TellNotRead(const std::string& path, bool read);
   void LoadConversionFiles();
   const clsLogDataItems& ItemsOf(int fileType) const;
   void TellUniversalOutcome(const std::string& path, LoadOutcome& outcome);

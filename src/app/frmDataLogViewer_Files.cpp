@@ -5,6 +5,7 @@
 #include "app/Loaders.h"
 #include "app/frmDataLogViewer.h"
 #include "base/Paths.h"
+#include "base/TextFile.h"
 #include "samplegraph/GraphScale.h"
 #include "zones/MapFile.h"
 
@@ -94,9 +95,9 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
     services_.messages.ShowMessage(Message::OddKindOfFile);
     return false;
   }
-  const auto bytes = services_.files.Read(path);
-  if (!bytes) {
-    services_.messages.ShowMessage(Message::FileNotLoaded);
+  const auto bytes = ReadText(services_.files, path);
+  if (!bytes || !HasLines(*bytes)) {
+    TellNotRead(path, bytes.has_value());
     return false;
   }
   LoadConversionFiles();
@@ -113,6 +114,13 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
           [&programs = services_.programs, report = message.report] { programs.ShellOpen(report); });
   }
   return outcome.loaded;
+}
+
+/// A file that is just not there needs no reason.
+void frmDataLogViewer::TellNotRead(const std::string& path, bool read) {
+  std::string why = read ? "It has a line of more than 16 MB." : services_.files.WhyNotRead(path);
+  if (why != kTooLargeToRead && why != kNoMemoryToRead && !read) why.clear();
+  services_.messages.ShowMessage(Message::FileNotLoaded, false, why);
 }
 
 void frmDataLogViewer::HideForLoad() {
