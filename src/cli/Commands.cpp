@@ -1,10 +1,22 @@
 #include "cli/Commands.h"
 
+#include <cstdio>
 #include <iostream>
 
 #include "app/Version.h"
 
 namespace tarnview {
+namespace {
+
+/// Whether all of the result could be written; a full disk or a closed pipe is told.
+bool Printed() {
+  std::cout.flush();
+  if (std::cout && std::fflush(stdout) == 0 && !std::ferror(stdout)) return true;
+  std::fprintf(stderr, "tarnview-cli: standard output cannot be written\n");
+  return false;
+}
+
+}  // namespace
 
 int RunCommandLine(int count, const char* const* arguments) {
   CLI::App program("Does what Tarnview's windows do, with no display: loads, prints and draws data logs.");
@@ -20,9 +32,9 @@ int RunCommandLine(int count, const char* const* arguments) {
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& error) {
-    return program.exit(error, std::cout, std::cerr) == 0 ? kDone : kWrongCommandLine;
+    status = program.exit(error, std::cout, std::cerr) == 0 ? kDone : kWrongCommandLine;
   }
-  return status;
+  return Printed() ? status : kFailed;
 }
 
 }  // namespace tarnview
