@@ -88,7 +88,7 @@ class HeaderMap {
 };
 
 /// More columns than any log has; what stands behind them in a line of titles is passed over.
-inline constexpr std::size_t kMostFields = std::size_t{1} << 16;
+inline constexpr std::size_t kMostFields = std::size_t{1} << 18;
 
 /// The parts of a line between delimiters, kMostFields at most; an empty line has none. No byte is a delimiter beyond
 /// 255.
