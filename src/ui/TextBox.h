@@ -15,7 +15,7 @@ class TextBox : public Control {
   Property<std::string> Text;
   Event<> Change;  ///< after each change of Text, by hand or from code
   bool MultiLine = false;
-  bool ReadOnly = false;
+  Property<bool> ReadOnly = Shown(false);
   bool HoldsPath = false;  ///< its text is the platform's bytes and no Windows-1252
 
   /// LostFocus is the moment at which a window checks what was typed.

@@ -10,6 +10,15 @@ namespace {
 /// Inside the program a line ends with CR LF; the toolkit's fields know LF alone.
 QString Lines(const QString& text) { return QString(text).replace("\r\n", "\n"); }
 
+/// What cannot be edited is as grey as the window around it.
+void ShowReadOnly(QLineEdit& view, bool readOnly) {
+  if (view.isReadOnly() == readOnly) return;
+  view.setReadOnly(readOnly);
+  QPalette palette;
+  if (readOnly) palette.setColor(QPalette::Base, view.palette().color(QPalette::Window));
+  view.setPalette(palette);
+}
+
 }  // namespace
 
 LabelAdapter::LabelAdapter(Label& label, QLabel& view, Binder& binder)
@@ -30,7 +39,7 @@ LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
 void LineEditAdapter::ShowContent() {
   const QString text = box_.HoldsPath ? PathToQt(box_.Text) : ToQt(box_.Text);
   if (view_.text() != text) view_.setText(text);
-  view_.setReadOnly(box_.ReadOnly);
+  ShowReadOnly(view_, box_.ReadOnly);
 }
 
 TextEditAdapter::TextEditAdapter(TextBox& box, QPlainTextEdit& view, Binder& binder)
