@@ -32,13 +32,7 @@ QString DataFolder() {
   return own.absoluteFilePath("data");
 }
 
-ProgramFolders FindFolders() {
-  const QString program = WritableFolder();
-  ProgramFolders folders{PathFromQt(program + '/'), PathFromQt(DataFolder() + '/')};
-  if (program != QCoreApplication::applicationDirPath())
-    folders.logs = PathFromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/');
-  return folders;
-}
+ProgramFolders FindFolders() { return {PathFromQt(WritableFolder() + '/'), PathFromQt(DataFolder() + '/')}; }
 
 }  // namespace
 }  // namespace tarnview

@@ -17,9 +17,6 @@ class ChartWidget : public QCustomPlot {
  public:
   explicit ChartWidget(QWidget* parent = nullptr);
 
-  /// Small: a legend with long names must not widen the window.
-  QSize minimumSizeHint() const override { return {200, 150}; }
-
   void SetDescription(const ChartDescription& description);
   /// Marks a point with a ring and a line through all curves; a place or point that is not there takes the mark away.
   void Select(int place, int point);

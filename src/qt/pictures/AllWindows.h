@@ -9,13 +9,13 @@
 #include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
-#include "customise/frmOptions.h"
 #include "qt/pictures/PowerPictures.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "scatter/frmPresetScatterDetails.h"
 #include "scatter/frmScatterFilter.h"
+#include "zoneeditor/frmGridGraph.h"
 
 namespace tarnview {
 
@@ -38,8 +38,7 @@ class AllWindows {
   void MakeGraphWindows();
   void MakeScatterDetails(bool filled);
   void MakeScatterGraphs();
-  void MakeEcuWindows(bool filled);
-  void MakeOptions(bool filled);
+  void MakeGridGraphs();
 
   RealFileSystem files_;
   RealClock clock_;
@@ -65,10 +64,9 @@ class AllWindows {
   std::unique_ptr<frmScatterFilter> filter_;
   std::vector<Form*> scatterGraphs_;  ///< the main window's
   std::unique_ptr<PowerPictures> power_;
+  std::vector<std::unique_ptr<frmGridGraph>> gridGraphs_;
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
-  std::vector<std::unique_ptr<Form>> ecuWindows_;
-  std::vector<std::unique_ptr<frmOptions>> options_;  ///< one for each page, where they are filled
 };
 
 }  // namespace tarnview
