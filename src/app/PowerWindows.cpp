@@ -1,6 +1,5 @@
 #include "app/PowerWindows.h"
 
-#include "desk/ColourScheme.h"
 #include "power/frmCarDefinitionDetails.h"
 
 namespace tarnview {
@@ -55,12 +54,6 @@ void PowerWindows::LogIsOpen() {
 
 void PowerWindows::CarsChanged() {
   powerGraphs_.ForEach([](frmPowerGraph& window) { window.ListCars(); });
-}
-
-void PowerWindows::OptionsChanged() {
-  const int scheme = globals_.settings.gintGraphColourScheme;
-  powerGraphs_.ForEach([=](frmPowerGraph& window) { TakeColourScheme(window.chPowerGraph, scheme); });
-  speedGraphs_.ForEach([=](frmSpeedGraph& window) { TakeColourScheme(window.chSpeedGraph, scheme); });
 }
 
 void PowerWindows::RecentPowerFilesChanged() {

@@ -1,6 +1,6 @@
 #include "model/BeyondSettings.h"
 
-#include "model/BeyondKeys.h"
+#include "model/IniKeys.h"
 
 namespace tarnview {
 namespace {
@@ -8,14 +8,10 @@ namespace {
 using B = BeyondSettings;
 
 const IniKey<B> kKeys[] = {
-    {"Draw After Opening",
-     IniFlag<B>{&B::drawAfterOpening, IniFlagForm::OffUnlessY},
-     {"frmOptions/General", "chkDrawAfterOpening"}},
+    {"Draw After Opening", IniFlag<B>{&B::drawAfterOpening, IniFlagForm::OffUnlessY}},
 };
 
 }  // namespace
-
-std::span<const IniKey<BeyondSettings>> BeyondKeys() { return kKeys; }
 
 void ReadBeyondSettings(const IniTable& table, BeyondSettings& settings) {
   ReadIniKeys<B>(kKeys, table, {kBeyondSection}, settings);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/Paths.h"
-#include "base/Text.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "samplegraph/ExportText.h"
@@ -16,11 +15,7 @@ constexpr std::int32_t kProgressUpdates = 200;
 
 }  // namespace
 
-std::string GetExportPathFile(const std::string& strLogFile) {
-  constexpr const char* kEnding = "csv";
-  const bool itsOwn = SameIgnoringCase(GetExtension(strLogFile), kEnding);
-  return WithoutExtension(strLogFile) + (itsOwn ? "_export." : ".") + kEnding;
-}
+std::string GetExportPathFile(const std::string& strLogFile) { return WithoutExtension(strLogFile) + ".csv"; }
 
 LogExport::LogExport(const Controls& controls, const PlotRange& range, const OpenLog& log, FileSystem& files,
                      StatusArea& status)

@@ -2,8 +2,6 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "base/TextFile.h"
-#include "desk/SaveDialog.h"
 
 namespace tarnview {
 namespace {
@@ -46,7 +44,7 @@ void PresetExchange::Save(const std::function<std::string(bool blnWriteFamily, c
   const bool withFamily = around_.messages.AskQuestion(Question::IncludeLogFamily);
   Dialog dialog = DialogFor(DialogKind::Save, "Save As");
   dialog.path = ProposedFile();
-  if (!ChooseFileToSave(window_.host, dialog)) return;
+  if (!window_.host.Choose(dialog)) return;
   lastFile_ = dialog.path;
   if (!around_.files.Write(dialog.path, text(withFamily, around_.clock.Now())))
     around_.messages.ShowMessage(Message::SomethingWentWrong);
@@ -57,7 +55,7 @@ void PresetExchange::Load(const std::function<void(std::string_view bytes)>& tak
   if (!window_.host.Choose(dialog)) return;
   lastFile_ = dialog.path;
   const bool loaded = TrapEvent(around_.errors, window_.name.c_str(), "cmdLoad_Click", [&] {
-    const auto bytes = ReadText(around_.files, dialog.path);
+    const auto bytes = around_.files.Read(dialog.path);
     if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + dialog.path);
     take(*bytes);
   });

@@ -66,10 +66,7 @@ void SampleDetails::SetCheckedItems(const std::vector<int>& items) {
 void SampleDetails::chkShowCheckedOnly_Click() {
   if (!items_) return;
   SetUpSampleGraphSampleListView(fileType_, *items_);
-  if (log_.gblnSamplesLoaded) ShowHighlighted();
-}
-
-void SampleDetails::ShowHighlighted() {
+  if (!log_.gblnSamplesLoaded) return;
   const std::int32_t sample = plot_.lngHighlightSample;
   PopulateSampleListView(LocateSample(log_, sample - log_.glngFirstSampleTime, sample));
 }

@@ -1,7 +1,5 @@
 #include "ui/Host.h"
 
-#include "base/Text.h"
-
 namespace tarnview {
 
 Reply Box::DefaultReply() const {
@@ -13,11 +11,6 @@ Reply Box::DefaultReply() const {
     default:
       return Reply::Ok;
   }
-}
-
-std::string Box::TextWithin(std::size_t mostDetails) const {
-  if (detailsFrom >= text.size()) return text;
-  return text.substr(0, detailsFrom) + Shortened(std::string_view(text).substr(detailsFrom), mostDetails);
 }
 
 }  // namespace tarnview
