@@ -4,6 +4,8 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/TextFile.h"
+#include "desk/SaveDialog.h"
 #include "power/CarFile.h"
 #include "power/SavedRun.h"
 
@@ -221,8 +223,10 @@ void frmCarDefinitionDetails::cmdSave_Click() {
     const std::string& folder = around_.workingDirectory;
     dialog.path = (folder.empty() ? "" : AddBackslash(folder)) + txtName.Text() + ".car";
   }
-  if (!host.Choose(dialog)) return;
-  if (GetExtension(dialog.path).empty()) dialog.path += ".car";
+  const auto withEnding = [](Dialog& chosen) {
+    if (GetExtension(chosen.path).empty()) chosen.path += ".car";
+  };
+  if (!ChooseFileToSave(host, dialog, withEnding)) return;
   lastFile_ = dialog.path;
   if (!around_.files.Write(dialog.path, CarFileText(FieldsNow(), around_.clock.Now())))
     around_.messages.ShowMessage(Message::SomethingWentWrong);
@@ -238,7 +242,7 @@ void frmCarDefinitionDetails::cmdLoad_Click() {
 }
 
 void frmCarDefinitionDetails::LoadFile(const std::string& path) {
-  const auto bytes = around_.files.Read(path);
+  const auto bytes = ReadText(around_.files, path);
   if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + path);
   CarFields fields = FieldsNow();
   if (!ReadCarFile(*bytes, fields)) throw RuntimeError(kInputPastEnd, "No car definition in " + path);

@@ -2,8 +2,10 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/TextFile.h"
 #include "base/Units.h"
 #include "desk/RecentMenu.h"
+#include "desk/SaveDialog.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "power/frmPowerBenchComments.h"
@@ -51,7 +53,7 @@ void frmPowerGraph::OpenRecentFile(int index) {
 }
 
 bool frmPowerGraph::LoadBenchmark(const std::string& path) {
-  const auto bytes = around_.files.Read(path);
+  const auto bytes = ReadText(around_.files, path);
   if (!bytes) {
     around_.messages.ShowMessage(Message::PowerBenchmarkNotLoaded);
     DropBenchmark();
@@ -99,8 +101,10 @@ void frmPowerGraph::mnuFileSaveAs_Click() {
   saved_ = false;
   Dialog dialog = FileDialog(DialogKind::Save, "Save Power Graph As");
   dialog.path = savedPath_.empty() ? WithoutExtension(drawn_->file) + ".pow" : savedPath_;
-  if (!host.Choose(dialog)) return;
-  if (GetExtension(dialog.path).empty()) dialog.path += ".pow";
+  const auto withEnding = [](Dialog& chosen) {
+    if (GetExtension(chosen.path).empty()) chosen.path += ".pow";
+  };
+  if (!ChooseFileToSave(host, dialog, withEnding)) return;
   SavePowerGraphFile(dialog.path);
 }
 
