@@ -55,8 +55,9 @@ std::string FirstRun::TemplateOf(const std::string& path, int fileType) {
 void FirstRun::FillIn(std::string& text, const Choice& choice) {
   const std::string parent = GetParentFolder(programFolder_);
   const auto set = [&](const char* key, const std::string& value) { SetINIValue(text, kGeneral, key, value); };
-  set("Default Working Directory", parent);
-  set("Initial Directory", parent);
+  const std::string& logs = logFolder_.empty() ? parent : logFolder_;
+  set("Default Working Directory", logs);
+  set("Initial Directory", logs);
   const IniTable table = ReadINIFileToArray(text);
   if (const std::string* picture = table.Find(kGeneral, kPicture); picture && !picture->empty())
     set(kPicture, In(parent, "Images", FileTitle(*picture)));

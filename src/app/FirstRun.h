@@ -11,11 +11,14 @@ class FirstRun {
  public:
   /// Templates, definitions and conversion tables that do not lie beside the program lie in `dataFolder`. Folders end
   /// with a separator.
-  FirstRun(Globals& globals, Services& services, std::string programFolder, std::string dataFolder)
+  /// `logFolder` is where a user's logs may lie; empty: the folder above the program's.
+  FirstRun(Globals& globals, Services& services, std::string programFolder, std::string dataFolder,
+           std::string logFolder = "")
       : globals_(globals),
         services_(services),
         programFolder_(std::move(programFolder)),
-        dataFolder_(std::move(dataFolder)) {}
+        dataFolder_(std::move(dataFolder)),
+        logFolder_(std::move(logFolder)) {}
 
   /// False: the user cancelled, and no file was written. Without a template, message 29 is shown and every setting will
   /// have its default.
@@ -32,7 +35,7 @@ class FirstRun {
 
   Globals& globals_;
   Services& services_;
-  std::string programFolder_, dataFolder_;
+  std::string programFolder_, dataFolder_, logFolder_;
 };
 
 }  // namespace tarnview

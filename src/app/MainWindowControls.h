@@ -68,7 +68,7 @@ class MainWindowControls : public Form {
 
   // The menu bar, in order.
   MenuItem mnuFile{*this, "mnuFile", "&File"};
-  MenuItem mnuFileNew{*this, "mnuFileNew", "&New MAP File", "Ctrl+N"};
+  MenuItem mnuFileNew{*this, "mnuFileNew", "&New...", "Ctrl+N"};
   MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open...", "Ctrl+L"};
   MenuItem mnuFileSave{*this, "mnuFileSave", "&Save", "Ctrl+S"};
   MenuItem mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As..."};

@@ -1,5 +1,6 @@
 #include "app/PowerWindows.h"
 
+#include "desk/ColourScheme.h"
 #include "power/frmCarDefinitionDetails.h"
 
 namespace tarnview {
@@ -54,6 +55,12 @@ void PowerWindows::LogIsOpen() {
 
 void PowerWindows::CarsChanged() {
   powerGraphs_.ForEach([](frmPowerGraph& window) { window.ListCars(); });
+}
+
+void PowerWindows::OptionsChanged() {
+  const int scheme = globals_.settings.gintGraphColourScheme;
+  powerGraphs_.ForEach([=](frmPowerGraph& window) { TakeColourScheme(window.chPowerGraph, scheme); });
+  speedGraphs_.ForEach([=](frmSpeedGraph& window) { TakeColourScheme(window.chSpeedGraph, scheme); });
 }
 
 void PowerWindows::RecentPowerFilesChanged() {

@@ -34,6 +34,8 @@ class PowerWindows : private frmPowerGraph::MainWindow {
   void LogIsClosing();
   void LogIsOpen();
   void CarsChanged();
+  /// Settings have changed: the colours of what is drawn follow.
+  void OptionsChanged();
   void UnloadAll();
 
  private:

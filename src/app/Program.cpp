@@ -31,13 +31,21 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
   globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
 }
 
-Program::~Program() { host_.events.Failed = nullptr; }
+Program::~Program() {
+  host_.events.Failed = nullptr;
+  host_.WhyNotSave = nullptr;
+}
 
 /// Where an event ends that nothing else has ended.
 void Program::EventFailed(const std::string& module, const std::string& procedure, const std::exception& error) {
   const RuntimeError raised = AsRuntimeError(error);
   errors_.LogError(module, procedure, raised, false);
   if (raised.number == kOutOfMemory) messages_.Tell(kShortOfMemory, kBoxExclamation);
+}
+
+std::string Program::WhyNotSave(const std::string& path) const {
+  if (files_.SameFile(path, globals_.log.gstrCurrentFile)) return "The log that is open is never written over:";
+  return files_.MayReplace(path) ? "" : "This file is write-protected:";
 }
 
 void Program::FindInstallINIFile() {
@@ -50,6 +58,7 @@ void Program::FindInstallINIFile() {
 void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
   if (!folders_.program.empty()) files_.ClearLeftovers(folders_.program);
+  host_.WhyNotSave = [this](const std::string& path) { return WhyNotSave(path); };
   host_.events.Failed = [this](const std::string& module, const std::string& procedure, const std::exception& error) {
     EventFailed(module, procedure, error);
   };
@@ -77,7 +86,7 @@ void Program::Start(const std::string& commandLine, bool splash) {
 bool Program::HasINIFile() {
   const std::string& path = globals_.gstrINIFile;
   if (path.empty() || files_.FileExists(path)) return true;
-  return FirstRun(globals_, services_, folders_.program, folders_.data).GenerateINIFile(path);
+  return FirstRun(globals_, services_, folders_.program, folders_.data, folders_.logs).GenerateINIFile(path);
 }
 
 /// A definition that is named on the command line is told of when it is loaded.

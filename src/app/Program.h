@@ -13,8 +13,9 @@ namespace tarnview {
 
 /// Where the program lies, each with a separator at its end; empty: it has none (tests, the command line).
 struct ProgramFolders {
-  std::string program;  ///< for Tarnview.ini and error.log
-  std::string data;     ///< what is installed beside the program
+  std::string program;    ///< for Tarnview.ini and error.log
+  std::string data;       ///< what is installed beside the program
+  std::string logs = {};  ///< the user's documents, where `program` is a hidden folder of the user's own
 };
 
 /// The whole program, in front of any desktop: it makes what lives for the run and brings the windows up.
@@ -42,6 +43,7 @@ class Program {
 
  private:
   bool HasINIFile();
+  std::string WhyNotSave(const std::string& path) const;
   void FindInstallINIFile();
   void FindDefinition();
   void TellFolderTroubles();

@@ -74,6 +74,10 @@ void ScatterWindows::RefreshDataItems() {
   windows_.ForEach([](frmScatterGraph& window) { window.RefreshDataItems(); });
 }
 
+void ScatterWindows::OptionsChanged() {
+  windows_.ForEach([](frmScatterGraph& window) { window.OptionsChanged(); });
+}
+
 std::optional<clsScatterFilter> ScatterWindows::RangeFilter() const {
   if (!globals_.log.gblnSamplesLoaded || range_.IsWholeLog()) return std::nullopt;
   return clsScatterFilter{static_cast<double>(range_.To()), static_cast<double>(range_.From()), ItemOf(kSample)};

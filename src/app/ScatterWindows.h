@@ -36,6 +36,8 @@ class ScatterWindows : private frmScatterGraph::MainWindow {
   void LogIsClosing();
   /// Another log is open: each window's items, filters and presets follow it.
   void RefreshDataItems();
+  /// Settings or data items have changed: colours, pictures and lists follow.
+  void OptionsChanged();
   void UnloadAll() { windows_.UnloadAll(); }
 
  private:

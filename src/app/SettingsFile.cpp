@@ -1,6 +1,6 @@
 #include "app/SettingsFile.h"
 
-#include "base/Text.h"
+#include "base/TextFile.h"
 #include "model/IniRepair.h"
 
 namespace tarnview {
@@ -15,9 +15,9 @@ bool IsDamaged(std::string_view text) {
 }
 
 std::string Repaired(std::string_view text) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of UTF-8, as some editors put it in front
-  if (text.starts_with(kMark)) text.remove_prefix(kMark.size());
-  return WithoutDamage(text, SettingsHeadings());
+  FileBytes settled(text);
+  SettleText(settled);
+  return WithoutDamage(settled, SettingsHeadings());
 }
 
 }  // namespace
@@ -45,7 +45,7 @@ std::function<void(const std::vector<int>&)> SettingsFile::TellUnknownItem() {
 }
 
 std::optional<IniTable> SettingsFile::ReadInstall() {
-  const auto text = services_.files.Read(globals_.gstrInstallINIFile);
+  const auto text = ReadText(services_.files, globals_.gstrInstallINIFile);
   return text ? std::optional(ReadINIFileToArray(*text)) : std::nullopt;
 }
 
@@ -97,7 +97,7 @@ std::string SettingsFile::SetAside(const std::string& path) {
 
 void SettingsFile::FindBackgroundPicture() {
   const std::string& picture = globals_.settings.gstrAlternativeBackgroundPicture;
-  if (!picture.empty() && !services_.files.FileExists(picture))
+  if (!picture.empty() && !services_.files.IsFile(picture))
     services_.messages.ShowMessage(Message::BackgroundPictureNotFound);
 }
 

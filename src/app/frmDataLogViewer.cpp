@@ -30,6 +30,8 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       tags_(services.host, log_.gcolLogTags, *this),
       scatter_(*this, globals, services, range_, status_, *this),
       power_(*this, globals, services, range_, *this),
+      ecu_(*this, globals, services, recent_, *this),
+      customising_(*this, globals, services, power_, *this),
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
   HelpTopic = "SampleGraph";

@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 
+#include "app/Customising.h"
+#include "app/EcuCommands.h"
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
 #include "app/PowerWindows.h"
@@ -10,7 +12,6 @@
 #include "app/ScatterWindows.h"
 #include "app/SettingsFile.h"
 #include "app/frmNonModalMessage.h"
-#include "customise/frmMaint.h"
 #include "desk/ChartOutput.h"
 #include "desk/Commands.h"
 #include "desk/StatusArea.h"
@@ -40,18 +41,20 @@ class frmDataLogViewer : public MainWindowControls,
                          private PresetGraphs::MainWindow,
                          private frmDataTags::MainWindow,
                          private ScatterWindows::SampleGraphWindow,
-                         private PowerWindows::SampleGraphWindow {
+                         private PowerWindows::SampleGraphWindow,
+                         private EcuCommands::MainWindow,
+                         private Customising::MainWindow {
  public:
   frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
   /// Opens a file; type 0 is guessed. False: nothing was loaded, and the user was told why.
-  bool LoadDataFile(const std::string& path, int fileType);
+  bool LoadDataFile(const std::string& path, int fileType) override;
   /// Opens an entry of the recent list; a `path` is entered first, on top.
   bool OpenRecentlyUsedFile(int index, const std::string& path = "", int fileType = 0);
   /// What a start with a file on the command line does: opens it and draws.
   void OpenFromCommandLine(const std::string& commandLine);
   /// False: the user does not want to lose edited zones.
-  bool SaveChangesPrompt();
+  bool SaveChangesPrompt() override;
 
   /// Loads the definition of Universal logs that the settings name, else the built-in one. `addPresets`: its presets
   /// join the user's.
@@ -93,6 +96,7 @@ class frmDataLogViewer : public MainWindowControls,
   // Opening a file.
   void mnuFileOpen_Click();
   bool Load(const std::string& path, int fileType);
+  void TellNotRead(const std::string& path, bool read);
   void LoadConversionFiles();
   const clsLogDataItems& ItemsOf(int fileType) const;
   void TellUniversalOutcome(const std::string& path, LoadOutcome& outcome);
@@ -113,12 +117,6 @@ class frmDataLogViewer : public MainWindowControls,
   void DisplayZoneInfluence();
   bool IsLinkLog() const;
   int PresetFileType() const;
-  /// Which list: 1 preset sample graphs, 2 preset scatter graphs, 4 car definitions.
-  void MaintainList(int list);
-  template <class Collection>
-  void Maintain(const frmMaint::Texts& texts, Collection& kept, std::function<bool(typename Collection::Record&)> edit);
-  template <class Window, class Preset>
-  bool EditPreset(Preset& preset);
 
   // Commands.
   std::vector<Command> FileCommands();
@@ -143,6 +141,11 @@ class frmDataLogViewer : public MainWindowControls,
   void TagsChanged() override { commands_.Update(); }
   void ShowPoint(std::int32_t sample) override;
   void PlotRun(const SampleRange& range, std::int32_t sample) override;
+  void CloseDataLogFile() override;
+  bool SaveMapFile(const std::string& path) override;
+  void Say(const std::string& status) override { status_.Say(status); }
+  void ListsChanged() override;
+  void OptionsChanged() override;
 
   Globals& globals_;
   Services& services_;
@@ -166,6 +169,8 @@ class frmDataLogViewer : public MainWindowControls,
   FormCollection<frmNonModalMessage> nonModalMessages_;
   ScatterWindows scatter_;
   PowerWindows power_;
+  EcuCommands ecu_;
+  Customising customising_;
   Commands commands_;
   bool blnGotoShowPointWidth_ = false;
   bool exported_ = false;

@@ -14,7 +14,6 @@ const std::function<void()> kNotYet;
 std::vector<Command> frmDataLogViewer::FileCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
   return {
-      {&mnuFileNew, "mnuFileNew_Click", kNotYet, {}},
       {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
       {&mnuFileSave, "mnuFileSave_Click", kNotYet, {}},
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", kNotYet, {}},
@@ -25,11 +24,6 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
       {&mnuModulesZoneData, "mnuModulesZoneData_Click", kNotYet, {}},
       {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
-      {&mnuToolsConvert, "mnuToolsConvert_Click", kNotYet, {}},
-      {&mnuCustomiseOptions, "mnuCustomiseOptions_Click", kNotYet, {}},
-      {&mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", [this] { MaintainList(1); }, {}},
-      {&mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", [this] { MaintainList(2); }, {}},
-      {&mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", [this] { MaintainList(4); }, {}},
       {&mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", kNotYet, {}},
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
@@ -98,7 +92,8 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(), power_.Rows()})
+  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(), power_.Rows(),
+                      ecu_.Rows(), customising_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(

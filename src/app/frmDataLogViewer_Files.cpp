@@ -5,7 +5,9 @@
 #include "app/Loaders.h"
 #include "app/frmDataLogViewer.h"
 #include "base/Paths.h"
+#include "base/TextFile.h"
 #include "samplegraph/GraphScale.h"
+#include "zones/MapFile.h"
 
 namespace tarnview {
 namespace {
@@ -93,9 +95,9 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
     services_.messages.ShowMessage(Message::OddKindOfFile);
     return false;
   }
-  const auto bytes = services_.files.Read(path);
-  if (!bytes) {
-    services_.messages.ShowMessage(Message::FileNotLoaded);
+  const auto bytes = ReadText(services_.files, path);
+  if (!bytes || !HasLines(*bytes)) {
+    TellNotRead(path, bytes.has_value());
     return false;
   }
   LoadConversionFiles();
@@ -112,6 +114,13 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
           [&programs = services_.programs, report = message.report] { programs.ShellOpen(report); });
   }
   return outcome.loaded;
+}
+
+/// A file that is just not there needs no reason.
+void frmDataLogViewer::TellNotRead(const std::string& path, bool read) {
+  std::string why = read ? "It has a line of more than 16 MB." : services_.files.WhyNotRead(path);
+  if (why != kTooLargeToRead && why != kNoMemoryToRead && !read) why.clear();
+  services_.messages.ShowMessage(Message::FileNotLoaded, false, why);
 }
 
 void frmDataLogViewer::HideForLoad() {
@@ -135,6 +144,20 @@ void frmDataLogViewer::HideForLoad() {
   fraZoneInfl.Enabled = false;
   commands_.Update();
   host.DoEvents();
+}
+
+void frmDataLogViewer::CloseDataLogFile() {
+  HideForLoad();
+  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  log_.gstrCurrentFile.clear();
+  log_.gstrCurrentFileTitle.clear();
+  log_.gintCurrentFileType = kUnknownFile;
+  log_.gblnZonesDirty = false;
+  commands_.Update();
+}
+
+bool frmDataLogViewer::SaveMapFile(const std::string& path) {
+  return WriteMapFile(services_.files, path, MapOf(log_.zones), services_.clock.Now());
 }
 
 void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {

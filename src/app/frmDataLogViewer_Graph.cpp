@@ -2,12 +2,9 @@
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
-#include "desk/Placement.h"
 #include "samplegraph/ExportRun.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
-#include "samplegraph/frmPresetSampleDetails.h"
-#include "scatter/frmPresetScatterDetails.h"
 
 namespace tarnview {
 namespace {
@@ -82,67 +79,6 @@ void frmDataLogViewer::DisplayZoneInfluence() {
   fraZoneInfl.Enabled = link;
   zoneInfluence_.gblnDisplayZoneInfluence = link && globals_.settings.gblnDisplayZoneInfluence;
   zoneInfluence_.DisplayZoneInfluence();
-}
-
-/// Shows the details window of a preset; true on OK, with what the user made of it.
-template <class Window, class Preset>
-bool frmDataLogViewer::EditPreset(Preset& preset) {
-  Window window(host,
-                PresetSurroundings{globals_.kinds.gcolLogFamilies, globals_.catalogue,
-                                   globals_.settings.gstrDefaultWorkingDirectory, services_.files, services_.clock,
-                                   services_.errors, services_.messages},
-                preset);
-  window.ShowModal();
-  if (!window.Accepted()) return false;
-  preset = window.ColItem();
-  return true;
-}
-
-template <class Collection>
-void frmDataLogViewer::Maintain(const frmMaint::Texts& texts, Collection& kept,
-                                std::function<bool(typename Collection::Record&)> edit) {
-  MaintainedCollection<Collection> copy(kept, std::move(edit));
-  const clsLogFamilies& families = globals_.kinds.gcolLogFamilies;
-  frmMaint window(host, copy, texts, families, families.FirstLogFamily(globals_.settings.gintDefaultFileType),
-                  services_.messages);
-  ApplyPlacement(globals_.settings.windows.maintenance, window);
-  window.ShowModal();
-  globals_.settings.windows.maintenance = PlacementOf(window);
-  if (!window.Accepted()) return;
-  kept = copy.Col;
-  presets_.PopulatePresetGraphs(false, PresetFileType());
-  scatter_.UpdatePresets();
-  commands_.Update();
-}
-
-void frmDataLogViewer::MaintainList(int list) {
-  const struct {
-    int number;
-    frmMaint::Texts texts;
-    std::function<void(const frmMaint::Texts&)> maintain;
-  } kLists[] = {
-      {1,
-       {"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
-       [this](const frmMaint::Texts& texts) {
-         Maintain(texts, globals_.gcolSampleGraphPresets,
-                  [this](auto& preset) { return EditPreset<frmPresetSampleDetails>(preset); });
-       }},
-      {2,
-       {"Preset Scatter Graph Editor", "&Preset Graphs", "PresetScatterGraphEditor"},
-       [this](const frmMaint::Texts& texts) {
-         Maintain(texts, globals_.gcolScatterGraphPresets,
-                  [this](auto& preset) { return EditPreset<frmPresetScatterDetails>(preset); });
-       }},
-      // The doubled word is kept on purpose.
-      {4,
-       {"Car Definition Editor Editor", "&Car Definitions", "CarDefinitionEditor"},
-       [this](const frmMaint::Texts& texts) {
-         Maintain(texts, globals_.gcolCarDefs, [this](auto& car) { return power_.EditCar(car); });
-         power_.CarsChanged();
-       }},
-  };
-  for (const auto& row : kLists)
-    if (row.number == list) return row.maintain(row.texts);
 }
 
 }  // namespace tarnview

@@ -18,7 +18,8 @@ void frmDataLogViewer::TakeSettings() {
   txtYMax.Enabled = updYMax.Enabled = false;
   chkFixY.Value = settings.gblnFixGraphMax;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
-  fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
+  const std::string& picture = settings.gstrAlternativeBackgroundPicture;
+  fraPicture.BackgroundPicture = services_.files.IsFile(picture) ? picture : std::string();
   for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
     const auto [fileType, path] = RecentFiles::ParseTag(*entry);
     const int known =
@@ -56,6 +57,31 @@ bool frmDataLogViewer::WriteINIFile() {
   if (globals_.gstrINIFileToWrite.empty()) return true;
   GatherSettings();
   return settingsFile_.WriteINIFile(globals_.gstrINIFileToWrite, [this](const char* text) { status_.Say(text); });
+}
+
+void frmDataLogViewer::ListsChanged() {
+  presets_.PopulatePresetGraphs(false, PresetFileType());
+  scatter_.UpdatePresets();
+  commands_.Update();
+}
+
+/// The graph, the list and every scatter window are shown anew, as the settings and the data items now say.
+void frmDataLogViewer::OptionsChanged() {
+  const Settings& settings = globals_.settings;
+  mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
+  fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
+  details_.SetUpSampleGraphSampleListView(PresetFileType(), ItemsOf(PresetFileType()));
+  if (log_.gblnSamplesLoaded) {
+    SetDataLogViewerCaption();
+    details_.ShowHighlighted();
+  }
+  if (drawn_) {
+    plot_.blnForceRedraw = true;
+    graph_.DrawSampleGraph();
+  }
+  ListsChanged();
+  scatter_.OptionsChanged();
+  power_.OptionsChanged();
 }
 
 }  // namespace tarnview

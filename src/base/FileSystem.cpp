@@ -44,6 +44,16 @@ bool RealFileSystem::FolderExists(const std::string& path) {
   return !folder.empty() && fs::is_directory(std::string(folder), failed);
 }
 
+bool RealFileSystem::IsFile(const std::string& path) {
+  std::error_code failed;
+  return fs::is_regular_file(path, failed);
+}
+
+bool RealFileSystem::SameFile(const std::string& a, const std::string& b) {
+  std::error_code failed;
+  return a == b || fs::equivalent(a, b, failed);
+}
+
 bool RealFileSystem::CopyFile(const std::string& from, const std::string& to) {
   const auto bytes = Read(from);
   return bytes && Write(to, *bytes);

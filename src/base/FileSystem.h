@@ -23,6 +23,10 @@ class FileSystem {
   /// A file that can be run: by its name ("EXE" at its end, in any case), and where files carry a permission for that,
   /// by that as well, so that a wrapper or an emulator serves.
   virtual bool IsProgram(const std::string& path) = 0;
+  /// A file whose bytes can be asked for: no folder, pipe or device, which might never end.
+  virtual bool IsFile(const std::string& path) = 0;
+  /// Whether two paths lead to one file, whatever links and "." are on the way.
+  virtual bool SameFile(const std::string& a, const std::string& b) = 0;
   /// The whole file; nothing for a folder, a pipe or device, or a file that cannot be read.
   virtual std::optional<FileBytes> Read(const std::string& path) = 0;
   /// In words, why Read gives nothing for a path: "It is larger than 1 GiB."
@@ -53,6 +57,8 @@ class RealFileSystem : public FileSystem {
   bool FileExists(const std::string& path) override;
   bool FolderExists(const std::string& path) override;
   bool IsProgram(const std::string& path) override;
+  bool IsFile(const std::string& path) override;
+  bool SameFile(const std::string& a, const std::string& b) override;
   std::optional<FileBytes> Read(const std::string& path) override;
   std::string WhyNotRead(const std::string& path) override;
   bool Write(const std::string& path, std::string_view bytes) override;

@@ -54,6 +54,68 @@ std::uint32_t TakeCharacter(std::string_view& text) {
   return code;
 }
 
+void AddUtf8(std::string& out, std::uint32_t code) {
+  if (code < 0x80) {
+    out += static_cast<char>(code);
+    return;
+  }
+  if (code < 0x800) {
+    out += static_cast<char>(0xC0 | code >> 6);
+  } else {
+    if (code < 0x10000) {
+      out += static_cast<char>(0xE0 | code >> 12);
+    } else {
+      out += static_cast<char>(0xF0 | code >> 18);
+      out += static_cast<char>(0x80 | (code >> 12 & 0x3F));
+    }
+    out += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+  }
+  out += static_cast<char>(0x80 | (code & 0x3F));
+}
+
+std::uint32_t CodeOf(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80u] : byte;
+}
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+}
+
+bool IsWellFormed(std::string_view text) {
+  while (!text.empty())
+    if (TakeCharacter(text) == kIllFormed) return false;
+  return true;
+}
+
+/// Small letters, every `step` from `first` to `last`, and how far above the capitals stand.
+struct SmallLetters {
+  std::uint32_t first, last, step;
+  std::int32_t above;
+};
+
+constexpr SmallLetters kSmallLetters[] = {
+    {'a', 'z', 1, 32},     {0xE0, 0xF6, 1, 32},   {0xF8, 0xFE, 1, 32},  {0xFF, 0xFF, 1, 0xFF - 0x178},
+    {0x101, 0x12F, 2, 1},  {0x133, 0x137, 2, 1},  {0x13A, 0x148, 2, 1}, {0x14B, 0x177, 2, 1},
+    {0x17A, 0x17E, 2, 1},                          // Latin
+    {0x3B1, 0x3C1, 1, 32}, {0x3C3, 0x3CB, 1, 32},  // Greek
+    {0x430, 0x44F, 1, 32}, {0x450, 0x45F, 1, 80},  // Cyrillic
+};
+
+std::uint32_t UpperCode(std::uint32_t code) {
+  for (const SmallLetters& row : kSmallLetters)
+    if (code >= row.first && code <= row.last && (code - row.first) % row.step == 0)
+      return static_cast<std::uint32_t>(static_cast<std::int32_t>(code) - row.above);
+  return code;
+}
+
+/// Upper case of a text that is well-formed UTF-8.
+std::string UpperUtf8(std::string_view text) {
+  std::string upper;
+  while (!text.empty()) AddUtf8(upper, UpperCode(TakeCharacter(text)));
+  return upper;
+}
+
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
@@ -79,11 +141,22 @@ std::string_view StripQuotes(std::string_view text) {
 
 std::string Upper(std::string_view text) {
   std::string upper(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(), AsciiUpper);
+  if (IsAscii(text)) {
+    std::transform(upper.begin(), upper.end(), upper.begin(), AsciiUpper);
+    return upper;
+  }
+  if (IsWellFormed(text)) return UpperUtf8(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(), [](char c) { return ByteOf(UpperCode(CodeOf(c))); });
   return upper;
 }
 
+std::string CaseKey(std::string_view text) {
+  return IsAscii(text) || IsWellFormed(text) ? Upper(text) : UpperUtf8(ToUtf8(text));
+}
+
 bool SameIgnoringCase(std::string_view a, std::string_view b) {
+  if (IsAscii(a) != IsAscii(b)) return false;
+  if (!IsAscii(a)) return CaseKey(a) == CaseKey(b);
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return AsciiUpper(x) == AsciiUpper(y); });
 }
@@ -120,20 +193,7 @@ void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t
 std::string ToUtf8(std::string_view text) {
   std::string utf8;
   utf8.reserve(text.size());
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    const std::uint32_t code = byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80u] : byte;
-    if (code < 0x80) {
-      utf8 += c;
-    } else if (code < 0x800) {
-      utf8 += static_cast<char>(0xC0 | code >> 6);
-      utf8 += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-      utf8 += static_cast<char>(0xE0 | code >> 12);
-      utf8 += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-      utf8 += static_cast<char>(0x80 | (code & 0x3F));
-    }
-  }
+  for (const char c : text) AddUtf8(utf8, CodeOf(c));
   return utf8;
 }
 
@@ -159,6 +219,15 @@ std::string ShownAsUtf8(std::string_view text) {
     }
   }
   return shown;
+}
+
+std::string Shortened(std::string_view text, std::size_t most) {
+  if (text.size() <= most) return std::string(text);
+  constexpr std::string_view kDots = "...";
+  std::size_t end = most - kDots.size();
+  const auto continues = [&] { return (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80; };
+  for (int back = 0; back < 3 && end > 0 && continues(); ++back) --end;
+  return std::string(text.substr(0, end)) + std::string(kDots);
 }
 
 bool TakeLine(std::string_view& rest, std::string_view& line) {

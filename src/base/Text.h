@@ -6,7 +6,7 @@
 
 namespace tarnview {
 
-// Texts are Windows-1252 bytes; upper and lower case are those of ASCII.
+// Texts are Windows-1252 bytes, and those that came from a file in UTF-8 are left so.
 
 std::string_view Trim(std::string_view text);  ///< blanks at both ends
 /// All characters with a code below 33 at both ends.
@@ -18,7 +18,10 @@ std::string_view StripQuotes(std::string_view text);
 
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 constexpr char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+/// In the text's own encoding: UTF-8 where all of it reads as such, else Windows-1252.
 std::string Upper(std::string_view text);
+/// Upper case as UTF-8, so that one word is the same in either encoding.
+std::string CaseKey(std::string_view text);
 bool SameIgnoringCase(std::string_view a, std::string_view b);
 /// An empty text has no parts.
 std::vector<std::string> Split(std::string_view text, char delimiter);
@@ -33,6 +36,9 @@ std::string FromUtf8(std::string_view text);
 /// ToUtf8 of a text that is only shown and may hold a path, whose bytes are the platform's: what is a character of
 /// UTF-8 already, of more than one byte, stays.
 std::string ShownAsUtf8(std::string_view text);
+
+/// At most `most` bytes and "..." behind what was cut, which ends with a whole character of UTF-8.
+std::string Shortened(std::string_view text, std::size_t most);
 
 /// Takes the next line off the front of `rest`, without its end (CR LF, LF; the last line needs none). False at the
 /// end of the text.

@@ -16,7 +16,7 @@ constexpr int kPictureWidth = 1400, kPictureHeight = 800;
 
 Reply ConsoleHost::Ask(const Box& box) {
   std::string line;
-  for (char c : ShownAsUtf8(box.text)) {
+  for (char c : ShownAsUtf8(box.TextWithin(kMostDetailsTold))) {
     // A message is one line here: its line ends become blanks.
     if (c == '\r' || c == '\n')
       line += line.ends_with(' ') ? "" : " ";

@@ -1,9 +1,9 @@
 #include <cstdio>
 #include <iostream>
-#include <iterator>
 #include <memory>
 
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "cli/Commands.h"
 #include "cli/Driver.h"
 #include "cli/Json.h"
@@ -18,23 +18,23 @@ struct DriveOptions {
 };
 
 int Drive(const DriveOptions& options) {
-  std::string text;
-  if (options.script == "-") {
-    text.assign(std::istreambuf_iterator<char>(std::cin), {});
-  } else if (const auto bytes = RealFileSystem().Read(options.script)) {
-    text = std::string_view(*bytes);
-  } else {
-    std::fprintf(stderr, "tarnview-cli: cannot read %s\n", options.script.c_str());
-    return kWrongCommandLine;
-  }
   try {
-    Driver(ParseScript(text), options.settings, options.writeSettings).Run();
+    ScriptSource script = FromStream(std::cin);
+    if (options.script != "-") {
+      RealFileSystem files;
+      const auto text = ReadText(files, options.script);
+      if (!text) {
+        std::fprintf(stderr, "tarnview-cli: cannot read %s\n", options.script.c_str());
+        return kWrongCommandLine;
+      }
+      script = FromLines(ParseScript(*text));
+    }
+    return Driver(std::move(script), options.settings, options.writeSettings).Run() ? kDone : kFailed;
   } catch (const ScriptError& error) {
     const Json out{{"error", ToUtf8(error.what())}, {"line", error.line}};
     std::fprintf(stderr, "%s\n", out.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
     return kFailed;
   }
-  return kDone;
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ const std::string& WordAt(const std::vector<std::string>& words, std::size_t n) 
 /// "NAME.2" is the second window of that class.
 std::pair<std::string, int> NameAndNumber(const std::string& text) {
   const auto dot = text.rfind('.');
-  if (dot == std::string::npos) return {text, 1};
+  if (dot == std::string::npos || text.find_first_not_of("0123456789", dot + 1) != std::string::npos) return {text, 1};
   return {text.substr(0, dot), StringToLong(text.substr(dot + 1))};
 }
 
@@ -46,7 +46,7 @@ int ScriptProcesses::Open(const std::string& path) {
   return kOpened;
 }
 
-Driver::Driver(std::vector<ScriptLine> script, const std::string& settingsFile, const std::string& writeSettings)
+Driver::Driver(ScriptSource script, const std::string& settingsFile, const std::string& writeSettings)
     : script_(std::move(script)),
       writesSettings_(!writeSettings.empty()),
       program_(*this, files_, clock_, processes_, {}, settingsFile) {
@@ -54,24 +54,44 @@ Driver::Driver(std::vector<ScriptLine> script, const std::string& settingsFile, 
   program_.Start("", false);
 }
 
-void Driver::Run() {
-  while (next_ < script_.size()) Step();
-  if (writesSettings_) program_.MainWindow().Unload();
+bool Driver::Run() {
+  while (Step()) {
+  }
+  if (error_) throw *error_;
+  if (!writesSettings_) return true;
+  const bool closed = program_.MainWindow().Unload();
+  const auto notWritten = [](const Box& box) { return box.id == static_cast<int>(Message::SettingsNotWritten); };
+  const bool written = std::none_of(messages.begin(), messages.end(), notWritten);
+  return closed && written && !program_.Global().gstrINIFileToWrite.empty();
 }
 
 /// A modal window holds the script until it closes. A script that ends first leaves it as its frame would.
 void Driver::RunModal(Form& form) {
-  while (form.IsShown() && next_ < script_.size()) Step();
+  constexpr int kMostModalWindows = 50;  // more than any use of the program brings up, and few for the stack
+  if (++modalWindows_ > kMostModalWindows) Fail("too many windows stand one over the other");
+  while (form.IsShown() && Step()) {
+  }
   if (form.IsShown()) form.Unload();
+  --modalWindows_;
 }
 
-void Driver::Step() {
-  const ScriptLine& line = script_[next_++];
+bool Driver::Step() {
   try {
-    events.Run("Driver", line.words.front(), [&] { DoLine(line); });
+    const auto line = error_ ? std::nullopt : script_();
+    if (!line) return false;
+    line_ = line->number;
+    events.Run("Driver", line->words.front(), [&] { DoLine(*line); });
   } catch (const CannotDo& error) {
-    throw ScriptError(error.what(), line.number);
+    Fail(error.what());
+  } catch (const ScriptError& error) {
+    line_ = error.line;
+    Fail(error.what());
   }
+  return !error_;
+}
+
+void Driver::Fail(const std::string& why) {
+  if (!error_) error_.emplace(why, line_);
 }
 
 const std::vector<Driver::Verb>& Driver::Verbs() {
@@ -172,9 +192,7 @@ void Driver::ShowRuns(const Words&) {
 void Driver::Popup(const Words& words) {
   Control& control = FindControl(WordAt(words, 0));
   control.Do({"popup", {}});
-  Control* entry = control.form.Find(WordAt(words, 1));
-  if (!entry) throw CannotDo("no entry \"" + words[1] + "\"");
-  entry->Do({"click", {}});
+  FindIn(control.form, WordAt(words, 1)).Do({"click", {}});
 }
 
 Form& Driver::Active() {
@@ -194,14 +212,19 @@ Control& Driver::FindControl(const std::string& text) {
   const auto slash = text.find('/');
   Form* form = slash == std::string::npos ? &Active() : FindWindow(text.substr(0, slash));
   if (!form) throw CannotDo("no window \"" + text.substr(0, slash) + "\" is open");
-  std::string name = slash == std::string::npos ? text : text.substr(slash + 1);
+  return FindIn(*form, slash == std::string::npos ? text : text.substr(slash + 1));
+}
+
+/// "NAME", or "NAME(2)" for a member of an array.
+Control& Driver::FindIn(const Form& form, std::string name) {
+  const std::string wanted = name;
   int index = -1;
   if (const auto bracket = name.find('('); bracket != std::string::npos && name.ends_with(')')) {
     index = StringToLong(name.substr(bracket + 1, name.size() - bracket - 2));
     name.resize(bracket);
   }
-  Control* control = form->Find(name, index);
-  if (!control) throw CannotDo(form->name + " has no control \"" + text + "\"");
+  Control* control = form.Find(name, index);
+  if (!control) throw CannotDo(form.name + " has no control \"" + wanted + "\"");
   return *control;
 }
 

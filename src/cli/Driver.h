@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,11 +24,11 @@ class ScriptProcesses : public RealProcesses {
 class Driver : private ConsoleHost {
  public:
   /// The settings that the main window leaves when it closes go to `writeSettings`; empty: nowhere.
-  Driver(std::vector<ScriptLine> script, const std::string& settingsFile, const std::string& writeSettings = "");
+  Driver(ScriptSource script, const std::string& settingsFile, const std::string& writeSettings = "");
 
   /// Runs the script to its end, which closes a main window whose settings are wanted; throws ScriptError for a line
-  /// that cannot be done.
-  void Run();
+  /// that cannot be done, in whatever window it stands. False: the settings could not be written.
+  bool Run();
 
  private:
   using Words = std::vector<std::string>;
@@ -38,7 +39,11 @@ class Driver : private ConsoleHost {
   static const std::vector<Verb>& Verbs();
 
   void RunModal(Form& form) override;
-  void Step();
+  /// Does the next line; false at the script's end.
+  bool Step();
+  /// Ends the script at the line that is being done. The windows that are open close one after the other, so no
+  /// exception passes through them.
+  void Fail(const std::string& why);
   void DoLine(const ScriptLine& line);
   void WorkControl(const std::string& verb, const Words& words);
 
@@ -55,10 +60,13 @@ class Driver : private ConsoleHost {
   Form& Active();
   Form* FindWindow(const std::string& name);
   Control& FindControl(const std::string& name);
+  static Control& FindIn(const Form& form, std::string name);
 
-  std::vector<ScriptLine> script_;
+  ScriptSource script_;
   bool writesSettings_;
-  std::size_t next_ = 0;
+  int line_ = 0;  ///< that is being done
+  int modalWindows_ = 0;
+  std::optional<ScriptError> error_;
   RealFileSystem files_;
   RealClock clock_;
   ScriptProcesses processes_;

@@ -40,7 +40,7 @@ Json ToJson(const Object& facts) { return Writer{}(facts); }
 Json MessagesJson(const std::vector<Box>& messages) {
   Json out = Json::array();
   for (const Box& box : messages)
-    out.push_back({{"id", box.id}, {"text", ShownAsUtf8(box.text)}, {"style", box.style}});
+    out.push_back({{"id", box.id}, {"text", ShownAsUtf8(box.TextWithin(kMostDetailsTold))}, {"style", box.style}});
   return out;
 }
 

@@ -23,7 +23,7 @@ void AddZones(Json& out, const OpenLog& log) {
   out["chip_date"] = DateText(zones.chip.datChipDate);
   out["chip_version"] = zones.chip.intChipVersion;
   out["atmospheric_pressure"] = zones.intAtmosphericPressure;
-  out["normally_aspirated"] = IsNormallyAspirated(zones.zones[5]);
+  out["normally_aspirated"] = link && IsNormallyAspirated(zones.zones[zone::kFlags]);
   out["zones"] = link ? Json(zones.zones) : Json::array();
   out["changes"] = log.gblnChangesLoaded ? Json{zones.changes, zones.original} : Json::array();
 }

@@ -7,7 +7,24 @@
 #include "base/Text.h"
 
 namespace tarnview {
-namespace {}  // namespace
+namespace {
+
+/// Sample numbers, as a user would type them.
+std::string CheckNumber(const std::string& text) { return IsNumeric(text) ? "" : "\"" + text + "\" is no number"; }
+
+/// "all", or item numbers with commas between them.
+std::string CheckItems(const std::string& text) {
+  if (text == "all") return "";
+  for (const std::string& word : Split(text, ',')) {
+    const bool whole = !word.empty() && word.find_first_not_of("0123456789") == std::string::npos;
+    if (!whole) return "\"" + word + "\" is no data item's number; commas stand between them";
+    const int number = StringToLong(word);
+    if (number < 1) return "no data item has the number " + word;
+  }
+  return text.empty() || text.ends_with(',') ? "a data item's number is missing" : "";
+}
+
+}  // namespace
 
 void LogOptions::AddTo(CLI::App& command) {
   command.add_option("LOG", log, "The log to open")->required();
@@ -15,9 +32,9 @@ void LogOptions::AddTo(CLI::App& command) {
   command.add_option("--settings", settings, "Read this Tarnview.ini; without it every setting has its default")
       ->check(CLI::ExistingFile);
   command.add_option("--definition", definition, "Read Universal logs through this definition file");
-  command.add_option("--from", from, "First Sample of the range");
-  command.add_option("--to", to, "Last Sample of the range");
-  command.add_option("--items", items, "Data item numbers with commas, or \"all\"");
+  command.add_option("--from", from, "First Sample of the range")->check(CheckNumber);
+  command.add_option("--to", to, "Last Sample of the range")->check(CheckNumber);
+  command.add_option("--items", items, "Data item numbers with commas, or \"all\"")->check(CheckItems);
 }
 
 LogSession::LogSession(const LogOptions& options)
@@ -48,7 +65,8 @@ std::vector<int> LogSession::Items(bool allByDefault) const {
   }
   for (const std::string& word : Split(options_.items, ',')) {
     const int number = StringToLong(word);
-    if (number >= 1 && number <= count) numbers.push_back(number);
+    if (number > count) throw CLI::ValidationError("--items", "no data item of this log has the number " + word);
+    numbers.push_back(number);
   }
   std::sort(numbers.begin(), numbers.end());
   numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());

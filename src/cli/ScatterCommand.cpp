@@ -26,7 +26,10 @@ struct ScatterOptions : LogOptions {
 
 std::string CheckFilter(const std::string& text) {
   const auto parts = Split(text, ':');
-  return parts.size() == 3 && IsNumeric(parts[0]) ? "" : "a filter is ITEM:FROM:TO, a bound may be empty";
+  if (parts.size() != 3 || !IsNumeric(parts[0])) return "a filter is ITEM:FROM:TO, a bound may be empty";
+  for (const std::string& bound : {parts[1], parts[2]})
+    if (!Trim(bound).empty() && !IsNumeric(bound)) return "\"" + bound + "\" is no number";
+  return "";
 }
 
 clsScatterFilter ParseFilter(const std::string& text) {

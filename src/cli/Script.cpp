@@ -37,17 +37,39 @@ std::vector<std::string> Words(std::string_view rest, int line) {
   }
 }
 
+/// Nothing for an empty line or a comment.
+std::optional<ScriptLine> ParseLine(std::string_view line, int number) {
+  const auto trimmed = Trim(line);
+  if (trimmed.empty() || trimmed.front() == '#') return std::nullopt;
+  return ScriptLine{number, Words(line, number)};
+}
+
 }  // namespace
 
 std::vector<ScriptLine> ParseScript(std::string_view text) {
   std::vector<ScriptLine> lines;
   std::string_view line;
-  for (int number = 1; TakeLine(text, line); ++number) {
-    const auto trimmed = Trim(line);
-    if (trimmed.empty() || trimmed.front() == '#') continue;
-    lines.push_back({number, Words(line, number)});
-  }
+  for (int number = 1; TakeLine(text, line); ++number)
+    if (auto parsed = ParseLine(line, number)) lines.push_back(std::move(*parsed));
   return lines;
+}
+
+ScriptSource FromLines(std::vector<ScriptLine> lines) {
+  return [lines = std::move(lines), next = std::size_t{0}]() mutable -> std::optional<ScriptLine> {
+    if (next >= lines.size()) return std::nullopt;
+    return lines[next++];
+  };
+}
+
+ScriptSource FromStream(std::istream& stream) {
+  return [&stream, number = 0]() mutable -> std::optional<ScriptLine> {
+    std::string line;
+    while (std::getline(stream, line)) {
+      if (line.ends_with('\r')) line.pop_back();
+      if (auto parsed = ParseLine(line, ++number)) return parsed;
+    }
+    return std::nullopt;
+  };
 }
 
 }  // namespace tarnview

@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "base/Text.h"
 #include "cli/Commands.h"
 #include "cli/LogSession.h"
 #include "model/LocateSample.h"
@@ -31,7 +32,7 @@ class Table {
   Table(const OpenLog& log, std::vector<int> items, bool raw) : log_(log), items_(std::move(items)), raw_(raw) {}
 
   void Print(std::int64_t from, std::int64_t to) {
-    AddLine([&](int seq) { AddField(out_, log_.gcolDataItems->Item(seq).strShortName); });
+    AddLine([&](int seq) { AddField(out_, ToUtf8(log_.gcolDataItems->Item(seq).strShortName)); });
     const auto indexOf = [&](std::int64_t sample) {
       const auto wanted = static_cast<std::int32_t>(sample);
       return LocateSample(log_, static_cast<std::int32_t>(sample - log_.glngFirstSampleTime), wanted);
@@ -45,7 +46,7 @@ class Table {
   }
 
   void PrintAll() {
-    AddLine([&](int seq) { AddField(out_, log_.gcolDataItems->Item(seq).strShortName); });
+    AddLine([&](int seq) { AddField(out_, ToUtf8(log_.gcolDataItems->Item(seq).strShortName)); });
     for (std::int32_t row = 0; row < log_.glngDataLog.Rows(); ++row) {
       AddLine([&](int seq) { AddCell(seq, row); });
       if (out_.size() > kPiece) Flush();
@@ -66,7 +67,7 @@ class Table {
     if (raw_)
       out_ += std::to_string(log_.glngDataLog(seq - 1, row));
     else
-      AddField(out_, log_.FormatDataItem(seq, row));
+      AddField(out_, ToUtf8(log_.FormatDataItem(seq, row)));
   }
   void Flush() {
     std::fwrite(out_.data(), 1, out_.size(), stdout);

@@ -52,6 +52,7 @@ class OptionsControls : public Form {
   TextBox txtDefFreq{*this, "txtDefFreq"};
   Label lblPlotFromTemp{*this, "lblPlotFromTemp", "&Plot From Temperature ('C)"};
   TextBox txtPlotFromTemp{*this, "txtPlotFromTemp"};
+  CheckBox chkDrawAfterOpening{*this, "chkDrawAfterOpening", "Draw After &Opening a Log"};
   CheckBox chkScatterAutoDraw{*this, "chkScatterAutoDraw", "Scatter &Graph Auto Draw"};
   CheckBox chkAutoScatterFilter{*this, "chkAutoScatterFilter", "Auto Scatter Graph Sample &Filter"};
   CheckBox chkSampleScatter{*this, "chkSampleScatter", "Display Sample Details in Scatter G&raph"};

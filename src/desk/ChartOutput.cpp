@@ -5,6 +5,7 @@
 
 #include "base/Paths.h"
 #include "desk/PageLayout.h"
+#include "desk/SaveDialog.h"
 
 namespace tarnview {
 namespace {
@@ -15,6 +16,12 @@ constexpr long kPrinterError = 482, kPathAccessError = 75;
 
 constexpr const char* kPictureFilter = "PNG picture (*.png)|*.png|SVG drawing (*.svg)|*.svg|PDF page (*.pdf)|*.pdf";
 constexpr const char* kEndings[] = {".png", ".svg", ".pdf"};  ///< in the filter's order
+
+/// That of the chosen kind, where the user typed none.
+void AddEnding(Dialog& dialog) {
+  const int last = static_cast<int>(std::size(kEndings));
+  if (GetExtension(dialog.path).empty()) dialog.path += kEndings[std::clamp(dialog.filterIndex, 1, last) - 1];
+}
 
 }  // namespace
 
@@ -37,15 +44,10 @@ void ChartOutput::PrintPreview(const Chart& chart, const PrintDetails& details) 
 
 void ChartOutput::SavePictureAs(const Chart& chart, const std::string& strLogFile) {
   Dialog dialog;
-  dialog.kind = DialogKind::Save;
   dialog.title = "Save Picture As";
   dialog.filter = kPictureFilter;
   dialog.initialPath = dialog.path = WithoutExtension(strLogFile) + kEndings[0];
-  if (!host_.Choose(dialog)) return;
-  if (GetExtension(dialog.path).empty()) {
-    const int last = static_cast<int>(std::size(kEndings));
-    dialog.path += kEndings[std::clamp(dialog.filterIndex, 1, last) - 1];
-  }
+  if (!ChooseFileToSave(host_, dialog, AddEnding)) return;
   std::string error;
   if (!host_.SavePicture(chart, dialog.path, error))
     Fail("SavePictureAs", "Problem saving the picture " + dialog.path + ".", kPathAccessError, error);

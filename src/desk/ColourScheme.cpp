@@ -1,5 +1,7 @@
 #include "desk/ColourScheme.h"
 
+#include <utility>
+
 namespace tarnview {
 
 void SetGraphColourScheme(ChartDescription& chart, int intScheme) {
@@ -16,6 +18,14 @@ void SetGraphColourScheme(ChartDescription& chart, int intScheme) {
     default:
       chart.colours = kWhite;
   }
+}
+
+void TakeColourScheme(Chart& chart, int intScheme) {
+  const int series = chart.SelectedSeries(), point = chart.SelectedPoint();
+  ChartDescription data = chart.Data();
+  SetGraphColourScheme(data, intScheme);
+  chart.SetData(std::move(data));
+  if (point > 0) chart.SelectPoint(series, point);
 }
 
 }  // namespace tarnview

@@ -30,16 +30,18 @@ Messages::Messages(Host& host, std::function<std::string(int)> fileTypeDescripti
     : host_(host), fileTypeDescription_(std::move(fileTypeDescription)) {}
 
 void Messages::ShowMessage(Message id, bool nonModal, const std::string& extra) {
-  const std::string text = TextWith(id, extra);
   if (nonModal && ShowNonModal)
-    ShowNonModal(id, text);
+    ShowNonModal(id, BoxOf(id, extra).text);
   else
-    host_.Ask({static_cast<int>(id), text, Style(id), kApplicationTitle});
+    host_.Ask(BoxOf(id, extra));
 }
 
 void Messages::ShowMessageWithOffer(Message id, const std::string& extra, const std::string& offer,
                                     std::function<void()> take) {
-  host_.Ask({static_cast<int>(id), TextWith(id, extra), Style(id), kApplicationTitle, offer, std::move(take)});
+  Box box = BoxOf(id, extra);
+  box.offer = offer;
+  box.takeOffer = std::move(take);
+  host_.Ask(box);
 }
 
 bool Messages::AskQuestion(Question id, bool defaultNo) {
@@ -52,8 +54,13 @@ TellMessage Messages::Teller() {
 
 Reply Messages::Tell(const std::string& text, int style) { return host_.Ask({0, text, style, kApplicationTitle}); }
 
-std::string Messages::TextWith(Message id, const std::string& extra) const {
-  return extra.empty() ? Text(id) : Text(id) + "\r\n\r\n" + extra;
+Box Messages::BoxOf(Message id, const std::string& extra) const {
+  Box box{static_cast<int>(id), Text(id), Style(id), kApplicationTitle};
+  if (extra.empty()) return box;
+  box.text += "\r\n\r\n";
+  box.detailsFrom = box.text.size();
+  box.text += extra;
+  return box;
 }
 
 std::string Messages::Text(Message id) const {

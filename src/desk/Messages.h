@@ -36,7 +36,7 @@ class Messages {
   std::function<void(Message id, const std::string& text)> ShowNonModal;
 
  private:
-  std::string TextWith(Message id, const std::string& extra) const;
+  Box BoxOf(Message id, const std::string& extra) const;
 
   Host& host_;
   std::function<std::string(int)> fileTypeDescription_;

@@ -1,6 +1,6 @@
 #include "model/BeyondSettings.h"
 
-#include "model/IniKeys.h"
+#include "model/BeyondKeys.h"
 
 namespace tarnview {
 namespace {
@@ -8,10 +8,14 @@ namespace {
 using B = BeyondSettings;
 
 const IniKey<B> kKeys[] = {
-    {"Draw After Opening", IniFlag<B>{&B::drawAfterOpening, IniFlagForm::OffUnlessY}},
+    {"Draw After Opening",
+     IniFlag<B>{&B::drawAfterOpening, IniFlagForm::OffUnlessY},
+     {"frmOptions/General", "chkDrawAfterOpening"}},
 };
 
 }  // namespace
+
+std::span<const IniKey<BeyondSettings>> BeyondKeys() { return kKeys; }
 
 void ReadBeyondSettings(const IniTable& table, BeyondSettings& settings) {
   ReadIniKeys<B>(kKeys, table, {kBeyondSection}, settings);

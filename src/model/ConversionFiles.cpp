@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "base/TextFile.h"
 
 namespace tarnview {
 namespace {
@@ -13,7 +14,7 @@ constexpr long kPathFileAccessError = 75;
 
 ConversionTable ConversionFiles::LoadConversionTable(const std::string& path, const ConversionTable& defaults) {
   if (path.empty() || !files_.FileExists(path)) return defaults;
-  const auto text = files_.Read(path);
+  const auto text = ReadText(files_, path);
   if (!text) {
     tell_(Message::ConversionFileNotLoaded, "");
     log_.LogError("modTarnview", "LoadConversionTable", RuntimeError(kPathFileAccessError, "Path/File access error"),

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
+#include "model/BeyondKeys.h"
 #include "model/Column.h"
 #include "model/IniKeys.h"
 #include "model/clsFileTypes.h"
@@ -259,6 +260,8 @@ std::vector<SettingRow> AllSettings() {
   for (const auto& key : kUpToWindows) rows.push_back(RowOf(kGeneral, key, whole));
   for (const auto& key : kBehindWindows) rows.push_back(RowOf(kGeneral, key, whole));
   for (const auto& key : kAngles) rows.push_back(RowOf(kAnglesSection, key, angles));
+  const auto beyond = [](auto* settings) { return &settings->beyond; };
+  for (const auto& key : BeyondKeys()) rows.push_back(RowOf(kBeyondSection, key, beyond));
   return rows;
 }
 

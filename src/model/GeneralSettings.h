@@ -28,7 +28,7 @@ struct SettingRow {
   std::function<void(Settings&, std::string_view)> take;  ///< as the reader takes it: clamped, or left as it is
 };
 
-/// Every setting of "General" and "3D Graph" but the windows' placements, in the order of the file.
+/// Every setting of "General", "3D Graph" and "Beyond" but the windows' placements, in the order of the file.
 std::vector<SettingRow> AllSettings();
 
 /// What the humidity may be: per cent, or a wet bulb's degrees C up to those of the air.

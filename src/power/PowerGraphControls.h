@@ -33,7 +33,7 @@ class PowerGraphControls : public Form {
   TextBox txtPlotRangeTo{*this, "txtPlotRangeTo"};
   UpDown updPlotRangeTo{*this, "updPlotRangeTo"};
   CommandButton cmdFindRuns{*this, "cmdFindRuns", "Find &Runs"};
-  ListView lvwRuns{*this, "lvwRuns", {{"From", true}, {"To", true}, {"RPM", true}, {"Seconds", true}}};
+  ListView lvwRuns{*this, "lvwRuns", {{"From", true}, {"To", true}, {"RPM", true}, {"Secs", true}}};
   CommandButton cmdDrawGraph{*this, "cmdDrawGraph", "&Draw"};
 
   Frame fraCar{*this, "fraCar", "Car"};

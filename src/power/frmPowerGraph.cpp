@@ -52,7 +52,7 @@ void frmPowerGraph::BindControls() {
     const auto& curve = chPowerGraph.Data().Series()[static_cast<std::size_t>((series - 1) / 2)];
     ShowReadingAt(curve.x[static_cast<std::size_t>(point - 1)]);
   };
-  chPowerGraph.Hover = [this](double rpm) { ShowReadingAt(rpm); };
+  chPowerGraph.Hover = [this](double rpm) { chPowerGraph.HairLine = ShowReadingAt(rpm); };
   chPowerGraph.HoverEnd = [this] { HideReading(); };
 }
 
@@ -160,6 +160,7 @@ void frmPowerGraph::Draw(const SampleRange& range) {
   ShowGraph(curves, benchmark);
   staPowerGraph.SetPanel(kWarningPanel, RunWarning(run.samples));
   drawn_ = DrawnRun{std::move(run), std::move(curves), range, around_.log.gstrCurrentFile, txtCorrFactor.Text};
+  MarkPeak();
   SetCaption();
   status_.Say("Graph draw complete");
 }
@@ -181,13 +182,21 @@ void frmPowerGraph::ShowGraph(const PowerCurves& curves, const std::optional<Sho
   chPowerGraph.Visible = true;
 }
 
+/// A ring on the power's peak, with a line through the torque.
+void frmPowerGraph::MarkPeak() {
+  const auto& points = drawn_->curves.points;
+  const double peak = drawn_->curves.peaks.power;
+  const auto at = std::find_if(points.begin(), points.end(), [peak](const PowerPoint& p) { return p.power == peak; });
+  if (at != points.end()) chPowerGraph.SelectPoint(1, static_cast<int>(at - points.begin()) + 1);
+}
+
 void frmPowerGraph::FindTheRuns() {
   runs_ = FindRuns(around_.log);
   std::vector<ListView::Row> rows;
   for (const FoundRun& run : runs_) {
     ListView::Row row;
     row.texts = {std::to_string(run.from), std::to_string(run.to),
-                 FixedText(run.fromRpm, 0) + " - " + FixedText(run.toRpm, 0), FixedText(run.seconds, 1)};
+                 FixedText(run.fromRpm, 0) + "-" + FixedText(run.toRpm, 0), FixedText(run.seconds, 1)};
     row.tag = std::to_string(rows.size());
     rows.push_back(std::move(row));
   }
@@ -195,18 +204,17 @@ void frmPowerGraph::FindTheRuns() {
   status_.Say(runs_.empty() ? "No run at full throttle found" : std::to_string(runs_.size()) + " found");
 }
 
-/// The curves of the run at the point nearest to an engine speed, side by side.
-void frmPowerGraph::ShowReadingAt(double rpm) {
-  if (!drawn_ || drawn_->curves.points.empty()) return;
+std::optional<double> frmPowerGraph::ShowReadingAt(double rpm) {
+  if (!drawn_ || drawn_->curves.points.empty()) return std::nullopt;
   const auto& points = drawn_->curves.points;
   const auto nearest = std::min_element(points.begin(), points.end(), [rpm](const auto& a, const auto& b) {
     return std::fabs(a.rpm - rpm) < std::fabs(b.rpm - rpm);
   });
   const bool imperial = drawn_->curves.imperial;
-  chPowerGraph.HairLine = nearest->rpm;
   staPowerGraph.SetPanel(kReadingPanel, FixedText(nearest->rpm, 0) + " rpm: " + FixedText(nearest->power, 1) +
                                             (imperial ? " hp, " : " kW, ") + FixedText(nearest->torque, 1) +
                                             (imperial ? " lbft" : " Nm"));
+  return nearest->rpm;
 }
 
 void frmPowerGraph::HideReading() {

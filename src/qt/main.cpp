@@ -32,7 +32,13 @@ QString DataFolder() {
   return own.absoluteFilePath("data");
 }
 
-ProgramFolders FindFolders() { return {PathFromQt(WritableFolder() + '/'), PathFromQt(DataFolder() + '/')}; }
+ProgramFolders FindFolders() {
+  const QString program = WritableFolder();
+  ProgramFolders folders{PathFromQt(program + '/'), PathFromQt(DataFolder() + '/')};
+  if (program != QCoreApplication::applicationDirPath())
+    folders.logs = PathFromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/');
+  return folders;
+}
 
 }  // namespace
 }  // namespace tarnview

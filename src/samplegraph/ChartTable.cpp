@@ -47,6 +47,7 @@ void AddRow(ChartTable& table, const OpenLog& log, const std::vector<Curve>& cur
     const double y = curve.column == kKnock ? peakKnock : curve.Height(log.glngDataLog(curve.column, row));
     table.y[j].push_back(Cell(y));
     table.highestY = std::max(table.highestY, y);
+    table.lowestY = std::min(table.lowestY, y);
   }
 }
 

@@ -18,6 +18,7 @@ struct ChartTable {
 
   double lowestX = 0, highestX = 0;
   double highestY = 0;  ///< never below 0
+  double lowestY = 0;   ///< never above 0
 
   std::int32_t LastRow() const { return static_cast<std::int32_t>(x.size()); }
   /// X of a row from 0; the heading row counts as 0.

@@ -1,15 +1,16 @@
 #include "samplegraph/ExportRun.h"
 
+#include "desk/SaveDialog.h"
+
 namespace tarnview {
 namespace {}  // namespace
 
 bool ExportRun::Run(std::string& path, const std::function<void(const std::string&)>& write) const {
   Dialog dialog;
-  dialog.kind = DialogKind::Save;
   dialog.title = "Export";
   dialog.filter = "CSV files (*.csv)|*.csv";
   dialog.initialPath = dialog.path = path;
-  if (!window.host.Choose(dialog)) return false;
+  if (!ChooseFileToSave(window.host, dialog)) return false;
   path = dialog.path;
   status.Say("Exporting...");
   const bool exported = TrapEvent(errors, window.name.c_str(), procedure, [&] {

@@ -1,5 +1,7 @@
 #include "samplegraph/GraphScale.h"
 
+#include <cmath>
+
 #include "base/Numbers.h"
 
 namespace tarnview {
@@ -27,6 +29,21 @@ Fit FirstFit(double value) {
 VerticalScale ScaleForHighest(double highest) {
   const Fit fit = FirstFit(RoundHalfEven(highest));
   return {fit.step * (fit.lines + 1), fit.lines + 1};
+}
+
+VerticalScale ReachingBelow(VerticalScale scale, double lowest) {
+  if (!(lowest < 0) || scale.divisions < 1) return scale;
+  const std::int64_t step = scale.max / scale.divisions;
+  const auto below = static_cast<std::int64_t>(std::ceil(-lowest / static_cast<double>(step)));
+  return {scale.max, scale.divisions + below, -step * below};
+}
+
+VerticalScale ScaleForRange(double lowest, double highest) {
+  if (!(-lowest > highest)) return ReachingBelow(ScaleForHighest(highest), lowest);
+  // The deeper side says how large a step is.
+  const std::int64_t step = FirstFit(RoundHalfEven(-lowest)).step;
+  const auto above = static_cast<std::int64_t>(RoundHalfEven(highest / static_cast<double>(step))) + 1;
+  return ReachingBelow({step * above, above}, lowest);
 }
 
 VerticalScale ScaleForFixedMax(std::int32_t wanted) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "samplegraph/ExportText.h"
@@ -15,7 +16,11 @@ constexpr std::int32_t kProgressUpdates = 200;
 
 }  // namespace
 
-std::string GetExportPathFile(const std::string& strLogFile) { return WithoutExtension(strLogFile) + ".csv"; }
+std::string GetExportPathFile(const std::string& strLogFile) {
+  constexpr const char* kEnding = "csv";
+  const bool itsOwn = SameIgnoringCase(GetExtension(strLogFile), kEnding);
+  return WithoutExtension(strLogFile) + (itsOwn ? "_export." : ".") + kEnding;
+}
 
 LogExport::LogExport(const Controls& controls, const PlotRange& range, const OpenLog& log, FileSystem& files,
                      StatusArea& status)

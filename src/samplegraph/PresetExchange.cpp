@@ -2,6 +2,8 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
+#include "desk/SaveDialog.h"
 
 namespace tarnview {
 namespace {
@@ -44,7 +46,7 @@ void PresetExchange::Save(const std::function<std::string(bool blnWriteFamily, c
   const bool withFamily = around_.messages.AskQuestion(Question::IncludeLogFamily);
   Dialog dialog = DialogFor(DialogKind::Save, "Save As");
   dialog.path = ProposedFile();
-  if (!window_.host.Choose(dialog)) return;
+  if (!ChooseFileToSave(window_.host, dialog)) return;
   lastFile_ = dialog.path;
   if (!around_.files.Write(dialog.path, text(withFamily, around_.clock.Now())))
     around_.messages.ShowMessage(Message::SomethingWentWrong);
@@ -55,7 +57,7 @@ void PresetExchange::Load(const std::function<void(std::string_view bytes)>& tak
   if (!window_.host.Choose(dialog)) return;
   lastFile_ = dialog.path;
   const bool loaded = TrapEvent(around_.errors, window_.name.c_str(), "cmdLoad_Click", [&] {
-    const auto bytes = around_.files.Read(dialog.path);
+    const auto bytes = ReadText(around_.files, dialog.path);
     if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + dialog.path);
     take(*bytes);
   });

@@ -66,7 +66,10 @@ void SampleDetails::SetCheckedItems(const std::vector<int>& items) {
 void SampleDetails::chkShowCheckedOnly_Click() {
   if (!items_) return;
   SetUpSampleGraphSampleListView(fileType_, *items_);
-  if (!log_.gblnSamplesLoaded) return;
+  if (log_.gblnSamplesLoaded) ShowHighlighted();
+}
+
+void SampleDetails::ShowHighlighted() {
   const std::int32_t sample = plot_.lngHighlightSample;
   PopulateSampleListView(LocateSample(log_, sample - log_.glngFirstSampleTime, sample));
 }

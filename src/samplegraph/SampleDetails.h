@@ -27,6 +27,8 @@ class SampleDetails {
   void PopulateSampleListView(std::int32_t lngIndex) {
     tarnview::PopulateSampleListView(lngIndex, controls_.lvwSampleDetails, log_);
   }
+  /// Those of the highlighted sample.
+  void ShowHighlighted();
   void ClearValues() { PopulateSampleListView(-1); }
   /// Selects the row of an item, if it is on show.
   void SelectItem(int item);

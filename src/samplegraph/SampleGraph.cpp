@@ -138,9 +138,10 @@ ChartDescription SampleGraph::Describe() const {
   }
   chart.x = {table.lowestX, table.highestX, 10, TimeAxisFormat(table.highestX - table.lowestX)};
   const VerticalScale scale = controls_.chkFixY.Value
-                                  ? VerticalScale{plot_.lngFixedGraphMax, plot_.intFixedGraphDivisions}
-                                  : ScaleForHighest(table.highestY);
-  chart.y = {0, static_cast<double>(scale.max), static_cast<int>(scale.divisions), "#######0"};
+                                  ? ReachingBelow({plot_.lngFixedGraphMax, plot_.intFixedGraphDivisions}, table.lowestY)
+                                  : ScaleForRange(table.lowestY, table.highestY);
+  chart.y = {static_cast<double>(scale.min), static_cast<double>(scale.max), static_cast<int>(scale.divisions),
+             "#######0"};
   SetGraphColourScheme(chart, settings_.gintGraphColourScheme);
   chart.facts = {{"from", static_cast<long long>(range_.From())},
                  {"to", static_cast<long long>(range_.To())},
@@ -205,7 +206,9 @@ void SampleGraph::chkFixY_Click() {
 }
 
 void SampleGraph::StepYMax(int by) {
-  controls_.txtYMax.Text = std::to_string(kGraphYMaxLimits.Hold(StringToLong(controls_.txtYMax.Text()) + by));
+  const std::int64_t wanted = std::int64_t{StringToLong(controls_.txtYMax.Text())} + by;
+  const Limits& limits = kGraphYMaxLimits;
+  controls_.txtYMax.Text = std::to_string(std::clamp<std::int64_t>(wanted, limits.least, limits.most));
 }
 
 }  // namespace tarnview

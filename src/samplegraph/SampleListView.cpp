@@ -41,7 +41,9 @@ ListView::Row MakeRow(const clsLogDataItem& item, const SampleListForm& form) {
   if (form.blnShowLongName)
     row.texts.push_back(item.strLongName);
   else
-    row.toolTip = item.strColumnTitles.empty() ? item.strLongName : "Data log column(s): " + item.strColumnTitles;
+    row.toolTip = item.strLongName;
+  if (!item.strColumnTitles.empty())
+    row.toolTip += (row.toolTip.empty() ? "" : "\r\n") + ("Data log column(s): " + item.strColumnTitles);
   row.tag = std::to_string(item.intSeq);
   if (!form.pictures) return row;
   row.icon = item.blnDisplay ? kIconDisplayed : kIconNotDisplayed;

@@ -125,4 +125,8 @@ void ScatterDrawing::Recolour(const ScatterRequest& request) {
   if (point > 0) chart.SelectPoint(1, point);
 }
 
+void ScatterDrawing::TakeColourScheme() {
+  if (Drawn()) tarnview::TakeColourScheme(controls_.chScatterGraph, settings_.gintGraphColourScheme);
+}
+
 }  // namespace tarnview

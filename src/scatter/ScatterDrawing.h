@@ -44,6 +44,8 @@ class ScatterDrawing {
   void DrawScatter(const ScatterRequest& request, bool blnQuiet);
   /// Gives the graph on show the request's colouring and nothing else of it.
   void Recolour(const ScatterRequest& request);
+  /// Gives the graph on show the colour scheme of the settings.
+  void TakeColourScheme();
   /// The log goes: the graph stays, but its points have no samples any more.
   void LogChanged() { ofOpenLog_ = false; }
 

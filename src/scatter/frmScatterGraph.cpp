@@ -105,10 +105,10 @@ void frmScatterGraph::MoveDown(int steps) {
 
 void frmScatterGraph::ShowBackgroundPicture() {
   const std::string& picture = around_.settings.gstrAlternativeBackgroundPicture;
-  fraPicture.BackgroundPicture = picture;
+  const bool there = around_.files.IsFile(picture);
+  fraPicture.BackgroundPicture = there ? picture : std::string();
   const bool quiet = initialPreset_ > 0;
-  if (!quiet && !picture.empty() && !around_.files.FileExists(picture))
-    around_.messages.ShowMessage(Message::BackgroundPictureNotFound);
+  if (!quiet && !picture.empty() && !there) around_.messages.ShowMessage(Message::BackgroundPictureNotFound);
 }
 
 void frmScatterGraph::Form_Unload() {
@@ -177,6 +177,12 @@ std::string frmScatterGraph::AxesOnShow() const {
   const auto name = [this](int item) { return around_.log.gcolDataItems->Item(item).strShortName; };
   const PointCloud& points = drawing_.dblScatterData();
   return name(points.yItem) + " against " + name(points.xItem);
+}
+
+void frmScatterGraph::OptionsChanged() {
+  fraPicture.BackgroundPicture = around_.settings.gstrAlternativeBackgroundPicture;
+  RefreshDataItems();
+  drawing_.TakeColourScheme();
 }
 
 void frmScatterGraph::Recolour() { drawing_.Recolour(Request()); }

@@ -69,6 +69,8 @@ class frmScatterGraph : public ScatterWindowControls {
   void LogIsClosing();
   /// Another log is open: items, filters, presets and details follow it.
   void RefreshDataItems();
+  /// Settings or data items have changed: the colours of the graph, the picture and the lists follow.
+  void OptionsChanged();
   /// Lists the presets of the log's family; the selected one stays selected, or the last is.
   void PopulatePresets(bool selectLast = false);
   /// Clicks on the first preset of that name; false if there is none.

@@ -15,9 +15,11 @@ Object DescribeKind(const Curves& curves, const ChartDescription& chart) {
                                {"colour", one.pen.colour},
                                {"style", one.pen.style},
                                {"width", one.pen.width / 10}});
+  Object y{{"max", chart.y.max}, {"divisions", chart.y.divisions}};
+  if (chart.y.min < 0) y.emplace_back("min", chart.y.min);
   return {{"series", std::move(series)},
           {"x_axis", Object{{"min", chart.x.min}, {"max", chart.x.max}, {"format", chart.x.format}}},
-          {"y_axis", Object{{"max", chart.y.max}, {"divisions", chart.y.divisions}}}};
+          {"y_axis", std::move(y)}};
 }
 
 Object DescribeKind(const PointCloud& cloud, const ChartDescription&) {

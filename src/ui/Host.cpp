@@ -1,5 +1,7 @@
 #include "ui/Host.h"
 
+#include "base/Text.h"
+
 namespace tarnview {
 
 Reply Box::DefaultReply() const {
@@ -11,6 +13,11 @@ Reply Box::DefaultReply() const {
     default:
       return Reply::Ok;
   }
+}
+
+std::string Box::TextWithin(std::size_t mostDetails) const {
+  if (detailsFrom >= text.size()) return text;
+  return text.substr(0, detailsFrom) + Shortened(std::string_view(text).substr(detailsFrom), mostDetails);
 }
 
 }  // namespace tarnview

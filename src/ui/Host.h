@@ -37,10 +37,16 @@ struct Box {
   /// is then that of Enter.
   std::string offer = {};
   std::function<void()> takeOffer = {};
+  std::size_t detailsFrom = std::string::npos;  ///< where in the text the details begin; npos: it has none
 
+  /// The text with at most so many bytes of details, which may be a line of a file, and "..." for the rest.
+  std::string TextWithin(std::size_t mostDetails) const;
   /// The button that Enter presses.
   Reply DefaultReply() const;
 };
+
+/// Bytes of a box's details that fit a screen, and that are told where room is cheap. The error log has them whole.
+inline constexpr std::size_t kMostDetailsInBox = 600, kMostDetailsTold = 4000;
 
 enum class DialogKind { Open, Save, Folder, Colour, Printer };
 
@@ -81,6 +87,8 @@ class Host {
 
   /// What the user does goes through here; boxes, dialogs and modal windows pause it.
   UserEvents events;
+  /// In words, why nothing may be saved into a file; "" where it may. Set once by the program.
+  std::function<std::string(const std::string& path)> WhyNotSave;
 
   virtual Reply Ask(const Box& box) = 0;
   /// False on Cancel; then `dialog` is unchanged.

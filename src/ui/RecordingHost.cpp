@@ -66,7 +66,8 @@ Reply RecordingHost::Ask(const Box& box) {
   const auto answer = Next(answers);
   const Reply reply = answer ? ReplyFor(box, answer->kind) : box.DefaultReply();
   messages.push_back(box);
-  boxes.emplace_back(Object{{"id", box.id}, {"text", box.text}, {"style", box.style}, {"reply", Name(reply)}});
+  boxes.emplace_back(
+      Object{{"id", box.id}, {"text", box.TextWithin(kMostDetailsTold)}, {"style", box.style}, {"reply", Name(reply)}});
   if (takesOffers && box.takeOffer) box.takeOffer();
   return reply;
 }

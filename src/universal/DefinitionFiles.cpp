@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "base/Paths.h"
+#include "base/TextFile.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/DefinitionFaults.h"
 #include "universal/DefinitionReader.h"
@@ -16,7 +17,7 @@ constexpr int kFileAccessError = 75;  // of the run-time
 
 clsDataLog DefinitionFiles::Load(const std::string& path) {
   if (!files_.FileExists(path)) throw DefinitionFault(Message::DefinitionFileNotFound, path);
-  const auto text = files_.Read(path);
+  const auto text = ReadText(files_, path);
   if (!text) throw RuntimeError(kFileAccessError, "Path/File access error");
   return ReadDataLogDefinition(*text, path, catalogue_);
 }

@@ -13,6 +13,9 @@ namespace {
 /// Not even an overflowing value reaches it from within.
 constexpr double kBeyond = std::numeric_limits<double>::infinity();
 
+/// Bytes of UTF-8 for one of Windows-1252.
+constexpr std::size_t kMostForOne = 3;
+
 /// The power of ten that a factor is, up to the fourth.
 std::optional<int> TensOf(double factor) {
   for (int tens = 0; tens <= 4; ++tens)
@@ -24,8 +27,8 @@ std::optional<int> TensOf(double factor) {
 
 ValueLookup::ValueLookup(const clsDataLogColumnValues& values) {
   for (const auto& value : values) {
-    translations_.emplace(Upper(value->strDataLogValue), value->lngDataLogTranslation);  // the first of a text stays
-    longest_ = std::max(longest_, value->strDataLogValue.size());
+    translations_.emplace(CaseKey(value->strDataLogValue), value->lngDataLogTranslation);  // the first of a text stays
+    longest_ = std::max(longest_, kMostForOne * value->strDataLogValue.size());
   }
   capitals_.reserve(longest_);
 }
@@ -35,7 +38,8 @@ std::int32_t ValueLookup::operator()(std::string_view field) {
   if (field.size() > longest_) return 0;
   capitals_ = field;
   std::transform(capitals_.begin(), capitals_.end(), capitals_.begin(), AsciiUpper);
-  const auto found = translations_.find(capitals_);
+  const bool ascii = std::all_of(field.begin(), field.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+  const auto found = translations_.find(ascii ? capitals_ : CaseKey(field));
   return found == translations_.end() ? 0 : found->second;
 }
 
@@ -74,7 +78,7 @@ void HeaderMap::Gather(const clsDataLog& definition) {
   int most = kColumnCount;
   for (int n = 1; n <= definition.objColumns.Count(); ++n) {
     const clsDataLogColumn& column = definition.objColumns.Item(n);
-    Group& group = groups_[column.strColumnTitleCaps()];
+    Group& group = groups_[CaseKey(column.strColumnTitle)];
     group.columns.push_back(n);
     group.byOccurrence = group.byOccurrence || column.lngTitleOccurrence > 0;
     most = std::max(most, column.lngDataItemID);
@@ -83,7 +87,7 @@ void HeaderMap::Gather(const clsDataLog& definition) {
 }
 
 void HeaderMap::Match(std::string_view field, const clsDataLog& definition) {
-  const auto found = groups_.find(Upper(Trim(field)));
+  const auto found = groups_.find(CaseKey(Trim(field)));
   if (found == groups_.end() || (found->second.used > 0 && definition.blnIgnoreDuplicateColumns)) {
     unknown_.emplace_back(field);
     fields_.emplace_back();
@@ -119,12 +123,13 @@ bool HeaderMap::Feeds(int item) const {
 std::vector<std::string_view> SplitFields(std::string_view line, std::int32_t delimiter) {
   std::vector<std::string_view> fields;
   if (line.empty()) return fields;
-  for (;;) {
+  while (fields.size() < kMostFields) {
     const auto end = delimiter <= 255 ? line.find(static_cast<char>(delimiter)) : std::string_view::npos;
     fields.push_back(line.substr(0, end));
     if (end == std::string_view::npos) return fields;
     line.remove_prefix(end + 1);
   }
+  return fields;
 }
 
 }  // namespace tarnview

@@ -87,7 +87,11 @@ class HeaderMap {
   std::vector<int> smoothed_;
 };
 
-/// The parts of a line between delimiters; an empty line has none. No byte is a delimiter beyond 255.
+/// More columns than any log has; what stands behind them in a line of titles is passed over.
+inline constexpr std::size_t kMostFields = std::size_t{1} << 18;
+
+/// The parts of a line between delimiters, kMostFields at most; an empty line has none. No byte is a delimiter beyond
+/// 255.
 std::vector<std::string_view> SplitFields(std::string_view line, std::int32_t delimiter);
 
 }  // namespace tarnview

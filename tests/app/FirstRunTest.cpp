@@ -65,6 +65,16 @@ class FirstRunTest : public ::testing::Test {
   std::unique_ptr<Program> program;
 };
 
+TEST_F(FirstRunTest, LogsOfAUserWithAFolderOfHisOwnLieInHisDocuments) {
+  Choose("Tec-2 Data Logs");
+  const ProgramFolders folders{"/home/me/.config/tarnview/", "/tv/data/", "/home/me/Documents/"};
+  program = std::make_unique<Program>(host, files, clock, processes, folders);
+  program->Start("", true);
+  const IniTable table = ReadINIFileToArray(files.files["/home/me/.config/tarnview/Tarnview.ini"]);
+  for (const char* key : {"Default Working Directory", "Initial Directory"})
+    EXPECT_EQ(GetINIValue(table, "General", key), "/home/me/Documents/");
+}
+
 TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
   host.user = [this](frmFindINIFile& window) {
     EXPECT_THAT(window.lstFileType.Entries(),

@@ -69,6 +69,18 @@ TEST_F(GraphWindows, APresetTicksItsItemsAndDraws) {
   EXPECT_EQ(Ticked(), (Ids{}));
 }
 
+TEST_F(GraphWindows, TheFixedMaximumIsSteppedWithinItsLimits) {
+  Open(50, kPresets);
+  Main().chkFixY.Value = true;
+  const std::tuple<const char*, const char*, const char*> rows[] = {
+      {"90", "up", "100"}, {"15", "down", "10"}, {"2147483647", "up", "1000"}, {"-2147483648", "down", "10"}};
+  for (const auto& [before, direction, after] : rows) {
+    Main().txtYMax.Text = std::string(before);
+    Main().updYMax.Do({"step", {direction}});
+    EXPECT_EQ(Main().txtYMax.Text(), after) << before;
+  }
+}
+
 TEST_F(GraphWindows, PresetsAreUpdatedAddedAndKept) {
   Open(50, kPresets);
   auto& presets = program->Global().gcolSampleGraphPresets;

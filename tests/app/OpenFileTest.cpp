@@ -50,6 +50,35 @@ TEST_F(OpenFile, WhatDoesNotLoadIsToldAndLeavesNoLog) {
   EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/good.txt");
 }
 
+TEST_F(OpenFile, AnAbsurdFileIsRefusedWithItsReason) {
+  files.files["/logs/giant.txt"] = "";
+  files.broken.insert("/logs/giant.txt");
+  files.files["/logs/line.txt"] = "Sample" + std::string(16 << 20, '\0');
+  Start();
+  const std::pair<const char*, const char*> rows[] = {
+      {"/logs/giant.txt", "File could not be loaded.\r\n\r\nIt is larger than 1 GiB."},
+      {"/logs/line.txt", "File could not be loaded.\r\n\r\nIt has a line of more than 16 MB."},
+      {"/logs/none.txt", "File could not be loaded."}};
+  for (const auto& [path, text] : rows) {
+    host.messages.clear();
+    EXPECT_FALSE(Main().LoadDataFile(path, kUniversalLog));
+    ASSERT_FALSE(host.messages.empty());
+    EXPECT_EQ(host.messages[0].text, text);
+  }
+}
+
+TEST_F(OpenFile, AMarkInFrontAndLinesThatEndInCRAreNoFault) {
+  std::string log = SmallLog(5);
+  files.files["/logs/mark.txt"] = "\xEF\xBB\xBF" + log;
+  std::erase(log, '\n');
+  files.files["/logs/cr.txt"] = log;
+  Start();
+  for (const char* path : {"/logs/mark.txt", "/logs/cr.txt"}) {
+    EXPECT_TRUE(Main().LoadDataFile(path, 1)) << path;
+    EXPECT_EQ(Log().glngDataLog.Rows(), 5) << path;
+  }
+}
+
 TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
   files.files["/logs/run.dat"] = SmallLog(5);
   Start();

@@ -199,6 +199,15 @@ TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsTold) {
     EXPECT_THAT(written, HasSubstr(std::string(line) + "\r\n"));
 }
 
+TEST_F(SettingsFileTest, APictureThatIsNoFileIsNeverOpened) {
+  files.files["/pipe.png"] = "";
+  files.pipes = {"/pipe.png"};
+  StartKeeping("[General]\nAlternative Background Picture=/pipe.png\n");
+  EXPECT_THAT(MessageIds(), ElementsAre(18));
+  EXPECT_EQ(Main().fraPicture.BackgroundPicture(), "");
+  EXPECT_THAT(Closed(), HasSubstr("Alternative Background Picture=/pipe.png\r\n"));
+}
+
 TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
   files.files["/data/Tarnview_Install.ini"] = "[General]\nLog EXE=data\n";
   StartKeeping("[General]\n");

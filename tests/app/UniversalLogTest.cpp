@@ -29,7 +29,8 @@ TEST_F(UniversalLogs, ALogIsReadThroughTheDefinitionOfTheSettings) {
   EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal - Test Log)");
   EXPECT_EQ(Log().FormatDataItem(3, 1), "2000");
   EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).texts[0], "Revs");
-  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).toolTip, "Data log column(s): Revs");
+  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).toolTip,
+            "About Revs\r\nData log column(s): Revs");
   EXPECT_EQ(Main().lvwSampleDetails.RowOfTag("5"), 0);
   EXPECT_NE(files.files[std::string("/car/") + kUnknownColumnsFile].find("Unknown Columns:\r\nOther\r\n"),
             std::string::npos);

@@ -32,13 +32,37 @@ TEST(Text, IsSplitJoinedAndSorted) {
   EXPECT_EQ(Split("a,,b,", ','), (std::vector<std::string>{"a", "", "b", ""}));
   EXPECT_TRUE(Split("", ',').empty());
   EXPECT_EQ(Join({"a", "", "b"}, ", "), "a, , b");
-  EXPECT_EQ(Upper("a\xe4z9"), "A\xe4Z9");
   EXPECT_TRUE(SameIgnoringCase("aBc", "AbC"));
   EXPECT_FALSE(SameIgnoringCase("aBc", "AbCd"));
 
   std::vector<std::vector<std::string>> table{{"head", "z"}, {"2", "c"}, {"1", "a"}, {"3"}, {"4", "a"}};
   Sort2DStringArray(table, 1, 1);
   EXPECT_EQ(table, (std::vector<std::vector<std::string>>{{"head", "z"}, {"3"}, {"1", "a"}, {"4", "a"}, {"2", "c"}}));
+}
+
+TEST(Text, HasCapitalsBeyondAsciiInEitherEncoding) {
+  const struct {
+    const char *text, *upper, *key;
+  } kRows[] = {
+      {"a\xe4z9", "A\xc4Z9", "A\u00c4Z9"},                           // Windows-1252
+      {"Temp\u00e9rature", "TEMP\u00c9RATURE", "TEMP\u00c9RATURE"},  // UTF-8
+      {"Temp\xe9rature", "TEMP\xc9RATURE", "TEMP\u00c9RATURE"},
+      {"\xff\x9a\xf7\xdf", "\x9f\x8a\xf7\xdf", "\u0178\u0160\u00f7\u00df"},
+      {"\u0161\u0142\u017e \u03c9 \u044f\u0451 \U0001f600", "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600",
+       "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600"},
+  };
+  for (const auto& row : kRows) {
+    EXPECT_EQ(Upper(row.text), row.upper);
+    EXPECT_EQ(CaseKey(row.text), row.key);
+  }
+  EXPECT_TRUE(SameIgnoringCase("\u00e9", "\xc9"));
+  EXPECT_FALSE(SameIgnoringCase("\u00e9", "E"));
+}
+
+TEST(Text, IsShortenedBehindAWholeCharacter) {
+  EXPECT_EQ(Shortened("abcdef", 6), "abcdef");
+  EXPECT_EQ(Shortened("abcdefg", 6), "abc...");
+  EXPECT_EQ(Shortened("ab\u20accdef", 7), "ab...");
 }
 
 TEST(Text, GoesThroughUnicodeAndBack) {

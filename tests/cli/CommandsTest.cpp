@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -53,7 +56,7 @@ TEST(CommandLineProgram, AFailedLoadTellsWhy) {
 }
 
 TEST(CommandLineProgram, TablePrintsARangeOfItems) {
-  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63,1,999", "--from", "2", "--to", "4"}).out,
+  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63,1", "--from", "2", "--to", "4"}).out,
             "Sample,Secs\n2,0.164\n3,0.246\n4,0.328\n");
   EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63", "--raw", "--to", "1"}).out, "Secs\n819\n");
 }
@@ -132,7 +135,30 @@ TEST(CommandLineProgram, ScatterRefusesAsTheWindowsDo) {
   }
 }
 
+TEST(CommandLineProgram, ALogWithoutZonesIsNotNormallyAspirated) {
+  EXPECT_EQ(Json::parse(RunCli({"load", Example("na.txt")}).out)["normally_aspirated"], true);
+  EXPECT_EQ(Json::parse(RunCli({"load", Example("na.txt"), "--type", "3"}).out)["normally_aspirated"], false);
+}
+
+TEST(CommandLineProgram, AnExportNeverGoesOverItsLog) {
+  const std::string log = ::testing::TempDir() + "own.txt";
+  std::filesystem::copy_file(Example("na.txt"), log, std::filesystem::copy_options::overwrite_existing);
+  const Ran ran = RunCli({"export", log, ::testing::TempDir() + "./own.txt"});
+  EXPECT_EQ(ran.status, kFailed);
+  EXPECT_NE(ran.err.find("message 0: The log that is open is never written over:"), std::string::npos) << ran.err;
+  EXPECT_EQ(std::filesystem::file_size(log), std::filesystem::file_size(Example("na.txt")));
+}
+
+TEST(CommandLineProgram, AResultThatCannotBeWrittenIsAFailure) {
+  const std::string cli = TARNVIEW_CLI;
+  for (const std::string& command : {"load " + Example("na.txt"), std::string("--help")}) {
+    const int status = std::system((cli + " " + command + " >/dev/full 2>/dev/null").c_str());
+    EXPECT_EQ(WEXITSTATUS(status), kFailed) << command;
+  }
+}
+
 TEST(CommandLineProgram, AWrongCommandLineSaysSo) {
+  const std::string na = Example("na.txt");
   const std::vector<std::vector<std::string>> kRows{{},
                                                     {"fly"},
                                                     {"load"},
@@ -140,11 +166,23 @@ TEST(CommandLineProgram, AWrongCommandLineSaysSo) {
                                                     {"graph", "a"},
                                                     {"graph", "a", "--out", "a.bmp"},
                                                     {"graph", "a", "--out", "a.png", "--size", "1x1"},
+                                                    {"table", na, "--items", "abc"},
+                                                    {"table", na, "--items", "3;5"},
+                                                    {"table", na, "--items", "3,"},
+                                                    {"table", na, "--items", ""},
+                                                    {"table", na, "--items", "0"},
+                                                    {"table", na, "--items", "84"},
+                                                    {"graph", na, "--json", "--items", "999"},
+                                                    {"table", na, "--from", "abc"},
+                                                    {"load", na, "--to", "1x"},
+                                                    {"scatter", na, "--json", "--filter", "3:abc:"},
+                                                    {"scatter", na, "--json", "--filter", "3:1:2b"},
                                                     {"drive", "no-such-script"}};
   for (const auto& words : kRows) {
     const Ran ran = RunCli(words);
-    EXPECT_EQ(ran.status, kWrongCommandLine) << (words.empty() ? "" : words[0]);
+    EXPECT_EQ(ran.status, kWrongCommandLine) << (words.empty() ? "" : words.back());
     EXPECT_NE(ran.err, "");
+    EXPECT_EQ(ran.out, "");
   }
   EXPECT_EQ(RunCli({"load", "--help"}).status, kDone);
 }

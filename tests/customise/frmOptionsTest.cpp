@@ -62,7 +62,7 @@ TEST_F(Options, ShowEverySettingThatNamesThemAndGiveItBack) {
     EXPECT_TRUE(ControlOf(options, row.setIn.control)) << row.key;
     ++shown;
   }
-  EXPECT_EQ(shown, 40u);
+  EXPECT_EQ(shown, 41u);
   Act(options, "click cmdOK");
   ASSERT_TRUE(options.Accepted());
   EXPECT_EQ(Boxes(), "") << "what was bad before and was left alone stops nobody";

@@ -82,6 +82,16 @@ TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgram) {
   EXPECT_EQ(host.messages.size(), 2u);
 }
 
+TEST_F(MessagesTest, HaveLongDetailsCutWhereTheyAreShown) {
+  messages.ShowMessage(Message::NoColumnsRecognised, false, std::string(5000, 'x'));
+  const Box& box = host.messages[0];
+  const std::string text = messages.Text(Message::NoColumnsRecognised) + "\r\n\r\n";
+  EXPECT_EQ(box.TextWithin(kMostDetailsInBox), text + std::string(597, 'x') + "...");
+  EXPECT_EQ(box.TextWithin(kMostDetailsTold), text + std::string(3997, 'x') + "...");
+  EXPECT_EQ(box.text.size(), text.size() + 5000);
+  EXPECT_EQ((Box{0, std::string(700, 'y')}.TextWithin(kMostDetailsInBox)), std::string(700, 'y'));
+}
+
 TEST_F(MessagesTest, AskQuestions) {
   EXPECT_TRUE(messages.AskQuestion(Question::DeleteItem));
   EXPECT_FALSE(messages.AskQuestion(Question::PresetOfOtherFamily, true));

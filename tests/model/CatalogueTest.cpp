@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <fstream>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/Catalogue.h"
 
@@ -66,29 +69,30 @@ TEST_F(CatalogueTest, ColumnsAreCalledAsTheItemsAre) {
 }
 
 std::string Print(const clsLogDataItem& item) {
-  std::string text = std::to_string(item.intKey) + " " + item.strLongName + " T" + std::to_string(item.intType);
-  text += " x" + std::to_string(static_cast<int>(item.dblFactor)) + " " + item.strDisplayFormatMask();
-  text += " plot" + std::to_string(item.dblSampleDisplayFactor).substr(0, 5);
-  text += " c" + std::to_string(item.lngColour) + " " + std::to_string(item.lngLineStyle) + "/" +
-          std::to_string(item.lngLineWidth) + " +" + std::to_string(item.lngStorageOffset) + " ";
-  for (const int family : item.colApplicableLogFamilies) text += std::to_string(family);
-  text += std::string(" ") + (item.blnMandatory ? "M" : "") + (item.blnSampleGraphPlottable ? "" : "N") +
-          (item.blnDisplayZero ? "" : "Z");
-  return text + " " + Join(item.varDescList, ",");
+  char colour[8];
+  std::snprintf(colour, sizeof colour, "%06X", static_cast<unsigned>(item.lngColour));
+  std::string families;
+  for (const int family : item.colApplicableLogFamilies) families += std::to_string(family);
+  const std::string flags = std::string(item.blnMandatory ? "M" : "") + (item.blnSampleGraphPlottable ? "" : "N") +
+                            (item.blnDisplayZero ? "" : "Z");
+  const std::string line =
+      Join({std::to_string(item.intSeq), std::to_string(item.intKey), item.strShortName, item.strLongName,
+            std::to_string(item.intType), NumberText(item.dblFactor), std::to_string(item.lngDisplayDecimalPlaces()),
+            NumberText(item.dblSampleDisplayFactor), colour,
+            std::to_string(item.lngLineStyle) + "/" + std::to_string(item.lngLineWidth),
+            std::to_string(item.lngStorageOffset), families, flags, Join(item.varDescList, ",")},
+           " | ");
+  return line.substr(0, line.find_last_not_of(' ') + 1) + "\n";
 }
 
 TEST_F(CatalogueTest, ItemsHoldWhatTheTableSays) {
-  const std::pair<int, const char*> rows[] = {
-      {1, "1 Sample No. T0 x1 0 plot1.000 c10000 1/1 +0 123456 MN "},
-      {3, "68 RPM T0 x1 0 plot0.010 c4227072 1/3 +0 123456 M "},
-      {6, "50 Lambda Adjustment T2 x1 0 plot4.000 c60000 1/1 +0 125  +,-,=,?, ,A,D,E,S,T,V,X,*"},
-      {24, "70 Speed T1 x10 0.0 plot1.000 c16711808 1/3 +0 125 MZ "},
-      {49, "22 O2 Closed Loop Correction T1 x1000 0.000 plot100.0 c16711935 3/2 +1000 34  "},
-      {63, "2 Seconds T1 x10000 0.000 plot1.000 c630000 1/1 +0 123456 MN "},
-      {65, "38 Idle Speed Control T2 x1 0 plot5.000 c650000 1/1 +0 5  +,-,=,?, ,A,D,E,S,T,V,X"},
-      {83, "10 A/F Target T1 x1000 0.00 plot10.00 c4904192 1/3 +0 12 Z "},
-  };
-  for (const auto& [seq, text] : rows) EXPECT_EQ(Print(items.Item(seq)), text);
+  std::ifstream file(TARNVIEW_TESTS "/model/catalogue.txt", std::ios::binary);
+  std::string wanted, heading;
+  std::getline(file, heading);
+  wanted.assign(std::istreambuf_iterator<char>(file), {});
+  std::string printed;
+  for (int n = 1; n <= items.Count(); ++n) printed += Print(items.Item(n));
+  EXPECT_EQ(printed, wanted);
   EXPECT_EQ(items.Item("k68"), &items.Item(3));
 }
 

@@ -240,6 +240,7 @@ Initial Fuel Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(0)
 Initial Fuel Elevation | 240 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(1)
 Initial Ignition Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(2)
 Initial Ignition Elevation | 130 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(3)
+Draw After Opening | N | Y or N | frmOptions/General | chkDrawAfterOpening
 )");
 }
 

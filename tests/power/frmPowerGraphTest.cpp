@@ -90,6 +90,9 @@ TEST_F(PowerGraphTest, DrawsCurvesWithLegendsAxesAndFacts) {
   EXPECT_EQ(Panel(1), "Graph draw complete");
   EXPECT_EQ(Panel(4), "");
   EXPECT_TRUE(window->mnuFileSave.Enabled());
+  EXPECT_EQ(window->chPowerGraph.SelectedSeries(), 1);
+  EXPECT_EQ(window->chPowerGraph.SelectedPoint(), 100);
+  EXPECT_EQ(Panel(3), "3990 rpm: 85.1 hp, 114.2 lbft");
   window->chPowerGraph.Do({"hover", {"2051"}});
   EXPECT_EQ(Panel(3), "2050 rpm: 38.9 hp, 97.2 lbft");
   window->chPowerGraph.Do({"hover", {}});
@@ -186,7 +189,7 @@ TEST_F(PowerGraphTest, RunsAreFoundAndFillTheRange) {
   Open();
   window->cmdFindRuns.Do({"click", {}});
   ASSERT_EQ(window->lvwRuns.Count(), 1);
-  EXPECT_EQ(window->lvwRuns.At(1).texts, (std::vector<std::string>{"101", "1300", "2020 - 26000", "119.9"}));
+  EXPECT_EQ(window->lvwRuns.At(1).texts, (std::vector<std::string>{"101", "1300", "2020-26000", "119.9"}));
   window->lvwRuns.Do({"row", {"1"}});
   EXPECT_EQ(Range(), "101-1300");
 }

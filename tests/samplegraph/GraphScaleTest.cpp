@@ -20,6 +20,22 @@ TEST(GraphScale, FollowsTheHighestValue) {
   }
 }
 
+TEST(GraphScale, ReachesBelowZeroInWholeSteps) {
+  const struct {
+    double lowest, highest;
+    std::int64_t min, max, divisions;
+  } kRows[] = {{0, 12, 0, 13, 13},       {-0.1, 12, -1, 13, 14}, {-12, 12, -12, 13, 25},    {-40, 110, -40, 120, 16},
+               {-110, 40, -110, 50, 16}, {-3, 0, -3, 1, 4},      {-1250, 0, -1300, 100, 14}};
+  for (const auto& row : kRows) {
+    const VerticalScale scale = ScaleForRange(row.lowest, row.highest);
+    EXPECT_EQ(scale.min, row.min) << row.lowest;
+    EXPECT_EQ(scale.max, row.max) << row.lowest;
+    EXPECT_EQ(scale.divisions, row.divisions) << row.lowest;
+  }
+  EXPECT_EQ(ReachingBelow({240, 12}, -25).min, -40);
+  EXPECT_EQ(ReachingBelow({0, 0}, -25).min, 0);  // no steps
+}
+
 TEST(GraphScale, ATypedMaximumMovesOntoTheSteps) {
   const struct {
     std::int32_t typed;

@@ -23,6 +23,7 @@ class MemoryFileSystem : public FileSystem {
   std::set<std::string> broken;    ///< paths that can be neither read nor changed
   std::set<std::string> readOnly;  ///< protected by their owner
   std::set<std::string> heldByAnother;
+  std::set<std::string> pipes;  ///< among the files
 
   bool FileExists(const std::string& path) override {
     Note("exists", path);
@@ -36,6 +37,8 @@ class MemoryFileSystem : public FileSystem {
     return IsFolder(path);
   }
   bool IsProgram(const std::string& path) override { return HasProgramName(path) && files.contains(path); }
+  bool IsFile(const std::string& path) override { return files.contains(path) && !pipes.contains(path); }
+  bool SameFile(const std::string& a, const std::string& b) override { return a == b; }
   std::optional<FileBytes> Read(const std::string& path) override {
     Note("read", path);
     const auto found = files.find(path);

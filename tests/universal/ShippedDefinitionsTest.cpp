@@ -48,6 +48,7 @@ TEST(ShippedDefinitions, EachReadsItsLog) {
     const LoadOutcome outcome =
         LoadGenericDataLog(*bytes, {log, items, Settings{}, ConversionTables{}, progress}, definition);
     EXPECT_EQ(outcome.messages, std::vector<int>{});
+    EXPECT_TRUE(definition.objColumns.OffsetDataItems().empty());  // the graph would draw them that much higher
     EXPECT_EQ(outcome.unknownColumns.size(), shipped.unknown);
     ASSERT_EQ(log.glngDataLog.Rows(), 12);
     // The last moment of the drive: every log tells it in its own units.

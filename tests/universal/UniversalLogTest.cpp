@@ -5,6 +5,7 @@
 #include "support/LoadMessages.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/DefinitionReader.h"
+#include "universal/HeaderMap.h"
 #include "universal/Smoothing.h"
 #include "universal/UniversalDataItems.h"
 #include "universal/UniversalLog.h"
@@ -54,6 +55,26 @@ std::string CellsOf(const std::string& attributes, const std::vector<std::string
   for (const std::string& field : fields) text += field + ",x\n";
   return Loaded(DefinitionText{"LINEFREQUENCY=10\n", {ColumnText("A", 5, places, attributes, type)}, ""}, text)
       .Cells(5);
+}
+
+const std::string kLatin1 = "Temp\xe9rature", kUtf8 = "Temp\u00e9rature";
+
+TEST(UniversalLog, TitlesAndListedValuesAreOneInEitherCaseAndEncoding) {
+  const std::string upper = "TEMP\xc9RATURE", upperUtf8 = "TEMP\u00c9RATURE";
+  for (const std::string& title : {kLatin1, kUtf8})
+    for (const std::string& inLog : {kLatin1, kUtf8, upper, upperUtf8}) {
+      const std::string column = ColumnText(title, 5, 0, "", 2) + "[VALUES]\nfroid\n" + title + "\n";
+      const Loaded loaded({"LINEFREQUENCY=10\n", {column}, ""},
+                          inLog + ",B\nfroid,1\n" + inLog + ",1\n" + inLog + ",1\n");
+      EXPECT_EQ(loaded.Cells(5), "0 1 1") << title << inLog;
+    }
+}
+
+TEST(UniversalLog, ColumnsBeyondAllMeasureArePassedOver) {
+  const std::string titles = "A" + std::string(kMostFields + 9, ',');
+  const Loaded loaded({"LINEFREQUENCY=10\n", {ColumnText("A", 5, 0)}, ""}, titles + "\n7\n8\n9\n");
+  EXPECT_EQ(loaded.Cells(5), "7 8 9");
+  EXPECT_EQ(loaded.outcome.unknownColumns.size(), kMostFields - 1);
 }
 
 const std::string kTime = ColumnText("Time", 63, 3);

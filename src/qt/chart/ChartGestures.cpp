@@ -66,6 +66,7 @@ double ChartGestures::XAt(double pixel) const {
 bool ChartGestures::OnPlot(QPointF at) const { return chart_.axisRect()->rect().contains(at.toPoint()); }
 
 bool ChartGestures::eventFilter(QObject*, QEvent* event) {
+  if (chart_.ShowsSurface()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       return Press(static_cast<QMouseEvent&>(*event));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "qt/Fonts.h"
 #include "qt/Text.h"
@@ -65,6 +66,7 @@ void ChartWidget::SetDescription(const ChartDescription& description) {
   drawn_ = false;
   MakeCurves();
   MakeCloud();
+  MakeSurface();
   xAxis->setRange(chart_.x.min, chart_.x.max > chart_.x.min ? chart_.x.max : chart_.x.min + 1);
   yAxis->setRange(chart_.y.min, chart_.y.max > chart_.y.min ? chart_.y.max : chart_.y.min + 1);
   ApplyColours();
@@ -92,6 +94,17 @@ void ChartWidget::MakeCloud() {
   if (cloud_) ApplyFonts();
 }
 
+/// A surface has the whole room, and axes of its own.
+void ChartWidget::MakeSurface() {
+  delete std::exchange(surfaceMark_, nullptr);
+  delete std::exchange(surface_, nullptr);
+  axisRect()->setVisible(!chart_.AsSurface());
+  if (!chart_.AsSurface()) return;
+  surface_ = new SurfacePlot(*this, *chart_.AsSurface());
+  surfaceMark_ = new SurfaceMark(*this, *surface_);
+  ApplyFonts();
+}
+
 void ChartWidget::ApplyColours() {
   const PaintedColours colours = ToPaint(chart_.colours, palette());
   setBackground(QBrush(colours.backdrop));
@@ -105,6 +118,7 @@ void ChartWidget::ApplyColours() {
   }
   legend->setTextColor(colours.text);
   if (cloud_) cloud_->SetColours(colours);
+  if (surface_) surface_->SetColours(colours);
   // Two lines that cross on a mark would hide it.
   const QColor lines = cloud_ ? Mix(colours.backdrop, colours.text, 0.5) : colours.text;
   for (QCPItemStraightLine* line : {line_, across_}) line->setPen(QPen(lines, 1));
@@ -125,6 +139,7 @@ void ChartWidget::ApplyFonts() {
     axis->setLabelPadding(line / 3);
   }
   bar_.SetWidth(line);
+  if (surface_) surface_->SetFonts(font, digits);
   legend->setFont(font);
   legend->setIconSize(line * 3 / 2, line);
   legend->setIconTextPadding(line / 2);
@@ -215,6 +230,7 @@ void ChartWidget::RedrawMarks() {
 }
 
 std::optional<QPointF> ChartWidget::MarkedPoint() const {
+  if (surface_) return std::nullopt;
   const auto place = static_cast<std::size_t>(selectedPlace_);
   const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
   if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= (chart_.Cloud() ? 1 : chart_.Series().size()))
@@ -227,6 +243,7 @@ std::optional<QPointF> ChartWidget::MarkedPoint() const {
 }
 
 void ChartWidget::ShowMark() {
+  if (surfaceMark_) surfaceMark_->Select(selectedPlace_ + 1, selectedPoint_);
   const std::optional<QPointF> at = MarkedPoint();
   line_->setVisible(at.has_value());
   across_->setVisible(at && cloud_);
@@ -268,6 +285,10 @@ void ChartWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void ChartWidget::ClickAt(QPointF pixel) {
+  if (surface_) {
+    if (const auto cell = surface_->CellAt(pixel)) emit PointClicked(cell->first - 1, cell->second);
+    return;
+  }
   if (cloud_) {
     if (const auto point = cloud_->PointAt(pixel)) emit PointClicked(0, *point + 1);
     return;

@@ -7,19 +7,25 @@
 #include "qt/chart/ColourBar.h"
 #include "qt/chart/CurveLine.h"
 #include "qt/chart/PointCloudPlot.h"
+#include "qt/chart/SurfacePlot.h"
 #include "ui/ChartDescription.h"
 
 namespace tarnview {
 
-/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a cloud has place 0.
+/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a cloud has place 0. Of
+/// a surface, place is the row from 0 and point the column from 1.
 class ChartWidget : public QCustomPlot {
   Q_OBJECT
  public:
   explicit ChartWidget(QWidget* parent = nullptr);
 
+  /// Small: a legend with long names must not widen the window.
+  QSize minimumSizeHint() const override { return {200, 150}; }
+
   void SetDescription(const ChartDescription& description);
   /// Marks a point with a ring and a line through all curves; a place or point that is not there takes the mark away.
   void Select(int place, int point);
+  bool ShowsSurface() const { return surface_ != nullptr; }
   /// Draws what lies over the curves anew, and the curves not.
   void RedrawMarks();
   /// Tells the point nearest to a pixel as clicked on; of a cloud, if it is near.
@@ -44,6 +50,7 @@ class ChartWidget : public QCustomPlot {
   void ApplyFonts();
   void MakeCurves();
   void MakeCloud();
+  void MakeSurface();
   /// What depends on the size: numbers that fit, legend columns, points that the pixels can show.
   void Fit(const QRect& viewport);
   void FitNumbers();
@@ -56,6 +63,8 @@ class ChartWidget : public QCustomPlot {
   ChartDescription chart_;
   std::vector<CurveLine*> curves_;   ///< one for each series
   PointCloudPlot* cloud_ = nullptr;  ///< null for curves
+  SurfacePlot* surface_ = nullptr;   ///< null for another kind
+  SurfaceMark* surfaceMark_ = nullptr;
   ColourBar bar_{*this};
   QCPLayoutGrid* legendColumn_ = nullptr;
   QCPItemStraightLine* line_ = nullptr;

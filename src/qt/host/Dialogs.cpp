@@ -114,7 +114,7 @@ void FitText(QMessageBox& box) {
 }  // namespace
 
 Reply AskInBox(const Box& box, QWidget* parent) {
-  const QString text = ShownToQt(box.text).replace("\r\n", "\n").replace("\r", "\n");
+  const QString text = ShownToQt(box.TextWithin(kMostDetailsInBox)).replace("\r\n", "\n").replace("\r", "\n");
   QMessageBox shown(IconOf(box.style), CaptionToQt(box.title), WithGaps(text), ButtonsOf(box.style), parent);
   shown.setTextFormat(Qt::PlainText);
   FitText(shown);

@@ -1,5 +1,10 @@
 #include "qt/pictures/AllWindows.h"
 
+#include "ecu/frmConvertBIN.h"
+#include "ecu/frmNewDownload.h"
+#include "ecu/frmUpload.h"
+#include "ecu/frmUploadConf.h"
+
 namespace tarnview {
 namespace {
 
@@ -34,6 +39,8 @@ AllWindows::AllWindows(Host& host, const std::string& log, const std::string& se
   MakeScatterDetails(!log.empty());
   MakeScatterGraphs();
   power_ = std::make_unique<PowerPictures>(program_, clock_, files_, errors_, messages_, log);
+  MakeEcuWindows(!log.empty());
+  MakeOptions(!log.empty());
   MakeGridGraphs();
   for (Form* form : Forms())
     if (!form->IsShown()) form->Show();
@@ -141,6 +148,37 @@ void AllWindows::MakeScatterGraphs() {
   }
 }
 
+void AllWindows::MakeEcuWindows(bool filled) {
+  Settings& settings = program_.Global().settings;
+  Host& host = program_.MainWindow().host;
+  const EcuWorld world{host, settings, files_, clock_, programs_, messages_};
+  const std::vector<std::string> recent{"/home/driver/Logs/2026-11-24a.txt", "/home/driver/Logs/turbo.map"};
+  ecuWindows_.push_back(std::make_unique<frmNewDownload>(
+      world, NewFile{NewFileType::DataLog, filled ? "2026-11-24a" : "", settings.gblnRetainBinary}));
+  auto upload = std::make_unique<frmUpload>(world, ComparisonChoices{filled ? recent : std::vector<std::string>(), ""});
+  if (filled) upload->chkOption(2).Value = true;
+  ecuWindows_.push_back(std::move(upload));
+  ecuWindows_.push_back(std::make_unique<frmUploadConf>(host, settings));
+  ecuWindows_.push_back(std::make_unique<frmConvertBIN>(world, filled ? recent.front() : ""));
+}
+
+void AllWindows::MakeOptions(bool filled) {
+  const Globals& globals = program_.Global();
+  const Catalogue& catalogue = globals.catalogue;
+  for (int page = 1; page <= (filled ? 4 : 1); ++page) {
+    OptionsDraft draft{globals.settings,
+                       globals.gclsDataLogDefinition,
+                       {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
+                        catalogue.gcolUniversalDataItems.Duplicate()},
+                       globals.kinds};
+    draft.settings.gblnSAECorrection = filled;
+    options_.push_back(std::make_unique<frmOptions>(program_.MainWindow().host,
+                                                    frmOptions::Surroundings{files_, errors_, messages_},
+                                                    std::move(draft), kFMLinkLog));
+    options_.back()->tabOptions.Select(page);
+  }
+}
+
 /// The fuel zones of the log, to be edited, and its ignition zones to be looked at.
 void AllWindows::MakeGridGraphs() {
   const LoadedZones& loaded = program_.Global().log.zones;
@@ -183,6 +221,8 @@ std::vector<Form*> AllWindows::Forms() {
   forms.insert(forms.end(), scatterGraphs_.begin(), scatterGraphs_.end());
   const auto power = power_->Forms();
   forms.insert(forms.end(), power.begin(), power.end());
+  for (const auto& window : ecuWindows_) forms.push_back(window.get());
+  for (const auto& window : options_) forms.push_back(window.get());
   for (const auto& graph : gridGraphs_) forms.push_back(graph.get());
   return forms;
 }

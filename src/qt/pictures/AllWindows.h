@@ -9,6 +9,7 @@
 #include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
+#include "customise/frmOptions.h"
 #include "qt/pictures/PowerPictures.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
@@ -38,6 +39,8 @@ class AllWindows {
   void MakeGraphWindows();
   void MakeScatterDetails(bool filled);
   void MakeScatterGraphs();
+  void MakeEcuWindows(bool filled);
+  void MakeOptions(bool filled);
   void MakeGridGraphs();
 
   RealFileSystem files_;
@@ -67,6 +70,8 @@ class AllWindows {
   std::vector<std::unique_ptr<frmGridGraph>> gridGraphs_;
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
+  std::vector<std::unique_ptr<Form>> ecuWindows_;
+  std::vector<std::unique_ptr<frmOptions>> options_;  ///< one for each page, where they are filled
 };
 
 }  // namespace tarnview

@@ -1,0 +1,132 @@
+#include "app/Customising.h"
+
+#include "customise/OfferDefinitionPresets.h"
+#include "desk/Placement.h"
+#include "model/ItemDisplaySettings.h"
+#include "samplegraph/frmPresetSampleDetails.h"
+#include "scatter/frmPresetScatterDetails.h"
+#include "universal/GenericDescriptions.h"
+#include "universal/UniversalDataItems.h"
+
+namespace tarnview {
+
+std::vector<Command> Customising::Rows() {
+  const auto keep = [this](KeptList list) { return [this, list] { MaintainList(list); }; };
+  return {
+      {&controls_.mnuCustomiseOptions, "mnuCustomiseOptions_Click", [this] { mnuCustomiseOptions_Click(); }, {}},
+      {&controls_.mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", keep(KeptList::SamplePresets), {}},
+      {&controls_.mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", keep(KeptList::ScatterPresets), {}},
+      {&controls_.mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", keep(KeptList::CarDefs), {}},
+  };
+}
+
+void Customising::mnuCustomiseOptions_Click() {
+  const Catalogue& catalogue = globals_.catalogue;
+  OptionsDraft draft{globals_.settings,
+                     globals_.gclsDataLogDefinition,
+                     {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
+                      catalogue.gcolUniversalDataItems.Duplicate()},
+                     globals_.kinds};
+  const int fileType =
+      globals_.log.gintCurrentFileType > 0 ? globals_.log.gintCurrentFileType : globals_.settings.gintDefaultFileType;
+  frmOptions window(services_.host, {services_.files, services_.errors, services_.messages}, std::move(draft),
+                    fileType);
+  window.ShowModal();
+  if (window.Accepted()) TakeOptions(window);
+}
+
+/// All values, then the definition, then what is drawn with them, in the order in which users are asked and told.
+void Customising::TakeOptions(frmOptions& window) {
+  OptionsDraft& draft = window.Draft();
+  const std::string oldPath = globals_.settings.gstrGenericDefinitionFile;
+  globals_.settings = draft.settings;
+  const bool changed = window.DefinitionChanged();
+  const bool taken = changed && MayChangeDefinition();
+  if (changed && !taken) globals_.settings.gstrGenericDefinitionFile = oldPath;
+  if (taken) TakeDefinition(draft);
+  CopyItemDisplay(draft.catalogue.gcolFixedDataItems, globals_.catalogue.gcolFixedDataItems);
+  if (taken || !changed)
+    CopyItemDisplay(draft.catalogue.gcolUniversalDataItems, globals_.catalogue.gcolUniversalDataItems);
+  mainWindow_.OptionsChanged();
+  mainWindow_.WriteINIFile();
+}
+
+/// A log that was read by the old definition is closed first; No keeps both.
+bool Customising::MayChangeDefinition() {
+  const OpenLog& log = globals_.log;
+  if (log.gintCurrentFileType != kUniversalLog || !log.gblnSamplesLoaded) return true;
+  if (!services_.messages.AskQuestion(Question::LoadDefinitionAndCloseLog)) return false;
+  mainWindow_.CloseDataLogFile();
+  return true;
+}
+
+void Customising::TakeDefinition(const OptionsDraft& draft) {
+  globals_.gclsDataLogDefinition = draft.definition;
+  globals_.missingDefinitionFile.clear();
+  OfferDefinitionPresets(draft.definition, globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets,
+                         services_.messages);
+  SetGenericDataLogDescriptions(globals_.kinds, draft.definition);
+  Catalogue& catalogue = globals_.catalogue;
+  catalogue.gcolUniversalDataItems = GenerateLogDataItemsGeneric(draft.definition, catalogue.gcolFixedDataItems);
+}
+
+/// Shows the details window of a preset; true on OK, with what the user made of it.
+template <class Window, class Preset>
+bool Customising::EditPreset(Preset& preset) {
+  Window window(services_.host,
+                PresetSurroundings{globals_.kinds.gcolLogFamilies, globals_.catalogue,
+                                   globals_.settings.gstrDefaultWorkingDirectory, services_.files, services_.clock,
+                                   services_.errors, services_.messages},
+                preset);
+  window.ShowModal();
+  if (!window.Accepted()) return false;
+  preset = window.ColItem();
+  return true;
+}
+
+template <class Collection>
+void Customising::Maintain(const frmMaint::Texts& texts, Collection& kept,
+                           std::function<bool(typename Collection::Record&)> edit) {
+  MaintainedCollection<Collection> copy(kept, std::move(edit));
+  const clsLogFamilies& families = globals_.kinds.gcolLogFamilies;
+  frmMaint window(services_.host, copy, texts, families, families.FirstLogFamily(globals_.settings.gintDefaultFileType),
+                  services_.messages);
+  ApplyPlacement(globals_.settings.windows.maintenance, window);
+  window.ShowModal();
+  globals_.settings.windows.maintenance = PlacementOf(window);
+  if (!window.Accepted()) return;
+  kept = copy.Col;
+  mainWindow_.ListsChanged();
+}
+
+void Customising::MaintainList(KeptList list) {
+  const struct {
+    KeptList list;
+    frmMaint::Texts texts;
+    std::function<void(const frmMaint::Texts&)> maintain;
+  } kLists[] = {
+      {KeptList::SamplePresets,
+       {"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolSampleGraphPresets,
+                  [this](auto& preset) { return EditPreset<frmPresetSampleDetails>(preset); });
+       }},
+      {KeptList::ScatterPresets,
+       {"Preset Scatter Graph Editor", "&Preset Graphs", "PresetScatterGraphEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolScatterGraphPresets,
+                  [this](auto& preset) { return EditPreset<frmPresetScatterDetails>(preset); });
+       }},
+      // The doubled word is kept on purpose.
+      {KeptList::CarDefs,
+       {"Car Definition Editor Editor", "&Car Definitions", "CarDefinitionEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolCarDefs, [this](auto& car) { return power_.EditCar(car); });
+         power_.CarsChanged();
+       }},
+  };
+  for (const auto& row : kLists)
+    if (row.list == list) row.maintain(row.texts);
+}
+
+}  // namespace tarnview

@@ -1,0 +1,53 @@
+#include "app/EcuCommands.h"
+
+#include <utility>
+
+#include "ecu/frmConvertBIN.h"
+
+namespace tarnview {
+
+EcuCommands::EcuCommands(MainWindowControls& controls, Globals& globals, Services& services, const RecentFiles& recent,
+                         MainWindow& mainWindow)
+    : controls_(controls), globals_(globals), recent_(recent), mainWindow_(mainWindow), world_{services.host,
+                                                                                               globals.settings,
+                                                                                               services.files,
+                                                                                               services.clock,
+                                                                                               services.programs,
+                                                                                               services.messages} {}
+
+std::vector<Command> EcuCommands::Rows() {
+  return {
+      {&controls_.mnuFileNew, "mnuFileNew_Click", [this] { capture_.Run(); }, {}},
+      {&controls_.mnuToolsConvert, "mnuToolsConvert_Click", [this] { mnuToolsConvert_Click(); }, {}},
+  };
+}
+
+void EcuCommands::UploadZones(const ZonesToUpload& form, LoadZones loadComparison) {
+  loadComparison_ = std::move(loadComparison);
+  upload_.Run(form);
+}
+
+void EcuCommands::mnuToolsConvert_Click() {
+  frmConvertBIN window(world_, globals_.log.gstrCurrentFile);
+  window.ShowModal();
+  if (window.TargetPath().empty() || !window.LoadIt()) return;
+  if (!world_.files.FileExists(window.TargetPath())) {
+    world_.messages.ShowMessage(Message::FileNotLoaded);
+    return;
+  }
+  world_.host.DoEvents();
+  if (mainWindow_.SaveChangesPrompt()) mainWindow_.LoadDataFile(window.TargetPath(), kFMLinkLog);
+}
+
+ComparisonChoices EcuCommands::ChoicesForComparison() {
+  const clsFileTypes& types = globals_.kinds.gcolFileTypes;
+  ComparisonChoices choices;
+  choices.filter = types.Item(kFMLinkLog).CommonDialogFilter() + "|" + types.Item(kMAPFile).CommonDialogFilter();
+  for (int index = 0; index < recent_.Count(); ++index) {
+    const auto [fileType, path] = recent_.At(index);
+    if (fileType == kFMLinkLog || fileType == kMAPFile) choices.recentFiles.push_back(path);
+  }
+  return choices;
+}
+
+}  // namespace tarnview

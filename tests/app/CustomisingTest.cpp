@@ -1,0 +1,116 @@
+// The Options and what follows once they are accepted.
+
+#include "support/ProgramFixture.h"
+#include "support/WindowActions.h"
+
+namespace tarnview {
+namespace {
+
+class CustomisingTest : public ProgramFixture {
+ protected:
+  CustomisingTest() {
+    files.files["/car/run.txt"] = SmallLog(40);
+    files.files["/car/mine.txt"] =
+        "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=csv\r\nLINEFREQUENCY=10\r\nDELIMITERASCIICHARACTER=44\r\n"
+        "DATALINESBEFORE=1\r\nCOLUMNHEADERSLINESBEFORE=0\r\n"
+        "[COLUMN]\r\nNAME=Revs\r\nCOLUMNTITLE=Revs\r\nDATAITEMID=3\r\nTYPE=1\r\nDESCRIPTION=Revs\r\n"
+        "COLUMNDECIMALPLACES=0\r\n"
+        "[SAMPLE GRAPH]\r\nNAME=Its own\r\nDATA ITEMS=3\r\n\r\n";
+    files.files["/car/old.csv"] = "timestamp,Engine Speed (RPM)\r\n100,1000\r\n200,1100\r\n300,1200\r\n400,1300\r\n";
+    files.folders.insert("/logs");
+  }
+  /// Opens the Options, does that in them, and forgets the boxes of before.
+  void InOptions(const std::string& actions) {
+    host.messages.clear();
+    host.work = [actions](Form& form) {
+      if (form.name == "frmOptions") Act(form, actions);
+    };
+    Act(Main(), "click mnuCustomiseOptions");
+  }
+  std::string Boxes() {
+    std::string texts;
+    for (const Box& box : host.messages) texts += std::to_string(box.id) + "/" + std::to_string(box.style) + " ";
+    return texts;
+  }
+  int PresetsNamed(const std::string& name) {
+    int count = 0;
+    for (const auto& preset : program->Global().gcolSampleGraphPresets) count += preset.strName == name;
+    return count;
+  }
+};
+
+TEST_F(CustomisingTest, AcceptedOptionsStandAfterARestartAndCancelledOnesDoNot) {
+  Start("", "[General]\r\n");
+  program->WriteSettingsTo("/car/Tarnview.ini");
+  InOptions("type txtSampleWidth 500\nchoose cboGraphColourScheme White\nclick chkScatterAutoDraw\nclick cmdOK");
+  const std::string written = files.files["/car/Tarnview.ini"];
+  EXPECT_NE(written.find("\r\nShow Point Sample Graph Width=500\r\n"), std::string::npos);
+  EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
+  Start("", written);
+  EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
+  EXPECT_EQ(program->Global().settings.gintGraphColourScheme, 3);
+  EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
+
+  InOptions("type txtSampleWidth 600\nrow lvwDataItems RPM\nclick cmdUnCheckAll\nclick cmdCancel");
+  EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
+  EXPECT_TRUE(program->Global().catalogue.gcolFixedDataItems.Item(3).blnDisplay);
+  EXPECT_EQ(files.files["/car/Tarnview.ini"], written);
+}
+
+TEST_F(CustomisingTest, OpenWindowsFollowAtOnce) {
+  Start("/car/run.txt");
+  Main().Scatter().OpenScatterGraph().DrawScatter(true);
+  frmScatterGraph& scatter = *dynamic_cast<frmScatterGraph*>(host.Front());
+  ASSERT_TRUE(Main().chSampleGraph.Visible());
+  host.answers = {{Answer::Kind::Colour, "", 0x123456}};
+  InOptions(
+      "choose cboGraphColourScheme Black\nrow lvwDataItems RPM\nclick cmdDataColour\ntick lvwDataItems MAP off\n"
+      "click cmdOK");
+  EXPECT_EQ(Main().chSampleGraph.Data().colours.backdrop, 0);
+  EXPECT_EQ(scatter.chScatterGraph.Data().colours.backdrop, 0);
+  EXPECT_EQ(Main().lvwSampleDetails.RowOfTag("5"), 0);
+  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).colour, 0x123456);
+  EXPECT_EQ(program->Global().catalogue.gcolFixedDataItems.Item(3).lngColour, 0x123456);
+}
+
+TEST_F(CustomisingTest, ANewDefinitionIsTakenWithOrWithoutItsPresets) {
+  struct Row {
+    Answer::Kind answer;
+    int own, builtIn;
+  };
+  for (const Row& row : {Row{Answer::Kind::Yes, 1, 0}, Row{Answer::Kind::No, 1, 1}, Row{Answer::Kind::Cancel, 0, 1}}) {
+    Start();
+    host.answers = {{Answer::Kind::Ok}, {row.answer}};
+    InOptions("type txtPath(6) /car/mine.txt\nclick cmdOK");
+    EXPECT_EQ(Boxes(), "86/64 0/291 ");
+    EXPECT_EQ(PresetsNamed("Its own"), row.own);
+    EXPECT_EQ(PresetsNamed("A/F Investigation"), row.builtIn);
+    EXPECT_EQ(program->Global().gclsDataLogDefinition.strName, "Mine");
+    EXPECT_EQ(program->Global().kinds.gcolLogFamilies.Item(7).strDescription, "Universal - Mine");
+    EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(3).strShortName, "Revs");
+  }
+}
+
+TEST_F(CustomisingTest, ALogOfTheOldDefinitionIsClosedFirstOrKeptWithIt) {
+  Start("/car/old.csv|8");
+  ASSERT_TRUE(Log().gblnSamplesLoaded);
+  const std::string caption = Main().Caption();
+  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::No}};
+  InOptions("type txtPath(6) /car/mine.txt\ntype txtSampleWidth 500\nclick cmdOK");
+  EXPECT_EQ(Boxes(), "86/64 0/36 ");
+  EXPECT_TRUE(Log().gblnSamplesLoaded);
+  EXPECT_EQ(Main().Caption(), caption);
+  EXPECT_NE(program->Global().gclsDataLogDefinition.strName, "Mine");
+  EXPECT_EQ(program->Global().settings.gstrGenericDefinitionFile, "");
+  EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
+
+  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::Yes}, {Answer::Kind::No}};
+  InOptions("type txtPath(6) /car/mine.txt\nclick cmdOK");
+  EXPECT_EQ(Boxes(), "86/64 0/36 0/291 ");
+  EXPECT_FALSE(Log().gblnSamplesLoaded);
+  EXPECT_EQ(Main().Caption(), "Tarnview");
+  EXPECT_EQ(program->Global().settings.gstrGenericDefinitionFile, "/car/mine.txt");
+}
+
+}  // namespace
+}  // namespace tarnview

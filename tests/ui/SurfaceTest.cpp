@@ -1,0 +1,208 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <sstream>
+
+#include "ui/SurfaceScene.h"
+
+namespace tarnview {
+namespace {
+
+/// A map of two rows and three columns, highest at the front right.
+Surface SmallMap(int rotation, int elevation) {
+  Surface surface;
+  surface.rows = {"100", "200"};
+  surface.columns = {"00", "05", "10"};
+  surface.rowTitle = "MAP";
+  surface.columnTitle = "RPM";
+  surface.values = {0, 10, 20, 30, 40, 50};
+  surface.height = {0, 50, 2, "0", "Fuel"};
+  surface.view = {rotation, elevation, 1};
+  return surface;
+}
+
+/// Every character is 6 wide.
+SceneRoom Room(double width = 600, double height = 400) {
+  return {width, height, 40, 12, [](const std::string& text) { return 6.0 * static_cast<double>(text.size()); }};
+}
+
+std::string Texts(const SurfaceScene& scene) {
+  std::string texts;
+  for (const SceneLabel& label : scene.labels) texts += label.text + " ";
+  return texts;
+}
+
+TEST(SurfaceEye, LooksFromTheFrontOverTheTopAndFromBehindAndNeverFromBelow) {
+  const struct {
+    int rotation, elevation;
+    const char* seen;  ///< where the front, the right side and the top are on the screen (right, up)
+  } kViews[] = {
+      {0, 0, "front 0,0 right 1,0 top 0,1"},
+      {0, 90, "front 0,-1 right 1,0 top 0,0"},
+      {90, 90, "front 1,0 right 0,1 top 0,0"},
+      {0, 180, "front 0,0 right -1,0 top 0,1"},
+      {0, 150, "front 0,0.5 right -1,0 top 0,0.87"},
+      {0, 210, "front 0,0.5 right -1,0 top 0,0.87"},
+      {0, 300, "front 0,-0.87 right 1,0 top 0,0.5"},
+      {0, 359, "front 0,-0.02 right 1,0 top 0,1"},
+      {360, 450, "front 0,-1 right 1,0 top 0,0"},
+      {-90, 90, "front -1,0 right 0,-1 top 0,0"},
+      {20, 240, "front -0.34,0.81 right -0.94,-0.3 top 0,0.5"},
+  };
+  for (const auto& view : kViews) {
+    const SurfaceEye eye({view.rotation, view.elevation, 1});
+    std::ostringstream seen;
+    const auto tell = [&](const char* name, double x, double y, double z) {
+      const auto two = [](double value) { return std::round(value * 100) / 100 + 0.0; };
+      seen << name << two(eye.Right(x, y)) << "," << two(eye.Up(x, y, z));
+    };
+    tell("front ", 0, -1, 0);
+    tell(" right ", 1, 0, 0);
+    tell(" top ", 0, 0, 1);
+    EXPECT_EQ(seen.str(), view.seen) << view.rotation << " " << view.elevation;
+  }
+}
+
+TEST(SurfaceEye, AHandTurnsItAndStopsAtTheFloorAndTheTop) {
+  const struct {
+    SurfaceView from;
+    double right, up;
+    SurfaceView to;
+  } kTurns[] = {
+      {{20, 30, 1}, 15, 0, {35, 30, 1}},  {{350, 30, 1}, 15, 0, {5, 30, 1}},     {{5, 30, 1}, -15, 0, {350, 30, 1}},
+      {{0, 30, 1}, 0, -10, {0, 40, 1}},   {{0, 30, 1}, 0, 10, {0, 20, 1}},       {{0, 30, 1}, 0, 99, {0, 0, 1}},
+      {{0, 30, 1}, 0, -99, {0, 90, 1}},   {{0, 130, 1}, 0, -10, {0, 120, 1}},    {{0, 130, 1}, 0, 99, {0, 180, 1}},
+      {{0, 130, 1}, 0, -99, {0, 91, 1}},  {{0, 240, 1}, 0, -10, {0, 250, 1}},    {{0, 240, 1}, 0, 99, {0, 180, 1}},
+      {{0, 240, 1}, 0, -99, {0, 269, 1}}, {{0, 300, 1}, 0, -10, {0, 290, 1}},    {{0, 300, 1}, 0, 99, {0, 0, 1}},
+      {{0, 300, 2}, 0, -99, {0, 270, 2}}, {{0, 30, 1}, 1e300, 1e300, {0, 0, 1}},
+  };
+  for (const auto& turn : kTurns) {
+    SurfaceView to = Turned(turn.from, turn.right, turn.up);
+    if (turn.right > 1e9) to.rotation = 0;
+    EXPECT_EQ(to, turn.to) << turn.from.rotation << "," << turn.from.elevation << " by " << turn.right << "," << turn.up
+                           << " gave " << to.rotation << "," << to.elevation;
+  }
+  EXPECT_DOUBLE_EQ(Zoomed({0, 0, 1}, 1).zoom, 1.15);
+  EXPECT_EQ(Zoomed({0, 0, 3.9}, 5).zoom, 4);
+  EXPECT_EQ(Zoomed({0, 0, 0.6}, -5).zoom, 0.5);
+}
+
+TEST(SurfaceScene, FacesComeFromTheBackToTheFront) {
+  for (int rotation = 0; rotation < 360; rotation += 15)
+    for (int elevation : {5, 60, 130, 240}) {
+      const Surface map = SmallMap(rotation, elevation);
+      const SurfaceEye eye(map.view);
+      const SurfaceScene scene = MakeScene(map, Room());
+      ASSERT_EQ(scene.faces.size(), 2u * 4 + 2 * (2 + 1));
+      // Of two quarters of the ground that share an edge, the nearer one is painted later.
+      double before = 1e9;
+      int column = 0;
+      for (std::size_t i = 0; i < 8; i += 4) {
+        column = scene.faces[i].column + scene.faces[i + 3].column;
+        const double back = eye.Back(column, 0);
+        EXPECT_LE(back, before) << rotation << "," << elevation;
+        before = back;
+      }
+      for (std::size_t i = 8; i < scene.faces.size(); ++i) EXPECT_EQ(scene.faces[i].kind, SceneFace::Kind::Skirt);
+    }
+}
+
+TEST(SurfaceScene, FillsItsRoomAndNothingBeyond) {
+  for (int rotation = 0; rotation < 360; rotation += 10)
+    for (int elevation : {0, 20, 45, 90, 130, 240}) {
+      const SurfaceScene scene = MakeScene(SmallMap(rotation, elevation), Room());
+      double left = 1e9, right = -1e9, top = 1e9, bottom = -1e9;
+      for (const SceneLine& line : scene.walls)
+        for (const ScenePoint& point : {line.from, line.to}) {
+          left = std::min(left, point.x);
+          right = std::max(right, point.x);
+          top = std::min(top, point.y);
+          bottom = std::max(bottom, point.y);
+        }
+      EXPECT_GE(left, 36) << rotation;
+      EXPECT_LE(right, 564);
+      EXPECT_GE(top, 40);
+      EXPECT_LE(bottom, 400 - 12);
+      EXPECT_TRUE(right - left > 527 || bottom - top > 297) << rotation << "," << elevation << " is small";
+      for (const SceneLabel& label : scene.labels) {
+        const double half = 3.0 * static_cast<double>(label.text.size());
+        EXPECT_TRUE(label.centre.x >= half && label.centre.x <= 600 - half && label.centre.y <= 394) << label.text;
+      }
+    }
+}
+
+TEST(SurfaceScene, LabelsStandOnTheNearEdgesAndKeepClear) {
+  EXPECT_EQ(Texts(MakeScene(SmallMap(30, 40), Room())), "00 05 10 RPM 100 200 MAP 25 50 Fuel ");
+  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 0), Room())), "00 05 10 RPM 0 25 50 Fuel ") << "rows are behind each other";
+  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 90), Room())), "00 05 10 RPM 100 200 MAP ") << "heights are, from above";
+  Surface wide = SmallMap(30, 40);
+  wide.columns = {"a very long label", "another very long label", "one more that is long"};
+  EXPECT_EQ(Texts(MakeScene(wide, Room(300, 300))).find("another"), std::string::npos);
+  for (int rotation = 0; rotation < 360; rotation += 7) {
+    const SurfaceScene scene = MakeScene(SmallMap(rotation, 25), Room(200, 160));
+    for (std::size_t i = 0; i < scene.labels.size(); ++i)
+      for (std::size_t j = 0; j < i; ++j) {
+        const SceneLabel &a = scene.labels[i], &b = scene.labels[j];
+        const double widths = 3.0 * static_cast<double>(a.text.size() + b.text.size());
+        EXPECT_TRUE(std::abs(a.centre.x - b.centre.x) >= widths || std::abs(a.centre.y - b.centre.y) >= 12)
+            << rotation << ": " << a.text << " covers " << b.text;
+      }
+  }
+}
+
+TEST(SurfaceScene, AClickPicksTheCellInFront) {
+  for (int rotation : {0, 100, 200, 340}) {
+    const Surface map = SmallMap(rotation, 60);
+    const SurfaceScene scene = MakeScene(map, Room());
+    for (int row = 1; row <= 2; ++row)
+      for (int column = 1; column <= 3; ++column) {
+        const auto mark = MarkOf(map, Room(), row, column);
+        ASSERT_TRUE(mark);
+        const auto found = CellAt(scene, 3, mark->at, 5);
+        ASSERT_TRUE(found) << rotation;
+        EXPECT_EQ(*found, std::pair(row, column)) << rotation;
+        EXPECT_GE(mark->floor.y, mark->at.y);
+      }
+    EXPECT_FALSE(CellAt(scene, 3, {1, 1}, 5));
+    EXPECT_FALSE(MarkOf(map, Room(), 3, 1) || MarkOf(map, Room(), 1, 4) || MarkOf(map, Room(), 0, 1));
+  }
+  // A hill at the front hides the cell behind it.
+  Surface hill = SmallMap(0, 10);
+  hill.values = {0, 0, 0, 50, 50, 50};
+  const auto behind = MarkOf(hill, Room(), 1, 2);
+  EXPECT_EQ(CellAt(MakeScene(hill, Room()), 3, behind->at, 5), std::pair(2, 2));
+}
+
+TEST(SurfaceScene, HeightShadesAndLockedCellsAreToldApart) {
+  Surface map = SmallMap(0, 60);
+  map.locked = {false, false, false, true, false, false};
+  const SurfaceScene scene = MakeScene(map, Room());
+  int locked = 0;
+  for (const SceneFace& face : scene.faces) {
+    EXPECT_TRUE(face.height >= 0 && face.height <= 1 && face.light > 0.5 && face.light <= 1);
+    if (face.kind != SceneFace::Kind::Locked) continue;
+    ++locked;
+    EXPECT_EQ(std::pair(face.row, face.column), std::pair(2, 1));
+    EXPECT_NEAR(face.height, (30 + 35 + 15 + 20) / 4.0 / 50, 1e-9);
+  }
+  EXPECT_EQ(locked, 1);
+}
+
+TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
+  Surface map = SmallMap(20, 240);
+  map.values.pop_back();
+  EXPECT_TRUE(MakeScene(map, Room()).faces.empty());
+  EXPECT_FALSE(MarkOf(map, Room(), 1, 1));
+  map = SmallMap(20, 240);
+  map.rows.resize(1);
+  map.values.resize(3);
+  EXPECT_TRUE(MakeScene(map, Room()).labels.empty());
+  map = SmallMap(20, 240);
+  map.values = {NAN, INFINITY, -INFINITY, 1e300, -7, 20};
+  map.height.max = map.height.min;
+  for (const SceneFace& face : MakeScene(map, Room(1, 1)).faces)
+    for (const ScenePoint& corner : face.corners) EXPECT_TRUE(std::isfinite(corner.x) && std::isfinite(corner.y));
+}
+
+}  // namespace
+}  // namespace tarnview
