@@ -54,6 +54,9 @@ class Painter {
     scene_.walls.push_back({box_.At(from.x, from.y, from.z), box_.At(to.x, to.y, to.z), edge});
   }
   void AddEdges();
+  // Row 0 stands at the back of a box that is not turned.
+  bool LastRowIsFarthest() const { return box_.Eye().Back(0, 1) < 0; }
+  bool LastColumnIsFarthest() const { return box_.Eye().Back(1, 0) > 0; }
   void AddCell(std::size_t row, std::size_t column);
   void AddQuarter(std::size_t row, std::size_t column, std::size_t down, std::size_t across);
   Place Inside(std::size_t row, std::size_t column, double down, double across) const;
@@ -98,17 +101,14 @@ void Painter::AddEdges() {
 }
 
 void Painter::AddGround() {
-  // Row 0 stands at the back of a box that is not turned.
-  const bool lastRowIsFarthest = box_.Eye().Back(0, 1)<0, lastColumnIsFarthest = box_.Eye().Back(1, 0)> 0;
-  for (std::size_t row : Order(box_.Rows() - 1, lastRowIsFarthest))
-    for (std::size_t column : Order(box_.Columns() - 1, lastColumnIsFarthest)) AddCell(row, column);
+  for (std::size_t row : Order(box_.Rows() - 1, LastRowIsFarthest()))
+    for (std::size_t column : Order(box_.Columns() - 1, LastColumnIsFarthest())) AddCell(row, column);
 }
 
 /// Four quarters, so that colours change softly, and since four cells of the table need not lie in one plane.
 void Painter::AddCell(std::size_t row, std::size_t column) {
-  const bool lastRowIsFarthest = box_.Eye().Back(0, 1)<0, lastColumnIsFarthest = box_.Eye().Back(1, 0)> 0;
-  for (std::size_t down : Order(2, lastRowIsFarthest))
-    for (std::size_t across : Order(2, lastColumnIsFarthest)) AddQuarter(row, column, down, across);
+  for (std::size_t down : Order(2, LastRowIsFarthest()))
+    for (std::size_t across : Order(2, LastColumnIsFarthest())) AddQuarter(row, column, down, across);
 }
 
 void Painter::AddQuarter(std::size_t row, std::size_t column, std::size_t down, std::size_t across) {

@@ -102,6 +102,7 @@ TEST(SurfaceScene, FacesComeFromTheBackToTheFront) {
         const double back = eye.Back(column, 0);
         EXPECT_LE(back, before) << rotation << "," << elevation;
         before = back;
+        EXPECT_GE(eye.Back(0, -scene.faces[i].row), eye.Back(0, -scene.faces[i + 2].row)) << rotation;
       }
       for (std::size_t i = 8; i < scene.faces.size(); ++i) EXPECT_EQ(scene.faces[i].kind, SceneFace::Kind::Skirt);
     }
@@ -186,6 +187,17 @@ TEST(SurfaceScene, HeightShadesAndLockedCellsAreToldApart) {
     EXPECT_NEAR(face.height, (30 + 35 + 15 + 20) / 4.0 / 50, 1e-9);
   }
   EXPECT_EQ(locked, 1);
+}
+
+TEST(SurfaceScene, LinesRunFromCellToCellAndTheLightComesFromTheLeft) {
+  Surface rising = SmallMap(0, 60), falling = rising;
+  rising.values = {0, 25, 50, 0, 25, 50};
+  falling.values = {50, 25, 0, 50, 25, 0};
+  const SurfaceScene left = MakeScene(rising, Room()), right = MakeScene(falling, Room());
+  EXPECT_GT(left.faces[0].light, right.faces[0].light + 0.05);
+  for (const SceneFace& face : left.faces)
+    if (face.kind == SceneFace::Kind::Ground && face.row == 1 && face.column == 1)
+      EXPECT_EQ(face.lined, (std::array{true, false, false, true}));
 }
 
 TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
