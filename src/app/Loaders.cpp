@@ -5,6 +5,7 @@
 
 #include "loaders/FMLinkLog.h"
 #include "loaders/LinkPlusLog.h"
+#include "loaders/MapLoader.h"
 #include "loaders/Tec2Log.h"
 #include "loaders/Tec3Log.h"
 #include "loaders/UTECCSVLog.h"
@@ -25,10 +26,10 @@ LoadOutcome FMLinkLog(std::string_view bytes, const LoadContext& context) {
 }
 
 constexpr std::array kLoaders{
-    LoaderRow{kFMLinkLog, Fixed<FMLinkLog>},       LoaderRow{kTec2Log, Fixed<LoadTec2Log>},
-    LoaderRow{kTec3Log, Fixed<LoadTec3Log>},       LoaderRow{kLinkPlusLog, Fixed<LoadLinkPlusLog>},
-    LoaderRow{kUTECCSVLog, Fixed<LoadUTECCSVLog>}, LoaderRow{kUTECFixedLog, Fixed<LoadUTECFixedLog>},
-    LoaderRow{kUniversalLog, LoadGenericDataLog},
+    LoaderRow{kFMLinkLog, Fixed<FMLinkLog>},           LoaderRow{kMAPFile, Fixed<LoadMap>},
+    LoaderRow{kTec2Log, Fixed<LoadTec2Log>},           LoaderRow{kTec3Log, Fixed<LoadTec3Log>},
+    LoaderRow{kLinkPlusLog, Fixed<LoadLinkPlusLog>},   LoaderRow{kUTECCSVLog, Fixed<LoadUTECCSVLog>},
+    LoaderRow{kUTECFixedLog, Fixed<LoadUTECFixedLog>}, LoaderRow{kUniversalLog, LoadGenericDataLog},
 };
 
 }  // namespace

@@ -86,15 +86,6 @@ bool frmDataLogViewer::DropFile(const std::string& path) {
   });
 }
 
-bool frmDataLogViewer::SaveChangesPrompt() {
-  const bool saveable = globals_.kinds.gcolFileTypes.SaveableFileType(log_.gintCurrentFileType);
-  if (!saveable || !log_.gblnZonesDirty) return true;
-  const Reply reply = services_.messages.Tell(
-      "Do you want to save the changes made to " + log_.gstrCurrentFileTitle + "?", kBoxYesNoCancel + kBoxExclamation);
-  // Nothing saves zones yet, so Yes keeps them open too: an edit is never lost by an answer.
-  return reply == Reply::No;
-}
-
 void frmDataLogViewer::Form_Unload() {
   globals_.settings.windows.main = PlacementOf(*this);
   nonModalMessages_.UnloadAll();

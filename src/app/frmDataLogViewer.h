@@ -8,6 +8,7 @@
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
 #include "app/PowerWindows.h"
+#include "app/MapSaving.h"
 #include "app/RecentFiles.h"
 #include "app/ScatterWindows.h"
 #include "app/SettingsFile.h"
@@ -54,7 +55,7 @@ class frmDataLogViewer : public MainWindowControls,
   /// What a start with a file on the command line does: opens it and draws.
   void OpenFromCommandLine(const std::string& commandLine);
   /// False: the user does not want to lose edited zones.
-  bool SaveChangesPrompt() override;
+  bool SaveChangesPrompt() override { return saving_.SaveChangesPrompt(); }
 
   /// Loads the definition of Universal logs that the settings name, else the built-in one. `addPresets`: its presets
   /// join the user's.
@@ -106,6 +107,7 @@ class frmDataLogViewer : public MainWindowControls,
   void SetDataLogViewerCaption();
   bool CanShowDataTags() const;
   void ShowDataTags();
+  void FileRenamed();
   void RefreshDataTags();
 
   // The graph's windows, panel and files.
@@ -165,6 +167,7 @@ class frmDataLogViewer : public MainWindowControls,
   ChartOutput output_;
   ZoneInfluencePanel zoneInfluence_;
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
+  MapSaving saving_{globals_, services_, status_, recent_, [this] { FileRenamed(); }};
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
   ScatterWindows scatter_;

@@ -15,8 +15,8 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
   return {
       {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
-      {&mnuFileSave, "mnuFileSave_Click", kNotYet, {}},
-      {&mnuFileSaveAs, "mnuFileSaveAs_Click", kNotYet, {}},
+      {&mnuFileSave, "mnuFileSave_Click", [this] { saving_.Save(); }, [this] { return saving_.MaySave(); }},
+      {&mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { saving_.SaveAs(); }, [this] { return saving_.MaySaveAs(); }},
       {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
       {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },

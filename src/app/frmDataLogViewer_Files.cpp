@@ -100,10 +100,12 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
     TellNotRead(path, bytes.has_value());
     return false;
   }
+  saving_.FileOpened(*bytes);
   LoadConversionFiles();
   StatusProgress progress(status_);
   LoadOutcome outcome =
       loader->load(*bytes, {log_, items, globals_.settings, globals_.tables, progress}, globals_.gclsDataLogDefinition);
+  if (!outcome.error.empty()) services_.messages.Tell(outcome.error, kBoxExclamation);
   if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
   for (const LoadMessage& message : outcome.messages) {
     if (message.report.empty())
@@ -118,6 +120,10 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
 
 /// A file that is just not there needs no reason.
 void frmDataLogViewer::TellNotRead(const std::string& path, bool read) {
+  if (log_.gintCurrentFileType == kMAPFile && !read) {
+    services_.messages.Tell(UnreadFileError(services_.files, path), kBoxExclamation);
+    return services_.messages.ShowMessage(Message::NotAMapFile);
+  }
   std::string why = read ? "It has a line of more than 16 MB." : services_.files.WhyNotRead(path);
   if (why != kTooLargeToRead && why != kNoMemoryToRead && !read) why.clear();
   services_.messages.ShowMessage(Message::FileNotLoaded, false, why);
@@ -212,6 +218,11 @@ bool frmDataLogViewer::CanShowDataTags() const {
 void frmDataLogViewer::ShowDataTags() {
   tags_.Show();
   tags_.FollowOpenLog();
+}
+
+void frmDataLogViewer::FileRenamed() {
+  SetDataLogViewerCaption();
+  commands_.Update();
 }
 
 void frmDataLogViewer::RefreshDataTags() {

@@ -18,7 +18,7 @@ constexpr std::string_view kNoChanges = "No lambda/knock zone changes";
 constexpr std::int16_t kUnknown = -1;
 constexpr std::size_t kHeadingLength = 68;  ///< a zone section's heading; only an " ATM" row may stand there
 constexpr std::size_t kLastRowLength = 64;  ///< the row of zones 240 to 255, which old ECUs lack
-constexpr int kFirstOfLastRow = 240;
+constexpr int kSecondRow = 16, kFirstOfLastRow = 240;
 constexpr int kCellsPerRow = 16;
 
 /// The rows behind the " ATM" row, which holds zones 0 and upward.
@@ -82,6 +82,13 @@ void ReadChangeCells(std::string_view text, int firstZone, const ZoneSettings& o
   }
 }
 
+/// A cell that is no number is 0.
+void ReadCells(std::string_view text, int firstZone, ZoneSettings& zones) {
+  const FixedLine<2 + 4 * kCellsPerRow> line(text);
+  for (int c = 0; c < kCellsPerRow; ++c)
+    zones[static_cast<std::size_t>(firstZone + c)] = ZoneValue(line.Text(4 * c + 2, 3));
+}
+
 std::string_view FindATMRow(TextLines& lines) {
   std::string_view line;
   do {
@@ -125,6 +132,16 @@ void ReadZoneSection(TextLines& lines, ZoneSettings& zones, LoadProgress& progre
   else
     std::fill(zones.begin() + kFirstOfLastRow, zones.end(), std::int16_t{0});
   if (std::find(zones.begin(), zones.end(), kUnknown) != zones.end()) Fail(5, "Zone setting not known");
+}
+
+void ReadBenchmarkSection(TextLines& lines, ZoneSettings& zones) {
+  ReadTokens(FindATMRow(lines), 0, zones);
+  for (const ZoneRow& row : kRows) {
+    lines.Skip(row.linesToSkip);
+    const bool cells = row.firstZone != kSecondRow;
+    (cells ? ReadCells : ReadTokens)(lines.Next(), row.firstZone, zones);
+  }
+  if (!lines.AtEnd() && lines.Next().size() == kLastRowLength) ReadTokens(lines.Current(), kFirstOfLastRow, zones);
 }
 
 void ReadChangesSection(TextLines& lines, LoadedZones& zones, LoadProgress& progress) {

@@ -13,6 +13,9 @@ namespace tarnview {
 /// Fills the zones up from the rows of the zone section. The last line read is still to be looked at by ReadChanges.
 void ReadZoneSection(TextLines& lines, ZoneSettings& zones, LoadProgress& progress);
 
+/// The same as a benchmark takes it: cells by position, whatever stands in them, and no zone needs to be known.
+void ReadBenchmarkSection(TextLines& lines, ZoneSettings& zones);
+
 /// Reads the settings line and the lambda/knock changes. Where there are none, each change is the zone's own value.
 void ReadChangesSection(TextLines& lines, LoadedZones& zones, LoadProgress& progress);
 

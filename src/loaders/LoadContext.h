@@ -34,6 +34,7 @@ struct LoadMessage {
 /// What came of a load.
 struct LoadOutcome {
   bool loaded = false;                      ///< samples, zones or changes
+  std::string error;                        ///< "9, Subscript out of range", shown before the messages; or empty
   std::vector<LoadMessage> messages;        ///< to be shown in this order
   std::vector<std::string> unknownColumns;  ///< titles of a Universal log that its definition does not know
 };

@@ -134,11 +134,15 @@ MapReading ParseMap(std::string_view bytes, const Settings& settings, bool quiet
   return reading;
 }
 
+std::string UnreadFileError(FileSystem& disk, const std::string& path) {
+  return disk.FileExists(path) ? "75, Path/File access error" : "53, File not found";
+}
+
 MapReading ReadMapFile(FileSystem& disk, const std::string& path, const Settings& settings, bool quiet) {
   const auto bytes = disk.Read(path);
   if (bytes) return ParseMap(*bytes, settings, quiet);
   MapReading none;
-  none.error = disk.FileExists(path) ? "75, Path/File access error" : "53, File not found";
+  none.error = UnreadFileError(disk, path);
   return none;
 }
 

@@ -25,6 +25,8 @@ struct MapReading {
 
 /// Any bytes are a map or none; never throws. `quiet` keeps the messages back.
 MapReading ParseMap(std::string_view bytes, const Settings& settings, bool quiet);
+/// Number and text of the failure to read a file.
+std::string UnreadFileError(FileSystem& disk, const std::string& path);
 /// A file that cannot be read is none, with an error.
 MapReading ReadMapFile(FileSystem& disk, const std::string& path, const Settings& settings, bool quiet);
 
