@@ -1,0 +1,103 @@
+#include "support/ProgramFixture.h"
+
+namespace tarnview {
+namespace {
+
+class MapSavingTest : public ProgramFixture {
+ protected:
+  std::string Map() {
+    std::string text;
+    for (int line = 0; line < 15; ++line) {
+      for (int c = 0; c < 16; ++c) text += " 002";
+      text += "\r\n";
+    }
+    return text + " Engine Size: 1.8\r\n Chip Date: 2001-03-01\r\n Atmospheric Pressure: 101\r\n";
+  }
+  void Open() {
+    files.files["/car/a.map"] = Map();
+    Start("/car/a.map");
+    host.messages.clear();
+  }
+  void Dirty() { program->Global().log.gblnZonesDirty = true; }
+  std::string Texts() const {
+    std::string texts;
+    for (const Box& box : host.messages) texts += std::to_string(box.style) + " " + box.text + "\n";
+    return texts;
+  }
+};
+
+TEST_F(MapSavingTest, Opening) {
+  Open();
+  EXPECT_EQ(Main().Caption(), "Tarnview - a.map (FM Link MAP File)");
+  EXPECT_TRUE(Main().mnuFileSave.Enabled);
+  EXPECT_TRUE(Main().mnuFileSaveAs.Enabled);
+  EXPECT_FALSE(Main().mnuModulesScatterGraph.Enabled);
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Loading complete");
+  EXPECT_FALSE(Main().LoadDataFile("/car/none.map", kMAPFile));
+  files.files["/car/no.map"] = "no map";
+  EXPECT_FALSE(Main().LoadDataFile("/car/no.map", kMAPFile));
+  EXPECT_EQ(MessageIds(), (std::vector{0, 56, 12, 56, 12}));
+  EXPECT_EQ(host.messages[0].text, "53, File not found");
+  EXPECT_FALSE(Main().mnuFileSave.Enabled);
+}
+
+TEST_F(MapSavingTest, Saving) {
+  Open();
+  Dirty();
+  Main().mnuFileSave.Do({"click", {}});
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Saving complete");
+  EXPECT_TRUE(files.files["/car/a.map"].starts_with(" Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n"));
+  EXPECT_FALSE(Log().gblnZonesDirty);
+
+  Dirty();
+  const std::string before = files.files["/car/a.map"];
+  files.failWrites = true;
+  Main().mnuFileSave.Do({"click", {}});
+  EXPECT_EQ(Texts(), "64 Something went wrong...\n");
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Problem saving");
+  EXPECT_FALSE(Main().mnuFileSave.Enabled);
+  EXPECT_TRUE(Log().gblnZonesDirty);
+  EXPECT_EQ(files.files["/car/a.map"], before);
+}
+
+TEST_F(MapSavingTest, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
+  Open();
+  files.files["/car/a.map"] += "other";
+  host.answers = {{Answer::Kind::No}, {Answer::Kind::Yes}};
+  Main().mnuFileSave.Do({"click", {}});
+  EXPECT_EQ(Texts(), "292 a.map was changed by another program since it was opened.\r\nDo you want to overwrite it?\n");
+  EXPECT_TRUE(files.files["/car/a.map"].ends_with("other"));
+  Main().mnuFileSave.Do({"click", {}});
+  EXPECT_TRUE(files.files["/car/a.map"].ends_with(" End Of Notes\r\n"));
+  EXPECT_EQ(host.messages.size(), 2u);
+}
+
+TEST_F(MapSavingTest, SaveAs) {
+  Open();
+  Main().mnuFileSaveAs.Do({"click", {}});
+  EXPECT_EQ(Log().gstrCurrentFileTitle, "a.map");
+  host.answers = {{Answer::Kind::File, "/car/b.map"}};
+  Main().mnuFileSaveAs.Do({"click", {}});
+  EXPECT_EQ(Main().Caption(), "Tarnview - b.map (FM Link MAP File)");
+  EXPECT_EQ(Main().Recent().At(0).path, "/car/b.map");
+  EXPECT_TRUE(files.files.contains("/car/b.map"));
+}
+
+TEST_F(MapSavingTest, EditedZonesAreAskedFor) {
+  const struct {
+    Answer::Kind answer;
+    bool goesOn, written;
+  } cases[] = {{Answer::Kind::Yes, true, true}, {Answer::Kind::No, true, false}, {Answer::Kind::Cancel, false, false}};
+  for (const auto& c : cases) {
+    Open();
+    EXPECT_TRUE(Main().SaveChangesPrompt());
+    Dirty();
+    host.answers = {{c.answer}};
+    EXPECT_EQ(Main().SaveChangesPrompt(), c.goesOn);
+    EXPECT_EQ(Texts(), "51 Do you want to save the changes made to a.map?\n");
+    EXPECT_EQ(files.files["/car/a.map"] != Map(), c.written);
+  }
+}
+
+}  // namespace
+}  // namespace tarnview
