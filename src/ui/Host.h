@@ -110,6 +110,8 @@ class Host {
   virtual std::unique_ptr<Waiting> Wait(const std::string& program) = 0;
 
   virtual void SetClipboardText(const std::string& text) = 0;
+  /// "" where something else is on the clipboard.
+  virtual std::string ClipboardText() = 0;
 
   /// The picture of a chart, as its window shows it, on the clipboard.
   virtual void CopyPicture(const Chart& chart) = 0;

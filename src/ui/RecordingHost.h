@@ -53,6 +53,7 @@ class RecordingHost : public Host {
   /// With Stop as the next answer, the user stops waiting at once.
   std::unique_ptr<Waiting> Wait(const std::string& program) override;
   void SetClipboardText(const std::string& text) override { clipboard = text; }
+  std::string ClipboardText() override { return clipboard; }
   void CopyPicture(const Chart& chart) override { copied.push_back(&chart); }
   bool SavePicture(const Chart& chart, const std::string& path, std::string& error) override;
   bool PrintPage(const PrintJob& job, std::string& error) override;

@@ -122,6 +122,8 @@ std::unique_ptr<Waiting> QtHost::Wait(const std::string& program) {
 
 void QtHost::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
 
+std::string QtHost::ClipboardText() { return FromQt(QApplication::clipboard()->text()); }
+
 QSize QtHost::SizeOf(const Chart& chart) const {
   FormWindow* window = WindowOf(chart.form);
   const auto* view = window ? qobject_cast<QWidget*>(window->binder().ViewOf(chart)) : nullptr;

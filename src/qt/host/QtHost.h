@@ -26,6 +26,7 @@ class QtHost : public Host {
   void Repaint(Form& form) override;
   std::unique_ptr<Waiting> Wait(const std::string& program) override;
   void SetClipboardText(const std::string& text) override;
+  std::string ClipboardText() override;
   void CopyPicture(const Chart& chart) override;
   bool SavePicture(const Chart& chart, const std::string& path, std::string& error) override;
   bool PrintPage(const PrintJob& job, std::string& error) override;
