@@ -4,6 +4,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "zones/MapFile.h"
 
 namespace tarnview {
