@@ -1,0 +1,115 @@
+// The editor's commands: one table of what each does and when it may run, the grids' menus and keys.
+
+#include "base/Numbers.h"
+#include "zoneeditor/frmOffset.h"
+#include "zoneeditor/frmZoneData.h"
+
+namespace tarnview {
+namespace {
+
+constexpr int kLargeStep = 10;
+
+}  // namespace
+
+void frmZoneData::BindCommands() {
+  std::vector<Command> rows = EditCommands();
+  for (auto&& part : {GridCommands(), ButtonCommands()}) rows.insert(rows.end(), part.begin(), part.end());
+  commands_.Bind(std::move(rows));
+}
+
+std::vector<Command> frmZoneData::EditCommands() {
+  const auto focused = [this] { return Grids.Focused(ActiveControl()).has_value(); };
+  const auto editable = [this] { return Grids.Editable(ActiveControl()).has_value(); };
+  const auto onGrid = [this](void (ZoneGrids::*edit)(SheetGrid)) {
+    return [this, edit] {
+      if (const auto grid = Grids.Editable(ActiveControl())) (Grids.*edit)(*grid);
+    };
+  };
+  return {
+      {&mnuEditUndo, "mnuEditUndo_Click", [this] { GoTo(history_.Done() - 1); }, [this] { return history_.CanUndo(); }},
+      {&mnuEditRedo, "mnuEditRedo_Click", [this] { GoTo(history_.Done() + 1); }, [this] { return history_.CanRedo(); }},
+      {&mnuEditCopy, "mnuEditCopy_Click", [this] { CopyCells(false); }, focused},
+      {&mnuEditCopyHeadings, "mnuEditCopyHeadings_Click", [this] { CopyCells(true); }, focused},
+      {&mnuEditPaste, "mnuEditPaste_Click",
+       [this] {
+         if (const auto grid = Grids.Editable(ActiveControl())) Grids.Paste(*grid, host.ClipboardText());
+       },
+       editable},
+      {&mnuEditInterpolate, "mnuEditInterpolate_Click", onGrid(&ZoneGrids::Interpolate), editable},
+      {&mnuEditSmooth, "mnuEditSmooth_Click", onGrid(&ZoneGrids::Smooth), editable},
+      {&mnuEditReset, "mnuEditReset_Click", onGrid(&ZoneGrids::ResetToOpened), editable},
+      {&mnuViewHeat,
+       "mnuViewHeat_Click",
+       [this] {
+         mnuViewHeat.Checked = !mnuViewHeat.Checked;
+         Grids.ShowHeat(mnuViewHeat.Checked);
+       },
+       {}},
+  };
+}
+
+std::vector<Command> frmZoneData::GridCommands() {
+  const auto edits = [this] { return !ReadOnly(); };
+  const auto compares = [this] { return !ReadOnly() && comparison_.Zones(); };
+  return {
+      {&mnuApplyOffset, "mnuApplyOffset_Click", [this] { mnuApplyOffset_Click(); }, edits},
+      {&mnuCopytoDatalog, "mnuCopytoDatalog_Click", [this] { Grids.CopyToDatalog(popupGrid_, cboBenchmark.Text()); },
+       compares},
+      {&mnuCopyOffset, "mnuCopyOffset_Click", [this] { Grids.ApplyDifference(popupGrid_); }, compares},
+  };
+}
+
+std::vector<Command> frmZoneData::ButtonCommands() {
+  const auto compares = [this] { return comparison_.Zones() != nullptr; };
+  return {
+      {&cmdCopyBenchmark, "cmdCopyBenchmark_Click", [this] { cmdCopyBenchmark_Click(); }, compares},
+      {&cmdDetails, "cmdDetails_Click", [this] { cmdDetails_Click(); }, compares},
+      {&cmdDefault, "cmdDefault_Click", [this] { cmdDefault_Click(); }, {}},
+      {&cmdUpload, "cmdUpload_Click",
+       [this] {
+         if (around_.upload) around_.upload(Sheet(), parameters_.map);
+       },
+       [this] { return UploadFits(); }},
+      {&cmdOK, "cmdOK_Click", [this] { cmdOK_Click(); }, {}},
+      {&cmdCancel, "cmdCancel_Click", [this] { Unload(); }, {}},
+  };
+}
+
+void frmZoneData::GridRightClicked(SheetGrid grid) {
+  popupGrid_ = grid;
+  commands_.Update();
+  if (grid == SheetGrid::FuelByRPM || grid == SheetGrid::AirFuelTargets) return;
+  MenuItem* menu = &mnuDatalogGrid;
+  if (IsBenchmarkGrid(grid)) menu = &mnuBenchmarkGrid;
+  if (IsDifferenceGrid(grid)) menu = &mnuDifferenceGrid;
+  host.PopupMenu(*menu);
+}
+
+void frmZoneData::mnuApplyOffset_Click() {
+  frmOffset window(host);
+  window.ShowModal();
+  if (window.Accepted()) Grids.ApplyOffset(popupGrid_, window.Offset());
+}
+
+void frmZoneData::CopyCells(bool headings) {
+  const auto grid = Grids.Focused(ActiveControl());
+  if (!grid) return;
+  const Grid& cells = Grids.At(*grid);
+  host.SetClipboardText(TextOf(cells, cells.Selection(), headings));
+}
+
+void frmZoneData::StepCells(int by) {
+  if (const auto grid = Grids.Editable(ActiveControl())) Grids.ApplyOffset(*grid, by);
+}
+
+/// "+" and "-" step the selected cells, with Shift by ten.
+bool frmZoneData::Form_KeyDown(const KeyPress& key) {
+  const bool plus = key.key == "Plus", minus = key.key == "Minus";
+  const auto grid = Grids.Editable(ActiveControl());
+  if ((!plus && !minus) || key.ctrl || key.alt || !grid || Grids.At(*grid).IsEditing()) return false;
+  const int step = key.shift ? kLargeStep : 1;
+  StepCells(plus ? step : -step);
+  return true;
+}
+
+}  // namespace tarnview
