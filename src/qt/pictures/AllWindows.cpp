@@ -42,6 +42,7 @@ AllWindows::AllWindows(Host& host, const std::string& log, const std::string& se
   MakeEcuWindows(!log.empty());
   MakeOptions(!log.empty());
   MakeGridGraphs();
+  MakeZoneWindows();
   for (Form* form : Forms())
     if (!form->IsShown()) form->Show();
 }
@@ -205,6 +206,38 @@ void AllWindows::MakeGridGraphs() {
   }
 }
 
+/// The editor as it opens, once for each tab, with a log also edited; and its dialogs.
+void AllWindows::MakeZoneWindows() {
+  Globals& globals = program_.Global();
+  Host& host = program_.MainWindow().host;
+  ZoneEditorParameters parameters;
+  parameters.map = MapOf(globals.log.zones);
+  if (!globals.log.gblnZonesLoaded) parameters.map.chip = {1.8, MakeDate(2004, 7, 2), 3};
+  parameters.comparison = ComparisonZones{globals.log.zones.changes, globals.log.zones.original};
+  parameters.fileName = globals.log.gstrCurrentFileTitle;
+  parameters.mayUpload = true;
+  const clsLogDataItem& volts = globals.catalogue.gcolFixedDataItems.Item(ItemOf(kAuxNF));
+  const frmZoneData::Surroundings around{globals.settings, globals.gcolBenchmarks, globals.tables, volts, errors_,
+                                         messages_};
+  const int tabs = globals.log.gblnZonesLoaded ? 4 : 1;
+  for (int tab = 1; tab <= tabs; ++tab) {
+    auto editor = std::make_unique<frmZoneData>(host, around, parameters);
+    editor->tabZoneData2.Select(tab);
+    zoneWindows_.push_back(std::move(editor));
+  }
+  zoneWindows_.push_back(std::make_unique<frmOffset>(host));
+  const Date date = parameters.map.chip.datChipDate;
+  zoneWindows_.push_back(std::make_unique<frmCopyBench>(host, date, date, false));
+  zoneWindows_.push_back(std::make_unique<frmBenchmarkDetails>(
+      host,
+      frmBenchmarkDetails::Surroundings{globals.kinds.gcolFileTypes, globals.settings, files_, clock_, messages_,
+                                        [](ZoneMap&, const std::string&) { return false; }},
+      globals.gcolBenchmarks.Item(1)));
+  auto loading = std::make_unique<frmLoadBenchmark>(host, files_, globals.settings, messages_);
+  loading->FileToLoad = "street.map";
+  zoneWindows_.push_back(std::move(loading));
+}
+
 std::vector<Form*> AllWindows::Forms() {
   std::vector<Form*> forms{&program_.MainWindow(),
                            &splash_,
@@ -224,6 +257,7 @@ std::vector<Form*> AllWindows::Forms() {
   for (const auto& window : ecuWindows_) forms.push_back(window.get());
   for (const auto& window : options_) forms.push_back(window.get());
   for (const auto& graph : gridGraphs_) forms.push_back(graph.get());
+  for (const auto& window : zoneWindows_) forms.push_back(window.get());
   return forms;
 }
 

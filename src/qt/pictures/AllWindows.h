@@ -16,7 +16,12 @@
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "scatter/frmPresetScatterDetails.h"
 #include "scatter/frmScatterFilter.h"
+#include "zoneeditor/frmBenchmarkDetails.h"
+#include "zoneeditor/frmCopyBench.h"
 #include "zoneeditor/frmGridGraph.h"
+#include "zoneeditor/frmLoadBenchmark.h"
+#include "zoneeditor/frmOffset.h"
+#include "zoneeditor/frmZoneData.h"
 
 namespace tarnview {
 
@@ -42,6 +47,7 @@ class AllWindows {
   void MakeEcuWindows(bool filled);
   void MakeOptions(bool filled);
   void MakeGridGraphs();
+  void MakeZoneWindows();
 
   RealFileSystem files_;
   RealClock clock_;
@@ -68,6 +74,7 @@ class AllWindows {
   std::vector<Form*> scatterGraphs_;  ///< the main window's
   std::unique_ptr<PowerPictures> power_;
   std::vector<std::unique_ptr<frmGridGraph>> gridGraphs_;
+  std::vector<std::unique_ptr<Form>> zoneWindows_;
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
   std::vector<std::unique_ptr<Form>> ecuWindows_;
