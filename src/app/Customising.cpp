@@ -17,6 +17,7 @@ std::vector<Command> Customising::Rows() {
       {&controls_.mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", keep(KeptList::SamplePresets), {}},
       {&controls_.mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", keep(KeptList::ScatterPresets), {}},
       {&controls_.mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", keep(KeptList::CarDefs), {}},
+      {&controls_.mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", keep(KeptList::Benchmarks), {}},
   };
 }
 
@@ -116,6 +117,11 @@ void Customising::MaintainList(KeptList list) {
        [this](const frmMaint::Texts& texts) {
          Maintain(texts, globals_.gcolScatterGraphPresets,
                   [this](auto& preset) { return EditPreset<frmPresetScatterDetails>(preset); });
+       }},
+      {KeptList::Benchmarks,
+       {"Zone Data Benchmark Editor", "&Benchmarks", "ZoneDataBenchmarkEditor"},
+       [this](const frmMaint::Texts& texts) {
+         Maintain(texts, globals_.gcolBenchmarks, [this](auto& benchmark) { return zones_.EditBenchmark(benchmark); });
        }},
       // The doubled word is kept on purpose.
       {KeptList::CarDefs,

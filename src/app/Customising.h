@@ -6,6 +6,7 @@
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
 #include "app/PowerWindows.h"
+#include "app/ZoneWindows.h"
 #include "customise/frmMaint.h"
 #include "customise/frmOptions.h"
 #include "desk/Commands.h"
@@ -26,8 +27,13 @@ class Customising {
     virtual void OptionsChanged() = 0;
   };
   Customising(MainWindowControls& controls, Globals& globals, Services& services, PowerWindows& power,
-              MainWindow& mainWindow)
-      : controls_(controls), globals_(globals), services_(services), power_(power), mainWindow_(mainWindow) {}
+              ZoneWindows& zones, MainWindow& mainWindow)
+      : controls_(controls),
+        globals_(globals),
+        services_(services),
+        power_(power),
+        zones_(zones),
+        mainWindow_(mainWindow) {}
 
   std::vector<Command> Rows();
 
@@ -50,6 +56,7 @@ class Customising {
   Globals& globals_;
   Services& services_;
   PowerWindows& power_;
+  ZoneWindows& zones_;
   MainWindow& mainWindow_;
 };
 

@@ -105,7 +105,10 @@ void Program::LoadMainForm(const std::string& commandLine) {
   UserEvents& events = host_.events;
   events.Run(main_->name, "Form_Load", [&] { main_->Show(); });
   TellFolderTroubles();
-  events.Run(main_->name, "Form_Activate", [&] { main_->OpenFromCommandLine(commandLine); });
+  events.Run(main_->name, "Form_Activate", [&] {
+    main_->Zones().OfferLostEdits();
+    main_->OpenFromCommandLine(commandLine);
+  });
 }
 
 /// Told once, so that nobody wonders later why a setting did not stay.

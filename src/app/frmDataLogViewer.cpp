@@ -31,7 +31,8 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       scatter_(*this, globals, services, range_, status_, *this),
       power_(*this, globals, services, range_, *this),
       ecu_(*this, globals, services, recent_, *this),
-      customising_(*this, globals, services, power_, *this),
+      zones_(*this, globals, services, *this),
+      customising_(*this, globals, services, power_, zones_, *this),
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
   HelpTopic = "SampleGraph";
@@ -91,6 +92,8 @@ void frmDataLogViewer::Form_Unload() {
   nonModalMessages_.UnloadAll();
   scatter_.UnloadAll();
   power_.UnloadAll();
+  log_.gblnZonesDirty = false;  // saved, or given up by an answer
+  zones_.ForgetEdits();
   WriteINIFile();
   tags_.Unload();
 }

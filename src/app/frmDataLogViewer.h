@@ -7,11 +7,12 @@
 #include "app/EcuCommands.h"
 #include "app/Globals.h"
 #include "app/MainWindowControls.h"
-#include "app/PowerWindows.h"
 #include "app/MapSaving.h"
+#include "app/PowerWindows.h"
 #include "app/RecentFiles.h"
 #include "app/ScatterWindows.h"
 #include "app/SettingsFile.h"
+#include "app/ZoneWindows.h"
 #include "app/frmNonModalMessage.h"
 #include "desk/ChartOutput.h"
 #include "desk/Commands.h"
@@ -44,7 +45,8 @@ class frmDataLogViewer : public MainWindowControls,
                          private ScatterWindows::SampleGraphWindow,
                          private PowerWindows::SampleGraphWindow,
                          private EcuCommands::MainWindow,
-                         private Customising::MainWindow {
+                         private Customising::MainWindow,
+                         private ZoneWindows::SampleGraphWindow {
  public:
   frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
@@ -75,6 +77,7 @@ class frmDataLogViewer : public MainWindowControls,
   PresetGraphs& Presets() { return presets_; }
   ScatterWindows& Scatter() { return scatter_; }
   PowerWindows& Power() { return power_; }
+  ZoneWindows& Zones() { return zones_; }
   PlotState& Plot() { return plot_; }
   const RecentFiles& Recent() const { return recent_; }
 
@@ -132,6 +135,7 @@ class frmDataLogViewer : public MainWindowControls,
   void ShowNonModal(const std::string& text);
 
   // What the parts ask for.
+  void ZonesEdited() override { FileRenamed(); }
   void SetUpScrollBar() override { scrolling_.SetUp(); }
   void GraphDrawn() override;
   void SampleShown(std::int32_t index) override { zoneInfluence_.ShowSample(index); }
@@ -173,6 +177,7 @@ class frmDataLogViewer : public MainWindowControls,
   ScatterWindows scatter_;
   PowerWindows power_;
   EcuCommands ecu_;
+  ZoneWindows zones_;
   Customising customising_;
   Commands commands_;
   bool blnGotoShowPointWidth_ = false;

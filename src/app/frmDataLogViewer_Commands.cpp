@@ -22,9 +22,7 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
-      {&mnuModulesZoneData, "mnuModulesZoneData_Click", kNotYet, {}},
       {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
-      {&mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", kNotYet, {}},
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
        "mnuHelpAbout_Click",
@@ -93,7 +91,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
   for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(), power_.Rows(),
-                      ecu_.Rows(), customising_.Rows()})
+                      ecu_.Rows(), customising_.Rows(), zones_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(

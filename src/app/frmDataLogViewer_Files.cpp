@@ -132,6 +132,7 @@ void frmDataLogViewer::TellNotRead(const std::string& path, bool read) {
 void frmDataLogViewer::HideForLoad() {
   drawn_ = exported_ = false;
   log_.gblnSamplesLoaded = log_.gblnZonesLoaded = log_.gblnChangesLoaded = false;
+  log_.gblnZonesDirty = false;
   log_.glngFirstSampleTime = log_.glngLastSampleTime = 0;
   log_.glngLowestAirTemp = kNoAirTemp;
   tags_.LogIsClosing();
@@ -182,6 +183,7 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
   presets_.PopulatePresetGraphs(false, fileType);
   SetDataLogViewerCaption();
   log_.gblnZonesDirty = false;
+  zones_.ForgetEdits();
   commands_.Update();
   DisplayZoneInfluence();
   RefreshDataTags();
@@ -222,6 +224,7 @@ void frmDataLogViewer::ShowDataTags() {
 
 void frmDataLogViewer::FileRenamed() {
   SetDataLogViewerCaption();
+  zones_.ForgetEdits();
   commands_.Update();
 }
 

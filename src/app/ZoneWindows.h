@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/Globals.h"
+#include "app/MainWindowControls.h"
+#include "desk/Commands.h"
+#include "zoneeditor/frmBenchmarkDetails.h"
+#include "zoneeditor/frmZoneData.h"
+#include "zones/EditJournal.h"
+
+namespace tarnview {
+
+/// The windows of zone settings: the editor of the open file's, and what changes a benchmark.
+class ZoneWindows {
+ public:
+  /// What they need of the main window.
+  struct SampleGraphWindow {
+    virtual ~SampleGraphWindow() = default;
+    virtual bool LoadDataFile(const std::string& path, int fileType) = 0;
+    /// The zones of the open file were changed.
+    virtual void ZonesEdited() = 0;
+  };
+  ZoneWindows(MainWindowControls& controls, Globals& globals, Services& services, SampleGraphWindow& mainWindow)
+      : controls_(controls), globals_(globals), services_(services), mainWindow_(mainWindow) {}
+
+  std::vector<Command> Rows();
+
+  /// The editor on the open file.
+  void EditZones() { EditZones(nullptr); }
+  /// At a start: edits that were lost with the last run are offered, once.
+  void OfferLostEdits();
+  /// Nothing is edited that a file does not hold: the journal of edits goes.
+  void ForgetEdits();
+  /// The details of a benchmark; true on OK, with what the user made of it in it.
+  bool EditBenchmark(clsBenchmark& benchmark);
+
+ private:
+  void EditZones(const EditJournal* resumed);
+  std::string JournalPath() const;
+  void WriteJournal(const EditJournal& journal);
+  void Resume(const EditJournal& journal);
+  frmZoneData::Surroundings AroundEditor();
+  bool EditBenchmarkZones(ZoneMap& map, const std::string& name);
+
+  MainWindowControls& controls_;
+  Globals& globals_;
+  Services& services_;
+  SampleGraphWindow& mainWindow_;
+};
+
+}  // namespace tarnview
