@@ -16,6 +16,7 @@ void AddExportCommand(CLI::App& program, int& status);
 void AddGraphCommand(CLI::App& program, int& status);
 void AddScatterCommand(CLI::App& program, int& status);
 void AddPowerCommand(CLI::App& program, int& status);
+void AddZonesCommand(CLI::App& program, int& status);
 void AddDefinitionCommand(CLI::App& program, int& status);
 void AddSettingsCommand(CLI::App& program, int& status);
 void AddOptionsCommand(CLI::App& program, int& status);

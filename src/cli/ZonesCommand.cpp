@@ -1,0 +1,153 @@
+#include <memory>
+#include <optional>
+
+#include "base/Text.h"
+#include "cli/Commands.h"
+#include "cli/Json.h"
+#include "cli/LogSession.h"
+#include "zones/ChipIdentity.h"
+#include "zones/MapFile.h"
+#include "zones/ZoneNames.h"
+#include "zones/ZoneSheet.h"
+
+namespace tarnview {
+namespace {
+
+struct ZonesOptions {
+  LogOptions file;
+  std::string compareWith, mapToWrite;
+  bool json = false;
+};
+
+/// The zones of a MAP file or a log; nothing, and the messages say why.
+std::optional<ZoneMap> ZonesOf(const LogOptions& options) {
+  LogSession session(options);
+  if (!session.Open()) return std::nullopt;
+  if (session.Log().gblnZonesLoaded) return MapOf(session.Log().zones);
+  session.Window().TellMessage(Message::ZonesNotLoaded);
+  return std::nullopt;
+}
+
+/// "RPM" of "Rev Limit (RPM)"; "" for a label without.
+std::string UnitOf(std::string_view label) {
+  const auto open = label.find('('), close = label.find(')');
+  return open < close && close != label.npos ? std::string(label.substr(open + 1, close - open - 1)) : "";
+}
+
+/// Of a cell its own name, "zf215".
+std::string LabelOf(const ZoneSheet& sheet, int zone) {
+  const std::string_view label = FieldLabel(sheet, zone);
+  return label.empty() ? GridCellName(zone) : std::string(label);
+}
+
+/// Flags have no number to show: their boxes stand beside.
+bool IsShown(const ZoneSheet& sheet, int zone) { return !LabelOf(sheet, zone).empty(); }
+
+Json ShownJson(const ZoneSheet& sheet) {
+  Json shown = Json::array();
+  for (int zone = 0; zone < static_cast<int>(sheet.shown.size()); ++zone) {
+    if (!IsShown(sheet, zone)) continue;
+    const std::string label = LabelOf(sheet, zone);
+    const bool field = !FieldLabel(sheet, zone).empty();
+    shown.push_back({{"index", zone},
+                     {"name", ZoneName(zone)},
+                     {"label", label},
+                     {"value", FieldText(sheet, zone)},
+                     {"unit", UnitOf(label)},
+                     {"exists", !field || FieldExists(sheet, zone)}});
+  }
+  return shown;
+}
+
+Json BoxesJson(const ZoneSheet& sheet) {
+  Json boxes = Json::array();
+  for (int i = 0; i < kTicks; ++i)
+    boxes.push_back({{"label", Trim(TickCaption(Tick{i}, sheet.chip))},
+                     {"ticked", sheet.Ticked(Tick{i})},
+                     {"exists", TickExists(sheet, Tick{i})}});
+  return boxes;
+}
+
+Json ChipJson(const ZoneMap& map) {
+  return {{"engine_size", ToJson(map.chip.dblEngineSize)},
+          {"chip_date", DateText(map.chip.datChipDate)},
+          {"chip_version", map.chip.intChipVersion},
+          {"atmospheric_pressure", map.intAtmosphericPressure}};
+}
+
+Json MapJson(const ZoneMap& map) {
+  const ZoneSheet sheet = OpenSheet(map);
+  return {{"chip", ChipJson(map)},
+          {"notes", ToUtf8(map.strNotes)},
+          {"zones", map.zones},
+          {"map_id", sheet.MAPID},
+          {"auto_tune", sheet.autoTuneType},
+          {"o2_sensor", sheet.O2Sensor},
+          {"boost_unit", sheet.boostTargets ? "kPa" : "Pct"},
+          {"boxes", BoxesJson(sheet)},
+          {"shown", ShownJson(sheet)}};
+}
+
+/// As the editor shows each side, by its own chip; flags as their bits.
+std::string ShownText(const ZoneMap& map, const ZoneSheet& sheet, int zone) {
+  const auto raw = map.zones[static_cast<std::size_t>(zone)];
+  return IsShown(sheet, zone) ? FieldText(sheet, zone) : std::to_string(raw);
+}
+
+Json DifferencesJson(const ZoneMap& here, const ZoneMap& there) {
+  const ZoneSheet hereShown = OpenSheet(here), thereShown = OpenSheet(there);
+  Json differences = Json::array();
+  for (int zone = 0; zone < static_cast<int>(here.zones.size()); ++zone) {
+    const auto at = static_cast<std::size_t>(zone);
+    if (here.zones[at] == there.zones[at]) continue;
+    differences.push_back({{"index", zone},
+                           {"name", ZoneName(zone)},
+                           {"here", ShownText(here, hereShown, zone)},
+                           {"there", ShownText(there, thereShown, zone)}});
+  }
+  return {{"differences", std::move(differences)}, {"chip_here", ChipJson(here)}, {"chip_there", ChipJson(there)}};
+}
+
+int Compare(const ZonesOptions& options, const ZoneMap& here) {
+  LogOptions other;
+  other.log = options.compareWith;
+  other.settings = options.file.settings;
+  const auto there = ZonesOf(other);
+  if (!there) return kFailed;
+  Print(DifferencesJson(here, *there));
+  return kDone;
+}
+
+int Zones(const ZonesOptions& options) {
+  const auto map = ZonesOf(options.file);
+  if (!map) return kFailed;
+  if (!options.mapToWrite.empty()) {
+    RealFileSystem files;
+    if (!WriteMapFile(files, options.mapToWrite, *map, RealClock().Now())) {
+      LogSession(options.file).Window().TellMessage(Message::SomethingWentWrong);
+      return kFailed;
+    }
+  }
+  if (!options.compareWith.empty()) return Compare(options, *map);
+  if (options.json || options.mapToWrite.empty()) Print(MapJson(*map));
+  return kDone;
+}
+
+}  // namespace
+
+void AddZonesCommand(CLI::App& program, int& status) {
+  CLI::App* command = program.add_subcommand("zones", "Tells, compares or writes the zone settings of a map or a log");
+  command->footer("Example:\n  tarnview-cli zones run.txt --to run.map");
+  auto options = std::make_shared<ZonesOptions>();
+  command->add_option("FILE", options->file.log, "A MAP file, or a log with zones")->required();
+  command->add_option("--type", options->file.fileType, "File type, 1 or 2; without it the type is guessed")
+      ->check(CLI::Range(1, 2));
+  command->add_option("--settings", options->file.settings, "Read this Tarnview.ini for what a file does not say")
+      ->check(CLI::ExistingFile);
+  command->add_flag("--json", options->json, "Every value as the zone editor shows it");
+  command->add_option("--compare", options->compareWith, "The differences to this map or log");
+  command->add_option("--to", options->mapToWrite, "Write a MAP file");
+  command->callback([options, &status] { status = Zones(*options); });
+}
+
+}  // namespace tarnview
