@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "model/Column.h"
+#include "zoneeditor/frmLoadBenchmark.h"
 #include "zones/ZoneMap.h"
 
 namespace tarnview {
@@ -21,7 +22,12 @@ void ZoneWindows::EditZones(const EditJournal* resumed) {
   OpenLog& log = globals_.log;
   ZoneEditorParameters parameters;
   parameters.map = MapOf(log.zones);
-  if (log.gblnSamplesLoaded) parameters.comparison = ComparisonZones{log.zones.changes, log.zones.original};
+  // A log whose changes could not be read has its own zones twice.
+  const LoadedZones& zones = log.zones;
+  if (log.gblnSamplesLoaded && log.gblnChangesLoaded)
+    parameters.comparison = ComparisonZones{zones.changes, zones.original};
+  else if (log.gblnSamplesLoaded)
+    parameters.comparison = ComparisonZones{zones.zones, zones.zones};
   parameters.fileName = log.gstrCurrentFileTitle;
   parameters.mayUpload = true;
   EditJournal journal(log.gstrCurrentFile, log.gintCurrentFileType, parameters.map);
@@ -30,6 +36,7 @@ void ZoneWindows::EditZones(const EditJournal* resumed) {
     journal.history = history;
     WriteJournal(journal);
   };
+  around.upload = Upload;
   frmZoneData window(services_.host, around, parameters);
   if (resumed) window.Resume(resumed->history);
   window.ShowModal();
@@ -89,6 +96,14 @@ void ZoneWindows::Resume(const EditJournal& journal) {
   mainWindow_.ZonesEdited();
   WriteJournal(journal);
   if (journal.history.CanUndo()) EditZones(&journal);
+}
+
+std::optional<ZoneMap> ZoneWindows::LoadZones(const std::string& path) {
+  frmLoadBenchmark loading(services_.host, services_.files, globals_.settings, services_.messages);
+  loading.FileToLoad = path;
+  loading.Run();
+  if (!loading.SuccessfulLoad()) return std::nullopt;
+  return MapOf(loading.LoadedBenchmark());
 }
 
 bool ZoneWindows::EditBenchmarkZones(ZoneMap& map, const std::string& name) {

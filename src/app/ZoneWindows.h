@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,10 +27,15 @@ class ZoneWindows {
   ZoneWindows(MainWindowControls& controls, Globals& globals, Services& services, SampleGraphWindow& mainWindow)
       : controls_(controls), globals_(globals), services_(services), mainWindow_(mainWindow) {}
 
+  /// What sends a sheet to the ECU; `source` is the map that the editor was opened on.
+  std::function<void(const ZoneSheet& sheet, const ZoneMap& source)> Upload;
+
   std::vector<Command> Rows();
 
   /// The editor on the open file.
   void EditZones() { EditZones(nullptr); }
+  /// The zones of a MAP file or log, read in the window that shows how far it is; nothing, and the user was told why.
+  std::optional<ZoneMap> LoadZones(const std::string& path);
   /// At a start: edits that were lost with the last run are offered, once.
   void OfferLostEdits();
   /// Nothing is edited that a file does not hold: the journal of edits goes.

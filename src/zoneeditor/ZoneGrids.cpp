@@ -29,7 +29,7 @@ std::string Signed(int number) { return (number > 0 ? "+" : "") + std::to_string
 
 }  // namespace
 
-ZoneGrids::ZoneGrids(Form& form, SheetKeeper& keeper, const Comparison& comparison, Window& window)
+ZoneGrids::ZoneGrids(Form& form, SheetKeeper& keeper, const ZoneComparison& comparison, Window& window)
     : grdData(form, "grdData", UpTo(kSheetGrids)), keeper_(keeper), comparison_(comparison), window_(window) {
   for (const auto& grid : grdData)
     grid->Edited = [this, which = SheetGrid{grid->index}](int row, int column, const std::string& text) {

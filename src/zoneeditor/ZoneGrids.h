@@ -7,9 +7,9 @@
 
 #include "ui/ControlArray.h"
 #include "ui/Grid.h"
-#include "zoneeditor/Comparison.h"
 #include "zoneeditor/GridCells.h"
 #include "zoneeditor/SheetKeeper.h"
+#include "zoneeditor/ZoneComparison.h"
 
 namespace tarnview {
 
@@ -26,7 +26,7 @@ class ZoneGrids {
    protected:
     ~Window() = default;
   };
-  ZoneGrids(Form& form, SheetKeeper& keeper, const Comparison& comparison, Window& window);
+  ZoneGrids(Form& form, SheetKeeper& keeper, const ZoneComparison& comparison, Window& window);
 
   ControlArray<Grid> grdData;
 
@@ -62,7 +62,7 @@ class ZoneGrids {
   std::vector<int> Selected(SheetGrid grid) const;
 
   SheetKeeper& keeper_;
-  const Comparison& comparison_;
+  const ZoneComparison& comparison_;
   Window& window_;
   std::vector<std::string> converted_;
   bool heat_ = false;

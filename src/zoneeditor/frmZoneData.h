@@ -20,8 +20,8 @@
 #include "ui/MenuItem.h"
 #include "ui/OptionButton.h"
 #include "ui/TabStrip.h"
-#include "zoneeditor/Comparison.h"
 #include "zoneeditor/GeneralFields.h"
+#include "zoneeditor/ZoneComparison.h"
 #include "zoneeditor/ZoneGrids.h"
 #include "zones/EditHistory.h"
 
@@ -58,7 +58,7 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   Surroundings around_;
   const ZoneEditorParameters parameters_;
   EditHistory history_;
-  Comparison comparison_;
+  ZoneComparison comparison_;
 
  public:
   TabStrip tabZoneData2{*this, "tabZoneData2"};

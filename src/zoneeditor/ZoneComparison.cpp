@@ -1,26 +1,26 @@
-#include "zoneeditor/Comparison.h"
+#include "zoneeditor/ZoneComparison.h"
 
 namespace tarnview {
 
-std::vector<std::string> Comparison::Names() const {
+std::vector<std::string> ZoneComparison::Names() const {
   std::vector<std::string> names;
   if (own_) names = {"Lambda/Knock Zone Changes", "Original Zone Settings"};
   for (const clsBenchmark& benchmark : benchmarks_) names.push_back(benchmark.strName);
   return names;
 }
 
-const clsBenchmark* Comparison::Benchmark() const {
+const clsBenchmark* ZoneComparison::Benchmark() const {
   const int position = chosen_ - OwnSets() + 1;
   return position >= 1 && position <= benchmarks_.Count() ? &benchmarks_.Item(position) : nullptr;
 }
 
-const ZoneSettings* Comparison::Zones() const {
+const ZoneSettings* ZoneComparison::Zones() const {
   if (const clsBenchmark* benchmark = Benchmark()) return &benchmark->GetZoneSettingsDirect();
   if (chosen_ < 0 || chosen_ >= OwnSets()) return nullptr;
   return chosen_ == 0 ? &own_->changes : &own_->original;
 }
 
-ZoneMap Comparison::Map(const ZoneMap& form) const {
+ZoneMap ZoneComparison::Map(const ZoneMap& form) const {
   if (const clsBenchmark* benchmark = Benchmark()) return MapOf(*benchmark);
   ZoneMap map = form;
   map.strNotes.clear();

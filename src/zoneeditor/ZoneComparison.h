@@ -16,9 +16,9 @@ struct ComparisonZones {
 };
 
 /// What the editor compares with: the log's own two sets, where there are any, and the benchmarks.
-class Comparison {
+class ZoneComparison {
  public:
-  Comparison(const std::optional<ComparisonZones>& own, const clsBenchmarks& benchmarks)
+  ZoneComparison(const std::optional<ComparisonZones>& own, const clsBenchmarks& benchmarks)
       : own_(own), benchmarks_(benchmarks) {}
 
   std::vector<std::string> Names() const;

@@ -1,0 +1,168 @@
+#include "support/ProgramFixture.h"
+#include "zoneeditor/frmZoneData.h"
+
+namespace tarnview {
+namespace {
+
+constexpr const char* kJournal = "/car/Tarnview_Zones.journal";
+
+class ZoneWindowsTest : public ProgramFixture {
+ protected:
+  /// A program that keeps its settings, so that it keeps a journal beside them.
+  void StartKeeping(const std::string& commandLine = "") {
+    files.files["/car/Tarnview.ini"] = "[General]\r\nDefault Engine Size=1.8\r\n";
+    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{}, "/car/Tarnview.ini");
+    program->WriteSettingsTo("/car/Tarnview.ini");
+    program->Start(commandLine, false);
+  }
+  void WriteMap() {
+    std::string text;
+    for (int line = 0; line < 16; ++line) {
+      for (int c = 0; c < 16; ++c) text += " 050";
+      text += "\r\n";
+    }
+    files.files["/car/a.map"] = text +
+                                " Engine Size: 1.8\r\n Chip Date: 2004-07-02\r\n Chip Version: 3\r\n"
+                                " Atmospheric Pressure: 101\r\n";
+  }
+  /// Types a Choke Scale and presses a button of the editor.
+  void EditAnd(const char* button, const char* choke = "7") {
+    host.work = [button, choke](Form& form) {
+      form.Find("txtZone", 6)->Do({"type", {choke}});
+      if (*button) form.Find(button)->Do({"click", {}});
+    };
+    Main().mnuModulesZoneData.Do({"click", {}});
+    host.work = nullptr;
+  }
+  int ChokeScale() { return Log().zones.zones[6]; }
+};
+
+TEST_F(ZoneWindowsTest, WhatIsAcceptedIsTakenOver) {
+  WriteMap();
+  StartKeeping("/car/a.map");
+  EXPECT_TRUE(Main().mnuModulesZoneData.Enabled);
+  EditAnd("cmdOK");
+  EXPECT_EQ(ChokeScale(), 7);
+  EXPECT_TRUE(Log().gblnZonesDirty);
+  EXPECT_TRUE(files.files.contains(kJournal));
+  Main().mnuFileSave.Do({"click", {}});
+  EXPECT_FALSE(Log().gblnZonesDirty);
+  EXPECT_FALSE(files.files.contains(kJournal));
+
+  host.answers = {{Answer::Kind::Yes}};  // throws the edit away
+  EditAnd("cmdCancel", "9");
+  EXPECT_EQ(ChokeScale(), 7);
+  EXPECT_FALSE(Log().gblnZonesDirty);
+  EXPECT_FALSE(files.files.contains(kJournal));
+  host.work = [](Form& form) { form.Find("cmdOK")->Do({"click", {}}); };
+  Main().mnuModulesZoneData.Do({"click", {}});
+  EXPECT_FALSE(Log().gblnZonesDirty);
+}
+
+TEST_F(ZoneWindowsTest, EditsThatACrashCutOffAreOfferedOnce) {
+  WriteMap();
+  StartKeeping("/car/a.map");
+  EditAnd("cmdOK");
+  std::string lost;
+  host.work = [&](Form& form) {
+    form.Find("txtZone", 6)->Do({"type", {"8"}});
+    form.Find("txtZone", 7)->Do({"type", {"9"}});
+    lost = files.files[kJournal];
+    form.Find("cmdOK")->Do({"click", {}});
+  };
+  Main().mnuModulesZoneData.Do({"click", {}});
+  program.reset();
+  host.open.clear();
+  host.messages.clear();
+
+  files.files[kJournal] = lost;
+  std::string steps;
+  host.answers = {{Answer::Kind::Yes}};
+  host.work = [&](Form& form) {
+    auto& editor = dynamic_cast<frmZoneData&>(form);
+    for (const auto& step : editor.History().Steps()) steps += step.name + "; ";
+    editor.mnuEditUndo.Do({"click", {}});
+    editor.cmdOK.Do({"click", {}});
+  };
+  StartKeeping();
+  EXPECT_EQ(host.messages[0].text,
+            "Edits of the zones of a.map were not saved when Tarnview ended.\r\nDo you want to go on with them?");
+  EXPECT_EQ(steps, "Choke Scale 7 to 8; Speedo. Calib. 50 to 9; ");
+  EXPECT_EQ(ChokeScale(), 8);
+  EXPECT_EQ(Log().zones.zones[7], 50);
+  EXPECT_TRUE(Log().gblnZonesDirty);
+  EXPECT_EQ(Main().Caption(), "Tarnview - a.map (FM Link MAP File)");
+  host.answers = {{Answer::Kind::No}};
+  Main().Unload();
+  EXPECT_FALSE(files.files.contains(kJournal));
+}
+
+TEST_F(ZoneWindowsTest, LostEditsOfAFileThatHasGone) {
+  WriteMap();
+  StartKeeping("/car/a.map");
+  EditAnd("cmdOK");
+  const std::string lost = files.files[kJournal];
+  program.reset();
+  host.open.clear();
+  for (const auto answer : {Answer::Kind::No, Answer::Kind::Yes}) {
+    files.files.erase("/car/a.map");
+    files.files[kJournal] = lost;
+    host.answers = {{answer}};
+    host.work = [](Form& form) { form.Find("cmdOK")->Do({"click", {}}); };
+    StartKeeping();
+    EXPECT_EQ(Log().gblnZonesLoaded, answer == Answer::Kind::Yes);
+    if (answer == Answer::Kind::No) {
+      EXPECT_FALSE(files.files.contains(kJournal));
+    } else {
+      EXPECT_EQ(ChokeScale(), 7);
+      EXPECT_TRUE(Main().mnuFileSave.Enabled);
+    }
+    program.reset();
+    host.open.clear();
+  }
+  files.files[kJournal] = "nonsense";
+  host.messages.clear();
+  StartKeeping();
+  EXPECT_TRUE(host.messages.empty());
+}
+
+TEST_F(ZoneWindowsTest, Benchmarks) {
+  WriteMap();
+  StartKeeping("/car/a.map");
+  std::string told;
+  host.answers = {{Answer::Kind::File, "/car/a.map"}, {Answer::Kind::File, "/car/b.map"}};
+  host.work = [&](Form& form) {
+    if (form.name == "frmMaint") {
+      told += form.Caption() + ": ";
+      form.Find("cmdNew")->Do({"click", {}});
+      form.Find("cmdOK")->Do({"click", {}});
+    } else if (form.name == "frmBenchmarkDetails") {
+      for (const char* name : {"cmdSave", "cmdZones"}) told += form.Find(name)->Enabled() ? "1" : "0";
+      form.Find("txtName")->Do({"type", {""}});
+      form.Find("cmdOK")->Do({"click", {}});
+      form.Find("txtName")->Do({"type", {"Mine"}});
+      form.Find("cmdBrowse")->Do({"click", {}});
+      form.Find("cmdLoad")->Do({"click", {}});
+      for (const char* name : {"cmdSave", "cmdZones"}) told += form.Find(name)->Enabled() ? "1" : "0";
+      form.Find("cmdZones")->Do({"click", {}});
+      form.Find("cmdSave")->Do({"click", {}});
+      form.Find("cmdOK")->Do({"click", {}});
+    } else {
+      told += " " + form.Caption() + " ";
+      form.Find("txtZone", 6)->Do({"type", {"3"}});
+      form.Find("cmdOK")->Do({"click", {}});
+    }
+  };
+  Main().mnuCustomiseBenchmarks.Do({"click", {}});
+  EXPECT_EQ(told, "Zone Data Benchmark Editor: 0011 Tarnview Zone Data - Mine (benchmark) ");
+  EXPECT_EQ(MessageIds(), std::vector{47});
+  const clsBenchmarks& benchmarks = program->Global().gcolBenchmarks;
+  ASSERT_EQ(benchmarks.Count(), 2);
+  EXPECT_EQ(benchmarks.Item(2).strName + " " + benchmarks.Item(2).File, "Mine /car/a.map");
+  EXPECT_EQ(benchmarks.Item(2).ZoneSettings(6), 3);
+  EXPECT_EQ(benchmarks.Item(2).ChipVersion, 3);
+  EXPECT_NE(files.files["/car/b.map"].find(" 050 050 050 050 000 002 003"), 0u);
+}
+
+}  // namespace
+}  // namespace tarnview
