@@ -130,7 +130,7 @@ TEST_F(ZoneWindowsTest, Benchmarks) {
   WriteMap();
   StartKeeping("/car/a.map");
   std::string told;
-  host.answers = {{Answer::Kind::File, "/car/a.map"}, {Answer::Kind::File, "/car/b.map"}};
+  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::File, "/car/a.map"}, {Answer::Kind::File, "/car/b.map"}};
   host.work = [&](Form& form) {
     if (form.name == "frmMaint") {
       told += form.Caption() + ": ";
