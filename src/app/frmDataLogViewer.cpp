@@ -38,6 +38,10 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
   HelpTopic = "SampleGraph";
   SetUpZoomMenus();
   BindCommands();
+  zones_.Upload = [this](const ZoneSheet& sheet, const ZoneMap& source) {
+    ecu_.UploadZones(ZonesOfSheet(sheet, source, globals_.settings),
+                     [this](const std::string& path) { return zones_.LoadZones(path); });
+  };
   services_.messages.ShowNonModal = [this](Message, const std::string& text) { ShowNonModal(text); };
 }
 
