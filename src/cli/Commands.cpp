@@ -26,8 +26,8 @@ int RunCommandLine(int count, const char* const* arguments) {
   program.footer("Example:\n  tarnview-cli graph run.txt --items 3,5,20 --out run.png");
   int status = kDone;
   for (const auto add : {AddLoadCommand, AddTableCommand, AddExportCommand, AddGraphCommand, AddScatterCommand,
-                         AddPowerCommand, AddZonesCommand, AddDefinitionCommand, AddSettingsCommand, AddOptionsCommand,
-                         AddUploadCommand, AddDriveCommand})
+                         AddPowerCommand, AddZonesCommand, AddDefinitionCommand, AddSettingsCommand, AddShapeCommand,
+                         AddOptionsCommand, AddUploadCommand, AddDriveCommand})
     add(program, status);
   try {
     program.parse(count, arguments);
