@@ -27,6 +27,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       export_({lvwSampleDetails, chkShowCheckedOnly}, range_, log_, services.files, status_),
       output_(services.host, services.messages, services.errors),
       zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, plot_, log_),
+      roads_(globals, services.files),
       tags_(services.host, log_.gcolLogTags, *this),
       scatter_(*this, globals, services, range_, status_, *this),
       power_(*this, globals, services, range_, *this),
@@ -36,6 +37,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
   HelpTopic = "SampleGraph";
+  txtFindItem.Change = [this] { details_.FindItem(txtFindItem.Text()); };
   SetUpZoomMenus();
   BindCommands();
   zones_.Upload = [this](const ZoneSheet& sheet, const ZoneMap& source) {
@@ -73,8 +75,7 @@ void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
   const CommandLineFile file = ParseCommandLine(commandLine);
   if (file.path.empty()) return;
   const clsFileTypes& types = globals_.kinds.gcolFileTypes;
-  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType)
-                                     : types.GuessFileType(file.path, globals_.settings.gintDefaultFileType);
+  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType) : kUnknownFile;
   if (!services_.files.FileExists(file.path)) {
     services_.messages.ShowMessage(Message::FileNotLoaded);
     return;
@@ -87,7 +88,7 @@ void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
 bool frmDataLogViewer::DropFile(const std::string& path) {
   if (services_.files.FolderExists(path)) return false;
   return TrapEvent(services_.errors, "frmDataLogViewer", "DropFile", [&] {
-    if (SaveChangesPrompt()) LoadDataFile(path, kUnknownFile);
+    if (SaveChangesPrompt()) OpenFile(path, kUnknownFile);
   });
 }
 
