@@ -42,12 +42,16 @@ auto Trap(ErrorLog& log, const char* module, const char* procedure, Body&& body)
   }
 }
 
-/// Runs a user's action: a failure is logged and ends here. True if there was none.
+/// Runs a user's action: a failure is logged and ends here. True if there was none. Want of memory goes on to where
+/// events end, where the user is told.
 template <class Body>
 bool TrapEvent(ErrorLog& log, const char* module, const char* procedure, Body&& body) {
   try {
     std::forward<Body>(body)();
     return true;
+  } catch (const std::bad_alloc& error) {
+    log.LogError(module, procedure, AsRuntimeError(error), true);
+    throw;
   } catch (const std::exception& error) {
     log.LogError(module, procedure, AsRuntimeError(error), false);
   }

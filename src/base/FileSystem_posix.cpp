@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -48,6 +49,9 @@ int OpenRegular(const std::string& path, int flags) {
 }
 
 bool WriteAll(int file, std::string_view bytes) {
+  // A limit on the size of files is a full disk, not the end of the program.
+  static const auto before = ::signal(SIGXFSZ, SIG_IGN);
+  static_cast<void>(before);
   while (!bytes.empty()) {
     const ssize_t written = ::write(file, bytes.data(), bytes.size());
     if (written < 0 && errno == EINTR) continue;

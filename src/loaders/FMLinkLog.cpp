@@ -31,15 +31,12 @@ class Load {
   LoadOutcome Run(bool silent) {
     try {
       Read();
+    } catch (const std::bad_alloc&) {
+      throw;
     } catch (const std::exception&) {
       outcome_.messages.emplace_back(messageOfStage_);
     }
-    try {
-      End(silent);
-    } catch (const std::exception&) {  // out of memory
-      log_.gblnSamplesLoaded = false;
-      outcome_.messages.emplace_back(Message::FileNotLoaded);
-    }
+    End(silent);
     outcome_.loaded = log_.gblnSamplesLoaded || log_.gblnZonesLoaded || log_.gblnChangesLoaded;
     return outcome_;
   }
@@ -78,7 +75,7 @@ class Load {
     log_.zones.gblnZoneLayout6 = IsNormallyAspirated(log_.zones.zones[zone::kFlags]);
     context_.progress.Stage("Generating calculated data...");
     GenerateCalculatedData(log_, context_.tables);
-    if (samples_.Full()) outcome_.messages.emplace_back(Message::LogTooLong);
+    if (log_.blnTooLong) outcome_.messages.emplace_back(Message::LogTooLong);
   }
 
   const std::string_view bytes_;

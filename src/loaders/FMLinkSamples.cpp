@@ -52,7 +52,10 @@ void FMLinkSamples::Read(TextLines& lines, long lineStep) {
 void FMLinkSamples::ReadLine(std::string_view line) {
   switch (KindOfFMLinkLine(line)) {
     case FMLinkLine::Log: {
-      if (Full()) return;
+      if (Full()) {
+        log_.blnTooLong = true;
+        return;
+      }
       const int row = log_.glngDataLog.AddRow();
       ParseLogLine(line, current_.version18, items_, log_.glngDataLog, row);
       lastSample_ = log_.Sample(row);

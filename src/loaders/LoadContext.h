@@ -13,6 +13,8 @@
 
 namespace tarnview {
 
+// A loader answers with a LoadOutcome whatever the bytes are; std::bad_alloc alone leaves it.
+
 /// What a loader needs beside the file's bytes.
 struct LoadContext {
   OpenLog& log;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 
 namespace tarnview {
 namespace {
@@ -35,10 +36,12 @@ LoadOutcome LoadSampleLog(SampleLog& reader, std::string_view bytes, const LoadC
     log.glngDataLog.Prepare(context.items.Count(), expected);
     reader.ReadSamples(LineStep(lines));
     log.gblnSamplesLoaded = log.glngDataLog.Rows() >= kind.fewestSamples;
+  } catch (const std::bad_alloc&) {
+    throw;
   } catch (const std::exception&) {
     outcome.messages.push_back(messageOfStage);
   }
-  if (log.glngDataLog.Rows() >= kMostSamples) outcome.messages.push_back(Message::LogTooLong);
+  if (log.blnTooLong) outcome.messages.push_back(Message::LogTooLong);
   outcome.loaded = log.gblnSamplesLoaded;
   return outcome;
 }

@@ -35,7 +35,11 @@ class SampleLines {
 
   /// False at the end of the file, or once the store is full.
   bool Next(std::string_view& line) {
-    if (lines_.AtEnd() || context_.log.glngDataLog.Rows() >= kMostSamples) return false;
+    if (lines_.AtEnd()) return false;
+    if (context_.log.glngDataLog.Rows() >= kMostSamples) {
+      context_.log.blnTooLong = true;
+      return false;
+    }
     line = lines_.Next();
     if (++line_ == nextTelling_) Tell();
     return true;

@@ -14,6 +14,7 @@ void OpenLog::Clear(const clsLogDataItems& items, int expectedRows) {
   gblnSamplesLoaded = false;
   gblnZonesLoaded = false;
   gblnChangesLoaded = false;
+  blnTooLong = false;
   zones = {};
   gcolLogTags.RemoveAll();
 }

@@ -43,6 +43,7 @@ struct OpenLog {
   bool gblnZonesLoaded = false;
   bool gblnChangesLoaded = false;
   bool gblnZonesDirty = false;
+  bool blnTooLong = false;  ///< the file holds more lines than were taken (kMostSamples)
 
   LoadedZones zones;
   clsLogTags gcolLogTags;

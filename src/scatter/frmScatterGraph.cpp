@@ -125,7 +125,7 @@ int frmScatterGraph::FileType() const {
 void frmScatterGraph::SetCaption() {
   const OpenLog& log = around_.log;
   std::string caption = "Tarnview Scatter Graph - " + log.gstrCurrentFileTitle;
-  if (log.glngDataLog.Rows() >= kMostSamples)
+  if (log.blnTooLong)
     caption += " Sample Load Range " + std::to_string(log.glngFirstSampleTime) + " - " +
                std::to_string(log.glngLastSampleTime);
   Caption = caption;

@@ -102,7 +102,7 @@ class Load {
     SetTimes(header);
     if (log_.glngDataLog.Rows() >= kFewestSamples) log_.gblnSamplesLoaded = true;
     Smooth(header);
-    if (log_.glngDataLog.Rows() >= kMostSamples) outcome_.messages.emplace_back(Message::LogTooLong);
+    if (log_.blnTooLong) outcome_.messages.emplace_back(Message::LogTooLong);
   }
 
   void CheckHeader(const HeaderMap& header, std::string_view line) {
@@ -128,12 +128,14 @@ class Load {
     const long step = std::max(expected / 50, 1L);
     long nextTelling = step;
     long line = 0;
-    for (TextLines lines(text); !lines.AtEnd() && data.Rows() < kMostSamples;) {
+    TextLines lines(text);
+    while (!lines.AtEnd() && data.Rows() < kMostSamples) {
       data.Read(lines.Next());
       if (++line != nextTelling) continue;
       context_.progress.Line(line);
       nextTelling += step;
     }
+    log_.blnTooLong = !lines.AtEnd();
     data.Flush();
     stamps_ = data.Stamps();
   }
@@ -226,7 +228,9 @@ LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& contex
     Load(bytes, context, definition, outcome).Run();
   } catch (const DefinitionFault& fault) {
     outcome.messages.emplace_back(fault.Told(), fault.what());
-  } catch (const std::exception&) {  // out of memory
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception&) {
     context.log.Clear(context.items, 0);
     outcome.messages.emplace_back(Message::FileNotLoaded);
   }
