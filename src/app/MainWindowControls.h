@@ -61,6 +61,7 @@ class MainWindowControls : public Form {
   // The graph, or the place where it will be.
   Chart chSampleGraph{*this, "chSampleGraph"};
   Frame fraPicture{*this, "fraPicture"};
+  Label lblEmptyPlace{*this, "lblEmptyPlace"};
   CommandButton cmdDataPointLeft{*this, "cmdDataPointLeft", "<"};
   ScrollBar hsbGraphScroll{*this, "hsbGraphScroll"};
   ScrollBar hsbGraphScrollLarge{*this, "hsbGraphScrollLarge"};
@@ -78,7 +79,7 @@ class MainWindowControls : public Form {
   MenuItem mnuFileExport{*this, "mnuFileExport", "&Export...", "Ctrl+E"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};
-  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Picture &As..."};
+  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save P&icture As..."};
   MenuItem mnuSepRecentlyUsed{*this, "mnuSepRecentlyUsed", "-"};
   ControlArray<MenuItem> mnuRecentlyUsed{*this, "mnuRecentlyUsed", UpTo(kMostRecentFiles), "", ""};
   MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit"};
@@ -141,7 +142,7 @@ class MainWindowControls : public Form {
   MenuItem mnuRightClickPlotTo{*this, "mnuRightClickPlotTo", "Set Plot &To"};
   MenuItem mnuRightClickPlotFromAnd{*this, "mnuRightClickPlotFromAnd", "Set Plot From and Draw"};
   MenuItem mnuRightClickPlotToAnd{*this, "mnuRightClickPlotToAnd", "Set Plot To and Draw"};
-  MenuItem mnuRightClickNewDataTag{*this, "mnuRightClickNewDataTag", "New Data Ta&g"};
+  MenuItem mnuRightClickNewDataTag{*this, "mnuRightClickNewDataTag", "&New Data Tag"};
   MenuItem mnuRightClickCopy{*this, "mnuRightClickCopy", "&Copy Graph"};
   MenuItem mnuRightClickPrint{*this, "mnuRightClickPrint", "&Print..."};
 };

@@ -8,7 +8,6 @@
 namespace tarnview {
 namespace {
 
-constexpr const char* kShortOfMemory = "There is not enough memory for that.";
 constexpr const char* kInstallFile = "Tarnview_Install.ini";
 
 std::string In(const std::string& folder, const char* name) { return folder.empty() ? "" : folder + name; }
@@ -62,6 +61,9 @@ void Program::Start(const std::string& commandLine, bool splash) {
   host_.WhyNotSave = [this](const std::string& path) { return WhyNotSave(path); };
   host_.events.Failed = [this](const std::string& module, const std::string& procedure, const std::exception& error) {
     EventFailed(module, procedure, error);
+  };
+  messages_.Failed = [this](Message id, const std::string& text) {
+    errors_.LogError("Messages", "ShowMessage", RuntimeError(-static_cast<long>(id), text), false);
   };
   clsFileTypes& types = globals_.kinds.gcolFileTypes;
   for (int id = 1; id <= types.Count(); ++id) types.Item(id).blnEnabled = true;

@@ -16,10 +16,8 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       details_({lvwSampleDetails, chkShowCheckedOnly, chSampleGraph}, plot_, log_, globals.kinds.gcolLogFamilies),
       graph_(*this, {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture}, range_,
              plot_, log_, globals.settings, status_, services.messages, *this),
-      highlight_({chSampleGraph, cmdDataPointLeft, cmdDataPointRight}, plot_, range_, log_, details_, status_, *this),
-      scrolling_({hsbGraphScroll, hsbGraphScrollLarge, mnuViewScrollLeft, mnuViewScrollRight, mnuViewPageLeft,
-                  mnuViewPageRight, mnuViewStart, mnuViewFinish},
-                 plot_, range_, log_, *this),
+      highlight_({chSampleGraph}, plot_, range_, log_, details_, status_, *this),
+      scrolling_({hsbGraphScroll, hsbGraphScrollLarge}, plot_, range_, log_, *this),
       zoom_({cboZoomAmount, chkQuickGraph}, plot_, range_, log_, services.messages, *this),
       mouse_({chSampleGraph, chkQuickGraph, cmdZoomFull}, plot_, range_, log_, highlight_, *this),
       presets_({lvwPresets, lvwSampleDetails, chkShowCheckedOnly, chkFixY, txtYMax}, globals.gcolSampleGraphPresets,
@@ -103,8 +101,8 @@ void frmDataLogViewer::Form_Unload() {
   tags_.Unload();
 }
 
-void frmDataLogViewer::GraphDrawn() {
-  drawn_ = true;
+void frmDataLogViewer::SampleShown(std::int32_t index) {
+  zoneInfluence_.ShowSample(index);
   commands_.Update();
 }
 

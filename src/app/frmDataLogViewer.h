@@ -143,7 +143,11 @@ class frmDataLogViewer : public MainWindowControls,
   // Commands.
   std::vector<Command> FileCommands();
   std::vector<Command> ViewCommands();
+  std::vector<Command> ScrollCommands();
   std::vector<Command> GraphMenuCommands();
+  bool CanZoomIn() const { return graph_.Drawn() && zoom_.CanZoomIn(); }
+  bool CanZoomOut() const { return graph_.Drawn() && zoom_.CanZoomOut(); }
+  bool CanGoBack() const { return graph_.Drawn() && zoom_.HasPrevious(); }
   std::vector<Command> OutputCommands();
   PrintDetails DetailsToPrint() const;
   void BindCommands();
@@ -154,8 +158,8 @@ class frmDataLogViewer : public MainWindowControls,
   // What the parts ask for.
   void ZonesEdited() override { FileRenamed(); }
   void SetUpScrollBar() override { scrolling_.SetUp(); }
-  void GraphDrawn() override;
-  void SampleShown(std::int32_t index) override { zoneInfluence_.ShowSample(index); }
+  void GraphDrawn() override { commands_.Update(); }
+  void SampleShown(std::int32_t index) override;
   void ScrollOneStep(int direction) override { scrolling_.ScrollOneStep(direction); }
   void DrawSampleGraph() override { graph_.DrawSampleGraph(); }
   void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
@@ -200,7 +204,6 @@ class frmDataLogViewer : public MainWindowControls,
   Commands commands_;
   bool blnGotoShowPointWidth_ = false;
   bool exported_ = false;
-  bool drawn_ = false;  ///< a graph of the log that is open has been drawn
 };
 
 }  // namespace tarnview

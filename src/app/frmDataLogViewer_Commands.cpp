@@ -39,21 +39,23 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
 
 std::vector<Command> frmDataLogViewer::ViewCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
-  const auto drawn = [this] { return drawn_; };
-  const auto narrower = [this] { return drawn_ && range_.Span() >= 10; };
-  const auto wider = [this] { return drawn_ && !range_.IsWholeLog(); };
-  const auto previous = [this] { return drawn_ && !plot_.strPlotFromHistory[1].empty(); };
+  const auto drawn = [this] { return graph_.Drawn(); };
+  const auto narrower = [this] { return CanZoomIn(); };
+  const auto wider = [this] { return CanZoomOut(); };
   return {
       {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawGraph(); }, loaded},
       {&cmdZoomIn, "cmdZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
       {&cmdZoomOut, "cmdZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
       {&cmdZoomFull, "cmdZoomFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
-      {&cmdDataPointLeft, "cmdDataPointLeft_Click", [this] { highlight_.cmdDataPointLeft_Click(); }, drawn},
-      {&cmdDataPointRight, "cmdDataPointRight_Click", [this] { highlight_.cmdDataPointRight_Click(); }, drawn},
+      {&cmdDataPointLeft, "cmdDataPointLeft_Click", [this] { highlight_.cmdDataPointLeft_Click(); },
+       [this] { return graph_.Drawn() && highlight_.CanGoLeft(); }},
+      {&cmdDataPointRight, "cmdDataPointRight_Click", [this] { highlight_.cmdDataPointRight_Click(); },
+       [this] { return graph_.Drawn() && highlight_.CanGoRight(); }},
       {&mnuViewZoomIn, "mnuViewZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
       {&mnuViewZoomOut, "mnuViewZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
       {&mnuViewZoomFull, "mnuViewZoomFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
-      {&mnuViewPrevious, "mnuViewPrevious_Click", [this] { zoom_.ShowPreviousGraph(); }, previous},
+      {&mnuViewPrevious, "mnuViewPrevious_Click", [this] { zoom_.ShowPreviousGraph(); },
+       [this] { return CanGoBack(); }},
       {&mnuViewGoto, "mnuViewGoto_Click", [this] { GotoSample(); }, drawn},
       {&mnuViewNewDataTag, "mnuViewNewDataTag_Click", [this] { tags_.NewDataTag(); }, drawn},
       {&mnuViewTags, "mnuViewTags_Click", [this] { ShowDataTags(); }, [this] { return CanShowDataTags(); }},
@@ -62,9 +64,23 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
   };
 }
 
+std::vector<Command> frmDataLogViewer::ScrollCommands() {
+  const auto left = [this] { return graph_.Drawn() && scrolling_.CanGoLeft(); };
+  const auto right = [this] { return graph_.Drawn() && scrolling_.CanGoRight(); };
+  return {
+      {&mnuViewScrollLeft, "mnuViewScrollLeft_Click", [this] { scrolling_.ScrollLeft(); }, left},
+      {&mnuViewScrollRight, "mnuViewScrollRight_Click", [this] { scrolling_.ScrollRight(); }, right},
+      {&mnuViewPageLeft, "mnuViewPageLeft_Click", [this] { scrolling_.PageLeft(); }, left},
+      {&mnuViewPageRight, "mnuViewPageRight_Click", [this] { scrolling_.PageRight(); }, right},
+      {&mnuViewStart, "mnuViewStart_Click", [this] { scrolling_.ScrollStart(); }, left},
+      {&mnuViewFinish, "mnuViewFinish_Click", [this] { scrolling_.ScrollFinish(); }, right},
+  };
+}
+
 std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
-  const auto drawn = [this] { return drawn_; };
-  const auto same = [](const Control& other) { return [&other] { return other.Enabled(); }; };
+  const auto drawn = [this] { return graph_.Drawn(); };
+  const auto narrower = [this] { return CanZoomIn(); };
+  const auto wider = [this] { return CanZoomOut(); };
   const auto set = [this](TextBox& box) { box.Text = std::to_string(highlight_.SelectedSample()); };
   const auto setAndDraw = [this, set](TextBox& box) {
     plot_.lngHighlightSample = 0;
@@ -72,13 +88,13 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
     DrawGraph();
   };
   return {
-      {&mnuRightClickDrawGraph, "mnuRightClickDrawGraph_Click", [this] { DrawGraph(); }, same(cmdDrawGraph)},
-      {&mnuRightClickZoomIn, "mnuRightClickZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, same(cmdZoomIn)},
-      {&mnuRightClickZoomOut, "mnuRightClickZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, same(cmdZoomOut)},
-      {&mnuRightClickZoomOutFull, "mnuRightClickZoomOutFull_Click", [this] { zoom_.cmdZoomFull_Click(); },
-       same(cmdZoomFull)},
+      {&mnuRightClickDrawGraph, "mnuRightClickDrawGraph_Click", [this] { DrawGraph(); },
+       [this] { return log_.gblnSamplesLoaded; }},
+      {&mnuRightClickZoomIn, "mnuRightClickZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
+      {&mnuRightClickZoomOut, "mnuRightClickZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
+      {&mnuRightClickZoomOutFull, "mnuRightClickZoomOutFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
       {&mnuRightClickPrevGraph, "mnuRightClickPrevGraph_Click", [this] { zoom_.ShowPreviousGraph(); },
-       same(mnuViewPrevious)},
+       [this] { return CanGoBack(); }},
       {&mnuRightClickGoto, "mnuRightClickGoto_Click", [this] { GotoSample(); }, drawn},
       {&mnuRightClickPlotFrom, "mnuRightClickPlotFrom_Click", [this, set] { set(PlotRangeFrom); }, drawn},
       {&mnuRightClickPlotTo, "mnuRightClickPlotTo_Click", [this, set] { set(PlotRangeTo); }, drawn},
@@ -91,21 +107,14 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(), power_.Rows(),
-                      ecu_.Rows(), customising_.Rows(), zones_.Rows()})
+  for (auto&& part : {ViewCommands(), ScrollCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(),
+                      power_.Rows(), ecu_.Rows(), customising_.Rows(), zones_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
     rows.push_back(
         {item.get(), "mnuRecentlyUsed_Click", [this, index = item->index] { OpenRecentlyUsedFile(index); }, {}});
   commands_.Bind(std::move(rows));
 
-  // Enabled by the scroll bar's position, which Scrolling knows.
-  mnuViewScrollLeft.Click = [this] { scrolling_.ScrollLeft(); };
-  mnuViewScrollRight.Click = [this] { scrolling_.ScrollRight(); };
-  mnuViewPageLeft.Click = [this] { scrolling_.PageLeft(); };
-  mnuViewPageRight.Click = [this] { scrolling_.PageRight(); };
-  mnuViewStart.Click = [this] { scrolling_.ScrollStart(); };
-  mnuViewFinish.Click = [this] { scrolling_.ScrollFinish(); };
   chSampleGraph.RightClick = [this] {
     commands_.Update();
     host.PopupMenu(mnuRightClick);
@@ -143,7 +152,7 @@ bool frmDataLogViewer::Form_KeyDown(const KeyPress& key) {
     (left ? cmdDataPointLeft : cmdDataPointRight).Press();
     return true;
   }
-  if (!drawn_ || key.shift || key.Plain()) return false;
+  if (!graph_.Drawn() || key.shift || key.Plain()) return false;
   if (key.alt)
     left ? scrolling_.ScrollLeft() : scrolling_.ScrollRight();
   else
@@ -160,11 +169,11 @@ bool frmDataLogViewer::Form_KeyUp(const KeyPress& key) {
       {{"Down", true}, [this] { highlight_.MoveBetweenSeries(-1); }},
       {{"End", false, true},
        [this] {
-         if (drawn_) scrolling_.ScrollFinish();
+         if (graph_.Drawn()) scrolling_.ScrollFinish();
        }},
       {{"Home", false, true},
        [this] {
-         if (drawn_) scrolling_.ScrollStart();
+         if (graph_.Drawn()) scrolling_.ScrollStart();
        }},
       {{"F", false, true}, [this] { cmdZoomFull.Press(); }},
       {{"I", false, true}, [this] { cmdZoomIn.Press(); }},

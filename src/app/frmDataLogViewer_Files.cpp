@@ -1,6 +1,7 @@
 // The main window's road of one file: choosing it, loading it, what a load clears and what it sets up.
 
 #include <algorithm>
+#include <new>
 
 #include "app/Loaders.h"
 #include "app/frmDataLogViewer.h"
@@ -84,6 +85,7 @@ bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
     recent_.AddRecentlyUsedFile(path, fileType);
     LoadDatalogFileSuccess(fileType);
     status_.Say("Loading complete");
+    if (globals_.settings.beyond.drawAfterOpening && graph_.AnyChecked()) DrawGraph();
     if (fileType != kMAPFile) scatter_.DrawAutoScatterGraphs();
   } else {
     services_.messages.ShowMessage(Message::TooFewRecords);
@@ -109,8 +111,15 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
   saving_.FileOpened(*bytes);
   LoadConversionFiles();
   StatusProgress progress(status_);
-  LoadOutcome outcome =
-      loader->load(*bytes, {log_, items, globals_.settings, globals_.tables, progress}, globals_.gclsDataLogDefinition);
+  LoadOutcome outcome;
+  try {
+    outcome = loader->load(*bytes, {log_, items, globals_.settings, globals_.tables, progress},
+                           globals_.gclsDataLogDefinition);
+  } catch (const std::bad_alloc&) {
+    log_.Clear(items, 0);
+    services_.messages.Tell(kShortOfMemory, kBoxExclamation);
+    return false;
+  }
   if (!outcome.error.empty()) services_.messages.Tell(outcome.error, kBoxExclamation);
   if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
   TellMessages(outcome);
@@ -140,7 +149,7 @@ void frmDataLogViewer::TellNotRead(const std::string& path, bool read) {
 }
 
 void frmDataLogViewer::HideForLoad() {
-  drawn_ = exported_ = false;
+  exported_ = false;
   log_.gblnSamplesLoaded = log_.gblnZonesLoaded = log_.gblnChangesLoaded = false;
   log_.gblnZonesDirty = false;
   log_.glngFirstSampleTime = log_.glngLastSampleTime = 0;
@@ -152,13 +161,13 @@ void frmDataLogViewer::HideForLoad() {
   scatter_.LogIsClosing();
   power_.LogIsClosing();
   scrolling_.Disable();
-  cmdDataPointLeft.Enabled = cmdDataPointRight.Enabled = false;
   fraGraphSeriesFrame.Enabled = false;
   Caption = std::string("Tarnview");
   status_.SayLoaded("");
   details_.ClearValues();
   zoneInfluence_.ClearZoneInfluence();
   fraZoneInfl.Enabled = false;
+  lblEmptyPlace.Caption = std::string("Open a log, or drop one here");
   commands_.Update();
   host.DoEvents();
 }
@@ -188,6 +197,7 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
     SetFirstRange();
     scrolling_.TakeLog();
     fraGraphSeriesFrame.Enabled = true;
+    lblEmptyPlace.Caption = std::string("Press Draw, or Enter");
   }
   export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
   presets_.PopulatePresetGraphs(false, fileType);

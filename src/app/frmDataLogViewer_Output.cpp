@@ -6,7 +6,7 @@
 namespace tarnview {
 
 std::vector<Command> frmDataLogViewer::OutputCommands() {
-  const auto drawn = [this] { return drawn_; };
+  const auto drawn = [this] { return graph_.Drawn(); };
   const auto copy = [this] { output_.Copy(chSampleGraph); };
   const auto print = [this] { output_.Print(chSampleGraph, DetailsToPrint()); };
   return {

@@ -24,12 +24,17 @@ constexpr WrongFile kWrongFiles[] = {
     {Message::NotAUTECFixedLog, 7, 6},
 };
 
+/// What went wrong here is of use to whoever mends it.
+constexpr Message kOwnFailures[] = {Message::SomethingWentWrong, Message::HelpFailed, Message::SettingsNotWritten};
+
 }  // namespace
 
 Messages::Messages(Host& host, std::function<std::string(int)> fileTypeDescription)
     : host_(host), fileTypeDescription_(std::move(fileTypeDescription)) {}
 
 void Messages::ShowMessage(Message id, bool nonModal, const std::string& extra) {
+  const bool ownFailure = std::find(std::begin(kOwnFailures), std::end(kOwnFailures), id) != std::end(kOwnFailures);
+  if (Failed && ownFailure) Failed(id, TextWith(id, extra));
   if (nonModal && ShowNonModal)
     ShowNonModal(id, BoxOf(id, extra).text);
   else

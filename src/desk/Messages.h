@@ -9,6 +9,7 @@
 namespace tarnview {
 
 inline constexpr const char* kApplicationTitle = "Tarnview";
+inline constexpr const char* kShortOfMemory = "There is not enough memory for that.";
 
 /// The numbered messages and questions of the program.
 class Messages {
@@ -32,6 +33,8 @@ class Messages {
   std::string Text(Message id) const;
   static int Style(Message id);
 
+  /// Told of each message that says that something of the program's own went wrong, for the error log.
+  std::function<void(Message id, const std::string& text)> Failed;
   /// How a non-modal message is shown; the windows' room sets it. Unset, it is a box.
   std::function<void(Message id, const std::string& text)> ShowNonModal;
 

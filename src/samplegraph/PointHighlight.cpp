@@ -40,9 +40,15 @@ void PointHighlight::ShowSample(std::int32_t index) {
   plot_.lngHighlightSample = log_.Sample(index);
   LookAt(index);
   mainWindow_.SampleShown(index);
-  controls_.cmdDataPointLeft.Enabled = range_.From() > log_.glngFirstSampleTime || plot_.lngSelectedPoint >= 2;
-  // Compares sample numbers and passes thinning over, on purpose.
-  controls_.cmdDataPointRight.Enabled = range_.From() + plot_.lngSelectedPoint - 1 < log_.glngLastSampleTime;
+}
+
+bool PointHighlight::CanGoLeft() const {
+  return range_.From() > log_.glngFirstSampleTime || plot_.lngSelectedPoint >= 2;
+}
+
+// Compares sample numbers and passes thinning over, on purpose.
+bool PointHighlight::CanGoRight() const {
+  return range_.From() + plot_.lngSelectedPoint - 1 < log_.glngLastSampleTime;
 }
 
 void PointHighlight::LookAt(std::int32_t index) {

@@ -8,7 +8,6 @@
 #include "samplegraph/PlotState.h"
 #include "samplegraph/SampleDetails.h"
 #include "ui/Chart.h"
-#include "ui/CommandButton.h"
 
 namespace tarnview {
 
@@ -18,8 +17,6 @@ class PointHighlight {
  public:
   struct Controls {
     Chart& chSampleGraph;
-    CommandButton& cmdDataPointLeft;
-    CommandButton& cmdDataPointRight;
   };
   /// What it needs of the main window.
   struct MainWindow {
@@ -30,6 +27,8 @@ class PointHighlight {
   PointHighlight(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
                  SampleDetails& details, StatusArea& status, MainWindow& mainWindow);
 
+  bool CanGoLeft() const;
+  bool CanGoRight() const;
   void cmdDataPointLeft_Click();
   void cmdDataPointRight_Click();
   /// To the curve next above (1) or below (-1) at the selected point.

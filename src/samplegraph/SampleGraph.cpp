@@ -21,10 +21,6 @@ bool Note(std::array<std::string, 2>& history, const std::string& text) {
   return true;
 }
 
-bool AnyChecked(const ListView& list) {
-  return std::any_of(list.Rows().begin(), list.Rows().end(), [](const auto& row) { return row.checked; });
-}
-
 }  // namespace
 
 SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& range, PlotState& plot, const OpenLog& log,
@@ -45,10 +41,15 @@ SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& rang
   controls_.updYMax.DownClick = [this] { StepYMax(-10); };
 }
 
+bool SampleGraph::AnyChecked() const {
+  const auto& rows = controls_.lvwSampleDetails.Rows();
+  return std::any_of(rows.begin(), rows.end(), [](const auto& row) { return row.checked; });
+}
+
 void SampleGraph::DrawGraphChecked() {
   if (!log_.gblnSamplesLoaded) return;
   ApplyFixedGraphMax();
-  if (!AnyChecked(controls_.lvwSampleDetails)) {
+  if (!AnyChecked()) {
     messages_.ShowMessage(Message::NothingChecked);
     return;
   }

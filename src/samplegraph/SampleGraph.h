@@ -45,6 +45,10 @@ class SampleGraph {
   void DrawGraphChecked();
   /// Draws without those checks; builds nothing where nothing has changed.
   void DrawSampleGraph();
+  /// There is something to draw.
+  bool AnyChecked() const;
+  /// A graph of the open log is on show.
+  bool Drawn() const { return log_.gblnSamplesLoaded && !controls_.chSampleGraph.Data().Series().empty(); }
   /// Brings the typed maximum onto the scale's steps.
   void ApplyFixedGraphMax();
   /// The table row that shows a sample, walked to from an estimate.

@@ -62,7 +62,6 @@ void Scrolling::SetUp() {
     controls_.hsbGraphScroll.Value = value;
   }
   plot_.blnIgnoreScroll = false;
-  UpdateScrollCommands();
 }
 
 /// The thumb of the long bar is as long, against its way, as that of the plain one.
@@ -77,9 +76,6 @@ void Scrolling::ShowShare(std::int32_t large, std::int32_t way) {
 void Scrolling::Disable() {
   controls_.hsbGraphScroll.Enabled = false;
   controls_.hsbGraphScrollLarge.Enabled = false;
-  for (MenuItem* item : {&controls_.mnuViewScrollLeft, &controls_.mnuViewScrollRight, &controls_.mnuViewPageLeft,
-                         &controls_.mnuViewPageRight, &controls_.mnuViewStart, &controls_.mnuViewFinish})
-    item->Enabled = false;
 }
 
 Scrolling::Bar Scrolling::Read() const {
@@ -118,15 +114,6 @@ void Scrolling::Moved() {
   }
   if (plot_.lngHighlightSample < range_.From() || plot_.lngHighlightSample > range_.To()) plot_.lngHighlightSample = 0;
   mainWindow_.DrawSampleGraph();
-  UpdateScrollCommands();
-}
-
-void Scrolling::UpdateScrollCommands() {
-  const Bar bar = Read();
-  for (MenuItem* item : {&controls_.mnuViewScrollLeft, &controls_.mnuViewPageLeft, &controls_.mnuViewStart})
-    item->Enabled = bar.value != bar.min;
-  for (MenuItem* item : {&controls_.mnuViewScrollRight, &controls_.mnuViewPageRight, &controls_.mnuViewFinish})
-    item->Enabled = bar.value != bar.max;
 }
 
 void Scrolling::ScrollStart() { MoveTo(Read().min); }

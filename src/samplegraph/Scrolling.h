@@ -4,7 +4,6 @@
 #include "samplegraph/CLongScroll.h"
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/PlotState.h"
-#include "ui/MenuItem.h"
 #include "ui/ScrollBar.h"
 
 namespace tarnview {
@@ -18,12 +17,6 @@ class Scrolling {
   struct Controls {
     ScrollBar& hsbGraphScroll;
     ScrollBar& hsbGraphScrollLarge;
-    MenuItem& mnuViewScrollLeft;
-    MenuItem& mnuViewScrollRight;
-    MenuItem& mnuViewPageLeft;
-    MenuItem& mnuViewPageRight;
-    MenuItem& mnuViewStart;
-    MenuItem& mnuViewFinish;
   };
   /// What it needs of the main window.
   struct MainWindow {
@@ -39,6 +32,8 @@ class Scrolling {
   void SetUp();
   void Disable();
 
+  bool CanGoLeft() const { return Read().value != Read().min; }
+  bool CanGoRight() const { return Read().value != Read().max; }
   void ScrollStart();
   void ScrollFinish();
   void PageLeft();
@@ -56,7 +51,6 @@ class Scrolling {
   Bar Read() const;
   void MoveTo(std::int64_t value);
   void Moved();
-  void UpdateScrollCommands();
   void ShowShare(std::int32_t large, std::int32_t way);
 
   Controls controls_;

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::int32_t kLeastAmount = 2;
 constexpr std::int32_t kGreatestAmount = 100;
+/// A range narrower than this, To less From, is narrow enough.
+constexpr std::int64_t kNarrowestToZoom = 10;
 
 }  // namespace
 
@@ -34,6 +36,8 @@ std::int32_t Zoom::Centre() const {
                                  : RoundToLong(plot_.lngPlotFirstIndex + plot_.Width() / 2.0);
   return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
 }
+
+bool Zoom::CanZoomIn() const { return range_.Span() >= kNarrowestToZoom; }
 
 void Zoom::cmdZoomIn_Click() {
   const std::int64_t centre = Centre();

@@ -25,6 +25,10 @@ class Zoom {
   Zoom(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, Messages& messages,
        MainWindow& mainWindow);
 
+  bool CanZoomIn() const;
+  bool CanZoomOut() const { return !range_.IsWholeLog(); }
+  /// A graph was drawn before the one on show.
+  bool HasPrevious() const { return !plot_.strPlotFromHistory[1].empty(); }
   void cmdZoomIn_Click();
   void cmdZoomOut_Click();
   void cmdZoomFull_Click();

@@ -153,6 +153,17 @@ TEST_F(DrawGraph, ZoomsAboutThePointAndGoesBack) {
   EXPECT_EQ(Range(), "1-2000");
 }
 
+TEST_F(DrawGraph, TheWalkAlongThePointsHasOneRule) {
+  Open(50);
+  Main().cmdDrawGraph.Press();
+  for (const auto& [point, left, right] : {std::tuple{1, false, true}, {2, true, true}, {50, true, false}}) {
+    Main().chSampleGraph.SelectPoint(1, point);
+    Main().chSampleGraph.RightClick();
+    EXPECT_EQ(Main().cmdDataPointLeft.Enabled(), left) << point;
+    EXPECT_EQ(Main().cmdDataPointRight.Enabled(), right) << point;
+  }
+}
+
 TEST_F(DrawGraph, ScrollsAlongTheLog) {
   Open(2000);
   Type("501", "601");

@@ -90,6 +90,21 @@ TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
   EXPECT_TRUE(Log().gblnSamplesLoaded);
 }
 
+TEST_F(OpenFile, IsDrawnAtOnceWhereThatIsWanted) {
+  files.files["/logs/run.txt"] = SmallLog(40);
+  for (const char* settings : {"[General]\nChecked Data Items=3\n", "[General]\nChecked Data Items=\n"})
+    for (const bool wanted : {false, true}) {
+      Start("", settings + std::string(wanted ? "[Beyond]\nDraw After Opening=Y\n" : ""));
+      EXPECT_EQ(Main().lblEmptyPlace.Caption(), "Open a log, or drop one here");
+      host.messages.clear();
+      Main().LoadDataFile("/logs/run.txt", 0);
+      const bool ticked = settings[std::string_view(settings).size() - 2] == '3';
+      EXPECT_EQ(Main().chSampleGraph.Visible(), wanted && ticked) << settings;
+      EXPECT_EQ(Main().lblEmptyPlace.Caption(), "Press Draw, or Enter");
+      EXPECT_EQ(MessageIds(), (Ids{16}));
+    }
+}
+
 TEST_F(OpenFile, AMissingRecentFileIsToldAndStays) {
   files.files["/logs/run.txt"] = SmallLog(5);
   Start("/logs/run.txt");
