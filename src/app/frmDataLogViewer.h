@@ -84,7 +84,10 @@ class frmDataLogViewer : public MainWindowControls,
   ScatterWindows& Scatter() { return scatter_; }
   PowerWindows& Power() { return power_; }
   ZoneWindows& Zones() { return zones_; }
-  PlotState& Plot() { return plot_; }
+  const DrawnGraph& Drawn() const { return drawn_; }
+  Selection& Selected() { return selection_; }
+  /// The next draw builds the graph in any case.
+  void ForceRedraw() { redraw_.Force(); }
   const RecentFiles& Recent() const { return recent_; }
 
   bool DropFile(const std::string& path) override;
@@ -162,6 +165,7 @@ class frmDataLogViewer : public MainWindowControls,
   void SampleShown(std::int32_t index) override;
   void ScrollOneStep(int direction) override { scrolling_.ScrollOneStep(direction); }
   void DrawSampleGraph() override { graph_.DrawSampleGraph(); }
+  void DrawSampleGraphAfter(const RangeHistory& history) override { graph_.DrawSampleGraphAfter(history); }
   void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
   bool CurrentRange(clsLogTag& tag) const override;
   void ShowRange(const clsLogTag& tag) override;
@@ -178,9 +182,11 @@ class frmDataLogViewer : public MainWindowControls,
   Services& services_;
   SettingsFile& settingsFile_;
   OpenLog& log_;
-  PlotState plot_;
+  DrawnGraph drawn_;
+  Selection selection_;
+  RedrawRequest redraw_;
   StatusArea status_{*this, staDataLogViewer, proProgInd};
-  PlotRange range_{{PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log_, plot_};
+  PlotRange range_{{PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log_, selection_, redraw_};
   SampleDetails details_;
   SampleGraph graph_;
   PointHighlight highlight_;

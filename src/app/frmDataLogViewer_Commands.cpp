@@ -83,7 +83,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
   const auto wider = [this] { return CanZoomOut(); };
   const auto set = [this](TextBox& box) { box.Text = std::to_string(highlight_.SelectedSample()); };
   const auto setAndDraw = [this, set](TextBox& box) {
-    plot_.lngHighlightSample = 0;
+    selection_.Forget();
     set(box);
     DrawGraph();
   };

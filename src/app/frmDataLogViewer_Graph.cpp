@@ -15,7 +15,7 @@ constexpr std::int64_t kNarrowGraph = 10;
 }  // namespace
 
 void frmDataLogViewer::GotoSample() {
-  frmGoto window(host, log_, plot_.lngHighlightSample, blnGotoShowPointWidth_);
+  frmGoto window(host, log_, selection_.lngHighlightSample(), blnGotoShowPointWidth_);
   window.ShowModal();
   if (!window.Accepted() || window.lngSampleNumber() <= 0) return;
   blnGotoShowPointWidth_ = window.blnShowPointWidth();
@@ -30,8 +30,8 @@ void frmDataLogViewer::ShowAround(std::int32_t sample, bool showPointWidth) {
   range_.SetTo(RoundToLong(sample + half));
   // A range box that loses the focus forgets the highlight, so this comes first.
   chSampleGraph.SetFocus();
-  plot_.lngHighlightSample = sample;
-  plot_.blnForceRedraw = true;
+  selection_.Highlight(sample);
+  redraw_.Force();
   DrawGraph();
 }
 

@@ -100,7 +100,7 @@ bool DrawMainWindow(const QDir& folder, const Content& content, bool dark) {
         window.resize(size);
         settings.gintGraphColourScheme = scheme;
         if (settings.gblnDisplayZoneInfluence != zones) form.mnuViewZoneInfl.Click();
-        form.Plot().blnForceRedraw = true;
+        form.ForceRedraw();
         form.DrawGraph();
         host.DoEvents();
         host.DoEvents();

@@ -17,9 +17,9 @@ constexpr std::int32_t kNarrowest = 2;
 
 }  // namespace
 
-GraphMouse::GraphMouse(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+GraphMouse::GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log,
                        PointHighlight& highlight, MainWindow& mainWindow)
-    : controls_(controls), plot_(plot), range_(range), log_(log), highlight_(highlight), mainWindow_(mainWindow) {
+    : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), highlight_(highlight), mainWindow_(mainWindow) {
   Chart& chart = controls_.chSampleGraph;
   chart.Wheel = [this](double x, double notches) { ZoomAt(x, notches); };
   chart.Band = [this](double x1, double x2) { ShowBand(x1, x2); };
@@ -54,14 +54,14 @@ std::int32_t GraphMouse::WidestRange() const {
 
 void GraphMouse::ZoomAt(double x, double notches) {
   if (!Drawn() || notches == 0) return;
-  const std::int32_t width = plot_.Width();
-  const std::int32_t at = std::clamp(IndexAt(x), plot_.lngPlotFirstIndex, plot_.lngPlotLastIndex);
+  const std::int32_t width = drawn_.Width();
+  const std::int32_t at = std::clamp(IndexAt(x), drawn_.lngPlotFirstIndex, drawn_.lngPlotLastIndex);
   const std::int32_t widest = WidestRange();
   const double zoomed = width * std::pow(kZoomOfNotch, -notches);
   std::int32_t wanted = RoundToLong(std::min<double>(zoomed, widest));
   if (wanted == width) wanted += notches < 0 ? 1 : -1;
   wanted = std::clamp(wanted, std::min(kNarrowest, widest), widest);
-  const double share = width > 0 ? static_cast<double>(at - plot_.lngPlotFirstIndex) / width : 0.5;
+  const double share = width > 0 ? static_cast<double>(at - drawn_.lngPlotFirstIndex) / width : 0.5;
   const std::int32_t first =
       std::clamp(RoundToLong(at - share * wanted), log_.glngFirstSample, log_.glngLastSample - wanted);
   ShowRows(first, first + wanted, Move::OneOfMany);
@@ -70,8 +70,8 @@ void GraphMouse::ZoomAt(double x, double notches) {
 
 void GraphMouse::MoveTo(double grabbed, double x) {
   if (!Drawn()) return;
-  const std::int32_t width = plot_.lngPlotLastIndex - plot_.lngPlotFirstIndex;
-  const std::int32_t first = std::clamp(plot_.lngPlotFirstIndex + IndexAt(grabbed) - IndexAt(x), log_.glngFirstSample,
+  const std::int32_t width = drawn_.lngPlotLastIndex - drawn_.lngPlotFirstIndex;
+  const std::int32_t first = std::clamp(drawn_.lngPlotFirstIndex + IndexAt(grabbed) - IndexAt(x), log_.glngFirstSample,
                                         log_.glngLastSample - width);
   ShowRows(first, first + width, Move::OneOfMany);
   if (pointing_) PointAt(grabbed);
@@ -82,36 +82,33 @@ void GraphMouse::ShowBand(double x1, double x2) {
 }
 
 void GraphMouse::ShowRows(std::int32_t first, std::int32_t last, Move move) {
-  if (first == plot_.lngPlotFirstIndex && last == plot_.lngPlotLastIndex) return;
+  if (first == drawn_.lngPlotFirstIndex && last == drawn_.lngPlotLastIndex) return;
   range_.SetFrom(log_.Sample(first));
   range_.SetTo(log_.Sample(last));
   // Where numbers are missing from the log, rows are fewer than numbers.
   if (!controls_.chkQuickGraph.Value && range_.Span() > kWidestFullRange)
     range_.SetTo(range_.From() + kWidestFullRange);
   range_.EnsureMinimumPlotRange();
-  if (plot_.lngHighlightSample < range_.From() || plot_.lngHighlightSample > range_.To()) plot_.lngHighlightSample = 0;
+  selection_.KeepWithin(range_.From(), range_.To());
   Draw(move);
 }
 
 /// Notches and steps of a drag that follow each other, with no other draw between them, are one move for the history:
 /// "Previous Graph" leads back to where the hand began.
 void GraphMouse::Draw(Move move) {
-  const History now{plot_.strPlotFromHistory, plot_.strPlotToHistory};
-  if (move == Move::OneOfMany && now == afterMove_) {
-    plot_.strPlotFromHistory = beforeMove_[0];
-    plot_.strPlotToHistory = beforeMove_[1];
-    plot_.blnForceRedraw = true;
+  if (move == Move::OneOfMany && drawn_.history == afterMove_) {
+    mainWindow_.DrawSampleGraphAfter(beforeMove_);
   } else {
-    beforeMove_ = now;
+    beforeMove_ = drawn_.history;
+    mainWindow_.DrawSampleGraph();
   }
-  mainWindow_.DrawSampleGraph();
-  afterMove_ = move == Move::OneOfMany ? History{plot_.strPlotFromHistory, plot_.strPlotToHistory} : History{};
+  afterMove_ = move == Move::OneOfMany ? drawn_.history : RangeHistory{};
 }
 
 void GraphMouse::PointAt(double x) {
   if (!Drawn()) return;
   pointing_ = true;
-  const std::int32_t index = std::clamp(IndexAt(x), plot_.lngPlotFirstIndex, plot_.lngPlotLastIndex);
+  const std::int32_t index = std::clamp(IndexAt(x), drawn_.lngPlotFirstIndex, drawn_.lngPlotLastIndex);
   controls_.chSampleGraph.HairLine = TimeOf(index);
   highlight_.LookAt(index);
 }

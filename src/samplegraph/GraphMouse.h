@@ -1,11 +1,9 @@
 #pragma once
 
-#include <array>
-#include <string>
-
 #include "model/OpenLog.h"
 #include "samplegraph/PlotRange.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/DrawnGraph.h"
+#include "samplegraph/Selection.h"
 #include "samplegraph/PointHighlight.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
@@ -26,13 +24,13 @@ class GraphMouse {
   struct MainWindow {
     virtual ~MainWindow() = default;
     virtual void DrawSampleGraph() = 0;
+    /// Draws as if that had been drawn last: "Previous Graph" will lead back to it.
+    virtual void DrawSampleGraphAfter(const RangeHistory& history) = 0;
   };
-  GraphMouse(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, PointHighlight& highlight,
+  GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, PointHighlight& highlight,
              MainWindow& mainWindow);
 
  private:
-  /// From's and To's history.
-  using History = std::array<std::array<std::string, 2>, 2>;
   enum class Move { Alone, OneOfMany };
 
   void ZoomAt(double x, double notches);
@@ -49,14 +47,15 @@ class GraphMouse {
   std::int32_t WidestRange() const;
 
   Controls controls_;
-  PlotState& plot_;
+  const DrawnGraph& drawn_;
+  Selection& selection_;
   PlotRange& range_;
   const OpenLog& log_;
   PointHighlight& highlight_;
   MainWindow& mainWindow_;
   bool pointing_ = false;
-  History beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a graph being drawn along
-  History afterMove_;
+  RangeHistory beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a graph being drawn along
+  RangeHistory afterMove_;
 };
 
 }  // namespace tarnview

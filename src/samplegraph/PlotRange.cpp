@@ -6,9 +6,9 @@
 
 namespace tarnview {
 
-PlotRange::PlotRange(const Controls& controls, const OpenLog& log, PlotState& plot)
-    : controls_(controls), log_(log), plot_(plot) {
-  const auto edited = [this] { plot_.blnRangeEdited = true; };
+PlotRange::PlotRange(const Controls& controls, const OpenLog& log, Selection& selection, RedrawRequest& redraw)
+    : controls_(controls), log_(log), selection_(selection), redraw_(redraw) {
+  const auto edited = [this] { redraw_.RangeEdited(); };
   controls_.PlotRangeFrom.Change = edited;
   controls_.PlotRangeTo.Change = edited;
   controls_.PlotRangeFrom.LostFocus = [this] { LeaveFrom(); };
@@ -64,13 +64,13 @@ bool PlotRange::IsWholeLog() const { return From() == log_.glngFirstSampleTime &
 void PlotRange::LeaveFrom() {
   if (!log_.gblnSamplesLoaded) return;
   if (Outside(From())) SetFromToFirst();
-  plot_.lngHighlightSample = 0;
+  selection_.Forget();
 }
 
 void PlotRange::LeaveTo() {
   if (!log_.gblnSamplesLoaded) return;
   if (Outside(To())) SetToToLast();
-  plot_.lngHighlightSample = 0;
+  selection_.Forget();
 }
 
 void PlotRange::Step(TextBox& box, int by) {

@@ -4,7 +4,8 @@
 #include <string>
 
 #include "model/OpenLog.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/RedrawRequest.h"
+#include "samplegraph/Selection.h"
 #include "ui/TextBox.h"
 #include "ui/UpDown.h"
 
@@ -19,7 +20,7 @@ class PlotRange {
     TextBox& PlotRangeTo;
     UpDown& updPlotRangeTo;
   };
-  PlotRange(const Controls& controls, const OpenLog& log, PlotState& plot);
+  PlotRange(const Controls& controls, const OpenLog& log, Selection& selection, RedrawRequest& redraw);
 
   std::int64_t From() const;
   std::int64_t To() const;
@@ -55,7 +56,8 @@ class PlotRange {
 
   Controls controls_;
   const OpenLog& log_;
-  PlotState& plot_;
+  Selection& selection_;
+  RedrawRequest& redraw_;
 };
 
 }  // namespace tarnview

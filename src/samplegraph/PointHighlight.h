@@ -5,7 +5,8 @@
 #include "desk/StatusArea.h"
 #include "model/OpenLog.h"
 #include "samplegraph/PlotRange.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/DrawnGraph.h"
+#include "samplegraph/Selection.h"
 #include "samplegraph/SampleDetails.h"
 #include "ui/Chart.h"
 
@@ -24,7 +25,7 @@ class PointHighlight {
     virtual void ScrollOneStep(int direction) = 0;     ///< -1 left, 1 right, stopping at the log's end
     virtual void SampleShown(std::int32_t index) = 0;  ///< the store index whose values are on show now
   };
-  PointHighlight(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+  PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection, const PlotRange& range, const OpenLog& log,
                  SampleDetails& details, StatusArea& status, MainWindow& mainWindow);
 
   bool CanGoLeft() const;
@@ -41,12 +42,16 @@ class PointHighlight {
   void LookAt(std::int32_t index);
 
  private:
+  /// To a curve at the selected point, whose sample's values and row in the list stay as they are.
+  void MoveToCurve(int place);
+  void Note(int intSeries, int lngDataPoint);
   void chSampleGraph_PointSelected(int intSeries, int lngDataPoint);
   void ShowSample(std::int32_t index);
 
   Controls controls_;
-  PlotState& plot_;
-  PlotRange& range_;
+  const DrawnGraph& drawn_;
+  Selection& selection_;
+  const PlotRange& range_;
   const OpenLog& log_;
   SampleDetails& details_;
   StatusArea& status_;

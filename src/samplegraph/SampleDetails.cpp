@@ -14,9 +14,9 @@ constexpr int kFirstCurveRow = 3;
 
 }  // namespace
 
-SampleDetails::SampleDetails(const Controls& controls, PlotState& plot, const OpenLog& log,
-                             const clsLogFamilies& families)
-    : controls_(controls), plot_(plot), log_(log), families_(families) {
+SampleDetails::SampleDetails(const Controls& controls, const DrawnGraph& drawn, const Selection& selection,
+                             const OpenLog& log, const clsLogFamilies& families)
+    : controls_(controls), drawn_(drawn), selection_(selection), log_(log), families_(families) {
   controls_.chkShowCheckedOnly.ToolTip =
       std::string("Check this to only display the data items that have been checked");
   controls_.chkShowCheckedOnly.Click = [this] { chkShowCheckedOnly_Click(); };
@@ -88,7 +88,7 @@ void SampleDetails::chkShowCheckedOnly_Click() {
 }
 
 void SampleDetails::ShowHighlighted() {
-  const std::int32_t sample = plot_.lngHighlightSample;
+  const std::int32_t sample = selection_.lngHighlightSample();
   PopulateSampleListView(LocateSample(log_, sample - log_.glngFirstSampleTime, sample));
 }
 
@@ -102,12 +102,9 @@ void SampleDetails::lvwSampleDetails_ItemCheck(int row) {
 void SampleDetails::lvwSampleDetails_ItemClick(int row) {
   if (!controls_.chSampleGraph.Visible || row < kFirstCurveRow) return;
   const int item = StringToLong(controls_.lvwSampleDetails.At(row).tag);
-  const auto found = std::find(plot_.intPlottedItems.begin(), plot_.intPlottedItems.end(), item);
-  if (found == plot_.intPlottedItems.end() || plot_.lngSelectedPoint < 1) return;
-  plot_.blnSkipPointSelected = true;
-  plot_.blnSkipListSelect = true;
-  controls_.chSampleGraph.SelectPoint(2 * static_cast<int>(found - plot_.intPlottedItems.begin()) + 1,
-                                      plot_.lngSelectedPoint);
+  const auto found = std::find(drawn_.intPlottedItems.begin(), drawn_.intPlottedItems.end(), item);
+  if (found != drawn_.intPlottedItems.end() && CurveChosen)
+    CurveChosen(static_cast<int>(found - drawn_.intPlottedItems.begin()));
 }
 
 void SampleDetails::ListViewToggleCheckBox(int row) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "model/Catalogue.h"
 #include "model/OpenLog.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/DrawnGraph.h"
+#include "samplegraph/Selection.h"
 #include "samplegraph/SampleListView.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
@@ -19,7 +21,11 @@ class SampleDetails {
     CheckBox& chkShowCheckedOnly;
     Chart& chSampleGraph;
   };
-  SampleDetails(const Controls& controls, PlotState& plot, const OpenLog& log, const clsLogFamilies& families);
+  SampleDetails(const Controls& controls, const DrawnGraph& drawn, const Selection& selection, const OpenLog& log,
+                const clsLogFamilies& families);
+
+  /// The row of a curve was clicked: the curve's place among those drawn, from 0.
+  std::function<void(int place)> CurveChosen;
 
   /// Fills the list for a file type, keeping the checks.
   void SetUpSampleGraphSampleListView(int lngFileType, const clsLogDataItems& items);
@@ -47,7 +53,8 @@ class SampleDetails {
   void ListViewToggleCheckBox(int row);
 
   Controls controls_;
-  PlotState& plot_;
+  const DrawnGraph& drawn_;
+  const Selection& selection_;
   const OpenLog& log_;
   const clsLogFamilies& families_;
   const clsLogDataItems* items_ = nullptr;

@@ -23,20 +23,22 @@ bool Note(std::array<std::string, 2>& history, const std::string& text) {
 
 }  // namespace
 
-SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& range, PlotState& plot, const OpenLog& log,
+SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot, const OpenLog& log,
                          const Settings& settings, StatusArea& status, Messages& messages, MainWindow& mainWindow)
     : window_(window),
       controls_(controls),
       range_(range),
-      plot_(plot),
+      drawn_(plot.drawn),
+      selection_(plot.selection),
+      redraw_(plot.redraw),
       log_(log),
       settings_(settings),
       status_(status),
       messages_(messages),
       mainWindow_(mainWindow) {
   controls_.chkFixY.Click = [this] { chkFixY_Click(); };
-  controls_.txtYMax.Change = [this] { plot_.blnForceRedraw = true; };
-  controls_.chkQuickGraph.Click = [this] { plot_.blnForceRedraw = true; };
+  controls_.txtYMax.Change = [this] { redraw_.Force(); };
+  controls_.chkQuickGraph.Click = [this] { redraw_.Force(); };
   controls_.updYMax.UpClick = [this] { StepYMax(10); };
   controls_.updYMax.DownClick = [this] { StepYMax(-10); };
 }
@@ -62,13 +64,19 @@ void SampleGraph::DrawGraphChecked() {
   DrawSampleGraph();
 }
 
+void SampleGraph::DrawSampleGraphAfter(const RangeHistory& history) {
+  drawn_.history = history;
+  redraw_.Force();
+  DrawSampleGraph();
+}
+
 void SampleGraph::DrawSampleGraph() {
   if (!log_.gblnSamplesLoaded) return;
   const AtWork work(window_, status_);
   window_.host.DoEvents();
   const bool rangeChanged = NoteRange();
-  plot_.intPlottedItems = ItemsOfRows(controls_.lvwSampleDetails, true);
-  if (plot_.intPlottedItems.empty())
+  drawn_.intPlottedItems = ItemsOfRows(controls_.lvwSampleDetails, true);
+  if (drawn_.intPlottedItems.empty())
     messages_.ShowMessage(Message::NothingChecked);
   else if (MustBuild(rangeChanged))
     Build();
@@ -78,93 +86,92 @@ void SampleGraph::DrawSampleGraph() {
   TakeFocus();
   SelectAgain();
   mainWindow_.GraphDrawn();
-  plot_.blnForceRedraw = false;
+  redraw_.Drawn();
 }
 
 /// A range box that is left by a key that draws keeps what is selected; one that the user leaves does not.
 void SampleGraph::TakeFocus() {
-  const std::int32_t highlight = plot_.lngHighlightSample;
+  const std::int32_t highlight = selection_.lngHighlightSample();
   controls_.chSampleGraph.SetFocus();
-  plot_.lngHighlightSample = highlight;
+  selection_.Highlight(highlight);
 }
 
 bool SampleGraph::NoteRange() {
-  const bool from = Note(plot_.strPlotFromHistory, range_.FromText());
-  const bool to = Note(plot_.strPlotToHistory, range_.ToText());
+  const bool from = Note(drawn_.history.strPlotFromHistory, range_.FromText());
+  const bool to = Note(drawn_.history.strPlotToHistory, range_.ToText());
   return from || to;
 }
 
 bool SampleGraph::MustBuild(bool rangeChanged) {
-  return plot_.blnForceRedraw || rangeChanged || plot_.intPlottedItems != plot_.intDrawnItems;
+  return redraw_.Forced() || rangeChanged || drawn_.intPlottedItems != drawn_.intDrawnItems;
 }
 
 void SampleGraph::CountLogLines() {
-  if (!plot_.blnRangeEdited) return;
+  if (!redraw_.TakeRangeEdited()) return;
   status_.Say("Counting log lines in graph");
   const auto indexOf = [&](std::int64_t sample) {
     const auto wanted = static_cast<std::int32_t>(sample);
     return LocateSample(log_, wanted - log_.glngFirstSampleTime, wanted);
   };
-  plot_.lngPlotFirstIndex = indexOf(range_.From());
-  plot_.lngPlotLastIndex = indexOf(range_.To());
-  plot_.lngPlotSpan = plot_.lngPlotLastIndex - plot_.lngPlotFirstIndex + 2;
-  plot_.blnRangeEdited = false;
+  drawn_.lngPlotFirstIndex = indexOf(range_.From());
+  drawn_.lngPlotLastIndex = indexOf(range_.To());
+  drawn_.lngPlotSpan = drawn_.lngPlotLastIndex - drawn_.lngPlotFirstIndex + 2;
 }
 
 void SampleGraph::Build() {
   status_.Say("Preparing to draw graph");
   CountLogLines();
-  const std::int32_t first = plot_.lngPlotFirstIndex;
-  status_.ShowProgressInStatusBar(std::max(plot_.lngPlotLastIndex - first, 1));
-  plot_.intThinStep = ThinStep(plot_.lngPlotSpan, controls_.chkQuickGraph.Value);
+  const std::int32_t first = drawn_.lngPlotFirstIndex;
+  status_.ShowProgressInStatusBar(std::max(drawn_.lngPlotLastIndex - first, 1));
+  drawn_.intThinStep = ThinStep(drawn_.lngPlotSpan, controls_.chkQuickGraph.Value);
   const PlotWindow window{static_cast<std::int32_t>(range_.From()), static_cast<std::int32_t>(range_.To()), first,
-                          plot_.lngPlotLastIndex, plot_.intThinStep};
-  plot_.varChartData = BuildChartTable(log_, plot_.intPlottedItems, window, [&](std::int32_t index) {
+                          drawn_.lngPlotLastIndex, drawn_.intThinStep};
+  drawn_.varChartData = BuildChartTable(log_, drawn_.intPlottedItems, window, [&](std::int32_t index) {
     status_.Progress("Examining log line " + log_.FormatDataItem(ItemOf(kSample), index), index - first);
   });
-  plot_.lngChartRow = plot_.varChartData.LastRow() + 1;
+  drawn_.lngChartRow = drawn_.varChartData.LastRow() + 1;
   status_.ProgressFull();
   controls_.chSampleGraph.SetData(Describe());
-  plot_.intDrawnItems = plot_.intPlottedItems;
+  drawn_.intDrawnItems = drawn_.intPlottedItems;
 }
 
 ChartDescription SampleGraph::Describe() const {
-  const ChartTable& table = plot_.varChartData;
+  const ChartTable& table = drawn_.varChartData;
   ChartDescription chart;
   auto& series = chart.kind.emplace<Curves>().series;
-  for (std::size_t j = 0; j < plot_.intPlottedItems.size(); ++j) {
-    const clsLogDataItem& item = log_.gcolDataItems->Item(plot_.intPlottedItems[j]);
+  for (std::size_t j = 0; j < drawn_.intPlottedItems.size(); ++j) {
+    const clsLogDataItem& item = log_.gcolDataItems->Item(drawn_.intPlottedItems[j]);
     const Pen pen{item.lngColour, static_cast<int>(item.lngLineStyle), static_cast<int>(item.lngLineWidth * 10)};
     series.push_back({item.intSeq, table.headings[j], table.x, table.y[j], pen});
   }
   chart.x = {table.lowestX, table.highestX, 10, TimeAxisFormat(table.highestX - table.lowestX)};
   const VerticalScale scale = controls_.chkFixY.Value
-                                  ? ReachingBelow({plot_.lngFixedGraphMax, plot_.intFixedGraphDivisions}, table.lowestY)
+                                  ? ReachingBelow({drawn_.lngFixedGraphMax, drawn_.intFixedGraphDivisions}, table.lowestY)
                                   : ScaleForRange(table.lowestY, table.highestY);
   chart.y = {static_cast<double>(scale.min), static_cast<double>(scale.max), static_cast<int>(scale.divisions),
              "#######0"};
   SetGraphColourScheme(chart, settings_.gintGraphColourScheme);
   chart.facts = {{"from", static_cast<long long>(range_.From())},
                  {"to", static_cast<long long>(range_.To())},
-                 {"thin_step", plot_.intThinStep},
+                 {"thin_step", drawn_.intThinStep},
                  {"rows", table.LastRow()}};
   return chart;
 }
 
 int SampleGraph::PlaceOf(int item) const {
-  const auto found = std::find(plot_.intPlottedItems.begin(), plot_.intPlottedItems.end(), item);
-  return found == plot_.intPlottedItems.end() ? 0 : static_cast<int>(found - plot_.intPlottedItems.begin()) + 1;
+  const auto found = std::find(drawn_.intPlottedItems.begin(), drawn_.intPlottedItems.end(), item);
+  return found == drawn_.intPlottedItems.end() ? 0 : static_cast<int>(found - drawn_.intPlottedItems.begin()) + 1;
 }
 
 void SampleGraph::SelectAgain() {
   if (controls_.chSampleGraph.Data().Series().empty()) return;
-  int place = PlaceOf(plot_.intSelectedItem);
+  int place = PlaceOf(selection_.intSelectedItem());
   if (place == 0) place = PlaceOf(ItemOf(kRPM));
   if (place == 0) place = 1;
-  std::int32_t point = RoundToLong(plot_.lngChartRow / 2.0);
-  if (plot_.lngHighlightSample >= 1) {
-    const double rows = plot_.lngHighlightSample - static_cast<double>(log_.Sample(plot_.lngPlotFirstIndex));
-    point = FindChartRowForSample(plot_.lngHighlightSample, rows / plot_.intThinStep);
+  std::int32_t point = RoundToLong(drawn_.lngChartRow / 2.0);
+  if (selection_.lngHighlightSample() >= 1) {
+    const double rows = selection_.lngHighlightSample() - static_cast<double>(log_.Sample(drawn_.lngPlotFirstIndex));
+    point = FindChartRowForSample(selection_.lngHighlightSample(), rows / drawn_.intThinStep);
   }
   controls_.chSampleGraph.SelectPoint(2 * (place - 1) + 1, std::max(point, 1));
 }
@@ -173,7 +180,7 @@ std::int32_t SampleGraph::FindChartRowForSample(std::int32_t lngSample, double e
   const auto guess = static_cast<std::int32_t>(std::clamp<std::int64_t>(lngSample - range_.From(), 0, kMostSamples));
   const std::int32_t index = LocateSample(log_, guess, lngSample);
   const double wanted = log_.gcolDataItems->Item(ItemOf(kSecs)).GetRawData(log_.glngDataLog(kSecs, index));
-  const ChartTable& table = plot_.varChartData;
+  const ChartTable& table = drawn_.varChartData;
   std::int32_t row = std::clamp(RoundToLong(estimate), 0, table.LastRow());
   if (table.X(row) < wanted) {
     while (row < table.LastRow() && table.X(row) < wanted) ++row;
@@ -185,14 +192,15 @@ std::int32_t SampleGraph::FindChartRowForSample(std::int32_t lngSample, double e
 
 void SampleGraph::ApplyFixedGraphMax() {
   const VerticalScale scale = ScaleForFixedMax(StringToLong(controls_.txtYMax.Text()));
-  plot_.lngFixedGraphMax = scale.max;
-  plot_.intFixedGraphDivisions = scale.divisions;
+  drawn_.lngFixedGraphMax = scale.max;
+  drawn_.intFixedGraphDivisions = scale.divisions;
   controls_.txtYMax.Text = std::to_string(scale.max);
 }
 
 void SampleGraph::Clear() {
-  plot_ = PlotState{};
-  plot_.blnRangeEdited = true;
+  drawn_ = {};
+  selection_ = {};
+  redraw_ = {};
   controls_.chSampleGraph.SetData({});
   controls_.chSampleGraph.Visible = false;
   controls_.fraPicture.Visible = true;
@@ -203,7 +211,7 @@ void SampleGraph::chkFixY_Click() {
   controls_.txtYMax.Enabled = fixed;
   controls_.updYMax.Enabled = fixed;
   if (fixed && StringToLong(controls_.txtYMax.Text()) == 0) controls_.txtYMax.Text = "250";
-  plot_.blnForceRedraw = true;
+  redraw_.Force();
 }
 
 void SampleGraph::StepYMax(int by) {

@@ -5,7 +5,9 @@
 #include "model/OpenLog.h"
 #include "model/Settings.h"
 #include "samplegraph/PlotRange.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/DrawnGraph.h"
+#include "samplegraph/RedrawRequest.h"
+#include "samplegraph/Selection.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
 #include "ui/Form.h"
@@ -28,6 +30,12 @@ class SampleGraph {
     Chart& chSampleGraph;
     Frame& fraPicture;
   };
+  /// What it keeps from one draw to the next.
+  struct Plot {
+    DrawnGraph& drawn;
+    Selection& selection;
+    RedrawRequest& redraw;
+  };
   /// What it needs of the main window.
   struct MainWindow {
     virtual ~MainWindow() = default;
@@ -37,7 +45,7 @@ class SampleGraph {
     virtual void GraphDrawn() = 0;
   };
 
-  SampleGraph(Form& window, const Controls& controls, PlotRange& range, PlotState& plot, const OpenLog& log,
+  SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot, const OpenLog& log,
               const Settings& settings, StatusArea& status, Messages& messages, MainWindow& mainWindow);
 
   /// What Draw does: corrects the range, then draws and shows the chart. Message 10 without a checked item, 1 where
@@ -45,6 +53,8 @@ class SampleGraph {
   void DrawGraphChecked();
   /// Draws without those checks; builds nothing where nothing has changed.
   void DrawSampleGraph();
+  /// The same, built anew as if that had been drawn last.
+  void DrawSampleGraphAfter(const RangeHistory& history);
   /// There is something to draw.
   bool AnyChecked() const;
   /// A graph of the open log is on show.
@@ -71,7 +81,9 @@ class SampleGraph {
   Form& window_;
   Controls controls_;
   PlotRange& range_;
-  PlotState& plot_;
+  DrawnGraph& drawn_;
+  Selection& selection_;
+  RedrawRequest& redraw_;
   const OpenLog& log_;
   const Settings& settings_;
   StatusArea& status_;

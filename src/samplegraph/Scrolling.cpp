@@ -6,9 +6,9 @@
 
 namespace tarnview {
 
-Scrolling::Scrolling(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log,
+Scrolling::Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log,
                      MainWindow& mainWindow)
-    : controls_(controls), plot_(plot), range_(range), log_(log), mainWindow_(mainWindow) {
+    : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), mainWindow_(mainWindow) {
   objGraphScrollLarge_.Client(&controls_.hsbGraphScrollLarge);
   controls_.hsbGraphScroll.Change = [this] { Moved(); };
   objGraphScrollLarge_.Change = [this] { Moved(); };
@@ -17,16 +17,16 @@ Scrolling::Scrolling(const Controls& controls, PlotState& plot, PlotRange& range
 }
 
 void Scrolling::TakeLog() {
-  plot_.blnLongScroll = log_.glngLastSample >= kLongScrollFrom;
-  controls_.hsbGraphScroll.Visible = !plot_.blnLongScroll;
-  controls_.hsbGraphScrollLarge.Visible = plot_.blnLongScroll;
+  blnLongScroll_ = log_.glngLastSample >= kLongScrollFrom;
+  controls_.hsbGraphScroll.Visible = !blnLongScroll_;
+  controls_.hsbGraphScrollLarge.Visible = blnLongScroll_;
   controls_.hsbGraphScroll.Enabled = true;
   controls_.hsbGraphScrollLarge.Enabled = true;
   LocateSampleOnGraph();
 }
 
 void Scrolling::LocateSampleOnGraph() {
-  plot_.blnIgnoreScroll = true;
+  blnIgnoreScroll_ = true;
   for (auto* property :
        {&controls_.hsbGraphScroll.Min, &controls_.hsbGraphScroll.Max, &controls_.hsbGraphScroll.LargeChange,
         &controls_.hsbGraphScroll.SmallChange, &controls_.hsbGraphScroll.Value})
@@ -36,18 +36,18 @@ void Scrolling::LocateSampleOnGraph() {
   objGraphScrollLarge_.LargeChange = 1;
   objGraphScrollLarge_.SmallChange = 1;
   objGraphScrollLarge_.value(1);
-  plot_.blnIgnoreScroll = false;
+  blnIgnoreScroll_ = false;
 }
 
 void Scrolling::SetUp() {
-  const std::int32_t width = plot_.Width();
+  const std::int32_t width = drawn_.Width();
   const std::int32_t min = RoundToLong(width / 2.0);
   const std::int32_t max = RoundToLong(log_.glngLastSample - width / 2.0);
   const std::int32_t large = range_.Span() < 1 ? 1 : width;
   const std::int32_t small = std::max(RoundToLong(large / 10.0), 1);
-  const std::int32_t value = RoundToLong(width / 2.0 + plot_.lngPlotFirstIndex);
-  plot_.blnIgnoreScroll = true;
-  if (plot_.blnLongScroll) {
+  const std::int32_t value = RoundToLong(width / 2.0 + drawn_.lngPlotFirstIndex);
+  blnIgnoreScroll_ = true;
+  if (blnLongScroll_) {
     objGraphScrollLarge_.Min(min);
     objGraphScrollLarge_.Max(max);
     objGraphScrollLarge_.LargeChange = large;
@@ -61,7 +61,7 @@ void Scrolling::SetUp() {
     controls_.hsbGraphScroll.SmallChange = small;
     controls_.hsbGraphScroll.Value = value;
   }
-  plot_.blnIgnoreScroll = false;
+  blnIgnoreScroll_ = false;
 }
 
 /// The thumb of the long bar is as long, against its way, as that of the plain one.
@@ -79,7 +79,7 @@ void Scrolling::Disable() {
 }
 
 Scrolling::Bar Scrolling::Read() const {
-  if (plot_.blnLongScroll)
+  if (blnLongScroll_)
     return {objGraphScrollLarge_.Min(), objGraphScrollLarge_.Max(), objGraphScrollLarge_.SmallChange,
             objGraphScrollLarge_.LargeChange, objGraphScrollLarge_.value()};
   const ScrollBar& bar = controls_.hsbGraphScroll;
@@ -89,15 +89,15 @@ Scrolling::Bar Scrolling::Read() const {
 void Scrolling::MoveTo(std::int64_t value) {
   const auto wanted = static_cast<std::int32_t>(value);
   if (wanted == Read().value) return;
-  if (plot_.blnLongScroll)
+  if (blnLongScroll_)
     objGraphScrollLarge_.value(wanted);
   else
     controls_.hsbGraphScroll.Value = wanted;
 }
 
 void Scrolling::Moved() {
-  if (plot_.blnIgnoreScroll || !log_.gblnSamplesLoaded) return;
-  const std::int32_t width = plot_.Width();
+  if (blnIgnoreScroll_ || !log_.gblnSamplesLoaded) return;
+  const std::int32_t width = drawn_.Width();
   const std::int32_t half = RoundToLong(width / 2.0);
   // A thumb held while the graph was zoomed may be let go where the bar does not reach any more.
   const Bar bar = Read();
@@ -112,7 +112,7 @@ void Scrolling::Moved() {
     range_.SetToToLast();
     range_.SetFrom(range_.To() - width);
   }
-  if (plot_.lngHighlightSample < range_.From() || plot_.lngHighlightSample > range_.To()) plot_.lngHighlightSample = 0;
+  selection_.KeepWithin(range_.From(), range_.To());
   mainWindow_.DrawSampleGraph();
 }
 

@@ -3,7 +3,8 @@
 #include "model/OpenLog.h"
 #include "samplegraph/CLongScroll.h"
 #include "samplegraph/PlotRange.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/DrawnGraph.h"
+#include "samplegraph/Selection.h"
 #include "ui/ScrollBar.h"
 
 namespace tarnview {
@@ -23,7 +24,7 @@ class Scrolling {
     virtual ~MainWindow() = default;
     virtual void DrawSampleGraph() = 0;
   };
-  Scrolling(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, MainWindow& mainWindow);
+  Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, MainWindow& mainWindow);
 
   /// A new log: which bar serves, and both at rest.
   void TakeLog();
@@ -54,11 +55,14 @@ class Scrolling {
   void ShowShare(std::int32_t large, std::int32_t way);
 
   Controls controls_;
-  PlotState& plot_;
+  const DrawnGraph& drawn_;
+  Selection& selection_;
   PlotRange& range_;
   const OpenLog& log_;
   MainWindow& mainWindow_;
   CLongScroll objGraphScrollLarge_;
+  bool blnIgnoreScroll_ = false;  ///< the scroll bar is being set from code
+  bool blnLongScroll_ = false;    ///< the log is too long for the plain scroll bar
 };
 
 }  // namespace tarnview

@@ -14,8 +14,8 @@ constexpr int kRing = 60;
 
 }  // namespace
 
-ZoneInfluencePanel::ZoneInfluencePanel(const Controls& controls, const PlotState& plot, const OpenLog& log)
-    : controls_(controls), plot_(plot), log_(log) {
+ZoneInfluencePanel::ZoneInfluencePanel(const Controls& controls, const Selection& selection, const OpenLog& log)
+    : controls_(controls), selection_(selection), log_(log) {
   controls_.picZoneInfl.Resize = [this] { RefreshZoneInfluence(); };
 }
 
@@ -32,7 +32,7 @@ void ZoneInfluencePanel::ClearZoneInfluence() {
 
 void ZoneInfluencePanel::RefreshZoneInfluence() {
   if (!controls_.cmdDrawGraph.Enabled || !log_.gblnSamplesLoaded) return;
-  const std::int32_t sample = plot_.lngHighlightSample;
+  const std::int32_t sample = selection_.lngHighlightSample();
   // Before a first graph nothing is highlighted.
   if (sample > 0) ShowSample(LocateSample(log_, sample - log_.glngFirstSampleTime, sample));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/OpenLog.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/Selection.h"
 #include "ui/CommandButton.h"
 #include "ui/ControlArray.h"
 #include "ui/Frame.h"
@@ -22,7 +22,7 @@ class ZoneInfluencePanel {
     MenuItem& mnuViewZoneInfl;
     CommandButton& cmdDrawGraph;
   };
-  ZoneInfluencePanel(const Controls& controls, const PlotState& plot, const OpenLog& log);
+  ZoneInfluencePanel(const Controls& controls, const Selection& selection, const OpenLog& log);
 
   /// Whether the panel is on show; for other than Link logs it never is.
   bool gblnDisplayZoneInfluence = false;
@@ -38,7 +38,7 @@ class ZoneInfluencePanel {
   void PopulateZoneInfl(std::int32_t lngRPM, std::int32_t lngMAPRaw);
 
   Controls controls_;
-  const PlotState& plot_;
+  const Selection& selection_;
   const OpenLog& log_;
 };
 

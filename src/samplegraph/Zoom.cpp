@@ -15,9 +15,9 @@ constexpr std::int64_t kNarrowestToZoom = 10;
 
 }  // namespace
 
-Zoom::Zoom(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, Messages& messages,
+Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, Messages& messages,
            MainWindow& mainWindow)
-    : controls_(controls), plot_(plot), range_(range), log_(log), messages_(messages), mainWindow_(mainWindow) {
+    : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), messages_(messages), mainWindow_(mainWindow) {
   controls_.cboZoomAmount.LostFocus = [this] { LeaveAmount(); };
 }
 
@@ -31,9 +31,9 @@ void Zoom::SetAmount(int amount) { controls_.cboZoomAmount.Text = std::to_string
 
 std::int32_t Zoom::Centre() const {
   // The selected point's own number, one row further on than its sample: kept as it is.
-  const std::int32_t index = plot_.lngSelectedPoint > 0
-                                 ? plot_.lngSelectedPoint * plot_.intThinStep + plot_.lngPlotFirstIndex
-                                 : RoundToLong(plot_.lngPlotFirstIndex + plot_.Width() / 2.0);
+  const std::int32_t index = selection_.lngSelectedPoint() > 0
+                                 ? selection_.lngSelectedPoint() * drawn_.intThinStep + drawn_.lngPlotFirstIndex
+                                 : RoundToLong(drawn_.lngPlotFirstIndex + drawn_.Width() / 2.0);
   return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
 }
 
@@ -41,12 +41,12 @@ bool Zoom::CanZoomIn() const { return range_.Span() >= kNarrowestToZoom; }
 
 void Zoom::cmdZoomIn_Click() {
   const std::int64_t centre = Centre();
-  const std::int64_t half = RoundToLong(plot_.Width() / (2.0 * Amount()));
+  const std::int64_t half = RoundToLong(drawn_.Width() / (2.0 * Amount()));
   range_.SetFrom(centre - half);
   range_.SetTo(centre + half);
-  if (plot_.lngSelectedPoint > 0) {
+  if (selection_.lngSelectedPoint() > 0) {
     ClampToLog();
-    plot_.lngSelectedPoint = 0;
+    selection_.ForgetPoint();
   }
   range_.EnsureMinimumPlotRange();
   mainWindow_.DrawSampleGraph();
@@ -54,7 +54,7 @@ void Zoom::cmdZoomIn_Click() {
 
 void Zoom::cmdZoomOut_Click() {
   const std::int64_t centre = Centre();
-  const std::int64_t half = std::int64_t{RoundToLong(plot_.Width() / 2.0)} * Amount();
+  const std::int64_t half = std::int64_t{RoundToLong(drawn_.Width() / 2.0)} * Amount();
   range_.SetFrom(centre - half);
   range_.SetTo(centre + half);
   ClampToLog();
@@ -83,10 +83,10 @@ void Zoom::ShortenForFullGraph() {
 }
 
 void Zoom::ShowPreviousGraph() {
-  if (plot_.strPlotFromHistory[1].empty() || plot_.strPlotToHistory[1].empty()) return;
-  plot_.lngHighlightSample = 0;
-  const std::string from = plot_.strPlotFromHistory[1];
-  const std::string to = plot_.strPlotToHistory[1];
+  if (drawn_.history.strPlotFromHistory[1].empty() || drawn_.history.strPlotToHistory[1].empty()) return;
+  selection_.Forget();
+  const std::string from = drawn_.history.strPlotFromHistory[1];
+  const std::string to = drawn_.history.strPlotToHistory[1];
   range_.SetFrom(StringToLong(from));
   range_.SetTo(StringToLong(to));
   mainWindow_.DrawGraphChecked();

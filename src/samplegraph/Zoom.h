@@ -3,7 +3,8 @@
 #include "desk/Messages.h"
 #include "model/OpenLog.h"
 #include "samplegraph/PlotRange.h"
-#include "samplegraph/PlotState.h"
+#include "samplegraph/DrawnGraph.h"
+#include "samplegraph/Selection.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 
@@ -22,13 +23,13 @@ class Zoom {
     virtual void DrawSampleGraph() = 0;
     virtual void DrawGraphChecked() = 0;
   };
-  Zoom(const Controls& controls, PlotState& plot, PlotRange& range, const OpenLog& log, Messages& messages,
+  Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, Messages& messages,
        MainWindow& mainWindow);
 
   bool CanZoomIn() const;
   bool CanZoomOut() const { return !range_.IsWholeLog(); }
   /// A graph was drawn before the one on show.
-  bool HasPrevious() const { return !plot_.strPlotFromHistory[1].empty(); }
+  bool HasPrevious() const { return !drawn_.history.strPlotFromHistory[1].empty(); }
   void cmdZoomIn_Click();
   void cmdZoomOut_Click();
   void cmdZoomFull_Click();
@@ -44,7 +45,8 @@ class Zoom {
   void LeaveAmount();
 
   Controls controls_;
-  PlotState& plot_;
+  const DrawnGraph& drawn_;
+  Selection& selection_;
   PlotRange& range_;
   const OpenLog& log_;
   Messages& messages_;

@@ -17,10 +17,14 @@ void Chart::SetView(const SurfaceView& view) {
 }
 
 void Chart::SelectPoint(int series, int point) {
+  MarkPoint(series, point);
+  PointSelected(series, point);
+}
+
+void Chart::MarkPoint(int series, int point) {
   series_ = series;
   point_ = point;
   Changed(What::Selection);
-  PointSelected(series, point);
 }
 
 void Chart::Describe(Object& facts) const {

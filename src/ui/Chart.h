@@ -36,6 +36,8 @@ class Chart : public Control {
 
   /// Selects a point and raises PointSelected, also for the point that is selected already.
   void SelectPoint(int series, int point);
+  /// The same without the event.
+  void MarkPoint(int series, int point);
   int SelectedSeries() const { return series_; }  ///< 0 for none
   int SelectedPoint() const { return point_; }    ///< 0 for none
 

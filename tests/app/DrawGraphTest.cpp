@@ -72,12 +72,12 @@ TEST_F(DrawGraph, EnterLeavesTheBoxBeforeItDraws) {
   Main().PlotRangeFrom.Text = "1001";
   Main().Press({"Enter"});
   const ListView& list = Main().lvwSampleDetails;
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 1499) << "the middle of 1001 to 2000, every second one drawn";
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 1499) << "the middle of 1001 to 2000, every second one drawn";
   EXPECT_EQ(list.At(1).texts[1], "1499");
   // A key that draws from within a box keeps what is selected.
   Main().PlotRangeTo.SetFocus();
   Main().Press({"I", false, true});
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 1499);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 1499);
   EXPECT_EQ(list.At(1).texts[1], "1499");
 }
 
@@ -124,33 +124,15 @@ TEST_F(DrawGraph, ASelectedPointShowsItsSample) {
   EXPECT_EQ(list.At(list.RowOfTag("3")).texts[1], "1037");
   EXPECT_EQ(list.At(1).texts[1], "37");
   Main().Press({"Right"});
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 41);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 41);
   Main().Press({"Up", true});
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 41);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 41);
 
   // The sample stays selected when the range moves about it.
   Type("30", "60");
   Main().cmdDrawGraph.Press();
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 41);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 41);
   EXPECT_EQ(Main().chSampleGraph.SelectedPoint(), 12);
-}
-
-TEST_F(DrawGraph, ZoomsAboutThePointAndGoesBack) {
-  Open(2000);
-  Main().cmdDrawGraph.Press();
-  EXPECT_FALSE(Main().cmdZoomOut.Enabled());
-  Main().chSampleGraph.SelectPoint(1, 251);  // store row 1000
-  Main().cmdZoomIn.Press();
-  EXPECT_EQ(Range(), "505-1505");  // the point's own number: one row further on
-  EXPECT_TRUE(Main().cmdZoomOut.Enabled());
-  Main().mnuViewPrevious.Click();
-  EXPECT_EQ(Range(), "1-2000");
-  Main().mnuViewPrevious.Click();
-  EXPECT_EQ(Range(), "505-1505");
-  Main().mnuViewZoomInAmount(10).Click();
-  EXPECT_EQ(Main().cboZoomAmount.Text(), "10");
-  Main().cmdZoomFull.Press();
-  EXPECT_EQ(Range(), "1-2000");
 }
 
 TEST_F(DrawGraph, TheWalkAlongThePointsHasOneRule) {
@@ -162,25 +144,6 @@ TEST_F(DrawGraph, TheWalkAlongThePointsHasOneRule) {
     EXPECT_EQ(Main().cmdDataPointLeft.Enabled(), left) << point;
     EXPECT_EQ(Main().cmdDataPointRight.Enabled(), right) << point;
   }
-}
-
-TEST_F(DrawGraph, ScrollsAlongTheLog) {
-  Open(2000);
-  Type("501", "601");
-  Main().cmdDrawGraph.Press();
-  EXPECT_EQ(Main().hsbGraphScroll.LargeChange(), 100);
-  EXPECT_EQ(Main().hsbGraphScroll.SmallChange(), 10);
-  EXPECT_EQ(Main().hsbGraphScroll.Value(), 550);
-  Main().mnuViewPageRight.Click();
-  EXPECT_EQ(Range(), "601-701");
-  Main().Press({"Left", false, false, true});
-  EXPECT_EQ(Range(), "591-691");
-  Main().mnuViewFinish.Click();
-  EXPECT_EQ(Range(), "1900-2000");
-  EXPECT_FALSE(Main().mnuViewPageRight.Enabled());
-  EXPECT_TRUE(Main().mnuViewPageLeft.Enabled());
-  Main().Press({"Home", false, true});
-  EXPECT_EQ(Range(), "1-101");
 }
 
 }  // namespace

@@ -105,7 +105,7 @@ TEST_F(GraphMouseTest, TheListFollowsThePointerAndComesBack) {
   EXPECT_EQ(Shown("1") + " " + Shown("3"), "201 1201");
   EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Sample: 201, Secs: 16.466");
   EXPECT_DOUBLE_EQ(Main().chSampleGraph.HairLine().value(), 16.4659);
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 151);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 151);
   // It is still there when the graph has moved under it.
   Do("wheel", {Time(201), "1"});
   EXPECT_EQ(Shown("1"), "201");

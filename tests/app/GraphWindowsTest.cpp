@@ -157,10 +157,10 @@ TEST_F(GraphWindows, GoesToASampleInAGraphOfTheSameWidth) {
   Main().PlotRangeFrom.SetFocus();
   Goto("1000");
   EXPECT_EQ(Range(), "962-1038");  // 962.5 and 1037.5
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 1000);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 1000);
   Goto("20", true);
   EXPECT_EQ(Range(), "1-70") << "the check of Draw pulls From in";
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 20);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 20);
   Main().PlotRangeTo.Text = std::string("8");
   Main().cmdDrawGraph.Press();
   Goto("500");

@@ -26,12 +26,12 @@ class Moving : public ProgramFixture {
   void Draw(const char* from, const char* to) {
     Main().PlotRangeFrom.Text = from;
     Main().PlotRangeTo.Text = to;
-    Main().Plot().lngHighlightSample = 0;
+    Main().Selected().Forget();
     Main().cmdDrawGraph.Press();
   }
   std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
   std::string Drawn() {
-    const PlotState& plot = Main().Plot();
+    const DrawnGraph& plot = Main().Drawn();
     return std::to_string(plot.lngPlotFirstIndex + 1) + "-" + std::to_string(plot.lngPlotLastIndex + 1);
   }
 };
@@ -105,7 +105,7 @@ TEST_F(Moving, Keys) {
     Main().Find(row.control)->SetFocus();
     EXPECT_EQ(Main().Press(*ParseKeys(row.keys)), row.taken) << row.keys << " " << row.control;
     EXPECT_EQ(Range(), row.range) << row.keys << " " << row.control;
-    EXPECT_EQ(Main().Plot().lngSelectedPoint, row.point) << row.keys << " " << row.control;
+    EXPECT_EQ(Main().Selected().lngSelectedPoint(), row.point) << row.keys << " " << row.control;
   }
 }
 
@@ -123,7 +123,7 @@ TEST_F(Moving, KeysOfDisabledButtonsDoNothing) {
   for (const char* keys : {"Shift+Left", "Alt+Left", "Ctrl+Left", "Ctrl+Home"}) {
     Main().Press(*ParseKeys(keys));
     EXPECT_EQ(Range(), "1-101") << keys;
-    EXPECT_EQ(Main().Plot().lngSelectedPoint, 1) << keys;
+    EXPECT_EQ(Main().Selected().lngSelectedPoint(), 1) << keys;
   }
 }
 
@@ -132,18 +132,18 @@ TEST_F(Moving, ShiftUpAndDownWalkTheCurvesByTheirHeightAndStopAtTheEnds) {
   const auto& series = Main().chSampleGraph.Data().Series();
   ASSERT_GE(series.size(), 3u);
   const auto height = [&] {
-    const PlotState& plot = Main().Plot();
-    return series[static_cast<std::size_t>(plot.intSelectedSeries / 2)]
-        .y[static_cast<std::size_t>(plot.lngSelectedPoint - 1)];
+    const Selection& plot = Main().Selected();
+    return series[static_cast<std::size_t>(plot.intSelectedSeries() / 2)]
+        .y[static_cast<std::size_t>(plot.lngSelectedPoint() - 1)];
   };
   for (const auto& [keys, sign] : {std::pair{"Shift+Down", -1}, std::pair{"Shift+Up", 1}}) {
     std::set<int> seen;
     for (std::size_t i = 0; i < 2 * series.size(); ++i) {
       const double before = height();
-      seen.insert(Main().Plot().intSelectedSeries);
+      seen.insert(Main().Selected().intSelectedSeries());
       Main().Press(*ParseKeys(keys));
       EXPECT_GE((height() - before) * sign, 0) << keys;
-      EXPECT_EQ(Main().Plot().lngSelectedPoint, 51);
+      EXPECT_EQ(Main().Selected().lngSelectedPoint(), 51);
     }
     EXPECT_EQ(seen.size(), sign < 0 ? seen.size() : series.size()) << "from the lowest to the highest";
   }

@@ -172,7 +172,7 @@ TEST_F(ScatterGraphTest, APointLeadsBackToTheSampleGraph) {
   Click(window.cmdShowPoint);
   EXPECT_EQ(host.Front(), &Main());
   EXPECT_EQ(Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(), "70-130");
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 100);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 100);
   EXPECT_TRUE(Main().chSampleGraph.Visible());
   Click(window.mnuViewSampleDetails);
   EXPECT_FALSE(window.fraSampleDetails.Visible());

@@ -79,7 +79,7 @@ void AllWindows::MakeGraphWindows() {
     preset.colDataItems = globals.settings.gcolCheckedDataItems;
   }
   if (globals.log.gblnSamplesLoaded)
-    goto_ = std::make_unique<frmGoto>(host, globals.log, program_.MainWindow().Plot().lngHighlightSample, true);
+    goto_ = std::make_unique<frmGoto>(host, globals.log, program_.MainWindow().Selected().lngHighlightSample(), true);
   else
     goto_ = std::make_unique<frmGoto>(host, oneSample_, 1, false);
   newPreset_ = std::make_unique<frmNewPresetName>(host, messages_, clsSampleGraphPresets::NEW_NAME);
