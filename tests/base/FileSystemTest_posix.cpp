@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -39,6 +40,19 @@ TEST_F(FileSystemTest, WritesReplacesAppendsAndReadsBack) {
   EXPECT_EQ(files.List(folder, "*"), (std::vector<std::string>{"a.txt", "b.txt"}));
   EXPECT_TRUE(files.DeleteFile(path));
   EXPECT_FALSE(files.DeleteFile(path));
+}
+
+TEST_F(FileSystemTest, ALimitOnTheSizeOfFilesIsAFullDisk) {
+  const std::string path = folder + "a.txt";
+  ASSERT_TRUE(files.Write(path, "old"));
+  struct rlimit before;
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+  const struct rlimit small{1000, before.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  EXPECT_FALSE(files.Write(path, std::string(5000, 'x')));
+  EXPECT_FALSE(files.Append(path, std::string(5000, 'x')));
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_TRUE(std::string_view(*files.Read(path)).starts_with("old"));
 }
 
 TEST_F(FileSystemTest, AWriteKeepsModeAndLinkAndLeavesNothingBehind) {

@@ -1,12 +1,12 @@
 // Want of memory in the middle of a load is no word about the file.
 
+#include "LoadedSampleLog.h"
 #include "loaders/FMLinkLog.h"
 #include "loaders/LinkPlusLog.h"
 #include "loaders/Tec2Log.h"
 #include "loaders/Tec3Log.h"
 #include "loaders/UTECCSVLog.h"
 #include "loaders/UTECFixedLog.h"
-#include "LoadedSampleLog.h"
 
 namespace tarnview {
 namespace {
@@ -24,8 +24,9 @@ TEST(ShortMemory, IsToldAsWhatItIs) {
   const struct {
     LoadedSampleLog::Loader load;
     const char* example;
-  } kRows[] = {{LoadFMLink, "/na.txt"},        {LoadTec2Log, "/tec2.dat"},       {LoadTec3Log, "/tec3.dat"},
-               {LoadLinkPlusLog, "/linkplus.txt"}, {LoadUTECCSVLog, "/utec.csv"}, {LoadUTECFixedLog, "/utec-fixed.txt"}};
+  } kRows[] = {{LoadFMLink, "/na.txt"},       {LoadTec2Log, "/tec2.dat"},
+               {LoadTec3Log, "/tec3.dat"},    {LoadLinkPlusLog, "/linkplus.txt"},
+               {LoadUTECCSVLog, "/utec.csv"}, {LoadUTECFixedLog, "/utec-fixed.txt"}};
   const LoadedLog around("");
   for (const auto& row : kRows) {
     const auto bytes = RealFileSystem().Read(std::string(TARNVIEW_EXAMPLES) + row.example);
