@@ -8,6 +8,7 @@
 #include "samplegraph/PlotRange.h"
 #include "samplegraph/RedrawRequest.h"
 #include "samplegraph/Selection.h"
+#include "ui/Form.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
