@@ -124,8 +124,8 @@ void frmDataLogViewer::ShowRange(const clsLogTag& tag) {
 void frmDataLogViewer::PlotRun(const SampleRange& range, std::int32_t sample) {
   range_.SetFrom(range.from);
   range_.SetTo(range.to);
-  plot_.lngHighlightSample = sample;
-  plot_.blnForceRedraw = true;
+  selection_.Highlight(sample);
+  redraw_.Force();
   graph_.DrawGraphChecked();
 }
 

@@ -75,8 +75,8 @@ void frmDataLogViewer::OptionsChanged() {
     SetDataLogViewerCaption();
     details_.ShowHighlighted();
   }
-  if (drawn_) {
-    plot_.blnForceRedraw = true;
+  if (graph_.Drawn()) {
+    redraw_.Force();
     graph_.DrawSampleGraph();
   }
   ListsChanged();

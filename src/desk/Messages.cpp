@@ -34,7 +34,7 @@ Messages::Messages(Host& host, std::function<std::string(int)> fileTypeDescripti
 
 void Messages::ShowMessage(Message id, bool nonModal, const std::string& extra) {
   const bool ownFailure = std::find(std::begin(kOwnFailures), std::end(kOwnFailures), id) != std::end(kOwnFailures);
-  if (Failed && ownFailure) Failed(id, TextWith(id, extra));
+  if (Failed && ownFailure) Failed(id, BoxOf(id, extra).text);
   if (nonModal && ShowNonModal)
     ShowNonModal(id, BoxOf(id, extra).text);
   else

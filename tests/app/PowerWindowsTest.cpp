@@ -55,7 +55,7 @@ TEST_F(PowerWindowsOfProgram, CopyTheRunToTheSampleGraph) {
   window.mnuToolsCopy.Do({"click", {}});
   EXPECT_EQ(Main().PlotFrom(), 10);
   EXPECT_EQ(Main().PlotTo(), 40);
-  EXPECT_EQ(Main().Plot().lngHighlightSample, 25);
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 25);
   EXPECT_GT(Log().glngDataLog(kPower, 20), 0);
   EXPECT_EQ(Log().glngDataLog(kPower, 5), 0);
 }

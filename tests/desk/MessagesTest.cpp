@@ -89,7 +89,7 @@ TEST_F(MessagesTest, HaveLongDetailsCutWhereTheyAreShown) {
   EXPECT_EQ(box.TextWithin(kMostDetailsInBox), text + std::string(597, 'x') + "...");
   EXPECT_EQ(box.TextWithin(kMostDetailsTold), text + std::string(3997, 'x') + "...");
   EXPECT_EQ(box.text.size(), text.size() + 5000);
-  EXPECT_EQ((Box{0, std::string(700, 'y')}.TextWithin(kMostDetailsInBox)), std::string(700, 'y'));
+  EXPECT_EQ((Box{0, std::string(700, 'y'), kBoxOk, ""}.TextWithin(kMostDetailsInBox)), std::string(700, 'y'));
 }
 
 TEST_F(MessagesTest, AskQuestions) {

@@ -261,7 +261,9 @@ TEST(FMLinkLog, AnOpenTagEndsWithTheLog) {
 TEST(FMLinkLog, StopsAt300000SamplesAndTellsProgressAboutFiftyTimes) {
   std::string text = "Sample\n";
   for (int i = 1; i <= 300001; ++i) {
-    if (i == 300001) EXPECT_EQ(LoadedLog(text).outcome.messages, (Ids{16})) << "every line was taken";
+    if (i == 300001) {
+      EXPECT_EQ(LoadedLog(text).outcome.messages, (Ids{16})) << "every line was taken";
+    }
     text += Placed(59, {{1, std::to_string(i)}, {9, "3000"}}) + "\n";
   }
   const LoadedLog loaded(text);

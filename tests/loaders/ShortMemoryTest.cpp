@@ -1,6 +1,11 @@
 // Want of memory in the middle of a load is no word about the file.
 
+#include <gtest/gtest.h>
+
+#include <new>
+
 #include "LoadedSampleLog.h"
+#include "base/FileSystem.h"
 #include "loaders/FMLinkLog.h"
 #include "loaders/LinkPlusLog.h"
 #include "loaders/Tec2Log.h"
@@ -18,7 +23,9 @@ struct NoMemory : LoadProgress {
   void Line(long) override {}
 };
 
-LoadOutcome LoadFMLink(std::string_view bytes, const LoadContext& context) { return LoadFMLinkLog(bytes, context); }
+LoadOutcome LoadFMLink(std::string_view bytes, const LoadContext& context) {
+  return LoadFMLinkLog(bytes, context, true);
+}
 
 TEST(ShortMemory, IsToldAsWhatItIs) {
   const struct {

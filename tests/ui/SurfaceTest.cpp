@@ -195,9 +195,10 @@ TEST(SurfaceScene, LinesRunFromCellToCellAndTheLightComesFromTheLeft) {
   falling.values = {50, 25, 0, 50, 25, 0};
   const SurfaceScene left = MakeScene(rising, Room()), right = MakeScene(falling, Room());
   EXPECT_GT(left.faces[0].light, right.faces[0].light + 0.05);
-  for (const SceneFace& face : left.faces)
-    if (face.kind == SceneFace::Kind::Ground && face.row == 1 && face.column == 1)
-      EXPECT_EQ(face.lined, (std::array{true, false, false, true}));
+  for (const SceneFace& face : left.faces) {
+    if (face.kind != SceneFace::Kind::Ground || face.row != 1 || face.column != 1) continue;
+    EXPECT_EQ(face.lined, (std::array{true, false, false, true}));
+  }
 }
 
 TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
