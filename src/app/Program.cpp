@@ -24,7 +24,9 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
       programs_(processes, host),
       help_(files, programs_, messages_, In(folders_.data, "Documentation/"), folders_.program),
       services_{host, files, clock, programs_, errors_, messages_} {
-  host_.ShowHelp = [this](const std::string& topic) { help_.ShowHelp(topic); };
+  host_.ShowHelp = [this](const std::string& topic) {
+    if (!host_.ShowManual(help_.Folder(), topic)) help_.ShowHelp(topic);
+  };
   globals_.gstrProgramFolder = folders_.program;
   globals_.dataFolder = folders_.data;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");

@@ -1,22 +1,35 @@
 #include "desk/Help.h"
 
-#include <algorithm>
+#include <cctype>
+#include <string_view>
 
 namespace tarnview {
 namespace {
 
 constexpr const char* kLauncher = "HelpLauncher.htm";
 
-std::string Slashed(std::string path) {
-  std::replace(path.begin(), path.end(), '\\', '/');
-  return path;
+/// A path as a page names it: "#", a blank or a letter beyond ASCII would end the name or change it.
+std::string UrlOf(const std::string& path) {
+  constexpr std::string_view kPlain = "/:-._~";
+  constexpr const char* kHex = "0123456789ABCDEF";
+  std::string url;
+  for (const char one : path) {
+    const auto byte = static_cast<unsigned char>(one);
+    if (one == '\\')
+      url += '/';
+    else if (byte < 0x80 && (std::isalnum(byte) || kPlain.find(one) != kPlain.npos))
+      url += one;
+    else
+      url += {'%', kHex[byte >> 4], kHex[byte & 15]};
+  }
+  return url;
 }
 
 }  // namespace
 
 void Help::ShowHelp(const std::string& topic) {
-  const std::string contents = Slashed(folder_ + "Contents.htm");
-  const std::string instructions = Slashed(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
+  const std::string contents = UrlOf(folder_ + "Contents.htm");
+  const std::string instructions = UrlOf(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
   const std::string page =
       "<HEAD><title>Tarnview Instructions</title></HEAD>\r\n"
       "<frameset cols=\"216,1*\">\r\n"

@@ -8,7 +8,8 @@
 
 namespace tarnview {
 
-/// The manual: "Contents.htm" and "Instructions.htm" in a folder, opened side by side by a page written there.
+/// The manual: "Contents.htm" and "Instructions.htm" in a folder. Where the desktop has no window for it, they are
+/// opened side by side by a page written there.
 class Help {
  public:
   /// `folder` is the manual's folder, "Documentation", with a separator at its end. Where nothing can be written there,
@@ -23,6 +24,7 @@ class Help {
 
   /// Opens the manual, at a topic if one is given ("DataTags"). A failure shows message 30.
   void ShowHelp(const std::string& topic);
+  const std::string& Folder() const { return folder_; }
 
  private:
   bool WriteLauncher(const std::string& launcher, const std::string& page);

@@ -90,6 +90,9 @@ class Host {
   /// In words, why nothing may be saved into a file; "" where it may. Set once by the program.
   std::function<std::string(const std::string& path)> WhyNotSave;
 
+  /// Shows the manual that lies in a folder, in a window of the desktop's own; false where there is none.
+  virtual bool ShowManual(const std::string& /*folder*/, const std::string& /*topic*/) { return false; }
+
   virtual Reply Ask(const Box& box) = 0;
   /// False on Cancel; then `dialog` is unchanged.
   virtual bool Choose(Dialog& dialog) = 0;

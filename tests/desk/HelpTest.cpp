@@ -29,6 +29,15 @@ TEST_F(HelpTest, OpensTheManualAtATopic) {
   EXPECT_EQ(processes.opened, std::vector<std::string>(2, "C:\\car\\Documentation\\HelpLauncher.htm"));
 }
 
+TEST_F(HelpTest, APathOfAnyCharactersIsNamedWhole) {
+  const std::string folder = "/my #1 caf\xC3\xA9%/";
+  Help odd{files, programs, messages, folder};
+  files.files[folder + "Contents.htm"] = "";
+  odd.ShowHelp("Keys");
+  const std::string& page = files.files[folder + "HelpLauncher.htm"];
+  EXPECT_NE(page.find("\"file:///my%20%231%20caf%C3%A9%25/Instructions.htm#Keys\""), page.npos) << page;
+}
+
 TEST_F(HelpTest, AManualThatCannotBeWrittenToIsOpenedFromTheUsersFolder) {
   files.files["C:\\car\\Documentation\\Contents.htm"] = "";
   files.broken = {"C:\\car\\Documentation\\HelpLauncher.htm"};

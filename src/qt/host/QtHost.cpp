@@ -29,6 +29,19 @@ constexpr QSize kPictureSize(1400, 800);
 
 QtHost::~QtHost() = default;
 
+bool QtHost::ShowManual(const std::string& folder, const std::string& topic) {
+  if (!manual_) manual_ = std::make_unique<ManualWindow>();
+  return manual_->ShowTopic(folder, topic, QApplication::activeModalWidget());
+}
+
+/// The manual stays open when the window goes for which it was opened.
+void QtHost::FreeManual(const QWidget& window) {
+  if (!manual_ || manual_->parentWidget() != &window) return;
+  const bool shown = manual_->isVisible();
+  manual_->setParent(nullptr, Qt::Window);
+  manual_->setVisible(shown);
+}
+
 Reply QtHost::Ask(const Box& box) {
   FlushAll();
   return AskInBox(box, ParentForNew());
@@ -84,6 +97,7 @@ void QtHost::Hide(Form& form) {
       std::find_if(windows_.begin(), windows_.end(), [&](const auto& one) { return &one->form() == &form; });
   if (found == windows_.end()) return;
   (*found)->LetGo();
+  FreeManual((*found)->window());
   windows_.erase(found);
   if (front_ == &form) front_ = nullptr;
   const auto modal = std::find_if(loops_.begin(), loops_.end(), [&](const auto& one) { return one.form == &form; });

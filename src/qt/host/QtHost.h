@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "qt/host/FormWindow.h"
+#include "qt/host/ManualWindow.h"
 #include "qt/host/Printing.h"
 #include "ui/Host.h"
 
@@ -17,6 +18,7 @@ class QtHost : public Host {
  public:
   ~QtHost() override;
 
+  bool ShowManual(const std::string& folder, const std::string& topic) override;
   Reply Ask(const Box& box) override;
   bool Choose(Dialog& dialog) override;
   void Show(Form& form, bool modal) override;
@@ -47,9 +49,11 @@ class QtHost : public Host {
   void CameToFront(Form& form);
   void FlushAll();
   void RunModal(Form& form);
+  void FreeManual(const QWidget& window);
 
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<ModalLoop> loops_;
+  std::unique_ptr<ManualWindow> manual_;  ///< once it was asked for
   Printing printing_{[this](const Chart& chart) { return SizeOf(chart); }};
   const Form* front_ = nullptr;
   QElapsedTimer sinceRepaint_;
