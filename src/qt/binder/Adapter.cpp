@@ -1,9 +1,10 @@
 #include "qt/binder/Adapter.h"
 
 #include <QAction>
+#include <QPointer>
 #include <QVariant>
 #include <QWidget>
-#include <array>
+#include <utility>
 
 #include "qt/Text.h"
 #include "qt/binder/Binder.h"
@@ -27,6 +28,14 @@ Adapter::Adapter(Control& control, QObject* view, Binder& binder) : control_(con
   if (!view || !IsSecondView()) return;
   const QString text = view->property("text").toString();
   keepsItsText_ = !text.isEmpty();
+}
+
+void Adapter::Run(std::function<void()> event) {
+  Form& form = control_.form;
+  form.host.events.RunWhenFree(form.name, control_.FullName(),
+                               [self = QPointer<Adapter>(this), event = std::move(event)] {
+                                 if (self) event();
+                               });
 }
 
 bool Adapter::IsSecondView() const { return view_->dynamicPropertyNames().contains("control"); }

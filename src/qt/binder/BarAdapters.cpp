@@ -12,7 +12,7 @@ ScrollBarAdapter::ScrollBarAdapter(ScrollBar& bar, QScrollBar& view, Binder& bin
     : Adapter(bar, &view, binder), bar_(bar), view_(view) {
   // The value of a thumb counts when it is let go.
   view.setTracking(false);
-  connect(&view, &QScrollBar::valueChanged, this, [this](int value) {
+  OnUser(view, &QScrollBar::valueChanged, [this](int value) {
     MarkDirty(What::Content);
     bar_.Value = value;
   });

@@ -34,7 +34,11 @@ std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window) {
 
 Binder::Binder(Form& form, QWidget& window) : window_(window) {
   nextFlush_.setSingleShot(true);
-  connect(&nextFlush_, &QTimer::timeout, this, &Binder::Flush);
+  connect(&nextFlush_, &QTimer::timeout, this, [this, &form] {
+    form.host.events.Run(form.name, "Flush", [self = QPointer<Binder>(this)] {
+      if (self) self->Flush();
+    });
+  });
   for (Control* control : form.Controls()) Bind(*control);
   Flush();
 }

@@ -15,7 +15,7 @@ CommandButtonAdapter::CommandButtonAdapter(CommandButton& button, QAbstractButto
     push->setAutoDefault(false);
     push->setDefault(button.form.DefaultButton == &button);
   }
-  connect(&view, &QAbstractButton::clicked, this, [this] { button_.Press(); });
+  OnUser(view, &QAbstractButton::clicked, [this] { button_.Press(); });
 }
 
 void CommandButtonAdapter::ShowContent() {
@@ -24,7 +24,7 @@ void CommandButtonAdapter::ShowContent() {
 
 CommandActionAdapter::CommandActionAdapter(CommandButton& button, QAction& view, Binder& binder)
     : Adapter(button, &view, binder), button_(button), view_(view) {
-  connect(&view, &QAction::triggered, this, [this] { button_.Press(); });
+  OnUser(view, &QAction::triggered, [this] { button_.Press(); });
 }
 
 void CommandActionAdapter::ShowContent() {
@@ -33,7 +33,7 @@ void CommandActionAdapter::ShowContent() {
 
 CheckBoxAdapter::CheckBoxAdapter(CheckBox& box, QCheckBox& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
-  connect(&view, &QCheckBox::clicked, this, [this](bool checked) {
+  OnUser(view, &QCheckBox::clicked, [this](bool checked) {
     MarkDirty(What::Content);
     box_.Value = checked;
   });
@@ -47,7 +47,7 @@ void CheckBoxAdapter::ShowContent() {
 OptionButtonAdapter::OptionButtonAdapter(OptionButton& button, QRadioButton& view, Binder& binder)
     : Adapter(button, &view, binder), button_(button), view_(view) {
   // Toggled, since an arrow key chooses, too.
-  connect(&view, &QRadioButton::toggled, this, [this](bool on) {
+  OnUser(view, &QRadioButton::toggled, [this](bool on) {
     MarkDirty(What::Content);
     if (on) button_.Value = true;
   });
@@ -63,8 +63,8 @@ void OptionButtonAdapter::ShowContent() {
 }
 
 UpDownAdapter::UpDownAdapter(UpDown& arrows, UpDownWidget& view, Binder& binder) : Adapter(arrows, &view, binder) {
-  connect(&view, &UpDownWidget::Up, this, [&arrows] { arrows.UpClick(); });
-  connect(&view, &UpDownWidget::Down, this, [&arrows] { arrows.DownClick(); });
+  OnUser(view, &UpDownWidget::Up, [&arrows] { arrows.UpClick(); });
+  OnUser(view, &UpDownWidget::Down, [&arrows] { arrows.DownClick(); });
 }
 
 }  // namespace tarnview

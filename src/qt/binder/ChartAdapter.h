@@ -15,19 +15,19 @@ class ChartAdapter : public Adapter {
         chart_(chart),
         view_(view),
         gestures_(*new ChartGestures(view, chart.Wheel.Heard())) {
-    connect(&view, &ChartWidget::PointClicked, this,
-            [this](int place, int point) { chart_.SelectPoint(SeriesAt(place), point); });
+    OnUser(view, &ChartWidget::PointClicked,
+           [this](int place, int point) { chart_.SelectPoint(SeriesAt(place), point); });
     const auto& surface = *new SurfaceGestures(view);
-    connect(&surface, &SurfaceGestures::Turned, this, [this](double right, double up) { chart_.Turn(right, up); });
-    connect(&surface, &SurfaceGestures::Zoomed, this, [this](double notches) { chart_.Wheel(0, notches); });
-    connect(&surface, &SurfaceGestures::DoubleClicked, this, [this] { chart_.DblClick(); });
-    connect(&view, &ChartWidget::RightClicked, this, [this] { chart_.RightClick(); });
-    connect(&gestures_, &ChartGestures::Turned, this, [this](double x, double notches) { chart_.Wheel(x, notches); });
-    connect(&gestures_, &ChartGestures::Marked, this, [this](double x1, double x2) { chart_.Band(x1, x2); });
-    connect(&gestures_, &ChartGestures::Panned, this, [this](double grabbed, double x) { chart_.Pan(grabbed, x); });
-    connect(&gestures_, &ChartGestures::DoubleClicked, this, [this] { chart_.DblClick(); });
-    connect(&gestures_, &ChartGestures::PointedAt, this, [this](double x) { chart_.Hover(x); });
-    connect(&gestures_, &ChartGestures::PointerLeft, this, [this] { chart_.HoverEnd(); });
+    OnUser(surface, &SurfaceGestures::Turned, [this](double right, double up) { chart_.Turn(right, up); });
+    OnUser(surface, &SurfaceGestures::Zoomed, [this](double notches) { chart_.Wheel(0, notches); });
+    OnUser(surface, &SurfaceGestures::DoubleClicked, [this] { chart_.DblClick(); });
+    OnUser(view, &ChartWidget::RightClicked, [this] { chart_.RightClick(); });
+    OnUser(gestures_, &ChartGestures::Turned, [this](double x, double notches) { chart_.Wheel(x, notches); });
+    OnUser(gestures_, &ChartGestures::Marked, [this](double x1, double x2) { chart_.Band(x1, x2); });
+    OnUser(gestures_, &ChartGestures::Panned, [this](double grabbed, double x) { chart_.Pan(grabbed, x); });
+    OnUser(gestures_, &ChartGestures::DoubleClicked, [this] { chart_.DblClick(); });
+    OnUser(gestures_, &ChartGestures::PointedAt, [this](double x) { chart_.Hover(x); });
+    OnUser(gestures_, &ChartGestures::PointerLeft, [this] { chart_.HoverEnd(); });
   }
 
  protected:

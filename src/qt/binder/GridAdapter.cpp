@@ -9,13 +9,13 @@ namespace tarnview {
 GridAdapter::GridAdapter(Grid& grid, GridWidget& view, Binder& binder)
     : Adapter(grid, &view, binder), grid_(grid), view_(&view) {
   view.SetGrid(&grid);
-  connect(&view, &GridWidget::Clicked, this, [this](GridPlace cell) { grid_.UserClicks(cell); });
-  connect(&view, &GridWidget::Extended, this, [this](GridPlace cell) { grid_.UserExtends(cell); });
-  connect(&view, &GridWidget::DoubleClicked, this, [this](GridPlace cell) { grid_.UserDoubleClicks(cell); });
-  connect(&view, &GridWidget::RightClicked, this, [this](GridPlace cell) { grid_.UserRightClicks(cell); });
-  connect(&view, &GridWidget::FieldEdited, this, [this](const QString& text) { grid_.SetEditText(FromQt(text)); });
-  connect(&view, &GridWidget::Stepped, this, [this](int by) { grid_.StepEdit(by); });
-  connect(&view, &GridWidget::Typed, this, [this](const QString& text) {
+  OnUser(view, &GridWidget::Clicked, [this](GridPlace cell) { grid_.UserClicks(cell); });
+  OnUser(view, &GridWidget::Extended, [this](GridPlace cell) { grid_.UserExtends(cell); });
+  OnUser(view, &GridWidget::DoubleClicked, [this](GridPlace cell) { grid_.UserDoubleClicks(cell); });
+  OnUser(view, &GridWidget::RightClicked, [this](GridPlace cell) { grid_.UserRightClicks(cell); });
+  OnUser(view, &GridWidget::FieldEdited, [this](const QString& text) { grid_.SetEditText(FromQt(text)); });
+  OnUser(view, &GridWidget::Stepped, [this](int by) { grid_.StepEdit(by); });
+  OnUser(view, &GridWidget::Typed, [this](const QString& text) {
     if (!grid_.BeginEdit("")) return;
     typed_ = true;
     grid_.SetEditText(FromQt(text));

@@ -59,24 +59,24 @@ void ListViewAdapter::SetUpColumns() {
 }
 
 void ListViewAdapter::ConnectUser() {
-  connect(&view_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+  OnUser(view_, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
     justSelected_ = item;
     SelectByUser(item);
   });
-  connect(&view_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+  OnUser(view_, &QTreeWidget::itemClicked, [this](QTreeWidgetItem* item) {
     if (std::exchange(justSelected_, nullptr) != item) SelectByUser(item);
   });
-  connect(&view_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
+  OnUser(view_, &QTreeWidget::itemDoubleClicked, [this](QTreeWidgetItem* item) {
     if (const int row = RowOf(item)) list_.DblClick(row);
   });
-  connect(&view_, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
+  OnUser(view_, &QTreeWidget::itemChanged, [this](QTreeWidgetItem* item, int column) {
     const int row = RowOf(item);
     if (column != 0 || row < 1 || row > list_.Count() || !list_.CheckBoxes) return;
     // The window may take the check back.
     MarkDirty(What::Content);
     list_.SetChecked(row, item->checkState(0) == Qt::Checked);
   });
-  connect(view_.header(), &QHeaderView::sectionClicked, this, [this](int section) {
+  OnUser(*view_.header(), &QHeaderView::sectionClicked, [this](int section) {
     QHeaderView& header = *view_.header();
     const bool down = header.isSortIndicatorShown() && header.sortIndicatorSection() == section &&
                       header.sortIndicatorOrder() == Qt::AscendingOrder;

@@ -8,7 +8,7 @@ MenuActionAdapter::MenuActionAdapter(MenuItem& item, QAction& view, Binder& bind
     : Adapter(item, &view, binder), item_(item), view_(view) {
   // One action alone may own a shortcut.
   if (!IsSecondView() && !item.Shortcut.empty()) view.setShortcut(QKeySequence(ToQt(item.Shortcut)));
-  connect(&view, &QAction::triggered, this, [this] {
+  OnUser(view, &QAction::triggered, [this] {
     // The toolkit has ticked a checkable entry by itself; the window decides.
     MarkDirty(What::Content);
     if (item_.Enabled) item_.Click();
@@ -38,7 +38,7 @@ void MenuAdapter::ShowContent() { view_.setTitle(ShownToQt(item_.Caption)); }
 
 MenuButtonAdapter::MenuButtonAdapter(MenuItem& item, QAbstractButton& view, Binder& binder)
     : Adapter(item, &view, binder), item_(item), view_(view) {
-  connect(&view, &QAbstractButton::clicked, this, [this] {
+  OnUser(view, &QAbstractButton::clicked, [this] {
     if (item_.Enabled) item_.Click();
   });
 }

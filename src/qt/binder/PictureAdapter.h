@@ -10,7 +10,7 @@ class PictureAdapter : public Adapter {
  public:
   PictureAdapter(Picture& picture, PictureWidget& view, Binder& binder)
       : Adapter(picture, &view, binder), picture_(picture), view_(view) {
-    connect(&view, &PictureWidget::Resized, this, [this] {
+    OnUser(view, &PictureWidget::Resized, [this] {
       const QSize size = view_.SizeInTwips();
       picture_.SetSize(size.width(), size.height());
     });

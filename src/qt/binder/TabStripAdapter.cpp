@@ -10,7 +10,7 @@ namespace tarnview {
 
 TabStripAdapter::TabStripAdapter(TabStrip& tabs, QTabWidget& view, Binder& binder)
     : Adapter(tabs, &view, binder), tabs_(tabs), view_(view) {
-  connect(&view, &QTabWidget::currentChanged, this, [this](int page) {
+  OnUser(view, &QTabWidget::currentChanged, [this](int page) {
     if (const int tab = TabOf(page)) tabs_.Select(tab);
   });
 }

@@ -32,8 +32,8 @@ void GroupBoxAdapter::ShowContent() { view_.setTitle(ToQt(frame_.Caption)); }
 
 LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
-  connect(&view, &QLineEdit::textEdited, this,
-          [this](const QString& text) { box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text); });
+  OnUser(view, &QLineEdit::textEdited,
+         [this](const QString& text) { box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text); });
 }
 
 void LineEditAdapter::ShowContent() {
@@ -45,8 +45,7 @@ void LineEditAdapter::ShowContent() {
 TextEditAdapter::TextEditAdapter(TextBox& box, QPlainTextEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
   view.setTabChangesFocus(true);
-  connect(&view, &QPlainTextEdit::textChanged, this,
-          [this] { box_.Text = FromQt(view_.toPlainText().replace("\n", "\r\n")); });
+  OnUser(view, &QPlainTextEdit::textChanged, [this] { box_.Text = FromQt(view_.toPlainText().replace("\n", "\r\n")); });
 }
 
 void TextEditAdapter::ShowContent() {
@@ -60,12 +59,12 @@ ComboBoxAdapter::ComboBoxAdapter(ComboBox& box, QComboBox& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
   view.setEditable(box.Editable);
   view.setInsertPolicy(QComboBox::NoInsert);
-  connect(&view, &QComboBox::activated, this, [this](int entry) {
+  OnUser(view, &QComboBox::activated, [this](int entry) {
     MarkDirty(What::Content);
     box_.SetListIndex(entry);
   });
   if (box.Editable)
-    connect(&view, &QComboBox::editTextChanged, this, [this](const QString& text) { box_.Text = FromQt(text); });
+    OnUser(view, &QComboBox::editTextChanged, [this](const QString& text) { box_.Text = FromQt(text); });
 }
 
 void ComboBoxAdapter::ShowContent() {
@@ -84,7 +83,7 @@ void ComboBoxAdapter::ShowContent() {
 
 ListBoxAdapter::ListBoxAdapter(ListBox& box, QListWidget& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
-  connect(&view, &QListWidget::currentRowChanged, this, [this](int row) { box_.ListIndex = row; });
+  OnUser(view, &QListWidget::currentRowChanged, [this](int row) { box_.ListIndex = row; });
 }
 
 void ListBoxAdapter::ShowContent() {

@@ -11,7 +11,7 @@ class TimerAdapter : public Adapter {
  public:
   TimerAdapter(Timer& timer, Binder& binder) : Adapter(timer, nullptr, binder), timer_(timer) {
     clock_.setInterval(timer.Interval);
-    connect(&clock_, &QTimer::timeout, this, [this] { timer_.Tick(); });
+    OnUser(clock_, &QTimer::timeout, [this] { timer_.Tick(); });
   }
 
  protected:

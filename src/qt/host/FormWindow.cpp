@@ -79,6 +79,20 @@ void FormWindow::LetGo() {
   for (Control* control : form_.Controls()) control->Forget();
 }
 
+std::function<void()> FormWindow::WhileHere(std::function<void()> event) {
+  return [self = QPointer<FormWindow>(this), event = std::move(event)] {
+    if (self) event();
+  };
+}
+
+void FormWindow::Run(const char* procedure, std::function<void()> event) {
+  form_.host.events.Run(form_.name, procedure, WhileHere(std::move(event)));
+}
+
+void FormWindow::RunWhenFree(const char* procedure, std::function<void()> event) {
+  form_.host.events.RunWhenFree(form_.name, procedure, WhileHere(std::move(event)));
+}
+
 void FormWindow::ShowCaption() {
   const std::string& subtitle = form_.Subtitle;
   window_->setWindowTitle(CaptionToQt(subtitle.empty() ? form_.Caption() : form_.Caption() + " - " + subtitle));
@@ -105,8 +119,7 @@ bool FormWindow::eventFilter(QObject* receiver, QEvent* event) {
     case QEvent::KeyRelease:
       return Receives(receiver) && KeyUp(static_cast<QKeyEvent&>(*event));
     case QEvent::FocusIn:
-      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_)
-        if (Control* control = binder_.ControlOf(widget)) form_.SetFocus(control);
+      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_) TakeFocus(*widget);
       return false;
     default:
       return receiver == window_ && WindowEvent(*event);
@@ -118,14 +131,14 @@ bool FormWindow::WindowEvent(QEvent& event) {
     case QEvent::Close:
       // Unload hides the window where it agrees; this object may be gone then.
       event.ignore();
-      form_.Unload();
+      RunWhenFree("Form_QueryUnload", [this] { form_.Unload(); });
       return true;
     case QEvent::WindowActivate:
-      cameToFront_(form_);
+      RunWhenFree("Form_Activate", [this] { cameToFront_(form_); });
       return false;
     case QEvent::Resize:
       NoteWhereItIs();
-      form_.Form_Resize();
+      RunWhenFree("Form_Resize", [this] { form_.Form_Resize(); });
       return false;
     case QEvent::Show:
     case QEvent::Move:
@@ -133,22 +146,39 @@ bool FormWindow::WindowEvent(QEvent& event) {
       NoteWhereItIs();
       return false;
     case QEvent::DragEnter:
-      if (auto& drag = static_cast<QDragEnterEvent&>(event); !DraggedFile(*drag.mimeData()).empty())
-        drag.acceptProposedAction();
-      return true;
-    case QEvent::Drop: {
-      auto& drop = static_cast<QDropEvent&>(event);
-      const std::string path = DraggedFile(*drop.mimeData());
-      if (path.empty()) return true;
-      drop.acceptProposedAction();
-      // Opened after the drop is over, so that the window dragged from does not wait for a long load.
-      QMetaObject::invokeMethod(
-          this, [this, path] { form_.DropFile(path); }, Qt::QueuedConnection);
-      return true;
-    }
+    case QEvent::Drop:
+      return DragOrDrop(static_cast<QDropEvent&>(event));
     default:
       return false;
   }
+}
+
+bool FormWindow::IsHeldUp() const {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal && modal != window_;
+}
+
+/// A file that comes while a dialog is open is refused: nothing may be loaded behind the dialog's back.
+bool FormWindow::DragOrDrop(QDropEvent& event) {
+  const std::string path = DraggedFile(*event.mimeData());
+  if (path.empty() || IsHeldUp()) {
+    event.ignore();
+    return true;
+  }
+  event.acceptProposedAction();
+  // Opened after the drop is over, so that the window dragged from does not wait for a long load.
+  if (event.type() == QEvent::Drop)
+    QMetaObject::invokeMethod(
+        this, [this, path] { RunWhenFree("DropFile", [this, path] { form_.DropFile(path); }); }, Qt::QueuedConnection);
+  return true;
+}
+
+/// The focus may have gone on when this comes to run.
+void FormWindow::TakeFocus(QWidget& widget) {
+  RunWhenFree("SetFocus", [this, taken = QPointer<QWidget>(&widget)] {
+    if (!taken || window_->focusWidget() != taken) return;
+    if (Control* control = binder_.ControlOf(taken)) form_.SetFocus(control);
+  });
 }
 
 /// A window that is not on show yet has no place of its own.
@@ -159,20 +189,21 @@ void FormWindow::NoteWhereItIs() {
 bool FormWindow::Receives(QObject* receiver) const {
   // A key that nobody takes travels up through the parents; the window sees it once, before the first of them.
   QWidget* first = window_->focusWidget() ? window_->focusWidget() : window_.data();
-  return receiver == first && (!QApplication::activeModalWidget() || QApplication::activeModalWidget() == window_);
+  return receiver == first && !IsHeldUp();
 }
 
 bool FormWindow::KeyDown(QKeyEvent& event) {
-  if (draining_ && event.isAutoRepeat()) return true;
+  // What comes past the toolkit's own queue while an event is at work is too early.
+  if (form_.host.events.Busy() || (draining_ && event.isAutoRepeat())) return true;
   const auto key = ToKeyPress(event);
   if (!key) return false;
   pressed_ = key;
   const QPointer<FormWindow> self(this);
-  if (form_.KeyGoesDown(*key)) {
-    if (self) DrainRepeats();
-    return true;
-  }
-  return !self || EnterOrEscape(*key);
+  bool taken = false;
+  Run("Form_KeyDown", [&] { taken = form_.KeyGoesDown(*key); });
+  if (!self) return true;
+  if (taken) DrainRepeats();
+  return taken || EnterOrEscape(*key);
 }
 
 /// A key held down must not queue up work: what repeated while the window was at work is dropped.
@@ -186,29 +217,30 @@ void FormWindow::DrainRepeats() {
 
 bool FormWindow::EnterOrEscape(const KeyPress& key) {
   if (!key.Plain() || (key.key != "Enter" && key.key != "Escape")) return false;
-  QWidget* focus = window_->focusWidget();
   if (key.key == "Escape") {
-    if (form_.CancelButton) {
-      form_.CancelButton->Press();
-      return true;
-    }
     // A window without such a button takes the close box's way; the main window does not close on a stray key.
-    if (window_->inherits("QDialog")) form_.Unload();
+    if (CommandButton* button = form_.CancelButton)
+      Run("Escape", [button] { button->Press(); });
+    else if (window_->inherits("QDialog"))
+      Run("Form_QueryUnload", [this] { form_.Unload(); });
     return true;
   }
+  QWidget* focus = window_->focusWidget();
   if (KeepsEnter(focus)) return false;
   auto* focused = dynamic_cast<CommandButton*>(focus ? binder_.ControlOf(focus) : nullptr);
-  if (CommandButton* button = focused ? focused : form_.DefaultButton) button->Press();
+  if (CommandButton* button = focused ? focused : form_.DefaultButton) Run("Enter", [button] { button->Press(); });
   return true;
 }
 
 bool FormWindow::KeyUp(QKeyEvent& event) {
-  if (event.isAutoRepeat()) return false;
+  if (event.isAutoRepeat() || form_.host.events.Busy()) return false;
   auto key = ToKeyPress(event);
   if (!key) return false;
   // Hands often let Ctrl or Shift go first: the key counts as it was pressed.
   if (pressed_ && pressed_->key == key->key) key = std::exchange(pressed_, std::nullopt);
-  return form_.KeyGoesUp(*key);
+  bool taken = false;
+  Run("Form_KeyUp", [&] { taken = form_.KeyGoesUp(*key); });
+  return taken;
 }
 
 }  // namespace tarnview

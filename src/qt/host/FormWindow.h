@@ -9,6 +9,7 @@
 #include "qt/binder/Binder.h"
 #include "ui/Keys.h"
 
+class QDropEvent;
 class QKeyEvent;
 
 namespace tarnview {
@@ -33,6 +34,10 @@ class FormWindow : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
+  /// Runs what the user does, as an event with an end for its errors; nothing once the window is gone.
+  void Run(const char* procedure, std::function<void()> event);
+  void RunWhenFree(const char* procedure, std::function<void()> event);
+  std::function<void()> WhileHere(std::function<void()> event);
   void ShowCaption();
   bool WindowEvent(QEvent& event);
   void NoteWhereItIs();
@@ -41,6 +46,10 @@ class FormWindow : public QObject {
   bool EnterOrEscape(const KeyPress& key);
   bool Receives(QObject* receiver) const;
   void DrainRepeats();
+  void TakeFocus(QWidget& widget);
+  /// Another window, or an open dialog, has the user.
+  bool IsHeldUp() const;
+  bool DragOrDrop(QDropEvent& event);
 
   Form& form_;
   QPointer<QWidget> window_;

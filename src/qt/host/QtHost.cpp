@@ -25,6 +25,8 @@ constexpr int kRepaintEvery = 30;
 /// Of a chart that no window shows.
 constexpr QSize kPictureSize(1400, 800);
 
+bool IsSplash(const QWidget& window) { return window.property("frameless").toBool(); }
+
 }  // namespace
 
 QtHost::~QtHost() = default;
@@ -44,12 +46,14 @@ void QtHost::FreeManual(const QWidget& window) {
 
 Reply QtHost::Ask(const Box& box) {
   FlushAll();
-  return AskInBox(box, ParentForNew());
+  const UserEvents::Pause pause(events);
+  return AskInBox(box, OwnerOfDialog());
 }
 
 bool QtHost::Choose(Dialog& dialog) {
   FlushAll();
-  return ChooseInDialog(dialog, ParentForNew());
+  const UserEvents::Pause pause(events);
+  return ChooseInDialog(dialog, OwnerOfDialog());
 }
 
 FormWindow* QtHost::WindowOf(const Form& form) const {
@@ -58,19 +62,26 @@ FormWindow* QtHost::WindowOf(const Form& form) const {
   return found == windows_.end() ? nullptr : found->get();
 }
 
-QWidget* QtHost::ParentForNew() const {
+QWidget* QtHost::OwnerOfDialog() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  // The main window is the one that has no parent and stays; a splash goes away by itself.
+  // The window that the user is in: raised with its owner, a dialog of another would bring that one over it.
+  const FormWindow* front = front_ ? WindowOf(*front_) : nullptr;
+  if (front && front->window().isVisible() && !IsSplash(front->window())) return &front->window();
+  return MainWindow();
+}
+
+QWidget* QtHost::MainWindow() const {
+  // The main window is the first that stays; a splash goes away by itself.
   for (const auto& one : windows_)
-    if (!one->window().property("frameless").toBool()) return &one->window();
+    if (!IsSplash(one->window())) return &one->window();
   return nullptr;
 }
 
 void QtHost::Show(Form& form, bool modal) {
   FormWindow* window = WindowOf(form);
   if (!window) {
-    windows_.push_back(
-        std::make_unique<FormWindow>(form, ParentForNew(), [this](Form& inFront) { CameToFront(inFront); }));
+    windows_.push_back(std::make_unique<FormWindow>(form, modal ? OwnerOfDialog() : MainWindow(),
+                                                    [this](Form& inFront) { CameToFront(inFront); }));
     window = windows_.back().get();
   }
   window->Raise(modal);
@@ -87,6 +98,7 @@ void QtHost::CameToFront(Form& form) {
 }
 
 void QtHost::RunModal(Form& form) {
+  const UserEvents::Pause pause(events);
   QEventLoop loop;
   loops_.push_back({&form, &loop});
   loop.exec();
@@ -112,12 +124,13 @@ void QtHost::PopupMenu(MenuItem& menu) {
   FormWindow* window = WindowOf(menu.form);
   if (!window) return;
   window->binder().Flush();
+  const UserEvents::Pause pause(events);
   if (auto* shown = qobject_cast<QMenu*>(window->binder().ViewOf(menu))) shown->exec(QCursor::pos());
 }
 
 void QtHost::DoEvents() {
   FlushAll();
-  QCoreApplication::processEvents();
+  QCoreApplication::processEvents(events.Busy() ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
 }
 
 void QtHost::Repaint(Form&) {
@@ -160,12 +173,14 @@ bool QtHost::SavePicture(const Chart& chart, const std::string& path, std::strin
 
 bool QtHost::PrintPage(const PrintJob& job, std::string& error) {
   FlushAll();
-  return printing_.Print(job, ParentForNew(), error);
+  const UserEvents::Pause pause(events);
+  return printing_.Print(job, OwnerOfDialog(), error);
 }
 
 bool QtHost::PreviewPage(const PrintJob& job, std::string& error) {
   FlushAll();
-  return printing_.Preview(job, ParentForNew(), error);
+  const UserEvents::Pause pause(events);
+  return printing_.Preview(job, OwnerOfDialog(), error);
 }
 
 void QtHost::FlushAll() {

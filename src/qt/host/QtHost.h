@@ -44,7 +44,9 @@ class QtHost : public Host {
     QEventLoop* loop;
   };
 
-  QWidget* ParentForNew() const;
+  QWidget* MainWindow() const;
+  /// The window that a box, a dialog or a modal window opens for.
+  QWidget* OwnerOfDialog() const;
   QSize SizeOf(const Chart& chart) const;
   void CameToFront(Form& form);
   void FlushAll();
