@@ -1,9 +1,12 @@
 #include <gmock/gmock.h>
 
+#include <QDropEvent>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include "app/frmAbout.h"
 #include "app/frmNonModalMessage.h"
@@ -125,6 +128,124 @@ TEST(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
     QtHost host;
     EXPECT_EQ(host.Ask({1, row.text, kBoxOk, "Tarnview [*]"}), Reply::Ok);
   }
+}
+
+/// A window whose one command takes long: it lets the window be drawn, as a load or a draw does.
+struct Working : frmNonModalMessage {
+  explicit Working(Host& itsHost) : frmNonModalMessage(itsHost, [](int) {}) {
+    cmdClose.Click = [this] {
+      Note("begins");
+      if (const auto once = std::exchange(during, nullptr)) once();
+      for (int i = 0; i < 3; ++i) {
+        QTest::qSleep(40);  // repaints come at most every 30 ms
+        Refresh();
+        host.DoEvents();
+      }
+      Note("ends");
+      if (fails) throw std::runtime_error("broken");
+    };
+  }
+  void Note(const std::string& what) { notes += what + " "; }
+  bool DropFile(const std::string& path) override {
+    Note("drop:" + path);
+    return true;
+  }
+  bool Form_QueryUnload() override {
+    Note("close");
+    return false;
+  }
+  void Form_Activate() override { Note("activate"); }
+  std::string notes;
+  std::function<void()> during;
+  bool fails = false;
+};
+
+void Drop(QWidget& window, const char* path) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(path)});
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(&window, &enter);
+  if (enter.isAccepted()) QApplication::sendEvent(&window, &drop);
+}
+
+TEST(QtHostTest, WhatComesWhileAnEventIsAtWorkWaitsForItsEnd) {
+  TestApplication();
+  QtHost host;
+  Working form(host);
+  form.Show();
+  QWidget& window = host.WindowOf(form)->window();
+  auto* button = window.findChild<QPushButton*>("cmdClose");
+  Settle();
+  form.notes.clear();
+  form.during = [&] {
+    Drop(window, "/logs/run.txt");
+    window.close();
+    QTimer::singleShot(0, [&] { QTest::keyClick(&window, Qt::Key_F9); });
+    QTimer::singleShot(0, button, &QPushButton::click);
+  };
+  button->click();
+  Settle();
+  EXPECT_EQ(form.notes, "begins ends close drop:/logs/run.txt begins ends ");
+}
+
+TEST(QtHostTest, AnErrorThatNothingEndedEndsAtItsEvent) {
+  TestApplication();
+  QtHost host;
+  std::string told;
+  host.events.Failed = [&](const std::string& module, const std::string& procedure, const std::exception& error) {
+    told += module + "/" + procedure + ":" + error.what() + " ";
+  };
+  Working form(host);
+  form.Show();
+  QWidget& window = host.WindowOf(form)->window();
+  form.fails = true;
+  form.DefaultButton = &form.cmdClose;
+  QTest::mouseClick(window.findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+  QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(told, "frmNonModalMessage/cmdClose:broken frmNonModalMessage/Enter:broken ");
+  EXPECT_FALSE(host.events.Busy());
+}
+
+TEST(QtHostTest, AFileDroppedBehindADialogIsRefused) {
+  TestApplication();
+  QtHost host;
+  Working form(host);
+  form.Show();
+  QWidget& window = host.WindowOf(form)->window();
+  QTimer::singleShot(0, [&] {
+    Drop(window, "/logs/run.txt");
+    Settle();
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+  });
+  form.host.Ask({1, "Text", kBoxOk, "Tarnview"});
+  Settle();
+  EXPECT_EQ(form.notes.find("drop"), std::string::npos) << form.notes;
+  Drop(window, "/logs/run.txt");
+  Settle();
+  EXPECT_NE(form.notes.find("drop:/logs/run.txt"), std::string::npos);
+}
+
+TEST(QtHostTest, ABoxBelongsToTheWindowThatTheUserIsIn) {
+  TestApplication();
+  QtHost host;
+  Working main(host), graph(host);
+  main.Show();
+  graph.Show();
+  const auto ownerOfBox = [&] {
+    const QWidget* owner = nullptr;
+    QTimer::singleShot(0, [&] {
+      owner = QApplication::activeModalWidget()->parentWidget();
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    host.Ask({1, "Text", kBoxOk, "Tarnview"});
+    return owner;
+  };
+  EXPECT_EQ(ownerOfBox(), &host.WindowOf(graph)->window());
+  QEvent activated(QEvent::WindowActivate);
+  QApplication::sendEvent(&host.WindowOf(main)->window(), &activated);
+  EXPECT_EQ(ownerOfBox(), &host.WindowOf(main)->window());
+  EXPECT_EQ(host.WindowOf(graph)->window().parentWidget(), &host.WindowOf(main)->window());
 }
 
 TEST(DialogsTest, FiltersTakeTheToolkitsForm) {

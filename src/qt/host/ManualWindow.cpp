@@ -24,11 +24,12 @@ constexpr const char* kInstructions = "Instructions.htm";
 constexpr const char* kScheme = "manual";
 
 /// Lines of text high, characters wide: what a page of the manual fills well.
-constexpr int kLines = 44, kCharacters = 88;
+constexpr int kLines = 44, kCharacters = 100, kContentsCharacters = 38;
 
 /// The toolkit knows few of a browser's styles; these say the same in its words.
 constexpr const char* kStyle =
     "h1 { font-size: x-large; } h2 { font-size: large; margin-top: 24px; } h3 { margin-top: 14px; }"
+    ".contents ul { list-style-type: none; } "
     "th, td { padding: 3px 12px 3px 0; text-align: left; vertical-align: top; }"
     "code, pre, kbd { font-family: monospace; }";
 
@@ -106,7 +107,7 @@ ManualWindow::ManualWindow() : contents_(new ManualPage), instructions_(new Manu
   (new QVBoxLayout(this))->addWidget(halves);
 
   const int line = fontMetrics().height(), character = fontMetrics().averageCharWidth();
-  const int left = 30 * character;
+  const int left = kContentsCharacters * character;
   halves->setSizes({left, kCharacters * character});
   resize(QSize(left + kCharacters * character, kLines * line).boundedTo(screen()->availableSize() * 9 / 10));
 }

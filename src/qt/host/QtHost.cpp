@@ -144,7 +144,7 @@ void QtHost::Repaint(Form&) {
 
 std::unique_ptr<Waiting> QtHost::Wait(const std::string& program) {
   FlushAll();
-  return std::make_unique<WaitingBox>(ToQt(program), ParentForNew());
+  return std::make_unique<WaitingBox>(ToQt(program), OwnerOfDialog());
 }
 
 void QtHost::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }

@@ -11,6 +11,7 @@ namespace tarnview {
 WaitingBox::WaitingBox(const QString& program, QWidget* parent)
     : QDialog(parent), program_(program), text_(new QLabel) {
   setWindowTitle("Tarnview");
+  text_->setTextFormat(Qt::PlainText);
   auto* busy = new QProgressBar;
   busy->setRange(0, 0);
   busy->setTextVisible(false);
