@@ -92,6 +92,7 @@ bool frmDataLogViewer::DropFile(const std::string& path) {
 
 void frmDataLogViewer::Form_Unload() {
   globals_.settings.windows.main = PlacementOf(*this);
+  globals_.settings.beyond.mainDividers = Dividers;
   nonModalMessages_.UnloadAll();
   scatter_.UnloadAll();
   power_.UnloadAll();

@@ -12,6 +12,7 @@ namespace tarnview {
 void frmDataLogViewer::TakeSettings() {
   const Settings& settings = globals_.settings;
   ApplyPlacement(settings.windows.main, *this);
+  Dividers = settings.beyond.mainDividers;
   cboZoomAmount.Text = std::to_string(settings.gintZoomAmount);
   chkQuickGraph.Value = settings.gblnQuickGraph;
   txtYMax.Text = std::to_string(settings.gintGraphYMax);

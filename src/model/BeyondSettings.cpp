@@ -11,6 +11,8 @@ const IniKey<B> kKeys[] = {
     {"Draw After Opening",
      IniFlag<B>{&B::drawAfterOpening, IniFlagForm::OffUnlessY},
      {"frmOptions/General", "chkDrawAfterOpening"}},
+    {"Main Window Dividers", IniText<B>{&B::mainDividers}},
+    {"Scatter Graph Dividers", IniText<B>{&B::scatterDividers}},
 };
 
 }  // namespace

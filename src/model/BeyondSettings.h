@@ -10,6 +10,8 @@ inline constexpr const char* kBeyondSection = "Beyond";
 /// where it differs from its default, so that a file with none of them is as it always was.
 struct BeyondSettings {
   bool drawAfterOpening = false;  ///< a log's ticked items are drawn as soon as it is open
+  // Where the bars between a window's parts stand, in the toolkit's words.
+  std::string mainDividers, scatterDividers;
 };
 
 void ReadBeyondSettings(const IniTable& table, BeyondSettings& settings);

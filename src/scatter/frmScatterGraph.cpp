@@ -82,6 +82,7 @@ std::vector<Command> frmScatterGraph::CommandRows() {
 
 void frmScatterGraph::Form_Load() {
   ApplyPlacement(around_.settings.windows.scatterGraph, *this);
+  Dividers = around_.settings.beyond.scatterDividers;
   MoveDown(Cascade);
   ShowBackgroundPicture();
   SetCaption();
@@ -114,6 +115,7 @@ void frmScatterGraph::ShowBackgroundPicture() {
 void frmScatterGraph::Form_Unload() {
   MoveDown(-Cascade);
   if (const auto placement = PlacementOf(*this)) around_.settings.windows.scatterGraph = placement;
+  if (!Dividers.empty()) around_.settings.beyond.scatterDividers = Dividers;
   mainWindow_.ScatterGraphClosed(ID);
 }
 

@@ -40,6 +40,9 @@ class Form {
   // In twips, 15 to a pixel of a screen with 96 to the inch. A Width of 0: the design size, where the desktop puts it.
   int Left = 0, Top = 0, Width = 0, Height = 0;
   int WindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized
+  /// Where the user dragged the bars between its parts: words of the toolkit's own, "mainSplitter=300,900 ...". Kept
+  /// and taken as the place is.
+  std::string Dividers;
 
   const std::vector<Control*>& Controls() const { return controls_; }
   /// The control of that name and index (-1 for one outside an array); nullptr if there is none.

@@ -1,15 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <QSplitter>
 #include <QTimer>
 
+#include "app/MainWindowControls.h"
 #include "app/Program.h"
 #include "app/frmNonModalMessage.h"
 #include "qt/TestApplication.h"
+#include "qt/host/FormWindow.h"
 #include "qt/host/QtHost.h"
 #include "qt/host/WindowPlacement.h"
+#include "qt/pictures/AllWindows.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
+#include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
@@ -96,6 +101,78 @@ TEST(WindowPlacementTest, TheSettingsFileKeepsWhereTheWindowsStood) {
   for (const char* line : {"\r\nWindow Left=180\r\n", "\r\nWindow Width=11400\r\n",
                            "Maintenance Form Window Left=300\r\n", "Maintenance Form Window Width=9300\r\n"})
     EXPECT_NE(kept.find(line), std::string::npos) << line;
+}
+
+TEST(WindowPlacementTest, TheBarsBetweenItsPartsStayWhereTheyWereDragged) {
+  TestApplication();
+  RecordingHost host;
+  struct Controls : MainWindowControls {
+    using MainWindowControls::MainWindowControls;
+  } first(host), second(host), damaged(host);
+  FormWindow dragged(first, nullptr, [](Form&) {});
+  dragged.window().resize(1300, 900);
+  dragged.Raise(false);
+  Settle();
+  auto* bar = dragged.window().findChild<QSplitter*>("mainSplitter");
+  EXPECT_EQ(first.Dividers, "") << "nobody dragged one";
+  bar->setSizes({500, 700});
+  emit bar->splitterMoved(500, 1);
+  EXPECT_EQ(first.Dividers.substr(0, 13), "mainSplitter=");
+  second.Dividers = first.Dividers;
+  second.Width = 1300 * 15;
+  second.Height = 900 * 15;
+  damaged.Dividers = "mainSplitter=1 listSplitter=x,-5,99999999999 nothing=1,2 ==";
+  FormWindow again(second, nullptr, [](Form&) {}), odd(damaged, nullptr, [](Form&) {});
+  again.Raise(false);
+  odd.Raise(false);
+  Settle();
+  EXPECT_NEAR(again.window().findChild<QSplitter*>("mainSplitter")->sizes().first(), bar->sizes().first(), 4);
+  Settle();
+}
+
+/// What fits 1920 by 1080 at twice the size, and 1366 by 768: a desktop's panel and the window's frame taken off.
+TEST(WindowPlacementTest, EveryWindowFitsASmallScreen) {
+  TestApplication();
+  RecordingHost host;
+  AllWindows windows(host);
+  for (Form* form : windows.Forms()) {
+    FormWindow shown(*form, nullptr, [](Form&) {});
+    shown.Raise(false);
+    Settle();
+    const QSize least = shown.window().minimumSizeHint().expandedTo(shown.window().minimumSize());
+    if (getenv("DBG"))
+      for (QWidget* w : shown.window().findChildren<QWidget*>())
+        if (w->minimumSizeHint().height() > 60)
+          fprintf(stderr, "%s %s %d\n", w->metaObject()->className(), qPrintable(w->objectName()),
+                  w->minimumSizeHint().height());
+    EXPECT_LE(least.width(), 950) << form->name;
+    EXPECT_LE(least.height(), 480) << form->name;
+  }
+  Settle();
+}
+
+TEST(WindowPlacementTest, InALowColumnTheListStaysAndTheOthersGo) {
+  TestApplication();
+  RecordingHost host;
+  struct Controls : MainWindowControls {
+    using MainWindowControls::MainWindowControls;
+  } form(host);
+  FormWindow shown(form, nullptr, [](Form&) {});
+  const auto partsAt = [&](int height) {
+    shown.window().resize(1000, height);
+    shown.Raise(false);
+    Settle();
+    QString parts;
+    for (const char* name : {"lvwSampleDetails", "lvwPresets", "fraZoneInfl"})
+      if (shown.window().findChild<QWidget*>(name)->isVisible()) parts += QString(name) + " ";
+    return parts.trimmed().toStdString();
+  };
+  EXPECT_EQ(partsAt(900), "lvwSampleDetails lvwPresets fraZoneInfl");
+  EXPECT_EQ(partsAt(640), "lvwSampleDetails lvwPresets");
+  EXPECT_EQ(partsAt(480), "lvwSampleDetails");
+  EXPECT_EQ(partsAt(900), "lvwSampleDetails lvwPresets fraZoneInfl");
+  form.fraZoneInfl.Visible = false;
+  EXPECT_EQ(partsAt(900), "lvwSampleDetails lvwPresets");
 }
 
 }  // namespace

@@ -8,12 +8,14 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QSplitter>
 #include <QUrl>
 #include <QVariant>
 #include <utility>
 
 #include "qt/Text.h"
 #include "qt/binder/FormTable.h"
+#include "qt/host/GiveWay.h"
 #include "qt/host/KeyNames.h"
 #include "qt/host/WindowPlacement.h"
 #include "qt/icons/Icons.h"
@@ -36,7 +38,9 @@ QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
   window->setWindowIcon(ProgramIcon());
   SetLooks(*window);
   SizeMainWindow(*window);
+  GiveWayIn(*window);
   TakePlacement(form, *window);
+  TakeDividers(form, *window);
   return *window;
 }
 
@@ -63,6 +67,8 @@ FormWindow::FormWindow(Form& form, QWidget* parent, std::function<void(Form&)> c
   window_->setAcceptDrops(true);
   form_.Watcher = [this] { ShowCaption(); };
   ShowCaption();
+  for (const QSplitter* splitter : window_->findChildren<QSplitter*>())
+    connect(splitter, &QSplitter::splitterMoved, this, [this] { NoteDividers(*window_, form_); });
   qApp->installEventFilter(this);
 }
 

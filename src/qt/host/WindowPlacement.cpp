@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSplitter>
 #include <QWidget>
 #include <algorithm>
 
@@ -68,6 +69,26 @@ void NotePlacement(const QWidget& window, Form& form) {
   form.Top = place.top() * kTwipsPerPixel;
   form.Width = place.width() * kTwipsPerPixel;
   form.Height = place.height() * kTwipsPerPixel;
+}
+
+// "mainSplitter=310,690 listSplitter=400,200,0": pixels, which the toolkit takes as shares where the room is another.
+void TakeDividers(const Form& form, QWidget& window) {
+  for (const QString& word : QString::fromStdString(form.Dividers).split(' ', Qt::SkipEmptyParts)) {
+    auto* splitter = window.findChild<QSplitter*>(word.section('=', 0, 0));
+    QList<int> sizes;
+    for (const QString& size : word.section('=', 1).split(',')) sizes << std::clamp(size.toInt(), 0, kFarAway);
+    if (splitter && sizes.size() == splitter->count()) splitter->setSizes(sizes);
+  }
+}
+
+void NoteDividers(const QWidget& window, Form& form) {
+  QStringList words;
+  for (const QSplitter* splitter : window.findChildren<QSplitter*>()) {
+    QStringList sizes;
+    for (const int size : splitter->sizes()) sizes << QString::number(size);
+    words << splitter->objectName() + "=" + sizes.join(',');
+  }
+  form.Dividers = words.join(' ').toStdString();
 }
 
 }  // namespace tarnview

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QLabel>
+#include <QScrollArea>
 #include <QToolBar>
 #include <QVariant>
 #include <QWidget>
@@ -37,6 +38,11 @@ void SetLooks(QWidget& window) {
   SetIconsOf<QAbstractButton>(window);
   const int icon = window.fontMetrics().height() * 4 / 3;
   for (QToolBar* bar : window.findChildren<QToolBar*>()) bar->setIconSize(QSize(icon, icon));
+  for (QScrollArea* area : window.findChildren<QScrollArea*>())
+    if (area->property("clear").toBool()) {
+      area->viewport()->setAutoFillBackground(false);
+      area->widget()->setAutoFillBackground(false);
+    }
   for (QLabel* label : window.findChildren<QLabel*>()) SetLabel(*label);
 }
 
