@@ -8,6 +8,7 @@
 #include "qt/Text.h"
 #include "qt/chart/AxisNumbers.h"
 #include "qt/chart/ChartColours.h"
+#include "qt/chart/ChartText.h"
 #include "qt/chart/LegendText.h"
 #include "qt/chart/LinePen.h"
 #include "qt/chart/NearestPoint.h"
@@ -62,6 +63,7 @@ void ChartWidget::MakeMark() {
 
 void ChartWidget::SetDescription(const ChartDescription& description) {
   chart_ = description;
+  setAccessibleDescription(ChartText(chart_));
   selectedPlace_ = -1;
   drawn_ = false;
   MakeCurves();
