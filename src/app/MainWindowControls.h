@@ -79,7 +79,7 @@ class MainWindowControls : public Form {
   MenuItem mnuFileExport{*this, "mnuFileExport", "&Export...", "Ctrl+E"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};
-  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save P&icture As..."};
+  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Pict&ure As..."};
   MenuItem mnuSepRecentlyUsed{*this, "mnuSepRecentlyUsed", "-"};
   ControlArray<MenuItem> mnuRecentlyUsed{*this, "mnuRecentlyUsed", UpTo(kMostRecentFiles), "", ""};
   MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit"};
@@ -142,7 +142,7 @@ class MainWindowControls : public Form {
   MenuItem mnuRightClickPlotTo{*this, "mnuRightClickPlotTo", "Set Plot &To"};
   MenuItem mnuRightClickPlotFromAnd{*this, "mnuRightClickPlotFromAnd", "Set Plot From and Draw"};
   MenuItem mnuRightClickPlotToAnd{*this, "mnuRightClickPlotToAnd", "Set Plot To and Draw"};
-  MenuItem mnuRightClickNewDataTag{*this, "mnuRightClickNewDataTag", "&New Data Tag"};
+  MenuItem mnuRightClickNewDataTag{*this, "mnuRightClickNewDataTag", "Ne&w Data Tag"};
   MenuItem mnuRightClickCopy{*this, "mnuRightClickCopy", "&Copy Graph"};
   MenuItem mnuRightClickPrint{*this, "mnuRightClickPrint", "&Print..."};
 };

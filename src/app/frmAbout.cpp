@@ -13,6 +13,7 @@ frmAbout::frmAbout(Host& itsHost, const DefinitionDetails& definition, std::func
   lblDLDComments.Caption = definition.strComments;
   fraDLD.Visible = !definition.strName.empty();
   DefaultButton = CancelButton = &cmdOK;
+  HelpTopic = "Start";
   cmdOK.Click = [this] { Unload(); };
   cmdSysInfo.Click = std::move(startSysInfo);
 }

@@ -129,7 +129,8 @@ void frmDataLogViewer::SetUpZoomMenus() {
        {&mnuViewZoomInAmount, &mnuRightClickZoomInAmount, &mnuViewZoomOutAmount, &mnuRightClickZoomOutAmount}) {
     const bool in = entries == &mnuViewZoomInAmount || entries == &mnuRightClickZoomInAmount;
     for (const auto& entry : *entries) {
-      entry->Caption = "&" + std::to_string(entry->index) + " x";
+      // A letter to press is one digit, and 20 begins as 2 does.
+      entry->Caption = (entry->index < 10 ? "&" : "") + std::to_string(entry->index) + " x";
       entry->Click = [this, in, amount = entry->index] {
         zoom_.SetAmount(amount);
         (in ? cmdZoomIn : cmdZoomOut).Press();

@@ -16,6 +16,7 @@ frmFindINIFile::frmFindINIFile(Host& itsHost, const clsFileTypes& types,
     : Form(itsHost, "frmFindINIFile", "Tarnview"), files_(files), messages_(messages) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "Start";
   lstFileType.Click = [this] { lstFileType_Click(); };
   cmdBrowse.Click = [this] { cmdBrowse_Click(); };
   cmdOK.Click = [this] { cmdOK_Click(); };

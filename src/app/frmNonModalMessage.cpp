@@ -9,6 +9,7 @@ frmNonModalMessage::frmNonModalMessage(Host& itsHost, std::function<void(int)> u
   txtMessage.MultiLine = true;
   txtMessage.ReadOnly = true;
   DefaultButton = CancelButton = &cmdClose;
+  HelpTopic = "Troubles";
   cmdClose.Click = [this] { Unload(); };
 }
 

@@ -7,6 +7,7 @@ frmNewPresetName::frmNewPresetName(Host& itsHost, Messages& messages, const std:
     : Form(itsHost, "frmNewPresetName", "New Preset Graph Name"), messages_(messages) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
+  HelpTopic = "PresetSampleGraphs";
   txtName.Text = name;
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };

@@ -57,7 +57,7 @@ class ScatterWindowControls : public Form {
   MenuItem mnuFileExport{*this, "mnuFileExport", "&Export...", "Ctrl+E"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};
-  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Picture &As..."};
+  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Pict&ure As..."};
   MenuItem mnuFileClose{*this, "mnuFileClose", "&Close", "Ctrl+W"};
 
   MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
