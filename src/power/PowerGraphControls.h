@@ -83,7 +83,7 @@ class PowerGraphControls : public Form {
   MenuItem mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As..."};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};
-  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Picture &As..."};
+  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Pict&ure As..."};
   MenuItem mnuSepRecent{*this, "mnuSepRecent", "-"};
   ControlArray<MenuItem> mnuFileRecent{*this, "mnuFileRecent", UpTo(kRecentPowerFiles), "", ""};
   MenuItem mnuFileClose{*this, "mnuFileClose", "&Close", "Ctrl+W"};

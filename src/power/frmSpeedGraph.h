@@ -55,7 +55,7 @@ class frmSpeedGraph : public Form {
   MenuItem mnuFile{*this, "mnuFile", "&File"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};
-  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Picture &As..."};
+  MenuItem mnuFileSavePicture{*this, "mnuFileSavePicture", "Save Pict&ure As..."};
   MenuItem mnuFileClose{*this, "mnuFileClose", "&Close", "Ctrl+W"};
   MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
   MenuItem mnuEditCopy{*this, "mnuEditCopy", "&Copy Graph", "Ctrl+C"};

@@ -38,6 +38,7 @@ QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
   window->setWindowIcon(ProgramIcon());
   SetLooks(*window);
   SizeMainWindow(*window);
+  LetScrollIn(*window);
   GiveWayIn(*window);
   TakePlacement(form, *window);
   TakeDividers(form, *window);

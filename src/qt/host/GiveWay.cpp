@@ -2,6 +2,9 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QLayout>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <algorithm>
@@ -81,6 +84,27 @@ void GiveWay::Fit() {
 void GiveWayIn(QWidget& window) {
   for (QSplitter* column : window.findChildren<QSplitter*>())
     if (column->dynamicPropertyNames().contains(kProperty)) new GiveWay(*column);
+}
+
+void LetScrollIn(QWidget& window) {
+  for (QWidget* part : window.findChildren<QWidget*>()) {
+    if (!part->property("scrolls").toBool()) continue;
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setSizePolicy(part->sizePolicy());
+    if (auto* splitter = qobject_cast<QSplitter*>(part->parentWidget()))
+      splitter->replaceWidget(splitter->indexOf(part), area);
+    else if (QLayout* layout = part->parentWidget()->layout())
+      delete layout->replaceWidget(part, area);
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    area->setMinimumWidth(part->minimumSizeHint().width() + bar);
+    area->setWidget(part);
+    part->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+  }
 }
 
 }  // namespace tarnview

@@ -27,6 +27,9 @@ class GiveWay : public QObject {
   std::vector<QPointer<QWidget>> order_;
 };
 
+/// A part that is taller than a small screen and bears the property "scrolls" gets a scroll bar where it must.
+void LetScrollIn(QWidget& window);
+
 /// Every splitter of a window that names parts to give way.
 void GiveWayIn(QWidget& window);
 
