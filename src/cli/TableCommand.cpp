@@ -66,7 +66,7 @@ class Table {
   void AddCell(int seq, std::int32_t row) {
     if (raw_)
       out_ += std::to_string(log_.glngDataLog(seq - 1, row));
-    else
+    else if (log_.glngDataLog.IsLogged(seq - 1, row))
       AddField(out_, ToUtf8(log_.FormatDataItem(seq, row)));
   }
   void Flush() {

@@ -17,8 +17,6 @@ inline constexpr const char* kExportLineEnd = "\r\n";
 std::string ExportHead(const std::string& banner, const std::string& strLogFile, const std::string& fileType);
 /// The line of the columns' names; a column is a data item (intSeq).
 void AddExportNames(std::string& out, const std::vector<int>& columns, const clsLogDataItems& items);
-/// The line of a store index: the values as the user sees them.
-void AddExportSample(std::string& out, const std::vector<int>& columns, std::int32_t index, const OpenLog& log);
 
 /// A file that cannot be written is a RuntimeError.
 void WriteExport(FileSystem& files, const std::string& strFile, const std::string& text);

@@ -4,6 +4,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "model/CellText.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "samplegraph/ExportText.h"
@@ -35,11 +36,14 @@ void LogExport::ExportDataLog(const std::string& strFile, const std::string& fil
   status_.ShowProgressInStatusBar(std::max(last - first, 1));
   const std::vector<int> columns = Columns();
   std::string out = ExportHead("TARNVIEW EXPORT FILE", log_.gstrCurrentFile, fileType) + kExportLineEnd;
+  CellTexts cells(log_, columns);
+  constexpr std::size_t kUsualCell = 8;
+  out.reserve(out.size() + columns.size() * kUsualCell * static_cast<std::size_t>(last - first + 2));
   AddExportNames(out, columns, *log_.gcolDataItems);
   for (std::int32_t index = first; index <= last; ++index) {
     if (index % interval == 0)
       status_.Progress("Exporting sample " + log_.FormatDataItem(ItemOf(kSample), index), index - first);
-    AddExportSample(out, columns, index, log_);
+    out.append(cells.Line(index)).append(kExportLineEnd);
   }
   WriteExport(files_, strFile, out);
 }

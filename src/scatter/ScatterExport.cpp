@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/CellText.h"
 #include "model/Column.h"
 #include "samplegraph/ExportText.h"
 
@@ -27,6 +28,7 @@ void ExportScatterGraph(const std::string& strFile, const ScatterDrawing& graph,
   for (const std::string& filter : graph.Filters()) out += filter + kExportLineEnd;
   out += kExportLineEnd;
   const std::vector<int> columns = Columns(graph.dblScatterData(), listed);
+  CellTexts cells(log, columns);
   AddExportNames(out, columns, *log.gcolDataItems);
   const int count = static_cast<int>(graph.dblScatterData().x.size());
   const int interval = std::max(count / kProgressUpdates, 1);
@@ -34,7 +36,7 @@ void ExportScatterGraph(const std::string& strFile, const ScatterDrawing& graph,
   for (int j = 0; j < count; ++j) {
     const std::int32_t index = graph.IndexOfPoint(j + 1);
     if (j % interval == 0) status.Progress("Exporting sample " + std::to_string(log.Sample(index)), j);
-    AddExportSample(out, columns, index, log);
+    out.append(cells.Line(index)).append(kExportLineEnd);
   }
   WriteExport(files, strFile, out);
 }
