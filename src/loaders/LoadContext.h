@@ -35,6 +35,7 @@ struct LoadMessage {
 struct LoadOutcome {
   bool loaded = false;                      ///< samples, zones or changes
   std::vector<LoadMessage> messages;        ///< to be shown in this order
+  int columns = 0;                          ///< of a Universal log
   std::vector<std::string> unknownColumns;  ///< titles of a Universal log that its definition does not know
 };
 

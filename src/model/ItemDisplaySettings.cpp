@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/Catalogue.h"
 #include "model/IniKeys.h"
 
 namespace tarnview {
@@ -33,12 +34,13 @@ bool HasItemDisplay(const IniTable& table, const char* section) { return table.F
 
 void ReadItemDisplay(const IniTable& table, const char* section, clsLogDataItems& items) {
   if (!HasItemDisplay(table, section)) return;
-  for (int item = 1; item <= items.Count(); ++item)
+  for (int item = 1; item <= std::min(items.Count(), gintColumnCount); ++item)
     ReadIniKeys<I>(kKeys, table, PlaceOf(section, item), items.Item(item));
 }
 
 void WriteItemDisplay(const clsLogDataItems& items, IniWriter& file) {
-  for (int item = 1; item <= items.Count(); ++item) WriteIniKeys<I>(kKeys, PlaceOf("", item), items.Item(item), file);
+  for (int item = 1; item <= std::min(items.Count(), gintColumnCount); ++item)
+    WriteIniKeys<I>(kKeys, PlaceOf("", item), items.Item(item), file);
 }
 
 void CopyItemDisplay(const clsLogDataItems& from, clsLogDataItems& to) {

@@ -71,7 +71,7 @@ clsDataLogColumn ColumnOf(const ShapeColumn& from, const ShapeItem& item, bool c
   TakeValues(column, from, item);
   column.blnDisplayZero = true;
   column.dblDisplayFactor = item.displayFactor;
-  column.blnDisplay = item.drawn;
+  if (!item.shown) column.blnDisplay = false;
   if (item.item >= kFirstOwnItem) column.lngColour = ColourOfOwnItem(item.item);
   return column;
 }

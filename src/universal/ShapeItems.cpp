@@ -140,7 +140,6 @@ ShapeItem KnownItem(const ShapeColumn& column, const Match& match) {
   item.places = PlacesOf(column.lowest * factor + item.offset, column.highest * factor + item.offset,
                          converted ? match.kept->places : std::max(match.kept->places, column.places));
   item.displayFactor = match.kept->displayFactor;
-  item.drawn = true;
   item.why = "known by its title" + (match.why.empty() ? "" : "; " + match.why);
   return item;
 }

@@ -18,8 +18,8 @@ struct ShapeItem {
   double factor = 1, offset = 0;  ///< a number of the log x factor + offset is in `unit`
   int places = 0;                 ///< 0 to 5, kept of a value
   double displayFactor = 1;       ///< value to height on the Sample Graph
-  bool drawn = false;
-  bool list = false;  ///< texts, in place of numbers
+  bool shown = true;              ///< in the lists of items
+  bool list = false;              ///< texts, in place of numbers
   std::string why;
 };
 

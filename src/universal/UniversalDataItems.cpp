@@ -55,7 +55,8 @@ void AddOwnItems(clsLogDataItems& items, const clsDataLog& definition) {
     items.AddDirect(std::move(item));
   }
   for (const clsDataLogColumn& column : definition.objColumns)
-    if (column.lngDataItemID >= kFirstOwnItem) items.Item(column.lngDataItemID).blnSampleGraphPlottable = true;
+    if (column.lngDataItemID >= kFirstOwnItem)
+      items.Item(column.lngDataItemID).blnDisplay = items.Item(column.lngDataItemID).blnSampleGraphPlottable = true;
 }
 
 }  // namespace

@@ -108,6 +108,7 @@ class Load {
   void CheckHeader(const HeaderMap& header, std::string_view line) {
     if (definition_.dblLineFrequency == 0 && !header.Feeds(ItemOf(kSecs)))
       throw DefinitionFault(Message::NoTimeColumn, std::string(line));
+    outcome_.columns = header.Fields();
     outcome_.unknownColumns = header.Unknown();
     if (!header.AnyKnown()) throw DefinitionFault(Message::NoColumnsRecognised, std::string(line));
   }

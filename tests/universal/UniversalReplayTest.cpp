@@ -1,4 +1,4 @@
-#include "fuzz/FuzzUniversal.h"
+#include "fuzz/FuzzShape.h"
 #include "support/ReplayCorpus.h"
 
 namespace tarnview {
@@ -7,6 +7,8 @@ namespace {
 TEST(Replay, DefinitionsAndLogs) {
   ReplayCorpus("FuzzDataLogDefinition", FuzzDataLogDefinition);
   ReplayCorpus("FuzzUniversalLog", FuzzUniversalLog);
+  ReplayCorpus("FuzzLogShape", FuzzLogShape);
+  ReplayCorpus("FuzzLogTitles", FuzzLogTitles);
 }
 
 }  // namespace
