@@ -25,9 +25,9 @@ int RunCommandLine(int count, const char* const* arguments) {
   program.require_subcommand(1);
   program.footer("Example:\n  tarnview-cli graph run.txt --items 3,5,20 --out run.png");
   int status = kDone;
-  for (const auto add :
-       {AddLoadCommand, AddTableCommand, AddExportCommand, AddGraphCommand, AddScatterCommand, AddPowerCommand,
-        AddDefinitionCommand, AddSettingsCommand, AddOptionsCommand, AddUploadCommand, AddDriveCommand})
+  for (const auto add : {AddLoadCommand, AddTableCommand, AddExportCommand, AddGraphCommand, AddScatterCommand,
+                         AddPowerCommand, AddDefinitionCommand, AddSettingsCommand, AddShapeCommand, AddOptionsCommand,
+                         AddUploadCommand, AddDriveCommand})
     add(program, status);
   try {
     program.parse(count, arguments);

@@ -20,6 +20,7 @@ void AddDefinitionCommand(CLI::App& program, int& status);
 void AddSettingsCommand(CLI::App& program, int& status);
 void AddOptionsCommand(CLI::App& program, int& status);
 void AddUploadCommand(CLI::App& program, int& status);
+void AddShapeCommand(CLI::App& program, int& status);
 void AddDriveCommand(CLI::App& program, int& status);
 
 /// Runs the command line; the exit status. (arguments as of main)

@@ -1,9 +1,14 @@
+#include <algorithm>
 #include <memory>
+#include <span>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/LogSession.h"
+#include "model/Column.h"
+#include "model/ItemUnits.h"
 #include "model/clsFileTypes.h"
 #include "zones/ZoneFlags.h"
 
@@ -28,7 +33,65 @@ void AddZones(Json& out, const OpenLog& log) {
   out["changes"] = log.gblnChangesLoaded ? Json{zones.changes, zones.original} : Json::array();
 }
 
-int Load(const LogOptions& options) {
+struct LoadOptions : LogOptions {
+  bool summary = false;
+};
+
+std::string TakenAs(const Globals& globals) {
+  const int type = globals.log.gintCurrentFileType;
+  if (!globals.takenAs.empty()) return globals.takenAs;
+  if (type == kUniversalLog) return "Universal: " + globals.gclsDataLogDefinition.strName;
+  return type > 0 ? globals.kinds.gcolFileTypes.Item(type).GetSingularDescription() : "";
+}
+
+/// An item that the log delivers: its values as they are shown.
+Json ItemJson(const OpenLog& log, const clsLogDataItem& item) {
+  const std::span<const std::int32_t> cells = log.glngDataLog.Column(item.intSeq - 1);
+  double lowest = 0, highest = 0;
+  bool any = false;
+  for (int row = 0; row < static_cast<int>(cells.size()); ++row) {
+    if (!log.glngDataLog.IsLogged(item.intSeq - 1, row)) continue;
+    const double value = item.GetRawData(cells[static_cast<std::size_t>(row)]);
+    lowest = any ? std::min(lowest, value) : value;
+    highest = any ? std::max(highest, value) : value;
+    any = true;
+  }
+  const std::string unit = item.strUnit.empty() ? std::string(UnitOfFixedItem(item.intSeq)) : item.strUnit;
+  return {{"id", item.intSeq},
+          {"name", ToUtf8(item.strShortName)},
+          {"long_name", ToUtf8(item.strLongName)},
+          {"unit", ToUtf8(unit)},
+          {"title", ToUtf8(item.strColumnTitles)},
+          {"values", log.glngDataLog.CountLogged(item.intSeq - 1)},
+          {"lowest", ToJson(lowest)},
+          {"highest", ToJson(highest)}};
+}
+
+/// Every item of the log's own, and those of the catalogue that hold anything or that a column of the log feeds.
+Json ItemsJson(const OpenLog& log) {
+  Json items = Json::array();
+  for (int n = 1; log.gblnSamplesLoaded && n <= log.gcolDataItems->Count(); ++n) {
+    const clsLogDataItem& item = log.gcolDataItems->Item(n);
+    const bool own = item.intSeq > kColumnCount && !item.strShortName.empty();
+    if (own || !log.glngDataLog.Column(n - 1).empty()) items.push_back(ItemJson(log, item));
+  }
+  return items;
+}
+
+void AddSummary(Json& out, const Globals& globals) {
+  const OpenLog& log = globals.log;
+  out["taken_as"] = ToUtf8(TakenAs(globals));
+  double span = 0;
+  if (log.gblnSamplesLoaded) {
+    const clsLogDataItem& seconds = log.gcolDataItems->Item(ItemOf(kSecs));
+    const auto at = [&](int row) { return seconds.GetRawData(log.glngDataLog(kSecs, row)); };
+    span = at(log.glngDataLog.Rows() - 1) - at(0);
+  }
+  out["span"] = ToJson(RoundPlaces(span, 4));
+  out["items"] = ItemsJson(log);
+}
+
+int Load(const LoadOptions& options) {
   LogSession session(options);
   const bool ok = session.Open();
   const OpenLog& log = session.Log();
@@ -51,6 +114,7 @@ int Load(const LogOptions& options) {
   const bool universal = log.gintCurrentFileType == kUniversalLog;
   out["definition"] = universal ? ToUtf8(session.Global().gclsDataLogDefinition.strName) : "";
   out["messages"] = MessagesJson(session.Host().messages);
+  if (options.summary) AddSummary(out, session.Global());
   Print(out);
   return ok ? kDone : kFailed;
 }
@@ -60,8 +124,9 @@ int Load(const LogOptions& options) {
 void AddLoadCommand(CLI::App& program, int& status) {
   CLI::App* command = program.add_subcommand("load", "Opens a log and tells what it holds, as JSON");
   command->footer("Example:\n  tarnview-cli load run.txt");
-  auto options = std::make_shared<LogOptions>();
+  auto options = std::make_shared<LoadOptions>();
   options->AddTo(*command);
+  command->add_flag("--summary", options->summary, "Tell the kind, the span and each item as well");
   command->callback([options, &status] { status = Load(*options); });
 }
 

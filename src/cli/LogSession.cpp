@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "base/Numbers.h"
+#include "base/ProgramFolder.h"
 #include "base/Text.h"
 
 namespace tarnview {
@@ -28,7 +29,8 @@ std::string CheckItems(const std::string& text) {
 
 void LogOptions::AddTo(CLI::App& command) {
   command.add_option("LOG", log, "The log to open")->required();
-  command.add_option("--type", fileType, "File type, 1 to 8; without it the type is guessed")->check(CLI::Range(1, 8));
+  command.add_option("--type", fileType, "File type, 1 to 8, or auto: by the content; without it the type is guessed")
+      ->check(CLI::IsMember({"1", "2", "3", "4", "5", "6", "7", "8", "auto"}));
   command.add_option("--settings", settings, "Read this Tarnview.ini; without it every setting has its default")
       ->check(CLI::ExistingFile);
   command.add_option("--definition", definition, "Read Universal logs through this definition file");
@@ -37,14 +39,24 @@ void LogOptions::AddTo(CLI::App& command) {
   command.add_option("--items", items, "Data item numbers with commas, or \"all\"")->check(CheckItems);
 }
 
+std::string DataFolder(FileSystem& files) {
+  for (const char* place : {"data/", "../share/tarnview/"})
+    if (files.FolderExists(ProgramFolder() + place)) return ProgramFolder() + place;
+  return "";
+}
+
 LogSession::LogSession(const LogOptions& options)
     : options_(options), program_(host_, files_, clock_, processes_, {}, options.settings) {
   program_.UseDefinition(options.definition);
   program_.Start("", false);
+  program_.Global().dataFolder = DataFolder(files_);
 }
 
 bool LogSession::Open() {
-  if (files_.FileExists(options_.log)) return Window().LoadDataFile(options_.log, options_.fileType.value_or(0));
+  if (files_.FileExists(options_.log)) {
+    if (options_.fileType == "auto") return Window().OpenByContent(options_.log);
+    return Window().LoadDataFile(options_.log, StringToLong(options_.fileType));
+  }
   Window().TellMessage(Message::FileNotLoaded);
   return false;
 }

@@ -13,7 +13,7 @@ namespace tarnview {
 /// The options of every command that opens a log.
 struct LogOptions {
   std::string log;
-  std::optional<int> fileType;
+  std::string fileType;  ///< "1" to "8", "auto"; empty: guessed
   std::string settings;
   std::string definition;
   std::optional<std::string> from, to;
@@ -21,6 +21,9 @@ struct LogOptions {
 
   void AddTo(CLI::App& command);
 };
+
+/// The folder of what is installed, with a separator at its end; "" if it is not there.
+std::string DataFolder(FileSystem& files);
 
 /// The program with one log opened in it, as the main window opens it.
 class LogSession {
