@@ -61,6 +61,7 @@ bool Customising::MayChangeDefinition() {
 }
 
 void Customising::TakeDefinition(const OptionsDraft& draft) {
+  globals_.definitionOfSettings.reset();  // the one that it kept is no longer the settings'
   globals_.gclsDataLogDefinition = draft.definition;
   globals_.missingDefinitionFile.clear();
   OfferDefinitionPresets(draft.definition, globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets,

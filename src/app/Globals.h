@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "base/ErrorLog.h"
@@ -24,12 +25,20 @@ struct Globals {
   ConversionTables tables;
   OpenLog log;
   clsDataLog gclsDataLogDefinition;  ///< of Universal logs
+  /// What the settings name, while a log has a definition of its own in its place.
+  struct KeptDefinition {
+    clsDataLog definition;
+    clsLogDataItems items;
+  };
+  std::optional<KeptDefinition> definitionOfSettings;
+  std::string takenAs;  ///< the kind in words of a log that was opened by its content; else empty
   clsSampleGraphPresets gcolSampleGraphPresets;
   clsScatterGraphPresets gcolScatterGraphPresets;
   clsCarDefs gcolCarDefs;
   clsBenchmarks gcolBenchmarks;
   std::string missingDefinitionFile;  ///< named by the settings and not there; kept in them until another is chosen
   std::string gstrProgramFolder;      ///< with a separator at its end; empty: there is none, and no report is written
+  std::string dataFolder;             ///< of what is installed, the same way
   std::string gstrINIFile;            ///< full path of Tarnview.ini; empty: no settings file
   std::string gstrInstallINIFile;     ///< Tarnview_Install.ini beside it, else in the data folder
   std::string gstrINIFileToWrite;     ///< where the settings are kept; empty: nowhere (the command line)

@@ -50,6 +50,8 @@ class MainWindowControls : public Form {
   Label lblZoomAmount{*this, "lblZoomAmount", "Zoom &Amount"};
   ComboBox cboZoomAmount{*this, "cboZoomAmount", true};
   CheckBox chkShowCheckedOnly{*this, "chkShowCheckedOnly", "Chec&ked Data Items Only"};
+  Label lblFindItem{*this, "lblFindItem", "Find an item"};
+  TextBox txtFindItem{*this, "txtFindItem"};
   ListView lvwSampleDetails{*this, "lvwSampleDetails", {{"Item"}, {"Value", true}}, true};
   ListView lvwPresets{*this, "lvwPresets", {{"Preset Graphs"}}};
   Frame fraZoneInfl{*this, "fraZoneInfl", "Zone Influence"};
@@ -72,6 +74,7 @@ class MainWindowControls : public Form {
   MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open...", "Ctrl+L"};
   MenuItem mnuFileSave{*this, "mnuFileSave", "&Save", "Ctrl+S"};
   MenuItem mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As..."};
+  MenuItem mnuFileNewLogDescription{*this, "mnuFileNewLogDescription", "New Log Descrip&tion..."};
   MenuItem mnuFileExport{*this, "mnuFileExport", "&Export...", "Ctrl+E"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};

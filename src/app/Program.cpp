@@ -27,6 +27,7 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
       services_{host, files, clock, programs_, errors_, messages_} {
   host_.ShowHelp = [this](const std::string& topic) { help_.ShowHelp(topic); };
   globals_.gstrProgramFolder = folders_.program;
+  globals_.dataFolder = folders_.data;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");
   globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
 }

@@ -27,6 +27,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       export_({lvwSampleDetails, chkShowCheckedOnly}, range_, log_, services.files, status_),
       output_(services.host, services.messages, services.errors),
       zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, plot_, log_),
+      roads_(globals, services.files),
       tags_(services.host, log_.gcolLogTags, *this),
       scatter_(*this, globals, services, range_, status_, *this),
       power_(*this, globals, services, range_, *this),
@@ -35,6 +36,7 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       commands_(services.errors, "frmDataLogViewer") {
   DefaultButton = &cmdDrawGraph;
   HelpTopic = "SampleGraph";
+  txtFindItem.Change = [this] { details_.FindItem(txtFindItem.Text()); };
   SetUpZoomMenus();
   BindCommands();
   services_.messages.ShowNonModal = [this](Message, const std::string& text) { ShowNonModal(text); };
@@ -68,8 +70,7 @@ void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
   const CommandLineFile file = ParseCommandLine(commandLine);
   if (file.path.empty()) return;
   const clsFileTypes& types = globals_.kinds.gcolFileTypes;
-  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType)
-                                     : types.GuessFileType(file.path, globals_.settings.gintDefaultFileType);
+  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType) : kUnknownFile;
   if (!services_.files.FileExists(file.path)) {
     services_.messages.ShowMessage(Message::FileNotLoaded);
     return;
@@ -82,7 +83,7 @@ void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
 bool frmDataLogViewer::DropFile(const std::string& path) {
   if (services_.files.FolderExists(path)) return false;
   return TrapEvent(services_.errors, "frmDataLogViewer", "DropFile", [&] {
-    if (SaveChangesPrompt()) LoadDataFile(path, kUnknownFile);
+    if (SaveChangesPrompt()) OpenFile(path, kUnknownFile);
   });
 }
 

@@ -6,6 +6,7 @@
 #include "app/Customising.h"
 #include "app/EcuCommands.h"
 #include "app/Globals.h"
+#include "app/LogRoads.h"
 #include "app/MainWindowControls.h"
 #include "app/PowerWindows.h"
 #include "app/RecentFiles.h"
@@ -49,6 +50,11 @@ class frmDataLogViewer : public MainWindowControls,
 
   /// Opens a file; type 0 is guessed. False: nothing was loaded, and the user was told why.
   bool LoadDataFile(const std::string& path, int fileType) override;
+  /// Opens a file as the user does: what does not load as `fileType` (0: guessed) is looked at, and opened as what it
+  /// looks like after a question. Where the kind was guessed and nothing loads, the open log stays.
+  bool OpenFile(const std::string& path, int fileType);
+  /// Opens a file as what its content is, with no question; what is no log as its extension says.
+  bool OpenByContent(const std::string& path);
   /// Opens an entry of the recent list; a `path` is entered first, on top.
   bool OpenRecentlyUsedFile(int index, const std::string& path = "", int fileType = 0);
   /// What a start with a file on the command line does: opens it and draws.
@@ -95,8 +101,19 @@ class frmDataLogViewer : public MainWindowControls,
 
   // Opening a file.
   void mnuFileOpen_Click();
+  void mnuFileNewLogDescription_Click();
+  bool DescribeLog(const std::string& path);
+  bool LoadNow(const std::string& path, int fileType);
   bool Load(const std::string& path, int fileType);
   void TellNotRead(const std::string& path, bool read);
+  bool LoadAs(const std::string& path, LogRoad road);
+  enum class Agreed { No, Yes, Otherwise };  ///< the last: the user wants to describe the log
+  Agreed AgreesTo(const LogRoad& road, const std::string& path, int chosenType);
+  bool TellNothingLoads(const std::string& path, const LoadOutcome& outcome);
+  void TellMessages(const LoadOutcome& outcome);
+  const clsDataLog& SettingsDefinition() const;
+  void UseDefinitionOfLog(clsDataLog definition);
+  void UseDefinitionOfSettings();
   void LoadConversionFiles();
   const clsLogDataItems& ItemsOf(int fileType) const;
   void TellUniversalOutcome(const std::string& path, LoadOutcome& outcome);
@@ -165,6 +182,7 @@ class frmDataLogViewer : public MainWindowControls,
   ChartOutput output_;
   ZoneInfluencePanel zoneInfluence_;
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
+  LogRoads roads_;
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
   ScatterWindows scatter_;

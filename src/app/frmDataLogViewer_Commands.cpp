@@ -17,6 +17,7 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
       {&mnuFileSave, "mnuFileSave_Click", kNotYet, {}},
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", kNotYet, {}},
+      {&mnuFileNewLogDescription, "mnuFileNewLogDescription_Click", [this] { mnuFileNewLogDescription_Click(); }, {}},
       {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
       {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
@@ -131,6 +132,10 @@ void frmDataLogViewer::SetUpZoomMenus() {
 }
 
 bool frmDataLogViewer::Form_KeyDown(const KeyPress& key) {
+  if (key == KeyPress{"F", true}) {
+    SetFocus(&txtFindItem);
+    return true;
+  }
   const bool left = key.key == "Left", right = key.key == "Right";
   if (!left && !right) return false;
   const bool onGraph = ActiveControl() == &chSampleGraph || ActiveControl() == &lvwSampleDetails;

@@ -47,7 +47,7 @@ void frmDataLogViewer::mnuFileOpen_Click() {
   dialog.path = log_.gstrCurrentFileTitle;
   if (!host.Choose(dialog)) return;
   host.DoEvents();
-  LoadDataFile(dialog.path, types.IDFromSequence(dialog.filterIndex));
+  OpenFile(dialog.path, types.IDFromSequence(dialog.filterIndex));
 }
 
 bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, int fileType) {
@@ -57,7 +57,7 @@ bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, 
   const RecentFiles::Entry entry = recent_.At(index);
   bool loaded = false;
   if (services_.files.FileExists(entry.path))
-    loaded = LoadDataFile(entry.path, entry.fileType);
+    loaded = OpenFile(entry.path, entry.fileType);
   else
     services_.messages.ShowMessage(Message::FileNotLoaded);
   recent_.Rewrite();
@@ -65,6 +65,12 @@ bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, 
 }
 
 bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
+  UseDefinitionOfSettings();
+  globals_.takenAs.clear();
+  return LoadNow(path, fileType);
+}
+
+bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
   const AtWork work(*this, status_);
   HideForLoad();
   if (fileType == kUnknownFile)
@@ -105,6 +111,11 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
   LoadOutcome outcome =
       loader->load(*bytes, {log_, items, globals_.settings, globals_.tables, progress}, globals_.gclsDataLogDefinition);
   if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
+  TellMessages(outcome);
+  return outcome.loaded;
+}
+
+void frmDataLogViewer::TellMessages(const LoadOutcome& outcome) {
   for (const LoadMessage& message : outcome.messages) {
     if (message.report.empty())
       services_.messages.ShowMessage(message.id, false, message.extra);
@@ -113,7 +124,6 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
           message.id, message.extra, "&Open Report",
           [&programs = services_.programs, report = message.report] { programs.ShellOpen(report); });
   }
-  return outcome.loaded;
 }
 
 /// A file that is just not there needs no reason.
@@ -198,7 +208,8 @@ void frmDataLogViewer::SetFirstRange() {
 
 void frmDataLogViewer::SetDataLogViewerCaption() {
   const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-  Caption = "Tarnview - " + log_.gstrCurrentFileTitle + " (" + type.GetSingularDescription() + ")";
+  const std::string kind = globals_.takenAs.empty() ? type.GetSingularDescription() : globals_.takenAs;
+  Caption = "Tarnview - " + log_.gstrCurrentFileTitle + " (" + kind + ")";
   status_.SayLoaded(log_.glngLastSampleTime >= 1 ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) +
                                                        " - " + std::to_string(log_.glngLastSampleTime)
                                                  : "");

@@ -45,7 +45,7 @@ void frmDataLogViewer::mnuFileExport_Click() {
   const ExportRun run{*this, status_, services_.messages, services_.errors, "ExportDataLog"};
   exported_ = run.Run(export_.gstrExportPathFile, [this](const std::string& strFile) {
     const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-    export_.ExportDataLog(strFile, type.strDescription);
+    export_.ExportDataLog(strFile, globals_.takenAs.empty() ? type.strDescription : globals_.takenAs);
   });
 }
 

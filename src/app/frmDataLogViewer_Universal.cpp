@@ -9,6 +9,7 @@
 
 namespace tarnview {
 void frmDataLogViewer::LoadDataLogDefinitionLocal(bool addPresets) {
+  globals_.definitionOfSettings.reset();
   const clsLogDataItems& catalogue = globals_.catalogue.gcolFixedDataItems;
   DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors, catalogue);
   clsDataLog& definition = globals_.gclsDataLogDefinition;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "model/LocateSample.h"
 
 namespace tarnview {
@@ -39,6 +40,23 @@ void SampleDetails::SetUpSampleGraphSampleListView(int lngFileType, const clsLog
 void SampleDetails::SelectItem(int item) {
   const int row = controls_.lvwSampleDetails.RowOfTag(std::to_string(item));
   if (row > 0) controls_.lvwSampleDetails.Select(row);
+}
+
+void SampleDetails::FindItem(const std::string& text) {
+  ListView& list = controls_.lvwSampleDetails;
+  const std::string wanted = Upper(text);
+  const auto holds = [&](int row) {
+    const ListView::Row& it = list.At(row);
+    return Upper(it.texts[0]).find(wanted) != std::string::npos || Upper(it.toolTip).find(wanted) != std::string::npos;
+  };
+  if (wanted.empty()) return;
+  for (int step = 0; step < list.Count(); ++step) {
+    // The selected row itself stays where it still fits what has been typed so far.
+    const int row = (std::max(list.SelectedRow(), 1) - 1 + step) % list.Count() + 1;
+    if (!holds(row)) continue;
+    list.Select(row);
+    return;
+  }
 }
 
 std::vector<int> SampleDetails::CheckedItems() const {

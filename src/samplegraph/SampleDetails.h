@@ -32,6 +32,9 @@ class SampleDetails {
   void ClearValues() { PopulateSampleListView(-1); }
   /// Selects the row of an item, if it is on show.
   void SelectItem(int item);
+  /// Selects the first row below the selected one, or else from the top, in whose name or tool tip the text stands, in
+  /// any case; an empty text selects nothing.
+  void FindItem(const std::string& text);
 
   /// Data items whose check is set, those of hidden rows too; in item order.
   std::vector<int> CheckedItems() const;

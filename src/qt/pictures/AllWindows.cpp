@@ -14,6 +14,14 @@ DefinitionDetails Definition(bool filled) {
   return {"Hydra Nemesis", "1.4", "Built-in definition for logs of the Hydra Nemesis software, in metric units"};
 }
 
+/// In the manner of a logger with a preamble, semicolons and decimal commas.
+constexpr const char* kStrangeLog =
+    "Made up logger 2.1;drive of 24.11.2026\n\n"
+    "Zeit;Motordrehzahl;Ladedruck;Lambda 1;Drosselklappe;Gang;Status\n"
+    "s;1/min;mbar;;%;;\n"
+    "0,00;2103;1012;0,99;12,5;3;Teillast\n0,05;2120;1030;0,99;14,0;3;Teillast\n0,10;2164;1105;0,98;41,5;3;Teillast\n"
+    "0,15;2240;1298;0,91;88,0;3;Volllast\n0,20;2331;1504;0,86;100,0;3;Volllast\n0,25;2420;1688;0,84;100,0;3;Volllast\n";
+
 }  // namespace
 
 struct AllWindows::NoMainWindow : frmDataTags::MainWindow {
@@ -87,6 +95,8 @@ void AllWindows::MakeGraphWindows() {
       std::make_unique<DefinitionFiles>(files_, messages_.Teller(), errors_, globals.catalogue.gcolFixedDataItems);
   firstRun_ = std::make_unique<frmFindINIFile>(host, globals.kinds.gcolFileTypes, std::vector<DefinitionChoice>{},
                                                *definitionFiles_, messages_);
+  logDescription_ = std::make_unique<frmLogDescription>(host, globals.log.gblnSamplesLoaded ? kStrangeLog : "",
+                                                        "strange.csv", titles_, globals.catalogue.gcolFixedDataItems);
 }
 
 void AllWindows::MakeScatterDetails(bool filled) {
@@ -217,7 +227,8 @@ std::vector<Form*> AllWindows::Forms() {
                            presetDetails_.get(),
                            scatterDetails_.get(),
                            filter_.get(),
-                           firstRun_.get()};
+                           firstRun_.get(),
+                           logDescription_.get()};
   forms.insert(forms.end(), scatterGraphs_.begin(), scatterGraphs_.end());
   const auto power = power_->Forms();
   forms.insert(forms.end(), power.begin(), power.end());

@@ -9,6 +9,7 @@
 #include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
+#include "customise/frmLogDescription.h"
 #include "customise/frmOptions.h"
 #include "qt/pictures/PowerPictures.h"
 #include "samplegraph/frmGoto.h"
@@ -16,6 +17,7 @@
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "scatter/frmPresetScatterDetails.h"
 #include "scatter/frmScatterFilter.h"
+#include "universal/BuiltInTitles.h"
 #include "zoneeditor/frmGridGraph.h"
 
 namespace tarnview {
@@ -72,6 +74,8 @@ class AllWindows {
   std::unique_ptr<frmFindINIFile> firstRun_;
   std::vector<std::unique_ptr<Form>> ecuWindows_;
   std::vector<std::unique_ptr<frmOptions>> options_;  ///< one for each page, where they are filled
+  TitleDictionary titles_{BuiltInTitles()};
+  std::unique_ptr<frmLogDescription> logDescription_;
 };
 
 }  // namespace tarnview

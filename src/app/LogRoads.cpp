@@ -1,0 +1,151 @@
+#include "app/LogRoads.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/Loaders.h"
+#include "base/Paths.h"
+#include "base/Text.h"
+#include "loaders/LayoutMarks.h"
+#include "model/Column.h"
+#include "universal/BuiltInTitles.h"
+#include "universal/DefinitionFaults.h"
+#include "universal/DefinitionReader.h"
+#include "universal/LogShape.h"
+#include "universal/ShapeDefinition.h"
+#include "universal/Units.h"
+#include "universal/UniversalDataItems.h"
+
+namespace tarnview {
+namespace {
+
+constexpr std::size_t kHead = 256 << 10;
+constexpr const char* kDefinitions = "Universal Data Log Formats";
+constexpr const char* kTitles = "Log Titles.txt";
+/// Where a log has no clock and tells no rate.
+constexpr double kUsualLinesASecond = 10;
+/// A definition that knows fewer of a log's columns than nine in ten would lose the rest; the shape has them all.
+constexpr int kKnownOfTen = 9;
+
+/// Whole lines from the beginning of a text.
+std::string_view HeadOf(std::string_view bytes) {
+  if (bytes.size() <= kHead) return bytes;
+  const auto end = bytes.substr(0, kHead).find_last_of("\n\r");
+  return bytes.substr(0, end == std::string_view::npos ? kHead : end + 1);
+}
+
+std::string Joined(std::string_view first, std::string_view second) {
+  return std::string(first) + "\n" + std::string(second);
+}
+
+/// What a definition makes of a number of a column.
+double ValueBy(const clsDataLogColumn& column, double number) {
+  const double factor = column.dblConversionFactor != 0 ? column.dblConversionFactor.Value() : 1;
+  return column.blnConversionFactorFirst ? number * factor + column.dblConversionOffset
+                                         : (number + column.dblConversionOffset) * factor;
+}
+
+/// Where the log tells the unit of a known quantity, a definition reads it in that unit: the same titles may stand over
+/// degrees C and F.
+bool Agrees(const clsDataLog& definition, const LogShape& shape) {
+  constexpr double kNearly = 0.03, kSlack = 0.5;
+  for (const clsDataLogColumn& column : definition.objColumns)
+    for (std::size_t at = 0; at < shape.columns.size(); ++at) {
+      const ShapeColumn& found = shape.columns[at];
+      const ShapeItem& item = shape.items[at];
+      if (item.item != column.lngDataItemID || item.item == ItemOf(kSecs) || !IsUnit(found.unit)) continue;
+      if (!SameIgnoringCase(found.header, column.strColumnTitle)) continue;
+      const double number = found.median / found.scale, wanted = number * item.factor + item.offset;
+      if (std::fabs(ValueBy(column, number) - wanted) > std::fabs(wanted) * kNearly + kSlack) return false;
+    }
+  return true;
+}
+
+}  // namespace
+
+const TitleDictionary& LogRoads::Titles() {
+  if (titles_) return *titles_;
+  std::string text(BuiltInTitles());
+  for (const std::string& folder : {globals_.dataFolder, globals_.gstrProgramFolder})
+    if (const auto own = folder.empty() ? std::nullopt : files_.Read(folder + kTitles)) text = Joined(text, *own);
+  return titles_.emplace(text);
+}
+
+LoadOutcome LogRoads::Try(std::string_view bytes, int fileType, const clsDataLog& definition) const {
+  const LoaderRow* loader = LoaderFor(fileType);
+  if (!loader) return {};
+  const clsLogDataItems& fixed = globals_.catalogue.gcolFixedDataItems;
+  const bool universal = fileType == kUniversalLog;
+  const clsLogDataItems items = universal ? GenerateLogDataItemsGeneric(definition, fixed) : fixed.Duplicate();
+  NoProgress progress;
+  OpenLog log;
+  return loader->load(bytes, {log, items, globals_.settings, globals_.tables, progress}, definition);
+}
+
+LoadOutcome LogRoads::TryAs(std::string_view bytes, int fileType, const clsDataLog& definition, LogRoad& road) const {
+  LoadOutcome outcome;
+  outcome.loaded = true;
+  road.fileType = fileType;
+  if (!LoaderFor(fileType)) return outcome;  // of another room, which looks for itself
+  outcome = Try(HeadOf(bytes), fileType, definition);
+  road.columns = outcome.columns;
+  road.known = outcome.columns - static_cast<int>(outcome.unknownColumns.size());
+  return outcome;
+}
+
+std::optional<LogRoad> LogRoads::ByContent(std::string_view bytes, const std::string& path) {
+  const std::string_view head = HeadOf(bytes);
+  LogRoad fixed;
+  fixed.fileType = FileTypeByMarks(head);
+  if (fixed.fileType != kUnknownFile && Try(head, fixed.fileType, {}).loaded) {
+    fixed.takenAs = globals_.kinds.gcolFileTypes.Item(fixed.fileType).GetSingularDescription();
+    return fixed;
+  }
+  const LogShape shape = ReadLogShape(bytes, Titles(), globals_.catalogue.gcolFixedDataItems);
+  if (auto road = ByDefinitions(head, shape)) return road;
+  return ByShape(bytes, shape, path);
+}
+
+/// Of the definitions at hand the one that knows most of the columns, if those are nearly all.
+std::optional<LogRoad> LogRoads::ByDefinitions(std::string_view head, const LogShape& shape) {
+  std::optional<LogRoad> best;
+  for (const std::string& folder : {globals_.gstrProgramFolder, globals_.dataFolder}) {
+    if (folder.empty()) continue;
+    const std::string definitions = AddBackslash(folder + kDefinitions);
+    for (const std::string& name : files_.List(definitions, "*.txt")) {
+      LogRoad road;
+      road.definition = ReadDefinition(definitions + name);
+      if (!road.definition || !Agrees(*road.definition, shape) ||
+          !TryAs(head, kUniversalLog, *road.definition, road).loaded)
+        continue;
+      road.takenAs = "Universal: " + road.definition->strName;
+      const bool enough = road.known * 10 >= road.columns * kKnownOfTen;
+      if (enough && (!best || road.known > best->known)) best = std::move(road);
+    }
+  }
+  return best;
+}
+
+/// Nothing for a file with a fault.
+std::optional<clsDataLog> LogRoads::ReadDefinition(const std::string& path) {
+  const auto text = files_.Read(path);
+  if (!text) return std::nullopt;
+  try {
+    return ReadDataLogDefinition(*text, path, globals_.catalogue.gcolFixedDataItems);
+  } catch (const DefinitionFault&) {
+    return std::nullopt;
+  }
+}
+
+std::optional<LogRoad> LogRoads::ByShape(std::string_view bytes, const LogShape& shape, const std::string& path) {
+  if (!shape.Found()) return std::nullopt;
+  LogRoad road;
+  road.takenAs = "Universal: by its shape";
+  road.definition = DefinitionOfShape(shape, FileTitle(path), GetExtension(path), kUsualLinesASecond);
+  if (!TryAs(bytes, kUniversalLog, *road.definition, road).loaded) return std::nullopt;
+  road.known = road.columns = static_cast<int>(shape.columns.size());
+  road.notes = shape.HasClock() ? shape.time.why : "";
+  return road;
+}
+
+}  // namespace tarnview

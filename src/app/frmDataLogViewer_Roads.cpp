@@ -1,0 +1,149 @@
+// The main window's road of a file whose kind is not sure: what it looks like, one question, and the definition that it
+// brings along.
+
+#include "app/frmDataLogViewer.h"
+#include "base/Paths.h"
+#include "customise/frmLogDescription.h"
+#include "model/ItemDisplaySettings.h"
+#include "universal/DefinitionWriter.h"
+#include "universal/UniversalDataItems.h"
+
+namespace tarnview {
+namespace {
+
+std::string NameOf(const LogRoad& road) {
+  constexpr std::string_view kUniversal = "Universal: ";
+  if (!road.takenAs.starts_with(kUniversal)) return "the kind " + road.takenAs;
+  const std::string name = road.takenAs.substr(kUniversal.size());
+  return name == "by its shape" ? "an unknown logger" : name;
+}
+
+std::string ColumnsOf(const LogRoad& road) {
+  if (road.columns == 0) return "";
+  return ": " + std::to_string(road.known) + " of " + std::to_string(road.columns) + " columns";
+}
+
+}  // namespace
+
+bool frmDataLogViewer::OpenFile(const std::string& path, int fileType) {
+  const auto bytes = services_.files.Read(path);
+  if (!bytes) return LoadDataFile(path, fileType);  // which says why
+  const bool guessed = fileType == kUnknownFile;
+  const int wanted =
+      guessed ? globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType) : fileType;
+  LogRoad asWanted;
+  const LoadOutcome trial = roads_.TryAs(*bytes, wanted, SettingsDefinition(), asWanted);
+  if (trial.loaded && (!guessed || asWanted.KnowsHalf())) return LoadDataFile(path, wanted);
+  const auto road = roads_.ByContent(*bytes, path);
+  const bool better = road && (!trial.loaded || road->known > asWanted.known);
+  const Agreed agreed = better ? AgreesTo(*road, path, guessed ? kUnknownFile : wanted) : Agreed::No;
+  if (agreed == Agreed::Yes) return LoadAs(path, *road);
+  if (agreed == Agreed::Otherwise) return DescribeLog(path);
+  if (!guessed || trial.loaded) return LoadDataFile(path, wanted);
+  return better ? false : TellNothingLoads(path, trial);
+}
+
+bool frmDataLogViewer::OpenByContent(const std::string& path) {
+  const auto bytes = services_.files.Read(path);
+  auto road = bytes ? roads_.ByContent(*bytes, path) : std::nullopt;
+  return road ? LoadAs(path, std::move(*road)) : LoadDataFile(path, kUnknownFile);
+}
+
+bool frmDataLogViewer::LoadAs(const std::string& path, LogRoad road) {
+  HideForLoad();  // the items of the log that is open go with its definition
+  if (road.definition)
+    UseDefinitionOfLog(std::move(*road.definition));
+  else
+    UseDefinitionOfSettings();
+  globals_.takenAs = road.takenAs;
+  if (!LoadNow(path, road.fileType)) return false;
+  status_.Say("Loading complete: " + road.takenAs + (road.notes.empty() ? "" : ". Time: " + road.notes));
+  return true;
+}
+
+frmDataLogViewer::Agreed frmDataLogViewer::AgreesTo(const LogRoad& road, const std::string& path, int chosenType) {
+  std::string text;
+  if (chosenType != kUnknownFile) {
+    const clsFileType& type = globals_.kinds.gcolFileTypes.Item(chosenType);
+    text = FileTitle(path) + " does not load as " + type.GetSingularDescription() + ".\r\n";
+  }
+  text += "This looks like a log of " + NameOf(road) + ColumnsOf(road) + ". Open it so?";
+  bool describe = false;
+  const Box box{0, text, kBoxYesNo | kBoxQuestion, kApplicationTitle, "&Describe...", [&describe] { describe = true; }};
+  const bool yes = host.Ask(box) == Reply::Yes;
+  if (describe) return Agreed::Otherwise;
+  return yes ? Agreed::Yes : Agreed::No;
+}
+
+void frmDataLogViewer::mnuFileNewLogDescription_Click() {
+  if (!SaveChangesPrompt()) return;
+  Dialog dialog;
+  dialog.title = "Open";
+  dialog.filter = "All Files (*.*)|*.*";
+  dialog.initialPath =
+      log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory : log_.gstrCurrentFile;
+  dialog.path = log_.gstrCurrentFileTitle;
+  if (host.Choose(dialog)) DescribeLog(dialog.path);
+}
+
+/// The definition that is made is kept where the next look at a file finds it.
+bool frmDataLogViewer::DescribeLog(const std::string& path) {
+  auto bytes = services_.files.Read(path);
+  if (!bytes) {
+    services_.messages.ShowMessage(Message::FileNotLoaded);
+    return false;
+  }
+  frmLogDescription window(host, std::move(*bytes), path, roads_.Titles(), globals_.catalogue.gcolFixedDataItems);
+  window.ShowModal();
+  if (!window.Accepted()) return false;
+  clsDataLog definition = window.Definition();
+  if (!globals_.gstrProgramFolder.empty()) {
+    const std::string folder = AddBackslash(globals_.gstrProgramFolder + "Universal Data Log Formats");
+    services_.files.MakeFolder(folder);
+    if (!services_.files.Write(folder + FileTitle(definition.strName) + ".txt", DefinitionFileText(definition)))
+      services_.messages.ShowMessage(Message::SettingsNotWritten);
+  }
+  const std::string name = "Universal: " + definition.strName;
+  LogRoad road;
+  road.fileType = kUniversalLog;
+  road.takenAs = name;
+  road.definition = std::move(definition);
+  return LoadAs(path, std::move(road));
+}
+
+/// The log that is open stays.
+bool frmDataLogViewer::TellNothingLoads(const std::string& path, const LoadOutcome& outcome) {
+  LoadOutcome told = outcome;
+  TellUniversalOutcome(path, told);
+  TellMessages(told);
+  services_.messages.ShowMessage(Message::TooFewRecords);
+  status_.Say("Loading failed");
+  return false;
+}
+
+const clsDataLog& frmDataLogViewer::SettingsDefinition() const {
+  return globals_.definitionOfSettings ? globals_.definitionOfSettings->definition : globals_.gclsDataLogDefinition;
+}
+
+/// How items are drawn stays the user's own.
+void frmDataLogViewer::UseDefinitionOfLog(clsDataLog definition) {
+  clsLogDataItems& items = globals_.catalogue.gcolUniversalDataItems;
+  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  if (!globals_.definitionOfSettings)
+    globals_.definitionOfSettings =
+        Globals::KeptDefinition{std::move(globals_.gclsDataLogDefinition), std::move(items)};
+  items = GenerateLogDataItemsGeneric(definition, globals_.catalogue.gcolFixedDataItems);
+  CopyItemDisplay(globals_.definitionOfSettings->items, items);
+  globals_.gclsDataLogDefinition = std::move(definition);
+}
+
+void frmDataLogViewer::UseDefinitionOfSettings() {
+  if (!globals_.definitionOfSettings) return;
+  HideForLoad();
+  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);  // its items go
+  globals_.gclsDataLogDefinition = std::move(globals_.definitionOfSettings->definition);
+  globals_.catalogue.gcolUniversalDataItems = std::move(globals_.definitionOfSettings->items);
+  globals_.definitionOfSettings.reset();
+}
+
+}  // namespace tarnview

@@ -1,0 +1,96 @@
+// Files whose kind is not sure: what they look like, the question, and what becomes of the log that is open.
+
+#include "app/LogRoads.h"
+#include "support/ProgramFixture.h"
+
+namespace tarnview {
+namespace {
+
+using Roads = ProgramFixture;
+
+const std::string kStrange =
+    "Time (msec);Engine Speed (rpm);Widget (V)\r\n0;900;1,5\r\n50;950;\r\n100;1000;1,6\r\n150;1050;1,7\r\n";
+
+TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
+  files.files["/run.csv"] = kStrange;
+  Start();
+  host.messages.clear();
+  EXPECT_TRUE(Main().DropFile("/run.csv"));
+  ASSERT_EQ(host.messages.size(), 1u);
+  EXPECT_EQ(host.messages[0].text, "This looks like a log of an unknown logger: 3 of 3 columns. Open it so?");
+  EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal: by its shape)");
+  EXPECT_EQ(Main().staDataLogViewer.Panel(1),
+            "Loading complete: Universal: by its shape. Time: \"Time\" rises; milliseconds: its unit is told");
+  EXPECT_EQ(Log().FormatDataItem(63, 3) + " " + Log().FormatDataItem(3, 3) + " " + Log().FormatDataItem(101, 3),
+            "0.150 1050 1.7");
+  EXPECT_GT(Main().lvwSampleDetails.RowOfTag("101"), 0);  // in the list as any other
+}
+
+TEST_F(Roads, WhoeverChoseAnotherTypeIsToldSo) {
+  files.files["/run.csv"] = SmallLog(5);
+  Start();
+  host.messages.clear();
+  EXPECT_TRUE(Main().OpenFile("/run.csv", kLinkPlusLog));
+  EXPECT_EQ(host.messages[0].text,
+            "run.csv does not load as LinkPlus Data Log.\r\n"
+            "This looks like a log of the kind FM Link Data Log. Open it so?");
+  EXPECT_EQ(Log().gintCurrentFileType, kFMLinkLog);
+  host.messages.clear();
+  host.answers.push_back({Answer::Kind::No});
+  EXPECT_FALSE(Main().OpenFile("/run.csv", kLinkPlusLog));  // as ever
+  EXPECT_EQ(MessageIds(), (std::vector<int>{0, 53, 12}));
+}
+
+TEST_F(Roads, TheOpenLogStaysWhereTheKindWasOnlyGuessed) {
+  files.files["/good.txt"] = SmallLog(5);
+  files.files["/run.csv"] = kStrange;
+  files.files["/notes.txt"] = "nothing\r\nof a log\r\n";
+  Start();
+  ASSERT_TRUE(Main().OpenFile("/good.txt", kUnknownFile));
+  host.answers.push_back({Answer::Kind::No});
+  Main().OpenFile("/run.csv", kUnknownFile);
+  EXPECT_EQ(Main().Caption(), "Tarnview - good.txt (FM Link Data Log)");
+  host.messages.clear();
+  EXPECT_FALSE(Main().OpenFile("/notes.txt", kUnknownFile));
+  EXPECT_EQ(MessageIds().back(), 12);
+  EXPECT_EQ(Main().Caption(), "Tarnview - good.txt (FM Link Data Log)");
+  EXPECT_EQ(Log().glngDataLog.Rows(), 5);
+  EXPECT_TRUE(Main().cmdDrawGraph.Enabled());
+}
+
+TEST_F(Roads, TheDefinitionOfTheSettingsIsBackForTheNextLog) {
+  files.files["/run.csv"] = kStrange;
+  files.files["/hydra.csv"] = "timestamp,Engine Speed (RPM)\n0,1000\n100,2000\n200,3000\n";
+  Start();
+  ASSERT_TRUE(Main().OpenByContent("/run.csv"));
+  const std::string settings = program->Global().gclsDataLogDefinition.strName;
+  ASSERT_TRUE(Main().LoadDataFile("/hydra.csv", kUniversalLog));
+  EXPECT_EQ(settings, "run.csv");
+  EXPECT_EQ(program->Global().gclsDataLogDefinition.strName, "Hydra Nemesis 2.1 (MX-5 Miata)");
+  EXPECT_EQ(Main().Caption(), "Tarnview - hydra.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata))");
+  EXPECT_EQ(Log().FormatDataItem(3, 2), "3000");
+}
+
+TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
+  const auto column = [](const char* title, int item, const char* more) {
+    return std::string("[COLUMN]\nNAME=x\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES=1\nCOLUMNTITLE=") + title +
+           "\nDATAITEMID=" + std::to_string(item) + "\n" + more;
+  };
+  const std::string head =
+      "[DATALOGDEFINITION]\nNAME=Mine\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=44\nDATALINESBEFORE=2\n";
+  const std::string log = "Time,CLT\ns,F\n0,180\n1,181\n2,182\n3,183\n";
+  for (const auto& [more, taken] : {std::pair{"", "Universal: by its shape"},
+                                    {"CONVERSIONFACTOR=0.5555556\nCONVERSIONOFFSET=-32\n", "Universal: Mine"}}) {
+    files.files["/data/Universal Data Log Formats/Mine.txt"] =
+        head + column("Time", 63, "") + column("CLT", 23, more) + "\n";
+    files.files["/run.csv"] = log;
+    Start();
+    program->Global().dataFolder = "/data/";
+    Main().OpenByContent("/run.csv");
+    EXPECT_EQ(program->Global().takenAs, taken);
+    EXPECT_NEAR(Log().gcolDataItems->Item(23).GetRawData(Log().glngDataLog(22, 3)), 83.9, 0.05);
+  }
+}
+
+}  // namespace
+}  // namespace tarnview
