@@ -18,9 +18,12 @@ struct Mark {
 };
 
 const Mark kMarks[] = {
-    {kFMLinkLog, 1, "Sample  ", {"RPM", "TIAC"}, ","},          {kTec3Log, 2, "SECONDS", {"RPM", "TDUTY"}, ","},
-    {kTec2Log, 2, "SECONDS", {"RPM", "GAMA"}, "TDUTY"},         {kLinkPlusLog, 10, "Count\t", {"RPM", "MAP"}, ","},
-    {kUTECCSVLog, 10, "TIME,", {"RPM", "SITE", "COUNT"}, "\t"}, {kUTECFixedLog, 10, "RPM ", {"Site", "Count"}, ","},
+    {kFMLinkLog, 1, "Sample ", {"RPM"}, ","},
+    {kTec3Log, 2, "SECONDS", {"RPM", "TDUTY"}, ","},
+    {kTec2Log, 2, "SECONDS", {"RPM", "GAMA"}, "TDUTY"},
+    {kLinkPlusLog, 10, "Count\t", {"RPM", "MAP"}, ","},
+    {kUTECCSVLog, 10, "TIME,", {"RPM", "SITE", "COUNT"}, "\t"},
+    {kUTECFixedLog, 10, "RPM ", {"Site", "Count"}, ","},
 };
 
 bool Says(std::string_view line, const Mark& mark) {

@@ -95,8 +95,8 @@ TEST_F(UploadTest, OfChangesMeasuresAgainstTheComparison) {
   comparison->zones = form.zones;
   comparison->zones[1] = 99;
   comparison->zones[255] = -1;
-  for (const auto& chip :
-       {ChipIdentity{1.6, settings.gdatDefaultChipDate, 2}, ChipIdentity{1.8, MakeDate(2003, 6, 8), 2}}) {
+  for (const auto& chip : {ChipIdentity{1.6, settings.gdatDefaultChipDate, 2},
+                           ChipIdentity{1.8, MakeDate(2003, 6, 8), 2}, ChipIdentity{1.8, MakeDate(2003, 6, 10), 2}}) {
     comparison->chip = chip;
     EXPECT_EQ(Run(), "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 21 [48]\n" + run);
     EXPECT_EQ(LeftAlone(), "z720 ");
