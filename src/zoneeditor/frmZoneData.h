@@ -21,6 +21,7 @@
 #include "ui/OptionButton.h"
 #include "ui/TabStrip.h"
 #include "zoneeditor/GeneralFields.h"
+#include "zoneeditor/GridGraphTable.h"
 #include "zoneeditor/ZoneComparison.h"
 #include "zoneeditor/ZoneGrids.h"
 #include "zones/EditHistory.h"
@@ -146,6 +147,8 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   void cboBenchmark_Click();
   void radBoost_Click(int unit);
   void mnuApplyOffset_Click();
+  GridGraphRequest GraphOf(SheetGrid grid) const;
+  void cmdGraph_Click(SheetGrid grid);
   void cmdCopyBenchmark_Click();
   void cmdDetails_Click();
   void cmdDefault_Click();

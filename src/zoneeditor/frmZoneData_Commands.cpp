@@ -1,6 +1,6 @@
 // The editor's commands: one table of what each does and when it may run, the grids' menus and keys.
 
-#include "base/Numbers.h"
+#include "zoneeditor/frmGridGraph.h"
 #include "zoneeditor/frmOffset.h"
 #include "zoneeditor/frmZoneData.h"
 
@@ -61,7 +61,13 @@ std::vector<Command> frmZoneData::GridCommands() {
 
 std::vector<Command> frmZoneData::ButtonCommands() {
   const auto compares = [this] { return comparison_.Zones() != nullptr; };
-  return {
+  std::vector<Command> rows;
+  for (const auto& button : cmdGraph) {
+    const SheetGrid grid{button->index};
+    rows.push_back({button.get(), "cmdGraph_Click", [this, grid] { cmdGraph_Click(grid); },
+                    [this, grid] { return !ReadOnly() || IsSheetGrid(grid); }});
+  }
+  const std::vector<Command> others{
       {&cmdCopyBenchmark, "cmdCopyBenchmark_Click", [this] { cmdCopyBenchmark_Click(); }, compares},
       {&cmdDetails, "cmdDetails_Click", [this] { cmdDetails_Click(); }, compares},
       {&cmdDefault, "cmdDefault_Click", [this] { cmdDefault_Click(); }, {}},
@@ -73,6 +79,41 @@ std::vector<Command> frmZoneData::ButtonCommands() {
       {&cmdOK, "cmdOK_Click", [this] { cmdOK_Click(); }, {}},
       {&cmdCancel, "cmdCancel_Click", [this] { Unload(); }, {}},
   };
+  rows.insert(rows.end(), others.begin(), others.end());
+  return rows;
+}
+
+/// What the 3D graph shows of a grid. Cells that are no zones have a number there, too.
+GridGraphRequest frmZoneData::GraphOf(SheetGrid grid) const {
+  const int index = static_cast<int>(grid);
+  const StartingAngles angles = AnglesOf(around_.settings.angles, index);
+  const std::size_t tab = IsFuelGrid(index) ? 1 : 2;
+  GridGraphRequest request;
+  request.readOnly = ReadOnly() || !IsSheetGrid(grid);
+  request.rotation = angles.rotation;
+  request.elevation = angles.elevation;
+  request.table = TableOf(Grids.At(grid));
+  for (int row = 1; row <= kGridRows; ++row)
+    for (int column = 1; column <= kGridColumns; ++column)
+      if (request.table.IsLocked(row, column))
+        request.table.Text(row, column) = std::to_string(Sheet().Shown(ZoneOfCell(grid, row, column)));
+  request.caption = tabZoneData2.Tabs()[tab].caption + " (" + fraData(index).Caption() + ")";
+  request.limits = FieldRange(Sheet(), ZoneOfCell(grid, 1, 1));
+  request.normallyAspirated = Sheet().normallyAspirated;
+  request.kind = GraphKind(index);
+  request.source = GraphSource(index, cboBenchmark.Text());
+  request.grid = index;
+  return request;
+}
+
+void frmZoneData::cmdGraph_Click(SheetGrid grid) {
+  const GridGraphRequest request = GraphOf(grid);
+  frmGridGraph window(host, {around_.settings.angles, around_.errors, around_.messages}, request);
+  window.ShowModal();
+  if (request.readOnly || !window.Accepted()) return;
+  const ZoneGrid zones = grid == SheetGrid::Fuel ? ZoneGrid::Fuel : ZoneGrid::Ignition;
+  Do("3D graph of the " + std::string(grid == SheetGrid::Fuel ? "fuel" : "ignition") + " zones",
+     WithGraphTable(Sheet(), zones, request.table, window.Table()));
 }
 
 void frmZoneData::GridRightClicked(SheetGrid grid) {
