@@ -9,7 +9,9 @@
 namespace tarnview {
 
 frmLoadBenchmark::frmLoadBenchmark(Host& itsHost, FileSystem& files, const Settings& settings, Messages& messages)
-    : Form(itsHost, "frmLoadBenchmark", "Loading Benchmark"), files_(files), settings_(settings), messages_(messages) {}
+    : Form(itsHost, "frmLoadBenchmark", "Loading Benchmark"), files_(files), settings_(settings), messages_(messages) {
+  HelpTopic = "BenchmarkDetails";
+}
 
 void frmLoadBenchmark::Form_Load() { lblFile.Caption = FileTitle(FileToLoad); }
 

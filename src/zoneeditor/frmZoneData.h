@@ -89,7 +89,7 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
   MenuItem mnuEditUndo{*this, "mnuEditUndo", "&Undo", "Ctrl+Z"};
   MenuItem mnuEditRedo{*this, "mnuEditRedo", "&Redo", "Ctrl+Shift+Z"};
-  MenuItem mnuEditCopy{*this, "mnuEditCopy", "&Copy Cells", "Ctrl+C"};
+  MenuItem mnuEditCopy{*this, "mnuEditCopy", "Copy C&ells", "Ctrl+C"};
   MenuItem mnuEditCopyHeadings{*this, "mnuEditCopyHeadings", "Copy with &Headings", "Ctrl+Shift+C"};
   MenuItem mnuEditPaste{*this, "mnuEditPaste", "&Paste", "Ctrl+V"};
   MenuItem mnuEditInterpolate{*this, "mnuEditInterpolate", "&Interpolate", "Ctrl+I"};

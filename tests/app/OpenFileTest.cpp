@@ -92,7 +92,7 @@ TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
 
 TEST_F(OpenFile, IsDrawnAtOnceWhereThatIsWanted) {
   files.files["/logs/run.txt"] = SmallLog(40);
-  for (const char* settings : {"[General]\nChecked Data Items=3\n", "[General]\nChecked Data Items=\n"})
+  for (const char* settings : {"[General]\nChecked Data Items=3\n", "[General]\nChecked Data Items=56\n"})
     for (const bool wanted : {false, true}) {
       Start("", settings + std::string(wanted ? "[Beyond]\nDraw After Opening=Y\n" : ""));
       EXPECT_EQ(Main().lblEmptyPlace.Caption(), "Open a log, or drop one here");

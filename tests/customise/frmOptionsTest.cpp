@@ -119,7 +119,8 @@ TEST_F(Options, GiveBackEverySettingThatWasChangedAndNoneAfterCancel) {
             "Checked Data Items (frmDataLogViewer)\nLast Converted Binary File (frmConvertBIN)\n"
             "Default Chip Version (frmOptions/FM Link ECU)\n"
             "Default Benchmark (frmZoneData)\nDisplay Zone Influence (frmDataLogViewer)\n"
-            "Fix Graph Max (frmDataLogViewer)\nGraph Y Max (frmDataLogViewer)\nShow Checked Only (frmDataLogViewer)\n");
+            "Fix Graph Max (frmDataLogViewer)\nGraph Y Max (frmDataLogViewer)\nShow Checked Only (frmDataLogViewer)\n"
+            "Main Window Dividers ()\nScatter Graph Dividers ()\n");
 
   frmOptions& again = Open();
   Act(again, "click chkAutoFileNames\ntype txtSampleWidth 500\nclick cmdCancel");

@@ -74,7 +74,7 @@ std::string Told(const MapReading& reading) {
 }
 
 TEST(BenchmarkLog, ZonesAndChipOfALog) {
-  const std::string settings = "x\n ATM:  101 kPa       1.8   18-Sep-2001\n";
+  const std::string settings = "x\n ATM = 101            1.8 18-Sep-01 \n";
   const struct {
     const char* what;
     std::string text, told;

@@ -241,6 +241,8 @@ Initial Fuel Elevation | 240 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(1)
 Initial Ignition Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(2)
 Initial Ignition Elevation | 130 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(3)
 Draw After Opening | N | Y or N | frmOptions/General | chkDrawAfterOpening
+Main Window Dividers |  |  |  | 
+Scatter Graph Dividers |  |  |  | 
 )");
 }
 
