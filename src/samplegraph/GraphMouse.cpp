@@ -17,9 +17,15 @@ constexpr std::int32_t kNarrowest = 2;
 
 }  // namespace
 
-GraphMouse::GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log,
-                       PointHighlight& highlight, MainWindow& mainWindow)
-    : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), highlight_(highlight), mainWindow_(mainWindow) {
+GraphMouse::GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
+                       const OpenLog& log, PointHighlight& highlight, MainWindow& mainWindow)
+    : controls_(controls),
+      drawn_(drawn),
+      selection_(selection),
+      range_(range),
+      log_(log),
+      highlight_(highlight),
+      mainWindow_(mainWindow) {
   Chart& chart = controls_.chSampleGraph;
   chart.Wheel = [this](double x, double notches) { ZoomAt(x, notches); };
   chart.Band = [this](double x1, double x2) { ShowBand(x1, x2); };

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "model/OpenLog.h"
-#include "samplegraph/PlotRange.h"
 #include "samplegraph/DrawnGraph.h"
-#include "samplegraph/Selection.h"
+#include "samplegraph/PlotRange.h"
 #include "samplegraph/PointHighlight.h"
+#include "samplegraph/Selection.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
 #include "ui/CommandButton.h"
@@ -27,8 +27,8 @@ class GraphMouse {
     /// Draws as if that had been drawn last: "Previous Graph" will lead back to it.
     virtual void DrawSampleGraphAfter(const RangeHistory& history) = 0;
   };
-  GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, PointHighlight& highlight,
-             MainWindow& mainWindow);
+  GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
+             const OpenLog& log, PointHighlight& highlight, MainWindow& mainWindow);
 
  private:
   enum class Move { Alone, OneOfMany };
@@ -54,7 +54,8 @@ class GraphMouse {
   PointHighlight& highlight_;
   MainWindow& mainWindow_;
   bool pointing_ = false;
-  RangeHistory beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a graph being drawn along
+  RangeHistory
+      beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a graph being drawn along
   RangeHistory afterMove_;
 };
 

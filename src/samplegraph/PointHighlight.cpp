@@ -6,8 +6,9 @@
 
 namespace tarnview {
 
-PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection, const PlotRange& range, const OpenLog& log,
-                               SampleDetails& details, StatusArea& status, MainWindow& mainWindow)
+PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+                               const PlotRange& range, const OpenLog& log, SampleDetails& details, StatusArea& status,
+                               MainWindow& mainWindow)
     : controls_(controls),
       drawn_(drawn),
       selection_(selection),

@@ -4,10 +4,10 @@
 
 #include "desk/StatusArea.h"
 #include "model/OpenLog.h"
-#include "samplegraph/PlotRange.h"
 #include "samplegraph/DrawnGraph.h"
-#include "samplegraph/Selection.h"
+#include "samplegraph/PlotRange.h"
 #include "samplegraph/SampleDetails.h"
+#include "samplegraph/Selection.h"
 #include "ui/Chart.h"
 
 namespace tarnview {
@@ -25,8 +25,8 @@ class PointHighlight {
     virtual void ScrollOneStep(int direction) = 0;     ///< -1 left, 1 right, stopping at the log's end
     virtual void SampleShown(std::int32_t index) = 0;  ///< the store index whose values are on show now
   };
-  PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection, const PlotRange& range, const OpenLog& log,
-                 SampleDetails& details, StatusArea& status, MainWindow& mainWindow);
+  PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection, const PlotRange& range,
+                 const OpenLog& log, SampleDetails& details, StatusArea& status, MainWindow& mainWindow);
 
   bool CanGoLeft() const;
   bool CanGoRight() const;

@@ -6,8 +6,8 @@
 #include "model/Catalogue.h"
 #include "model/OpenLog.h"
 #include "samplegraph/DrawnGraph.h"
-#include "samplegraph/Selection.h"
 #include "samplegraph/SampleListView.h"
+#include "samplegraph/Selection.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
 

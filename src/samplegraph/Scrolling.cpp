@@ -6,8 +6,8 @@
 
 namespace tarnview {
 
-Scrolling::Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log,
-                     MainWindow& mainWindow)
+Scrolling::Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
+                     const OpenLog& log, MainWindow& mainWindow)
     : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), mainWindow_(mainWindow) {
   objGraphScrollLarge_.Client(&controls_.hsbGraphScrollLarge);
   controls_.hsbGraphScroll.Change = [this] { Moved(); };

@@ -2,8 +2,8 @@
 
 #include "model/OpenLog.h"
 #include "samplegraph/CLongScroll.h"
-#include "samplegraph/PlotRange.h"
 #include "samplegraph/DrawnGraph.h"
+#include "samplegraph/PlotRange.h"
 #include "samplegraph/Selection.h"
 #include "ui/ScrollBar.h"
 
@@ -24,7 +24,8 @@ class Scrolling {
     virtual ~MainWindow() = default;
     virtual void DrawSampleGraph() = 0;
   };
-  Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, MainWindow& mainWindow);
+  Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
+            const OpenLog& log, MainWindow& mainWindow);
 
   /// A new log: which bar serves, and both at rest.
   void TakeLog();

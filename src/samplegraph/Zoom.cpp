@@ -15,9 +15,15 @@ constexpr std::int64_t kNarrowestToZoom = 10;
 
 }  // namespace
 
-Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log, Messages& messages,
-           MainWindow& mainWindow)
-    : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), messages_(messages), mainWindow_(mainWindow) {
+Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
+           const OpenLog& log, Messages& messages, MainWindow& mainWindow)
+    : controls_(controls),
+      drawn_(drawn),
+      selection_(selection),
+      range_(range),
+      log_(log),
+      messages_(messages),
+      mainWindow_(mainWindow) {
   controls_.cboZoomAmount.LostFocus = [this] { LeaveAmount(); };
 }
 

@@ -47,7 +47,7 @@ TEST_F(FileSystemTest, ALimitOnTheSizeOfFilesIsAFullDisk) {
   ASSERT_TRUE(files.Write(path, "old"));
   struct rlimit before;
   ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-  const struct rlimit small{1000, before.rlim_max};
+  const struct rlimit small { 1000, before.rlim_max };
   ::setrlimit(RLIMIT_FSIZE, &small);
   EXPECT_FALSE(files.Write(path, std::string(5000, 'x')));
   EXPECT_FALSE(files.Append(path, std::string(5000, 'x')));
