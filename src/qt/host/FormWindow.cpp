@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -29,6 +30,14 @@ namespace {
 /// A main window first takes most of the screen, since its graph is what the user came for.
 void SizeMainWindow(QWidget& window) {
   if (window.inherits("QMainWindow")) window.resize(window.screen()->availableSize() * 4 / 5);
+}
+
+/// A text that wraps may need more lines than the design had room for, in a large font.
+void MakeRoomForTexts(QWidget& window) {
+  const QLayout* layout = window.layout();
+  if (!layout || !layout->hasHeightForWidth()) return;
+  const int height = layout->totalHeightForWidth(window.width());
+  if (height > window.height()) window.resize(window.width(), height);
 }
 
 QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
@@ -111,6 +120,7 @@ void FormWindow::ShowCaption() {
 
 void FormWindow::Raise(bool modal) {
   binder_.Flush();
+  MakeRoomForTexts(*window_);
   if (modal) window_->setWindowModality(Qt::ApplicationModal);
   const bool opens = !window_->isVisible();
   window_->show();
