@@ -37,9 +37,12 @@ void Form::SetFocus(Control* control) {
   if (control == active_) return;
   Control* left = active_;
   active_ = control;
-  if (left) {
+  // A field that refuses its text takes the focus back: what was on its way to have it has nothing to lose.
+  if (left && !leaving_) {
+    leaving_ = true;
     left->LeavesFocus();
     left->LostFocus();
+    leaving_ = false;
   }
   if (active_ == control && control) {
     control->GotFocus();

@@ -106,6 +106,7 @@ class Form {
   bool shown_ = false;
   Outcome outcome_ = Outcome::Cancelled;
   bool unloading_ = false;
+  bool leaving_ = false;  ///< while a control is told that the focus has left it
 };
 
 }  // namespace tarnview

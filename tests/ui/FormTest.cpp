@@ -208,5 +208,27 @@ TEST(Keys, AreReadByName) {
   EXPECT_EQ(ParseKeys("q")->key, "Q");
 }
 
+TEST(FormFocus, TwoFieldsThatRefuseTheirTextsDoNotThrowItToAndFro) {
+  RecordingHost host;
+  struct TwoFields : Form {
+    explicit TwoFields(Host& itsHost) : Form(itsHost, "frmTwo", "") {}
+    TextBox txtFirst{*this, "txtFirst"};
+    TextBox txtSecond{*this, "txtSecond"};
+  } form(host);
+  std::string left;
+  form.txtFirst.LostFocus = [&] {
+    left += "first ";
+    form.txtFirst.SetFocus();
+  };
+  form.txtSecond.LostFocus = [&] {
+    left += "second ";
+    form.txtSecond.SetFocus();
+  };
+  form.txtFirst.SetFocus();
+  form.txtSecond.SetFocus();
+  EXPECT_EQ(form.ActiveControl(), &form.txtFirst);
+  EXPECT_EQ(left, "first ");
+}
+
 }  // namespace
 }  // namespace tarnview
