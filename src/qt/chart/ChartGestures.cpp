@@ -65,8 +65,10 @@ double ChartGestures::XAt(double pixel) const {
 
 bool ChartGestures::OnPlot(QPointF at) const { return chart_.axisRect()->rect().contains(at.toPoint()); }
 
-bool ChartGestures::eventFilter(QObject*, QEvent* event) {
-  if (chart_.ShowsSurface()) return false;
+bool ChartGestures::eventFilter(QObject* receiver, QEvent* event) {
+  // While the chart ends, its base still sends events, and what is this class's own is gone.
+  const bool ends = qobject_cast<ChartWidget*>(receiver) == nullptr;
+  if (ends || chart_.ShowsSurface()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       return Press(static_cast<QMouseEvent&>(*event));
