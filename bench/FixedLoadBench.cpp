@@ -1,5 +1,5 @@
-// Loading a Tec-2, a Link Plus and a UTEC log from its file, beside a plain newline scan of the same bytes, and a tenth
-// of it: the cost should grow no faster than the log.
+// Loading a Tec-2, a Link Plus and a UTEC log from its file, beside a plain newline scan of the
+// same bytes, and a tenth of it: the cost should grow no faster than the log.
 
 #include <cstdio>
 #include <filesystem>
@@ -34,14 +34,18 @@ int Main(int argc, char** argv) {
   };
   for (const Layout& layout : kLayouts) {
     const auto file = [&](int samples) {
-      files.push_back(std::make_unique<LogFile>(layout.name + std::to_string(samples), layout.text(samples)));
+      files.push_back(
+          std::make_unique<LogFile>(layout.name + std::to_string(samples), layout.text(samples)));
       return files.back().get();
     };
     const LogFile *large = file(300000), *small = file(30000);
     const Loader load = layout.load;
-    add(layout.name + "_NewlineScan", [large](benchmark::State& state) { NewlineScan(state, *large); });
-    add(layout.name + "_300000", [large, load](benchmark::State& state) { Load(state, *large, load); });
-    add(layout.name + "_30000", [small, load](benchmark::State& state) { Load(state, *small, load); });
+    add(layout.name + "_NewlineScan",
+        [large](benchmark::State& state) { NewlineScan(state, *large); });
+    add(layout.name + "_300000",
+        [large, load](benchmark::State& state) { Load(state, *large, load); });
+    add(layout.name + "_30000",
+        [small, load](benchmark::State& state) { Load(state, *small, load); });
     std::printf("%s: %.1f MB\n", layout.name.c_str(),
                 static_cast<double>(std::filesystem::file_size(large->Path())) / 1e6);
   }

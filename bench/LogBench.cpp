@@ -20,7 +20,8 @@ long CountLines(const std::string& path) {
   const char* at = static_cast<const char*>(bytes);
   const char* const end = at + size;
   long lines = 0;
-  while ((at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at))))) {
+  while (
+      (at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at))))) {
     ++lines;
     if (++at == end) break;
   }
@@ -31,7 +32,8 @@ long CountLines(const std::string& path) {
 }  // namespace
 
 LogFile::LogFile(const std::string& name, const std::string& text)
-    : path_((std::filesystem::temp_directory_path() / ("tarnview-bench-" + std::to_string(getpid()) + "-" + name))
+    : path_((std::filesystem::temp_directory_path() /
+             ("tarnview-bench-" + std::to_string(getpid()) + "-" + name))
                 .string()) {
   RealFileSystem().Write(path_, text);
 }

@@ -1,5 +1,6 @@
-// Power and torque of the longest run against the first draw of their chart, in one program, so that their ratio holds
-// whatever the machine: working a run out should cost under a hundredth of showing it.
+// Power and torque of the longest run against the first draw of their chart, in one program, so
+// that their ratio holds whatever the machine: working a run out should cost under a hundredth of
+// showing it.
 
 #include <QApplication>
 #include <cstdio>

@@ -1,5 +1,6 @@
-// Moving through a long log in the real window, drawn by the toolkit without a screen: a notch of the wheel and a step
-// of the scroll bar, beside the first draw of the whole log. A step should cost under 50 ms of CPU.
+// Moving through a long log in the real window, drawn by the toolkit without a screen: a notch of
+// the wheel and a step of the scroll bar, beside the first draw of the whole log. A step should
+// cost under 50 ms of CPU.
 
 #include <QApplication>
 #include <QScrollBar>
@@ -35,8 +36,8 @@ class Window {
   void Turn(int notches) {
     ChartWidget& chart = *widget().findChild<ChartWidget*>("chSampleGraph");
     const QPointF at = chart.rect().center();
-    QWheelEvent event(at, chart.mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
+    QWheelEvent event(at, chart.mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&chart, &event);
     Settle();
   }
@@ -108,7 +109,8 @@ int Main(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks(&reporter);
   const double first = reporter.milliseconds["FirstDraw_300000"];
   std::printf("wheel step / first draw: %.2f\nscroll step / first draw: %.2f\n",
-              reporter.milliseconds["WheelStep_300000"] / first, reporter.milliseconds["ScrollStep_300000"] / first);
+              reporter.milliseconds["WheelStep_300000"] / first,
+              reporter.milliseconds["ScrollStep_300000"] / first);
   return 0;
 }
 

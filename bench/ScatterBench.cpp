@@ -1,5 +1,5 @@
-// The walk through a log for a scatter graph with four filters, against reading the five columns that it needs twice.
-// Both run in one program, so that their ratio holds whatever the machine.
+// The walk through a log for a scatter graph with four filters, against reading the five columns
+// that it needs twice. Both run in one program, so that their ratio holds whatever the machine.
 
 #include <cstdio>
 #include <random>
@@ -44,7 +44,8 @@ clsScatterFilters Filters(int percent) {
   const auto& items = TheLog().catalogue.gcolFixedDataItems;
   clsScatterFilters filters;
   for (const int item : kItems)
-    filters.AddDirect({items.Item(item).GetRawData(100 * percent - 1), items.Item(item).GetRawData(0), item});
+    filters.AddDirect(
+        {items.Item(item).GetRawData(100 * percent - 1), items.Item(item).GetRawData(0), item});
   return filters;
 }
 
@@ -56,7 +57,8 @@ void Walk(benchmark::State& state, int percent, bool values) {
     const auto rows = PassingRows(log, RangeOfFilters(log, filters), filters, [](std::int32_t) {});
     points = rows.size();
     if (values)
-      for (const int item : {ItemOf(kRPM), ItemOf(kAF)}) benchmark::DoNotOptimize(ValuesOf(log, item, rows).data());
+      for (const int item : {ItemOf(kRPM), ItemOf(kAF)})
+        benchmark::DoNotOptimize(ValuesOf(log, item, rows).data());
     benchmark::DoNotOptimize(rows.data());
   }
   state.counters["points"] = static_cast<double>(points);
@@ -70,7 +72,8 @@ void ReadFiveColumnsTwice(benchmark::State& state) {
     for (int time = 0; time < 2; ++time)
       for (const int item : {ItemOf(kSample), kItems[0], kItems[1], kItems[2], kItems[3]}) {
         const clsLogDataItem& it = log.gcolDataItems->Item(item);
-        for (int row = 0; row < log.glngDataLog.Rows(); ++row) sum += it.GetRawData(log.glngDataLog(item - 1, row));
+        for (int row = 0; row < log.glngDataLog.Rows(); ++row)
+          sum += it.GetRawData(log.glngDataLog(item - 1, row));
       }
     benchmark::DoNotOptimize(sum);
   }
@@ -94,7 +97,8 @@ int Main(int argc, char** argv) {
     return reporter.milliseconds[name] / reporter.milliseconds["ReadFiveColumnsTwice"];
   };
   std::printf(
-      "Four filters / reading the five columns twice: %.2f where all samples pass, %.2f where each filter keeps four "
+      "Four filters / reading the five columns twice: %.2f where all samples pass, %.2f where each "
+      "filter keeps four "
       "in five\n",
       ratio("Walk_100"), ratio("Walk_80"));
   std::printf("The same with the values of both axes: %.2f and %.2f\n", ratio("WalkAndValues_100"),

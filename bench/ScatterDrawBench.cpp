@@ -1,5 +1,6 @@
-// The points of a scatter graph on a screen's picture and under the pointer: 300,000 should cost far less
-// than a hundred times what 3,000 do, since pixels are what is drawn, and a click next to nothing.
+// The points of a scatter graph on a screen's picture and under the pointer: 300,000 should cost
+// far less than a hundred times what 3,000 do, since pixels are what is drawn, and a click next to
+// nothing.
 
 #include <QApplication>
 #include <cmath>
@@ -79,13 +80,17 @@ int Main(int argc, char** argv) {
   add("Pick_300000", [&](benchmark::State& state) { Pick(state, many); });
   Reporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
-  const auto ratio = [&](const char* a, const char* b) { return reporter.milliseconds[a] / reporter.milliseconds[b]; };
+  const auto ratio = [&](const char* a, const char* b) {
+    return reporter.milliseconds[a] / reporter.milliseconds[b];
+  };
   std::printf(
-      "300000 points / 3000: %.1f\ntinted / plain: %.2f\ndense / plain: %.2f\n300000 points / filling the picture: "
+      "300000 points / 3000: %.1f\ntinted / plain: %.2f\ndense / plain: %.2f\n300000 points / "
+      "filling the picture: "
       "%.0f\n"
       "click / drawing: %.5f\n",
       ratio("Draw_300000", "Draw_3000"), ratio("DrawTinted_300000", "Draw_300000"),
-      ratio("DrawDense_300000", "Draw_300000"), ratio("Draw_300000", "Fill"), ratio("Pick_300000", "Draw_300000"));
+      ratio("DrawDense_300000", "Draw_300000"), ratio("Draw_300000", "Fill"),
+      ratio("Pick_300000", "Draw_300000"));
   return 0;
 }
 

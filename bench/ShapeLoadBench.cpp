@@ -1,6 +1,6 @@
-// Logs of unknown form beside today's path: the same columns through the built-in definition, and, by the definition of
-// their shape, as they stand, with decimal commas, all quoted, as UTF-16; and a wide log of 475 columns. A look at a
-// log takes a few milliseconds, however large it is.
+// Logs of unknown form beside today's path: the same columns through the built-in definition, and,
+// by the definition of their shape, as they stand, with decimal commas, all quoted, as UTF-16; and
+// a wide log of 475 columns. A look at a log takes a few milliseconds, however large it is.
 
 #include <algorithm>
 #include <cstdio>
@@ -55,13 +55,15 @@ std::string AsUtf16(const std::string& text) {
 std::string WideLog(int lines) {
   constexpr int kChannels = 474;
   std::string text = "Time (s)";
-  for (int channel = 0; channel < kChannels; ++channel) text += ",Channel " + std::to_string(channel);
+  for (int channel = 0; channel < kChannels; ++channel)
+    text += ",Channel " + std::to_string(channel);
   char number[32];
   for (int line = 0; line < lines; ++line) {
     std::snprintf(number, sizeof number, "\n%.2f", line * 0.02);
     text += number;
     for (int channel = 0; channel < kChannels; ++channel) {
-      std::snprintf(number, sizeof number, ",%.*f", channel % 4, (line / (channel % 7 + 1) % 500 + channel) * 0.37);
+      std::snprintf(number, sizeof number, ",%.*f", channel % 4,
+                    (line / (channel % 7 + 1) % 500 + channel) * 0.37);
       text += number;
     }
   }
@@ -99,12 +101,13 @@ int Main(int argc, char** argv) {
   for (const auto& log : kLogs) {
     const LogShape shape = Look(log.text);
     const clsDataLog definition = DefinitionOfShape(shape, log.name, "csv", 10);
-    std::printf("%s: %.1f MB, %zu columns, score %d\n", log.name, static_cast<double>(log.text.size()) / 1e6,
-                shape.columns.size(), shape.score);
+    std::printf("%s: %.1f MB, %zu columns, score %d\n", log.name,
+                static_cast<double>(log.text.size()) / 1e6, shape.columns.size(), shape.score);
     add(std::string("Look_") + log.name, [&](benchmark::State& state) {
       for (auto _ : state) benchmark::DoNotOptimize(Look(log.text));
     });
-    add(log.name, [&log, definition](benchmark::State& state) { Load(state, log.text, definition); });
+    add(log.name,
+        [&log, definition](benchmark::State& state) { Load(state, log.text, definition); });
   }
   Reporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);

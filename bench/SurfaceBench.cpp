@@ -1,5 +1,5 @@
-// A zone grid as a surface, turned by a hand: each step should take less than 8 ms of a processor, so that it follows
-// the hand.
+// A zone grid as a surface, turned by a hand: each step should take less than 8 ms of a processor,
+// so that it follows the hand.
 
 #include <QApplication>
 #include <cmath>
@@ -16,8 +16,10 @@ constexpr int kRows = 6, kColumns = 16;
 ChartDescription Map() {
   Surface surface;
   surface.title = "Fuel Zone Graph";
-  for (int row = 1; row <= kRows; ++row) surface.rows.push_back(std::to_string(40 * (row - 1)) + "kPa " + "00");
-  for (int column = 0; column < kColumns; ++column) surface.columns.push_back(std::to_string(column * 5));
+  for (int row = 1; row <= kRows; ++row)
+    surface.rows.push_back(std::to_string(40 * (row - 1)) + "kPa " + "00");
+  for (int column = 0; column < kColumns; ++column)
+    surface.columns.push_back(std::to_string(column * 5));
   for (int row = 0; row < kRows; ++row)
     for (int column = 0; column < kColumns; ++column)
       surface.values.push_back(60 + 20 * row + std::round(30 * std::sin(column * 0.3)));

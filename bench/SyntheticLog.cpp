@@ -7,7 +7,8 @@
 namespace tarnview::bench {
 namespace {
 
-/// Where the drive stands at a sample: a slow swing from idle to full throttle and back, with some noise on it.
+/// Where the drive stands at a sample: a slow swing from idle to full throttle and back, with some
+/// noise on it.
 struct Moment {
   explicit Moment(int sample) {
     const double swing = 0.5 - 0.5 * std::cos(sample / 90.0);
@@ -28,14 +29,16 @@ void AddLogLine(std::string& log, int sample) {
   const Moment now(sample);
   char line[80];
   std::snprintf(
-      line, sizeof line, "%-6d  %4d %c %3d %c %3d%c  %3d %c%4d %3d  %c%3d %c %3d%c%4.1f  %4.2f\r\n", sample, now.RPM,
-      now.idle ? 'L' : 'S', now.MAP, "+-= 34g"[sample / 5 % 7], now.O2, sample % 40 == 3 ? 'a' : ' ',
-      12 + sample / 50 % 9, 'x', static_cast<int>(250 + 1500 * now.throttle), static_cast<int>(4 + 80 * now.throttle),
+      line, sizeof line, "%-6d  %4d %c %3d %c %3d%c  %3d %c%4d %3d  %c%3d %c %3d%c%4.1f  %4.2f\r\n",
+      sample, now.RPM, now.idle ? 'L' : 'S', now.MAP, "+-= 34g"[sample / 5 % 7], now.O2,
+      sample % 40 == 3 ? 'a' : ' ', 12 + sample / 50 % 9, 'x',
+      static_cast<int>(250 + 1500 * now.throttle), static_cast<int>(4 + 80 * now.throttle),
       now.idle   ? '*'
       : now.full ? 'w'
                  : ' ',
-      static_cast<int>(8 + 90 * now.throttle), sample % 1000 < 100 ? 'n' : ' ', static_cast<int>(3 + now.RPM / 200),
-      sample % 700 == 0 ? '!' : ' ', 10 + 22 * (1 - now.throttle) + now.RPM / 1000.0, 0.4 + 4 * now.throttle);
+      static_cast<int>(8 + 90 * now.throttle), sample % 1000 < 100 ? 'n' : ' ',
+      static_cast<int>(3 + now.RPM / 200), sample % 700 == 0 ? '!' : ' ',
+      10 + 22 * (1 - now.throttle) + now.RPM / 1000.0, 0.4 + 4 * now.throttle);
   log += line;
 }
 
@@ -43,9 +46,11 @@ void AddSummaryLine(std::string& log, int sample) {
   char line[80];
   const int temperature = std::min(20 + sample / 60, 88);
   const int speed = 40 + sample / 7 % 80;
-  std::snprintf(line, sizeof line, "%c1.8    %4.1f    %3d AT %3d  %s CF    HR CP       %3d S=%3d %4.2fv\r\n",
-                sample % 5000 < 400 ? '*' : ' ', 13.5 + sample / 100 % 6 / 10.0, temperature, 21 + sample / 900 % 9,
-                temperature > 85 ? "EF" : "  ", sample / 4000 % 100, speed, 2 + sample / 300 % 20 / 10.0);
+  std::snprintf(line, sizeof line,
+                "%c1.8    %4.1f    %3d AT %3d  %s CF    HR CP       %3d S=%3d %4.2fv\r\n",
+                sample % 5000 < 400 ? '*' : ' ', 13.5 + sample / 100 % 6 / 10.0, temperature,
+                21 + sample / 900 % 9, temperature > 85 ? "EF" : "  ", sample / 4000 % 100, speed,
+                2 + sample / 300 % 20 / 10.0);
   log += line;
 }
 

@@ -1,5 +1,5 @@
-// Loading a Universal log of 17 columns through the built-in definition, beside a plain newline scan of the same bytes,
-// and a tenth of it: the cost should grow no faster than the log.
+// Loading a Universal log of 17 columns through the built-in definition, beside a plain newline
+// scan of the same bytes, and a tenth of it: the cost should grow no faster than the log.
 
 #include <cstdio>
 #include <filesystem>
@@ -17,7 +17,8 @@ namespace {
 void LoadUniversal(benchmark::State& state, const LogFile& file) {
   const Catalogue catalogue = BuildDataItemCatalogue();
   const clsDataLog definition = DefaultDataLogDefinition();
-  const clsLogDataItems items = GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+  const clsLogDataItems items =
+      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
   const ConversionTables tables;
   const Settings settings;
   NoProgress progress;
@@ -42,10 +43,13 @@ int Main(int argc, char** argv) {
   add("NewlineScan_300000", NewlineScan, large);
   add("Load_300000", LoadUniversal, large);
   add("Load_30000", LoadUniversal, small);
-  std::printf("Universal: %.1f MB\n", static_cast<double>(std::filesystem::file_size(large.Path())) / 1e6);
+  std::printf("Universal: %.1f MB\n",
+              static_cast<double>(std::filesystem::file_size(large.Path())) / 1e6);
   Reporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
-  const auto ratio = [&](const char* a, const char* b) { return reporter.milliseconds[a] / reporter.milliseconds[b]; };
+  const auto ratio = [&](const char* a, const char* b) {
+    return reporter.milliseconds[a] / reporter.milliseconds[b];
+  };
   std::printf("Universal: load / newline scan %.1f, 300000 samples / 30000 %.1f\n",
               ratio("Load_300000", "NewlineScan_300000"), ratio("Load_300000", "Load_30000"));
   return 0;

@@ -13,30 +13,34 @@ namespace tarnview {
 std::vector<Command> Customising::Rows() {
   const auto keep = [this](KeptList list) { return [this, list] { MaintainList(list); }; };
   return {
+      // clang-format off
       {&controls_.mnuCustomiseOptions, "mnuCustomiseOptions_Click", [this] { mnuCustomiseOptions_Click(); }, {}},
       {&controls_.mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", keep(KeptList::SamplePresets), {}},
       {&controls_.mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", keep(KeptList::ScatterPresets), {}},
       {&controls_.mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", keep(KeptList::CarDefs), {}},
       {&controls_.mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", keep(KeptList::Benchmarks), {}},
+      // clang-format on
   };
 }
 
 void Customising::mnuCustomiseOptions_Click() {
   const Catalogue& catalogue = globals_.catalogue;
-  OptionsDraft draft{globals_.settings,
-                     globals_.gclsDataLogDefinition,
-                     {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
-                      catalogue.gcolUniversalDataItems.Duplicate()},
-                     globals_.kinds};
-  const int fileType =
-      globals_.log.gintCurrentFileType > 0 ? globals_.log.gintCurrentFileType : globals_.settings.gintDefaultFileType;
-  frmOptions window(services_.host, {services_.files, services_.errors, services_.messages}, std::move(draft),
-                    fileType);
+  OptionsDraft draft{
+      globals_.settings,
+      globals_.gclsDataLogDefinition,
+      {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
+       catalogue.gcolUniversalDataItems.Duplicate()},
+      globals_.kinds};
+  const int fileType = globals_.log.gintCurrentFileType > 0 ? globals_.log.gintCurrentFileType
+                                                            : globals_.settings.gintDefaultFileType;
+  frmOptions window(services_.host, {services_.files, services_.errors, services_.messages},
+                    std::move(draft), fileType);
   window.ShowModal();
   if (window.Accepted()) TakeOptions(window);
 }
 
-/// All values, then the definition, then what is drawn with them, in the order in which users are asked and told.
+/// All values, then the definition, then what is drawn with them, in the order in which users are
+/// asked and told.
 void Customising::TakeOptions(frmOptions& window) {
   OptionsDraft& draft = window.Draft();
   const std::string oldPath = globals_.settings.gstrGenericDefinitionFile;
@@ -47,7 +51,8 @@ void Customising::TakeOptions(frmOptions& window) {
   if (taken) TakeDefinition(draft);
   CopyItemDisplay(draft.catalogue.gcolFixedDataItems, globals_.catalogue.gcolFixedDataItems);
   if (taken || !changed)
-    CopyItemDisplay(draft.catalogue.gcolUniversalDataItems, globals_.catalogue.gcolUniversalDataItems);
+    CopyItemDisplay(draft.catalogue.gcolUniversalDataItems,
+                    globals_.catalogue.gcolUniversalDataItems);
   mainWindow_.OptionsChanged();
   mainWindow_.WriteINIFile();
 }
@@ -65,11 +70,12 @@ void Customising::TakeDefinition(const OptionsDraft& draft) {
   globals_.definitionOfSettings.reset();  // the one that it kept is no longer the settings'
   globals_.gclsDataLogDefinition = draft.definition;
   globals_.missingDefinitionFile.clear();
-  OfferDefinitionPresets(draft.definition, globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets,
-                         services_.messages);
+  OfferDefinitionPresets(draft.definition, globals_.gcolSampleGraphPresets,
+                         globals_.gcolScatterGraphPresets, services_.messages);
   SetGenericDataLogDescriptions(globals_.kinds, draft.definition);
   Catalogue& catalogue = globals_.catalogue;
-  catalogue.gcolUniversalDataItems = GenerateLogDataItemsGeneric(draft.definition, catalogue.gcolFixedDataItems);
+  catalogue.gcolUniversalDataItems =
+      GenerateLogDataItemsGeneric(draft.definition, catalogue.gcolFixedDataItems);
 }
 
 /// Shows the details window of a preset; true on OK, with what the user made of it.
@@ -77,8 +83,8 @@ template <class Window, class Preset>
 bool Customising::EditPreset(Preset& preset) {
   Window window(services_.host,
                 PresetSurroundings{globals_.kinds.gcolLogFamilies, globals_.catalogue,
-                                   globals_.settings.gstrDefaultWorkingDirectory, services_.files, services_.clock,
-                                   services_.errors, services_.messages},
+                                   globals_.settings.gstrDefaultWorkingDirectory, services_.files,
+                                   services_.clock, services_.errors, services_.messages},
                 preset);
   window.ShowModal();
   if (!window.Accepted()) return false;
@@ -91,7 +97,8 @@ void Customising::Maintain(const frmMaint::Texts& texts, Collection& kept,
                            std::function<bool(typename Collection::Record&)> edit) {
   MaintainedCollection<Collection> copy(kept, std::move(edit));
   const clsLogFamilies& families = globals_.kinds.gcolLogFamilies;
-  frmMaint window(services_.host, copy, texts, families, families.FirstLogFamily(globals_.settings.gintDefaultFileType),
+  frmMaint window(services_.host, copy, texts, families,
+                  families.FirstLogFamily(globals_.settings.gintDefaultFileType),
                   services_.messages);
   ApplyPlacement(globals_.settings.windows.maintenance, window);
   window.ShowModal();
@@ -122,7 +129,8 @@ void Customising::MaintainList(KeptList list) {
       {KeptList::Benchmarks,
        {"Zone Data Benchmark Editor", "&Benchmarks", "ZoneDataBenchmarkEditor"},
        [this](const frmMaint::Texts& texts) {
-         Maintain(texts, globals_.gcolBenchmarks, [this](auto& benchmark) { return zones_.EditBenchmark(benchmark); });
+         Maintain(texts, globals_.gcolBenchmarks,
+                  [this](auto& benchmark) { return zones_.EditBenchmark(benchmark); });
        }},
       // The doubled word is kept on purpose.
       {KeptList::CarDefs,

@@ -13,7 +13,8 @@
 
 namespace tarnview {
 
-/// What the user makes the program his own with: the Options, and the lists of presets, cars and benchmarks.
+/// What the user makes the program his own with: the Options, and the lists of presets, cars and
+/// benchmarks.
 class Customising {
  public:
   /// What it needs of the main window.
@@ -26,8 +27,8 @@ class Customising {
     /// Settings, data items or names have changed: every window that is open follows.
     virtual void OptionsChanged() = 0;
   };
-  Customising(MainWindowControls& controls, Globals& globals, Services& services, PowerWindows& power,
-              ZoneWindows& zones, MainWindow& mainWindow)
+  Customising(MainWindowControls& controls, Globals& globals, Services& services,
+              PowerWindows& power, ZoneWindows& zones, MainWindow& mainWindow)
       : controls_(controls),
         globals_(globals),
         services_(services),
@@ -48,7 +49,8 @@ class Customising {
 
   void MaintainList(KeptList list);
   template <class Collection>
-  void Maintain(const frmMaint::Texts& texts, Collection& kept, std::function<bool(typename Collection::Record&)> edit);
+  void Maintain(const frmMaint::Texts& texts, Collection& kept,
+                std::function<bool(typename Collection::Record&)> edit);
   template <class Window, class Preset>
   bool EditPreset(Preset& preset);
 

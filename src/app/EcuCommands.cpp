@@ -6,19 +6,22 @@
 
 namespace tarnview {
 
-EcuCommands::EcuCommands(MainWindowControls& controls, Globals& globals, Services& services, const RecentFiles& recent,
-                         MainWindow& mainWindow)
-    : controls_(controls), globals_(globals), recent_(recent), mainWindow_(mainWindow), world_{services.host,
-                                                                                               globals.settings,
-                                                                                               services.files,
-                                                                                               services.clock,
-                                                                                               services.programs,
-                                                                                               services.messages} {}
+EcuCommands::EcuCommands(MainWindowControls& controls, Globals& globals, Services& services,
+                         const RecentFiles& recent, MainWindow& mainWindow)
+    : controls_(controls),
+      globals_(globals),
+      recent_(recent),
+      mainWindow_(mainWindow),
+      world_{services.host,  globals.settings,  services.files,
+             services.clock, services.programs, services.messages} {}
 
 std::vector<Command> EcuCommands::Rows() {
   return {
       {&controls_.mnuFileNew, "mnuFileNew_Click", [this] { capture_.Run(); }, {}},
-      {&controls_.mnuToolsConvert, "mnuToolsConvert_Click", [this] { mnuToolsConvert_Click(); }, {}},
+      {&controls_.mnuToolsConvert,
+       "mnuToolsConvert_Click",
+       [this] { mnuToolsConvert_Click(); },
+       {}},
   };
 }
 
@@ -42,7 +45,8 @@ void EcuCommands::mnuToolsConvert_Click() {
 ComparisonChoices EcuCommands::ChoicesForComparison() {
   const clsFileTypes& types = globals_.kinds.gcolFileTypes;
   ComparisonChoices choices;
-  choices.filter = types.Item(kFMLinkLog).CommonDialogFilter() + "|" + types.Item(kMAPFile).CommonDialogFilter();
+  choices.filter =
+      types.Item(kFMLinkLog).CommonDialogFilter() + "|" + types.Item(kMAPFile).CommonDialogFilter();
   for (int index = 0; index < recent_.Count(); ++index) {
     const auto [fileType, path] = recent_.At(index);
     if (fileType == kFMLinkLog || fileType == kMAPFile) choices.recentFiles.push_back(path);

@@ -14,13 +14,13 @@
 
 namespace tarnview {
 
-/// The commands that talk to the ECU through outside programs: capture, conversion, and the upload that the zone editor
-/// asks for.
+/// The commands that talk to the ECU through outside programs: capture, conversion, and the upload
+/// that the zone editor asks for.
 class EcuCommands : private Upload::Editor {
  public:
   using MainWindow = Capture::MainWindow;
-  EcuCommands(MainWindowControls& controls, Globals& globals, Services& services, const RecentFiles& recent,
-              MainWindow& mainWindow);
+  EcuCommands(MainWindowControls& controls, Globals& globals, Services& services,
+              const RecentFiles& recent, MainWindow& mainWindow);
 
   /// Loads the zones of a log or MAP file, and tells what goes wrong; nothing then.
   using LoadZones = std::function<std::optional<ZoneMap>(const std::string& path)>;
@@ -33,7 +33,9 @@ class EcuCommands : private Upload::Editor {
   void mnuToolsConvert_Click();
 
   ComparisonChoices ChoicesForComparison() override;
-  std::optional<ZoneMap> LoadComparison(const std::string& path) override { return loadComparison_(path); }
+  std::optional<ZoneMap> LoadComparison(const std::string& path) override {
+    return loadComparison_(path);
+  }
 
   MainWindowControls& controls_;
   Globals& globals_;

@@ -29,32 +29,39 @@ bool FirstRun::GenerateINIFile(const std::string& path) {
   }
   std::string text(*bytes);
   FillIn(text, choice);
-  if (!services_.files.Write(path, text)) services_.messages.ShowMessage(Message::SettingsNotWritten);
+  if (!services_.files.Write(path, text))
+    services_.messages.ShowMessage(Message::SettingsNotWritten);
   return true;
 }
 
 bool FirstRun::Ask(Choice& choice) {
   DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors,
                         globals_.catalogue.gcolFixedDataItems);
-  std::vector<DefinitionChoice> definitions = files.GenericFileLocation(AddBackslash(programFolder_ + kDefinitions));
+  std::vector<DefinitionChoice> definitions =
+      files.GenericFileLocation(AddBackslash(programFolder_ + kDefinitions));
   if (dataFolder_ != programFolder_)
-    for (DefinitionChoice& found : files.GenericFileLocation(AddBackslash(dataFolder_ + kDefinitions)))
+    for (DefinitionChoice& found :
+         files.GenericFileLocation(AddBackslash(dataFolder_ + kDefinitions)))
       definitions.push_back(std::move(found));
-  frmFindINIFile window(services_.host, globals_.kinds.gcolFileTypes, definitions, files, services_.messages);
+  frmFindINIFile window(services_.host, globals_.kinds.gcolFileTypes, definitions, files,
+                        services_.messages);
   window.ShowModal();
   choice = {window.FileType(), window.DefinitionPath()};
   return window.Accepted();
 }
 
 std::string FirstRun::TemplateOf(const std::string& path, int fileType) {
-  const std::string beside = WithoutExtension(path) + "_Install" + std::to_string(fileType) + ".ini";
+  const std::string beside =
+      WithoutExtension(path) + "_Install" + std::to_string(fileType) + ".ini";
   return services_.files.FileExists(beside) ? beside : dataFolder_ + FileTitle(beside);
 }
 
 /// What a template cannot know: where the program lies, and what was chosen.
 void FirstRun::FillIn(std::string& text, const Choice& choice) {
   const std::string parent = GetParentFolder(programFolder_);
-  const auto set = [&](const char* key, const std::string& value) { SetINIValue(text, kGeneral, key, value); };
+  const auto set = [&](const char* key, const std::string& value) {
+    SetINIValue(text, kGeneral, key, value);
+  };
   const std::string& logs = logFolder_.empty() ? parent : logFolder_;
   set("Default Working Directory", logs);
   set("Initial Directory", logs);

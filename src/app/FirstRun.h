@@ -6,12 +6,13 @@
 
 namespace tarnview {
 
-/// Makes the settings file of a user who has none yet: asks for the kind of log and copies that kind's template.
+/// Makes the settings file of a user who has none yet: asks for the kind of log and copies that
+/// kind's template.
 class FirstRun {
  public:
-  /// Templates, definitions and conversion tables that do not lie beside the program lie in `dataFolder`. Folders end
-  /// with a separator.
-  /// `logFolder` is where a user's logs may lie; empty: the folder above the program's.
+  /// Templates, definitions and conversion tables that do not lie beside the program lie in
+  /// `dataFolder`. Folders end with a separator. `logFolder` is where a user's logs may lie; empty:
+  /// the folder above the program's.
   FirstRun(Globals& globals, Services& services, std::string programFolder, std::string dataFolder,
            std::string logFolder = "")
       : globals_(globals),
@@ -20,8 +21,8 @@ class FirstRun {
         dataFolder_(std::move(dataFolder)),
         logFolder_(std::move(logFolder)) {}
 
-  /// False: the user cancelled, and no file was written. Without a template, message 29 is shown and every setting will
-  /// have its default.
+  /// False: the user cancelled, and no file was written. Without a template, message 29 is shown
+  /// and every setting will have its default.
   bool GenerateINIFile(const std::string& path);
 
  private:

@@ -17,7 +17,8 @@
 
 namespace tarnview {
 
-/// What the program keeps for its whole run, grouped by owner; made once, at start, and handed down.
+/// What the program keeps for its whole run, grouped by owner; made once, at start, and handed
+/// down.
 struct Globals {
   FileKinds kinds = SetUpLogFamilies();
   Catalogue catalogue = BuildDataItemCatalogue();
@@ -36,13 +37,16 @@ struct Globals {
   clsScatterGraphPresets gcolScatterGraphPresets;
   clsCarDefs gcolCarDefs;
   clsBenchmarks gcolBenchmarks;
-  std::string missingDefinitionFile;  ///< named by the settings and not there; kept in them until another is chosen
-  std::string gstrProgramFolder;      ///< with a separator at its end; empty: there is none, and no report is written
+  std::string missingDefinitionFile;  ///< named by the settings and not there; kept in them until
+                                      ///< another is chosen
+  std::string gstrProgramFolder;      ///< with a separator at its end; empty: there is none, and no
+                                      ///< report is written
   std::string dataFolder;             ///< of what is installed, the same way
   std::string gstrINIFile;            ///< full path of Tarnview.ini; empty: no settings file
   std::string gstrInstallINIFile;     ///< Tarnview_Install.ini beside it, else in the data folder
-  std::string gstrINIFileToWrite;     ///< where the settings are kept; empty: nowhere (the command line)
-  bool gblnStarting = false;          ///< until the first activation of the main window is over
+  std::string
+      gstrINIFileToWrite;     ///< where the settings are kept; empty: nowhere (the command line)
+  bool gblnStarting = false;  ///< until the first activation of the main window is over
 };
 
 /// What the program asks of the world, each behind a small interface.

@@ -26,17 +26,21 @@ LoadOutcome FMLinkLog(std::string_view bytes, const LoadContext& context) {
 }
 
 constexpr std::array kLoaders{
-    LoaderRow{kFMLinkLog, Fixed<FMLinkLog>},           LoaderRow{kMAPFile, Fixed<LoadMap>},
-    LoaderRow{kTec2Log, Fixed<LoadTec2Log>},           LoaderRow{kTec3Log, Fixed<LoadTec3Log>},
-    LoaderRow{kLinkPlusLog, Fixed<LoadLinkPlusLog>},   LoaderRow{kUTECCSVLog, Fixed<LoadUTECCSVLog>},
-    LoaderRow{kUTECFixedLog, Fixed<LoadUTECFixedLog>}, LoaderRow{kUniversalLog, LoadGenericDataLog},
+    LoaderRow{kFMLinkLog, Fixed<FMLinkLog>},
+    LoaderRow{kMAPFile, Fixed<LoadMap>},
+    LoaderRow{kTec2Log, Fixed<LoadTec2Log>},
+    LoaderRow{kTec3Log, Fixed<LoadTec3Log>},
+    LoaderRow{kLinkPlusLog, Fixed<LoadLinkPlusLog>},
+    LoaderRow{kUTECCSVLog, Fixed<LoadUTECCSVLog>},
+    LoaderRow{kUTECFixedLog, Fixed<LoadUTECFixedLog>},
+    LoaderRow{kUniversalLog, LoadGenericDataLog},
 };
 
 }  // namespace
 
 const LoaderRow* LoaderFor(int fileType) {
-  const auto found =
-      std::find_if(kLoaders.begin(), kLoaders.end(), [&](const auto& row) { return row.fileType == fileType; });
+  const auto found = std::find_if(kLoaders.begin(), kLoaders.end(),
+                                  [&](const auto& row) { return row.fileType == fileType; });
   return found == kLoaders.end() ? nullptr : &*found;
 }
 

@@ -11,7 +11,8 @@ namespace tarnview {
 struct LoaderRow {
   int fileType;
   /// `definition`: of Universal logs; the other layouts are fixed.
-  LoadOutcome (*load)(std::string_view bytes, const LoadContext& context, const clsDataLog& definition);
+  LoadOutcome (*load)(std::string_view bytes, const LoadContext& context,
+                      const clsDataLog& definition);
 };
 
 /// The row of a file type; nullptr for one that no loader reads.

@@ -24,7 +24,8 @@ constexpr const char* kDefinitions = "Universal Data Log Formats";
 constexpr const char* kTitles = "Log Titles.txt";
 /// Where a log has no clock and tells no rate.
 constexpr double kUsualLinesASecond = 10;
-/// A definition that knows fewer of a log's columns than nine in ten would lose the rest; the shape has them all.
+/// A definition that knows fewer of a log's columns than nine in ten would lose the rest; the shape
+/// has them all.
 constexpr int kKnownOfTen = 9;
 
 /// Whole lines from the beginning of a text.
@@ -45,18 +46,20 @@ double ValueBy(const clsDataLogColumn& column, double number) {
                                          : (number + column.dblConversionOffset) * factor;
 }
 
-/// Where the log tells the unit of a known quantity, a definition reads it in that unit: the same titles may stand over
-/// degrees C and F.
+/// Where the log tells the unit of a known quantity, a definition reads it in that unit: the same
+/// titles may stand over degrees C and F.
 bool Agrees(const clsDataLog& definition, const LogShape& shape) {
   constexpr double kNearly = 0.03, kSlack = 0.5;
   for (const clsDataLogColumn& column : definition.objColumns)
     for (std::size_t at = 0; at < shape.columns.size(); ++at) {
       const ShapeColumn& found = shape.columns[at];
       const ShapeItem& item = shape.items[at];
-      if (item.item != column.lngDataItemID || item.item == ItemOf(kSecs) || !IsUnit(found.unit)) continue;
+      if (item.item != column.lngDataItemID || item.item == ItemOf(kSecs) || !IsUnit(found.unit))
+        continue;
       if (!SameIgnoringCase(found.header, column.strColumnTitle)) continue;
       const double number = found.median / found.scale, wanted = number * item.factor + item.offset;
-      if (std::fabs(ValueBy(column, number) - wanted) > std::fabs(wanted) * kNearly + kSlack) return false;
+      if (std::fabs(ValueBy(column, number) - wanted) > std::fabs(wanted) * kNearly + kSlack)
+        return false;
     }
   return true;
 }
@@ -67,22 +70,27 @@ const TitleDictionary& LogRoads::Titles() {
   if (titles_) return *titles_;
   std::string text(BuiltInTitles());
   for (const std::string& folder : {globals_.dataFolder, globals_.gstrProgramFolder})
-    if (const auto own = folder.empty() ? std::nullopt : files_.Read(folder + kTitles)) text = Joined(text, *own);
+    if (const auto own = folder.empty() ? std::nullopt : files_.Read(folder + kTitles))
+      text = Joined(text, *own);
   return titles_.emplace(text);
 }
 
-LoadOutcome LogRoads::Try(std::string_view bytes, int fileType, const clsDataLog& definition) const {
+LoadOutcome LogRoads::Try(std::string_view bytes, int fileType,
+                          const clsDataLog& definition) const {
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) return {};
   const clsLogDataItems& fixed = globals_.catalogue.gcolFixedDataItems;
   const bool universal = fileType == kUniversalLog;
-  const clsLogDataItems items = universal ? GenerateLogDataItemsGeneric(definition, fixed) : fixed.Duplicate();
+  const clsLogDataItems items =
+      universal ? GenerateLogDataItemsGeneric(definition, fixed) : fixed.Duplicate();
   NoProgress progress;
   OpenLog log;
-  return loader->load(bytes, {log, items, globals_.settings, globals_.tables, progress}, definition);
+  return loader->load(bytes, {log, items, globals_.settings, globals_.tables, progress},
+                      definition);
 }
 
-LoadOutcome LogRoads::TryAs(std::string_view bytes, int fileType, const clsDataLog& definition, LogRoad& road) const {
+LoadOutcome LogRoads::TryAs(std::string_view bytes, int fileType, const clsDataLog& definition,
+                            LogRoad& road) const {
   LoadOutcome outcome;
   outcome.loaded = true;
   road.fileType = fileType;
@@ -137,11 +145,13 @@ std::optional<clsDataLog> LogRoads::ReadDefinition(const std::string& path) {
   }
 }
 
-std::optional<LogRoad> LogRoads::ByShape(std::string_view bytes, const LogShape& shape, const std::string& path) {
+std::optional<LogRoad> LogRoads::ByShape(std::string_view bytes, const LogShape& shape,
+                                         const std::string& path) {
   if (!shape.Found()) return std::nullopt;
   LogRoad road;
   road.takenAs = "Universal: by its shape";
-  road.definition = DefinitionOfShape(shape, FileTitle(path), GetExtension(path), kUsualLinesASecond);
+  road.definition =
+      DefinitionOfShape(shape, FileTitle(path), GetExtension(path), kUsualLinesASecond);
   if (!TryAs(bytes, kUniversalLog, *road.definition, road).loaded) return std::nullopt;
   road.known = road.columns = static_cast<int>(shape.columns.size());
   road.notes = shape.HasClock() ? shape.time.why : "";

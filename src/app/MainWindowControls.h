@@ -120,7 +120,8 @@ class MainWindowControls : public Form {
   MenuItem mnuCustomise{*this, "mnuCustomise", "&Customise"};
   MenuItem mnuCustomiseOptions{*this, "mnuCustomiseOptions", "&Options..."};
   MenuItem mnuCustomisePresetSample{*this, "mnuCustomisePresetSample", "Preset &Sample Graphs..."};
-  MenuItem mnuCustomisePresetScatter{*this, "mnuCustomisePresetScatter", "Preset S&catter Graphs..."};
+  MenuItem mnuCustomisePresetScatter{*this, "mnuCustomisePresetScatter",
+                                     "Preset S&catter Graphs..."};
   MenuItem mnuCustomiseCarDefs{*this, "mnuCustomiseCarDefs", "Car &Definitions..."};
   MenuItem mnuCustomiseBenchmarks{*this, "mnuCustomiseBenchmarks", "&Benchmarks..."};
 
@@ -132,9 +133,11 @@ class MainWindowControls : public Form {
   MenuItem mnuRightClick{*this, "mnuRightClick", "Graph"};
   MenuItem mnuRightClickDrawGraph{*this, "mnuRightClickDrawGraph", "&Draw Graph"};
   MenuItem mnuRightClickZoomIn{*this, "mnuRightClickZoomIn", "Zoom &In"};
-  ControlArray<MenuItem> mnuRightClickZoomInAmount{*this, "mnuRightClickZoomInAmount", kZoomAmounts, "", ""};
+  ControlArray<MenuItem> mnuRightClickZoomInAmount{*this, "mnuRightClickZoomInAmount", kZoomAmounts,
+                                                   "", ""};
   MenuItem mnuRightClickZoomOut{*this, "mnuRightClickZoomOut", "Zoom &Out"};
-  ControlArray<MenuItem> mnuRightClickZoomOutAmount{*this, "mnuRightClickZoomOutAmount", kZoomAmounts, "", ""};
+  ControlArray<MenuItem> mnuRightClickZoomOutAmount{*this, "mnuRightClickZoomOutAmount",
+                                                    kZoomAmounts, "", ""};
   MenuItem mnuRightClickZoomOutFull{*this, "mnuRightClickZoomOutFull", "Zoom O&ut Full"};
   MenuItem mnuRightClickPrevGraph{*this, "mnuRightClickPrevGraph", "Pre&vious Graph"};
   MenuItem mnuRightClickGoto{*this, "mnuRightClickGoto", "&Go to Sample..."};

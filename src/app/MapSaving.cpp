@@ -16,7 +16,11 @@ std::size_t MarkOf(std::string_view bytes) { return std::hash<std::string_view>(
 
 MapSaving::MapSaving(Globals& globals, Services& services, StatusArea& status, RecentFiles& recent,
                      std::function<void()> fileChanged)
-    : globals_(globals), services_(services), status_(status), recent_(recent), fileChanged_(std::move(fileChanged)) {}
+    : globals_(globals),
+      services_(services),
+      status_(status),
+      recent_(recent),
+      fileChanged_(std::move(fileChanged)) {}
 
 void MapSaving::FileOpened(std::string_view bytes) {
   bytesOnDisk_ = MarkOf(bytes);
@@ -54,9 +58,11 @@ bool MapSaving::Save() {
 bool MapSaving::MayOverwrite() {
   const auto bytes = ReadText(services_.files, globals_.log.gstrCurrentFile);
   if (!bytes || MarkOf(*bytes) == bytesOnDisk_) return true;
-  const std::string text = globals_.log.gstrCurrentFileTitle +
-                           " was changed by another program since it was opened.\r\nDo you want to overwrite it?";
-  return services_.messages.Tell(text, kBoxYesNo + kBoxQuestion + kBoxSecondIsDefault) == Reply::Yes;
+  const std::string text =
+      globals_.log.gstrCurrentFileTitle +
+      " was changed by another program since it was opened.\r\nDo you want to overwrite it?";
+  return services_.messages.Tell(text, kBoxYesNo + kBoxQuestion + kBoxSecondIsDefault) ==
+         Reply::Yes;
 }
 
 bool MapSaving::SaveAs() {
@@ -81,9 +87,11 @@ bool MapSaving::SaveChangesPrompt() {
   const clsFileTypes& types = globals_.kinds.gcolFileTypes;
   if (!types.SaveableFileType(log.gintCurrentFileType) || !log.gblnZonesDirty) return true;
   const Reply reply = services_.messages.Tell(
-      "Do you want to save the changes made to " + log.gstrCurrentFileTitle + "?", kBoxYesNoCancel + kBoxExclamation);
+      "Do you want to save the changes made to " + log.gstrCurrentFileTitle + "?",
+      kBoxYesNoCancel + kBoxExclamation);
   if (reply != Reply::Yes) return reply == Reply::No;
-  const bool map = SameIgnoringCase(GetExtension(log.gstrCurrentFile), types.Item(kMAPFile).strFileExtension);
+  const bool map =
+      SameIgnoringCase(GetExtension(log.gstrCurrentFile), types.Item(kMAPFile).strFileExtension);
   return map ? Save() : SaveAs();
 }
 

@@ -5,9 +5,13 @@
 
 namespace tarnview {
 
-PowerWindows::PowerWindows(MainWindowControls& controls, Globals& globals, Services& services, const PlotRange& range,
-                           SampleGraphWindow& mainWindow)
-    : controls_(controls), globals_(globals), services_(services), range_(range), mainWindow_(mainWindow) {}
+PowerWindows::PowerWindows(MainWindowControls& controls, Globals& globals, Services& services,
+                           const PlotRange& range, SampleGraphWindow& mainWindow)
+    : controls_(controls),
+      globals_(globals),
+      services_(services),
+      range_(range),
+      mainWindow_(mainWindow) {}
 
 std::vector<Command> PowerWindows::Rows() {
   return {{&controls_.mnuModulesPowerGraph, "mnuModulesPowerGraph_Click", [this] { Open(); },
@@ -16,10 +20,12 @@ std::vector<Command> PowerWindows::Rows() {
 
 frmPowerGraph& PowerWindows::Open() {
   const int number = powerGraphs_.NextNumber();
-  const frmPowerGraph::Surroundings around{globals_.log,    globals_.settings, globals_.gcolCarDefs, services_.files,
-                                           services_.clock, services_.errors,  services_.messages};
+  const frmPowerGraph::Surroundings around{
+      globals_.log,    globals_.settings, globals_.gcolCarDefs, services_.files,
+      services_.clock, services_.errors,  services_.messages};
   frmPowerGraph::MainWindow& self = *this;
-  frmPowerGraph& window = powerGraphs_.Add(std::make_unique<frmPowerGraph>(controls_.host, around, self));
+  frmPowerGraph& window =
+      powerGraphs_.Add(std::make_unique<frmPowerGraph>(controls_.host, around, self));
   window.ID = number;
   window.Show();
   return window;
@@ -28,7 +34,8 @@ frmPowerGraph& PowerWindows::Open() {
 void PowerWindows::OpenSpeedGraph(const SpeedGraphInput& input) {
   const int number = speedGraphs_.NextNumber();
   frmSpeedGraph& window = speedGraphs_.Add(std::make_unique<frmSpeedGraph>(
-      controls_.host, frmSpeedGraph::Surroundings{globals_.settings, services_.errors, services_.messages}, input,
+      controls_.host,
+      frmSpeedGraph::Surroundings{globals_.settings, services_.errors, services_.messages}, input,
       [this](int ID) { speedGraphs_.Remove(ID); }));
   window.ID = number;
   window.Show();
@@ -36,8 +43,8 @@ void PowerWindows::OpenSpeedGraph(const SpeedGraphInput& input) {
 
 bool PowerWindows::EditCar(clsCarDef& car) {
   frmCarDefinitionDetails window(controls_.host,
-                                 {globals_.settings.gstrDefaultWorkingDirectory, services_.files, services_.clock,
-                                  services_.errors, services_.messages},
+                                 {globals_.settings.gstrDefaultWorkingDirectory, services_.files,
+                                  services_.clock, services_.errors, services_.messages},
                                  car);
   window.ShowModal();
   if (!window.Accepted()) return false;
@@ -59,8 +66,10 @@ void PowerWindows::CarsChanged() {
 
 void PowerWindows::OptionsChanged() {
   const int scheme = globals_.settings.gintGraphColourScheme;
-  powerGraphs_.ForEach([=](frmPowerGraph& window) { TakeColourScheme(window.chPowerGraph, scheme); });
-  speedGraphs_.ForEach([=](frmSpeedGraph& window) { TakeColourScheme(window.chSpeedGraph, scheme); });
+  powerGraphs_.ForEach(
+      [=](frmPowerGraph& window) { TakeColourScheme(window.chPowerGraph, scheme); });
+  speedGraphs_.ForEach(
+      [=](frmSpeedGraph& window) { TakeColourScheme(window.chSpeedGraph, scheme); });
 }
 
 void PowerWindows::RecentPowerFilesChanged() {

@@ -12,7 +12,8 @@
 
 namespace tarnview {
 
-/// The power and speed graph windows of the program: it opens them and tells them what happens to the log.
+/// The power and speed graph windows of the program: it opens them and tells them what happens to
+/// the log.
 class PowerWindows : private frmPowerGraph::MainWindow {
  public:
   /// What it needs of the main window.
@@ -21,8 +22,8 @@ class PowerWindows : private frmPowerGraph::MainWindow {
     /// Plots a range anew, with one of its samples chosen.
     virtual void PlotRun(const SampleRange& range, std::int32_t sample) = 0;
   };
-  PowerWindows(MainWindowControls& controls, Globals& globals, Services& services, const PlotRange& range,
-               SampleGraphWindow& mainWindow);
+  PowerWindows(MainWindowControls& controls, Globals& globals, Services& services,
+               const PlotRange& range, SampleGraphWindow& mainWindow);
 
   std::vector<Command> Rows();
 
@@ -40,8 +41,12 @@ class PowerWindows : private frmPowerGraph::MainWindow {
 
  private:
   SampleRange MainRange() const override { return {range_.From(), range_.To()}; }
-  void PlotRun(const SampleRange& range, std::int32_t sample) override { mainWindow_.PlotRun(range, sample); }
-  double AutoGearSpeedFactor() const override { return globals_.gclsDataLogDefinition.dblAutoGearSpeedFactor; }
+  void PlotRun(const SampleRange& range, std::int32_t sample) override {
+    mainWindow_.PlotRun(range, sample);
+  }
+  double AutoGearSpeedFactor() const override {
+    return globals_.gclsDataLogDefinition.dblAutoGearSpeedFactor;
+  }
   void OpenSpeedGraph(const SpeedGraphInput& input) override;
   void RecentPowerFilesChanged() override;
   void PowerGraphClosed(int ID) override { powerGraphs_.Remove(ID); }

@@ -10,17 +10,20 @@ namespace {
 
 constexpr const char* kInstallFile = "Tarnview_Install.ini";
 
-std::string In(const std::string& folder, const char* name) { return folder.empty() ? "" : folder + name; }
+std::string In(const std::string& folder, const char* name) {
+  return folder.empty() ? "" : folder + name;
+}
 
 }  // namespace
 
-Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& processes, ProgramFolders folders,
-                 std::string settingsFile)
+Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& processes,
+                 ProgramFolders folders, std::string settingsFile)
     : host_(host),
       files_(files),
       folders_(std::move(folders)),
       errors_(files, clock, In(folders_.program, "error.log")),
-      messages_(host, [this](int id) { return globals_.kinds.gcolFileTypes.Item(id).strDescription; }),
+      messages_(host,
+                [this](int id) { return globals_.kinds.gcolFileTypes.Item(id).strDescription; }),
       programs_(processes, host),
       help_(files, programs_, messages_, In(folders_.data, "Documentation/"), folders_.program),
       services_{host, files, clock, programs_, errors_, messages_} {
@@ -30,7 +33,8 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
   globals_.gstrProgramFolder = folders_.program;
   globals_.dataFolder = folders_.data;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");
-  globals_.gstrINIFile = settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
+  globals_.gstrINIFile =
+      settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
 }
 
 Program::~Program() {
@@ -39,14 +43,16 @@ Program::~Program() {
 }
 
 /// Where an event ends that nothing else has ended.
-void Program::EventFailed(const std::string& module, const std::string& procedure, const std::exception& error) {
+void Program::EventFailed(const std::string& module, const std::string& procedure,
+                          const std::exception& error) {
   const RuntimeError raised = AsRuntimeError(error);
   errors_.LogError(module, procedure, raised, false);
   if (raised.number == kOutOfMemory) messages_.Tell(kShortOfMemory, kBoxExclamation);
 }
 
 std::string Program::WhyNotSave(const std::string& path) const {
-  if (files_.SameFile(path, globals_.log.gstrCurrentFile)) return "The log that is open is never written over:";
+  if (files_.SameFile(path, globals_.log.gstrCurrentFile))
+    return "The log that is open is never written over:";
   return files_.MayReplace(path) ? "" : "This file is write-protected:";
 }
 
@@ -61,7 +67,8 @@ void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
   if (!folders_.program.empty()) files_.ClearLeftovers(folders_.program);
   host_.WhyNotSave = [this](const std::string& path) { return WhyNotSave(path); };
-  host_.events.Failed = [this](const std::string& module, const std::string& procedure, const std::exception& error) {
+  host_.events.Failed = [this](const std::string& module, const std::string& procedure,
+                               const std::exception& error) {
     EventFailed(module, procedure, error);
   };
   messages_.Failed = [this](Message id, const std::string& text) {
@@ -91,7 +98,8 @@ void Program::Start(const std::string& commandLine, bool splash) {
 bool Program::HasINIFile() {
   const std::string& path = globals_.gstrINIFile;
   if (path.empty() || files_.FileExists(path)) return true;
-  return FirstRun(globals_, services_, folders_.program, folders_.data, folders_.logs).GenerateINIFile(path);
+  return FirstRun(globals_, services_, folders_.program, folders_.data, folders_.logs)
+      .GenerateINIFile(path);
 }
 
 /// A definition that is named on the command line is told of when it is loaded.
@@ -122,9 +130,11 @@ void Program::TellFolderTroubles() {
   const std::string trial = folders_.program + "error.log";
   std::string trouble;
   if (!files_.Append(trial, ""))
-    trouble = "Tarnview cannot write to its folder, so nothing is kept between runs:\r\n" + folders_.program;
+    trouble = "Tarnview cannot write to its folder, so nothing is kept between runs:\r\n" +
+              folders_.program;
   else if (!files_.FolderExists(folders_.data))
-    trouble = "Tarnview's data folder is missing; help and conversion tables are not there:\r\n" + folders_.data;
+    trouble = "Tarnview's data folder is missing; help and conversion tables are not there:\r\n" +
+              folders_.data;
   if (!trouble.empty()) messages_.Tell(trouble, kBoxExclamation);
 }
 

@@ -11,17 +11,21 @@
 
 namespace tarnview {
 
-/// Where the program lies, each with a separator at its end; empty: it has none (tests, the command line).
+/// Where the program lies, each with a separator at its end; empty: it has none (tests, the command
+/// line).
 struct ProgramFolders {
-  std::string program;    ///< for Tarnview.ini and error.log
-  std::string data;       ///< what is installed beside the program
-  std::string logs = {};  ///< the user's documents, where `program` is a hidden folder of the user's own
+  std::string program;  ///< for Tarnview.ini and error.log
+  std::string data;     ///< what is installed beside the program
+  std::string logs =
+      {};  ///< the user's documents, where `program` is a hidden folder of the user's own
 };
 
-/// The whole program, in front of any desktop: it makes what lives for the run and brings the windows up.
+/// The whole program, in front of any desktop: it makes what lives for the run and brings the
+/// windows up.
 class Program {
  public:
-  /// `settingsFile` stands for the program folder's Tarnview.ini; empty with no program folder: every default.
+  /// `settingsFile` stands for the program folder's Tarnview.ini; empty with no program folder:
+  /// every default.
   Program(Host& host, FileSystem& files, Clock& clock, Processes& processes, ProgramFolders folders,
           std::string settingsFile = "");
   ~Program();
@@ -29,12 +33,13 @@ class Program {
   /// The definition of Universal logs, in place of the one that the settings name; before Start.
   void UseDefinition(std::string path) { definitionFile_ = std::move(path); }
 
-  /// Where the settings go when the main window closes; before Start. Without it, a program with a folder keeps them
-  /// there, and one without a folder nowhere.
+  /// Where the settings go when the main window closes; before Start. Without it, a program with a
+  /// folder keeps them there, and one without a folder nowhere.
   void WriteSettingsTo(std::string path) { globals_.gstrINIFileToWrite = std::move(path); }
 
-  /// Brings up the splash (where wanted) and the main window, and opens the file that the command line names. With the
-  /// splash, a program that has no settings file yet asks for one first; if the user cancels that, no window stays.
+  /// Brings up the splash (where wanted) and the main window, and opens the file that the command
+  /// line names. With the splash, a program that has no settings file yet asks for one first; if
+  /// the user cancels that, no window stays.
   void Start(const std::string& commandLine, bool splash);
 
   Globals& Global() { return globals_; }
@@ -48,7 +53,8 @@ class Program {
   void FindDefinition();
   void TellFolderTroubles();
   void LoadMainForm(const std::string& commandLine);
-  void EventFailed(const std::string& module, const std::string& procedure, const std::exception& error);
+  void EventFailed(const std::string& module, const std::string& procedure,
+                   const std::exception& error);
 
   Host& host_;
   FileSystem& files_;

@@ -34,7 +34,8 @@ RecentFiles::Entry RecentFiles::ParseTag(const std::string& tag) {
 }
 
 void RecentFiles::AddRecentlyUsedFile(const std::string& path, int fileType) {
-  std::erase_if(tags_, [&](const std::string& tag) { return SameIgnoringCase(ParseTag(tag).path, path); });
+  std::erase_if(tags_,
+                [&](const std::string& tag) { return SameIgnoringCase(ParseTag(tag).path, path); });
   tags_.insert(tags_.begin(), BuildRecentFileTag(path, fileType));
   if (Count() > items_.Count()) tags_.resize(static_cast<std::size_t>(items_.Count()));
   Rewrite();

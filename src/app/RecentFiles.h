@@ -8,7 +8,8 @@
 
 namespace tarnview {
 
-/// The files opened last, as menu items: index 0 is the latest. An entry's tag is its file type id, "|" and its path.
+/// The files opened last, as menu items: index 0 is the latest. An entry's tag is its file type id,
+/// "|" and its path.
 class RecentFiles {
  public:
   struct Entry {

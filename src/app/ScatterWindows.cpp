@@ -7,7 +7,8 @@
 namespace tarnview {
 
 ScatterWindows::ScatterWindows(MainWindowControls& controls, Globals& globals, Services& services,
-                               const PlotRange& range, StatusArea& status, SampleGraphWindow& mainWindow)
+                               const PlotRange& range, StatusArea& status,
+                               SampleGraphWindow& mainWindow)
     : controls_(controls),
       globals_(globals),
       services_(services),
@@ -17,19 +18,28 @@ ScatterWindows::ScatterWindows(MainWindowControls& controls, Globals& globals, S
 
 std::vector<Command> ScatterWindows::Rows() {
   return {
-      {&controls_.mnuFileDrawScatter, "mnuFileDrawScatter_Click", [this] { mnuFileDrawScatter_Click(); }, {}},
-      {&controls_.mnuModulesScatterGraph, "mnuModulesScatterGraph_Click", [this] { OpenScatterGraph(); },
-       [this] { return globals_.log.gblnSamplesLoaded; }},
+      {&controls_.mnuFileDrawScatter,
+       "mnuFileDrawScatter_Click",
+       [this] { mnuFileDrawScatter_Click(); },
+       {}},
+      {&controls_.mnuModulesScatterGraph, "mnuModulesScatterGraph_Click",
+       [this] { OpenScatterGraph(); }, [this] { return globals_.log.gblnSamplesLoaded; }},
   };
 }
 
 frmScatterGraph& ScatterWindows::NewScatterGraph() {
   const int number = windows_.NextNumber();
-  const frmScatterGraph::Surroundings around{
-      globals_.kinds,  globals_.catalogue, globals_.log,      globals_.settings, globals_.gcolScatterGraphPresets,
-      services_.files, services_.errors,   services_.messages};
+  const frmScatterGraph::Surroundings around{globals_.kinds,
+                                             globals_.catalogue,
+                                             globals_.log,
+                                             globals_.settings,
+                                             globals_.gcolScatterGraphPresets,
+                                             services_.files,
+                                             services_.errors,
+                                             services_.messages};
   frmScatterGraph::MainWindow& self = *this;
-  frmScatterGraph& window = windows_.Add(std::make_unique<frmScatterGraph>(services_.host, around, self));
+  frmScatterGraph& window =
+      windows_.Add(std::make_unique<frmScatterGraph>(services_.host, around, self));
   window.ID = number;
   window.Cascade = windows_.Count() - 1;
   return window;
@@ -80,10 +90,13 @@ void ScatterWindows::OptionsChanged() {
 
 std::optional<clsScatterFilter> ScatterWindows::RangeFilter() const {
   if (!globals_.log.gblnSamplesLoaded || range_.IsWholeLog()) return std::nullopt;
-  return clsScatterFilter{static_cast<double>(range_.To()), static_cast<double>(range_.From()), ItemOf(kSample)};
+  return clsScatterFilter{static_cast<double>(range_.To()), static_cast<double>(range_.From()),
+                          ItemOf(kSample)};
 }
 
-std::vector<int> ScatterWindows::ListedItems() const { return ItemsOfRows(controls_.lvwSampleDetails); }
+std::vector<int> ScatterWindows::ListedItems() const {
+  return ItemsOfRows(controls_.lvwSampleDetails);
+}
 
 void ScatterWindows::ScatterPresetsChanged(bool added) {
   if (added) mainWindow_.WriteINIFile();

@@ -13,7 +13,8 @@
 
 namespace tarnview {
 
-/// The open scatter windows: opening them, drawing them after a load, and what they ask of the program.
+/// The open scatter windows: opening them, drawing them after a load, and what they ask of the
+/// program.
 class ScatterWindows : private frmScatterGraph::MainWindow {
  public:
   /// What it needs of the main window.
@@ -23,13 +24,14 @@ class ScatterWindows : private frmScatterGraph::MainWindow {
     virtual void ShowPoint(std::int32_t sample) = 0;
     virtual bool WriteINIFile() = 0;
   };
-  ScatterWindows(MainWindowControls& controls, Globals& globals, Services& services, const PlotRange& range,
-                 StatusArea& status, SampleGraphWindow& mainWindow);
+  ScatterWindows(MainWindowControls& controls, Globals& globals, Services& services,
+                 const PlotRange& range, StatusArea& status, SampleGraphWindow& mainWindow);
 
   std::vector<Command> Rows();
 
   frmScatterGraph& OpenScatterGraph();
-  /// Draws the presets that ask for it, each in a window of its own; only where the menu item is ticked.
+  /// Draws the presets that ask for it, each in a window of its own; only where the menu item is
+  /// ticked.
   void DrawAutoScatterGraphs();
   /// Every open window lists its presets again.
   void UpdatePresets();

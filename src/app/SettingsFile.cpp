@@ -25,7 +25,8 @@ std::string Repaired(std::string_view text) {
 void SettingsFile::LoadINIFileNew() {
   table_ = ReadTable();
   const auto install = ReadInstall();
-  ReadSettings(SettingsHalf::BeforeDefinition, {globals_, table_, install ? &*install : nullptr, TellUnknownItem()});
+  ReadSettings(SettingsHalf::BeforeDefinition,
+               {globals_, table_, install ? &*install : nullptr, TellUnknownItem()});
   globals_.settings.firstRun = globals_.settings.firstRun || noFile_;
   FindBackgroundPicture();
   ValidateWorkingDirectory();
@@ -41,7 +42,9 @@ void SettingsFile::Remember() {
 }
 
 std::function<void(const std::vector<int>&)> SettingsFile::TellUnknownItem() {
-  return [this](const std::vector<int>&) { services_.messages.ShowMessage(Message::DataItemNotFound); };
+  return [this](const std::vector<int>&) {
+    services_.messages.ShowMessage(Message::DataItemNotFound);
+  };
 }
 
 std::optional<IniTable> SettingsFile::ReadInstall() {
@@ -56,7 +59,8 @@ IniTable SettingsFile::ReadTable() {
   const auto text = services_.files.Read(path);
   if (!text) {
     services_.messages.Tell(
-        "The settings file cannot be read. Every setting has its default, and nothing is kept from this run:\r\n" +
+        "The settings file cannot be read. Every setting has its default, and nothing is kept from "
+        "this run:\r\n" +
             path,
         kBoxExclamation);
     globals_.gstrINIFileToWrite.clear();
@@ -69,11 +73,12 @@ IniTable SettingsFile::ReadTable() {
   return hasSettings ? ReadINIFileToArray(repaired) : IniTable();
 }
 
-/// What is about to be written over is kept. A file that was but cut, or whose last line somebody wrote without its
-/// end, is no news.
+/// What is about to be written over is kept. A file that was but cut, or whose last line somebody
+/// wrote without its end, is no news.
 void SettingsFile::TellDamage(const std::string& path, bool hasSettings) {
-  std::string told = hasSettings ? "The settings file is damaged. What can be read of it holds:\r\n"
-                                 : "This is no settings file, so every setting has its default:\r\n";
+  std::string told = hasSettings
+                         ? "The settings file is damaged. What can be read of it holds:\r\n"
+                         : "This is no settings file, so every setting has its default:\r\n";
   told += path;
   if (globals_.gstrINIFileToWrite == path) {
     const std::string kept = SetAside(path);
@@ -81,9 +86,11 @@ void SettingsFile::TellDamage(const std::string& path, bool hasSettings) {
       globals_.gstrINIFileToWrite.clear();
     else
       told += "\r\n\r\nIt is kept as:\r\n" + kept;
-    if (services_.files.FileExists(path + kOlder)) told += "\r\nThe last good settings are:\r\n" + path + kOlder;
+    if (services_.files.FileExists(path + kOlder))
+      told += "\r\nThe last good settings are:\r\n" + path + kOlder;
   }
-  if (!hasSettings || seen_.find('\0') != std::string::npos) services_.messages.Tell(told, kBoxExclamation);
+  if (!hasSettings || seen_.find('\0') != std::string::npos)
+    services_.messages.Tell(told, kBoxExclamation);
 }
 
 /// Under a name that no earlier one has, unless it is there already; "" if it cannot be kept.
@@ -112,18 +119,21 @@ SettingsBodies SettingsFile::BodiesIn(std::string_view text) {
   other.catalogue.gcolUniversalDataItems = globals_.catalogue.gcolUniversalDataItems.Duplicate();
   const IniTable table = ReadINIFileToArray(Repaired(text));
   const auto install = ReadInstall();
-  const SettingsSource from{other, table, install ? &*install : nullptr, [](const std::vector<int>&) {}};
+  const SettingsSource from{other, table, install ? &*install : nullptr,
+                            [](const std::vector<int>&) {}};
   ReadSettings(SettingsHalf::BeforeDefinition, from);
   ReadSettings(SettingsHalf::BehindDefinition, from);
   return WriteSettings(other, [](const char*) {});
 }
 
-bool SettingsFile::WriteINIFile(const std::string& path, const std::function<void(const char*)>& say) {
+bool SettingsFile::WriteINIFile(const std::string& path,
+                                const std::function<void(const char*)>& say) {
   SettingsBodies held = WriteSettings(globals_, say);
   std::string text = SettingsText(held);
   const bool itsOwn = path == globals_.gstrINIFile;
   const auto there = itsOwn ? services_.files.Read(path) : std::nullopt;
-  if (there && !read_.empty() && *there != seen_) text = SettingsText(MergeSettings(read_, held, BodiesIn(*there)));
+  if (there && !read_.empty() && *there != seen_)
+    text = SettingsText(MergeSettings(read_, held, BodiesIn(*there)));
   if (there) KeepOlder(path, *there, text);
   if (!services_.files.Write(path, text)) {
     services_.messages.ShowMessage(Message::SettingsNotWritten);
@@ -138,7 +148,8 @@ bool SettingsFile::WriteINIFile(const std::string& path, const std::function<voi
 }
 
 /// Once a run, so that a user who broke something can go back to before it.
-void SettingsFile::KeepOlder(const std::string& path, std::string_view older, std::string_view newer) {
+void SettingsFile::KeepOlder(const std::string& path, std::string_view older,
+                             std::string_view newer) {
   if (keptOlder_ || older == newer || IsDamaged(older) || !IsIniText(older)) return;
   keptOlder_ = services_.files.Write(path + kOlder, older);
 }

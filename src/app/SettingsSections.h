@@ -19,7 +19,8 @@ struct SettingsSource {
   TellUnknownItems tell;
 };
 
-/// Presets and the display of Universal items need the definition of Universal logs; all else comes ahead of it.
+/// Presets and the display of Universal items need the definition of Universal logs; all else comes
+/// ahead of it.
 enum class SettingsHalf { BeforeDefinition, BehindDefinition };
 
 void ReadSettings(SettingsHalf half, const SettingsSource& from);
@@ -30,7 +31,8 @@ using SettingsBodies = std::vector<std::string>;
 /// `say` hears the name of each section.
 SettingsBodies WriteSettings(const Globals& globals, const std::function<void(const char*)>& say);
 /// Of two programs with one file: what each section becomes.
-SettingsBodies MergeSettings(const SettingsBodies& read, const SettingsBodies& held, const SettingsBodies& inFile);
+SettingsBodies MergeSettings(const SettingsBodies& read, const SettingsBodies& held,
+                             const SettingsBodies& inFile);
 /// The file's text.
 std::string SettingsText(const SettingsBodies& bodies);
 

@@ -12,7 +12,8 @@ std::string GetKeyValue(const char* key, const char* value) {
   char text[MAX_PATH] = {};
   DWORD size = sizeof text - 1;
   DWORD type = 0;
-  const auto found = RegQueryValueExA(opened, value, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
+  const auto found =
+      RegQueryValueExA(opened, value, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
   RegCloseKey(opened);
   return found == ERROR_SUCCESS && type == REG_SZ ? std::string(text) : std::string();
 }

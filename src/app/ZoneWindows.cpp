@@ -75,8 +75,9 @@ void ZoneWindows::OfferLostEdits() {
   const auto journal = bytes ? ReadJournal(*bytes) : std::nullopt;
   services_.files.DeleteFile(path);
   if (!journal) return;
-  const std::string text = "Edits of the zones of " + FileTitle(journal->file) +
-                           " were not saved when Tarnview ended.\r\nDo you want to go on with them?";
+  const std::string text =
+      "Edits of the zones of " + FileTitle(journal->file) +
+      " were not saved when Tarnview ended.\r\nDo you want to go on with them?";
   if (services_.messages.Tell(text, kBoxYesNo + kBoxQuestion) == Reply::Yes) Resume(*journal);
 }
 
@@ -120,7 +121,8 @@ bool ZoneWindows::EditBenchmarkZones(ZoneMap& map, const std::string& name) {
 bool ZoneWindows::EditBenchmark(clsBenchmark& benchmark) {
   frmBenchmarkDetails window(
       services_.host,
-      {globals_.kinds.gcolFileTypes, globals_.settings, services_.files, services_.clock, services_.messages,
+      {globals_.kinds.gcolFileTypes, globals_.settings, services_.files, services_.clock,
+       services_.messages,
        [this](ZoneMap& map, const std::string& name) { return EditBenchmarkZones(map, name); }},
       benchmark);
   window.ShowModal();

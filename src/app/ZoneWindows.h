@@ -24,7 +24,8 @@ class ZoneWindows {
     /// The zones of the open file were changed.
     virtual void ZonesEdited() = 0;
   };
-  ZoneWindows(MainWindowControls& controls, Globals& globals, Services& services, SampleGraphWindow& mainWindow)
+  ZoneWindows(MainWindowControls& controls, Globals& globals, Services& services,
+              SampleGraphWindow& mainWindow)
       : controls_(controls), globals_(globals), services_(services), mainWindow_(mainWindow) {}
 
   /// What sends a sheet to the ECU; `source` is the map that the editor was opened on.
@@ -34,7 +35,8 @@ class ZoneWindows {
 
   /// The editor on the open file.
   void EditZones() { EditZones(nullptr); }
-  /// The zones of a MAP file or log, read in the window that shows how far it is; nothing, and the user was told why.
+  /// The zones of a MAP file or log, read in the window that shows how far it is; nothing, and the
+  /// user was told why.
   std::optional<ZoneMap> LoadZones(const std::string& path);
   /// At a start: edits that were lost with the last run are offered, once.
   void OfferLostEdits();

@@ -4,7 +4,8 @@
 
 namespace tarnview {
 
-frmAbout::frmAbout(Host& itsHost, const DefinitionDetails& definition, std::function<void()> startSysInfo)
+frmAbout::frmAbout(Host& itsHost, const DefinitionDetails& definition,
+                   std::function<void()> startSysInfo)
     : Form(itsHost, "frmAbout", "About Tarnview") {
   lblVersion.Caption = std::string("Version ") + kVersion;
   lblDescription.Caption = std::string(kDescription);

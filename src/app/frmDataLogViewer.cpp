@@ -15,17 +15,23 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       log_(globals.log),
       details_({lvwSampleDetails, chkShowCheckedOnly, chSampleGraph}, drawn_, selection_, log_,
                globals.kinds.gcolLogFamilies),
-      graph_(*this, {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture}, range_,
-             {drawn_, selection_, redraw_}, log_, globals.settings, status_, services.messages, *this),
+      graph_(
+          *this,
+          {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture},
+          range_, {drawn_, selection_, redraw_}, log_, globals.settings, status_, services.messages,
+          *this),
       highlight_({chSampleGraph}, drawn_, selection_, range_, log_, details_, status_, *this),
       scrolling_({hsbGraphScroll, hsbGraphScrollLarge}, drawn_, selection_, range_, log_, *this),
-      zoom_({cboZoomAmount, chkQuickGraph}, drawn_, selection_, range_, log_, services.messages, *this),
-      mouse_({chSampleGraph, chkQuickGraph, cmdZoomFull}, drawn_, selection_, range_, log_, highlight_, *this),
-      presets_({lvwPresets, lvwSampleDetails, chkShowCheckedOnly, chkFixY, txtYMax}, globals.gcolSampleGraphPresets,
-               globals.kinds.gcolLogFamilies, *this),
+      zoom_({cboZoomAmount, chkQuickGraph}, drawn_, selection_, range_, log_, services.messages,
+            *this),
+      mouse_({chSampleGraph, chkQuickGraph, cmdZoomFull}, drawn_, selection_, range_, log_,
+             highlight_, *this),
+      presets_({lvwPresets, lvwSampleDetails, chkShowCheckedOnly, chkFixY, txtYMax},
+               globals.gcolSampleGraphPresets, globals.kinds.gcolLogFamilies, *this),
       export_({lvwSampleDetails, chkShowCheckedOnly}, range_, log_, services.files, status_),
       output_(services.host, services.messages, services.errors),
-      zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph}, selection_, log_),
+      zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph},
+                     selection_, log_),
       roads_(globals, services.files),
       tags_(services.host, log_.gcolLogTags, *this),
       scatter_(*this, globals, services, range_, status_, *this),
@@ -43,7 +49,9 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
     ecu_.UploadZones(ZonesOfSheet(sheet, source, globals_.settings),
                      [this](const std::string& path) { return zones_.LoadZones(path); });
   };
-  services_.messages.ShowNonModal = [this](Message, const std::string& text) { ShowNonModal(text); };
+  services_.messages.ShowNonModal = [this](Message, const std::string& text) {
+    ShowNonModal(text);
+  };
 }
 
 void frmDataLogViewer::Form_Load() {
@@ -110,7 +118,8 @@ void frmDataLogViewer::SampleShown(std::int32_t index) {
 
 bool frmDataLogViewer::CurrentRange(clsLogTag& tag) const {
   const std::int64_t from = range_.From(), to = range_.To();
-  if (!log_.gblnSamplesLoaded || from >= to || from < log_.glngFirstSampleTime || to > log_.glngLastSampleTime)
+  if (!log_.gblnSamplesLoaded || from >= to || from < log_.glngFirstSampleTime ||
+      to > log_.glngLastSampleTime)
     return false;
   tag = {static_cast<std::int32_t>(to), static_cast<std::int32_t>(from)};
   return true;

@@ -34,7 +34,8 @@
 
 namespace tarnview {
 
-/// The main window: it puts the parts of the Sample Graph together, opens files, and carries the menus.
+/// The main window: it puts the parts of the Sample Graph together, opens files, and carries the
+/// menus.
 class frmDataLogViewer : public MainWindowControls,
                          private SampleGraph::MainWindow,
                          private PointHighlight::MainWindow,
@@ -53,8 +54,9 @@ class frmDataLogViewer : public MainWindowControls,
 
   /// Opens a file; type 0 is guessed. False: nothing was loaded, and the user was told why.
   bool LoadDataFile(const std::string& path, int fileType) override;
-  /// Opens a file as the user does: what does not load as `fileType` (0: guessed) is looked at, and opened as what it
-  /// looks like after a question. Where the kind was guessed and nothing loads, the open log stays.
+  /// Opens a file as the user does: what does not load as `fileType` (0: guessed) is looked at, and
+  /// opened as what it looks like after a question. Where the kind was guessed and nothing loads,
+  /// the open log stays.
   bool OpenFile(const std::string& path, int fileType);
   /// Opens a file as what its content is, with no question; what is no log as its extension says.
   bool OpenByContent(const std::string& path);
@@ -65,11 +67,12 @@ class frmDataLogViewer : public MainWindowControls,
   /// False: the user does not want to lose edited zones.
   bool SaveChangesPrompt() override { return saving_.SaveChangesPrompt(); }
 
-  /// Loads the definition of Universal logs that the settings name, else the built-in one. `addPresets`: its presets
-  /// join the user's.
+  /// Loads the definition of Universal logs that the settings name, else the built-in one.
+  /// `addPresets`: its presets join the user's.
   void LoadDataLogDefinitionLocal(bool addPresets);
 
-  /// Writes the settings file, where one is kept, with what the window shows now. False: the user was told.
+  /// Writes the settings file, where one is kept, with what the window shows now. False: the user
+  /// was told.
   bool WriteINIFile() override;
 
   /// The last export since a log was opened wrote its file.
@@ -165,7 +168,9 @@ class frmDataLogViewer : public MainWindowControls,
   void SampleShown(std::int32_t index) override;
   void ScrollOneStep(int direction) override { scrolling_.ScrollOneStep(direction); }
   void DrawSampleGraph() override { graph_.DrawSampleGraph(); }
-  void DrawSampleGraphAfter(const RangeHistory& history) override { graph_.DrawSampleGraphAfter(history); }
+  void DrawSampleGraphAfter(const RangeHistory& history) override {
+    graph_.DrawSampleGraphAfter(history);
+  }
   void DrawGraphChecked() override { graph_.DrawGraphChecked(); }
   bool CurrentRange(clsLogTag& tag) const override;
   void ShowRange(const clsLogTag& tag) override;
@@ -186,7 +191,8 @@ class frmDataLogViewer : public MainWindowControls,
   Selection selection_;
   RedrawRequest redraw_;
   StatusArea status_{*this, staDataLogViewer, proProgInd};
-  PlotRange range_{{PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log_, selection_, redraw_};
+  PlotRange range_{
+      {PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log_, selection_, redraw_};
   SampleDetails details_;
   SampleGraph graph_;
   PointHighlight highlight_;

@@ -14,6 +14,7 @@ const std::function<void()> kNotYet;
 std::vector<Command> frmDataLogViewer::FileCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
   return {
+      // clang-format off
       {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
       {&mnuFileSave, "mnuFileSave_Click", [this] { saving_.Save(); }, [this] { return saving_.MaySave(); }},
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { saving_.SaveAs(); }, [this] { return saving_.MaySaveAs(); }},
@@ -34,6 +35,7 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
          }).ShowModal();
        },
        {}},
+      // clang-format on
   };
 }
 
@@ -43,6 +45,7 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
   const auto narrower = [this] { return CanZoomIn(); };
   const auto wider = [this] { return CanZoomOut(); };
   return {
+      // clang-format off
       {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawGraph(); }, loaded},
       {&cmdZoomIn, "cmdZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
       {&cmdZoomOut, "cmdZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
@@ -61,6 +64,7 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
       {&mnuViewTags, "mnuViewTags_Click", [this] { ShowDataTags(); }, [this] { return CanShowDataTags(); }},
       {&mnuViewZoneInfl, "mnuViewZoneInfl_Click", [this] { mnuViewZoneInfl_Click(); },
        [this] { return IsLinkLog() && (log_.gblnSamplesLoaded || log_.gblnZonesLoaded); }},
+      // clang-format on
   };
 }
 
@@ -68,12 +72,14 @@ std::vector<Command> frmDataLogViewer::ScrollCommands() {
   const auto left = [this] { return graph_.Drawn() && scrolling_.CanGoLeft(); };
   const auto right = [this] { return graph_.Drawn() && scrolling_.CanGoRight(); };
   return {
+      // clang-format off
       {&mnuViewScrollLeft, "mnuViewScrollLeft_Click", [this] { scrolling_.ScrollLeft(); }, left},
       {&mnuViewScrollRight, "mnuViewScrollRight_Click", [this] { scrolling_.ScrollRight(); }, right},
       {&mnuViewPageLeft, "mnuViewPageLeft_Click", [this] { scrolling_.PageLeft(); }, left},
       {&mnuViewPageRight, "mnuViewPageRight_Click", [this] { scrolling_.PageRight(); }, right},
       {&mnuViewStart, "mnuViewStart_Click", [this] { scrolling_.ScrollStart(); }, left},
       {&mnuViewFinish, "mnuViewFinish_Click", [this] { scrolling_.ScrollFinish(); }, right},
+      // clang-format on
   };
 }
 
@@ -88,6 +94,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
     DrawGraph();
   };
   return {
+      // clang-format off
       {&mnuRightClickDrawGraph, "mnuRightClickDrawGraph_Click", [this] { DrawGraph(); },
        [this] { return log_.gblnSamplesLoaded; }},
       {&mnuRightClickZoomIn, "mnuRightClickZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
@@ -102,17 +109,21 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
        drawn},
       {&mnuRightClickPlotToAnd, "mnuRightClickPlotToAnd_Click", [this, setAndDraw] { setAndDraw(PlotRangeTo); }, drawn},
       {&mnuRightClickNewDataTag, "mnuRightClickNewDataTag_Click", [this] { tags_.NewDataTag(); }, drawn},
+      // clang-format on
   };
 }
 
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
-  for (auto&& part : {ViewCommands(), ScrollCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(),
-                      power_.Rows(), ecu_.Rows(), customising_.Rows(), zones_.Rows()})
+  for (auto&& part :
+       {ViewCommands(), ScrollCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(),
+        power_.Rows(), ecu_.Rows(), customising_.Rows(), zones_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
   for (const auto& item : mnuRecentlyUsed)
-    rows.push_back(
-        {item.get(), "mnuRecentlyUsed_Click", [this, index = item->index] { OpenRecentlyUsedFile(index); }, {}});
+    rows.push_back({item.get(),
+                    "mnuRecentlyUsed_Click",
+                    [this, index = item->index] { OpenRecentlyUsedFile(index); },
+                    {}});
   commands_.Bind(std::move(rows));
 
   chSampleGraph.RightClick = [this] {
@@ -125,8 +136,8 @@ void frmDataLogViewer::SetUpZoomMenus() {
   std::vector<std::string> amounts;
   for (int amount : kZoomAmounts) amounts.push_back(std::to_string(amount));
   cboZoomAmount.SetList(std::move(amounts));
-  for (auto* entries :
-       {&mnuViewZoomInAmount, &mnuRightClickZoomInAmount, &mnuViewZoomOutAmount, &mnuRightClickZoomOutAmount}) {
+  for (auto* entries : {&mnuViewZoomInAmount, &mnuRightClickZoomInAmount, &mnuViewZoomOutAmount,
+                        &mnuRightClickZoomOutAmount}) {
     const bool in = entries == &mnuViewZoomInAmount || entries == &mnuRightClickZoomInAmount;
     for (const auto& entry : *entries) {
       // A letter to press is one digit, and 20 begins as 2 does.

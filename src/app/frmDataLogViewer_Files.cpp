@@ -1,4 +1,5 @@
-// The main window's road of one file: choosing it, loading it, what a load clears and what it sets up.
+// The main window's road of one file: choosing it, loading it, what a load clears and what it sets
+// up.
 
 #include <algorithm>
 #include <new>
@@ -26,7 +27,9 @@ class StatusProgress : public LoadProgress {
     expected_ = expectedRows;
     status_.ShowProgressInStatusBar(expectedRows);
   }
-  void Line(long line) override { status_.Progress("Loading line " + std::to_string(line), std::min(line, expected_)); }
+  void Line(long line) override {
+    status_.Progress("Loading line " + std::to_string(line), std::min(line, expected_));
+  }
 
  private:
   StatusArea& status_;
@@ -41,10 +44,11 @@ void frmDataLogViewer::mnuFileOpen_Click() {
   Dialog dialog;
   dialog.title = "Open";
   dialog.filter = types.CommonDialogFilter();
-  dialog.filterIndex = types.SequenceFromID(log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
-                                                                         : globals_.settings.gintDefaultFileType);
-  dialog.initialPath =
-      log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory : log_.gstrCurrentFile;
+  dialog.filterIndex =
+      types.SequenceFromID(log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
+                                                        : globals_.settings.gintDefaultFileType);
+  dialog.initialPath = log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory
+                                                    : log_.gstrCurrentFile;
   dialog.path = log_.gstrCurrentFileTitle;
   if (!host.Choose(dialog)) return;
   host.DoEvents();
@@ -75,7 +79,8 @@ bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
   const AtWork work(*this, status_);
   HideForLoad();
   if (fileType == kUnknownFile)
-    fileType = globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType);
+    fileType =
+        globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType);
   log_.gstrCurrentFile = path;
   log_.gstrCurrentFileTitle = FileTitle(path);
   log_.gintCurrentFileType = fileType;
@@ -90,7 +95,8 @@ bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
   } else {
     services_.messages.ShowMessage(Message::TooFewRecords);
     status_.Say("Loading failed");
-    services_.errors.LogError(name, "LoadDataFile", RuntimeError(kLoadingFailed, "Loading failed: " + path), false);
+    services_.errors.LogError(name, "LoadDataFile",
+                              RuntimeError(kLoadingFailed, "Loading failed: " + path), false);
   }
   return loaded;
 }
@@ -133,7 +139,9 @@ void frmDataLogViewer::TellMessages(const LoadOutcome& outcome) {
     else
       services_.messages.ShowMessageWithOffer(
           message.id, message.extra, "&Open Report",
-          [&programs = services_.programs, report = message.report] { programs.ShellOpen(report); });
+          [&programs = services_.programs, report = message.report] {
+            programs.ShellOpen(report);
+          });
   }
 }
 
@@ -221,16 +229,19 @@ void frmDataLogViewer::SetFirstRange() {
   else
     range_.SetTo(log_.Sample(static_cast<std::int32_t>(end)));
   // One sample tighter than the check on Draw, and silent: kept on purpose.
-  if (!chkQuickGraph.Value && range_.Span() > kWidestFullRange) range_.SetTo(range_.From() + kWidestFullRange - 1);
+  if (!chkQuickGraph.Value && range_.Span() > kWidestFullRange)
+    range_.SetTo(range_.From() + kWidestFullRange - 1);
 }
 
 void frmDataLogViewer::SetDataLogViewerCaption() {
   const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-  const std::string kind = globals_.takenAs.empty() ? type.GetSingularDescription() : globals_.takenAs;
+  const std::string kind =
+      globals_.takenAs.empty() ? type.GetSingularDescription() : globals_.takenAs;
   Caption = "Tarnview - " + log_.gstrCurrentFileTitle + " (" + kind + ")";
-  status_.SayLoaded(log_.glngLastSampleTime >= 1 ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) +
-                                                       " - " + std::to_string(log_.glngLastSampleTime)
-                                                 : "");
+  status_.SayLoaded(log_.glngLastSampleTime >= 1
+                        ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) + " - " +
+                              std::to_string(log_.glngLastSampleTime)
+                        : "");
 }
 
 bool frmDataLogViewer::CanShowDataTags() const {

@@ -1,4 +1,5 @@
-// What the main window offers around the graph: a sample to go to, presets and their list, the export, zone influence.
+// What the main window offers around the graph: a sample to go to, presets and their list, the
+// export, zone influence.
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
@@ -41,11 +42,13 @@ void frmDataLogViewer::ShowPoint(std::int32_t sample) {
 }
 
 void frmDataLogViewer::mnuFileExport_Click() {
-  if (export_.gstrExportPathFile.empty()) export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
+  if (export_.gstrExportPathFile.empty())
+    export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);
   const ExportRun run{*this, status_, services_.messages, services_.errors, "ExportDataLog"};
   exported_ = run.Run(export_.gstrExportPathFile, [this](const std::string& strFile) {
     const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-    export_.ExportDataLog(strFile, globals_.takenAs.empty() ? type.strDescription : globals_.takenAs);
+    export_.ExportDataLog(strFile,
+                          globals_.takenAs.empty() ? type.strDescription : globals_.takenAs);
   });
 }
 
@@ -61,7 +64,8 @@ void frmDataLogViewer::mnuEditNewPreset_Click() {
 
 /// Before a first log, presets are those of the file type that the user opens most.
 int frmDataLogViewer::PresetFileType() const {
-  return log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType : globals_.settings.gintDefaultFileType;
+  return log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
+                                      : globals_.settings.gintDefaultFileType;
 }
 
 void frmDataLogViewer::mnuViewZoneInfl_Click() {
@@ -73,7 +77,8 @@ bool frmDataLogViewer::IsLinkLog() const {
   return log_.gintCurrentFileType == kFMLinkLog || log_.gintCurrentFileType == kMAPFile;
 }
 
-/// The fuel map is that of the Link ECU: for other logs there is nothing to show, whatever the setting says.
+/// The fuel map is that of the Link ECU: for other logs there is nothing to show, whatever the
+/// setting says.
 void frmDataLogViewer::DisplayZoneInfluence() {
   const bool link = IsLinkLog();
   fraZoneInfl.Enabled = link;

@@ -22,12 +22,16 @@ std::vector<Command> frmDataLogViewer::OutputCommands() {
 }
 
 PrintDetails frmDataLogViewer::DetailsToPrint() const {
-  const auto text = [this](int item, std::int32_t index) { return log_.FormatDataItem(item, index); };
+  const auto text = [this](int item, std::int32_t index) {
+    return log_.FormatDataItem(item, index);
+  };
   const std::int32_t first = drawn_.lngPlotFirstIndex, last = drawn_.lngPlotLastIndex;
-  return {" Sample Graph",
-          {{"File", log_.gstrCurrentFile},
-           {"Sample Range From", text(ItemOf(kSample), first) + " to " + text(ItemOf(kSample), last)},
-           {"Time Range From", text(ItemOf(kSecs), first) + " secs to " + text(ItemOf(kSecs), last) + " secs"}}};
+  return {
+      " Sample Graph",
+      {{"File", log_.gstrCurrentFile},
+       {"Sample Range From", text(ItemOf(kSample), first) + " to " + text(ItemOf(kSample), last)},
+       {"Time Range From",
+        text(ItemOf(kSecs), first) + " secs to " + text(ItemOf(kSecs), last) + " secs"}}};
 }
 
 }  // namespace tarnview

@@ -1,5 +1,5 @@
-// The main window's road of a file whose kind is not sure: what it looks like, one question, and the definition that it
-// brings along.
+// The main window's road of a file whose kind is not sure: what it looks like, one question, and
+// the definition that it brings along.
 
 #include "app/frmDataLogViewer.h"
 #include "base/Paths.h"
@@ -29,14 +29,16 @@ bool frmDataLogViewer::OpenFile(const std::string& path, int fileType) {
   const auto bytes = services_.files.Read(path);
   if (!bytes) return LoadDataFile(path, fileType);  // which says why
   const bool guessed = fileType == kUnknownFile;
-  const int wanted =
-      guessed ? globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType) : fileType;
+  const int wanted = guessed ? globals_.kinds.gcolFileTypes.GuessFileType(
+                                   path, globals_.settings.gintDefaultFileType)
+                             : fileType;
   LogRoad asWanted;
   const LoadOutcome trial = roads_.TryAs(*bytes, wanted, SettingsDefinition(), asWanted);
   if (trial.loaded && (!guessed || asWanted.KnowsHalf())) return LoadDataFile(path, wanted);
   const auto road = roads_.ByContent(*bytes, path);
   const bool better = road && (!trial.loaded || road->known > asWanted.known);
-  const Agreed agreed = better ? AgreesTo(*road, path, guessed ? kUnknownFile : wanted) : Agreed::No;
+  const Agreed agreed =
+      better ? AgreesTo(*road, path, guessed ? kUnknownFile : wanted) : Agreed::No;
   if (agreed == Agreed::Yes) return LoadAs(path, *road);
   if (agreed == Agreed::Otherwise) return DescribeLog(path);
   if (!guessed || trial.loaded) return LoadDataFile(path, wanted);
@@ -57,11 +59,13 @@ bool frmDataLogViewer::LoadAs(const std::string& path, LogRoad road) {
     UseDefinitionOfSettings();
   globals_.takenAs = road.takenAs;
   if (!LoadNow(path, road.fileType)) return false;
-  status_.Say("Loading complete: " + road.takenAs + (road.notes.empty() ? "" : ". Time: " + road.notes));
+  status_.Say("Loading complete: " + road.takenAs +
+              (road.notes.empty() ? "" : ". Time: " + road.notes));
   return true;
 }
 
-frmDataLogViewer::Agreed frmDataLogViewer::AgreesTo(const LogRoad& road, const std::string& path, int chosenType) {
+frmDataLogViewer::Agreed frmDataLogViewer::AgreesTo(const LogRoad& road, const std::string& path,
+                                                    int chosenType) {
   std::string text;
   if (chosenType != kUnknownFile) {
     const clsFileType& type = globals_.kinds.gcolFileTypes.Item(chosenType);
@@ -69,7 +73,9 @@ frmDataLogViewer::Agreed frmDataLogViewer::AgreesTo(const LogRoad& road, const s
   }
   text += "This looks like a log of " + NameOf(road) + ColumnsOf(road) + ". Open it so?";
   bool describe = false;
-  const Box box{0, text, kBoxYesNo | kBoxQuestion, kApplicationTitle, "&Describe...", [&describe] { describe = true; }};
+  const Box box{0, text, kBoxYesNo | kBoxQuestion, kApplicationTitle, "&Describe...", [&describe] {
+                  describe = true;
+                }};
   const bool yes = host.Ask(box) == Reply::Yes;
   if (describe) return Agreed::Otherwise;
   return yes ? Agreed::Yes : Agreed::No;
@@ -80,8 +86,8 @@ void frmDataLogViewer::mnuFileNewLogDescription_Click() {
   Dialog dialog;
   dialog.title = "Open";
   dialog.filter = "All Files (*.*)|*.*";
-  dialog.initialPath =
-      log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory : log_.gstrCurrentFile;
+  dialog.initialPath = log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory
+                                                    : log_.gstrCurrentFile;
   dialog.path = log_.gstrCurrentFileTitle;
   if (host.Choose(dialog)) DescribeLog(dialog.path);
 }
@@ -93,14 +99,17 @@ bool frmDataLogViewer::DescribeLog(const std::string& path) {
     services_.messages.ShowMessage(Message::FileNotLoaded);
     return false;
   }
-  frmLogDescription window(host, std::move(*bytes), path, roads_.Titles(), globals_.catalogue.gcolFixedDataItems);
+  frmLogDescription window(host, std::move(*bytes), path, roads_.Titles(),
+                           globals_.catalogue.gcolFixedDataItems);
   window.ShowModal();
   if (!window.Accepted()) return false;
   clsDataLog definition = window.Definition();
   if (!globals_.gstrProgramFolder.empty()) {
-    const std::string folder = AddBackslash(globals_.gstrProgramFolder + "Universal Data Log Formats");
+    const std::string folder =
+        AddBackslash(globals_.gstrProgramFolder + "Universal Data Log Formats");
     services_.files.MakeFolder(folder);
-    if (!services_.files.Write(folder + FileTitle(definition.strName) + ".txt", DefinitionFileText(definition)))
+    if (!services_.files.Write(folder + FileTitle(definition.strName) + ".txt",
+                               DefinitionFileText(definition)))
       services_.messages.ShowMessage(Message::SettingsNotWritten);
   }
   const std::string name = "Universal: " + definition.strName;
@@ -122,7 +131,8 @@ bool frmDataLogViewer::TellNothingLoads(const std::string& path, const LoadOutco
 }
 
 const clsDataLog& frmDataLogViewer::SettingsDefinition() const {
-  return globals_.definitionOfSettings ? globals_.definitionOfSettings->definition : globals_.gclsDataLogDefinition;
+  return globals_.definitionOfSettings ? globals_.definitionOfSettings->definition
+                                       : globals_.gclsDataLogDefinition;
 }
 
 /// How items are drawn stays the user's own.

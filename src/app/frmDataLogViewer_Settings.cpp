@@ -1,4 +1,5 @@
-// The main window's side of the settings: what it takes from them, and what it gives back when it closes.
+// The main window's side of the settings: what it takes from them, and what it gives back when it
+// closes.
 
 #include <algorithm>
 
@@ -23,11 +24,13 @@ void frmDataLogViewer::TakeSettings() {
   fraPicture.BackgroundPicture = services_.files.IsFile(picture) ? picture : std::string();
   for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
     const auto [fileType, path] = RecentFiles::ParseTag(*entry);
-    const int known =
-        fileType == 0 ? globals_.kinds.gcolFileTypes.GuessFileType(path, settings.gintDefaultFileType) : fileType;
+    const int known = fileType == 0 ? globals_.kinds.gcolFileTypes.GuessFileType(
+                                          path, settings.gintDefaultFileType)
+                                    : fileType;
     recent_.AddRecentlyUsedFile(path, known);
   }
-  details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType, ItemsOf(settings.gintDefaultFileType));
+  details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType,
+                                          ItemsOf(settings.gintDefaultFileType));
   details_.SetCheckedItems(settings.gcolCheckedDataItems);
   chkShowCheckedOnly.Value = settings.gblnShowCheckedOnly;
 }
@@ -57,7 +60,8 @@ void frmDataLogViewer::GatherSettings() {
 bool frmDataLogViewer::WriteINIFile() {
   if (globals_.gstrINIFileToWrite.empty()) return true;
   GatherSettings();
-  return settingsFile_.WriteINIFile(globals_.gstrINIFileToWrite, [this](const char* text) { status_.Say(text); });
+  return settingsFile_.WriteINIFile(globals_.gstrINIFileToWrite,
+                                    [this](const char* text) { status_.Say(text); });
 }
 
 void frmDataLogViewer::ListsChanged() {
@@ -66,7 +70,8 @@ void frmDataLogViewer::ListsChanged() {
   commands_.Update();
 }
 
-/// The graph, the list and every scatter window are shown anew, as the settings and the data items now say.
+/// The graph, the list and every scatter window are shown anew, as the settings and the data items
+/// now say.
 void frmDataLogViewer::OptionsChanged() {
   const Settings& settings = globals_.settings;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;

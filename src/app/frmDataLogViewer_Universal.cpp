@@ -16,20 +16,24 @@ void frmDataLogViewer::LoadDataLogDefinitionLocal(bool addPresets) {
   definition = files.LoadDataLogDefinitionWrapper(globals_.settings.gstrGenericDefinitionFile);
   globals_.catalogue.gcolUniversalDataItems = GenerateLogDataItemsGeneric(definition, catalogue);
   SetGenericDataLogDescriptions(globals_.kinds, definition);
-  if (addPresets) AddDefinitionPresets(definition, globals_.gcolSampleGraphPresets, globals_.gcolScatterGraphPresets);
+  if (addPresets)
+    AddDefinitionPresets(definition, globals_.gcolSampleGraphPresets,
+                         globals_.gcolScatterGraphPresets);
 }
 
 const clsLogDataItems& frmDataLogViewer::ItemsOf(int fileType) const {
-  return fileType == kUniversalLog ? globals_.catalogue.gcolUniversalDataItems : globals_.catalogue.gcolFixedDataItems;
+  return fileType == kUniversalLog ? globals_.catalogue.gcolUniversalDataItems
+                                   : globals_.catalogue.gcolFixedDataItems;
 }
 
-/// Writes the report of unknown columns, which the message about a log with no known one offers to open, and logs the
-/// faults.
+/// Writes the report of unknown columns, which the message about a log with no known one offers to
+/// open, and logs the faults.
 void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome& outcome) {
   std::string report;
   if (!outcome.unknownColumns.empty() && !globals_.gstrProgramFolder.empty())
-    report = WriteUnknownUniversalColumns(services_.files, services_.clock.Now(), globals_.gstrProgramFolder,
-                                          globals_.settings.gstrGenericDefinitionFile, path, outcome.unknownColumns);
+    report = WriteUnknownUniversalColumns(
+        services_.files, services_.clock.Now(), globals_.gstrProgramFolder,
+        globals_.settings.gstrGenericDefinitionFile, path, outcome.unknownColumns);
   if (outcome.loaded) return;
   for (LoadMessage& message : outcome.messages) {
     services_.errors.LogError("modUniversal", "LoadGenericDataLog",

@@ -11,8 +11,8 @@ constexpr const char* kOther = "<Other>";
 }  // namespace
 
 frmFindINIFile::frmFindINIFile(Host& itsHost, const clsFileTypes& types,
-                               const std::vector<DefinitionChoice>& definitions, DefinitionFiles& files,
-                               Messages& messages)
+                               const std::vector<DefinitionChoice>& definitions,
+                               DefinitionFiles& files, Messages& messages)
     : Form(itsHost, "frmFindINIFile", "Tarnview"), files_(files), messages_(messages) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
@@ -25,10 +25,12 @@ frmFindINIFile::frmFindINIFile(Host& itsHost, const clsFileTypes& types,
   FillList(types, definitions);
 }
 
-void frmFindINIFile::FillList(const clsFileTypes& types, const std::vector<DefinitionChoice>& definitions) {
+void frmFindINIFile::FillList(const clsFileTypes& types,
+                              const std::vector<DefinitionChoice>& definitions) {
   std::vector<std::vector<std::string>> table;  // text, file type, definition
   for (int id = 1; id <= types.Count(); ++id)
-    if (id != kUniversalLog) table.push_back({types.Item(id).strDescription, std::to_string(id), ""});
+    if (id != kUniversalLog)
+      table.push_back({types.Item(id).strDescription, std::to_string(id), ""});
   const std::string universal = std::to_string(kUniversalLog);
   for (const DefinitionChoice& choice : definitions)
     table.push_back({choice.strName + " Data Logs", universal, choice.path});
@@ -43,7 +45,9 @@ void frmFindINIFile::FillList(const clsFileTypes& types, const std::vector<Defin
   lstFileType.ListIndex = 0;
 }
 
-bool frmFindINIFile::OtherIsChosen() const { return lstFileType.ListIndex() + 1 == static_cast<int>(rows_.size()); }
+bool frmFindINIFile::OtherIsChosen() const {
+  return lstFileType.ListIndex() + 1 == static_cast<int>(rows_.size());
+}
 
 void frmFindINIFile::lstFileType_Click() {
   const bool other = OtherIsChosen();

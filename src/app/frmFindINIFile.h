@@ -18,8 +18,9 @@ namespace tarnview {
 class frmFindINIFile : public Form {
  public:
   /// `definitions` are those that lie beside the program.
-  frmFindINIFile(Host& itsHost, const clsFileTypes& types, const std::vector<DefinitionChoice>& definitions,
-                 DefinitionFiles& files, Messages& messages);
+  frmFindINIFile(Host& itsHost, const clsFileTypes& types,
+                 const std::vector<DefinitionChoice>& definitions, DefinitionFiles& files,
+                 Messages& messages);
 
   Label lblTitle{*this, "lblTitle", "Which kind of data &log do you use?"};
   ListBox lstFileType{*this, "lstFileType"};

@@ -9,12 +9,13 @@
 
 namespace tarnview {
 
-/// An ordered collection whose items may bear a key ("k12"). Positions count from 1. It owns its items, which keep
-/// their address until they are removed.
+/// An ordered collection whose items may bear a key ("k12"). Positions count from 1. It owns its
+/// items, which keep their address until they are removed.
 template <class T>
 class Collection {
  public:
-  /// An empty key adds the item without one. An item of the same key stays beside it; the first is found.
+  /// An empty key adds the item without one. An item of the same key stays beside it; the first is
+  /// found.
   T& Add(T item, std::string key = "") {
     entries_.push_back({std::move(key), std::make_unique<T>(std::move(item))});
     return *entries_.back().item;
@@ -23,11 +24,14 @@ class Collection {
   int Count() const { return static_cast<int>(entries_.size()); }
   /// By position, 1 to Count.
   T& Item(int position) { return *entries_[static_cast<std::size_t>(position - 1)].item; }
-  const T& Item(int position) const { return *entries_[static_cast<std::size_t>(position - 1)].item; }
+  const T& Item(int position) const {
+    return *entries_[static_cast<std::size_t>(position - 1)].item;
+  }
   /// By key; nullptr if there is none.
   T* Item(std::string_view key) { return const_cast<T*>(std::as_const(*this).Item(key)); }
   const T* Item(std::string_view key) const {
-    const auto found = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& e) { return e.key == key; });
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& e) { return e.key == key; });
     return found == entries_.end() ? nullptr : found->item.get();
   }
 

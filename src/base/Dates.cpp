@@ -30,7 +30,8 @@ constexpr std::array<Order, 4> kOrders{{{0, 1, 2}, {1, 0, 2}, {2, 1, 0}, {1, 2, 
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Runs of digits and of letters; nothing if the text has other things than dates have, or not three runs.
+/// Runs of digits and of letters; nothing if the text has other things than dates have, or not
+/// three runs.
 std::optional<std::array<std::string_view, 3>> ThreeParts(std::string_view text) {
   std::array<std::string_view, 3> parts;
   std::size_t count = 0;
@@ -96,7 +97,8 @@ Date MakeDate(int year, int month, int day) {
 std::string DateText(Date date) {
   if (date == kNoDate) return "";
   const chr::year_month_day it{chr::sys_days{chr::days{date - kDayOfEpoch}}};
-  return PaddedText(static_cast<int>(it.year()), 4) + "-" + PaddedText(static_cast<unsigned>(it.month()), 2) + "-" +
+  return PaddedText(static_cast<int>(it.year()), 4) + "-" +
+         PaddedText(static_cast<unsigned>(it.month()), 2) + "-" +
          PaddedText(static_cast<unsigned>(it.day()), 2);
 }
 
@@ -105,7 +107,8 @@ std::string DayText(Date date) {
   constexpr std::string_view kShortMonths = "JanFebMarAprMayJunJulAugSepOctNovDec";
   const chr::year_month_day it{chr::sys_days{chr::days{date - kDayOfEpoch}}};
   const std::size_t month = static_cast<unsigned>(it.month()) - 1;
-  return PaddedText(static_cast<unsigned>(it.day()), 2) + "-" + std::string(kShortMonths.substr(3 * month, 3)) + "-" +
+  return PaddedText(static_cast<unsigned>(it.day()), 2) + "-" +
+         std::string(kShortMonths.substr(3 * month, 3)) + "-" +
          PaddedText(static_cast<int>(it.year()), 4);
 }
 
@@ -117,6 +120,8 @@ std::optional<Date> ParseDate(std::string_view text) {
   return std::nullopt;
 }
 
-Date StringToDate(std::string_view text, Date fallback) { return ParseDate(text).value_or(fallback); }
+Date StringToDate(std::string_view text, Date fallback) {
+  return ParseDate(text).value_or(fallback);
+}
 
 }  // namespace tarnview

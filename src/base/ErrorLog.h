@@ -10,8 +10,8 @@
 
 namespace tarnview {
 
-/// "error.log" in the program's folder, started anew at each start. A log that cannot be written is given up in
-/// silence: it must never stand in the way of the program.
+/// "error.log" in the program's folder, started anew at each start. A log that cannot be written is
+/// given up in silence: it must never stand in the way of the program.
 class ErrorLog {
  public:
   /// An empty path writes nothing.
@@ -20,9 +20,10 @@ class ErrorLog {
   /// Not while another running program has it: both then write into one.
   void ResetErrorLog();
 
-  /// Appends an entry. With `reraise` the error goes on to the caller's handler, which logs its own entry; the
-  /// outermost handler, without it, ends the entries of one failure with a rule.
-  void LogError(const std::string& module, const std::string& procedure, const RuntimeError& error, bool reraise);
+  /// Appends an entry. With `reraise` the error goes on to the caller's handler, which logs its own
+  /// entry; the outermost handler, without it, ends the entries of one failure with a rule.
+  void LogError(const std::string& module, const std::string& procedure, const RuntimeError& error,
+                bool reraise);
 
  private:
   FileSystem& files_;
@@ -42,8 +43,8 @@ auto Trap(ErrorLog& log, const char* module, const char* procedure, Body&& body)
   }
 }
 
-/// Runs a user's action: a failure is logged and ends here. True if there was none. Want of memory goes on to where
-/// events end, where the user is told.
+/// Runs a user's action: a failure is logged and ends here. True if there was none. Want of memory
+/// goes on to where events end, where the user is told.
 template <class Body>
 bool TrapEvent(ErrorLog& log, const char* module, const char* procedure, Body&& body) {
   try {

@@ -6,7 +6,8 @@
 
 namespace tarnview {
 
-/// The bytes of a file. Memory for a log of many megabytes comes from the system untouched, and is filled but once.
+/// The bytes of a file. Memory for a log of many megabytes comes from the system untouched, and is
+/// filled but once.
 class FileBytes {
  public:
   FileBytes() = default;
@@ -14,7 +15,9 @@ class FileBytes {
   FileBytes(const char* text) : FileBytes(std::string_view(text)) {}
 
   operator std::string_view() const { return {bytes_.get() + front_, size_ - front_}; }
-  friend bool operator==(const FileBytes& bytes, std::string_view text) { return std::string_view(bytes) == text; }
+  friend bool operator==(const FileBytes& bytes, std::string_view text) {
+    return std::string_view(bytes) == text;
+  }
 
   /// Room for more bytes behind those that are there, whatever stands in it; raises std::bad_alloc.
   void Reserve(std::size_t capacity);

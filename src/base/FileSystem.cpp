@@ -11,16 +11,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsWildcard(std::string_view name) { return name.find_first_of("*?") != std::string_view::npos; }
+bool IsWildcard(std::string_view name) {
+  return name.find_first_of("*?") != std::string_view::npos;
+}
 
-std::vector<std::string> NamesIn(const std::string& folder, const std::string& pattern, bool foldersToo) {
+std::vector<std::string> NamesIn(const std::string& folder, const std::string& pattern,
+                                 bool foldersToo) {
   std::vector<std::string> names;
   std::error_code failed;
   for (fs::directory_iterator at(folder.empty() ? "." : folder, failed), end; !failed && at != end;
        at.increment(failed)) {
     std::error_code unknown;
     const std::string name = at->path().filename().string();
-    if ((foldersToo || !at->is_directory(unknown)) && MatchesPattern(name, pattern)) names.push_back(name);
+    if ((foldersToo || !at->is_directory(unknown)) && MatchesPattern(name, pattern))
+      names.push_back(name);
   }
   std::sort(names.begin(), names.end());
   return names;
@@ -35,7 +39,8 @@ bool RealFileSystem::FileExists(const std::string& path) {
   std::error_code failed;
   if (fs::exists(path, failed)) return true;
   const std::string title = FileTitle(path);
-  return IsWildcard(title) && !NamesIn(path.substr(0, path.size() - title.size()), title, true).empty();
+  return IsWildcard(title) &&
+         !NamesIn(path.substr(0, path.size() - title.size()), title, true).empty();
 }
 
 bool RealFileSystem::FolderExists(const std::string& path) {
@@ -71,18 +76,21 @@ bool RealFileSystem::MakeFolder(const std::string& path) {
   return FolderExists(path);
 }
 
-std::vector<std::string> RealFileSystem::List(const std::string& folder, const std::string& pattern) {
+std::vector<std::string> RealFileSystem::List(const std::string& folder,
+                                              const std::string& pattern) {
   return NamesIn(folder, pattern, false);
 }
 
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
-  // On a mismatch the last "*" takes one character more, so that no pattern costs more than both lengths multiplied.
+  // On a mismatch the last "*" takes one character more, so that no pattern costs more than both
+  // lengths multiplied.
   std::size_t n = 0, p = 0, star = std::string_view::npos, resume = 0;
   while (n < name.size()) {
     if (p < pattern.size() && pattern[p] == '*') {
       star = p++;
       resume = n;
-    } else if (p < pattern.size() && (pattern[p] == '?' || SameIgnoringCase(name.substr(n, 1), pattern.substr(p, 1)))) {
+    } else if (p < pattern.size() &&
+               (pattern[p] == '?' || SameIgnoringCase(name.substr(n, 1), pattern.substr(p, 1)))) {
       ++n;
       ++p;
     } else if (star != std::string_view::npos) {

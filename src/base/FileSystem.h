@@ -20,8 +20,8 @@ class FileSystem {
   /// A file or folder of that name, or one that the wildcards "*" and "?" of its last part match.
   virtual bool FileExists(const std::string& path) = 0;
   virtual bool FolderExists(const std::string& path) = 0;
-  /// A file that can be run: by its name ("EXE" at its end, in any case), and where files carry a permission for that,
-  /// by that as well, so that a wrapper or an emulator serves.
+  /// A file that can be run: by its name ("EXE" at its end, in any case), and where files carry a
+  /// permission for that, by that as well, so that a wrapper or an emulator serves.
   virtual bool IsProgram(const std::string& path) = 0;
   /// A file whose bytes can be asked for: no folder, pipe or device, which might never end.
   virtual bool IsFile(const std::string& path) = 0;
@@ -31,15 +31,17 @@ class FileSystem {
   virtual std::optional<FileBytes> Read(const std::string& path) = 0;
   /// In words, why Read gives nothing for a path: "It is larger than 1 GiB."
   virtual std::string WhyNotRead(const std::string& path) = 0;
-  /// Writes a new file beside the old one and renames it, so that at every moment the old or the new one is whole.
-  /// Clears what saves that were killed have left in the folder.
+  /// Writes a new file beside the old one and renames it, so that at every moment the old or the
+  /// new one is whole. Clears what saves that were killed have left in the folder.
   virtual bool Write(const std::string& path, std::string_view bytes) = 0;
   virtual bool Append(const std::string& path, std::string_view bytes) = 0;
-  /// False for a file that its owner protects: a Write would replace it all the same. True where there is none.
+  /// False for a file that its owner protects: a Write would replace it all the same. True where
+  /// there is none.
   virtual bool MayReplace(const std::string& path) = 0;
   /// Deletes the unfinished new files in a folder whose writers are gone.
   virtual void ClearLeftovers(const std::string& folder) = 0;
-  /// Marks a file as this program's own until it lets go or ends; false while another running program has it.
+  /// Marks a file as this program's own until it lets go or ends; false while another running
+  /// program has it.
   virtual bool Hold(const std::string& path) = 0;
   virtual void LetGo(const std::string& path) = 0;
   /// Also a read-only or hidden one.

@@ -39,7 +39,8 @@ bool IsRegular(const std::string& path) {
   return ::stat(path.c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
-/// Opens a file that is one by its name and still is one once open: never a pipe to wait for, nor a device. -1 if not.
+/// Opens a file that is one by its name and still is one once open: never a pipe to wait for, nor a
+/// device. -1 if not.
 int OpenRegular(const std::string& path, int flags) {
   const int file = ::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
   struct stat facts;
@@ -74,21 +75,25 @@ bool ReadAll(int file, FileBytes& bytes, std::size_t expected) {
   }
 }
 
-/// Where a path leads, links followed, so that a new file takes the place of the old one and not of a link to it.
+/// Where a path leads, links followed, so that a new file takes the place of the old one and not of
+/// a link to it.
 std::string Resolved(const std::string& path) {
-  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
+                                                         &std::free);
   return real ? real.get() : path;
 }
 
-std::string FolderOf(const std::string& path) { return path.substr(0, path.size() - FileTitle(path).size()); }
+std::string FolderOf(const std::string& path) {
+  return path.substr(0, path.size() - FileTitle(path).size());
+}
 
 /// The name bears the process's number: two programs that save at once do not meet.
 std::string NameBeside(const std::string& path) {
   return FolderOf(path) + ".tarnview-" + std::to_string(::getpid()) + ".tmp";
 }
 
-/// Fills the new file, which stays locked as long as `file` is open: it is no leftover. (A disk without locks never
-/// has its leftovers cleared.)
+/// Fills the new file, which stays locked as long as `file` is open: it is no leftover. (A disk
+/// without locks never has its leftovers cleared.)
 bool FillNewFile(const Descriptor& file, std::string_view bytes, const struct stat* old) {
   if (!file) return false;
   ::flock(file(), LOCK_EX | LOCK_NB);
@@ -102,10 +107,12 @@ void ClearLeftover(const std::string& path) {
   if (file && ::flock(file(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
 }
 
-/// Brings a folder's new entry to the disk, so that it outlives a power cut; a disk that cannot do it is no failure.
+/// Brings a folder's new entry to the disk, so that it outlives a power cut; a disk that cannot do
+/// it is no failure.
 void FlushFolderOf(const std::string& path) {
   const std::string folder = FolderOf(path);
-  const Descriptor opened(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor opened(
+      ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (opened) ::fsync(opened());
 }
 
@@ -142,7 +149,8 @@ bool RealFileSystem::Write(const std::string& path, std::string_view bytes) {
   ClearLeftovers(FolderOf(target));
   const std::string fresh = NameBeside(target);
   const Descriptor file(::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-  if (FillNewFile(file, bytes, isThere ? &facts : nullptr) && ::rename(fresh.c_str(), target.c_str()) == 0) {
+  if (FillNewFile(file, bytes, isThere ? &facts : nullptr) &&
+      ::rename(fresh.c_str(), target.c_str()) == 0) {
     FlushFolderOf(target);
     return true;
   }

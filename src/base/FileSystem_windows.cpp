@@ -23,7 +23,8 @@ class Handle {
   explicit operator bool() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE operator()() const { return handle_; }
   bool Close() {
-    return handle_ == INVALID_HANDLE_VALUE || CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
+    return handle_ == INVALID_HANDLE_VALUE ||
+           CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
   }
 
  private:
@@ -61,7 +62,8 @@ bool ReadAll(HANDLE file, FileBytes& bytes, std::size_t size) {
   while (bytes.Room() > 0) {
     DWORD got = 0;
     const std::size_t left = bytes.Room();
-    if (!ReadFile(file, bytes.End(), static_cast<DWORD>(left < kMostAtOnce ? left : kMostAtOnce), &got, nullptr))
+    if (!ReadFile(file, bytes.End(), static_cast<DWORD>(left < kMostAtOnce ? left : kMostAtOnce),
+                  &got, nullptr))
       return false;
     if (got == 0) break;
     bytes.Add(got);
@@ -70,17 +72,19 @@ bool ReadAll(HANDLE file, FileBytes& bytes, std::size_t size) {
 }
 
 bool FillNewFile(const std::string& path, std::string_view bytes) {
-  Handle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  Handle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                          FILE_ATTRIBUTE_NORMAL, nullptr));
   return file && WriteAll(file(), bytes) && FlushFileBuffers(file()) && file.Close();
 }
 
 }  // namespace
 
 std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
-  const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   LARGE_INTEGER size;
-  if (!file || GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size) || size.QuadPart > kMostFileBytes)
+  if (!file || GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size) ||
+      size.QuadPart > kMostFileBytes)
     return std::nullopt;
   try {
     FileBytes bytes;
@@ -92,11 +96,12 @@ std::optional<FileBytes> RealFileSystem::Read(const std::string& path) {
 }
 
 std::string RealFileSystem::WhyNotRead(const std::string& path) {
-  const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  const Handle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return std::system_category().message(static_cast<int>(GetLastError()));
   LARGE_INTEGER size;
-  if (GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size)) return "It is not a file.";
+  if (GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size))
+    return "It is not a file.";
   return size.QuadPart > kMostFileBytes ? kTooLargeToRead : kNoMemoryToRead;
 }
 
@@ -108,7 +113,9 @@ bool RealFileSystem::Write(const std::string& path, std::string_view bytes) {
   const std::string fresh = folder + "tarnview-" + std::to_string(GetCurrentProcessId()) + ".tmp";
   if (FillNewFile(fresh, bytes)) {
     ClearAttributes(path);
-    if (MoveFileExA(fresh.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
+    if (MoveFileExA(fresh.c_str(), path.c_str(),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+      return true;
   }
   DeleteFileA(fresh.c_str());
   return false;
@@ -121,14 +128,15 @@ bool RealFileSystem::MayReplace(const std::string& path) {
 
 void RealFileSystem::ClearLeftovers(const std::string& folder) {
   // What is still being written is open to its writer alone, and cannot be deleted.
-  for (const std::string& name : List(folder, "tarnview-*.tmp")) DeleteFileA((folder + name).c_str());
+  for (const std::string& name : List(folder, "tarnview-*.tmp"))
+    DeleteFileA((folder + name).c_str());
 }
 
 bool RealFileSystem::Hold(const std::string& path) {
   LetGo(path);
-  const auto file = std::make_shared<Handle>(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE,
-                                                         FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
-                                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+  const auto file = std::make_shared<Handle>(
+      CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                  nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   // One byte far behind any file's end, so that the lock is in no write's way.
   constexpr DWORD kFar = 0x7FFFFFFF;
   if (*file && !LockFile((*file)(), 0, kFar, 1, 0)) return GetLastError() != ERROR_LOCK_VIOLATION;
@@ -137,8 +145,8 @@ bool RealFileSystem::Hold(const std::string& path) {
 }
 
 bool RealFileSystem::Append(const std::string& path, std::string_view bytes) {
-  Handle file(CreateFileA(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                          nullptr));
+  Handle file(CreateFileA(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                          FILE_ATTRIBUTE_NORMAL, nullptr));
   return file && GetFileType(file()) == FILE_TYPE_DISK && WriteAll(file(), bytes) && file.Close();
 }
 
@@ -147,6 +155,8 @@ bool RealFileSystem::DeleteFile(const std::string& path) {
   return DeleteFileA(path.c_str()) != 0;
 }
 
-bool RealFileSystem::IsProgram(const std::string& path) { return HasProgramName(path) && FileExists(path); }
+bool RealFileSystem::IsProgram(const std::string& path) {
+  return HasProgramName(path) && FileExists(path);
+}
 
 }  // namespace tarnview

@@ -20,8 +20,8 @@ class LargeMemory {
   std::size_t bytes_ = 0;
 };
 
-/// Asks the system for its large pages (2 MB), which come in a fraction of the time that as many small ones take, where
-/// they lie wholly in the stretch. A system without them lets it be.
+/// Asks the system for its large pages (2 MB), which come in a fraction of the time that as many
+/// small ones take, where they lie wholly in the stretch. A system without them lets it be.
 void PreferLargePages(void* start, std::size_t bytes);
 
 }  // namespace tarnview

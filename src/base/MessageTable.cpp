@@ -12,6 +12,7 @@ struct QuestionRow {
 };
 
 constexpr MessageRow kMessages[] = {
+    // clang-format off
     {Message::RangeShortened, MessageIcon::Information,
      "If you want to display a range of samples greater than 1000, ensure that Quick Graph is checked.\r"
      "The plot range has been shortened."},
@@ -173,6 +174,7 @@ constexpr MessageRow kMessages[] = {
     {Message::SampleItemNotInDefinition, MessageIcon::Exclamation,
      "Error loading data log definition - preset sample graph data item not in data log definition:"},
     {Message::UnknownDefinitionError, MessageIcon::Exclamation, "Unknown error loading data log definition"},
+    // clang-format on
 };
 
 constexpr QuestionRow kQuestions[] = {
@@ -181,10 +183,12 @@ constexpr QuestionRow kQuestions[] = {
     {Question::KeepCarChanges, "Do you want to keep Car Definition changes?"},
     {Question::ThrowChangesAway, "Are you sure you want to throw away those changes?"},
     {Question::OverwriteChip,
-     "Are you sure you want to overwrite your current chip type and date with those from the data log?"},
+     "Are you sure you want to overwrite your current chip type and date with those from the data "
+     "log?"},
     {Question::LoadDefinition, "Confirming loading of new Universal Data Log definition file?"},
     {Question::LoadDefinitionAndCloseLog,
-     "Loading the new Universal Data Log definition file will close the currently loaded datalog.\r\n"
+     "Loading the new Universal Data Log definition file will close the currently loaded "
+     "datalog.\r\n"
      "\r\n"
      "Are you sure you want to continue?"},
     {Question::PresetOfOtherFamily,
@@ -194,7 +198,8 @@ constexpr QuestionRow kQuestions[] = {
      "Are you sure you want to continue?"},
     {Question::IncludeLogFamily, "Do you want to include the Log Family in the preset graph file?"},
     {Question::AddDefinitionPresets,
-     "The Data Log Definition you have loaded contains Preset Sample and/or Preset Scatter Graphs.\r\n"
+     "The Data Log Definition you have loaded contains Preset Sample and/or Preset Scatter "
+     "Graphs.\r\n"
      "Do you want to add these to your existing sets of Preset Sample and Preset Scatter Graphs?"},
     {Question::ConvertToMetric, "Convert field entries from imperial to metric as well?"},
     {Question::ConvertToImperial, "Convert field entries from metric to imperial as well?"},
@@ -204,7 +209,8 @@ constexpr QuestionRow kQuestions[] = {
 
 template <class Table, class Id>
 auto* RowOf(const Table& table, Id id) {
-  const auto found = std::find_if(std::begin(table), std::end(table), [id](const auto& row) { return row.id == id; });
+  const auto found = std::find_if(std::begin(table), std::end(table),
+                                  [id](const auto& row) { return row.id == id; });
   return found == std::end(table) ? nullptr : &*found;
 }
 

@@ -5,7 +5,8 @@
 
 namespace tarnview {
 
-/// The numbered messages. The numbers are those that users and scripts know; the texts stand in MessageTable.cpp.
+/// The numbered messages. The numbers are those that users and scripts know; the texts stand in
+/// MessageTable.cpp.
 enum class Message : int {
   RangeShortened = 1,
   PowerRangeShortened = 2,
@@ -134,7 +135,8 @@ struct MessageRow {
   const char* text;
 };
 
-/// The row of a message; nullptr for one whose text is put together elsewhere ("That doesn't look like a ...").
+/// The row of a message; nullptr for one whose text is put together elsewhere ("That doesn't look
+/// like a ...").
 const MessageRow* FindMessage(Message id);
 /// "Do you want to proceed?" for a question that is not in the table.
 const char* QuestionText(Question id);

@@ -70,7 +70,8 @@ double Convert(const Scan& scan, const char* end) {
   return scan.negative ? -value : value;
 }
 
-/// Scientific notation with the point and the trailing zeros gone: "-123" and the exponent of its first digit.
+/// Scientific notation with the point and the trailing zeros gone: "-123" and the exponent of its
+/// first digit.
 struct Digits {
   std::string sign;
   std::string digits;
@@ -79,7 +80,8 @@ struct Digits {
 
 Digits SignificantDigits(double value) {
   char buffer[40];
-  const auto written = std::to_chars(buffer, std::end(buffer), std::fabs(value), std::chars_format::scientific, 14);
+  const auto written =
+      std::to_chars(buffer, std::end(buffer), std::fabs(value), std::chars_format::scientific, 14);
   const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
   const auto e = text.find('e');
   Digits result;
@@ -106,7 +108,8 @@ double detail::ValDoubleSlowly(std::string_view text) {
 }
 
 double PowerOfTen(int places) {
-  return detail::kPowersOfTen[std::clamp(places, 0, static_cast<int>(std::size(detail::kPowersOfTen)) - 1)];
+  return detail::kPowersOfTen[std::clamp(places, 0,
+                                         static_cast<int>(std::size(detail::kPowersOfTen)) - 1)];
 }
 
 double RoundPlaces(double value, int places) {
@@ -124,7 +127,8 @@ std::string NumberText(double value) {
     if (count > 1) digits.insert(1, ".");
     return sign + digits + (exponent < 0 ? "E-" : "E+") + PaddedText(std::abs(exponent), 2);
   }
-  if (exponent < 0) return sign + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+  if (exponent < 0)
+    return sign + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
   const auto whole = static_cast<std::size_t>(exponent) + 1;
   if (digits.size() <= whole) return sign + digits + std::string(whole - digits.size(), '0');
   return sign + digits.insert(whole, ".");
@@ -136,7 +140,8 @@ std::string FixedText(double value, int places) {
   const double scaled = RoundHalfEven(value * PowerOfTen(places));
   char buffer[400];  // the largest double has 309 digits
   if (!(std::fabs(scaled) < 1e18)) {
-    const auto written = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, places);
+    const auto written =
+        std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, places);
     return {buffer, written.ptr};
   }
   const auto whole = static_cast<std::int64_t>(scaled);

@@ -10,12 +10,12 @@ namespace tarnview {
 
 // Text to number, tolerantly: these never fail. The decimal sign is "." whatever the locale.
 
-/// A text is numeric when, blanks at its ends aside, all of it is a sign, digits with at most one point and at
-/// least one digit, and an exponent ("1e3").
+/// A text is numeric when, blanks at its ends aside, all of it is a sign, digits with at most one
+/// point and at least one digit, and an exponent ("1e3").
 bool IsNumeric(std::string_view text);
 
-/// The number of a numeric text, else the number at its start (blanks, sign, digits with a point; no exponent),
-/// else 0. A number beyond a double is 0.
+/// The number of a numeric text, else the number at its start (blanks, sign, digits with a point;
+/// no exponent), else 0. A number beyond a double is 0.
 double StringToDouble(std::string_view text);
 /// StringToDouble, rounded half to even; 0 outside 32 bits.
 std::int32_t StringToLong(std::string_view text);
@@ -37,7 +37,8 @@ inline double RoundHalfEven(double value) {
 inline std::int32_t RoundToLong(double value) {
   const double rounded = RoundHalfEven(value);
   using Limits = std::numeric_limits<std::int32_t>;
-  return rounded >= Limits::min() && rounded <= Limits::max() ? static_cast<std::int32_t>(rounded) : 0;
+  return rounded >= Limits::min() && rounded <= Limits::max() ? static_cast<std::int32_t>(rounded)
+                                                              : 0;
 }
 /// 10^places; 0 to 15 places.
 double PowerOfTen(int places);
@@ -46,7 +47,8 @@ double RoundPlaces(double value, int places);
 
 // Number to text.
 
-/// The plain decimal text: up to 15 significant digits, no trailing zeros, "-0.5" with its 0, "1E+20" when large.
+/// The plain decimal text: up to 15 significant digits, no trailing zeros, "-0.5" with its 0,
+/// "1E+20" when large.
 std::string NumberText(double value);
 /// Rounded half to even on the scaled value, always with `places` decimals: "14.70".
 std::string FixedText(double value, int places);
@@ -63,7 +65,8 @@ inline constexpr int kMostExactDigits = 15;  ///< more may not fit the 53 bits o
 
 constexpr bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
-/// A text of blanks, a sign, up to 15 digits with at most one point, and blanks: whole and quick. False for any other.
+/// A text of blanks, a sign, up to 15 digits with at most one point, and blanks: whole and quick.
+/// False for any other.
 inline bool ReadShortNumber(std::string_view text, double& value) {
   const char* at = text.data();
   const char* end = at + text.size();
@@ -107,6 +110,8 @@ inline double ValDouble(std::string_view text) {
   return detail::ReadShortNumber(text, value) ? value : detail::ValDoubleSlowly(text);
 }
 
-inline std::int32_t StringToLong(std::string_view text) { return RoundToLong(StringToDouble(text)); }
+inline std::int32_t StringToLong(std::string_view text) {
+  return RoundToLong(StringToDouble(text));
+}
 
 }  // namespace tarnview

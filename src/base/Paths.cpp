@@ -18,8 +18,9 @@ std::string_view Title(std::string_view path) {
 /// The separator that a path uses, else the platform's own.
 char SeparatorOf(std::string_view path) {
   const auto separator = path.find_last_of(kSeparators);
-  return separator == std::string_view::npos ? static_cast<char>(std::filesystem::path::preferred_separator)
-                                             : path[separator];
+  return separator == std::string_view::npos
+             ? static_cast<char>(std::filesystem::path::preferred_separator)
+             : path[separator];
 }
 
 bool IsWithinCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
@@ -67,17 +68,21 @@ std::string WithoutExtension(std::string_view path) {
 std::string ShortPath(std::string_view path, std::size_t length) {
   if (path.size() <= length) return std::string(path);
   constexpr std::string_view kDots = "...";
-  // What stays in front is the drive or root, what stays behind is as many of the last folders as fit.
+  // What stays in front is the drive or root, what stays behind is as many of the last folders as
+  // fit.
   const auto first = path.find_first_of(kSeparators);
-  const auto head = first == std::string_view::npos ? std::string_view() : path.substr(0, first + 1);
-  for (auto at = head.size(); (at = path.find_first_of(kSeparators, at)) != std::string_view::npos; ++at)
+  const auto head =
+      first == std::string_view::npos ? std::string_view() : path.substr(0, first + 1);
+  for (auto at = head.size(); (at = path.find_first_of(kSeparators, at)) != std::string_view::npos;
+       ++at)
     if (head.size() + kDots.size() + path.size() - at <= length)
       return std::string(head) + std::string(kDots) + std::string(path.substr(at));
   // A name that is too long by itself shows its beginning, which tells it apart, and its end.
   const std::string_view title = Title(path);
   if (length <= kDots.size()) return std::string(title.substr(0, length));
   const std::size_t room = length - kDots.size();
-  return std::string(StartOf(title, room - room / 3)) + std::string(kDots) + std::string(EndOf(title, room / 3));
+  return std::string(StartOf(title, room - room / 3)) + std::string(kDots) +
+         std::string(EndOf(title, room / 3));
 }
 
 }  // namespace tarnview

@@ -5,11 +5,13 @@
 
 namespace tarnview {
 
-// Both "\" and "/" separate. What these add is the separator that the path already uses, else the platform's own.
+// Both "\" and "/" separate. What these add is the separator that the path already uses, else the
+// platform's own.
 
 /// The text behind the last "." of the file's name; "" if it has none.
 std::string GetExtension(std::string_view path);
-/// Everything up to and with the last separator that stays when one at the end is dropped: "C:\A\B\" gives "C:\A\".
+/// Everything up to and with the last separator that stays when one at the end is dropped:
+/// "C:\A\B\" gives "C:\A\".
 std::string GetParentFolder(std::string_view path);
 std::string AddBackslash(std::string_view path);
 /// The name without its folder.

@@ -26,8 +26,9 @@ struct RunResult {
 class Processes {
  public:
   virtual ~Processes() = default;
-  /// Runs a program in a folder (empty: the one that this program is in, which never moves) and waits for its end,
-  /// however long that takes. Some fifty times a second it asks `keepWaiting`; on false the program is left alone.
+  /// Runs a program in a folder (empty: the one that this program is in, which never moves) and
+  /// waits for its end, however long that takes. Some fifty times a second it asks `keepWaiting`;
+  /// on false the program is left alone.
   virtual RunResult Run(const ProgramCall& call, const std::string& folder,
                         const std::function<bool()>& keepWaiting) = 0;
   /// Whether a program that was left alone is still at work.
@@ -38,7 +39,8 @@ class Processes {
 
 class RealProcesses : public Processes {
  public:
-  RunResult Run(const ProgramCall& call, const std::string& folder, const std::function<bool()>& keepWaiting) override;
+  RunResult Run(const ProgramCall& call, const std::string& folder,
+                const std::function<bool()>& keepWaiting) override;
   bool IsAnyLeftAlone() override;
   int Open(const std::string& path) override;
 

@@ -25,7 +25,8 @@ constexpr int kOpened = 33;
 constexpr int kFileNotFound = 2;
 constexpr int kNoAssociation = 31;
 
-/// The words of a command line: parted by blanks, double quotes keep blanks, "\" is a character like any other.
+/// The words of a command line: parted by blanks, double quotes keep blanks, "\" is a character
+/// like any other.
 std::vector<std::string> Words(const std::string& command) {
   std::vector<std::string> words;
   bool inWord = false, inQuotes = false;
@@ -60,11 +61,13 @@ class Surroundings {
 };
 
 /// Starts a program whose words are `words`; 0, or the system's error number.
-int Start(const std::string& program, std::vector<std::string> words, const std::string& folder, pid_t& process) {
+int Start(const std::string& program, std::vector<std::string> words, const std::string& folder,
+          pid_t& process) {
   std::vector<char*> arguments;
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
-  return ::posix_spawn(&process, program.c_str(), Surroundings(folder).Actions(), nullptr, arguments.data(), environ);
+  return ::posix_spawn(&process, program.c_str(), Surroundings(folder).Actions(), nullptr,
+                       arguments.data(), environ);
 }
 
 /// The exit code of a program that has ended; nothing while it runs.
@@ -104,8 +107,9 @@ RunResult RealProcesses::Run(const ProgramCall& call, const std::string& folder,
 }
 
 bool RealProcesses::IsAnyLeftAlone() {
-  std::erase_if(leftAlone_,
-                [](std::intptr_t process) { return ExitCodeOf(static_cast<pid_t>(process), WNOHANG).has_value(); });
+  std::erase_if(leftAlone_, [](std::intptr_t process) {
+    return ExitCodeOf(static_cast<pid_t>(process), WNOHANG).has_value();
+  });
   return !leftAlone_.empty();
 }
 
@@ -115,7 +119,8 @@ int RealProcesses::Open(const std::string& path) {
   if (!isAddress && ::stat(path.c_str(), &facts) != 0) return kFileNotFound;
   // The shell ends at once and leaves the desktop's program running, which nobody waits for.
   static constexpr const char* kScript =
-      "command -v xdg-open >/dev/null 2>&1 || exit 31; xdg-open \"$1\" </dev/null >/dev/null 2>&1 & exit 0";
+      "command -v xdg-open >/dev/null 2>&1 || exit 31; xdg-open \"$1\" </dev/null >/dev/null 2>&1 "
+      "& exit 0";
   pid_t process = 0;
   if (Start("/bin/sh", {"sh", "-c", kScript, "sh", path}, "", process) != 0) return kNoAssociation;
   return ExitCodeOf(process, 0) == 0 ? kOpened : kNoAssociation;

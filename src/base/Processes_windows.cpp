@@ -12,14 +12,16 @@ namespace {
 /// The system's own words for an error.
 std::string WordsFor(DWORD error) {
   char text[512];
-  const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
-                                      text, sizeof text, nullptr);
+  const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                      nullptr, error, 0, text, sizeof text, nullptr);
   std::string words(text, length);
   while (!words.empty() && static_cast<unsigned char>(words.back()) <= ' ') words.pop_back();
   return words.empty() ? "Error " + std::to_string(error) : words;
 }
 
-bool HasEnded(HANDLE process, DWORD milliseconds) { return WaitForSingleObject(process, milliseconds) != WAIT_TIMEOUT; }
+bool HasEnded(HANDLE process, DWORD milliseconds) {
+  return WaitForSingleObject(process, milliseconds) != WAIT_TIMEOUT;
+}
 
 int ExitCodeOf(HANDLE process) {
   DWORD code = 0;
@@ -37,8 +39,9 @@ RunResult RealProcesses::Run(const ProgramCall& call, const std::string& folder,
   PROCESS_INFORMATION process{};
   std::string line = call.Text();  // the call writes into it
   // The program is named apart, so that its path needs no quotes in the line.
-  if (!CreateProcessA(call.program.c_str(), line.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS, nullptr,
-                      folder.empty() ? nullptr : folder.c_str(), &start, &process))
+  if (!CreateProcessA(call.program.c_str(), line.data(), nullptr, nullptr, TRUE,
+                      NORMAL_PRIORITY_CLASS, nullptr, folder.empty() ? nullptr : folder.c_str(),
+                      &start, &process))
     return {RunResult::End::NotStarted, 0, WordsFor(GetLastError())};
   CloseHandle(process.hThread);
 
@@ -62,7 +65,8 @@ bool RealProcesses::IsAnyLeftAlone() {
 }
 
 int RealProcesses::Open(const std::string& path) {
-  const HINSTANCE code = ShellExecuteA(GetDesktopWindow(), "Open", path.c_str(), nullptr, "C:\\", SW_SHOWNORMAL);
+  const HINSTANCE code =
+      ShellExecuteA(GetDesktopWindow(), "Open", path.c_str(), nullptr, "C:\\", SW_SHOWNORMAL);
   return static_cast<int>(reinterpret_cast<std::intptr_t>(code));
 }
 

@@ -4,8 +4,8 @@
 
 namespace tarnview {
 
-/// A command line: the path of a program, which is one word even with blanks in it, and behind it the rest as it is
-/// written, with a blank in front. No quotes stand around the path.
+/// A command line: the path of a program, which is one word even with blanks in it, and behind it
+/// the rest as it is written, with a blank in front. No quotes stand around the path.
 struct ProgramCall {
   std::string program;
   std::string arguments = {};

@@ -15,8 +15,10 @@ std::string ProgramFolder() {
 }
 
 std::string UserFolder() {
-  if (const char* config = std::getenv("XDG_CONFIG_HOME"); config && *config) return std::string(config) + "/tarnview/";
-  if (const char* home = std::getenv("HOME"); home && *home) return std::string(home) + "/.config/tarnview/";
+  if (const char* config = std::getenv("XDG_CONFIG_HOME"); config && *config)
+    return std::string(config) + "/tarnview/";
+  if (const char* home = std::getenv("HOME"); home && *home)
+    return std::string(home) + "/.config/tarnview/";
   return "";
 }
 

@@ -5,7 +5,8 @@
 
 namespace tarnview {
 
-/// An ordered collection of plain records. Positions count from 1; adding and removing move the records in memory.
+/// An ordered collection of plain records. Positions count from 1; adding and removing move the
+/// records in memory.
 template <class OneRecord>
 class Records {
  public:
@@ -21,7 +22,9 @@ class Records {
   int Count() const { return static_cast<int>(records_.size()); }
   /// 1 to Count.
   Record& Item(int position) { return records_[static_cast<std::size_t>(position - 1)]; }
-  const Record& Item(int position) const { return records_[static_cast<std::size_t>(position - 1)]; }
+  const Record& Item(int position) const {
+    return records_[static_cast<std::size_t>(position - 1)];
+  }
   void Remove(int position) { records_.erase(records_.begin() + (position - 1)); }
 
   auto begin() const { return records_.begin(); }

@@ -7,8 +7,8 @@
 
 namespace tarnview {
 
-/// A failure inside a procedure. It travels as an exception to the user's action, is logged on its way (Trap) and
-/// ends there; between procedures a failure is a false result.
+/// A failure inside a procedure. It travels as an exception to the user's action, is logged on its
+/// way (Trap) and ends there; between procedures a failure is a false result.
 class RuntimeError : public std::runtime_error {
  public:
   RuntimeError(long itsNumber, const std::string& description, std::string itsSource = "Tarnview")
@@ -25,7 +25,8 @@ inline constexpr long kOutOfMemory = 7;
 /// Any exception as a run-time error.
 inline RuntimeError AsRuntimeError(const std::exception& error) {
   if (const auto* raised = dynamic_cast<const RuntimeError*>(&error)) return *raised;
-  if (dynamic_cast<const std::bad_alloc*>(&error)) return RuntimeError(kOutOfMemory, "Out of memory");
+  if (dynamic_cast<const std::bad_alloc*>(&error))
+    return RuntimeError(kOutOfMemory, "Out of memory");
   return RuntimeError(kInvalidCall, error.what());
 }
 

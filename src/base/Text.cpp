@@ -14,21 +14,24 @@ std::string_view TrimWhere(std::string_view text, Drop drop) {
   return text;
 }
 
-/// Unicode of the bytes 0x80 to 0x9F in Windows-1252; the five unassigned ones stand for themselves.
-constexpr std::array<std::uint16_t, 32> kHighControls{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                                      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                                      0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                                      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+/// Unicode of the bytes 0x80 to 0x9F in Windows-1252; the five unassigned ones stand for
+/// themselves.
+constexpr std::array<std::uint16_t, 32> kHighControls{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 char ByteOf(std::uint32_t code) {
   if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<char>(code);
   const auto found = std::find(kHighControls.begin(), kHighControls.end(), code);
-  return found == kHighControls.end() ? '?' : static_cast<char>(0x80 + (found - kHighControls.begin()));
+  return found == kHighControls.end() ? '?'
+                                      : static_cast<char>(0x80 + (found - kHighControls.begin()));
 }
 
 constexpr std::uint32_t kIllFormed = 0xFFFD;
 
-/// Takes one character off the front; an ill-formed byte counts as a character that Windows-1252 lacks.
+/// Takes one character off the front; an ill-formed byte counts as a character that Windows-1252
+/// lacks.
 std::uint32_t TakeCharacter(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text[0]);
   const std::size_t length = lead < 0x80   ? 1
@@ -79,7 +82,8 @@ std::uint32_t CodeOf(char c) {
 }
 
 bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<signed char>(c) >= 0; });
 }
 
 bool IsWellFormed(std::string_view text) {
@@ -95,11 +99,13 @@ struct SmallLetters {
 };
 
 constexpr SmallLetters kSmallLetters[] = {
+    // clang-format off
     {'a', 'z', 1, 32},     {0xE0, 0xF6, 1, 32},   {0xF8, 0xFE, 1, 32},  {0xFF, 0xFF, 1, 0xFF - 0x178},
     {0x101, 0x12F, 2, 1},  {0x133, 0x137, 2, 1},  {0x13A, 0x148, 2, 1}, {0x14B, 0x177, 2, 1},
     {0x17A, 0x17E, 2, 1},                          // Latin
     {0x3B1, 0x3C1, 1, 32}, {0x3C3, 0x3CB, 1, 32},  // Greek
     {0x430, 0x44F, 1, 32}, {0x450, 0x45F, 1, 80},  // Cyrillic
+    // clang-format on
 };
 
 std::uint32_t UpperCode(std::uint32_t code) {
@@ -146,7 +152,8 @@ std::string Upper(std::string_view text) {
     return upper;
   }
   if (IsWellFormed(text)) return UpperUtf8(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(), [](char c) { return ByteOf(UpperCode(CodeOf(c))); });
+  std::transform(upper.begin(), upper.end(), upper.begin(),
+                 [](char c) { return ByteOf(UpperCode(CodeOf(c))); });
   return upper;
 }
 
@@ -181,7 +188,8 @@ std::string Join(const std::vector<std::string>& parts, std::string_view delimit
   return text;
 }
 
-void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn, std::size_t firstRow) {
+void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn,
+                       std::size_t firstRow) {
   const auto cell = [sortColumn](const std::vector<std::string>& row) {
     return sortColumn < row.size() ? std::string_view(row[sortColumn]) : std::string_view();
   };

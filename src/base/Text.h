@@ -17,7 +17,9 @@ std::string_view TrimSpecifiedChars(std::string_view text, std::string_view char
 std::string_view StripQuotes(std::string_view text);
 
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-constexpr char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+constexpr char AsciiUpper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
 /// In the text's own encoding: UTF-8 where all of it reads as such, else Windows-1252.
 std::string Upper(std::string_view text);
 /// Upper case as UTF-8, so that one word is the same in either encoding.
@@ -28,20 +30,22 @@ std::vector<std::string> Split(std::string_view text, char delimiter);
 std::string Join(const std::vector<std::string>& parts, std::string_view delimiter);
 
 /// Sorts the rows from `firstRow` on by the text of one column, ascending.
-void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn, std::size_t firstRow = 0);
+void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn,
+                       std::size_t firstRow = 0);
 
-/// Windows-1252 bytes as UTF-8, for the edges of the program (JSON, the toolkit), and back ('?' for what it lacks).
+/// Windows-1252 bytes as UTF-8, for the edges of the program (JSON, the toolkit), and back ('?' for
+/// what it lacks).
 std::string ToUtf8(std::string_view text);
 std::string FromUtf8(std::string_view text);
-/// ToUtf8 of a text that is only shown and may hold a path, whose bytes are the platform's: what is a character of
-/// UTF-8 already, of more than one byte, stays.
+/// ToUtf8 of a text that is only shown and may hold a path, whose bytes are the platform's: what is
+/// a character of UTF-8 already, of more than one byte, stays.
 std::string ShownAsUtf8(std::string_view text);
 
 /// At most `most` bytes and "..." behind what was cut, which ends with a whole character of UTF-8.
 std::string Shortened(std::string_view text, std::size_t most);
 
-/// Takes the next line off the front of `rest`, without its end (CR LF, LF; the last line needs none). False at the
-/// end of the text.
+/// Takes the next line off the front of `rest`, without its end (CR LF, LF; the last line needs
+/// none). False at the end of the text.
 bool TakeLine(std::string_view& rest, std::string_view& line);
 
 }  // namespace tarnview

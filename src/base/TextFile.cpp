@@ -8,7 +8,8 @@ void SettleText(FileBytes& bytes) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   if (std::string_view(bytes).starts_with(kMark)) bytes.DropFront(kMark.size());
   const std::string_view start = std::string_view(bytes).substr(0, kLongestLine);
-  if (start.find('\n') != std::string_view::npos || start.find('\r') == std::string_view::npos) return;
+  if (start.find('\n') != std::string_view::npos || start.find('\r') == std::string_view::npos)
+    return;
   std::replace(bytes.Begin(), bytes.End(), '\r', '\n');
 }
 

@@ -2,18 +2,20 @@
 
 namespace tarnview {
 
-// Conversion factors, each with its source. Factors are kept with the digits that the program has always used, since
-// results are compared to the last digit.
+// Conversion factors, each with its source. Factors are kept with the digits that the program has
+// always used, since results are compared to the last digit.
 
 /// Tenths of kPa to tenths of psi: 1 kPa = 0.14503774 psi (NIST SP 811, Appendix B).
 inline constexpr double kPsiPerKPa = 0.14503774;
-/// Tenths of kPa to tenths of inches of mercury: 1 kPa = 0.2953006 inHg (NIST SP 811, Appendix B, 0 degrees C).
+/// Tenths of kPa to tenths of inches of mercury: 1 kPa = 0.2953006 inHg (NIST SP 811, Appendix B, 0
+/// degrees C).
 inline constexpr double kInHgPerKPa = 0.2953006;
 /// Seconds between two samples of an FM Link log: the logging program's tick.
 inline constexpr double kFMLinkSecondsPerSample = 0.08192;
 /// Watts in a mechanical horsepower (NIST SP 811, Appendix B: 745.6999).
 inline constexpr double kWattsPerHorsepower = 745.69987;
-/// Foot-pounds of torque in a newton metre (1 / 1.3558, NIST SP 811), with the digits of the power files in use.
+/// Foot-pounds of torque in a newton metre (1 / 1.3558, NIST SP 811), with the digits of the power
+/// files in use.
 inline constexpr double kFootPoundsPerNm = 0.73692;
 /// Horsepower is torque in foot-pounds times rpm by this: 33000 foot-pounds a minute over two pi.
 inline constexpr double kRpmFootPoundsPerHorsepower = 5252.1131;

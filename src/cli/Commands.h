@@ -5,10 +5,12 @@
 
 namespace tarnview {
 
-/// Exit statuses: done; the file did not load or the thing could not be made; the command line is wrong.
+/// Exit statuses: done; the file did not load or the thing could not be made; the command line is
+/// wrong.
 enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongCommandLine = 2 };
 
-// Each adds a command with its options to the program; `status` gets what the command's run ends with.
+// Each adds a command with its options to the program; `status` gets what the command's run ends
+// with.
 
 void AddLoadCommand(CLI::App& program, int& status);
 void AddTableCommand(CLI::App& program, int& status);

@@ -44,8 +44,9 @@ template <class Block>
 Json Properties(const Block& block, std::span<const Attribute<Block>> attributes) {
   Json out = Json::object();
   for (const auto& attribute : attributes)
-    std::visit([&](auto member) { AddMember(out, attribute.property, attribute.flag, block.*member); },
-               attribute.member);
+    std::visit(
+        [&](auto member) { AddMember(out, attribute.property, attribute.flag, block.*member); },
+        attribute.member);
   return out;
 }
 
@@ -54,8 +55,8 @@ Json BlockJson(const clsDataLogColumn& column) {
   out["strColumnTitleCaps"] = ToUtf8(column.strColumnTitleCaps());
   Json values = Json::array();
   for (const auto& value : *column.objColumnValues)
-    values.push_back(
-        {{"strDataLogValue", ToUtf8(value->strDataLogValue)}, {"lngDataLogTranslation", value->lngDataLogTranslation}});
+    values.push_back({{"strDataLogValue", ToUtf8(value->strDataLogValue)},
+                      {"lngDataLogTranslation", value->lngDataLogTranslation}});
   out["objColumnValues"] = std::move(values);
   return out;
 }
@@ -70,7 +71,8 @@ Json BlockJson(const clsScatterGraphPreset& preset) {
   Json out = Properties(preset, ScatterGraphAttributes());
   out["lngLogFamily"] = Held(preset.lngLogFamily);
   Json filters = Json::array();
-  for (const clsScatterFilter& filter : preset.objFilters) filters.push_back(Properties(filter, FilterAttributes()));
+  for (const clsScatterFilter& filter : preset.objFilters)
+    filters.push_back(Properties(filter, FilterAttributes()));
   out["objFilters"] = std::move(filters);
   return out;
 }
@@ -92,8 +94,8 @@ int CheckDefinition(const DefinitionOptions& options) {
   ErrorLog errors(files, clock, "");
   const Catalogue catalogue = BuildDataItemCatalogue();
   DefinitionFiles loader(files, messages.Teller(), errors, catalogue.gcolFixedDataItems);
-  const auto definition =
-      options.file == "-" ? std::optional(DefaultDataLogDefinition()) : loader.LoadDataLogDefinition(options.file);
+  const auto definition = options.file == "-" ? std::optional(DefaultDataLogDefinition())
+                                              : loader.LoadDataLogDefinition(options.file);
   const clsDataLog none;
   const clsDataLog& it = definition ? *definition : none;
   Json out{{"ok", definition.has_value()},
@@ -111,10 +113,13 @@ int CheckDefinition(const DefinitionOptions& options) {
 }  // namespace
 
 void AddDefinitionCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("definition", "Checks a definition file of Universal logs");
+  CLI::App* command =
+      program.add_subcommand("definition", "Checks a definition file of Universal logs");
   command->footer("Example:\n  tarnview-cli definition my-logger.txt --full");
   auto options = std::make_shared<DefinitionOptions>();
-  command->add_option("FILE", options->file, "The definition file, or - for the built-in definition")->required();
+  command
+      ->add_option("FILE", options->file, "The definition file, or - for the built-in definition")
+      ->required();
   command->add_flag("--full", options->full, "Print columns and presets, not only their numbers");
   command->callback([options, &status] { status = CheckDefinition(*options); });
 }

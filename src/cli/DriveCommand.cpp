@@ -29,7 +29,8 @@ int Drive(const DriveOptions& options) {
       }
       script = FromLines(ParseScript(*text));
     }
-    return Driver(std::move(script), options.settings, options.writeSettings).Run() ? kDone : kFailed;
+    return Driver(std::move(script), options.settings, options.writeSettings).Run() ? kDone
+                                                                                    : kFailed;
   } catch (const ScriptError& error) {
     const Json out{{"error", ToUtf8(error.what())}, {"line", error.line}};
     std::fprintf(stderr, "%s\n", out.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
@@ -40,14 +41,17 @@ int Drive(const DriveOptions& options) {
 }  // namespace
 
 void AddDriveCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("drive", "Works the windows by their controls' names, from a script");
+  CLI::App* command =
+      program.add_subcommand("drive", "Works the windows by their controls' names, from a script");
   command->footer(
       "Example:\n  printf 'open run.txt\\nclick frmDataLogViewer/cmdDrawGraph\\n"
       "chart frmDataLogViewer/chSampleGraph\\n' | tarnview-cli drive -");
   auto options = std::make_shared<DriveOptions>();
   command->add_option("SCRIPT", options->script, "The script, or - for standard input")->required();
-  command->add_option("--settings", options->settings, "Start with this Tarnview.ini")->check(CLI::ExistingFile);
-  command->add_option("--write-settings", options->writeSettings, "Write the settings at the end to this file");
+  command->add_option("--settings", options->settings, "Start with this Tarnview.ini")
+      ->check(CLI::ExistingFile);
+  command->add_option("--write-settings", options->writeSettings,
+                      "Write the settings at the end to this file");
   command->callback([options, &status] { status = Drive(*options); });
 }
 

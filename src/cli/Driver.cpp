@@ -18,7 +18,9 @@ const std::string& WordAt(const std::vector<std::string>& words, std::size_t n) 
 /// "NAME.2" is the second window of that class.
 std::pair<std::string, int> NameAndNumber(const std::string& text) {
   const auto dot = text.rfind('.');
-  if (dot == std::string::npos || text.find_first_not_of("0123456789", dot + 1) != std::string::npos) return {text, 1};
+  if (dot == std::string::npos ||
+      text.find_first_not_of("0123456789", dot + 1) != std::string::npos)
+    return {text, 1};
   return {text.substr(0, dot), StringToLong(text.substr(dot + 1))};
 }
 
@@ -46,7 +48,8 @@ int ScriptProcesses::Open(const std::string& path) {
   return kOpened;
 }
 
-Driver::Driver(ScriptSource script, const std::string& settingsFile, const std::string& writeSettings)
+Driver::Driver(ScriptSource script, const std::string& settingsFile,
+               const std::string& writeSettings)
     : script_(std::move(script)),
       writesSettings_(!writeSettings.empty()),
       program_(*this, files_, clock_, processes_, {}, settingsFile) {
@@ -60,14 +63,18 @@ bool Driver::Run() {
   if (error_) throw *error_;
   if (!writesSettings_) return true;
   const bool closed = program_.MainWindow().Unload();
-  const auto notWritten = [](const Box& box) { return box.id == static_cast<int>(Message::SettingsNotWritten); };
+  const auto notWritten = [](const Box& box) {
+    return box.id == static_cast<int>(Message::SettingsNotWritten);
+  };
   const bool written = std::none_of(messages.begin(), messages.end(), notWritten);
   return closed && written && !program_.Global().gstrINIFileToWrite.empty();
 }
 
-/// A modal window holds the script until it closes. A script that ends first leaves it as its frame would.
+/// A modal window holds the script until it closes. A script that ends first leaves it as its frame
+/// would.
 void Driver::RunModal(Form& form) {
-  constexpr int kMostModalWindows = 50;  // more than any use of the program brings up, and few for the stack
+  constexpr int kMostModalWindows =
+      50;  // more than any use of the program brings up, and few for the stack
   if (++modalWindows_ > kMostModalWindows) Fail("too many windows stand one over the other");
   while (form.IsShown() && Step()) {
   }
@@ -96,9 +103,11 @@ void Driver::Fail(const std::string& why) {
 
 const std::vector<Driver::Verb>& Driver::Verbs() {
   static const std::vector<Verb> verbs{
-      {"open", &Driver::OpenLogFile}, {"key", &Driver::PressKey},   {"answer", &Driver::QueueAnswer},
-      {"close", &Driver::Close},      {"show", &Driver::ShowFacts}, {"chart", &Driver::ShowChart},
-      {"boxes", &Driver::ShowBoxes},  {"run", &Driver::ShowRuns},   {"popup", &Driver::Popup},
+      {"open", &Driver::OpenLogFile},   {"key", &Driver::PressKey},
+      {"answer", &Driver::QueueAnswer}, {"close", &Driver::Close},
+      {"show", &Driver::ShowFacts},     {"chart", &Driver::ShowChart},
+      {"boxes", &Driver::ShowBoxes},    {"run", &Driver::ShowRuns},
+      {"popup", &Driver::Popup},
   };
   return verbs;
 }
@@ -107,7 +116,8 @@ void Driver::DoLine(const ScriptLine& line) {
   const std::string& verb = line.words.front();
   const Words words(line.words.begin() + 1, line.words.end());
   const auto& verbs = Verbs();
-  const auto found = std::find_if(verbs.begin(), verbs.end(), [&](const Verb& row) { return verb == row.name; });
+  const auto found =
+      std::find_if(verbs.begin(), verbs.end(), [&](const Verb& row) { return verb == row.name; });
   if (found != verbs.end())
     (this->*found->run)(words);
   else
@@ -125,8 +135,9 @@ void Driver::OpenLogFile(const Words& words) {
   const Globals& globals = program_.Global();
   const clsFileTypes& types = globals.kinds.gcolFileTypes;
   const std::string& path = WordAt(words, 0);
-  const int type =
-      words.size() > 1 ? StringToLong(words[1]) : types.GuessFileType(path, globals.settings.gintDefaultFileType);
+  const int type = words.size() > 1
+                       ? StringToLong(words[1])
+                       : types.GuessFileType(path, globals.settings.gintDefaultFileType);
   nextFile = Answer{Answer::Kind::File, path, 0, types.SequenceFromID(type)};
   program_.MainWindow().mnuFileOpen.Do({"click", {}});
 }
@@ -139,9 +150,11 @@ void Driver::PressKey(const Words& words) {
 
 void Driver::QueueAnswer(const Words& words) {
   static constexpr std::pair<const char*, Answer::Kind> kKinds[] = {
-      {"yes", Answer::Kind::Yes},       {"no", Answer::Kind::No},           {"ok", Answer::Kind::Ok},
-      {"cancel", Answer::Kind::Cancel}, {"file", Answer::Kind::File},       {"folder", Answer::Kind::Folder},
-      {"colour", Answer::Kind::Colour}, {"printer", Answer::Kind::Printer}, {"stop", Answer::Kind::Stop}};
+      {"yes", Answer::Kind::Yes},       {"no", Answer::Kind::No},
+      {"ok", Answer::Kind::Ok},         {"cancel", Answer::Kind::Cancel},
+      {"file", Answer::Kind::File},     {"folder", Answer::Kind::Folder},
+      {"colour", Answer::Kind::Colour}, {"printer", Answer::Kind::Printer},
+      {"stop", Answer::Kind::Stop}};
   for (const auto& [name, kind] : kKinds) {
     if (WordAt(words, 0) != name) continue;
     Answer answer{kind, {}, 0, 0};

@@ -15,19 +15,22 @@ namespace tarnview {
 class ScriptProcesses : public RealProcesses {
  public:
   List commands;
-  RunResult Run(const ProgramCall& call, const std::string& folder, const std::function<bool()>& keepWaiting) override;
+  RunResult Run(const ProgramCall& call, const std::string& folder,
+                const std::function<bool()>& keepWaiting) override;
   int Open(const std::string& path) override;
 };
 
-/// Works the windows by their controls' names. It knows controls and not windows: what an action does to a control is
-/// the control's own affair.
+/// Works the windows by their controls' names. It knows controls and not windows: what an action
+/// does to a control is the control's own affair.
 class Driver : private ConsoleHost {
  public:
   /// The settings that the main window leaves when it closes go to `writeSettings`; empty: nowhere.
-  Driver(ScriptSource script, const std::string& settingsFile, const std::string& writeSettings = "");
+  Driver(ScriptSource script, const std::string& settingsFile,
+         const std::string& writeSettings = "");
 
-  /// Runs the script to its end, which closes a main window whose settings are wanted; throws ScriptError for a line
-  /// that cannot be done, in whatever window it stands. False: the settings could not be written.
+  /// Runs the script to its end, which closes a main window whose settings are wanted; throws
+  /// ScriptError for a line that cannot be done, in whatever window it stands. False: the settings
+  /// could not be written.
   bool Run();
 
  private:
@@ -41,8 +44,8 @@ class Driver : private ConsoleHost {
   void RunModal(Form& form) override;
   /// Does the next line; false at the script's end.
   bool Step();
-  /// Ends the script at the line that is being done. The windows that are open close one after the other, so no
-  /// exception passes through them.
+  /// Ends the script at the line that is being done. The windows that are open close one after the
+  /// other, so no exception passes through them.
   void Fail(const std::string& why);
   void DoLine(const ScriptLine& line);
   void WorkControl(const std::string& verb, const Words& words);

@@ -26,8 +26,10 @@ int Export(const ExportOptions& options) {
 }  // namespace
 
 void AddExportCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("export", "Writes the samples of a log as File / Export does");
-  command->footer("Example:\n  tarnview-cli export run.txt run.csv --items 3,5,20 --from 100 --to 200");
+  CLI::App* command =
+      program.add_subcommand("export", "Writes the samples of a log as File / Export does");
+  command->footer(
+      "Example:\n  tarnview-cli export run.txt run.csv --items 3,5,20 --from 100 --to 200");
   auto options = std::make_shared<ExportOptions>();
   options->AddTo(*command);
   command->add_option("OUT", options->out, "The file to write")->required();

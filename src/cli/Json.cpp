@@ -16,7 +16,8 @@ struct Writer {
   Json operator()(bool flag) const { return flag; }
   Json operator()(long long number) const { return number; }
   Json operator()(double number) const {
-    if (std::abs(number) < kExact && number == std::trunc(number)) return static_cast<long long>(number);
+    if (std::abs(number) < kExact && number == std::trunc(number))
+      return static_cast<long long>(number);
     return number;
   }
   Json operator()(const std::string& text) const { return ToUtf8(text); }
@@ -40,7 +41,9 @@ Json ToJson(const Object& facts) { return Writer{}(facts); }
 Json MessagesJson(const std::vector<Box>& messages) {
   Json out = Json::array();
   for (const Box& box : messages)
-    out.push_back({{"id", box.id}, {"text", ShownAsUtf8(box.TextWithin(kMostDetailsTold))}, {"style", box.style}});
+    out.push_back({{"id", box.id},
+                   {"text", ShownAsUtf8(box.TextWithin(kMostDetailsTold))},
+                   {"style", box.style}});
   return out;
 }
 

@@ -17,7 +17,8 @@ namespace {
 
 Json TagsJson(const clsLogTags& tags) {
   Json out = Json::array();
-  for (int n = 1; n <= tags.Count(); ++n) out.push_back({tags.Item(n).FromSequence, tags.Item(n).ToSequence});
+  for (int n = 1; n <= tags.Count(); ++n)
+    out.push_back({tags.Item(n).FromSequence, tags.Item(n).ToSequence});
   return out;
 }
 
@@ -56,7 +57,8 @@ Json ItemJson(const OpenLog& log, const clsLogDataItem& item) {
     highest = any ? std::max(highest, value) : value;
     any = true;
   }
-  const std::string unit = item.strUnit.empty() ? std::string(UnitOfFixedItem(item.intSeq)) : item.strUnit;
+  const std::string unit =
+      item.strUnit.empty() ? std::string(UnitOfFixedItem(item.intSeq)) : item.strUnit;
   return {{"id", item.intSeq},
           {"name", ToUtf8(item.strShortName)},
           {"long_name", ToUtf8(item.strLongName)},
@@ -67,7 +69,8 @@ Json ItemJson(const OpenLog& log, const clsLogDataItem& item) {
           {"highest", ToJson(highest)}};
 }
 
-/// Every item of the log's own, and those of the catalogue that hold anything or that a column of the log feeds.
+/// Every item of the log's own, and those of the catalogue that hold anything or that a column of
+/// the log feeds.
 Json ItemsJson(const OpenLog& log) {
   Json items = Json::array();
   for (int n = 1; log.gblnSamplesLoaded && n <= log.gcolDataItems->Count(); ++n) {
@@ -122,7 +125,8 @@ int Load(const LoadOptions& options) {
 }  // namespace
 
 void AddLoadCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("load", "Opens a log and tells what it holds, as JSON");
+  CLI::App* command =
+      program.add_subcommand("load", "Opens a log and tells what it holds, as JSON");
   command->footer("Example:\n  tarnview-cli load run.txt");
   auto options = std::make_shared<LoadOptions>();
   options->AddTo(*command);

@@ -11,7 +11,9 @@ namespace tarnview {
 namespace {
 
 /// Sample numbers, as a user would type them.
-std::string CheckNumber(const std::string& text) { return IsNumeric(text) ? "" : "\"" + text + "\" is no number"; }
+std::string CheckNumber(const std::string& text) {
+  return IsNumeric(text) ? "" : "\"" + text + "\" is no number";
+}
 
 /// "all", or item numbers with commas between them.
 std::string CheckItems(const std::string& text) {
@@ -29,14 +31,20 @@ std::string CheckItems(const std::string& text) {
 
 void LogOptions::AddTo(CLI::App& command) {
   command.add_option("LOG", log, "The log to open")->required();
-  command.add_option("--type", fileType, "File type, 1 to 8, or auto: by the content; without it the type is guessed")
+  command
+      .add_option("--type", fileType,
+                  "File type, 1 to 8, or auto: by the content; without it the type is guessed")
       ->check(CLI::IsMember({"1", "2", "3", "4", "5", "6", "7", "8", "auto"}));
-  command.add_option("--settings", settings, "Read this Tarnview.ini; without it every setting has its default")
+  command
+      .add_option("--settings", settings,
+                  "Read this Tarnview.ini; without it every setting has its default")
       ->check(CLI::ExistingFile);
-  command.add_option("--definition", definition, "Read Universal logs through this definition file");
+  command.add_option("--definition", definition,
+                     "Read Universal logs through this definition file");
   command.add_option("--from", from, "First Sample of the range")->check(CheckNumber);
   command.add_option("--to", to, "Last Sample of the range")->check(CheckNumber);
-  command.add_option("--items", items, "Data item numbers with commas, or \"all\"")->check(CheckItems);
+  command.add_option("--items", items, "Data item numbers with commas, or \"all\"")
+      ->check(CheckItems);
 }
 
 std::string DataFolder(FileSystem& files) {
@@ -77,7 +85,8 @@ std::vector<int> LogSession::Items(bool allByDefault) const {
   }
   for (const std::string& word : Split(options_.items, ',')) {
     const int number = StringToLong(word);
-    if (number > count) throw CLI::ValidationError("--items", "no data item of this log has the number " + word);
+    if (number > count)
+      throw CLI::ValidationError("--items", "no data item of this log has the number " + word);
     numbers.push_back(number);
   }
   std::sort(numbers.begin(), numbers.end());

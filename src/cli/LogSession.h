@@ -35,7 +35,8 @@ class LogSession {
   /// Types the range into the boxes and leaves them.
   void EnterRange();
 
-  /// The item numbers of --items; every item for "all" and, with `allByDefault`, without the option.
+  /// The item numbers of --items; every item for "all" and, with `allByDefault`, without the
+  /// option.
   std::vector<int> Items(bool allByDefault) const;
   bool HasRange() const { return options_.from || options_.to; }
 

@@ -15,7 +15,8 @@ constexpr std::string_view kOptionsWindow = "frmOptions/";
 /// The page of the Options window; "" for a setting that is set elsewhere, or by the program alone.
 std::string PageOf(const SettingRow& row) {
   const std::string_view window = row.setIn.window;
-  return window.starts_with(kOptionsWindow) ? std::string(window.substr(kOptionsWindow.size())) : "";
+  return window.starts_with(kOptionsWindow) ? std::string(window.substr(kOptionsWindow.size()))
+                                            : "";
 }
 
 /// The control by which it is set, "frmOptions/txtSampleWidth"; "" for none.
@@ -51,10 +52,13 @@ int ListOptions(const std::string& settingsFile) {
 }  // namespace
 
 void AddOptionsCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("options", "Lists each setting with its value, default and limits");
+  CLI::App* command =
+      program.add_subcommand("options", "Lists each setting with its value, default and limits");
   command->footer("Example:\n  tarnview-cli options --settings Tarnview.ini");
   auto settings = std::make_shared<std::string>();
-  command->add_option("--settings", *settings, "Read this Tarnview.ini; without it, every setting has its default")
+  command
+      ->add_option("--settings", *settings,
+                   "Read this Tarnview.ini; without it, every setting has its default")
       ->check(CLI::ExistingFile);
   command->callback([settings, &status] { status = ListOptions(*settings); });
 }

@@ -6,14 +6,14 @@
 
 namespace tarnview {
 
-/// Draws charts into files. It lies in a module of its own, tarnview-pictures, which is loaded when a picture is asked
-/// for: the toolkit's start would cost every other command.
+/// Draws charts into files. It lies in a module of its own, tarnview-pictures, which is loaded when
+/// a picture is asked for: the toolkit's start would cost every other command.
 class PictureMaker {
  public:
   virtual ~PictureMaker() = default;
 
-  /// The ending of `path` (.png, .svg, .pdf) says what is written; sizes in pixels, 1 to 16384. False: nothing was
-  /// written, and `error` says why.
+  /// The ending of `path` (.png, .svg, .pdf) says what is written; sizes in pixels, 1 to 16384.
+  /// False: nothing was written, and `error` says why.
   virtual bool Draw(const ChartDescription& chart, const std::string& path, int width, int height,
                     std::string& error) = 0;
 };

@@ -13,8 +13,9 @@ constexpr int kGreatestSide = 20000;  // pixels
 /// "1400x800"; false for anything else.
 bool ParseSize(const std::string& text, int& width, int& height) {
   char after = 0;
-  return std::sscanf(text.c_str(), "%dx%d%c", &width, &height, &after) == 2 && width >= kLeastSide &&
-         height >= kLeastSide && width <= kGreatestSide && height <= kGreatestSide;
+  return std::sscanf(text.c_str(), "%dx%d%c", &width, &height, &after) == 2 &&
+         width >= kLeastSide && height >= kLeastSide && width <= kGreatestSide &&
+         height <= kGreatestSide;
 }
 
 std::string CheckSize(const std::string& text) {

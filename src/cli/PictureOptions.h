@@ -17,7 +17,8 @@ struct PictureOptions {
   void AddTo(CLI::App& command);
 };
 
-/// Draws a chart as the options say; true, too, where no file is asked for. A failure is told on standard error.
+/// Draws a chart as the options say; true, too, where no file is asked for. A failure is told on
+/// standard error.
 bool DrawPicture(const ChartDescription& chart, const PictureOptions& options);
 
 }  // namespace tarnview

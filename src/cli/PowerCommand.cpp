@@ -35,11 +35,14 @@ bool Refuse(const std::string& why) {
 }
 
 std::string CheckAir(const std::string& text) {
-  const std::string_view number = text.starts_with(kWetBulb) ? std::string_view(text).substr(4) : text;
-  return IsNumeric(number) ? "" : "the air is TEMPERATURE PRESSURE HUMIDITY, the last as 50 or wet:15";
+  const std::string_view number =
+      text.starts_with(kWetBulb) ? std::string_view(text).substr(4) : text;
+  return IsNumeric(number) ? ""
+                           : "the air is TEMPERATURE PRESSURE HUMIDITY, the last as 50 or wet:15";
 }
 
-/// Loads a car definition in its window, as a user does; it joins those of the settings, which are not written.
+/// Loads a car definition in its window, as a user does; it joins those of the settings, which are
+/// not written.
 bool LoadCar(LogSession& session, const std::string& path) {
   const std::size_t messages = session.Host().messages.size();
   session.Host().nextFile = Answer{Answer::Kind::File, path, 0, 0};
@@ -90,7 +93,8 @@ bool FillIn(frmPowerGraph& window, const PowerOptions& options) {
   EnterAir(window, options.air);
   if (options.benchmark.empty()) return true;
   if (!window.LoadBenchmark(options.benchmark)) return false;
-  if (options.average) window.cboBenchMarkAction.SetListIndex(static_cast<int>(BenchmarkAction::Average));
+  if (options.average)
+    window.cboBenchMarkAction.SetListIndex(static_cast<int>(BenchmarkAction::Average));
   return true;
 }
 
@@ -138,7 +142,8 @@ int DrawPower(LogSession& session, const PowerOptions& options) {
 
 int Power(const PowerOptions& options) {
   LogSession session(options);
-  if (options.picture.scheme) session.Global().settings.gintGraphColourScheme = *options.picture.scheme;
+  if (options.picture.scheme)
+    session.Global().settings.gintGraphColourScheme = *options.picture.scheme;
   if (!session.Open() || !session.Log().gblnSamplesLoaded) return kFailed;
   if (!options.findRuns) return DrawPower(session, options);
   Print(RunsJson(session.Log()));
@@ -147,37 +152,46 @@ int Power(const PowerOptions& options) {
 
 void AddRunOptions(CLI::App& command, PowerOptions& options) {
   command.add_option("--car", options.car, "Car definition of the settings");
-  command.add_option("--car-file", options.carFile, "Car definition file (.car)")->excludes("--car");
+  command.add_option("--car-file", options.carFile, "Car definition file (.car)")
+      ->excludes("--car");
   command.add_option("--gear", options.gear, "Gear of the run, 1 to 6")->check(CLI::Range(1, 6));
   command.add_option("--weight", options.weight, "Driver and load, in the car's units");
   command.add_option("--smoothing", options.smoothing, "Points to either side of each");
   command.add_option("--units", options.units, "Of the result: imperial or metric")
       ->check(CLI::IsMember({"imperial", "metric"}));
   command
-      .add_option(
-          "--sae", options.air,
-          "Correct to standard air: degrees C, kPa, and per cent of humidity or wet: and the wet bulb's degrees")
+      .add_option("--sae", options.air,
+                  "Correct to standard air: degrees C, kPa, and per cent of humidity or wet: and "
+                  "the wet bulb's degrees")
       ->expected(3)
       ->check(CheckAir);
-  command.add_option("--benchmark", options.benchmark, "Saved power graph (.pow) to show beside the run");
-  command.add_flag("--average", options.average, "Average the run with the benchmark")->needs("--benchmark");
+  command.add_option("--benchmark", options.benchmark,
+                     "Saved power graph (.pow) to show beside the run");
+  command.add_flag("--average", options.average, "Average the run with the benchmark")
+      ->needs("--benchmark");
 }
 
 }  // namespace
 
 void AddPowerCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("power", "Works out power and torque of a run, or tells them as JSON");
-  command->footer("Example:\n  tarnview-cli power run.txt --from 4357 --to 4389 --gear 3 --out power.png");
+  CLI::App* command =
+      program.add_subcommand("power", "Works out power and torque of a run, or tells them as JSON");
+  command->footer(
+      "Example:\n  tarnview-cli power run.txt --from 4357 --to 4389 --gear 3 --out power.png");
   auto options = std::make_shared<PowerOptions>();
   options->AddTo(*command);
   AddRunOptions(*command, *options);
   options->picture.AddTo(*command);
-  command->add_flag("--json", options->json, "Print what the chart receives, the peaks and the speeds");
+  command->add_flag("--json", options->json,
+                    "Print what the chart receives, the peaks and the speeds");
   command->add_option("--save", options->save, "Save the graph into this file (.pow)");
-  command->add_option("--comments", options->comments, "What the saved graph says of itself")->needs("--save");
-  command->add_flag("--find-runs", options->findRuns, "List the stretches of full throttle as JSON, and draw nothing");
+  command->add_option("--comments", options->comments, "What the saved graph says of itself")
+      ->needs("--save");
+  command->add_flag("--find-runs", options->findRuns,
+                    "List the stretches of full throttle as JSON, and draw nothing");
   command->callback([options, &status] {
-    if (options->picture.out.empty() && options->save.empty() && !options->json && !options->findRuns)
+    if (options->picture.out.empty() && options->save.empty() && !options->json &&
+        !options->findRuns)
       throw CLI::ValidationError("power", "needs --out, --save, --json or --find-runs");
     status = Power(*options);
   });

@@ -26,7 +26,8 @@ struct ScatterOptions : LogOptions {
 
 std::string CheckFilter(const std::string& text) {
   const auto parts = Split(text, ':');
-  if (parts.size() != 3 || !IsNumeric(parts[0])) return "a filter is ITEM:FROM:TO, a bound may be empty";
+  if (parts.size() != 3 || !IsNumeric(parts[0]))
+    return "a filter is ITEM:FROM:TO, a bound may be empty";
   for (const std::string& bound : {parts[1], parts[2]})
     if (!Trim(bound).empty() && !IsNumeric(bound)) return "\"" + bound + "\" is no number";
   return "";
@@ -34,7 +35,9 @@ std::string CheckFilter(const std::string& text) {
 
 clsScatterFilter ParseFilter(const std::string& text) {
   const auto parts = Split(text, ':');
-  const auto bound = [](std::string_view word) { return Trim(word).empty() ? kBoundNotSet : StringToDouble(word); };
+  const auto bound = [](std::string_view word) {
+    return Trim(word).empty() ? kBoundNotSet : StringToDouble(word);
+  };
   return {bound(parts[2]), bound(parts[1]), StringToLong(parts[0])};
 }
 
@@ -45,9 +48,11 @@ bool Refuse(const char* what, const std::string& which) {
 
 /// Enters a filter into the window's own; false if it was refused.
 bool EnterFilter(LogSession& session, frmScatterGraph& window, const clsScatterFilter& filter) {
-  const int family = session.Global().kinds.gcolLogFamilies.FirstLogFamily(session.Log().gintCurrentFileType);
+  const int family =
+      session.Global().kinds.gcolLogFamilies.FirstLogFamily(session.Log().gintCurrentFileType);
   const DataItemList items = FilterItems(session.Global().catalogue, family);
-  if (std::none_of(items.begin(), items.end(), [&](auto* item) { return item->intSeq == filter.lngDataItemSeq; }))
+  if (std::none_of(items.begin(), items.end(),
+                   [&](auto* item) { return item->intSeq == filter.lngDataItemSeq; }))
     return Refuse("no filter can be on data item", std::to_string(filter.lngDataItemSeq));
   const int before = window.objFilters().Count();
   session.Host().work = [&](Form& form) {
@@ -66,14 +71,17 @@ bool FillIn(LogSession& session, frmScatterGraph& window, const ScatterOptions& 
     return Refuse("this log has no preset scatter graph", "\"" + options.preset + "\"");
   const ScatterRequest set = window.Request();
   const int x = options.x.value_or(set.xItem), y = options.y.value_or(set.yItem);
-  if (!window.ChooseAxes(x, y)) return Refuse("the axes cannot be data items", NumberText(x) + " and " + NumberText(y));
+  if (!window.ChooseAxes(x, y))
+    return Refuse("the axes cannot be data items", NumberText(x) + " and " + NumberText(y));
   if (options.colourBy && !window.ChooseColourBy(*options.colourBy))
     return Refuse("the points cannot be coloured by data item", std::to_string(*options.colourBy));
   window.mnuViewDensity.Checked = options.density;
-  window.Style().Show({options.shape.value_or(set.style.lngPointShape), options.size.value_or(set.style.lngPointSize),
+  window.Style().Show({options.shape.value_or(set.style.lngPointShape),
+                       options.size.value_or(set.style.lngPointSize),
                        options.colour.value_or(set.style.lngPointColour)});
-  return std::all_of(options.filters.begin(), options.filters.end(),
-                     [&](const std::string& text) { return EnterFilter(session, window, ParseFilter(text)); });
+  return std::all_of(options.filters.begin(), options.filters.end(), [&](const std::string& text) {
+    return EnterFilter(session, window, ParseFilter(text));
+  });
 }
 
 /// What the chart received; without points where nothing was drawn.
@@ -103,7 +111,8 @@ bool Export(LogSession& session, frmScatterGraph& window, const ScatterOptions& 
 
 int Scatter(const ScatterOptions& options) {
   LogSession session(options);
-  if (options.picture.scheme) session.Global().settings.gintGraphColourScheme = *options.picture.scheme;
+  if (options.picture.scheme)
+    session.Global().settings.gintGraphColourScheme = *options.picture.scheme;
   if (!session.Open() || !session.Log().gblnSamplesLoaded) return kFailed;
   if (!options.items.empty()) {
     session.Window().Details().SetCheckedItems(session.Items(false));
@@ -115,38 +124,47 @@ int Scatter(const ScatterOptions& options) {
   if (filled) window.cmdDrawGraph.Press();
   const ChartDescription& chart = window.chScatterGraph.Data();
   if (options.json) Print(Tell(session, window));
-  return chart.Cloud() && Export(session, window, options) && DrawPicture(chart, options.picture) ? kDone : kFailed;
+  return chart.Cloud() && Export(session, window, options) && DrawPicture(chart, options.picture)
+             ? kDone
+             : kFailed;
 }
 
 void AddStyleOptions(CLI::App& command, ScatterOptions& options) {
-  command.add_option("--shape", options.shape, "Shape of the points, 0 to 9")->check(CLI::Range(0, 9));
+  command.add_option("--shape", options.shape, "Shape of the points, 0 to 9")
+      ->check(CLI::Range(0, 9));
   command.add_option("--size-of-points", options.size, "1 to 10")->check(CLI::Range(1, 10));
   command.add_option("--colour", options.colour, "Of the points: blue x 65536 + green x 256 + red")
       ->check(CLI::Range(0, 0x1000000));
-  command.add_option("--colour-by", options.colourBy, "Data item that gives the points their colours");
+  command.add_option("--colour-by", options.colourBy,
+                     "Data item that gives the points their colours");
   command.add_flag("--density", options.density, "Shade the points that fall together");
 }
 
 }  // namespace
 
 void AddScatterCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("scatter", "Draws one data item against another, or tells it as JSON");
-  command->footer("Example:\n  tarnview-cli scatter run.txt --x 3 --y 36 --filter 5:100: --out af.png");
+  CLI::App* command =
+      program.add_subcommand("scatter", "Draws one data item against another, or tells it as JSON");
+  command->footer(
+      "Example:\n  tarnview-cli scatter run.txt --x 3 --y 36 --filter 5:100: --out af.png");
   auto options = std::make_shared<ScatterOptions>();
   options->AddTo(*command);
   command->add_option("--x", options->x, "Data item of the X axis");
   command->add_option("--y", options->y, "Data item of the Y axis");
   command
       ->add_option("--filter", options->filters,
-                   "ITEM:FROM:TO keeps samples within bounds, one of which may be empty; may stand often. Of an item "
+                   "ITEM:FROM:TO keeps samples within bounds, one of which may be empty; may stand "
+                   "often. Of an item "
                    "with listed values FROM is the value's place")
       ->allow_extra_args(false)
       ->check(CheckFilter);
-  command->add_option("--preset", options->preset, "Start from the first preset scatter graph of this name");
+  command->add_option("--preset", options->preset,
+                      "Start from the first preset scatter graph of this name");
   AddStyleOptions(*command, *options);
   options->picture.AddTo(*command);
   command->add_flag("--json", options->json, "Print what the chart receives");
-  command->add_option("--export", options->exportFile, "Write the points into this file, as Export does");
+  command->add_option("--export", options->exportFile,
+                      "Write the points into this file, as Export does");
   command->callback([options, &status] {
     if (options->picture.out.empty() && options->exportFile.empty() && !options->json)
       throw CLI::ValidationError("scatter", "needs --out, --export or --json");

@@ -26,11 +26,12 @@ class ScriptError : public std::runtime_error {
 /// The next line of a script; nothing at its end, or if the script is over for another reason.
 using ScriptSource = std::function<std::optional<ScriptLine>()>;
 
-/// Splits a script: words at blanks, double quotes keep blanks (inside them \" \\ \n), "#" begins a comment line.
-/// Throws ScriptError for a quote that is not closed.
+/// Splits a script: words at blanks, double quotes keep blanks (inside them \" \\ \n), "#" begins a
+/// comment line. Throws ScriptError for a quote that is not closed.
 std::vector<ScriptLine> ParseScript(std::string_view text);
 ScriptSource FromLines(std::vector<ScriptLine> lines);
-/// The lines as they come, each read when it is wanted: whoever writes them may wait for what the one before printed.
+/// The lines as they come, each read when it is wanted: whoever writes them may wait for what the
+/// one before printed.
 ScriptSource FromStream(std::istream& stream);
 
 }  // namespace tarnview

@@ -22,11 +22,12 @@ Json PlacementsJson(const WindowPlacements& windows) {
     const auto& config = windows.*row.window;
     if (!config) continue;
     const std::string prefix = row.prefix;
-    all[prefix.empty() ? "Main" : prefix.substr(0, prefix.size() - 1)] = {{"state", config->lngWindowState},
-                                                                          {"left", config->lngLeft},
-                                                                          {"top", config->lngTop},
-                                                                          {"width", config->lngWidth},
-                                                                          {"height", config->lngHeight}};
+    all[prefix.empty() ? "Main" : prefix.substr(0, prefix.size() - 1)] = {
+        {"state", config->lngWindowState},
+        {"left", config->lngLeft},
+        {"top", config->lngTop},
+        {"width", config->lngWidth},
+        {"height", config->lngHeight}};
   }
   return all;
 }
@@ -42,11 +43,14 @@ int ConvertSettings(const SettingsOptions& options) {
   program.Start("", false);
   program.MainWindow().Unload();
   Json recent = Json::array();
-  for (const std::string& entry : program.Global().settings.recentFiles) recent.push_back(ShownAsUtf8(entry));
+  for (const std::string& entry : program.Global().settings.recentFiles)
+    recent.push_back(ShownAsUtf8(entry));
   Print({{"messages", MessagesJson(host.messages)},
          {"window_placements", PlacementsJson(program.Global().settings.windows)},
          {"recent", std::move(recent)}});
-  const auto failed = [](const Box& box) { return box.id == static_cast<int>(Message::SettingsNotWritten); };
+  const auto failed = [](const Box& box) {
+    return box.id == static_cast<int>(Message::SettingsNotWritten);
+  };
   const bool written = std::none_of(host.messages.begin(), host.messages.end(), failed);
   return written && !program.Global().gstrINIFileToWrite.empty() ? kDone : kFailed;
 }
@@ -54,11 +58,13 @@ int ConvertSettings(const SettingsOptions& options) {
 }  // namespace
 
 void AddSettingsCommand(CLI::App& program, int& status) {
-  CLI::App* command =
-      program.add_subcommand("settings", "Reads a Tarnview.ini as a start does, writes it as an end does");
+  CLI::App* command = program.add_subcommand(
+      "settings", "Reads a Tarnview.ini as a start does, writes it as an end does");
   command->footer("Example:\n  tarnview-cli settings Tarnview.ini checked.ini");
   auto options = std::make_shared<SettingsOptions>();
-  command->add_option("IN.ini", options->in, "The settings file to read")->required()->check(CLI::ExistingFile);
+  command->add_option("IN.ini", options->in, "The settings file to read")
+      ->required()
+      ->check(CLI::ExistingFile);
   command->add_option("OUT.ini", options->out, "The settings file to write")->required();
   command->callback([options, &status] { status = ConvertSettings(*options); });
 }

@@ -27,11 +27,18 @@ Json TextsJson(const std::vector<std::string>& texts) {
 }
 
 Json ColumnJson(const ShapeColumn& column, const ShapeItem& item) {
-  return {
-      {"title", ToUtf8(column.header)},  {"unit", ToUtf8(column.unit)},       {"item", item.item},
-      {"name", ToUtf8(item.name)},       {"item_unit", ToUtf8(item.unit)},    {"factor", ToJson(item.factor)},
-      {"offset", ToJson(item.offset)},   {"decimals", item.places},           {"first_values", TextsJson(column.first)},
-      {"lowest", ToJson(column.lowest)}, {"highest", ToJson(column.highest)}, {"why", ToUtf8(item.why)}};
+  return {{"title", ToUtf8(column.header)},
+          {"unit", ToUtf8(column.unit)},
+          {"item", item.item},
+          {"name", ToUtf8(item.name)},
+          {"item_unit", ToUtf8(item.unit)},
+          {"factor", ToJson(item.factor)},
+          {"offset", ToJson(item.offset)},
+          {"decimals", item.places},
+          {"first_values", TextsJson(column.first)},
+          {"lowest", ToJson(column.lowest)},
+          {"highest", ToJson(column.highest)},
+          {"why", ToUtf8(item.why)}};
 }
 
 Json TimeJson(const LogShape& shape) {
@@ -73,19 +80,21 @@ int TellShape(const ShapeOptions& options) {
   Print(ShapeJson(shape));
   if (!shape.Found()) return kFailed;
   if (options.definitionOut.empty()) return kDone;
-  const clsDataLog definition =
-      DefinitionOfShape(shape, FileTitle(options.file), GetExtension(options.file), kUsualLinesASecond);
+  const clsDataLog definition = DefinitionOfShape(shape, FileTitle(options.file),
+                                                  GetExtension(options.file), kUsualLinesASecond);
   return files.Write(options.definitionOut, DefinitionFileText(definition)) ? kDone : kFailed;
 }
 
 }  // namespace
 
 void AddShapeCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("shape", "Tells what the form of a text log is taken to be, as JSON");
+  CLI::App* command =
+      program.add_subcommand("shape", "Tells what the form of a text log is taken to be, as JSON");
   command->footer("Example:\n  tarnview-cli shape run.csv --definition-out my-logger.txt");
   auto options = std::make_shared<ShapeOptions>();
   command->add_option("FILE", options->file, "The log")->required()->check(CLI::ExistingFile);
-  command->add_option("--definition-out", options->definitionOut, "Write a definition of such logs to this file");
+  command->add_option("--definition-out", options->definitionOut,
+                      "Write a definition of such logs to this file");
   command->callback([options, &status] { status = TellShape(*options); });
 }
 

@@ -29,13 +29,15 @@ struct TableOptions : LogOptions {
 
 class Table {
  public:
-  Table(const OpenLog& log, std::vector<int> items, bool raw) : log_(log), items_(std::move(items)), raw_(raw) {}
+  Table(const OpenLog& log, std::vector<int> items, bool raw)
+      : log_(log), items_(std::move(items)), raw_(raw) {}
 
   void Print(std::int64_t from, std::int64_t to) {
     AddLine([&](int seq) { AddField(out_, ToUtf8(log_.gcolDataItems->Item(seq).strShortName)); });
     const auto indexOf = [&](std::int64_t sample) {
       const auto wanted = static_cast<std::int32_t>(sample);
-      return LocateSample(log_, static_cast<std::int32_t>(sample - log_.glngFirstSampleTime), wanted);
+      return LocateSample(log_, static_cast<std::int32_t>(sample - log_.glngFirstSampleTime),
+                          wanted);
     };
     for (std::int32_t row = indexOf(from), last = indexOf(to); row <= last; ++row) {
       if (log_.Sample(row) < from || log_.Sample(row) > to) continue;
@@ -100,7 +102,8 @@ int PrintTable(const TableOptions& options) {
 }  // namespace
 
 void AddTableCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("table", "Prints the samples of a log as comma-separated values");
+  CLI::App* command =
+      program.add_subcommand("table", "Prints the samples of a log as comma-separated values");
   command->footer("Example:\n  tarnview-cli table run.txt --items 1,63,3,5 --from 100 --to 200");
   auto options = std::make_shared<TableOptions>();
   options->AddTo(*command);

@@ -23,7 +23,8 @@ struct UploadCommandOptions {
 };
 
 /// In the order of AutoTuneMode.
-const std::vector<std::string> kAutoTuneModes{"none", "coarse_no_idle", "fine_no_idle", "fine_with_idle"};
+const std::vector<std::string> kAutoTuneModes{"none", "coarse_no_idle", "fine_no_idle",
+                                              "fine_with_idle"};
 
 AutoTuneMode ModeOf(const std::string& name) {
   for (std::size_t mode = 0; mode < kAutoTuneModes.size(); ++mode)
@@ -49,12 +50,14 @@ class DryRun {
       return kFailed;
     }
     const UploadOptions upload = Chosen();
-    const Comparison comparison = upload.blnChangesOnly ? Compared(upload.strComparisonFile) : Comparison{};
+    const Comparison comparison =
+        upload.blnChangesOnly ? Compared(upload.strComparisonFile) : Comparison{};
     if (comparison.fault) program_.MainWindow().TellMessage(*comparison.fault);
     if (!AirZonesFit(form.datChipDate, settings.gdatDefaultChipDate))
       program_.MainWindow().TellMessage(Message::AirTempNotUploaded);
     const std::string text = MapText(MapToSend(settings, form, comparison), clock_.Now());
-    std::printf("%s%s\n", ToUtf8(text).c_str(), ShownAsUtf8(UploadCall(settings, upload).Text()).c_str());
+    std::printf("%s%s\n", ToUtf8(text).c_str(),
+                ShownAsUtf8(UploadCall(settings, upload).Text()).c_str());
     return kDone;
   }
 
@@ -81,7 +84,8 @@ class DryRun {
   Comparison Compared(const std::string& path) {
     if (path.empty() || !files_.FileExists(path)) return {{}, Message::ComparisonFileNotFound};
     const Globals& globals = program_.Global();
-    if (SameIgnoringCase(GetExtension(path), "map")) return ComparisonOf(globals.settings, ReadMap(path));
+    if (SameIgnoringCase(GetExtension(path), "map"))
+      return ComparisonOf(globals.settings, ReadMap(path));
     program_.MainWindow().LoadDataFile(path, kFMLinkLog);
     if (!globals.log.gblnZonesLoaded) return ComparisonOf(globals.settings, std::nullopt);
     return ComparisonOf(globals.settings, MapOf(globals.log.zones));
@@ -98,14 +102,18 @@ class DryRun {
 }  // namespace
 
 void AddUploadCommand(CLI::App& program, int& status) {
-  CLI::App* command =
-      program.add_subcommand("upload", "Prints the map that an upload would send, and its command line");
+  CLI::App* command = program.add_subcommand(
+      "upload", "Prints the map that an upload would send, and its command line");
   command->footer("Example:\n  tarnview-cli upload turbo.map --dry-run --settings Tarnview.ini");
   auto options = std::make_shared<UploadCommandOptions>();
   command->add_option("MAP", options->map, "The MAP file")->required()->check(CLI::ExistingFile);
-  command->add_flag("--dry-run", options->dryRun, "There is no upload from here: it only shows what would be sent")
+  command
+      ->add_flag("--dry-run", options->dryRun,
+                 "There is no upload from here: it only shows what would be sent")
       ->required();
-  command->add_option("--settings", options->settings, "Read this Tarnview.ini: chip, programs, port, upload defaults")
+  command
+      ->add_option("--settings", options->settings,
+                   "Read this Tarnview.ini: chip, programs, port, upload defaults")
       ->check(CLI::ExistingFile);
   command->add_option("--compare", options->compare, "Only what differs from this log or MAP file");
   command->add_option("--auto-tune", options->autoTune, "How the ECU tunes itself afterwards")

@@ -31,7 +31,8 @@ std::optional<ZoneMap> ZonesOf(const LogOptions& options) {
 /// "RPM" of "Rev Limit (RPM)"; "" for a label without.
 std::string UnitOf(std::string_view label) {
   const auto open = label.find('('), close = label.find(')');
-  return open < close && close != label.npos ? std::string(label.substr(open + 1, close - open - 1)) : "";
+  return open < close && close != label.npos ? std::string(label.substr(open + 1, close - open - 1))
+                                             : "";
 }
 
 /// Of a cell its own name, "zf215".
@@ -105,7 +106,9 @@ Json DifferencesJson(const ZoneMap& here, const ZoneMap& there) {
                            {"here", ShownText(here, hereShown, zone)},
                            {"there", ShownText(there, thereShown, zone)}});
   }
-  return {{"differences", std::move(differences)}, {"chip_here", ChipJson(here)}, {"chip_there", ChipJson(there)}};
+  return {{"differences", std::move(differences)},
+          {"chip_here", ChipJson(here)},
+          {"chip_there", ChipJson(there)}};
 }
 
 int Compare(const ZonesOptions& options, const ZoneMap& here) {
@@ -136,13 +139,18 @@ int Zones(const ZonesOptions& options) {
 }  // namespace
 
 void AddZonesCommand(CLI::App& program, int& status) {
-  CLI::App* command = program.add_subcommand("zones", "Tells, compares or writes the zone settings of a map or a log");
+  CLI::App* command = program.add_subcommand(
+      "zones", "Tells, compares or writes the zone settings of a map or a log");
   command->footer("Example:\n  tarnview-cli zones run.txt --to run.map");
   auto options = std::make_shared<ZonesOptions>();
   command->add_option("FILE", options->file.log, "A MAP file, or a log with zones")->required();
-  command->add_option("--type", options->file.fileType, "File type, 1 or 2; without it the type is guessed")
+  command
+      ->add_option("--type", options->file.fileType,
+                   "File type, 1 or 2; without it the type is guessed")
       ->check(CLI::Range(1, 2));
-  command->add_option("--settings", options->file.settings, "Read this Tarnview.ini for what a file does not say")
+  command
+      ->add_option("--settings", options->file.settings,
+                   "Read this Tarnview.ini for what a file does not say")
       ->check(CLI::ExistingFile);
   command->add_flag("--json", options->json, "Every value as the zone editor shows it");
   command->add_option("--compare", options->compareWith, "The differences to this map or log");

@@ -10,15 +10,17 @@
 namespace tarnview {
 namespace {
 
-const std::vector<std::string> kStyles{"Solid", "Dotted", "Dashed"};                           // from 1
-const std::vector<std::string> kWidths{"Thinnest", "Thinner", "Medium", "Fatter", "Fattest"};  // from 1
+const std::vector<std::string> kStyles{"Solid", "Dotted", "Dashed"};  // from 1
+const std::vector<std::string> kWidths{"Thinnest", "Thinner", "Medium", "Fatter",
+                                       "Fattest"};  // from 1
 
 /// Of a pen, in tenths of an item's line width.
 constexpr int kPenWidths = 10;
 
 }  // namespace
 
-DataItemPage::DataItemPage(OptionsControls& window, OptionsDraft& draft) : window_(window), draft_(draft) {
+DataItemPage::DataItemPage(OptionsControls& window, OptionsDraft& draft)
+    : window_(window), draft_(draft) {
   window_.imgcboDataStyle.SetList(kStyles);
   window_.imgcboDataWidth.SetList(kWidths);
   UpdateFamilies();
@@ -82,7 +84,8 @@ void DataItemPage::PopulateDataItemDisplay() {
   filling_ = true;
   window_.imgcboDataStyle.SetListIndex(static_cast<int>(item->lngLineStyle) - 1);
   if (window_.imgcboDataStyle.ListIndex() < 0)
-    window_.imgcboDataStyle.SetListIndex(static_cast<int>(kStyles.size()) - 1);  // any other number is dashed
+    window_.imgcboDataStyle.SetListIndex(static_cast<int>(kStyles.size()) -
+                                         1);  // any other number is dashed
   window_.imgcboDataWidth.SetListIndex(static_cast<int>(item->lngLineWidth) - 1);
   window_.picDataColour.BackColour = item->lngColour;
   window_.txtFactor.Text = ShortestText(item->dblSampleDisplayFactor);

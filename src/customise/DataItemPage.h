@@ -5,7 +5,8 @@
 
 namespace tarnview {
 
-/// The page on which data items are shown or hidden and get their line, colour and factor. All goes into the draft.
+/// The page on which data items are shown or hidden and get their line, colour and factor. All goes
+/// into the draft.
 class DataItemPage {
  public:
   DataItemPage(OptionsControls& window, OptionsDraft& draft);

@@ -35,7 +35,8 @@ FindSetting::FindSetting(OptionsControls& window, const OptionFields& fields) : 
   };
 }
 
-/// A label's words are those of the control behind it; a page's are those of what stands between it and the next.
+/// A label's words are those of the control behind it; a page's are those of what stands between it
+/// and the next.
 void FindSetting::AddWords(const OptionFields& fields) {
   const auto& tabs = window_.tabOptions.Tabs();
   int page = 0;
@@ -46,20 +47,23 @@ void FindSetting::AddWords(const OptionFields& fields) {
     if (control == &window_.cmdOK) break;
     if (control->Kind() == "label") label = Words(CaptionOf(*control));
     if (page == 0 || !control->TakesFocus()) continue;
-    places_.push_back({control, page, label + Words(CaptionOf(*control)) + Words(control->ToolTip())});
+    places_.push_back(
+        {control, page, label + Words(CaptionOf(*control)) + Words(control->ToolTip())});
     label.clear();
   }
   for (const OptionFields::Field& field : fields.All()) {
-    auto place =
-        std::find_if(places_.begin(), places_.end(), [&](const Place& p) { return p.control == field.control; });
+    auto place = std::find_if(places_.begin(), places_.end(),
+                              [&](const Place& p) { return p.control == field.control; });
     if (place == places_.end()) {
       // A path: the row knows its page.
       const std::string window = field.row.setIn.window;
-      const auto tab =
-          std::find_if(tabs.begin(), tabs.end(), [&](const auto& t) { return window.ends_with("/" + t.caption); });
+      const auto tab = std::find_if(tabs.begin(), tabs.end(), [&](const auto& t) {
+        return window.ends_with("/" + t.caption);
+      });
       const int its = static_cast<int>(tab - tabs.begin()) + 1;
       places_.push_back({field.control, its,
-                         Words(CaptionOf(window_.lblPath(field.control->index))) + Words(field.control->ToolTip())});
+                         Words(CaptionOf(window_.lblPath(field.control->index))) +
+                             Words(field.control->ToolTip())});
       place = places_.end() - 1;
     }
     place->words += Words(field.row.key);
@@ -69,8 +73,9 @@ void FindSetting::AddWords(const OptionFields& fields) {
 const FindSetting::Place* FindSetting::Find(const std::string& text) const {
   const std::string wanted = Upper(Trim(text));
   if (wanted.empty()) return nullptr;
-  const auto found = std::find_if(places_.begin(), places_.end(),
-                                  [&](const Place& place) { return place.words.find(wanted) != std::string::npos; });
+  const auto found = std::find_if(places_.begin(), places_.end(), [&](const Place& place) {
+    return place.words.find(wanted) != std::string::npos;
+  });
   return found == places_.end() ? nullptr : &*found;
 }
 

@@ -8,7 +8,8 @@
 
 namespace tarnview {
 
-/// "Find a Setting": goes to the page and the control whose caption, key or tool tip holds a text, in any case.
+/// "Find a Setting": goes to the page and the control whose caption, key or tool tip holds a text,
+/// in any case.
 class FindSetting {
  public:
   FindSetting(OptionsControls& window, const OptionFields& fields);

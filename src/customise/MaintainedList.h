@@ -17,7 +17,8 @@ class MaintainedList {
   virtual int lngLogFamily(int position) const = 0;
   virtual bool HasFamilies() const = 0;
 
-  /// Lets the user fill in a blank record, of that family in a list that knows families; at the end of the list on OK.
+  /// Lets the user fill in a blank record, of that family in a list that knows families; at the end
+  /// of the list on OK.
   virtual bool New(int lngLogFamily) = 0;
   /// Lets the user work on a copy of a record, which takes its place on OK.
   virtual bool Modify(int position) = 0;
@@ -34,7 +35,8 @@ class MaintainedCollection : public MaintainedList {
   /// Shows the detail window; true on OK, with what the user made of the record in it.
   using DetailWindow = std::function<bool(Record&)>;
 
-  MaintainedCollection(const Collection& col, DetailWindow edit) : Col(col.Duplicate()), edit_(std::move(edit)) {}
+  MaintainedCollection(const Collection& col, DetailWindow edit)
+      : Col(col.Duplicate()), edit_(std::move(edit)) {}
 
   Collection Col;
 

@@ -26,13 +26,15 @@ Control* FindByFullName(const Form& form, std::string_view name) {
 int FirstOf(const ComboBox& list) { return list.name == "cboHumidityType" ? 0 : 1; }
 
 /// What a flag's row says of its limits are its two texts, "Y or N".
-std::string FlagText(const SettingRow& row, bool on) { return {on ? row.limits.front() : row.limits.back()}; }
+std::string FlagText(const SettingRow& row, bool on) {
+  return {on ? row.limits.front() : row.limits.back()};
+}
 
 void ShowIn(Control& control, const SettingRow& row, const Settings& settings) {
   const std::string text = row.text(settings);
   if (control.name == kChipType)
-    dynamic_cast<ComboBox&>(control).Text =
-        std::string(SetChipTypeCombo(settings.gdblDefaultEngineSize, settings.gintDefaultChipVersion));
+    dynamic_cast<ComboBox&>(control).Text = std::string(
+        SetChipTypeCombo(settings.gdblDefaultEngineSize, settings.gintDefaultChipVersion));
   else if (control.name == kChipDate)
     dynamic_cast<TextBox&>(control).Text = DayText(settings.gdatDefaultChipDate);
   else if (auto* field = dynamic_cast<TextBox*>(&control))
@@ -62,7 +64,8 @@ void TakeFrom(const Control& control, const SettingRow& row, Settings& settings)
 OptionFields::OptionFields(const Form& form) {
   for (SettingRow& row : AllSettings())
     if (std::string_view(row.setIn.window).starts_with(kWindow))
-      if (Control* control = FindByFullName(form, row.setIn.control)) fields_.push_back({std::move(row), control});
+      if (Control* control = FindByFullName(form, row.setIn.control))
+        fields_.push_back({std::move(row), control});
 }
 
 void OptionFields::Show(const Settings& settings) {
@@ -87,7 +90,8 @@ void OptionFields::Settle(const Control& control) {
   const Settings shown = Shown();
   chipDate_ = shown.gdatDefaultChipDate;
   for (const Field& field : fields_)
-    if (field.control == &control && dynamic_cast<TextBox*>(field.control)) ShowIn(*field.control, field.row, shown);
+    if (field.control == &control && dynamic_cast<TextBox*>(field.control))
+      ShowIn(*field.control, field.row, shown);
 }
 
 void OptionFields::SettleAll() {

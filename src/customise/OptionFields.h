@@ -7,8 +7,8 @@
 
 namespace tarnview {
 
-/// The settings that the Options window shows, each in the control that its row of AllSettings names, by the rule by
-/// which the settings file is read.
+/// The settings that the Options window shows, each in the control that its row of AllSettings
+/// names, by the rule by which the settings file is read.
 class OptionFields {
  public:
   struct Field {
@@ -22,8 +22,8 @@ class OptionFields {
   void Show(const Settings& settings);
   /// What the controls hold now.
   void Take(Settings& settings) const;
-  /// Brings the text of a field into its limits; what is none of its kind becomes the default, a date the last good
-  /// one.
+  /// Brings the text of a field into its limits; what is none of its kind becomes the default, a
+  /// date the last good one.
   void Settle(const Control& control);
   void SettleAll();
 

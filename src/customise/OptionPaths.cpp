@@ -17,21 +17,25 @@ struct PathRow {
 
 constexpr const char* kPrograms = "Programs (*.exe)|*.exe|All Files (*.*)|*.*";
 constexpr const char* kTexts = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
-constexpr const char* kPictures = "Pictures (*.bmp;*.jpg;*.png)|*.bmp;*.jpg;*.png|All Files (*.*)|*.*";
+constexpr const char* kPictures =
+    "Pictures (*.bmp;*.jpg;*.png)|*.bmp;*.jpg;*.png|All Files (*.*)|*.*";
 
 constexpr PathRow kPaths[] = {
     {LogEXE, Wanted::Program, "Data Logging/Upload Progra&m",
-     "Path and file name of the program that captures logs from the ECU and uploads to it", kPrograms},
+     "Path and file name of the program that captures logs from the ECU and uploads to it",
+     kPrograms},
     {ConversionEXE, Wanted::Program, "Data Log Con&version Program",
      "Path and file name of the program that turns binary logs into text", kPrograms},
     {BackgroundPicture, Wanted::FileOrNone, "Alternative Background &Picture",
      "Path and file name of the picture behind an empty graph", kPictures},
-    {WorkingDirectory, Wanted::Folder, "Default &Working Directory", "Folder in which logs are looked for and created",
-     ""},
+    {WorkingDirectory, Wanted::Folder, "Default &Working Directory",
+     "Folder in which logs are looked for and created", ""},
     {AuxConversionFile, Wanted::FileOrNone, "Au&x Input Conversion File",
-     "Path and file name of the conversion table of the Aux input; empty for the built-in one", kTexts},
+     "Path and file name of the conversion table of the Aux input; empty for the built-in one",
+     kTexts},
     {O2ConversionFile, Wanted::FileOrNone, "O&2 Input Conversion File",
-     "Path and file name of the conversion table of the O2 input; empty for the built-in one", kTexts},
+     "Path and file name of the conversion table of the O2 input; empty for the built-in one",
+     kTexts},
     {DefinitionFile, Wanted::FileOrNone, "&Universal Data Log Definition File",
      "Path and file name of the definition of Universal logs; empty for the built-in one", kTexts},
 };

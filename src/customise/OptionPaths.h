@@ -13,8 +13,8 @@ class OptionPaths {
  public:
   OptionPaths(OptionsControls& window, FileSystem& files, Messages& messages);
 
-  /// The text of a path is good; if not, the user has been told. A working directory gets its last separator. Of the
-  /// definition file only that it is there.
+  /// The text of a path is good; if not, the user has been told. A working directory gets its last
+  /// separator. Of the definition file only that it is there.
   bool ValidatePath(int index);
 
  private:

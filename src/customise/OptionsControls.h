@@ -27,8 +27,8 @@ enum PathIndex : int {
   kPathCount
 };
 
-/// The controls of the Options window. No behaviour: that is frmOptions's. A page's frame stands before what it holds;
-/// the paths, which are one array on two pages, stand before all pages.
+/// The controls of the Options window. No behaviour: that is frmOptions's. A page's frame stands
+/// before what it holds; the paths, which are one array on two pages, stand before all pages.
 class OptionsControls : public Form {
  public:
   explicit OptionsControls(Host& itsHost) : Form(itsHost, "frmOptions", "Options") {}

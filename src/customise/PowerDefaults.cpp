@@ -19,8 +19,10 @@ struct Humidity {
   const char* toolTip;
 };
 constexpr Humidity kHumidities[] = {
-    {"Rel. Humidity", "Relati&ve Humidity (%)", "Default environmental relative humidity during Power Runs"},
-    {"Wet Bulb", "Wet &Bulb Temp ('C)", "Default environmental wet bulb temperature during Power Runs"},
+    {"Rel. Humidity", "Relati&ve Humidity (%)",
+     "Default environmental relative humidity during Power Runs"},
+    {"Wet Bulb", "Wet &Bulb Temp ('C)",
+     "Default environmental wet bulb temperature during Power Runs"},
 };
 
 template <class Rows>
@@ -48,23 +50,25 @@ PowerDefaults::PowerDefaults(OptionsControls& window) : window_(window) {
 
 void PowerDefaults::EnableAutoGearFields() {
   const bool on = window_.chkPowerGraphGearSelection.Value;
-  for (Control* follower : std::initializer_list<Control*>{&window_.lblSpeedUnits, &window_.cboSpeedUnits,
-                                                           &window_.lblmsConvFactor, &window_.txtmsConvFactor})
+  for (Control* follower :
+       std::initializer_list<Control*>{&window_.lblSpeedUnits, &window_.cboSpeedUnits,
+                                       &window_.lblmsConvFactor, &window_.txtmsConvFactor})
     follower->Enabled = on;
 }
 
 void PowerDefaults::EnableSAE() {
   const bool on = window_.chkSAE.Value;
-  for (Control* follower :
-       std::initializer_list<Control*>{&window_.lblHumidityType, &window_.cboHumidityType, &window_.lblAmbTemp,
-                                       &window_.txtAmbTemp, &window_.lblAtmos, &window_.txtAtmos, &window_.lblRH,
-                                       &window_.txtRH, &window_.lblCorrFactor, &window_.txtCorrFactor})
+  for (Control* follower : std::initializer_list<Control*>{
+           &window_.lblHumidityType, &window_.cboHumidityType, &window_.lblAmbTemp,
+           &window_.txtAmbTemp, &window_.lblAtmos, &window_.txtAtmos, &window_.lblRH,
+           &window_.txtRH, &window_.lblCorrFactor, &window_.txtCorrFactor})
     follower->Enabled = on;
 }
 
 void PowerDefaults::cboSpeedUnits_Click() {
   const int unit = window_.cboSpeedUnits.ListIndex();
-  if (unit >= 0 && *kSpeedUnits[unit].factor) window_.txtmsConvFactor.Text = std::string(kSpeedUnits[unit].factor);
+  if (unit >= 0 && *kSpeedUnits[unit].factor)
+    window_.txtmsConvFactor.Text = std::string(kSpeedUnits[unit].factor);
 }
 
 void PowerDefaults::cboHumidityType_Click() {
@@ -78,9 +82,9 @@ void PowerDefaults::cboHumidityType_Click() {
 void PowerDefaults::ReCalculateCorrectionFactor() {
   const int type = window_.cboHumidityType.ListIndex();
   if (type < 0) return;
-  window_.txtCorrFactor.Text =
-      CorrectionFactor({StringToLong(window_.txtAmbTemp.Text()), StringToLong(window_.txtAtmos.Text()),
-                        window_.txtRH.Text(), static_cast<HumidityType>(type)});
+  window_.txtCorrFactor.Text = CorrectionFactor(
+      {StringToLong(window_.txtAmbTemp.Text()), StringToLong(window_.txtAtmos.Text()),
+       window_.txtRH.Text(), static_cast<HumidityType>(type)});
 }
 
 }  // namespace tarnview

@@ -13,13 +13,14 @@
 namespace tarnview {
 namespace {
 
-constexpr TextEncoding kEncodings[] = {TextEncoding::Windows1252, TextEncoding::Utf8, TextEncoding::Utf16LE,
-                                       TextEncoding::Utf16BE};
+constexpr TextEncoding kEncodings[] = {TextEncoding::Windows1252, TextEncoding::Utf8,
+                                       TextEncoding::Utf16LE, TextEncoding::Utf16BE};
 constexpr char kDelimiters[] = {'\t', ';', ',', '|', ' '};
 constexpr char kDecimalSigns[] = {'.', ','};
 constexpr TimeForm kForms[] = {
-    TimeForm::Seconds, TimeForm::Milliseconds, TimeForm::Microseconds,     TimeForm::Minutes, TimeForm::Hours,
-    TimeForm::Days,    TimeForm::Unix,         TimeForm::UnixMilliseconds, TimeForm::Clock,   TimeForm::DateAndTime};
+    TimeForm::Seconds, TimeForm::Milliseconds, TimeForm::Microseconds, TimeForm::Minutes,
+    TimeForm::Hours,   TimeForm::Days,         TimeForm::Unix,         TimeForm::UnixMilliseconds,
+    TimeForm::Clock,   TimeForm::DateAndTime};
 constexpr const char* kOwnItem = "An item of the log's own";
 constexpr double kUsualLinesASecond = 10;
 constexpr int kHeadLines = 60;
@@ -29,8 +30,8 @@ struct LineKind {
   const char* word;
   long colour;
 };
-constexpr LineKind kPreamble{"Preamble", 0xB0B0B0}, kTitles{"Titles", 0xD07030}, kUnitsOf{"Units", 0x30A0D0},
-    kData{"Data", 0x50A050};
+constexpr LineKind kPreamble{"Preamble", 0xB0B0B0}, kTitles{"Titles", 0xD07030},
+    kUnitsOf{"Units", 0x30A0D0}, kData{"Data", 0x50A050};
 
 LineKind KindOfLine(int line, const ShapeRows& rows) {
   if (line == rows.titleLine) return kTitles;
@@ -49,7 +50,8 @@ std::string LineText(int line) { return line < 0 ? "" : std::to_string(line + 1)
 }  // namespace
 
 frmLogDescription::frmLogDescription(Host& itsHost, FileBytes bytes, const std::string& path,
-                                     const TitleDictionary& titles, const clsLogDataItems& catalogue)
+                                     const TitleDictionary& titles,
+                                     const clsLogDataItems& catalogue)
     : Form(itsHost, "frmLogDescription", "New Log Description"),
       bytes_(std::move(bytes)),
       extension_(GetExtension(path)),
@@ -63,19 +65,23 @@ frmLogDescription::frmLogDescription(Host& itsHost, FileBytes bytes, const std::
   Look();
   const auto choose = [this](auto take) { return [this, take] { TakeChoice(take); }; };
   cboEncoding.Click = choose([this] { choices_.encoding = kEncodings[cboEncoding.ListIndex()]; });
-  cboDelimiter.Click = choose([this] { choices_.delimiter = kDelimiters[cboDelimiter.ListIndex()]; });
-  cboDecimalSign.Click = choose([this] { choices_.decimalSign = kDecimalSigns[cboDecimalSign.ListIndex()]; });
+  cboDelimiter.Click =
+      choose([this] { choices_.delimiter = kDelimiters[cboDelimiter.ListIndex()]; });
+  cboDecimalSign.Click =
+      choose([this] { choices_.decimalSign = kDecimalSigns[cboDecimalSign.ListIndex()]; });
   cboTimeColumn.Click = choose([this] { choices_.timeColumn = cboTimeColumn.ListIndex() - 1; });
   cboTimeForm.Click = choose([this] { choices_.timeForm = kForms[cboTimeForm.ListIndex()]; });
   txtTitleLine.LostFocus = choose([this] { TakeLine(choices_.titleLine, txtTitleLine); });
   txtUnitsLine.LostFocus = choose([this] { TakeLine(choices_.unitsLine, txtUnitsLine); });
   txtDataLine.LostFocus = choose([this] { TakeLine(choices_.dataLine, txtDataLine); });
-  txtLineFrequency.LostFocus =
-      choose([this] { choices_.lineFrequency = std::clamp(StringToDouble(txtLineFrequency.Text()), 0.0, 100000.0); });
+  txtLineFrequency.LostFocus = choose([this] {
+    choices_.lineFrequency = std::clamp(StringToDouble(txtLineFrequency.Text()), 0.0, 100000.0);
+  });
   lvwColumns.ItemClick = [this](int) { ShowColumn(); };
   cboItem.Click = [this] { TakeColumn(); };
   chkShown.Click = [this] { TakeColumn(); };
-  for (TextBox* box : {&txtFactor, &txtOffset, &txtUnit, &txtDecimals}) box->LostFocus = [this] { TakeColumn(); };
+  for (TextBox* box : {&txtFactor, &txtOffset, &txtUnit, &txtDecimals})
+    box->LostFocus = [this] { TakeColumn(); };
   cmdOK.Click = [this] { Accept(); };
   cmdCancel.Click = [this] { Unload(); };
 }
@@ -93,7 +99,8 @@ void frmLogDescription::FillLists() {
   cboTimeForm.SetList(std::move(texts));
   texts = {kOwnItem};
   for (const clsLogDataItem* item : catalogue_.InDisplayOrder())
-    if (item->intSeq != ItemOf(kSample) && item->intSeq != ItemOf(kSecs)) texts.push_back(item->strShortName);
+    if (item->intSeq != ItemOf(kSample) && item->intSeq != ItemOf(kSecs))
+      texts.push_back(item->strShortName);
   cboItem.SetList(std::move(texts));
 }
 
@@ -113,7 +120,8 @@ void frmLogDescription::Look() {
   shape_ = ReadLogShape(bytes_, titles_, catalogue_, choices_);
   for (std::size_t at = 0; at < shape_.columns.size(); ++at) {
     const auto edited = edited_.find(shape_.columns[at].header);
-    if (edited != edited_.end() && static_cast<int>(at) != shape_.time.column) shape_.items[at] = edited->second;
+    if (edited != edited_.end() && static_cast<int>(at) != shape_.time.column)
+      shape_.items[at] = edited->second;
   }
   showing_ = true;
   ShowFindings();
@@ -149,7 +157,8 @@ void frmLogDescription::ShowHead() {
     constexpr std::size_t kShown = 400;
     std::string shown(text.head[static_cast<std::size_t>(line)].substr(0, kShown));
     std::replace(shown.begin(), shown.end(), '\t', ' ');
-    rows.push_back({{std::to_string(line + 1), kind.word, std::move(shown)}, "", "", false, 0, kind.colour});
+    rows.push_back(
+        {{std::to_string(line + 1), kind.word, std::move(shown)}, "", "", false, 0, kind.colour});
   }
   lvwHead.SetRows(std::move(rows));
 }
@@ -162,7 +171,8 @@ void frmLogDescription::ShowColumns() {
     const ShapeItem& item = shape_.items[at];
     const bool number = column.content == ColumnContent::Number;
     const std::string name = item.item >= kFirstOwnItem ? "Own" : item.name;
-    rows.push_back({{column.title, column.unit, Join(column.first, "  "), number ? NumberText(column.lowest) : "",
+    rows.push_back({{column.title, column.unit, Join(column.first, "  "),
+                     number ? NumberText(column.lowest) : "",
                      number ? NumberText(column.highest) : "", name, std::to_string(item.places)},
                     std::to_string(at),
                     item.why});
@@ -174,7 +184,8 @@ void frmLogDescription::ShowColumns() {
 
 ShapeItem* frmLogDescription::Selected() {
   const int row = lvwColumns.SelectedRow();
-  return row < 1 ? nullptr : &shape_.items[static_cast<std::size_t>(StringToLong(lvwColumns.At(row).tag))];
+  return row < 1 ? nullptr
+                 : &shape_.items[static_cast<std::size_t>(StringToLong(lvwColumns.At(row).tag))];
 }
 
 void frmLogDescription::ShowColumn() {
@@ -182,8 +193,8 @@ void frmLogDescription::ShowColumn() {
   showing_ = true;
   const ShapeItem* item = Selected();
   const bool editable = item && item->item != ItemOf(kSecs);
-  for (Control* control :
-       std::initializer_list<Control*>{&cboItem, &txtFactor, &txtOffset, &txtUnit, &txtDecimals, &chkShown})
+  for (Control* control : std::initializer_list<Control*>{&cboItem, &txtFactor, &txtOffset,
+                                                          &txtUnit, &txtDecimals, &chkShown})
     control->Enabled = editable;
   if (item) {
     cboItem.Text = item->item >= kFirstOwnItem ? std::string(kOwnItem) : item->name;
@@ -196,8 +207,8 @@ void frmLogDescription::ShowColumn() {
   showing_ = was;
 }
 
-/// What the fields below the columns hold goes to the selected one. Of two columns that want one item of the catalogue
-/// the other gets an item of its own.
+/// What the fields below the columns hold goes to the selected one. Of two columns that want one
+/// item of the catalogue the other gets an item of its own.
 void frmLogDescription::TakeColumn() {
   ShapeItem* item = Selected();
   if (showing_ || !item || item->item == ItemOf(kSecs)) return;
@@ -207,7 +218,8 @@ void frmLogDescription::TakeColumn() {
   const int wanted = known ? known->intSeq : own;
   if (wanted != item->item) {
     for (std::size_t other = 0; other < shape_.items.size(); ++other)
-      if (shape_.items[other].item == wanted) shape_.items[other].item = kFirstOwnItem + static_cast<int>(other);
+      if (shape_.items[other].item == wanted)
+        shape_.items[other].item = kFirstOwnItem + static_cast<int>(other);
     item->item = wanted;
     item->name = known ? known->strShortName : shape_.columns[at].title;
     item->description = known ? known->strLongName : shape_.columns[at].title;

@@ -16,12 +16,12 @@
 
 namespace tarnview {
 
-/// Describes a log of unknown form: what was found of it beside its text, each finding a choice, and each column with
-/// the item that it becomes. OK gives a definition.
+/// Describes a log of unknown form: what was found of it beside its text, each finding a choice,
+/// and each column with the item that it becomes. OK gives a definition.
 class frmLogDescription : public Form {
  public:
-  frmLogDescription(Host& itsHost, FileBytes bytes, const std::string& path, const TitleDictionary& titles,
-                    const clsLogDataItems& catalogue);
+  frmLogDescription(Host& itsHost, FileBytes bytes, const std::string& path,
+                    const TitleDictionary& titles, const clsLogDataItems& catalogue);
 
   // What the text is.
   Label lblEncoding{*this, "lblEncoding", "&Encoding"};
@@ -45,10 +45,15 @@ class frmLogDescription : public Form {
   ListView lvwHead{*this, "lvwHead", {{"Line", true}, {"Is"}, {"Text"}}};
   Label lblWhy{*this, "lblWhy", ""};
   // What its columns become.
-  ListView lvwColumns{
-      *this,
-      "lvwColumns",
-      {{"Title"}, {"Unit"}, {"First Values"}, {"Lowest", true}, {"Highest", true}, {"Item"}, {"Decimals", true}}};
+  ListView lvwColumns{*this,
+                      "lvwColumns",
+                      {{"Title"},
+                       {"Unit"},
+                       {"First Values"},
+                       {"Lowest", true},
+                       {"Highest", true},
+                       {"Item"},
+                       {"Decimals", true}}};
   Label lblItem{*this, "lblItem", "&Item"};
   ComboBox cboItem{*this, "cboItem"};
   Label lblFactor{*this, "lblFactor", "Facto&r"};

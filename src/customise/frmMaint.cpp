@@ -5,8 +5,8 @@
 #include "base/Numbers.h"
 
 namespace tarnview {
-frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families,
-                   int firstFamily, Messages& messages)
+frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts,
+                   const clsLogFamilies& families, int firstFamily, Messages& messages)
     : Form(itsHost, "frmMaint", texts.FormCaption),
       col_(col),
       families_(families),
@@ -72,7 +72,9 @@ void frmMaint::UpdateButtons() {
   cmdPresetDown.Enabled = row > 0 && row < lvwNameList.Count();
 }
 
-int frmMaint::FindObject(int row) const { return row < 1 ? 0 : StringToLong(lvwNameList.At(row).tag); }
+int frmMaint::FindObject(int row) const {
+  return row < 1 ? 0 : StringToLong(lvwNameList.At(row).tag);
+}
 
 bool frmMaint::NothingSelected() {
   if (lvwNameList.SelectedRow() > 0) return false;

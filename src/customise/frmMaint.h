@@ -14,8 +14,8 @@
 
 namespace tarnview {
 
-/// Keeps a list of anything: names in an order, each with a detail window of its own. It works on a copy, which its
-/// caller takes on OK.
+/// Keeps a list of anything: names in an order, each with a detail window of its own. It works on a
+/// copy, which its caller takes on OK.
 class frmMaint : public Form {
  public:
   struct Texts {
@@ -23,8 +23,8 @@ class frmMaint : public Form {
     const char* FrameCaption;
     const char* HelpTopic;
   };
-  frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families, int firstFamily,
-           Messages& messages);
+  frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts, const clsLogFamilies& families,
+           int firstFamily, Messages& messages);
 
   Label lblLogFamily{*this, "lblLogFamily", "&Log Family"};
   ComboBox cboLogFamily{*this, "cboLogFamily"};

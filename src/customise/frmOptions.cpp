@@ -15,10 +15,11 @@ namespace {
 enum Page { GeneralPage = 1, FMLinkPage, FilesPage, DataItemsPage };
 
 /// By page.
-constexpr const char* kHelpTopics[] = {"", "OptionsGeneralTab", "OptionsFMLinkECUTab", "OptionsFileLocationsTab",
-                                       "OptionsDataItemDefinitionsTab"};
+constexpr const char* kHelpTopics[] = {"", "OptionsGeneralTab", "OptionsFMLinkECUTab",
+                                       "OptionsFileLocationsTab", "OptionsDataItemDefinitionsTab"};
 
-constexpr Page kPageOfPath[] = {FMLinkPage, FMLinkPage, FilesPage, FilesPage, FMLinkPage, FMLinkPage, FilesPage};
+constexpr Page kPageOfPath[] = {FMLinkPage, FMLinkPage, FilesPage, FilesPage,
+                                FMLinkPage, FMLinkPage, FilesPage};
 static_assert(std::size(kPageOfPath) == kPathCount);
 
 struct CaptionRow {
@@ -30,11 +31,12 @@ constexpr CaptionRow kUploadDefaults[] = {
     {"Permanently Store", "Check to save the uploaded settings into the Link permanently"},
     {"Verify Upload", "Check to verify settings reached the ECU after upload"},
     {"Upload Changes Only", "Check to only upload the changed zones to the ECU"},
-    {"Verbose Mode", "Check to show more information during the upload at the expense of upload time"},
+    {"Verbose Mode",
+     "Check to show more information during the upload at the expense of upload time"},
 };
-constexpr const char* kAngles[] = {"Initial fuel graph rotation in degrees", "Initial fuel graph elevation in degrees",
-                                   "Initial ignition graph rotation in degrees",
-                                   "Initial ignition graph elevation in degrees"};
+constexpr const char* kAngles[] = {
+    "Initial fuel graph rotation in degrees", "Initial fuel graph elevation in degrees",
+    "Initial ignition graph rotation in degrees", "Initial ignition graph elevation in degrees"};
 
 }  // namespace
 
@@ -63,7 +65,8 @@ void frmOptions::SetUpCaptions() {
     chkUploadDefs(option).Caption = std::string(kUploadDefaults[option].caption);
     chkUploadDefs(option).ToolTip = std::string(kUploadDefaults[option].toolTip);
   }
-  for (int angle = 0; angle < txt3DSpec.Count(); ++angle) txt3DSpec(angle).ToolTip = std::string(kAngles[angle]);
+  for (int angle = 0; angle < txt3DSpec.Count(); ++angle)
+    txt3DSpec(angle).ToolTip = std::string(kAngles[angle]);
   lbl3DSpec(0).Caption = std::string("Fuel");
   lbl3DSpec(1).Caption = std::string("Ignition");
   cmdLoadGeneric.ToolTip = std::string("Load the definition now, to see its data items");
@@ -124,13 +127,14 @@ bool frmOptions::ValidatePath(int index) {
   return index != DefinitionFile || LoadDataLogDefinitionLocal();
 }
 
-/// The definition of txtPath(6), or the built-in one for none, becomes the draft's. One with a fault has been told of,
-/// and the old one stays.
+/// The definition of txtPath(6), or the built-in one for none, becomes the draft's. One with a
+/// fault has been told of, and the old one stays.
 bool frmOptions::LoadDataLogDefinitionLocal() {
   const std::string path = txtPath(DefinitionFile).Text();
   const clsLogDataItems& fixed = draft_.catalogue.gcolFixedDataItems;
   auto definition = path.empty() ? DefaultDataLogDefinition()
-                                 : DefinitionFiles(around_.files, around_.messages.Teller(), around_.errors, fixed)
+                                 : DefinitionFiles(around_.files, around_.messages.Teller(),
+                                                   around_.errors, fixed)
                                        .LoadDataLogDefinition(path);
   if (!definition) return false;
   if (!path.empty()) around_.messages.ShowMessage(Message::DefinitionLoaded);
@@ -146,11 +150,13 @@ bool frmOptions::LoadDataLogDefinitionLocal() {
   return true;
 }
 
-/// In their order; the first that is refused has the focus. A path that the user left alone may be as bad as it was.
+/// In their order; the first that is refused has the focus. A path that the user left alone may be
+/// as bad as it was.
 bool frmOptions::ValidatePaths() {
   for (int index = 0; index < kPathCount; ++index) {
     const std::string& text = txtPath(index).Text();
-    const bool changed = text != Opened(index) || (index == DefinitionFile && text != loadedDefinition_);
+    const bool changed =
+        text != Opened(index) || (index == DefinitionFile && text != loadedDefinition_);
     if (!changed || ValidatePath(index)) continue;
     tabOptions.Select(kPageOfPath[index]);
     txtPath(index).SetFocus();

@@ -29,7 +29,9 @@ class frmOptions : public OptionsControls {
   /// What the user made of it.
   OptionsDraft& Draft() { return draft_; }
   /// Another definition file was chosen than the window was opened with.
-  bool DefinitionChanged() const { return Accepted() && Opened(DefinitionFile) != loadedDefinition_; }
+  bool DefinitionChanged() const {
+    return Accepted() && Opened(DefinitionFile) != loadedDefinition_;
+  }
 
  protected:
   void Form_Load() override;

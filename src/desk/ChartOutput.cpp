@@ -14,13 +14,15 @@ constexpr const char* kModule = "modPrinting";
 /// The numbers of a printer that fails and of a file that cannot be written.
 constexpr long kPrinterError = 482, kPathAccessError = 75;
 
-constexpr const char* kPictureFilter = "PNG picture (*.png)|*.png|SVG drawing (*.svg)|*.svg|PDF page (*.pdf)|*.pdf";
+constexpr const char* kPictureFilter =
+    "PNG picture (*.png)|*.png|SVG drawing (*.svg)|*.svg|PDF page (*.pdf)|*.pdf";
 constexpr const char* kEndings[] = {".png", ".svg", ".pdf"};  ///< in the filter's order
 
 /// That of the chosen kind, where the user typed none.
 void AddEnding(Dialog& dialog) {
   const int last = static_cast<int>(std::size(kEndings));
-  if (GetExtension(dialog.path).empty()) dialog.path += kEndings[std::clamp(dialog.filterIndex, 1, last) - 1];
+  if (GetExtension(dialog.path).empty())
+    dialog.path += kEndings[std::clamp(dialog.filterIndex, 1, last) - 1];
 }
 
 }  // namespace
@@ -50,19 +52,22 @@ void ChartOutput::SavePictureAs(const Chart& chart, const std::string& strLogFil
   if (!ChooseFileToSave(host_, dialog, AddEnding)) return;
   std::string error;
   if (!host_.SavePicture(chart, dialog.path, error))
-    Fail("SavePictureAs", "Problem saving the picture " + dialog.path + ".", kPathAccessError, error);
+    Fail("SavePictureAs", "Problem saving the picture " + dialog.path + ".", kPathAccessError,
+         error);
 }
 
 PrintJob ChartOutput::PageOf(const Chart& chart, const PrintDetails& details) const {
   const std::string title = kApplicationTitle + details.name;
   return {title, [&chart, rows = details.rows, title](Page& page) {
             const PageLayout layout = LayOutPage(page, title, rows, page.ShapeOf(chart));
-            for (const PlacedText& text : layout.texts) page.DrawText(text.text, text.points, text.left, text.top);
+            for (const PlacedText& text : layout.texts)
+              page.DrawText(text.text, text.points, text.left, text.top);
             if (layout.picture.width > 0) page.DrawPicture(chart, layout.picture);
           }};
 }
 
-void ChartOutput::Fail(const char* procedure, const std::string& what, long number, const std::string& error) {
+void ChartOutput::Fail(const char* procedure, const std::string& what, long number,
+                       const std::string& error) {
   if (error.empty()) return;
   errors_.LogError(kModule, procedure, RuntimeError(number, error), false);
   messages_.Tell(what + "\r\n\r\n" + error, kBoxExclamation);

@@ -13,8 +13,9 @@ namespace tarnview {
 
 /// What stands above the picture on a printed page.
 struct PrintDetails {
-  std::string name;                                       ///< " Sample Graph", behind the program's title
-  std::vector<std::pair<std::string, std::string>> rows;  ///< label and value; an empty label goes on with the last
+  std::string name;  ///< " Sample Graph", behind the program's title
+  std::vector<std::pair<std::string, std::string>>
+      rows;  ///< label and value; an empty label goes on with the last
 };
 
 /// What each window with a chart offers: the picture on the clipboard, on paper and in a file.

@@ -17,8 +17,8 @@ struct Command {
   std::function<bool()> mayRun;  ///< empty: always
 };
 
-/// The commands of a window as one list. Handlers end errors in the error log; enabled states are worked out in one
-/// place.
+/// The commands of a window as one list. Handlers end errors in the error log; enabled states are
+/// worked out in one place.
 class Commands {
  public:
   Commands(ErrorLog& errors, const char* module) : errors_(errors), module_(module) {}

@@ -12,8 +12,8 @@ class EXEFunctions {
  public:
   EXEFunctions(Processes& processes, Host& host) : processes_(processes), host_(host) {}
 
-  /// Runs a program in a folder and waits with no time limit, until the user wants to wait no longer. Meanwhile the
-  /// windows are drawn and take no input.
+  /// Runs a program in a folder and waits with no time limit, until the user wants to wait no
+  /// longer. Meanwhile the windows are drawn and take no input.
   RunResult RunAndWait(const ProgramCall& call, const std::string& folder);
   /// Whether a program that the user stopped waiting for is still at work.
   bool IsAnyLeftAlone() { return processes_.IsAnyLeftAlone(); }

@@ -8,7 +8,8 @@ namespace {
 
 constexpr const char* kLauncher = "HelpLauncher.htm";
 
-/// A path as a page names it: "#", a blank or a letter beyond ASCII would end the name or change it.
+/// A path as a page names it: "#", a blank or a letter beyond ASCII would end the name or change
+/// it.
 std::string UrlOf(const std::string& path) {
   constexpr std::string_view kPlain = "/:-._~";
   constexpr const char* kHex = "0123456789ABCDEF";
@@ -29,7 +30,8 @@ std::string UrlOf(const std::string& path) {
 
 void Help::ShowHelp(const std::string& topic) {
   const std::string contents = UrlOf(folder_ + "Contents.htm");
-  const std::string instructions = UrlOf(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
+  const std::string instructions =
+      UrlOf(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
   const std::string page =
       "<HEAD><title>Tarnview Instructions</title></HEAD>\r\n"
       "<frameset cols=\"216,1*\">\r\n"

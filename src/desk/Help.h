@@ -8,12 +8,12 @@
 
 namespace tarnview {
 
-/// The manual: "Contents.htm" and "Instructions.htm" in a folder. Where the desktop has no window for it, they are
-/// opened side by side by a page written there.
+/// The manual: "Contents.htm" and "Instructions.htm" in a folder. Where the desktop has no window
+/// for it, they are opened side by side by a page written there.
 class Help {
  public:
-  /// `folder` is the manual's folder, "Documentation", with a separator at its end. Where nothing can be written there,
-  /// the page goes to `writableFolder`.
+  /// `folder` is the manual's folder, "Documentation", with a separator at its end. Where nothing
+  /// can be written there, the page goes to `writableFolder`.
   Help(FileSystem& files, EXEFunctions& programs, Messages& messages, std::string folder,
        std::string writableFolder = "")
       : files_(files),

@@ -20,12 +20,14 @@ constexpr WrongFile kWrongFiles[] = {
     {Message::NotATec3Log, 4, 4},
     {Message::NotAMapFile, 2, 2},
     {Message::NotAUTECCSVLog, 6, 6},
-    // Kept as it has always read: "That doesn't look like a UTEC Fixed-Width  file to me.", with two blanks.
+    // Kept as it has always read: "That doesn't look like a UTEC Fixed-Width  file to me.", with
+    // two blanks.
     {Message::NotAUTECFixedLog, 7, 6},
 };
 
 /// What went wrong here is of use to whoever mends it.
-constexpr Message kOwnFailures[] = {Message::SomethingWentWrong, Message::HelpFailed, Message::SettingsNotWritten};
+constexpr Message kOwnFailures[] = {Message::SomethingWentWrong, Message::HelpFailed,
+                                    Message::SettingsNotWritten};
 
 }  // namespace
 
@@ -33,7 +35,8 @@ Messages::Messages(Host& host, std::function<std::string(int)> fileTypeDescripti
     : host_(host), fileTypeDescription_(std::move(fileTypeDescription)) {}
 
 void Messages::ShowMessage(Message id, bool nonModal, const std::string& extra) {
-  const bool ownFailure = std::find(std::begin(kOwnFailures), std::end(kOwnFailures), id) != std::end(kOwnFailures);
+  const bool ownFailure =
+      std::find(std::begin(kOwnFailures), std::end(kOwnFailures), id) != std::end(kOwnFailures);
   if (Failed && ownFailure) Failed(id, BoxOf(id, extra).text);
   if (nonModal && ShowNonModal)
     ShowNonModal(id, BoxOf(id, extra).text);
@@ -50,14 +53,17 @@ void Messages::ShowMessageWithOffer(Message id, const std::string& extra, const 
 }
 
 bool Messages::AskQuestion(Question id, bool defaultNo) {
-  return Tell(QuestionText(id), kBoxYesNo | kBoxQuestion | (defaultNo ? kBoxSecondIsDefault : 0)) == Reply::Yes;
+  return Tell(QuestionText(id), kBoxYesNo | kBoxQuestion | (defaultNo ? kBoxSecondIsDefault : 0)) ==
+         Reply::Yes;
 }
 
 TellMessage Messages::Teller() {
   return [this](Message id, const std::string& extra) { ShowMessage(id, false, extra); };
 }
 
-Reply Messages::Tell(const std::string& text, int style) { return host_.Ask({0, text, style, kApplicationTitle}); }
+Reply Messages::Tell(const std::string& text, int style) {
+  return host_.Ask({0, text, style, kApplicationTitle});
+}
 
 Box Messages::BoxOf(Message id, const std::string& extra) const {
   Box box{static_cast<int>(id), Text(id), Style(id), kApplicationTitle};
@@ -70,12 +76,15 @@ Box Messages::BoxOf(Message id, const std::string& extra) const {
 
 std::string Messages::Text(Message id) const {
   if (const MessageRow* row = FindMessage(id)) return row->text;
-  const auto wrong =
-      std::find_if(std::begin(kWrongFiles), std::end(kWrongFiles), [id](const auto& row) { return row.id == id; });
+  const auto wrong = std::find_if(std::begin(kWrongFiles), std::end(kWrongFiles),
+                                  [id](const auto& row) { return row.id == id; });
   if (wrong == std::end(kWrongFiles)) return "Unknown error.";
-  const auto description = [this](int type) { return fileTypeDescription_ ? fileTypeDescription_(type) : ""; };
+  const auto description = [this](int type) {
+    return fileTypeDescription_ ? fileTypeDescription_(type) : "";
+  };
   const std::size_t length = description(wrong->lengthFrom).size();
-  return "That doesn't look like a " + description(wrong->fileType).substr(0, length > 0 ? length - 1 : 0) +
+  return "That doesn't look like a " +
+         description(wrong->fileType).substr(0, length > 0 ? length - 1 : 0) +
          " file to me.\r\nPlease ensure correct file type is chosen when opening a file.";
 }
 

@@ -18,7 +18,8 @@ std::optional<clsWindowConfig> PlacementOf(const Form& window) {
   config.lngTop = window.Top;
   config.lngWidth = window.Width;
   config.lngHeight = window.Height;
-  config.lngWindowState = window.WindowState == clsWindowConfig::kMaximized ? clsWindowConfig::kMaximized : 0;
+  config.lngWindowState =
+      window.WindowState == clsWindowConfig::kMaximized ? clsWindowConfig::kMaximized : 0;
   return config;
 }
 

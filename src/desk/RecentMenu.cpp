@@ -21,7 +21,8 @@ void AddRecentPath(std::vector<std::string>& paths, const std::string& path, std
   if (paths.size() > most) paths.resize(most);
 }
 
-void ShowRecentPaths(ControlArray<MenuItem>& entries, MenuItem& separator, const std::vector<std::string>& paths) {
+void ShowRecentPaths(ControlArray<MenuItem>& entries, MenuItem& separator,
+                     const std::vector<std::string>& paths) {
   separator.Visible = !paths.empty();
   for (const auto& entry : entries) {
     const auto place = static_cast<std::size_t>(entry->index);

@@ -8,10 +8,13 @@
 
 namespace tarnview {
 
-/// Puts a path on top of a list of at most so many; one that is in it already (case aside) moves there.
+/// Puts a path on top of a list of at most so many; one that is in it already (case aside) moves
+/// there.
 void AddRecentPath(std::vector<std::string>& paths, const std::string& path, std::size_t most);
 
-/// Shows the paths, the latest first, as the entries of a menu; the rule before them is there with the first.
-void ShowRecentPaths(ControlArray<MenuItem>& entries, MenuItem& separator, const std::vector<std::string>& paths);
+/// Shows the paths, the latest first, as the entries of a menu; the rule before them is there with
+/// the first.
+void ShowRecentPaths(ControlArray<MenuItem>& entries, MenuItem& separator,
+                     const std::vector<std::string>& paths);
 
 }  // namespace tarnview

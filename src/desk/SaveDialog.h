@@ -7,9 +7,10 @@
 
 namespace tarnview {
 
-/// Asks where to save until it is a file that may be written over: not the log that is open, nor one that its owner
-/// protects. What is wrong with a choice is told, and the dialog comes again. `complete` may add to the chosen path.
-/// False: the user cancelled.
-bool ChooseFileToSave(Host& host, Dialog& dialog, const std::function<void(Dialog&)>& complete = {});
+/// Asks where to save until it is a file that may be written over: not the log that is open, nor
+/// one that its owner protects. What is wrong with a choice is told, and the dialog comes again.
+/// `complete` may add to the chosen path. False: the user cancelled.
+bool ChooseFileToSave(Host& host, Dialog& dialog,
+                      const std::function<void(Dialog&)>& complete = {});
 
 }  // namespace tarnview

@@ -8,10 +8,12 @@
 
 namespace tarnview {
 
-/// The foot of the main window: what is going on (panel 1), how far it is (panel 2), what is loaded (panel 3).
+/// The foot of the main window: what is going on (panel 1), how far it is (panel 2), what is loaded
+/// (panel 3).
 class StatusArea {
  public:
-  StatusArea(Form& window, StatusBar& bar, ProgressBar& progress) : window_(window), bar_(bar), progress_(progress) {
+  StatusArea(Form& window, StatusBar& bar, ProgressBar& progress)
+      : window_(window), bar_(bar), progress_(progress) {
     progress_.Visible = false;
   }
 
@@ -39,10 +41,12 @@ class StatusArea {
   ProgressBar& progress_;
 };
 
-/// The hourglass over a window for as long as it lives. However the work ends, the hourglass and the progress bar go.
+/// The hourglass over a window for as long as it lives. However the work ends, the hourglass and
+/// the progress bar go.
 class AtWork {
  public:
-  AtWork(Form& window, StatusArea& status) : window_(window), status_(status), before_(window.Pointer) {
+  AtWork(Form& window, StatusArea& status)
+      : window_(window), status_(status), before_(window.Pointer) {
     window_.Pointer = MousePointer::Hourglass;
   }
   ~AtWork() {

@@ -13,8 +13,9 @@ namespace tarnview {
 
 void Capture::Run() {
   static constexpr bool (Capture::*kSteps[])() = {
-      &Capture::MayLoseZones, &Capture::HasPrograms, &Capture::AskWhat,  &Capture::MakeRoom, &Capture::CallLogger,
-      &Capture::FindCaptured, &Capture::KeepBinary,  &Capture::TakeOver, &Capture::Load,     &Capture::CountName,
+      &Capture::MayLoseZones, &Capture::HasPrograms,  &Capture::AskWhat,    &Capture::MakeRoom,
+      &Capture::CallLogger,   &Capture::FindCaptured, &Capture::KeepBinary, &Capture::TakeOver,
+      &Capture::Load,         &Capture::CountName,
   };
   aside_ = SetAside(world_.files);
   for (const auto step : kSteps)
@@ -31,11 +32,14 @@ bool Capture::HasPrograms() {
   return !IsEcuBusy(world_);
 }
 
-std::string Capture::TargetFolder() const { return AddBackslash(world_.settings.gstrDefaultWorkingDirectory); }
+std::string Capture::TargetFolder() const {
+  return AddBackslash(world_.settings.gstrDefaultWorkingDirectory);
+}
 
 bool Capture::AskWhat() {
   const auto isTaken = [&](const std::string& name) {
-    return world_.files.FileExists(TargetFolder() + name) || world_.files.FileExists(TargetFolder() + name + ".*");
+    return world_.files.FileExists(TargetFolder() + name) ||
+           world_.files.FileExists(TargetFolder() + name + ".*");
   };
   const Moment now = world_.clock.Now();
   NewFile proposed{NewFileType::DataLog, "", world_.settings.gblnRetainBinary};
@@ -51,7 +55,8 @@ bool Capture::AskWhat() {
 bool Capture::MakeRoom() {
   mainWindow_.CloseDataLogFile();
   aside_.Take(target_);
-  for (const std::string& folder : {LoggerFiles(world_.settings).folder, ConverterFiles(world_.settings).folder})
+  for (const std::string& folder :
+       {LoggerFiles(world_.settings).folder, ConverterFiles(world_.settings).folder})
     for (const std::string& leftover : Leftovers(folder)) aside_.Take(leftover);
   return true;
 }
@@ -92,7 +97,8 @@ bool Capture::TakeOver() {
 }
 
 bool Capture::Load() {
-  return file_.type == NewFileType::ZoneSettings ? LoadMap() : mainWindow_.LoadDataFile(target_, kFMLinkLog);
+  return file_.type == NewFileType::ZoneSettings ? LoadMap()
+                                                 : mainWindow_.LoadDataFile(target_, kFMLinkLog);
 }
 
 /// Written anew at once, so that it has the form of this program's MAP files.

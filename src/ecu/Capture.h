@@ -20,7 +20,8 @@ class Capture {
     virtual void CloseDataLogFile() = 0;
     /// Opens a file as that type, with all that follows a load. False: the user was told.
     virtual bool LoadDataFile(const std::string& path, int fileType) = 0;
-    /// Saves the zone settings that are open, as this program writes MAP files. False: nothing was written.
+    /// Saves the zone settings that are open, as this program writes MAP files. False: nothing was
+    /// written.
     virtual bool SaveMapFile(const std::string& path) = 0;
     virtual void Say(const std::string& status) = 0;
   };

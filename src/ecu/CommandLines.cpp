@@ -11,7 +11,8 @@ std::string PortOption(const Settings& settings) {
 }
 
 std::string AutoTuneOption(AutoTuneMode mode) {
-  constexpr const char* kModes[] = {"", " -a coarse_no_idle", " -a fine_no_idle", " -a fine_with_idle"};
+  constexpr const char* kModes[] = {"", " -a coarse_no_idle", " -a fine_no_idle",
+                                    " -a fine_with_idle"};
   return kModes[static_cast<int>(mode)];
 }
 
@@ -20,7 +21,8 @@ std::string OptionIf(bool chosen, const char* option) { return chosen ? option :
 }  // namespace
 
 ProgramCall CaptureCall(const Settings& settings, NewFileType type) {
-  return {settings.gstrLogEXE, OptionIf(type == NewFileType::ZoneSettings, " -m") + PortOption(settings) + " -t"};
+  return {settings.gstrLogEXE,
+          OptionIf(type == NewFileType::ZoneSettings, " -m") + PortOption(settings) + " -t"};
 }
 
 ProgramCall UploadCall(const Settings& settings, const UploadOptions& options) {

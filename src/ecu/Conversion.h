@@ -13,8 +13,8 @@ enum class Converted {
   NotRun    ///< it was not started
 };
 
-/// Has the conversion program turn `binary` into the text log `text`, through the files of fixed names in its folder.
-/// Its exit code says nothing.
+/// Has the conversion program turn `binary` into the text log `text`, through the files of fixed
+/// names in its folder. Its exit code says nothing.
 Converted ConvertBinary(const EcuWorld& world, const std::string& binary, const std::string& text);
 
 /// Message 11 and false where there is no conversion program.

@@ -9,8 +9,8 @@
 
 namespace tarnview {
 
-// The files of fixed names through which the outside programs are given and give what they work on. They stay behind
-// after a run.
+// The files of fixed names through which the outside programs are given and give what they work on.
+// They stay behind after a run.
 
 /// Beside the logging program, which is also the one that uploads. Folders end in a separator.
 struct LoggerFiles {
@@ -34,7 +34,8 @@ struct ConverterFiles {
   std::string text() const { return folder + "miatatmp.txt"; }
 };
 
-/// What an earlier capture or conversion may have left in a folder, and what could be taken for a new result.
+/// What an earlier capture or conversion may have left in a folder, and what could be taken for a
+/// new result.
 std::vector<std::string> Leftovers(const std::string& folder);
 
 /// The record of a new log's path, for the logging program.

@@ -57,6 +57,8 @@ const char* TextOf(int code) {
 
 }  // namespace
 
-std::string ExitCodeText(int code) { return std::string(TextOf(code)) + ", " + std::to_string(code); }
+std::string ExitCodeText(int code) {
+  return std::string(TextOf(code)) + ", " + std::to_string(code);
+}
 
 }  // namespace tarnview

@@ -8,7 +8,9 @@ namespace tarnview {
 enum class NewFileType { DataLog, ZoneSettings };
 
 /// Its extension: "txt" or "map".
-constexpr const char* ExtensionOf(NewFileType type) { return type == NewFileType::DataLog ? "txt" : "map"; }
+constexpr const char* ExtensionOf(NewFileType type) {
+  return type == NewFileType::DataLog ? "txt" : "map";
+}
 
 /// A file to be captured, as the New File window takes it and gives it back.
 struct NewFile {

@@ -36,7 +36,9 @@ std::string AutoFileNames::Propose(Date today, const IsTaken& isTaken) {
   return "";
 }
 
-bool IsLegalFileName(std::string_view name) { return name.find_first_of(kIllegal) == std::string_view::npos; }
+bool IsLegalFileName(std::string_view name) {
+  return name.find_first_of(kIllegal) == std::string_view::npos;
+}
 
 std::string NameOfType(std::string_view name, std::string_view extension) {
   if (name.empty()) return "";

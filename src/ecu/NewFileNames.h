@@ -12,7 +12,8 @@ namespace tarnview {
 /// A day's counter in letters: 0 is "a", 25 "z", 26 "ba".
 std::string CounterLetters(int counter);
 
-/// Proposes names for new files: the day and a counter in letters, "2026-11-24a". The counter is of the run.
+/// Proposes names for new files: the day and a counter in letters, "2026-11-24a". The counter is of
+/// the run.
 class AutoFileNames {
  public:
   /// Whether there is a file of that name, with any extension.

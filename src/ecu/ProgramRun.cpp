@@ -12,8 +12,9 @@ RunResult RunProgram(const EcuWorld& world, const ProgramCall& call) {
   if (result.end == RunResult::End::NotStarted)
     world.messages.Tell(name + " could not be started:\r\n" + result.trouble, kBoxExclamation);
   if (result.end == RunResult::End::LeftAlone)
-    world.messages.Tell(name + " was left alone and may still be at work, so nothing is known of its result.",
-                        kBoxExclamation);
+    world.messages.Tell(
+        name + " was left alone and may still be at work, so nothing is known of its result.",
+        kBoxExclamation);
   return result;
 }
 
@@ -29,8 +30,9 @@ bool HasFolder(const EcuWorld& world, const std::string& folder) {
 
 bool IsEcuBusy(const EcuWorld& world) {
   if (!world.programs.IsAnyLeftAlone()) return false;
-  world.messages.Tell("A program that was left alone is still running.\r\nWait until it has ended, then try again.",
-                      kBoxExclamation);
+  world.messages.Tell(
+      "A program that was left alone is still running.\r\nWait until it has ended, then try again.",
+      kBoxExclamation);
   return true;
 }
 

@@ -6,7 +6,8 @@
 
 namespace tarnview {
 
-/// Runs an outside program in its own folder. One that could not be started, or that the user left alone, is told of.
+/// Runs an outside program in its own folder. One that could not be started, or that the user left
+/// alone, is told of.
 RunResult RunProgram(const EcuWorld& world, const ProgramCall& call);
 
 /// The file of a program that the settings name is there; `message` and false if not.
@@ -15,8 +16,8 @@ bool HasProgram(const EcuWorld& world, const std::string& program, Message messa
 /// False for "" too.
 bool HasFolder(const EcuWorld& world, const std::string& folder);
 
-/// A program that the user stopped waiting for may still talk to the ECU: nothing else may until it has ended. The user
-/// is told; true then.
+/// A program that the user stopped waiting for may still talk to the ECU: nothing else may until it
+/// has ended. The user is told; true then.
 bool IsEcuBusy(const EcuWorld& world);
 
 }  // namespace tarnview

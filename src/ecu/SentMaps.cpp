@@ -13,19 +13,22 @@ constexpr std::size_t kMostKept = 50;
 constexpr const char* kPattern = "TVW *-*-* *-*-*.map";
 
 std::string NameAt(const Moment& now) {
-  return "TVW " + PaddedText(now.year, 4) + "-" + PaddedText(now.month, 2) + "-" + PaddedText(now.day, 2) + " " +
-         PaddedText(now.hour, 2) + "-" + PaddedText(now.minute, 2) + "-" + PaddedText(now.second, 2);
+  return "TVW " + PaddedText(now.year, 4) + "-" + PaddedText(now.month, 2) + "-" +
+         PaddedText(now.day, 2) + " " + PaddedText(now.hour, 2) + "-" + PaddedText(now.minute, 2) +
+         "-" + PaddedText(now.second, 2);
 }
 
 }  // namespace
 
-bool KeepSentMap(FileSystem& files, const std::string& workingDirectory, std::string_view text, const Moment& now) {
+bool KeepSentMap(FileSystem& files, const std::string& workingDirectory, std::string_view text,
+                 const Moment& now) {
   if (workingDirectory.empty()) return true;
   const std::string folder = AddBackslash(AddBackslash(workingDirectory) + "Uploads");
   if (!files.FolderExists(folder) && !files.MakeFolder(folder)) return false;
   // Two in one second are two.
   std::string path = folder + NameAt(now);
-  for (int n = 2; files.FileExists(path + ".map"); ++n) path = folder + NameAt(now) + " (" + std::to_string(n) + ")";
+  for (int n = 2; files.FileExists(path + ".map"); ++n)
+    path = folder + NameAt(now) + " (" + std::to_string(n) + ")";
   if (!files.Write(path + ".map", text)) return false;
   const std::vector<std::string> kept = files.List(folder, kPattern);
   for (std::size_t n = 0; n + kMostKept < kept.size(); ++n) files.DeleteFile(folder + kept[n]);

@@ -12,12 +12,15 @@
 
 namespace tarnview {
 
-ZonesToUpload ZonesOfSheet(const ZoneSheet& sheet, const ZoneMap& source, const Settings& settings) {
-  const ChipIdentity own{settings.gdblDefaultEngineSize, settings.gdatDefaultChipDate, sheet.chip.intChipVersion};
+ZonesToUpload ZonesOfSheet(const ZoneSheet& sheet, const ZoneMap& source,
+                           const Settings& settings) {
+  const ChipIdentity own{settings.gdblDefaultEngineSize, settings.gdatDefaultChipDate,
+                         sheet.chip.intChipVersion};
   return {sheet.chip.dblEngineSize, sheet.chip.datChipDate, Rebuild(sheet, source, own).zones};
 }
 
-ZoneMap MapToSend(const Settings& settings, const ZonesToUpload& form, const Comparison& comparison) {
+ZoneMap MapToSend(const Settings& settings, const ZonesToUpload& form,
+                  const Comparison& comparison) {
   ZoneMap map;
   map.zones = form.zones;
   map.chip = {settings.gdblDefaultEngineSize, settings.gdatDefaultChipDate, 0};
@@ -37,8 +40,9 @@ Comparison ComparisonOf(const Settings& settings, const std::optional<ZoneMap>& 
 }
 
 void Upload::Run(const ZonesToUpload& form) {
-  static constexpr bool (Upload::*kSteps[])() = {&Upload::HasUploader, &Upload::IsOwnEngine, &Upload::AskHow,
-                                                 &Upload::MakeMap,     &Upload::WriteMap,    &Upload::Send};
+  static constexpr bool (Upload::*kSteps[])() = {&Upload::HasUploader, &Upload::IsOwnEngine,
+                                                 &Upload::AskHow,      &Upload::MakeMap,
+                                                 &Upload::WriteMap,    &Upload::Send};
   form_ = form;
   kept_ = false;
   for (const auto step : kSteps)
@@ -46,7 +50,8 @@ void Upload::Run(const ZonesToUpload& form) {
 }
 
 bool Upload::HasUploader() {
-  return HasProgram(world_, world_.settings.gstrLogEXE, Message::UploadProgramNotFound) && !IsEcuBusy(world_);
+  return HasProgram(world_, world_.settings.gstrLogEXE, Message::UploadProgramNotFound) &&
+         !IsEcuBusy(world_);
 }
 
 bool Upload::IsOwnEngine() {
@@ -97,8 +102,8 @@ bool Upload::Send() {
   }
 }
 
-/// True where there is nothing to try again: it went well, or nobody knows whether the program is still at it, and
-/// nothing may be sent twice.
+/// True where there is nothing to try again: it went well, or nobody knows whether the program is
+/// still at it, and nothing may be sent twice.
 bool Upload::SendOnce() {
   const ProgramCall call = UploadCall(world_.settings, options_);
   KeepMap();
@@ -114,7 +119,9 @@ void Upload::KeepMap() {
   kept_ = true;
   const std::string& folder = world_.settings.gstrDefaultWorkingDirectory;
   if (KeepSentMap(world_.files, folder, text_, world_.clock.Now())) return;
-  world_.messages.Tell("No copy of the map could be kept in:\r\n" + AddBackslash(folder) + "Uploads", kBoxExclamation);
+  world_.messages.Tell(
+      "No copy of the map could be kept in:\r\n" + AddBackslash(folder) + "Uploads",
+      kBoxExclamation);
 }
 
 }  // namespace tarnview

@@ -18,7 +18,8 @@ struct ZonesToUpload {
   ZoneSettings zones{};  ///< rebuilt from the form for the chip that the user owns
 };
 
-/// The sheet that the editor shows, made ready for the chip that the user owns. `source` is the map that was opened.
+/// The sheet that the editor shows, made ready for the chip that the user owns. `source` is the map
+/// that was opened.
 ZonesToUpload ZonesOfSheet(const ZoneSheet& sheet, const ZoneMap& source, const Settings& settings);
 
 /// Which comparison, if any, a map is measured against.
@@ -27,11 +28,13 @@ struct Comparison {
   std::optional<Message> fault;  ///< why there is none although one was asked for
 };
 
-/// The map that is sent: of what is like the comparison, of what does not fit the chip and of the default atmospheric
-/// pressure nothing. Its chip is the user's own, without a version.
-ZoneMap MapToSend(const Settings& settings, const ZonesToUpload& form, const Comparison& comparison);
+/// The map that is sent: of what is like the comparison, of what does not fit the chip and of the
+/// default atmospheric pressure nothing. Its chip is the user's own, without a version.
+ZoneMap MapToSend(const Settings& settings, const ZonesToUpload& form,
+                  const Comparison& comparison);
 
-/// Whether a file that is to be compared with fits the user's own chip; `loaded` is nothing where it could not be read.
+/// Whether a file that is to be compared with fits the user's own chip; `loaded` is nothing where
+/// it could not be read.
 Comparison ComparisonOf(const Settings& settings, const std::optional<ZoneMap>& loaded);
 
 /// Sends zone settings to the ECU. The form's zones stay as they are.
@@ -47,7 +50,8 @@ class Upload {
 
   Upload(const EcuWorld& world, Editor& editor) : world_(world), editor_(editor) {}
 
-  /// Each failure ends the run and has been told; one of the program itself lets the user try again.
+  /// Each failure ends the run and has been told; one of the program itself lets the user try
+  /// again.
   void Run(const ZonesToUpload& form);
 
  private:

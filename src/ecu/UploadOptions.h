@@ -13,7 +13,8 @@ struct UploadOptions {
   bool blnVerify = false;
   bool blnChangesOnly = false;
   bool blnVerbose = false;
-  std::string strComparisonFile = {};  ///< what changes are measured against, where only changes are sent
+  std::string strComparisonFile =
+      {};  ///< what changes are measured against, where only changes are sent
   AutoTuneMode autoTune = AutoTuneMode::None;
 };
 

@@ -9,7 +9,8 @@ namespace tarnview {
 /// -1 where both have the same value.
 void KeepChangesOnly(ZoneSettings& zones, const ZoneSettings& comparison);
 
-/// Chips from 1 March 2001 on measure the intake air; the zones for it mean something else, or nothing, before.
+/// Chips from 1 March 2001 on measure the intake air; the zones for it mean something else, or
+/// nothing, before.
 bool AirZonesFit(Date formChipDate, Date ownChipDate);
 /// -1 in the intake limit and the four air temperature settings.
 void LeaveAirZonesAlone(ZoneSettings& zones);

@@ -20,8 +20,10 @@ struct PathRow {
 };
 
 constexpr PathRow kPaths[] = {
-    {"&Binary File", "Path and File Name of Binary File", "Source files (*.bin; *.dat)|*.bin;*.dat", DialogKind::Open},
-    {"&New Data Log", "Path and File Name of New Data Log", "Data Log files (*.txt)|*.txt", DialogKind::Save},
+    {"&Binary File", "Path and File Name of Binary File", "Source files (*.bin; *.dat)|*.bin;*.dat",
+     DialogKind::Open},
+    {"&New Data Log", "Path and File Name of New Data Log", "Data Log files (*.txt)|*.txt",
+     DialogKind::Save},
 };
 
 std::string StartFolder(const Settings& settings, const std::string& currentFile) {

@@ -16,8 +16,8 @@ frmNewDownload::frmNewDownload(const EcuWorld& world, const NewFile& proposed)
   radFileType(1).Caption = std::string("&Zone Settings");
   radFileType(1).ToolTip = std::string("Capture just the ECU zone settings");
   txtFileName.ToolTip = std::string("Name of the data log");
-  chkRetainBIN.ToolTip =
-      std::string("Keep the binary file the data logging process generates as well as the final data log");
+  chkRetainBIN.ToolTip = std::string(
+      "Keep the binary file the data logging process generates as well as the final data log");
   radFileType(proposed.type == NewFileType::DataLog ? 0 : 1).Value = true;
   txtFileName.Text = proposed.strFileName;
   chkRetainBIN.Value = proposed.blnRetain;
@@ -31,7 +31,9 @@ frmNewDownload::frmNewDownload(const EcuWorld& world, const NewFile& proposed)
   cmdCancel.Click = [this] { Unload(); };
 }
 
-NewFile frmNewDownload::Chosen() const { return {Type(), txtFileName.Text(), chkRetainBIN.Value()}; }
+NewFile frmNewDownload::Chosen() const {
+  return {Type(), txtFileName.Text(), chkRetainBIN.Value()};
+}
 
 void frmNewDownload::radFileType_Click() {
   chkRetainBIN.Enabled = Type() == NewFileType::DataLog;
@@ -52,12 +54,14 @@ bool frmNewDownload::ValidateName() {
 void frmNewDownload::cmdOK_Click() {
   if (!ValidateName()) return;
   if (txtFileName.Text().empty()) {
-    world_.messages.Tell("That's an interesting file name.  However, something more practical is required.",
-                         kBoxInformation);
+    world_.messages.Tell(
+        "That's an interesting file name.  However, something more practical is required.",
+        kBoxInformation);
     txtFileName.SetFocus();
     return;
   }
-  if (!MayWrite(world_, AddBackslash(world_.settings.gstrDefaultWorkingDirectory) + txtFileName.Text())) {
+  if (!MayWrite(world_,
+                AddBackslash(world_.settings.gstrDefaultWorkingDirectory) + txtFileName.Text())) {
     txtFileName.SetFocus();
     return;
   }

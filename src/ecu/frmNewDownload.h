@@ -19,11 +19,13 @@ class frmNewDownload : public Form {
   frmNewDownload(const EcuWorld& world, const NewFile& proposed);
 
   Frame fraFileType{*this, "fraFileType", "File Type"};
-  ControlArray<OptionButton> radFileType{*this, "radFileType", UpTo(2), std::string("fraFileType"), std::string()};
+  ControlArray<OptionButton> radFileType{*this, "radFileType", UpTo(2), std::string("fraFileType"),
+                                         std::string()};
   Label lblFileName{*this, "lblFileName", "File &Name"};
   TextBox txtFileName{*this, "txtFileName"};
-  Label lblHelpText{*this, "lblHelpText",
-                    "The new file will be created in the default working directory.  Do not include a path."};
+  Label lblHelpText{
+      *this, "lblHelpText",
+      "The new file will be created in the default working directory.  Do not include a path."};
   CheckBox chkRetainBIN{*this, "chkRetainBIN", "&Retain Binary File"};
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
@@ -31,7 +33,9 @@ class frmNewDownload : public Form {
   NewFile Chosen() const;
 
  private:
-  NewFileType Type() const { return radFileType(0).Value ? NewFileType::DataLog : NewFileType::ZoneSettings; }
+  NewFileType Type() const {
+    return radFileType(0).Value ? NewFileType::DataLog : NewFileType::ZoneSettings;
+  }
   void radFileType_Click();
   /// False: the name was refused, and has the focus.
   bool ValidateName();

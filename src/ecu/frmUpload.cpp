@@ -12,19 +12,24 @@ struct OptionRow {
 };
 
 constexpr OptionRow kOptions[] = {
-    {PermanentlyStore, "&Permanently Store ", "Check to save the uploaded settings into the Link permanently"},
+    {PermanentlyStore, "&Permanently Store ",
+     "Check to save the uploaded settings into the Link permanently"},
     {Verify, "&Verify Upload", "Check to verify settings reached the ECU after upload"},
     {ChangesOnly, "Upload &Changes Only", "Check to only upload the changed zones to the ECU"},
-    {Verbose, "Ver&bose Mode", "Check to show more information during the upload at the expense of upload time"},
+    {Verbose, "Ver&bose Mode",
+     "Check to show more information during the upload at the expense of upload time"},
 };
 
 /// In the order of AutoTuneMode.
-const std::vector<std::string> kAutoTuneModes{"None", "Coarse No Idle", "Fine No Idle", "Fine With Idle"};
+const std::vector<std::string> kAutoTuneModes{"None", "Coarse No Idle", "Fine No Idle",
+                                              "Fine With Idle"};
 
 }  // namespace
 
 frmUpload::frmUpload(const EcuWorld& world, ComparisonChoices choices)
-    : Form(world.host, "frmUpload", "Upload Zone Settings"), world_(world), choices_(std::move(choices)) {
+    : Form(world.host, "frmUpload", "Upload Zone Settings"),
+      world_(world),
+      choices_(std::move(choices)) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "Upload";
@@ -41,7 +46,8 @@ frmUpload::frmUpload(const EcuWorld& world, ComparisonChoices choices)
 
   chkOption(ChangesOnly).Click = [this] { EnableComparison(); };
   lstCCF.Click = [this] {
-    if (lstCCF.ListIndex >= 0) txtCCF.Text = lstCCF.Entries()[static_cast<std::size_t>(lstCCF.ListIndex())];
+    if (lstCCF.ListIndex >= 0)
+      txtCCF.Text = lstCCF.Entries()[static_cast<std::size_t>(lstCCF.ListIndex())];
   };
   cmdCCF.Click = [this] { cmdCCF_Click(); };
   cmdOK.Click = [this] { Accept(); };
@@ -66,7 +72,8 @@ void frmUpload::cmdCCF_Click() {
   Dialog dialog;
   dialog.title = "Open";
   dialog.filter = choices_.filter;
-  dialog.initialPath = txtCCF.Text().empty() ? world_.settings.gstrDefaultWorkingDirectory : txtCCF.Text();
+  dialog.initialPath =
+      txtCCF.Text().empty() ? world_.settings.gstrDefaultWorkingDirectory : txtCCF.Text();
   if (host.Choose(dialog)) txtCCF.Text = dialog.path;
 }
 

@@ -21,7 +21,8 @@ inline std::uint64_t MarksOfWord(const char* at, char c) {
   std::uint64_t text;
   std::memcpy(&text, at, sizeof text);
   const std::uint64_t different = text ^ kEach * static_cast<unsigned char>(c);
-  std::uint64_t same = ~(((different & kLow) + kLow) | different | kLow) >> 7;  // a 1 for each equal byte
+  std::uint64_t same =
+      ~(((different & kLow) + kLow) | different | kLow) >> 7;  // a 1 for each equal byte
   if constexpr (std::endian::native == std::endian::big) {
     std::uint64_t swapped = 0;
     for (int byte = 0; byte < 8; ++byte) swapped |= (same >> byte * 8 & 1) << (7 - byte) * 8;

@@ -19,8 +19,9 @@ inline bool AllAlike(const FieldKey* keys, std::size_t lines) {
   return !different && lines > 0 && keys[0] != kOtherField;
 }
 
-/// The values of a field in all lines of a block. `read(line)` tells the value of a text; where the same text stands in
-/// several lines running, it is asked once: most quantities change slower than lines come.
+/// The values of a field in all lines of a block. `read(line)` tells the value of a text; where the
+/// same text stands in several lines running, it is asked once: most quantities change slower than
+/// lines come.
 template <class Value, class Read>
 void ReadColumn(FieldIndex& block, std::size_t field, BlockOf<Value>& values, const Read& read) {
   const FieldKey* const keys = block.Keys(field);

@@ -29,7 +29,8 @@ TARNVIEW_WIDE_STEPS std::size_t FieldIndex::Add(std::string_view line) {
   const auto begin = static_cast<std::size_t>(line.data() - bytes_.data());
   const std::size_t length = line.size(), toNextKey = mostLines_, most = most_;
   const char* text = line.data();
-  if (begin < kWordLength || bytes_.size() - begin - length < kStep) {  // a key is read from before it, a step beyond
+  if (begin < kWordLength ||
+      bytes_.size() - begin - length < kStep) {  // a key is read from before it, a step beyond
     padded_.assign(kWordLength, '\0').append(line).append(kStep, '\0');
     text = padded_.data() + kWordLength;
   }
@@ -48,10 +49,12 @@ TARNVIEW_WIDE_STEPS std::size_t FieldIndex::Add(std::string_view line) {
     std::uint64_t marks = MarksOf(text + step, delimiter);
     if (length - step < kStep) marks &= (std::uint64_t{1} << (length - step)) - 1;
     for (; marks; marks &= marks - 1)
-      endField(static_cast<std::uint32_t>(step) + static_cast<std::uint32_t>(std::countr_zero(marks)));
+      endField(static_cast<std::uint32_t>(step) +
+               static_cast<std::uint32_t>(std::countr_zero(marks)));
   }
   if (end < enough && length > 0) endField(static_cast<std::uint32_t>(length));
-  return Count(static_cast<std::size_t>(std::min<const std::uint32_t*>(end, enough) - (enough - most)));
+  return Count(
+      static_cast<std::size_t>(std::min<const std::uint32_t*>(end, enough) - (enough - most)));
 }
 
 /// One more line has so many fields.

@@ -11,14 +11,15 @@
 
 namespace tarnview {
 
-/// The fields of a block of lines. A log is read a block at a time and, in it, column by column: the fields of a column
-/// are much alike, which is what the processor is quick at.
+/// The fields of a block of lines. A log is read a block at a time and, in it, column by column:
+/// the fields of a column are much alike, which is what the processor is quick at.
 class FieldIndex {
  public:
   static constexpr std::size_t kMostLines = 64;
 
-  /// `bytes` (below 4 GB) holds all lines to come. Fields of a line behind the first `most` are left out. Only a byte
-  /// can be a delimiter; a line has but one field where `delimiter` is beyond 255.
+  /// `bytes` (below 4 GB) holds all lines to come. Fields of a line behind the first `most` are
+  /// left out. Only a byte can be a delimiter; a line has but one field where `delimiter` is beyond
+  /// 255.
   FieldIndex(std::string_view bytes, std::int32_t delimiter, std::size_t most);
 
   /// A line of `bytes`; returns its number of fields. An empty line has none.
@@ -41,7 +42,8 @@ class FieldIndex {
 
  private:
   static constexpr std::size_t kStep = kMarkedBytes;
-  static constexpr std::uint32_t kBeforeLine = ~std::uint32_t{0};  ///< where a field before the first would end
+  static constexpr std::uint32_t kBeforeLine =
+      ~std::uint32_t{0};  ///< where a field before the first would end
 
   std::size_t Count(std::size_t fields);
 
@@ -50,9 +52,10 @@ class FieldIndex {
   const char delimiter_;
   const std::size_t most_, rowLength_, mostLines_;
   std::size_t lines_ = 0;
-  std::array<std::size_t, kMostLines> fields_;     ///< of each line
-  std::array<std::uint32_t, kMostLines> begins_;   ///< of each line, in the bytes
-  std::vector<std::uint32_t> ends_;                ///< a row a line: kBeforeLine, and in the line the end of each field
+  std::array<std::size_t, kMostLines> fields_;    ///< of each line
+  std::array<std::uint32_t, kMostLines> begins_;  ///< of each line, in the bytes
+  std::vector<std::uint32_t>
+      ends_;  ///< a row a line: kBeforeLine, and in the line the end of each field
   std::vector<FieldKey> keys_;                     ///< column by column, mostLines_ of each
   std::size_t mostFields_ = 0, fewestFields_ = 0;  ///< of a line of the block
   std::string padded_;

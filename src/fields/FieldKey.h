@@ -7,11 +7,12 @@
 
 namespace tarnview {
 
-/// A field of up to 8 characters as one word: the last character in the highest byte, and in the lowest one, where that
-/// is free, the length and 1. Fields of the same key have the same text.
+/// A field of up to 8 characters as one word: the last character in the highest byte, and in the
+/// lowest one, where that is free, the length and 1. Fields of the same key have the same text.
 using FieldKey = std::uint64_t;
 inline constexpr FieldKey kEmptyField = 1;
-// Keys of no text: the lowest byte of all others is a length and 1, up to 8, or a character from ' ' on.
+// Keys of no text: the lowest byte of all others is a length and 1, up to 8, or a character from '
+// ' on.
 inline constexpr FieldKey kNoField = 9;      ///< the line has no such field
 inline constexpr FieldKey kOtherField = 10;  ///< any text that has no key of its own
 
@@ -28,14 +29,16 @@ inline constexpr FieldKey kHighestBytes[kWordLength + 1] = {0,
                                                             0xFFFFFFFFFFFF0000u,
                                                             0xFFFFFFFFFFFFFF00u};
 
-/// Eight characters leave no byte for the length: their first one stands there, and must not look like it.
+/// Eight characters leave no byte for the length: their first one stands there, and must not look
+/// like it.
 inline FieldKey KeyOfLongField(FieldKey word, std::size_t length) {
   return length == kWordLength && (word & 0xFF) >= ' ' ? word : kOtherField;
 }
 
 }  // namespace detail
 
-/// Of the characters before `end`, so many less one; kWordLength bytes must be there to read, whatever the length.
+/// Of the characters before `end`, so many less one; kWordLength bytes must be there to read,
+/// whatever the length.
 inline FieldKey KeyOfField(const char* end, std::size_t lengthAnd1) {
   if constexpr (!kWordsAreReadable) return lengthAnd1 > 1 ? kOtherField : kEmptyField;
   FieldKey word;

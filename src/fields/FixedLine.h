@@ -8,8 +8,8 @@
 
 namespace tarnview {
 
-/// A line whose fields stand at fixed positions, counted from 1. Fields up to `Reach` are read without a look at the
-/// line's length: behind its end stand NUL characters.
+/// A line whose fields stand at fixed positions, counted from 1. Fields up to `Reach` are read
+/// without a look at the line's length: behind its end stand NUL characters.
 template <std::size_t Reach>
 class FixedLine {
  public:
@@ -30,7 +30,9 @@ class FixedLine {
     if (start + wanted <= length_) return {text_ + start, wanted};
     return start < length_ ? std::string_view(text_ + start, length_ - start) : std::string_view();
   }
-  bool Has(int at, std::string_view word) const { return Text(at, static_cast<int>(word.size())) == word; }
+  bool Has(int at, std::string_view word) const {
+    return Text(at, static_cast<int>(word.size())) == word;
+  }
 
   /// StringToDouble, StringToLong of a field of up to 8 characters.
   double Number(int at, int length) const {

@@ -8,7 +8,8 @@
 namespace tarnview {
 
 void NumberColumn::ReadPlain(const FieldKey* keys) {
-  static_assert(FieldIndex::kMostLines <= 64 && FieldIndex::kMostLines % PlainNumbers::kAtOnce == 0);
+  static_assert(FieldIndex::kMostLines <= 64 &&
+                FieldIndex::kMostLines % PlainNumbers::kAtOnce == 0);
   alike_ = AllAlike(keys, lines_);
   const std::size_t last = alike_ ? 0 : lines_ - 1;
   const PlainNumbers plain(keys[0], keys[last]);
@@ -16,8 +17,8 @@ void NumberColumn::ReadPlain(const FieldKey* keys) {
   others_ = plain.Read(keys, last + 1, digits_.data()) & ~std::uint64_t{0} >> (63 - last);
 }
 
-// The loops over all lines have no decision in them, so that the compiler makes steps of several lines of them; what
-// they make of lines whose digits are void is put right afterwards.
+// The loops over all lines have no decision in them, so that the compiler makes steps of several
+// lines of them; what they make of lines whose digits are void is put right afterwards.
 
 TARNVIEW_WIDE_STEPS void NumberColumn::Values(std::size_t count, BlockOf<double>& values) const {
   const double one = detail::kPowersOfTen[places_];
@@ -36,7 +37,8 @@ TARNVIEW_WIDE_STEPS void NumberColumn::Stored(int scale, BlockOf<std::int32_t>& 
   constexpr std::int32_t kTens[] = {1, 10, 100, 1000, 10000};
   const std::size_t count = alike_ ? 1 : lines_;
   if (places_ <= scale) {  // a whole number as it stands
-    const std::int32_t times = kTens[scale - places_], most = std::numeric_limits<std::int32_t>::max() / times;
+    const std::int32_t times = kTens[scale - places_],
+                       most = std::numeric_limits<std::int32_t>::max() / times;
     for (std::size_t line = 0; line < count; ++line)
       cells[line] = std::abs(digits_[line]) <= most ? digits_[line] * times : 0;
   } else {

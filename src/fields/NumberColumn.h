@@ -14,12 +14,13 @@ namespace tarnview {
 /// The numbers of a field in all lines of a block.
 class NumberColumn {
  public:
-  /// `slowly(line)` tells the number of a text that is not simply digits; where the same text stands in several such
-  /// lines running, it is asked once.
+  /// `slowly(line)` tells the number of a text that is not simply digits; where the same text
+  /// stands in several such lines running, it is asked once.
   template <class Slowly>
   void Read(FieldIndex& block, std::size_t field, const Slowly& slowly);
 
-  /// The same of the keys of `lines` fields, up to BlockOf's size and with as much room behind them.
+  /// The same of the keys of `lines` fields, up to BlockOf's size and with as much room behind
+  /// them.
   template <class Slowly>
   void Read(const FieldKey* keys, std::size_t lines, const Slowly& slowly);
 

@@ -7,11 +7,13 @@
 
 namespace tarnview {
 
-/// Reads numbers that look alike: with blanks, sign, digits and point in the same places. So do most that follow each
-/// other in a column of a log, and reading one takes a few steps and no decision.
+/// Reads numbers that look alike: with blanks, sign, digits and point in the same places. So do
+/// most that follow each other in a column of a log, and reading one takes a few steps and no
+/// decision.
 class NumberShape {
  public:
-  /// Blanks, a sign, digits with at most one point. False for any other field, though it may be a number.
+  /// Blanks, a sign, digits with at most one point. False for any other field, though it may be a
+  /// number.
   bool Read(FieldKey key, ShortNumber& number) {
     if constexpr (!kWordsAreReadable) return false;
     if (!Fits(key) && !Learn(key)) return false;
@@ -29,9 +31,10 @@ class NumberShape {
   }
   bool Learn(FieldKey key);
 
-  std::uint64_t looks_ = 0x10;               ///< a key of the shape, all digits 0; no field has the key 0x10
+  std::uint64_t looks_ = 0x10;  ///< a key of the shape, all digits 0; no field has the key 0x10
   std::uint64_t fixed_ = ~std::uint64_t{0};  ///< the bytes that are no digits
-  std::uint64_t beforePoint_ = 0, behindPoint_ = ~std::uint64_t{0};  ///< the point's own byte is in neither
+  std::uint64_t beforePoint_ = 0,
+                behindPoint_ = ~std::uint64_t{0};  ///< the point's own byte is in neither
   int places_ = 0;
   bool negative_ = false;
 };

@@ -1,5 +1,6 @@
-// The steps of PlainNumbers, in the widest registers of the processor that the file including this is compiled for: of
-// 16 bytes (SSE2), which every x86-64 has, or of 32 (AVX2). A register holds two keys, or twice two.
+// The steps of PlainNumbers, in the widest registers of the processor that the file including this
+// is compiled for: of 16 bytes (SSE2), which every x86-64 has, or of 32 (AVX2). A register holds
+// two keys, or twice two.
 
 #pragma once
 
@@ -33,7 +34,9 @@ Bytes Sum(Bytes bytes) { return TARNVIEW_MM(sad_epu8)(bytes, Bytes{}); }
 // What two registers have of as many keys, in the keys' order.
 
 Bytes Load(const FieldKey* keys, int which) {
-  const auto two = [keys](int at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(keys + at)); };
+  const auto two = [keys](int at) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(keys + at));
+  };
 #ifdef __AVX2__
   return _mm256_set_m128i(two(4 + which * 2), two(which * 2));
 #else
@@ -42,14 +45,16 @@ Bytes Load(const FieldKey* keys, int which) {
 }
 auto LowerHalves(const Bytes* of) {
 #ifdef __AVX2__
-  return _mm256_shuffle_ps(_mm256_castsi256_ps(of[0]), _mm256_castsi256_ps(of[1]), _MM_SHUFFLE(2, 0, 2, 0));
+  return _mm256_shuffle_ps(_mm256_castsi256_ps(of[0]), _mm256_castsi256_ps(of[1]),
+                           _MM_SHUFFLE(2, 0, 2, 0));
 #else
   return _mm_shuffle_ps(_mm_castsi128_ps(of[0]), _mm_castsi128_ps(of[1]), _MM_SHUFFLE(2, 0, 2, 0));
 #endif
 }
 /// Eight digits a key (as 0 to 9), the first in the lowest byte, to two numbers of four digits.
 Bytes FourDigits(Bytes digits) {
-  const Bytes tens = TARNVIEW_MM(mullo_epi16)(digits & TARNVIEW_MM(set1_epi16)(0xFF), TARNVIEW_MM(set1_epi16)(10));
+  const Bytes tens =
+      TARNVIEW_MM(mullo_epi16)(digits & TARNVIEW_MM(set1_epi16)(0xFF), TARNVIEW_MM(set1_epi16)(10));
   return TARNVIEW_MM(madd_epi16)(TARNVIEW_MM(add_epi16)(tens, TARNVIEW_MM(srli_epi16)(digits, 8)),
                                  TARNVIEW_MM(set1_epi32)(1 << 16 | 100));
 }
@@ -66,15 +71,17 @@ Bytes Negated(Bytes numbers, Bytes marks) {
 /// PlainNumbers::Read.
 std::uint64_t ReadInSteps(const PlainNumbers::Look& look, const FieldKey* keys, std::size_t count,
                           std::int32_t* digits) {
-  const Bytes zeros = EachKey(look.digits), most = EachKey(look.most), weights = EachKey(look.weights),
-              before = EachKey(look.before), behind = EachKey(look.behind),
-              beyondLength = EachKey(FieldKey{look.point} - 1), full = EachKey(kWordLength + look.point);
+  const Bytes zeros = EachKey(look.digits), most = EachKey(look.most),
+              weights = EachKey(look.weights), before = EachKey(look.before),
+              behind = EachKey(look.behind), beyondLength = EachKey(FieldKey{look.point} - 1),
+              full = EachKey(kWordLength + look.point);
   const bool leads = look.leads;
   std::uint64_t others = 0;
   for (std::size_t at = 0; at < count; at += kKeysAtOnce) {
     Bytes fours[2], fits[2], minuses[2] = {};
     for (int which = 0; which < 2; ++which) {
-      const Bytes key = Load(keys + at, which), apart = key ^ zeros, fine = EqualBytes(Minimum(apart, most), apart);
+      const Bytes key = Load(keys + at, which), apart = key ^ zeros,
+                  fine = EqualBytes(Minimum(apart, most), apart);
       Bytes weighed = fine & weights;
       if (leads) {
         // One counts unless it stands behind a digit or a minus.
@@ -82,8 +89,8 @@ std::uint64_t ReadInSteps(const PlainNumbers::Look& look, const FieldKey* keys, 
         weighed |= (minus | blank) & ~OneBehind(fine | minus) & EachByte(1);
         minuses[which] = Sum(minus);
       }
-      // All is well if the characters, and with them the point, weigh what a text of the key's length must; a text of
-      // eight leaves no room for the length.
+      // All is well if the characters, and with them the point, weigh what a text of the key's
+      // length must; a text of eight leaves no room for the length.
       const Bytes weight = Sum(weighed), lengthAnd1 = key & EachKey(0xFF);
       fits[which] = EqualHalves(weight, lengthAnd1 + beyondLength) | EqualHalves(weight, full);
       const Bytes digit = apart & fine;

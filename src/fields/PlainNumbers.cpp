@@ -10,10 +10,14 @@
 namespace tarnview {
 
 PlainNumbers::PlainNumbers(FieldKey first, FieldKey second) {
-  const auto has = [=](char c) { return detail::BytesThatAre(first, c) | detail::BytesThatAre(second, c); };
+  const auto has = [=](char c) {
+    return detail::BytesThatAre(first, c) | detail::BytesThatAre(second, c);
+  };
   look_.leads = has(' ') || has('-');
   // Behind a single character there is no room for a point, and the lowest byte may be the length.
-  const auto pointsOf = [](FieldKey sample) { return detail::BytesThatAre(sample, '.') & ~FieldKey{0xFF}; };
+  const auto pointsOf = [](FieldKey sample) {
+    return detail::BytesThatAre(sample, '.') & ~FieldKey{0xFF};
+  };
   const FieldKey points = pointsOf(first) ? pointsOf(first) : pointsOf(second);
   if (!std::has_single_bit(points)) return;
   constexpr std::uint32_t kPoint = 32;  // more than the digits of a number can count
@@ -30,10 +34,11 @@ PlainNumbers::PlainNumbers(FieldKey first, FieldKey second) {
 
 #if defined(__x86_64__) && defined(__GNUC__)
 
-std::uint64_t ReadPlainNumbersWide(const PlainNumbers::Look& look, const FieldKey* keys, std::size_t count,
-                                   std::int32_t* digits);
+std::uint64_t ReadPlainNumbersWide(const PlainNumbers::Look& look, const FieldKey* keys,
+                                   std::size_t count, std::int32_t* digits);
 
-std::uint64_t PlainNumbers::Read(const FieldKey* keys, std::size_t count, std::int32_t* digits) const {
+std::uint64_t PlainNumbers::Read(const FieldKey* keys, std::size_t count,
+                                 std::int32_t* digits) const {
   static const auto read = __builtin_cpu_supports("avx2") ? ReadPlainNumbersWide : ReadInSteps;
   return read(look_, keys, count, digits);
 }

@@ -7,21 +7,22 @@
 
 namespace tarnview {
 
-/// A number is plain when it is digits with at most one point, behind blanks or a minus. A logger writes a quantity
-/// with the same number of decimals throughout, so the points of a column, seen from the fields' ends, stand in one
-/// place, and several such numbers are read in one go.
+/// A number is plain when it is digits with at most one point, behind blanks or a minus. A logger
+/// writes a quantity with the same number of decimals throughout, so the points of a column, seen
+/// from the fields' ends, stand in one place, and several such numbers are read in one go.
 class PlainNumbers {
  public:
   static constexpr std::size_t kAtOnce = 8;  ///< at most
 
-  /// Numbers of the look of two samples: whose point stands where that of the first or else of the second does, and
-  /// that have blanks or a minus in front only if one of them has.
+  /// Numbers of the look of two samples: whose point stands where that of the first or else of the
+  /// second does, and that have blanks or a minus in front only if one of them has.
   PlainNumbers(FieldKey first, FieldKey second);
 
   /// Of them behind the point.
   int Places() const { return places_; }
-  /// The digits of `count` keys (1 to 64) as whole numbers; also 0 for a text without any. Keys are read, and `digits`
-  /// written, up to the next kAtOnce. Gives a bit for each key that is no such number, and whose digits are void.
+  /// The digits of `count` keys (1 to 64) as whole numbers; also 0 for a text without any. Keys are
+  /// read, and `digits` written, up to the next kAtOnce. Gives a bit for each key that is no such
+  /// number, and whose digits are void.
   std::uint64_t Read(const FieldKey* keys, std::size_t count, std::int32_t* digits) const;
 
   /// What keys are compared with.

@@ -6,8 +6,8 @@
 
 namespace tarnview {
 
-std::uint64_t ReadPlainNumbersWide(const PlainNumbers::Look& look, const FieldKey* keys, std::size_t count,
-                                   std::int32_t* digits) {
+std::uint64_t ReadPlainNumbersWide(const PlainNumbers::Look& look, const FieldKey* keys,
+                                   std::size_t count, std::int32_t* digits) {
   return ReadInSteps(look, keys, count, digits);
 }
 

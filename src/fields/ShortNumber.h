@@ -8,8 +8,9 @@
 
 namespace tarnview {
 
-// Numbers of up to eight characters, read as one word: a log has millions of them, and a loop over the characters
-// takes several times as long. What the quick road does not know goes to the tolerant one, so the results are its own.
+// Numbers of up to eight characters, read as one word: a log has millions of them, and a loop over
+// the characters takes several times as long. What the quick road does not know goes to the
+// tolerant one, so the results are its own.
 
 /// A text of up to eight characters, the last one in the highest byte.
 using TextWord = std::uint64_t;
@@ -27,7 +28,8 @@ struct ShortNumber {
 
 namespace detail {
 
-inline constexpr TextWord kEachByte = 0x0101010101010101, kHighBits = 0x8080808080808080, kLowBits = ~kHighBits;
+inline constexpr TextWord kEachByte = 0x0101010101010101, kHighBits = 0x8080808080808080,
+                          kLowBits = ~kHighBits;
 
 /// The high bit of each byte that is `c`.
 constexpr TextWord BytesThatAre(TextWord word, char c) {

@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// The lines of a text, one after the other, without their ends (CR LF or LF; the last line needs none).
+/// The lines of a text, one after the other, without their ends (CR LF or LF; the last line needs
+/// none).
 class TextLines {
  public:
   explicit TextLines(std::string_view text) : at_(text.data()), end_(text.data() + text.size()) {}
@@ -17,7 +18,8 @@ class TextLines {
   std::string_view Next() {
     if (AtEnd()) throw RuntimeError(62, "Input past end of file");
     const char* const start = at_;
-    const auto* feed = static_cast<const char*>(std::memchr(start, '\n', static_cast<std::size_t>(end_ - start)));
+    const auto* feed =
+        static_cast<const char*>(std::memchr(start, '\n', static_cast<std::size_t>(end_ - start)));
     const char* stop = feed ? feed : end_;
     at_ = feed ? feed + 1 : end_;
     if (stop != start && stop[-1] == '\r') --stop;

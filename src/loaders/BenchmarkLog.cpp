@@ -12,7 +12,8 @@ constexpr std::string_view kSettingsLine = " ATM", kZoneSection = "Initial zone 
 /// Reading of what a benchmark wants; true once the zones are whole.
 class Reader {
  public:
-  Reader(std::string_view bytes, const std::function<void(long)>& lineRead) : lines_(bytes), lineRead_(lineRead) {}
+  Reader(std::string_view bytes, const std::function<void(long)>& lineRead)
+      : lines_(bytes), lineRead_(lineRead) {}
 
   LoadedZones loaded;
   bool read = false;
@@ -30,7 +31,9 @@ class Reader {
   }
 
  private:
-  static bool IsStop(std::string_view line) { return line.starts_with(kSettingsLine) || line == kZoneSection; }
+  static bool IsStop(std::string_view line) {
+    return line.starts_with(kSettingsLine) || line == kZoneSection;
+  }
   void Tell() {
     constexpr long kLineEnd = 2;
     lineRead_(static_cast<long>(lines_.Current().size()) + kLineEnd);

@@ -17,7 +17,8 @@ namespace {
 
 constexpr std::size_t kStoredVolts = 5000;  ///< an auxiliary input's range: thousandths of a volt
 
-/// What follows from a sample's MAP alone. A log has few different ones, so each is worked out once.
+/// What follows from a sample's MAP alone. A log has few different ones, so each is worked out
+/// once.
 struct MAPFacts {
   bool known = false;
   int zoneRow = 0;
@@ -34,7 +35,8 @@ class Pass {
         newChip_(log.zones.chip.datChipDate >= kNewChipDate),
         normallyAspirated_(IsNormallyAspirated(zones_[zone::kFlags])),
         atmosphere_(log.zones.intAtmosphericPressure * 10),
-        targets_(CalcAFTargets(zones_, log.zones.chip, tables, log.gcolDataItems->Item(ItemOf(kAuxNF)).Factor())),
+        targets_(CalcAFTargets(zones_, log.zones.chip, tables,
+                               log.gcolDataItems->Item(ItemOf(kAuxNF)).Factor())),
         facts_(kMAPs) {}
 
   void MAPAndZoneColumns();
@@ -61,10 +63,13 @@ class Pass {
 };
 
 std::int32_t Pass::Target(std::int32_t MAP, std::int32_t RPM) const {
-  const ZoneRows rows = CalcZoneRowBoundaries(MAP, normallyAspirated_, targets_.O2Sensor, targets_.autoTuneType, RPM);
-  const auto target = [this](int row) { return targets_.targets[static_cast<std::size_t>(row - 1)]; };
-  return RoundToLong(
-      LinearInterpolate(rows.lowerMAP, rows.upperMAP, MAP, target(rows.lower), target(rows.upper), /*clamp=*/true));
+  const ZoneRows rows =
+      CalcZoneRowBoundaries(MAP, normallyAspirated_, targets_.O2Sensor, targets_.autoTuneType, RPM);
+  const auto target = [this](int row) {
+    return targets_.targets[static_cast<std::size_t>(row - 1)];
+  };
+  return RoundToLong(LinearInterpolate(rows.lowerMAP, rows.upperMAP, MAP, target(rows.lower),
+                                       target(rows.upper), /*clamp=*/true));
 }
 
 MAPFacts Pass::Work(std::int32_t MAP) const {
@@ -97,7 +102,8 @@ void Pass::MAPAndZoneColumns() {
     store_.Set(kBoost, i, facts.boost);
     store_.Set(kVacuum, i, facts.vacuum);
     store_.Set(kFuelZV, i, zones_[static_cast<std::size_t>(ZoneCell(ZoneGrid::Fuel, row, column))]);
-    store_.Set(kIgnZV, i, zones_[static_cast<std::size_t>(ZoneCell(ZoneGrid::Ignition, row, column))]);
+    store_.Set(kIgnZV, i,
+               zones_[static_cast<std::size_t>(ZoneCell(ZoneGrid::Ignition, row, column))]);
     store_.Set(kAFTgt, i, RPM < 2001 ? facts.targetBelow2001RPM : facts.target);
   }
 }
@@ -107,18 +113,21 @@ void Pass::KnockThreshold() {
   const double start = newChip_ ? std::trunc(7500 - threshold * 62.5) : 10000;
   for (int i = 0; i < store_.Rows(); ++i) {
     const std::int32_t RPM = store_(kRPM, i);
-    store_.Set(kKnockT, i, RPM <= start ? threshold : RoundToLong((RPM - start) * 0.016 + threshold));
+    store_.Set(kKnockT, i,
+               RPM <= start ? threshold : RoundToLong((RPM - start) * 0.016 + threshold));
   }
 }
 
 void Pass::AirTempRetard() {
   const int ignitionStart = zones_[zone::kIgnitionStart];
-  const std::int32_t start = newChip_ && ignitionStart >= 1 ? ignitionStart * 10 : 9999;  // tenths of a degree C
+  const std::int32_t start =
+      newChip_ && ignitionStart >= 1 ? ignitionStart * 10 : 9999;  // tenths of a degree C
   const double slope = zones_[zone::kIgnitionSlope] / 256.0;
   for (int i = 0; i < store_.Rows(); ++i) {
     const std::int32_t temperature = store_(kATemp, i);
     if (temperature > start)
-      store_.Set(kATR, i, RoundToLong((static_cast<double>(temperature) - start) / 10 * slope * 10));
+      store_.Set(kATR, i,
+                 RoundToLong((static_cast<double>(temperature) - start) / 10 * slope * 10));
   }
 }
 

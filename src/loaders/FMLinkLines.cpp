@@ -30,6 +30,7 @@ struct Field {
 //   1043     850 L  34 =  91    12   250   4  *0.52    3  9.5
 //   123456789012345678901234567890123456789012345678901234567890123
 constexpr Field kLogLine[] = {
+    // clang-format off
     {kSample, 1, 6, Rule::Whole},
     {kCASErr, 8, 1, Rule::Mark, '*'},
     {kRPM, 9, 4, Rule::Whole},
@@ -47,9 +48,11 @@ constexpr Field kLogLine[] = {
     {kKnock, 50, 3, Rule::Whole},
     {kKnockE, 53, 1, Rule::Mark, '!'},
     {kIAdv, 54, 4, Rule::Tenths},
+    // clang-format on
 };
 constexpr std::size_t kLogLineReach = 57;
-constexpr std::size_t kSecondLayoutFrom = 63;  ///< a line of this length carries the wastegate, and "Aux NF" at 60
+constexpr std::size_t kSecondLayoutFrom =
+    63;  ///< a line of this length carries the wastegate, and "Aux NF" at 60
 
 using LogLine = FixedLine<kLogLineReach>;
 
@@ -80,11 +83,13 @@ std::int32_t Read(const Line& line, const FMLinkItems& items) {
 }
 
 template <std::size_t... I>
-void ReadFields(const LogLine& line, const FMLinkItems& items, SampleStore& store, int row, std::index_sequence<I...>) {
+void ReadFields(const LogLine& line, const FMLinkItems& items, SampleStore& store, int row,
+                std::index_sequence<I...>) {
   (store.Set(kLogLine[I].column, row, Read<kLogLine[I]>(line, items)), ...);
 }
 
-/// At 20: the lambda control's mark, or the L3 correction of a band (a digit) or of idle (a letter).
+/// At 20: the lambda control's mark, or the L3 correction of a band (a digit) or of idle (a
+/// letter).
 void ReadLambda(const LogLine& line, const FMLinkItems& items, SampleStore& store, int row) {
   constexpr int kBlankEntry = 4;
   const auto c = static_cast<unsigned char>(line.At(20));
@@ -116,7 +121,8 @@ std::int32_t TPSOfSwitches(std::int32_t throttle) {
   return throttle == 2 ? 10000 : 5000;
 }
 
-/// At 44: the throttle sensor of a 1.8, else the idle air valve; or, told by a point, the auxiliary input.
+/// At 44: the throttle sensor of a 1.8, else the idle air valve; or, told by a point, the auxiliary
+/// input.
 void ReadThrottleAndIAC(const LogLine& line, bool version18, SampleStore& store, int row) {
   constexpr std::int32_t kIdle = 1, kIACOffIdle = 40;
   const std::int32_t throttle = store(kThrottle, row);
@@ -186,7 +192,8 @@ void ReadAirTempOrSpeed(const SummaryLine& line, SummaryRow& row, std::int32_t& 
   lowestAirTemp = std::min(lowestAirTemp, row[kATemp]);
 }
 
-/// From 54 on: a voltage is known by its "v", a speed by "S="; what is neither is the L4 correction.
+/// From 54 on: a voltage is known by its "v", a speed by "S="; what is neither is the L4
+/// correction.
 void ReadTail(const SummaryLine& line, SummaryRow& row) {
   const auto volts = [&line](int at) { return RoundToLong(line.Number(at, 4) * 1000); };
   if (line.At(58) == 'v') {
@@ -209,7 +216,8 @@ bool IsEngine(std::string_view text) { return text == "1.6" || text == "1.8"; }
 
 FMLinkLine KindOfFMLinkLine(std::string_view line) {
   if (line.empty()) return FMLinkLine::Other;
-  if (line[0] >= '0' && line[0] <= '9' && line.size() >= 7 && line[6] == ' ') return FMLinkLine::Log;
+  if (line[0] >= '0' && line[0] <= '9' && line.size() >= 7 && line[6] == ' ')
+    return FMLinkLine::Log;
   const std::string_view engine = line.substr(1, 3);
   if (IsEngine(engine) || engine == "1.x") return FMLinkLine::Summary;
   const double number = StringToDouble(line.substr(0, 6));
@@ -227,7 +235,8 @@ FMLinkItems::FMLinkItems(const clsLogDataItems& items)
       lambda[static_cast<unsigned char>(marks[index][0])] = static_cast<std::uint8_t>(index);
 }
 
-void ParseLogLine(std::string_view text, bool version18, const FMLinkItems& items, SampleStore& store, int row) {
+void ParseLogLine(std::string_view text, bool version18, const FMLinkItems& items,
+                  SampleStore& store, int row) {
   const LogLine line(text);
   ReadFields(line, items, store, row, std::make_index_sequence<std::size(kLogLine)>());
   ReadLambda(line, items, store, row);

@@ -20,15 +20,18 @@ class FMLinkItems {
   explicit FMLinkItems(const clsLogDataItems& items);
 
   double Factor(Column column) const { return factors_[static_cast<std::size_t>(column)]; }
-  std::array<std::uint8_t, 256> lambda{};  ///< index of a character in the list of "Lambda"; 0 where it has none
+  std::array<std::uint8_t, 256>
+      lambda{};  ///< index of a character in the list of "Lambda"; 0 where it has none
   std::int32_t CRZero = 0, fuelPercentMZero = 0;
 
  private:
   std::array<double, kColumnCount> factors_{};
 };
 
-/// Parses a LOG LINE into a row of the store. `version18`: the last summary said that the engine is a 1.8.
-void ParseLogLine(std::string_view line, bool version18, const FMLinkItems& items, SampleStore& store, int row);
+/// Parses a LOG LINE into a row of the store. `version18`: the last summary said that the engine is
+/// a 1.8.
+void ParseLogLine(std::string_view line, bool version18, const FMLinkItems& items,
+                  SampleStore& store, int row);
 
 /// The slow data of a SUMMARY LINE, by column.
 class SummaryRow {

@@ -13,7 +13,8 @@
 namespace tarnview {
 namespace {
 
-/// Rows to expect: lines of about 57 bytes, one of 17 a summary. A little high, so that the store need not grow.
+/// Rows to expect: lines of about 57 bytes, one of 17 a summary. A little high, so that the store
+/// need not grow.
 int ExpectedRows(std::size_t bytes) {
   constexpr double kBytesPerLine = 57;
   return static_cast<int>(std::min(static_cast<double>(bytes) / kBytesPerLine * 16 / 17, 1e9));

@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::string_view kZonesFollow = "Initial zone map";
 
-/// How a summary's number is spread over the samples since the summary before: to so many places, then times a factor.
+/// How a summary's number is spread over the samples since the summary before: to so many places,
+/// then times a factor.
 struct Spread {
   Column column;
   int places;
@@ -27,15 +28,18 @@ std::int32_t Stored(const Spread& spread, double value) {
   return RoundToLong(rounded * spread.factor);
 }
 
-void Interpolate(const Spread& spread, SampleStore& store, int first, int end, double from, double to) {
+void Interpolate(const Spread& spread, SampleStore& store, int first, int end, double from,
+                 double to) {
   if (from == to) return store.Fill(spread.column, first, end, Stored(spread, from));
   const double step = (to - from) / (end - first);
-  for (int i = first; i < end; ++i) store.Set(spread.column, i, Stored(spread, from + step * (i - first)));
+  for (int i = first; i < end; ++i)
+    store.Set(spread.column, i, Stored(spread, from + step * (i - first)));
 }
 
 }  // namespace
 
-FMLinkSamples::FMLinkSamples(const LoadContext& context) : context_(context), log_(context.log), items_(context.items) {
+FMLinkSamples::FMLinkSamples(const LoadContext& context)
+    : context_(context), log_(context.log), items_(context.items) {
   current_.version18 = EngineSizeText(context.settings.gdblDefaultEngineSize) == "1.8";
 }
 
@@ -79,7 +83,8 @@ void FMLinkSamples::ReadSummary(std::string_view line) {
   const int end = store.Rows();
   if (start_ < end) {
     for (const Spread& spread : kSpreads)
-      Interpolate(spread, store, start_, end, previous_[spread.column], current_.row[spread.column]);
+      Interpolate(spread, store, start_, end, previous_[spread.column],
+                  current_.row[spread.column]);
     for (const Column column : kSwitches) store.Fill(column, start_, end, current_.row[column]);
     FindFirstPlotSample(start_, end);
   }
@@ -95,21 +100,25 @@ void FMLinkSamples::MarkTag(bool inTag) {
 
 void FMLinkSamples::FindFirstPlotSample(int first, int end) {
   for (int i = first; i < end && log_.glngFirstPlotSample == -1; ++i)
-    if (log_.glngDataLog(kCTemp, i) >= context_.settings.gintPlotFromTemperature) log_.glngFirstPlotSample = i;
+    if (log_.glngDataLog(kCTemp, i) >= context_.settings.gintPlotFromTemperature)
+      log_.glngFirstPlotSample = i;
 }
 
 void FMLinkSamples::Finish() {
   SampleStore& store = log_.glngDataLog;
   const int end = store.Rows();
   for (const Spread& spread : kSpreads)
-    store.Fill(spread.column, start_, end, RoundToLong(static_cast<double>(spread.factor) * previous_[spread.column]));
+    store.Fill(spread.column, start_, end,
+               RoundToLong(static_cast<double>(spread.factor) * previous_[spread.column]));
   for (const Column column : kSwitches) store.Fill(column, start_, end, previous_[column]);
 
   store.Fill(kCR, 0, end, items_.CRZero);
   store.Fill(kFuelPercentM, 0, end, items_.fuelPercentMZero);
   LookupCache airFuel(context_.tables.O2, 1000);
   for (int i = 0; i < end; ++i) {
-    store.Set(kSecs, i, RoundToLong(RoundPlaces(store(kSample, i) * kFMLinkSecondsPerSample, 4) * kStoredPerSecond));
+    store.Set(kSecs, i,
+              RoundToLong(RoundPlaces(store(kSample, i) * kFMLinkSecondsPerSample, 4) *
+                          kStoredPerSecond));
     store.Set(kAF, i, airFuel(store(kO2, i)));
   }
 }
@@ -118,7 +127,8 @@ void FMLinkSamples::FinishTags() {
   MarkTag(false);
   const SampleStore& store = log_.glngDataLog;
   const int rows = store.Rows();
-  log_.gcolLogTags.Validate(rows > 0 ? store(kSample, 0) : 0, rows > 0 ? store(kSample, rows - 1) : 0);
+  log_.gcolLogTags.Validate(rows > 0 ? store(kSample, 0) : 0,
+                            rows > 0 ? store(kSample, rows - 1) : 0);
 }
 
 }  // namespace tarnview

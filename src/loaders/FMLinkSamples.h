@@ -8,15 +8,17 @@
 
 namespace tarnview {
 
-/// The sample section of a log: the fast data line by line, the slow data of the summaries spread over the lines
-/// between them, and the tags that summaries open and close.
+/// The sample section of a log: the fast data line by line, the slow data of the summaries spread
+/// over the lines between them, and the tags that summaries open and close.
 class FMLinkSamples {
  public:
   explicit FMLinkSamples(const LoadContext& context);
 
-  /// Reads up to the line "Initial zone map", or to the end. `lineStep`: lines between two tellings of progress.
+  /// Reads up to the line "Initial zone map", or to the end. `lineStep`: lines between two tellings
+  /// of progress.
   void Read(TextLines& lines, long lineStep);
-  /// Gives the samples behind the last summary its values, and all samples what follows from their other columns.
+  /// Gives the samples behind the last summary its values, and all samples what follows from their
+  /// other columns.
   void Finish();
   /// Closes an open tag and brings all tags within the log.
   void FinishTags();

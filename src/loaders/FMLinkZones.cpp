@@ -16,7 +16,8 @@ constexpr std::string_view kATM = " ATM";
 constexpr std::string_view kChanges = "Lambda/knock zone changes";
 constexpr std::string_view kNoChanges = "No lambda/knock zone changes";
 constexpr std::int16_t kUnknown = -1;
-constexpr std::size_t kHeadingLength = 68;  ///< a zone section's heading; only an " ATM" row may stand there
+constexpr std::size_t kHeadingLength =
+    68;  ///< a zone section's heading; only an " ATM" row may stand there
 constexpr std::size_t kLastRowLength = 64;  ///< the row of zones 240 to 255, which old ECUs lack
 constexpr int kSecondRow = 16, kFirstOfLastRow = 240;
 constexpr int kCellsPerRow = 16;
@@ -28,13 +29,17 @@ struct ZoneRow {
   bool cells;  ///< in the changes section, read by position
 };
 constexpr ZoneRow kRows[] = {
-    {2, 16, false},                                                                                  //
-    {1, 32, true},  {0, 48, true},  {0, 64, true},  {0, 80, true},  {0, 96, true},  {0, 112, true},  // fuel
-    {3, 128, true}, {0, 144, true}, {0, 160, true}, {0, 176, true}, {0, 192, true}, {0, 208, true},  // ignition
+    {2, 16, false},  //
+    {1, 32, true},  {0, 48, true},  {0, 64, true},
+    {0, 80, true},  {0, 96, true},  {0, 112, true},  // fuel
+    {3, 128, true}, {0, 144, true}, {0, 160, true},
+    {0, 176, true}, {0, 192, true}, {0, 208, true},  // ignition
     {2, 224, true},
 };
 
-[[noreturn]] void Fail(long number, const char* description) { throw RuntimeError(number, description); }
+[[noreturn]] void Fail(long number, const char* description) {
+  throw RuntimeError(number, description);
+}
 
 std::int16_t ZoneValue(std::string_view text) {
   const double value = RoundHalfEven(StringToDouble(text));
@@ -63,17 +68,21 @@ void SplitZoneLine(std::string_view line, int firstZone, Give&& give) {
 }
 
 void ReadTokens(std::string_view line, int firstZone, ZoneSettings& zones) {
-  SplitZoneLine(line, firstZone, [&](std::size_t zone, std::int16_t value) { zones[zone] = value; });
+  SplitZoneLine(line, firstZone,
+                [&](std::size_t zone, std::int16_t value) { zones[zone] = value; });
 }
 
 /// A change that is not given keeps the zone's own value.
-void ReadChangeTokens(std::string_view line, int firstZone, const ZoneSettings& own, ZoneSettings& changes) {
-  SplitZoneLine(line, firstZone,
-                [&](std::size_t zone, std::int16_t value) { changes[zone] = value == kUnknown ? own[zone] : value; });
+void ReadChangeTokens(std::string_view line, int firstZone, const ZoneSettings& own,
+                      ZoneSettings& changes) {
+  SplitZoneLine(line, firstZone, [&](std::size_t zone, std::int16_t value) {
+    changes[zone] = value == kUnknown ? own[zone] : value;
+  });
 }
 
 /// 16 cells of 3 characters: " 123   *  45 ..."
-void ReadChangeCells(std::string_view text, int firstZone, const ZoneSettings& own, ZoneSettings& changes) {
+void ReadChangeCells(std::string_view text, int firstZone, const ZoneSettings& own,
+                     ZoneSettings& changes) {
   const FixedLine<2 + 4 * kCellsPerRow> line(text);
   for (int c = 0; c < kCellsPerRow; ++c) {
     const std::string_view cell = line.Text(4 * c + 2, 3);
@@ -98,7 +107,8 @@ std::string_view FindATMRow(TextLines& lines) {
   return line;
 }
 
-/// The layout of an ATM line by its length: where engine and date stand, and what the engine's texts mean.
+/// The layout of an ATM line by its length: where engine and date stand, and what the engine's
+/// texts mean.
 struct Engine {
   std::string_view text;
   double size;
@@ -106,7 +116,8 @@ struct Engine {
   int dateAt;
 };
 constexpr Engine kOldEngines[] = {{"1.8", 1.8, 2, 17}, {"MK-II", 1.6, 2, 19}, {"", 1.6, 1, 18}};
-constexpr Engine kEngines[] = {{"1.8", 1.8, 2, 27}, {"OBD2", 1.8, 3, 27}, {"MK-2", 1.6, 2, 27}, {"", 1.6, 1, 27}};
+constexpr Engine kEngines[] = {
+    {"1.8", 1.8, 2, 27}, {"OBD2", 1.8, 3, 27}, {"MK-2", 1.6, 2, 27}, {"", 1.6, 1, 27}};
 
 struct ATMLayout {
   int engineAt;
@@ -131,7 +142,8 @@ void ReadZoneSection(TextLines& lines, ZoneSettings& zones, LoadProgress& progre
     ReadTokens(lines.Current(), kFirstOfLastRow, zones);
   else
     std::fill(zones.begin() + kFirstOfLastRow, zones.end(), std::int16_t{0});
-  if (std::find(zones.begin(), zones.end(), kUnknown) != zones.end()) Fail(5, "Zone setting not known");
+  if (std::find(zones.begin(), zones.end(), kUnknown) != zones.end())
+    Fail(5, "Zone setting not known");
 }
 
 void ReadBenchmarkSection(TextLines& lines, ZoneSettings& zones) {
@@ -141,7 +153,8 @@ void ReadBenchmarkSection(TextLines& lines, ZoneSettings& zones) {
     const bool cells = row.firstZone != kSecondRow;
     (cells ? ReadCells : ReadTokens)(lines.Next(), row.firstZone, zones);
   }
-  if (!lines.AtEnd() && lines.Next().size() == kLastRowLength) ReadTokens(lines.Current(), kFirstOfLastRow, zones);
+  if (!lines.AtEnd() && lines.Next().size() == kLastRowLength)
+    ReadTokens(lines.Current(), kFirstOfLastRow, zones);
 }
 
 void ReadChangesSection(TextLines& lines, LoadedZones& zones, LoadProgress& progress) {
@@ -158,7 +171,8 @@ void ReadChangesSection(TextLines& lines, LoadedZones& zones, LoadProgress& prog
   ReadChangeTokens(FindATMRow(lines), 0, zones.zones, zones.changes);
   for (const ZoneRow& row : kRows) {
     lines.Skip(row.linesToSkip);
-    (row.cells ? ReadChangeCells : ReadChangeTokens)(lines.Next(), row.firstZone, zones.zones, zones.changes);
+    (row.cells ? ReadChangeCells : ReadChangeTokens)(lines.Next(), row.firstZone, zones.zones,
+                                                     zones.changes);
   }
   if (!lines.AtEnd() && lines.Next().size() == kLastRowLength)
     ReadChangeTokens(lines.Current(), kFirstOfLastRow, zones.zones, zones.changes);

@@ -8,7 +8,8 @@
 namespace tarnview {
 namespace {
 
-/// A layout's line of headings: how it begins, blanks aside, and what stands in it; `without` does not.
+/// A layout's line of headings: how it begins, blanks aside, and what stands in it; `without` does
+/// not.
 struct Mark {
   int fileType;
   int withinLines;
@@ -28,7 +29,8 @@ const Mark kMarks[] = {
 
 bool Says(std::string_view line, const Mark& mark) {
   line = Trim(line);
-  if (!line.starts_with(mark.begins) || line.find(mark.without) != std::string_view::npos) return false;
+  if (!line.starts_with(mark.begins) || line.find(mark.without) != std::string_view::npos)
+    return false;
   for (const std::string_view text : mark.holds)
     if (line.find(text) == std::string_view::npos) return false;
   return true;

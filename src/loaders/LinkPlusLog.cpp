@@ -52,9 +52,10 @@ struct Heading {
   Rule rule;
 };
 
-// Count  RPM   MAP    TPS   OXY  ETEMP  ADV  IAT   LAMBST  RadFan      between tabs, in any number and order
-// 1042   3250  101.3  18.5  75   88     28   25.5  +       Off
+// Count  RPM   MAP    TPS   OXY  ETEMP  ADV  IAT   LAMBST  RadFan      between tabs, in any number
+// and order 1042   3250  101.3  18.5  75   88     28   25.5  +       Off
 constexpr Heading kHeadings[] = {
+    // clang-format off
     {"COUNT", "", kSample, Rule::Count},       {"CRNUM", "", kSecs, Rule::Seconds},
     {"RPM", "1100", kRPM, Rule::Whole},        {"MAP", "1101", kMAP, Rule::Tenths},
     {"TPS", "1102", kTPS, Rule::Hundredths},   {"OXY", "", kO2, Rule::Whole},
@@ -72,6 +73,7 @@ constexpr Heading kHeadings[] = {
     {"MAPLIM", "1136", kMAPLmt, Rule::Switch}, {"RPMLIM", "1137", kRevLmt, Rule::Switch},
     {"TGVCLSD", "", kTumble, Rule::Switch},    {"TPSCLS", "1144", kThrottle, Rule::Throttle},
     {"KNOCK", "1145", kKnockE, Rule::Switch},
+    // clang-format on
 };
 constexpr int kHeadingWithinLines = 6;
 constexpr std::size_t kUsualLineLength = 90;
@@ -81,9 +83,10 @@ constexpr SampleLogKind kLinkPlusLog{.wrongFile = Message::NotALinkPlusLog};
 /// nullptr for a heading that is passed over, as "ACTTPS", "FLAGS1", "FLAGS2" and "Markers".
 const Heading* FindHeading(std::string_view text) {
   if (text.empty()) return nullptr;
-  const auto found = std::find_if(std::begin(kHeadings), std::end(kHeadings), [text](const Heading& heading) {
-    return SameIgnoringCase(text, heading.name) || text == heading.id;
-  });
+  const auto found =
+      std::find_if(std::begin(kHeadings), std::end(kHeadings), [text](const Heading& heading) {
+        return SameIgnoringCase(text, heading.name) || text == heading.id;
+      });
   return found == std::end(kHeadings) ? nullptr : found;
 }
 
@@ -98,7 +101,8 @@ Marks MarksOf(const clsLogDataItem& item) {
   Marks marks{};
   for (std::size_t place = item.varDescList.size(); place-- > 0;)
     if (item.varDescList[place].size() == 1)
-      marks[static_cast<unsigned char>(item.varDescList[place][0])] = static_cast<std::uint8_t>(place);
+      marks[static_cast<unsigned char>(item.varDescList[place][0])] =
+          static_cast<std::uint8_t>(place);
   return marks;
 }
 
@@ -136,7 +140,8 @@ class LinkPlusLog : public SampleLog {
 std::size_t LinkPlusLog::ReadHeading() {
   for (int line = 0; !IsHeadingLine(lines_.Next()); ++line)
     if (line + 1 == kHeadingWithinLines) throw RuntimeError(5, "Not a Link Plus log");
-  for (const std::string& text : Split(lines_.Current(), kDelimiter)) fields_.push_back(FindHeading(text));
+  for (const std::string& text : Split(lines_.Current(), kDelimiter))
+    fields_.push_back(FindHeading(text));
   TextLines behind = lines_;
   const std::size_t length = behind.AtEnd() ? 0 : behind.Next().size();
   return length > 0 ? length : kUsualLineLength;
@@ -169,13 +174,16 @@ void LinkPlusLog::StoreBlock(FieldIndex& block) {
 }
 
 /// `first`: the row of the block's first line.
-void LinkPlusLog::StoreColumn(FieldIndex& block, std::size_t field, const Heading& heading, int first) {
+void LinkPlusLog::StoreColumn(FieldIndex& block, std::size_t field, const Heading& heading,
+                              int first) {
   BlockOf<std::int32_t> cells;
   if (const int scale = ScaleOf(heading.rule); scale >= 0) {
-    numbers_.Read(block, field, [&](std::size_t line) { return StringToDouble(block.Field(line, field)); });
+    numbers_.Read(block, field,
+                  [&](std::size_t line) { return StringToDouble(block.Field(line, field)); });
     numbers_.Stored(scale, cells);
   } else {
-    ReadColumn(block, field, cells, [&](std::size_t line) { return Stored(heading, block.Field(line, field)); });
+    ReadColumn(block, field, cells,
+               [&](std::size_t line) { return Stored(heading, block.Field(line, field)); });
   }
   store_.SetRows(heading.column, first, {cells.data(), block.Lines()});
   if (heading.rule == Rule::Count || heading.rule == Rule::Seconds) StoreTime(heading.rule, first);
@@ -209,12 +217,14 @@ void LinkPlusLog::StoreTime(Rule rule, int first) {
       store_.Set(kSample, row, row + 1);
     else
       store_.Set(kSecs, row,
-                 RoundToLong(store_(kSample, row) / context_.settings.gdblDataLogLineFrequency * kStoredPerSecond));
+                 RoundToLong(store_(kSample, row) / context_.settings.gdblDataLogLineFrequency *
+                             kStoredPerSecond));
   }
 }
 
 void LinkPlusLog::FillAirFuel(int first) {
-  for (int row = first; row < store_.Rows(); ++row) store_.Set(kAF, row, OxygenTableOutput(store_(kO2, row)));
+  for (int row = first; row < store_.Rows(); ++row)
+    store_.Set(kAF, row, OxygenTableOutput(store_(kO2, row)));
 }
 
 }  // namespace

@@ -35,11 +35,12 @@ struct LoadMessage {
 
 /// What came of a load.
 struct LoadOutcome {
-  bool loaded = false;                      ///< samples, zones or changes
-  std::string error;                        ///< "9, Subscript out of range", shown before the messages; or empty
-  std::vector<LoadMessage> messages;        ///< to be shown in this order
-  int columns = 0;                          ///< of a Universal log
-  std::vector<std::string> unknownColumns;  ///< titles of a Universal log that its definition does not know
+  bool loaded = false;  ///< samples, zones or changes
+  std::string error;    ///< "9, Subscript out of range", shown before the messages; or empty
+  std::vector<LoadMessage> messages;  ///< to be shown in this order
+  int columns = 0;                    ///< of a Universal log
+  std::vector<std::string>
+      unknownColumns;  ///< titles of a Universal log that its definition does not know
 };
 
 }  // namespace tarnview

@@ -8,7 +8,8 @@ namespace tarnview {
 class LoadProgress {
  public:
   virtual ~LoadProgress() = default;
-  /// A status text ("Preparing to load", "Loading zone settings"). `expectedRows` is the progress bar's maximum.
+  /// A status text ("Preparing to load", "Loading zone settings"). `expectedRows` is the progress
+  /// bar's maximum.
   virtual void Stage(std::string_view text, long expectedRows = 0) = 0;
   /// "Loading line n"; called about fifty times in a load.
   virtual void Line(long line) = 0;

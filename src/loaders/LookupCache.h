@@ -8,10 +8,12 @@
 
 namespace tarnview {
 
-/// A conversion table that remembers what it gave for each input of 0 to `inputs` - 1: samples repeat few of them.
+/// A conversion table that remembers what it gave for each input of 0 to `inputs` - 1: samples
+/// repeat few of them.
 class LookupCache {
  public:
-  LookupCache(const ConversionTable& table, std::size_t inputs) : table_(table), outputs_(inputs, kNotYet) {}
+  LookupCache(const ConversionTable& table, std::size_t inputs)
+      : table_(table), outputs_(inputs, kNotYet) {}
 
   std::int32_t operator()(std::int32_t input) {
     const auto slot = static_cast<std::size_t>(input);

@@ -6,7 +6,8 @@
 namespace tarnview {
 
 std::int32_t AtmosphereAsMAP(const LoadContext& context) {
-  return RoundToLong(context.settings.gintDefaultAtmosphericPressure * context.items.Item(ItemOf(kMAP)).Factor());
+  return RoundToLong(context.settings.gintDefaultAtmosphericPressure *
+                     context.items.Item(ItemOf(kMAP)).Factor());
 }
 
 BoostOrVacuum BoostOrVacuumOf(std::int32_t MAP, std::int32_t atmosphere) {

@@ -10,7 +10,8 @@ namespace tarnview {
 /// The default atmospheric pressure as "MAP" stores it.
 std::int32_t AtmosphereAsMAP(const LoadContext& context);
 
-/// A stored "MAP" above the atmosphere as stored "Boost", one at or below it as stored "Vacuum"; the other is 0.
+/// A stored "MAP" above the atmosphere as stored "Boost", one at or below it as stored "Vacuum";
+/// the other is 0.
 struct BoostOrVacuum {
   std::int32_t boost = 0, vacuum = 0;
 };

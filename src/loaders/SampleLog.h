@@ -11,8 +11,8 @@ namespace tarnview {
 class SampleLog {
  public:
   virtual ~SampleLog() = default;
-  /// Reads what stands before the samples and gives the usual length of a line, at least 1. Throws where the file is
-  /// of another kind.
+  /// Reads what stands before the samples and gives the usual length of a line, at least 1. Throws
+  /// where the file is of another kind.
   virtual std::size_t ReadHeading() = 0;
   /// `lineStep`: lines between two tellings of progress.
   virtual void ReadSamples(long lineStep) = 0;
@@ -27,7 +27,8 @@ struct SampleLogKind {
 LoadOutcome LoadSampleLog(SampleLog& reader, std::string_view bytes, const LoadContext& context,
                           const SampleLogKind& kind);
 
-/// The lines of samples, one after the other, while there is room for samples; tells progress about fifty times.
+/// The lines of samples, one after the other, while there is room for samples; tells progress about
+/// fifty times.
 class SampleLines {
  public:
   SampleLines(TextLines lines, const LoadContext& context, long lineStep)

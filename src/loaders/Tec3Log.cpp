@@ -7,8 +7,8 @@ namespace {
 
 using enum TecRule;
 
-// SECONDS   RPM   AD MAP   CLT GAMA MAT TPS  EGO   AF    EGOV  GPO1   BATT  KNK   DUTY  PW     PWOFF
-//     12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2   8.15   0.52
+// SECONDS   RPM   AD MAP   CLT GAMA MAT TPS  EGO   AF    EGOV  GPO1   BATT  KNK   DUTY  PW PWOFF
+//     12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2   8.15 0.52
 //          1         2         3         4         5         6         7         8         9
 // 1234567890123456789012345678901234567890123456789012345678901234567890123456789012345678901234567890
 constexpr TecField kTec3[] = {
@@ -24,7 +24,8 @@ constexpr TecField kTec3[] = {
 
 // TDUTY  TPWON TPWOFF AD1  AD2  AD3  AD4  GPO2   GFG SIA KNR IAC
 //   0.00  0.00   0.00 0.51 1.22 2.48 4.97    1.5   7 12   3   33.0    a line of 164
-//   0.00  0.00   0.00 0.51 1.22 2.48 4.97   2.5   8 -1   0            a line of 156: from "GPO2" on a place to the left
+//   0.00  0.00   0.00 0.51 1.22 2.48 4.97   2.5   8 -1   0            a line of 156: from "GPO2" on
+//   a place to the left
 //          1         2         3         4         5         6
 // 1234567890123456789012345678901234567890123456789012345678901234   + 100
 constexpr TecField kRestOf164[] = {
@@ -37,7 +38,8 @@ constexpr TecField kRestOf156[] = {
     {kSIA, 151, 2, WholeFactored},
     {kKNR, 155, 2, WholeFactored},
 };
-constexpr std::size_t kLong = 164, kShort = 156, kSecondsLength = 9, kSecondsPoint = 7, kSecondsBlank = 10;
+constexpr std::size_t kLong = 164, kShort = 156, kSecondsLength = 9, kSecondsPoint = 7,
+                      kSecondsBlank = 10;
 constexpr SampleLogKind kTec3Log{.wrongFile = Message::NotATec3Log};
 
 class Tec3Log : public SampleLog {
@@ -70,13 +72,15 @@ class Tec3Log : public SampleLog {
       store.Set(kSecs, row, Seconds({block.Line(line), kSecondsLength}, row));
   }
 
-  /// A clock that stands still or jumps back goes on by one ten-thousandth; one that is lost (0) by the line frequency.
+  /// A clock that stands still or jumps back goes on by one ten-thousandth; one that is lost (0) by
+  /// the line frequency.
   std::int32_t Seconds(std::string_view text, int row) const {
     const SampleStore& store = context_.log.glngDataLog;
     const std::int32_t seconds = RoundToLong(ValDouble(text) * kStoredPerSecond);
     if (row == 0 || seconds > store(kSecs, row - 1)) return seconds;
     if (seconds != 0) return RoundToLong(store(kSecs, row - 1) + 1.0);
-    return RoundToLong(RoundPlaces(row / context_.settings.gdblDataLogLineFrequency, 4) * kStoredPerSecond);
+    return RoundToLong(RoundPlaces(row / context_.settings.gdblDataLogLineFrequency, 4) *
+                       kStoredPerSecond);
   }
 
   const TextLines lines_;

@@ -37,7 +37,8 @@ void TecBlock::Store(std::span<const TecField> fields) {
     store_.SetRows(field.column, store_.Rows() - static_cast<int>(count_), {cells.data(), count_});
     if (field.column != kATemp) continue;
     const double factor = context_.items.Item(ItemOf(kATemp)).Factor();
-    for (std::size_t line = 0; line < count_; ++line) LowerAirTemp(cells[line], factor, context_.log);
+    for (std::size_t line = 0; line < count_; ++line)
+      LowerAirTemp(cells[line], factor, context_.log);
   }
 }
 
@@ -45,7 +46,8 @@ void TecBlock::Read(const TecField& field) {
   const auto length = static_cast<std::size_t>(field.length);
   const std::size_t end = static_cast<std::size_t>(field.at - 1) + length;
   BlockOf<FieldKey> keys{};
-  for (std::size_t line = 0; line < count_; ++line) keys[line] = KeyOfField(lines_[line] + end, length + 1);
+  for (std::size_t line = 0; line < count_; ++line)
+    keys[line] = KeyOfField(lines_[line] + end, length + 1);
   numbers_.Read(keys.data(), count_, [&](std::size_t line) {
     return NumberOf(field.rule, {lines_[line] + end - length, length});
   });
@@ -68,7 +70,8 @@ void CheckTecHeading(TextLines lines, std::size_t blankAt) {
   lines.Skip(1);
   const bool saysSeconds = lines.Next().starts_with("SECONDS");
   const std::string_view first = lines.Next();
-  if (!saysSeconds || first.size() <= blankAt || first[blankAt - 1] != ' ') throw RuntimeError(5, "Not a Tec log");
+  if (!saysSeconds || first.size() <= blankAt || first[blankAt - 1] != ' ')
+    throw RuntimeError(5, "Not a Tec log");
 }
 
 TextLines FromFirstPoint(TextLines lines, std::size_t pointAt) {

@@ -14,7 +14,8 @@
 
 namespace tarnview {
 
-// Tec-2 and Tec-3 logs are one design: a heading whose second line says SECONDS, then lines of fixed length.
+// Tec-2 and Tec-3 logs are one design: a heading whose second line says SECONDS, then lines of
+// fixed length.
 
 enum class TecRule {
   Whole,          ///< an integer
@@ -34,10 +35,12 @@ struct TecField {
   TecRule rule;
 };
 
-/// Lines of one length, gathered and then read column by column, as the fields of delimited lines are.
+/// Lines of one length, gathered and then read column by column, as the fields of delimited lines
+/// are.
 class TecBlock {
  public:
-  explicit TecBlock(const LoadContext& context) : context_(context), store_(context.log.glngDataLog) {}
+  explicit TecBlock(const LoadContext& context)
+      : context_(context), store_(context.log.glngDataLog) {}
 
   void Add(std::string_view line) { lines_[count_++] = line.data(), length_ = line.size(); }
   bool Full() const { return count_ == lines_.size(); }
@@ -62,10 +65,11 @@ class TecBlock {
   NumberColumn numbers_;  ///< of the field that is read
 };
 
-/// All samples: `store(block)` of the lines whose length fits, a block at a time, and what follows from the others of
-/// their columns.
+/// All samples: `store(block)` of the lines whose length fits, a block at a time, and what follows
+/// from the others of their columns.
 template <class Fits, class Store>
-void ReadTecLines(SampleLines lines, const LoadContext& context, const Fits& fits, const Store& store) {
+void ReadTecLines(SampleLines lines, const LoadContext& context, const Fits& fits,
+                  const Store& store) {
   SampleStore& samples = context.log.glngDataLog;
   TecBlock block(context);
   const auto flush = [&] {
@@ -85,7 +89,8 @@ void ReadTecLines(SampleLines lines, const LoadContext& context, const Fits& fit
   FindFirstPlotSample(context);
 }
 
-/// The second line says SECONDS, the third is longer than `blankAt` and has a blank there. Throws where not.
+/// The second line says SECONDS, the third is longer than `blankAt` and has a blank there. Throws
+/// where not.
 void CheckTecHeading(TextLines lines, std::size_t blankAt);
 /// The lines from the first one on that has a point at `pointAt`.
 TextLines FromFirstPoint(TextLines lines, std::size_t pointAt);

@@ -25,7 +25,8 @@ struct Word {
 };
 constexpr std::string_view kAny = "*";
 
-//      ,    ,   ,MOD,    ,     ,      ,   ,     ,      three heading rows: this one, the names, the sub-headings;
+//      ,    ,   ,MOD,    ,     ,      ,   ,     ,      three heading rows: this one, the names, the
+//      sub-headings;
 // RPM  ,MAP ,MAF,MAF,TPS ,AFR  ,IGN#1 ,IGN,FUEL ,BOOST   or two: the names, the sub-headings
 //      ,PSIG,HZ ,HZ ,    ,     ,      ,   ,     ,(OL)
 //  3250, 8.5, 42, 44,38.5,11.87,  22.5,ECU, -2.0,  45
@@ -57,7 +58,8 @@ constexpr Word kWords[] = {
     {"WG", kAny, kWGPercent, WastegateDuty},
 };
 constexpr char kDelimiter = ',';
-constexpr double kECUs = std::numeric_limits<double>::quiet_NaN();  ///< the ECU's own figure; no text is read as that
+constexpr double kECUs =
+    std::numeric_limits<double>::quiet_NaN();  ///< the ECU's own figure; no text is read as that
 constexpr std::size_t kFewestColumns = 3;
 constexpr SampleLogKind kUTECCSVLog{.wrongFile = Message::NotAUTECCSVLog, .fewestSamples = 4};
 
@@ -134,7 +136,8 @@ std::size_t UTECCSVLog::ReadHeading() {
   rows[1] = ReadRow();
   const TextLines behindTwo = lines_;
   rows[2] = ReadRow();
-  if (rows[1].size() != rows[0].size() || rows[2].size() < rows[0].size()) throw RuntimeError(1, "Not a UTEC log");
+  if (rows[1].size() != rows[0].size() || rows[2].size() < rows[0].size())
+    throw RuntimeError(1, "Not a UTEC log");
 
   if (IsNumeric(rows[2][0])) {  // the first sample
     lines_ = behindTwo;
@@ -158,8 +161,9 @@ void UTECCSVLog::FindColumns(const Cells& names, const Cells& subHeadings, const
 }
 
 bool UTECCSVLog::RepeatsHeading(std::string_view line) const {
-  return std::any_of(headingRows_.begin(), headingRows_.end(),
-                     [text = Trim(line)](std::string_view row) { return SameIgnoringCase(text, row); });
+  return std::any_of(
+      headingRows_.begin(), headingRows_.end(),
+      [text = Trim(line)](std::string_view row) { return SameIgnoringCase(text, row); });
 }
 
 void UTECCSVLog::ReadSamples(long lineStep) {
@@ -226,13 +230,15 @@ void UTECCSVLog::StoreEachSample(FieldIndex& block, std::size_t field, int first
 
 void UTECCSVLog::Read(FieldIndex& block, std::size_t field) {
   const UTECRule rule = fields_[field].word->rule;
-  numbers_.Read(block, field, [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
+  numbers_.Read(block, field,
+                [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
 }
 
 void UTECCSVLog::ReadNumbers(FieldIndex& block, std::size_t field, BlockOf<double>& numbers) {
   const UTECRule rule = fields_[field].word->rule;
   if (InHundredths(field)) {
-    ReadColumn(block, field, numbers, [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
+    ReadColumn(block, field, numbers,
+               [&](std::size_t line) { return NumberOf(rule, block.Field(line, field)); });
   } else {
     Read(block, field);
     numbers_.Values(block.Lines(), numbers);
@@ -244,7 +250,9 @@ void UTECCSVLog::FindHundredths(const FieldIndex& block) {
   for (std::size_t line = 0; line < block.Lines(); ++line)
     for (std::size_t field = 0; field < fields_.size(); ++field) {
       const std::string_view text = block.Field(line, field);
-      if (hundredths_ || !fields_[field].word || fields_[field].word->rule != AirFuel || !IsNumeric(text)) continue;
+      if (hundredths_ || !fields_[field].word || fields_[field].word->rule != AirFuel ||
+          !IsNumeric(text))
+        continue;
       hundredths_ = text.find('.') == std::string_view::npos;
     }
 }

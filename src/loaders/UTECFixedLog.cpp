@@ -20,20 +20,23 @@ struct Place {
 };
 std::string_view TextAt(std::string_view line, Place place) {
   const auto start = static_cast<std::size_t>(place.at - 1);
-  return place.length > 0 && start < line.size() ? line.substr(start, static_cast<std::size_t>(place.length))
-                                                 : std::string_view();
+  return place.length > 0 && start < line.size()
+             ? line.substr(start, static_cast<std::size_t>(place.length))
+             : std::string_view();
 }
 
 // The maps that a user runs decide which of six column sets the log has.
 constexpr std::size_t kLayouts = 6;
 struct Heading {
   int layout;
-  std::string_view text;  ///< its outer blanks count for a line's length, not for what the heading says
+  std::string_view
+      text;  ///< its outer blanks count for a line's length, not for what the heading says
 };
 
 //  RPM   MAP  MAF TPS Site Count  AFR  Ign#1  Inj#1  Ign   Fuel Boost  MAF       layout 1
 //  3250   8.5  38  45   7     3   12.5  22.5   68.2   ECU  -2.5   45.0  41
-//  TIME     RPM   MAP  MAF TPS MLP  Knock  AFR  WG  Boost                         layout 3; 2 and 5 are like it
+//  TIME     RPM   MAP  MAF TPS MLP  Knock  AFR  WG  Boost                         layout 3; 2 and 5
+//  are like it
 //     1200  3250   8.5  38  45  12     3   12.5  66 45
 //  TIME     RPM  MAP MAF TPS MLP  Knock  O2  IGN#1  INJ#1  IGN   FUEL BOOST       layout 4
 //     1200  3250 142  97  88  12     3  0.85  22.5   68.2   ECU  -2.5   45.0
@@ -56,7 +59,8 @@ struct Field {
   UTECRule rule;
   std::array<Place, kLayouts> places;
 };
-// In this order: "IAdv M" may take "IAdv" over, and in open loop the boost field of layout 3 overwrites "WG%".
+// In this order: "IAdv M" may take "IAdv" over, and in open loop the boost field of layout 3
+// overwrites "WG%".
 constexpr Field kFields[] = {
     //                        layout 1  2        3        4        5        6
     {kSecs, Time, {{{}, {1, 8}, {1, 8}, {1, 8}, {1, 8}, {}}}},
@@ -91,11 +95,14 @@ constexpr std::array<Place, kLayouts> kGauge{{{8, 4}, {17, 4}, {17, 4}, {}, {17,
 constexpr Place kWideBand{75, 5};
 
 constexpr int kHeadingWithinLines = 30;
-constexpr std::size_t kHeadingMayDiffer = 2;  ///< so many characters, in a heading and in a line of data
+constexpr std::size_t kHeadingMayDiffer =
+    2;  ///< so many characters, in a heading and in a line of data
 constexpr SampleLogKind kUTECFixedLog{.wrongFile = Message::NotAUTECFixedLog};
 
 std::size_t Apart(std::size_t a, std::size_t b) { return a > b ? a - b : b - a; }
-bool Says(std::string_view line, const Heading& heading) { return SameIgnoringCase(Trim(line), Trim(heading.text)); }
+bool Says(std::string_view line, const Heading& heading) {
+  return SameIgnoringCase(Trim(line), Trim(heading.text));
+}
 bool IsAsLongAs(std::string_view line, const Heading& heading) {
   return Apart(line.size(), heading.text.size()) <= kHeadingMayDiffer;
 }
@@ -127,8 +134,8 @@ class UTECFixedLog : public SampleLog {
   std::vector<Known> known_;
 };
 
-/// The heading of the first lines, with the lines read up to it. Without one, a heading as long as one of the lines,
-/// the last such, and no line read: its text may be cut or changed.
+/// The heading of the first lines, with the lines read up to it. Without one, a heading as long as
+/// one of the lines, the last such, and no line read: its text may be cut or changed.
 const Heading* UTECFixedLog::FindHeading() {
   const Heading* candidate = nullptr;
   TextLines lines = lines_;
@@ -173,7 +180,8 @@ void UTECFixedLog::ReadSamples(long lineStep) {
     for (const Known& known : known_) Store(known, line);
   }
   const auto has = [this](Column column) {
-    return std::any_of(known_.begin(), known_.end(), [=](const Known& known) { return known.column == column; });
+    return std::any_of(known_.begin(), known_.end(),
+                       [=](const Known& known) { return known.column == column; });
   };
   samples_.Finish(has(kSecs), has(kFuelPercentM));
 }
@@ -184,7 +192,8 @@ void UTECFixedLog::Store(const Known& known, std::string_view line) {
     case AirFuel:
       return StoreAirFuel(text, line);
     case ModifiedAdvance:
-      return IsECUs(text) ? samples_.KeepAdvance() : samples_.Set(known.rule, known.column, StringToDouble(text));
+      return IsECUs(text) ? samples_.KeepAdvance()
+                          : samples_.Set(known.rule, known.column, StringToDouble(text));
     case CoolantTemp:
     case AirTemp:
       return samples_.Set(known.rule, known.column, StringToLong(text));
@@ -196,11 +205,13 @@ void UTECFixedLog::Store(const Known& known, std::string_view line) {
   }
 }
 
-/// "W/B" sends to the wide band sensor at the line's end; a line too short for one repeats the sample before.
+/// "W/B" sends to the wide band sensor at the line's end; a line too short for one repeats the
+/// sample before.
 void UTECFixedLog::StoreAirFuel(std::string_view text, std::string_view line) {
   text = Trim(text);
   if (const auto ratio = AirFuelOfWord(text)) return samples_.SetAirFuel(*ratio);
-  if (heading_->layout != 1 || !SameIgnoringCase(text, "W/B")) return samples_.SetAirFuel(StringToDouble(text));
+  if (heading_->layout != 1 || !SameIgnoringCase(text, "W/B"))
+    return samples_.SetAirFuel(StringToDouble(text));
   if (line.size() < static_cast<std::size_t>(kWideBand.at)) return samples_.KeepAirFuel();
   samples_.SetAirFuel(StringToDouble(TextAt(line, kWideBand)));
 }

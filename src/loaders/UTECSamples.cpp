@@ -15,7 +15,8 @@ UTECSamples::UTECSamples(const LoadContext& context)
       store_(context.log.glngDataLog),
       atmosphere_(AtmosphereAsMAP(context)),
       noModifiedFuel_(context.items.Item(ItemOf(kFuelPercentM)).lngStorageOffset) {
-  for (int column = 0; column < kColumnCount; ++column) factor_[column] = context.items.Item(column + 1).Factor();
+  for (int column = 0; column < kColumnCount; ++column)
+    factor_[column] = context.items.Item(column + 1).Factor();
 }
 
 void UTECSamples::Add() {
@@ -25,7 +26,8 @@ void UTECSamples::Add() {
 
 int UTECSamples::ScaleOf(UTECRule rule, Column column) const {
   if (rule == UTECRule::Boost) return 0;
-  if (rule != UTECRule::Factored && rule != UTECRule::CoolantTemp && rule != UTECRule::AirFuel) return -1;
+  if (rule != UTECRule::Factored && rule != UTECRule::CoolantTemp && rule != UTECRule::AirFuel)
+    return -1;
   constexpr double kPowersOfTen[] = {1, 10, 100, 1000};
   const auto found = std::find(std::begin(kPowersOfTen), std::end(kPowersOfTen), factor_[column]);
   return found == std::end(kPowersOfTen) ? -1 : static_cast<int>(found - std::begin(kPowersOfTen));
@@ -33,7 +35,8 @@ int UTECSamples::ScaleOf(UTECRule rule, Column column) const {
 
 inline std::int32_t UTECSamples::StoredOne(UTECRule rule, Column column, double number) {
   constexpr double kFullDuty = 133;
-  constexpr double kCountsFrom = 100;  // kPa, whatever the atmosphere of the settings: kept on purpose
+  constexpr double kCountsFrom =
+      100;  // kPa, whatever the atmosphere of the settings: kept on purpose
   switch (rule) {
     case UTECRule::Factored:
     case UTECRule::CoolantTemp:
@@ -45,7 +48,8 @@ inline std::int32_t UTECSamples::StoredOne(UTECRule rule, Column column, double 
     case UTECRule::Time:
       return Time(number);
     case UTECRule::GaugeMAP:
-      return Factored(column, number / kPsiPerKPa + context_.settings.gintDefaultAtmosphericPressure);
+      return Factored(column,
+                      number / kPsiPerKPa + context_.settings.gintDefaultAtmosphericPressure);
     case UTECRule::MAP:
       return Factored(column, number / kPsiPerKPa + kCountsFrom);
     case UTECRule::AirTemp:
@@ -64,7 +68,8 @@ std::int32_t UTECSamples::Stored(UTECRule rule, Column column, double number) {
   return StoredOne(rule, column, number);
 }
 
-void UTECSamples::Stored(UTECRule rule, Column column, std::span<const double> numbers, std::int32_t* stored) {
+void UTECSamples::Stored(UTECRule rule, Column column, std::span<const double> numbers,
+                         std::int32_t* stored) {
   for (const double number : numbers) *stored++ = StoredOne(rule, column, number);
 }
 
@@ -97,14 +102,16 @@ std::int32_t UTECSamples::AirTemp(double degrees) {
 std::int32_t UTECSamples::Time(double count) {
   constexpr double kMicrosecondsPerCount = 500, kMicroseconds = 1000000;
   if (!firstTime_) firstTime_ = count;
-  return RoundToLong(factor_[kSecs] * (count - *firstTime_) * kMicrosecondsPerCount / kMicroseconds);
+  return RoundToLong(factor_[kSecs] * (count - *firstTime_) * kMicrosecondsPerCount /
+                     kMicroseconds);
 }
 
 void UTECSamples::Finish(bool hasTime, bool hasModifiedFuel) {
   constexpr double kSecondsPerLine = 0.2;
   if (!hasTime)
     for (int row = 0; row < store_.Rows(); ++row)
-      store_.Set(kSecs, row, RoundToLong(factor_[kSecs] * RoundPlaces((row + 1) * kSecondsPerLine, 4)));
+      store_.Set(kSecs, row,
+                 RoundToLong(factor_[kSecs] * RoundPlaces((row + 1) * kSecondsPerLine, 4)));
   if (!hasModifiedFuel) FillWithZero(kFuelPercentM, context_);
   FillWithZero(kCR, context_);
   FindFirstPlotSample(context_);

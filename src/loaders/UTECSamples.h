@@ -47,12 +47,15 @@ class UTECSamples {
   void KeepAirFuel();  ///< that of the sample before
   void KeepAdvance();  ///< modified as the ECU has it
 
-  /// What follows once all samples are there. Without a time column a log runs at five lines a second.
+  /// What follows once all samples are there. Without a time column a log runs at five lines a
+  /// second.
   void Finish(bool hasTime, bool hasModifiedFuel);
 
  private:
   std::int32_t StoredOne(UTECRule rule, Column column, double number);
-  std::int32_t Factored(Column column, double value) const { return RoundToLong(factor_[column] * value); }
+  std::int32_t Factored(Column column, double value) const {
+    return RoundToLong(factor_[column] * value);
+  }
   std::int32_t AirTemp(double degrees);
   std::int32_t Time(double count);
 

@@ -13,7 +13,8 @@ using Texts = std::span<const char* const>;
 
 constexpr const char* kOffOn[] = {"Off", "On"};
 constexpr const char* kDwells[] = {"None", "Long", "Short"};
-constexpr const char* kLambdas[] = {"+", "-", "=", "?", " ", "A", "D", "E", "S", "T", "V", "X", "*"};
+constexpr const char* kLambdas[] = {"+", "-", "=", "?", " ", "A", "D",
+                                    "E", "S", "T", "V", "X", "*"};
 constexpr const char* kAffectors[] = {"None", "Accel", "Decel"};
 constexpr const char* kModes[] = {"N/A", "Closed", "Open"};
 constexpr const char* kThrottles[] = {"None", "Idle", "WOT"};
@@ -126,11 +127,13 @@ constexpr std::array<Row, kColumnCount> kRows{{
 }};
 // clang-format on
 
-/// Item numbers in the order of every list that shows items: by short name, "Sample" and "Secs" first.
+/// Item numbers in the order of every list that shows items: by short name, "Sample" and "Secs"
+/// first.
 constexpr std::array<int, kColumnCount> kDisplayOrder{
-    1,  63, 27, 31, 55, 56, 57, 58, 36, 83, 34, 41, 40, 39, 32, 75, 37, 2,  29, 19, 26, 49, 23, 4,  11, 50, 25, 12,
-    66, 74, 48, 60, 51, 59, 16, 21, 73, 65, 67, 14, 13, 20, 30, 42, 33, 62, 35, 70, 69, 6,  76, 71, 81, 79, 72, 82,
-    5,  78, 43, 77, 18, 7,  8,  28, 45, 47, 44, 3,  61, 24, 52, 15, 46, 17, 80, 53, 54, 68, 38, 22, 9,  10, 64};
+    1,  63, 27, 31, 55, 56, 57, 58, 36, 83, 34, 41, 40, 39, 32, 75, 37, 2,  29, 19, 26,
+    49, 23, 4,  11, 50, 25, 12, 66, 74, 48, 60, 51, 59, 16, 21, 73, 65, 67, 14, 13, 20,
+    30, 42, 33, 62, 35, 70, 69, 6,  76, 71, 81, 79, 72, 82, 5,  78, 43, 77, 18, 7,  8,
+    28, 45, 47, 44, 3,  61, 24, 52, 15, 46, 17, 80, 53, 54, 68, 38, 22, 9,  10, 64};
 
 std::array<int, kColumnCount> KeysBySeq() {
   std::array<int, kColumnCount> keys{};
@@ -145,7 +148,9 @@ std::vector<int> FamiliesOf(std::string_view digits) {
 }
 
 clsLogDataItem ItemOfRow(const Row& row, int key) {
-  const auto has = [&](char flag) { return std::string_view(row.flags).find(flag) != std::string_view::npos; };
+  const auto has = [&](char flag) {
+    return std::string_view(row.flags).find(flag) != std::string_view::npos;
+  };
   clsLogDataItem item;
   item.intSeq = row.seq;
   item.intKey = key;
@@ -183,7 +188,8 @@ Catalogue BuildDataItemCatalogue() {
   Catalogue catalogue;
   const auto keys = KeysBySeq();
   for (const Row& row : kRows)
-    catalogue.gcolFixedDataItems.AddDirect(ItemOfRow(row, keys[static_cast<std::size_t>(row.seq - 1)]));
+    catalogue.gcolFixedDataItems.AddDirect(
+        ItemOfRow(row, keys[static_cast<std::size_t>(row.seq - 1)]));
   catalogue.gcolDefaultDataItems = catalogue.gcolFixedDataItems.Duplicate();
   return catalogue;
 }

@@ -48,7 +48,9 @@ char* CellTexts::Write(Cell& cell, std::int32_t index, char* to) {
   if (cell.item->intType == kListItem) {
     const auto place = static_cast<std::size_t>(stored);
     const auto& texts = cell.item->varDescList;
-    return stored >= 0 && place < texts.size() ? std::copy(texts[place].begin(), texts[place].end(), to) : to;
+    return stored >= 0 && place < texts.size()
+               ? std::copy(texts[place].begin(), texts[place].end(), to)
+               : to;
   }
   if (!cell.known || stored != cell.stored) {
     cell.stored = stored;
@@ -64,8 +66,9 @@ void CellTexts::Format(Cell& cell) const {
   cell.length = 0;
   if ((value == 0 && !cell.item->blnDisplayZero) || cell.factor == 0) return;
   // The same steps as those of FixedText.
-  const double scaled =
-      cell.plain ? static_cast<double>(value) : RoundHalfEven(static_cast<double>(value) / cell.factor * cell.shown);
+  const double scaled = cell.plain
+                            ? static_cast<double>(value)
+                            : RoundHalfEven(static_cast<double>(value) / cell.factor * cell.shown);
   if (std::fabs(scaled) < 1e18) {
     cell.length = PutNumber(static_cast<std::int64_t>(scaled), cell.places, cell.text.data());
     return;

@@ -10,14 +10,15 @@
 
 namespace tarnview {
 
-/// The texts of cells as exports write them, into a line and not as a text each: what clsLogDataItem::GetFormattedData
-/// gives, and nothing where the log held no value.
+/// The texts of cells as exports write them, into a line and not as a text each: what
+/// clsLogDataItem::GetFormattedData gives, and nothing where the log held no value.
 class CellTexts {
  public:
   /// Columns are items (intSeq) of the log, which must stay.
   CellTexts(const OpenLog& log, const std::vector<int>& columns);
 
-  /// The line of a store index, without an end, commas between the cells; it stands until the next one.
+  /// The line of a store index, without an end, commas between the cells; it stands until the next
+  /// one.
   std::string_view Line(std::int32_t index);
 
  private:

@@ -12,12 +12,14 @@ constexpr long kPathFileAccessError = 75;
 
 }  // namespace
 
-ConversionTable ConversionFiles::LoadConversionTable(const std::string& path, const ConversionTable& defaults) {
+ConversionTable ConversionFiles::LoadConversionTable(const std::string& path,
+                                                     const ConversionTable& defaults) {
   if (path.empty() || !files_.FileExists(path)) return defaults;
   const auto text = ReadText(files_, path);
   if (!text) {
     tell_(Message::ConversionFileNotLoaded, "");
-    log_.LogError("modTarnview", "LoadConversionTable", RuntimeError(kPathFileAccessError, "Path/File access error"),
+    log_.LogError("modTarnview", "LoadConversionTable",
+                  RuntimeError(kPathFileAccessError, "Path/File access error"),
                   /*reraise=*/false);
     return defaults;
   }

@@ -10,8 +10,9 @@
 
 namespace tarnview {
 
-/// Reads the files of the two conversion tables. A file that is missing, or whose first line is no known heading,
-/// silently gives the built-in table; one that is there and cannot be read does so with message 4.
+/// Reads the files of the two conversion tables. A file that is missing, or whose first line is no
+/// known heading, silently gives the built-in table; one that is there and cannot be read does so
+/// with message 4.
 class ConversionFiles {
  public:
   ConversionFiles(FileSystem& files, TellMessage tell, ErrorLog& log)

@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// A sensor's table: raw input to output, sorted by input, ascending or descending. At least one row once loaded.
+/// A sensor's table: raw input to output, sorted by input, ascending or descending. At least one
+/// row once loaded.
 using ConversionTable = std::vector<std::pair<std::int32_t, std::int32_t>>;
 
 /// The O2 and Aux tables in use. Outputs are thousandths of the value shown.
@@ -26,10 +27,11 @@ std::int32_t OxygenTableOutput(std::int32_t input);
 /// The rows of a conversion file's text; empty where its first line is no known heading.
 ConversionTable ParseConversionTable(std::string_view text);
 
-/// The output for a value; a value outside the table takes the end row's, one between two rows is interpolated
-/// (rounded half to even) or, without `interpolate`, takes the output that is nearer to the value itself. `reverse`
-/// swaps the columns.
-std::int32_t TableLookup(std::int32_t value, const ConversionTable& table, bool interpolate, bool reverse);
+/// The output for a value; a value outside the table takes the end row's, one between two rows is
+/// interpolated (rounded half to even) or, without `interpolate`, takes the output that is nearer
+/// to the value itself. `reverse` swaps the columns.
+std::int32_t TableLookup(std::int32_t value, const ConversionTable& table, bool interpolate,
+                         bool reverse);
 
 /// Whichever of a and b is nearer the target; a on a tie.
 std::int32_t ReturnClosest(std::int32_t target, std::int32_t a, std::int32_t b);

@@ -36,16 +36,19 @@ void ReadCheckedItems(S& settings, std::string_view text) {
 }
 
 void ReadEngineSize(S& settings, std::string_view text) {
-  if (const double size = StringToDouble(text); size == 1.6 || size == 1.8) settings.gdblDefaultEngineSize = size;
+  if (const double size = StringToDouble(text); size == 1.6 || size == 1.8)
+    settings.gdblDefaultEngineSize = size;
 }
 
 void ReadComPort(S& settings, std::string_view text) {
   const int port = StringToLong(text);
-  settings.gstrSerialComPort = std::to_string(kComPortLimits.Allow(port) ? port : kComPortLimits.least);
+  settings.gstrSerialComPort =
+      std::to_string(kComPortLimits.Allow(port) ? port : kComPortLimits.least);
 }
 
 void ReadLineFrequency(S& settings, std::string_view text) {
-  if (const double lines = StringToDouble(text); lines > 0) settings.gdblDataLogLineFrequency = lines;
+  if (const double lines = StringToDouble(text); lines > 0)
+    settings.gdblDataLogLineFrequency = lines;
 }
 
 void ReadGearFactor(S& settings, std::string_view text) {
@@ -54,34 +57,48 @@ void ReadGearFactor(S& settings, std::string_view text) {
 }
 
 constexpr Rule kZoomAmount{
-    [](S& settings, std::string_view text) { settings.gintZoomAmount = ZoomAmount(StringToLong(text)); },
+    [](S& settings, std::string_view text) {
+      settings.gintZoomAmount = ZoomAmount(StringToLong(text));
+    },
     [](const S& settings) { return std::to_string(settings.gintZoomAmount); },
     "one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100"};
-constexpr Rule kCheckedItems{ReadCheckedItems,
-                             [](const S& settings) { return ItemNumbersText(settings.gcolCheckedDataItems); },
-                             "data item numbers with commas"};
-constexpr Rule kComPort{ReadComPort, [](const S& settings) { return settings.gstrSerialComPort; }, "1 to 9"};
+constexpr Rule kCheckedItems{
+    ReadCheckedItems,
+    [](const S& settings) { return ItemNumbersText(settings.gcolCheckedDataItems); },
+    "data item numbers with commas"};
+constexpr Rule kComPort{ReadComPort, [](const S& settings) { return settings.gstrSerialComPort; },
+                        "1 to 9"};
 constexpr Rule kEngineSize{
-    ReadEngineSize, [](const S& settings) { return ShortestText(settings.gdblDefaultEngineSize); }, "1.6 or 1.8"};
+    ReadEngineSize, [](const S& settings) { return ShortestText(settings.gdblDefaultEngineSize); },
+    "1.6 or 1.8"};
 constexpr Rule kLineFrequency{
-    ReadLineFrequency, [](const S& settings) { return ShortestText(settings.gdblDataLogLineFrequency); }, "above 0"};
-constexpr Rule kGearFactor{ReadGearFactor,
-                           [](const S& settings) { return ShortestText(settings.gdblGearSpeedConvFactor); },
-                           "from 0 to below 100"};
+    ReadLineFrequency,
+    [](const S& settings) { return ShortestText(settings.gdblDataLogLineFrequency); }, "above 0"};
+constexpr Rule kGearFactor{
+    ReadGearFactor,
+    [](const S& settings) { return ShortestText(settings.gdblGearSpeedConvFactor); },
+    "from 0 to below 100"};
 constexpr Rule kHumidityType{
-    [](S& settings, std::string_view text) { settings.gintHumidityType = StringToLong(text) == kWetBulb; },
+    [](S& settings, std::string_view text) {
+      settings.gintHumidityType = StringToLong(text) == kWetBulb;
+    },
     [](const S& settings) { return std::to_string(settings.gintHumidityType); }, "0 or 1"};
 /// Held to its limits once all that they hang on is known: SettleHumidity.
-constexpr Rule kHumidity{[](S& settings, std::string_view text) { settings.gintRelativeHumidity = StringToLong(text); },
-                         [](const S& settings) { return std::to_string(settings.gintRelativeHumidity); },
-                         "0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp"};
+constexpr Rule kHumidity{
+    [](S& settings, std::string_view text) { settings.gintRelativeHumidity = StringToLong(text); },
+    [](const S& settings) { return std::to_string(settings.gintRelativeHumidity); },
+    "0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp"};
 
 template <std::size_t N>
 constexpr Rule kUploadDefault{
-    [](S& settings, std::string_view text) { settings.gblnUploadDefaults[N] = StringToDouble(text) != 0; },
-    [](const S& settings) { return std::string(settings.gblnUploadDefaults[N] ? "1" : "0"); }, "1 or 0"};
+    [](S& settings, std::string_view text) {
+      settings.gblnUploadDefaults[N] = StringToDouble(text) != 0;
+    },
+    [](const S& settings) { return std::string(settings.gblnUploadDefaults[N] ? "1" : "0"); },
+    "1 or 0"};
 
 const IniKey<S> kUpToWindows[] = {
+    // clang-format off
     {"Initial Directory", Text{&S::gstrInitialDirectory}},
     {"Default File Type", Whole{&S::gintDefaultFileType, {kFMLinkLog, kUniversalLog}}, {kFilesPage, "cboFileType"}},
     {"Zoom Amount", kZoomAmount, {kMain, "cboZoomAmount"}},
@@ -117,6 +134,7 @@ const IniKey<S> kUpToWindows[] = {
     {"Upload Default 3", kUploadDefault<3>, {kLinkPage, "chkUploadDefs(3)"}},
     {"Retain Binary Files", Flag{&S::gblnRetainBinary, OnUnlessN}, {kLinkPage, "chkRetainBIN"}},
     {"Auto Open Data Tags Window", Flag{&S::gblnAutoOpenDataTags, OnUnlessN}, {kLinkPage, "chkAutoTag"}},
+    // clang-format on
 };
 
 struct WindowRow {
@@ -133,6 +151,7 @@ constexpr WindowRow kWindows[] = {
 };
 
 const IniKey<S> kBehindWindows[] = {
+    // clang-format off
     {"Fix Graph Max", Flag{&S::gblnFixGraphMax, Number}, {kMain, "chkFixY"}},
     {"Graph Y Max", Whole{&S::gintGraphYMax, kGraphYMaxLimits}, {kMain, "txtYMax"}},
     {"Show Checked Only", Flag{&S::gblnShowCheckedOnly, OffUnlessY}, {kMain, "chkShowCheckedOnly"}},
@@ -160,20 +179,25 @@ const IniKey<S> kBehindWindows[] = {
     {"Graph Colour Scheme",
      Whole{&S::gintGraphColourScheme, kColourSchemeLimits},
      {kGeneralPage, "cboGraphColourScheme"}},
+    // clang-format on
 };
 
-/// Older files have one key for both: "1" correction by relative humidity, "2" by the wet bulb, else none.
+/// Older files have one key for both: "1" correction by relative humidity, "2" by the wet bulb,
+/// else none.
 void ReadOldSAEType(const IniTable& table, S& settings) {
   const auto type = GetINIValue(table, kGeneral, "SAE Type");
   if (!type) return;
-  if (!table.Find(kGeneral, "SAE Correction")) settings.gblnSAECorrection = *type == "1" || *type == "2";
-  if (!table.Find(kGeneral, "Humidity Type")) settings.gintHumidityType = *type == "2" ? kWetBulb : 0;
+  if (!table.Find(kGeneral, "SAE Correction"))
+    settings.gblnSAECorrection = *type == "1" || *type == "2";
+  if (!table.Find(kGeneral, "Humidity Type"))
+    settings.gintHumidityType = *type == "2" ? kWetBulb : 0;
 }
 
 void SettleHumidity(const IniTable& table, S& settings) {
   constexpr int kUsualWetBulb = 15;  // degrees C
   const bool missing = !table.Find(kGeneral, "Relative Humidity");
-  if (missing && settings.gintHumidityType == kWetBulb) settings.gintRelativeHumidity = kUsualWetBulb;
+  if (missing && settings.gintHumidityType == kWetBulb)
+    settings.gintRelativeHumidity = kUsualWetBulb;
   settings.gintRelativeHumidity = HumidityLimits(settings).Hold(settings.gintRelativeHumidity);
 }
 
@@ -181,13 +205,22 @@ using A = GraphAngles;
 constexpr const char* kAnglesSection = "3D Graph";
 
 const IniKey<A> kAngles[] = {
-    {"Initial Fuel Rotation", IniWhole<A>{&A::lngFuelRotation, kAngleLimits}, {kLinkPage, "txt3DSpec(0)"}},
-    {"Initial Fuel Elevation", IniWhole<A>{&A::lngFuelElevation, kAngleLimits}, {kLinkPage, "txt3DSpec(1)"}},
-    {"Initial Ignition Rotation", IniWhole<A>{&A::lngIgnitionRotation, kAngleLimits}, {kLinkPage, "txt3DSpec(2)"}},
-    {"Initial Ignition Elevation", IniWhole<A>{&A::lngIgnitionElevation, kAngleLimits}, {kLinkPage, "txt3DSpec(3)"}},
+    {"Initial Fuel Rotation",
+     IniWhole<A>{&A::lngFuelRotation, kAngleLimits},
+     {kLinkPage, "txt3DSpec(0)"}},
+    {"Initial Fuel Elevation",
+     IniWhole<A>{&A::lngFuelElevation, kAngleLimits},
+     {kLinkPage, "txt3DSpec(1)"}},
+    {"Initial Ignition Rotation",
+     IniWhole<A>{&A::lngIgnitionRotation, kAngleLimits},
+     {kLinkPage, "txt3DSpec(2)"}},
+    {"Initial Ignition Elevation",
+     IniWhole<A>{&A::lngIgnitionElevation, kAngleLimits},
+     {kLinkPage, "txt3DSpec(3)"}},
 };
 
-/// A row for those who are neither reader nor writer. `part` gives the part of the settings that the key belongs to.
+/// A row for those who are neither reader nor writer. `part` gives the part of the settings that
+/// the key belongs to.
 template <class Record, class Part>
 SettingRow RowOf(const char* section, const IniKey<Record>& key, Part part) {
   return {section,
@@ -195,7 +228,9 @@ SettingRow RowOf(const char* section, const IniKey<Record>& key, Part part) {
           key.setIn,
           LimitsOf(key),
           [&key, part](const S& settings) { return IniTextOf(key, *part(&settings)); },
-          [&key, part](S& settings, std::string_view text) { ReadIniText(key, text, *part(&settings)); }};
+          [&key, part](S& settings, std::string_view text) {
+            ReadIniText(key, text, *part(&settings));
+          }};
 }
 
 constexpr int kMostRecentFiles = 9;
@@ -207,12 +242,14 @@ std::string FileKey(int n) { return "File " + std::to_string(n); }
 int ZoomAmount(int wanted) {
   constexpr auto& amounts = kZoomBoxAmounts;
   if (wanted > amounts.back()) return amounts.back();
-  return std::find(amounts.begin(), amounts.end(), wanted) == amounts.end() ? amounts.front() : wanted;
+  return std::find(amounts.begin(), amounts.end(), wanted) == amounts.end() ? amounts.front()
+                                                                            : wanted;
 }
 
 void ReadGeneralSettings(const IniTable& table, const IniTable* install, Settings& settings) {
   ReadIniKeys<S>(kUpToWindows, table, {kGeneral}, settings, IniMissing::Keeps, install);
-  for (const WindowRow& row : kWindows) settings.windows.*row.window = ReadWindowConfig(table, kGeneral, row.keys);
+  for (const WindowRow& row : kWindows)
+    settings.windows.*row.window = ReadWindowConfig(table, kGeneral, row.keys);
   ReadIniKeys<S>(kBehindWindows, table, {kGeneral}, settings);
   ReadOldSAEType(table, settings);
   SettleHumidity(table, settings);
@@ -222,7 +259,8 @@ void ReadGeneralSettings(const IniTable& table, const IniTable* install, Setting
 void WriteGeneralSettings(const Settings& settings, IniWriter& file) {
   WriteIniKeys<S>(kUpToWindows, {kGeneral}, settings, file);
   for (const WindowRow& row : kWindows)
-    if (const auto& config = settings.windows.*row.window) config->WriteIniFileEntry(file, row.keys.prefix);
+    if (const auto& config = settings.windows.*row.window)
+      config->WriteIniFileEntry(file, row.keys.prefix);
   WriteIniKeys<S>(kBehindWindows, {kGeneral}, settings, file);
 }
 

@@ -39,19 +39,22 @@ IniTable ReadINIFileToArray(std::string_view text) {
       continue;
     }
     const auto equals = line.find('=');
-    std::string value(equals == std::string_view::npos ? std::string_view() : line.substr(equals + 1));
+    std::string value(equals == std::string_view::npos ? std::string_view()
+                                                       : line.substr(equals + 1));
     std::replace(value.begin(), value.end(), '\r', ' ');  // as it would be written
     table.Add({section, std::string(line.substr(0, equals)), std::string(Trim(value))});
   }
   return table;
 }
 
-std::optional<std::string_view> GetINIValue(const IniTable& table, std::string_view section, std::string_view key) {
+std::optional<std::string_view> GetINIValue(const IniTable& table, std::string_view section,
+                                            std::string_view key) {
   const std::string* value = table.Find(section, key);
   return value ? std::optional<std::string_view>(*value) : std::nullopt;
 }
 
-std::string ReadProfileValue(const IniTable& table, std::string_view section, std::string_view key) {
+std::string ReadProfileValue(const IniTable& table, std::string_view section,
+                             std::string_view key) {
   constexpr std::size_t kMost = 255;  // characters: the call's buffer of 256 less its terminator
   const auto& rows = table.Rows();
   const auto found = std::find_if(rows.begin(), rows.end(), [&](const IniRow& row) {
@@ -59,7 +62,8 @@ std::string ReadProfileValue(const IniTable& table, std::string_view section, st
   });
   if (found == rows.end()) return "";
   std::string_view value = found->value;
-  if (value.size() >= 2 && value.starts_with('"') && value.ends_with('"')) value = value.substr(1, value.size() - 2);
+  if (value.size() >= 2 && value.starts_with('"') && value.ends_with('"'))
+    value = value.substr(1, value.size() - 2);
   return std::string(Trim(value.substr(0, kMost)));
 }
 
@@ -77,7 +81,8 @@ void IniWriter::Add(std::string_view text) {
   const auto start = static_cast<std::ptrdiff_t>(text_.size());
   text_ += text;
   std::replace_if(
-      text_.begin() + start, text_.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+      text_.begin() + start, text_.end(),
+      [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
 }
 
 void IniWriter::Section(std::string_view name) {
@@ -94,7 +99,8 @@ void IniWriter::Line(std::string_view key, std::string_view value) {
   text_ += kLineEnd;
 }
 
-void SetINIValue(std::string& text, std::string_view section, std::string_view key, std::string_view value) {
+void SetINIValue(std::string& text, std::string_view section, std::string_view key,
+                 std::string_view value) {
   std::string written;
   bool inside = false, done = false;
   const auto write = [&] {

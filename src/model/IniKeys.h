@@ -16,8 +16,8 @@
 
 namespace tarnview {
 
-// A record of the settings file is a table of keys: each row says which member a key holds and by which rule its text
-// is read and written, so that reader and writer walk the same table.
+// A record of the settings file is a table of keys: each row says which member a key holds and by
+// which rule its text is read and written, so that reader and writer walk the same table.
 
 /// What a whole or floating number outside its limits becomes.
 enum class IniBeyond { Clamped, Left };
@@ -63,8 +63,8 @@ struct IniRule {
   const char* limits = "";  ///< in words
 };
 
-/// Where a user sets a value: a page of the Options window or another window, and the control there. Empty: nowhere,
-/// the program keeps it for itself.
+/// Where a user sets a value: a page of the Options window or another window, and the control
+/// there. Empty: nowhere, the program keeps it for itself.
 struct SetIn {
   const char* window = "";
   const char* control = "";
@@ -73,13 +73,15 @@ struct SetIn {
 template <class Record>
 struct IniKey {
   const char* name;
-  std::variant<IniText<Record>, IniWhole<Record>, IniNumber<Record>, IniFlag<Record>, IniDate<Record>, IniRule<Record>>
+  std::variant<IniText<Record>, IniWhole<Record>, IniNumber<Record>, IniFlag<Record>,
+               IniDate<Record>, IniRule<Record>>
       kind;
   SetIn setIn = {};
   bool fromInstall = false;  ///< an empty value is looked up in Tarnview_Install.ini
 };
 
-/// Where the keys of one record stand: "Graph 3 " is in front of their names, or " Car Def 2" behind them.
+/// Where the keys of one record stand: "Graph 3 " is in front of their names, or " Car Def 2"
+/// behind them.
 struct IniPlace {
   std::string section;
   std::string prefix = {};
@@ -88,7 +90,8 @@ struct IniPlace {
   std::string KeyOf(std::string_view name) const { return prefix + std::string(name) + suffix; }
 };
 
-/// What becomes of a member whose key is missing: it keeps its value, or the key counts as an empty text.
+/// What becomes of a member whose key is missing: it keeps its value, or the key counts as an empty
+/// text.
 enum class IniMissing { Keeps, IsEmpty };
 
 /// The shortest decimal that reads back as the same number, without an exponent.
@@ -116,16 +119,22 @@ struct IniReader {
   Record& record;
   std::string_view text;
 
-  // Not inlined: GCC 12 else takes the row's rule for one of a record that holds no text, and warns of its bounds.
+  // Not inlined: GCC 12 else takes the row's rule for one of a record that holds no text, and warns
+  // of its bounds.
   [[gnu::noinline]] void operator()(const IniText<Record>& key) const { record.*key.value = text; }
   void operator()(const IniWhole<Record>& key) const {
-    TakeNumber(record.*key.value, StringToLong(text), key.limits.least, key.limits.most, key.beyond);
+    TakeNumber(record.*key.value, StringToLong(text), key.limits.least, key.limits.most,
+               key.beyond);
   }
   void operator()(const IniNumber<Record>& key) const {
     TakeNumber(record.*key.value, StringToDouble(text), key.least, key.most, key.beyond);
   }
-  void operator()(const IniFlag<Record>& key) const { record.*key.value = ReadFlag(text, key.form); }
-  void operator()(const IniDate<Record>& key) const { record.*key.value = StringToDate(text, record.*key.value); }
+  void operator()(const IniFlag<Record>& key) const {
+    record.*key.value = ReadFlag(text, key.form);
+  }
+  void operator()(const IniDate<Record>& key) const {
+    record.*key.value = StringToDate(text, record.*key.value);
+  }
   void operator()(const IniRule<Record>& key) const { key.read(record, text); }
 };
 
@@ -134,9 +143,15 @@ struct IniTextOf {
   const Record& record;
 
   std::string operator()(const IniText<Record>& key) const { return record.*key.value; }
-  std::string operator()(const IniWhole<Record>& key) const { return std::to_string(record.*key.value); }
-  std::string operator()(const IniNumber<Record>& key) const { return ShortestText(record.*key.value); }
-  std::string operator()(const IniFlag<Record>& key) const { return FlagText(record.*key.value, key.form); }
+  std::string operator()(const IniWhole<Record>& key) const {
+    return std::to_string(record.*key.value);
+  }
+  std::string operator()(const IniNumber<Record>& key) const {
+    return ShortestText(record.*key.value);
+  }
+  std::string operator()(const IniFlag<Record>& key) const {
+    return FlagText(record.*key.value, key.form);
+  }
   std::string operator()(const IniDate<Record>& key) const { return DateText(record.*key.value); }
   std::string operator()(const IniRule<Record>& key) const { return key.write(record); }
 };
@@ -189,8 +204,9 @@ std::string IniTextOf(const IniKey<Record>& key, const Record& record) {
 
 /// Reads the keys of a record. `install` is the table of Tarnview_Install.ini, where there is one.
 template <class Record>
-void ReadIniKeys(std::span<const IniKey<Record>> keys, const IniTable& table, const IniPlace& place, Record& record,
-                 IniMissing missing = IniMissing::Keeps, const IniTable* install = nullptr) {
+void ReadIniKeys(std::span<const IniKey<Record>> keys, const IniTable& table, const IniPlace& place,
+                 Record& record, IniMissing missing = IniMissing::Keeps,
+                 const IniTable* install = nullptr) {
   for (const auto& key : keys) {
     const std::string name = place.KeyOf(key.name);
     const std::string* value = table.Find(place.section, name);
@@ -205,18 +221,20 @@ void ReadIniKeys(std::span<const IniKey<Record>> keys, const IniTable& table, co
 }
 
 template <class Record>
-void WriteIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, const Record& record, IniWriter& file) {
+void WriteIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, const Record& record,
+                  IniWriter& file) {
   for (const auto& key : keys) file.Line(place.KeyOf(key.name), IniTextOf(key, record));
 }
 
 /// The keys alone whose text is not that of a fresh record.
 template <class Record>
-void WriteChangedIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place, const Record& record,
-                         IniWriter& file) {
+void WriteChangedIniKeys(std::span<const IniKey<Record>> keys, const IniPlace& place,
+                         const Record& record, IniWriter& file) {
   const Record fresh{};
   for (const auto& key : keys) {
     const std::string text = std::visit(detail::IniTextOf<Record>{record}, key.kind);
-    if (text != std::visit(detail::IniTextOf<Record>{fresh}, key.kind)) file.Line(place.KeyOf(key.name), text);
+    if (text != std::visit(detail::IniTextOf<Record>{fresh}, key.kind))
+      file.Line(place.KeyOf(key.name), text);
   }
 }
 

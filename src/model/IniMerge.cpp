@@ -9,10 +9,11 @@ namespace {
 
 using Rows = std::vector<IniRow>;
 
-/// Puts a row where it stands in the other program's order: behind the row that is ahead of it there.
+/// Puts a row where it stands in the other program's order: behind the row that is ahead of it
+/// there.
 void Insert(Rows& rows, const IniRow& row, const IniRow* ahead) {
-  const auto found =
-      std::find_if(rows.begin(), rows.end(), [&](const IniRow& one) { return ahead && one.key == ahead->key; });
+  const auto found = std::find_if(
+      rows.begin(), rows.end(), [&](const IniRow& one) { return ahead && one.key == ahead->key; });
   rows.insert(found == rows.end() ? found : found + 1, row);
 }
 

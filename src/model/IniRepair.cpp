@@ -16,7 +16,8 @@ constexpr int kMostRecords = 300;  ///< that a damaged number is looked for amon
 
 bool IsDamaged(std::string_view text) { return text.find(kGone) != std::string_view::npos; }
 
-/// Whether a text may have been that one before it was damaged; of more damage than text nobody can tell.
+/// Whether a text may have been that one before it was damaged; of more damage than text nobody can
+/// tell.
 bool MayBe(std::string_view damaged, std::string_view whole) {
   const auto gone = std::count(damaged.begin(), damaged.end(), kGone);
   return gone <= static_cast<std::ptrdiff_t>(damaged.size() / 2) &&
@@ -32,8 +33,10 @@ std::string WithMarks(std::string_view damaged) {
 
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
-/// The keys that a section's records would have with each number in place of their own: their name in two halves.
-std::set<std::pair<std::string, std::string>> RecordKeys(const IniTable& table, std::string_view section) {
+/// The keys that a section's records would have with each number in place of their own: their name
+/// in two halves.
+std::set<std::pair<std::string, std::string>> RecordKeys(const IniTable& table,
+                                                         std::string_view section) {
   std::set<std::pair<std::string, std::string>> keys;
   for (const IniRow& row : table.Rows()) {
     if (row.section != section || IsDamaged(row.key)) continue;
@@ -53,8 +56,10 @@ class Repair {
   std::string Run() {
     std::string_view rest = text_, line;
     while (TakeLine(rest, line)) {
-      if (const auto repaired = IsDamaged(line) ? Line(line) : std::string(line)) out_ += *repaired + "\r\n";
-      if (line.starts_with('[') && line.ends_with(']') && !IsDamaged(line)) section_ = line.substr(1, line.size() - 2);
+      if (const auto repaired = IsDamaged(line) ? Line(line) : std::string(line))
+        out_ += *repaired + "\r\n";
+      if (line.starts_with('[') && line.ends_with(']') && !IsDamaged(line))
+        section_ = line.substr(1, line.size() - 2);
     }
     return out_;
   }
@@ -86,7 +91,8 @@ class Repair {
 
   static std::optional<std::string> Value(std::string_view value) {
     if (!IsDamaged(value)) return std::string(value);
-    if (std::none_of(value.begin(), value.end(), [](unsigned char c) { return std::isalpha(c); })) return std::nullopt;
+    if (std::none_of(value.begin(), value.end(), [](unsigned char c) { return std::isalpha(c); }))
+      return std::nullopt;
     return WithMarks(value);
   }
 

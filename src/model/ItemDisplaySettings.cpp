@@ -17,20 +17,27 @@ const IniKey<I> kKeys[] = {
                             item.lngColour = std::clamp<long>(StringToLong(text), kBlack, kWhite);
                           },
                           [](const I& item) { return std::to_string(item.lngColour); }}},
-    {"Style", IniRule<I>{[](I& item, std::string_view text) { item.lngLineStyle = StringToLong(text); },
-                         [](const I& item) { return std::to_string(item.lngLineStyle); }}},
-    {"Width",
-     IniRule<I>{[](I& item, std::string_view text) { item.lngLineWidth = kLineWidthLimits.Hold(StringToLong(text)); },
-                [](const I& item) { return std::to_string(item.lngLineWidth); }}},
+    {"Style",
+     IniRule<I>{[](I& item, std::string_view text) { item.lngLineStyle = StringToLong(text); },
+                [](const I& item) { return std::to_string(item.lngLineStyle); }}},
+    {"Width", IniRule<I>{[](I& item, std::string_view text) {
+                           item.lngLineWidth = kLineWidthLimits.Hold(StringToLong(text));
+                         },
+                         [](const I& item) { return std::to_string(item.lngLineWidth); }}},
     {"Display", IniFlag<I>{&I::blnDisplay, IniFlagForm::TrueOrNot}},
-    {"Display Factor", IniNumber<I>{&I::dblSampleDisplayFactor, kLeastDisplayFactor, kMostDisplayFactor}},
+    {"Display Factor",
+     IniNumber<I>{&I::dblSampleDisplayFactor, kLeastDisplayFactor, kMostDisplayFactor}},
 };
 
-IniPlace PlaceOf(const char* section, int item) { return {section, "Item " + std::to_string(item) + " "}; }
+IniPlace PlaceOf(const char* section, int item) {
+  return {section, "Item " + std::to_string(item) + " "};
+}
 
 }  // namespace
 
-bool HasItemDisplay(const IniTable& table, const char* section) { return table.Find(section, "Item 1 Colour"); }
+bool HasItemDisplay(const IniTable& table, const char* section) {
+  return table.Find(section, "Item 1 Colour");
+}
 
 void ReadItemDisplay(const IniTable& table, const char* section, clsLogDataItems& items) {
   if (!HasItemDisplay(table, section)) return;

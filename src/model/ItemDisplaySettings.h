@@ -10,7 +10,8 @@ inline constexpr const char* kGenericItemDisplaySection = "Generic Data Item Dis
 
 /// Whether the section has anything to say: only with the key "Item 1 Colour".
 bool HasItemDisplay(const IniTable& table, const char* section);
-/// Lays the section's colour, style, width, visibility and factor over the items; a missing key keeps its value.
+/// Lays the section's colour, style, width, visibility and factor over the items; a missing key
+/// keeps its value.
 void ReadItemDisplay(const IniTable& table, const char* section, clsLogDataItems& items);
 void WriteItemDisplay(const clsLogDataItems& items, IniWriter& file);
 

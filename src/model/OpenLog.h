@@ -13,7 +13,8 @@ namespace tarnview {
 /// The lowest air temperature before any was seen, degrees C.
 inline constexpr std::int32_t kNoAirTemp = 200;
 
-/// The zone settings of the file that is open, and the changes that the ECU made to them during the run.
+/// The zone settings of the file that is open, and the changes that the ECU made to them during the
+/// run.
 struct LoadedZones {
   ZoneSettings zones{};
   ZoneSettings changes{};   ///< column 0, "Lambda/Knock Zone Changes"
@@ -21,7 +22,8 @@ struct LoadedZones {
   ChipIdentity chip;
   int intAtmosphericPressure = 0;  ///< kPa; 0 for not known
   std::string strNotes;            ///< of a MAP file alone; lines end with CR LF
-  bool gblnZoneLayout6 = false;    ///< six rows of about 13 kPa (normally aspirated), not rows of 40 kPa
+  bool gblnZoneLayout6 =
+      false;  ///< six rows of about 13 kPa (normally aspirated), not rows of 40 kPa
 };
 
 /// The one log that is open: its samples, its zone settings, where it came from.
@@ -29,11 +31,12 @@ struct OpenLog {
   SampleStore glngDataLog;
   const clsLogDataItems* gcolDataItems = nullptr;  ///< the items of the columns
 
-  std::int32_t glngFirstSample = 0;       ///< store index
-  std::int32_t glngLastSample = 0;        ///< store index
-  std::int32_t glngFirstSampleTime = 0;   ///< `Sample` value
-  std::int32_t glngLastSampleTime = 0;    ///< `Sample` value
-  std::int32_t glngFirstPlotSample = -1;  ///< store index of the first sample as warm as the setting; -1 for none
+  std::int32_t glngFirstSample = 0;      ///< store index
+  std::int32_t glngLastSample = 0;       ///< store index
+  std::int32_t glngFirstSampleTime = 0;  ///< `Sample` value
+  std::int32_t glngLastSampleTime = 0;   ///< `Sample` value
+  std::int32_t glngFirstPlotSample =
+      -1;  ///< store index of the first sample as warm as the setting; -1 for none
   std::int32_t glngLowestAirTemp = kNoAirTemp;
 
   std::string gstrCurrentFile;

@@ -9,10 +9,12 @@ namespace {
 
 constexpr int kFewestRows = 64;
 
-/// Cells from one column's begin to the next one's. Loaders may write a row through all columns, which would fight for
-/// one set of the processor's cache if they began at the same place of a memory page (1024 cells); so each begins a
-/// cache line (16 cells) behind its neighbour.
-std::size_t Stride(int capacity) { return (static_cast<std::size_t>(capacity) + 1023) / 1024 * 1024 + 16; }
+/// Cells from one column's begin to the next one's. Loaders may write a row through all columns,
+/// which would fight for one set of the processor's cache if they began at the same place of a
+/// memory page (1024 cells); so each begins a cache line (16 cells) behind its neighbour.
+std::size_t Stride(int capacity) {
+  return (static_cast<std::size_t>(capacity) + 1023) / 1024 * 1024 + 16;
+}
 
 LargeMemory MemoryFor(std::size_t columns, int capacity) {
   return LargeMemory(columns * Stride(capacity) * sizeof(std::int32_t));
@@ -35,10 +37,12 @@ void SampleStore::Make(int column) {
   const std::size_t stride = Stride(capacity_);
   columns_[static_cast<std::size_t>(column)] = start + made_ * stride;
   ++made_;
-  // Most of these end within a large page, which cannot be had any more once a small one of it is in use: so it is
-  // asked for ahead of the next column, if no more than half of it may go to waste.
+  // Most of these end within a large page, which cannot be had any more once a small one of it is
+  // in use: so it is asked for ahead of the next column, if no more than half of it may go to
+  // waste.
   constexpr std::size_t kHalfOfLargePage = 1 << 20;
-  const std::size_t made = made_ * stride * sizeof(std::int32_t), all = columns_.size() * stride * sizeof(std::int32_t);
+  const std::size_t made = made_ * stride * sizeof(std::int32_t),
+                    all = columns_.size() * stride * sizeof(std::int32_t);
   PreferLargePages(start, std::min(made + kHalfOfLargePage, all));
 }
 
@@ -61,7 +65,8 @@ void SampleStore::Grow() {
 void SampleStore::SetRows(int column, int first, std::span<const std::int32_t> values) {
   std::int32_t*& cells = columns_[static_cast<std::size_t>(column)];
   if (!cells) {
-    if (std::all_of(values.begin(), values.end(), [](std::int32_t value) { return value == 0; })) return;
+    if (std::all_of(values.begin(), values.end(), [](std::int32_t value) { return value == 0; }))
+      return;
     Make(column);
   }
   std::copy(values.begin(), values.end(), cells + first);
@@ -87,7 +92,8 @@ std::span<std::int32_t> SampleStore::Writable(int column) {
 
 void SampleStore::SetGaps(int column, int first, std::size_t count, std::uint64_t gaps) {
   auto& bits = gaps_[static_cast<std::size_t>(column)];
-  const auto word = static_cast<std::size_t>(first) / 64, shift = static_cast<std::size_t>(first) % 64;
+  const auto word = static_cast<std::size_t>(first) / 64,
+             shift = static_cast<std::size_t>(first) % 64;
   bits.resize((static_cast<std::size_t>(first) + count + 63) / 64);
   bits[word] |= gaps << shift;
   if (shift > 0 && word + 1 < bits.size()) bits[word + 1] |= gaps >> (64 - shift);
@@ -95,14 +101,16 @@ void SampleStore::SetGaps(int column, int first, std::size_t count, std::uint64_
 
 int SampleStore::CountLogged(int column) const {
   int gaps = 0;
-  for (const std::uint64_t word : gaps_[static_cast<std::size_t>(column)]) gaps += std::popcount(word);
+  for (const std::uint64_t word : gaps_[static_cast<std::size_t>(column)])
+    gaps += std::popcount(word);
   return rows_ - gaps;
 }
 
 std::size_t SampleStore::DeliveredBytes() const {
-  const auto delivered =
-      std::count_if(columns_.begin(), columns_.end(), [](const std::int32_t* cells) { return cells != nullptr; });
-  return static_cast<std::size_t>(delivered) * static_cast<std::size_t>(rows_) * sizeof(std::int32_t);
+  const auto delivered = std::count_if(columns_.begin(), columns_.end(),
+                                       [](const std::int32_t* cells) { return cells != nullptr; });
+  return static_cast<std::size_t>(delivered) * static_cast<std::size_t>(rows_) *
+         sizeof(std::int32_t);
 }
 
 }  // namespace tarnview

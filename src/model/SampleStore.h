@@ -13,9 +13,9 @@ namespace tarnview {
 inline constexpr int kMostSamples = 300000;
 inline constexpr int kFewestSamples = 3;
 
-/// All samples of the log that is open: a table of stored integers, column by sample, both from 0. A cell that the log
-/// does not deliver reads as 0, and a column of such cells takes no memory: a column is made when the first value
-/// other than 0 is written to it.
+/// All samples of the log that is open: a table of stored integers, column by sample, both from 0.
+/// A cell that the log does not deliver reads as 0, and a column of such cells takes no memory: a
+/// column is made when the first value other than 0 is written to it.
 class SampleStore {
  public:
   /// Empties the store and says how many rows to expect (a guess: it grows at need).
@@ -54,7 +54,8 @@ class SampleStore {
   /// A column to write, made if it is not there.
   std::span<std::int32_t> Writable(int column);
 
-  /// Notes for `count` rows (up to 64) from `first` on, a bit each, where the log held no value; a cell keeps the last.
+  /// Notes for `count` rows (up to 64) from `first` on, a bit each, where the log held no value; a
+  /// cell keeps the last.
   void SetGaps(int column, int first, std::size_t count, std::uint64_t gaps);
   /// The cell stands for a value that was logged.
   bool IsLogged(int column, int row) const {
@@ -73,9 +74,11 @@ class SampleStore {
   void Grow();
 
   LargeMemory memory_;
-  std::vector<std::int32_t*> columns_;            ///< where a column begins; nullptr for one that is not delivered
-  std::vector<std::vector<std::uint64_t>> gaps_;  ///< of each column, a bit a row; empty: all rows were logged
-  std::size_t made_ = 0;                          ///< of the columns, one behind the other in the order of their making
+  std::vector<std::int32_t*>
+      columns_;  ///< where a column begins; nullptr for one that is not delivered
+  std::vector<std::vector<std::uint64_t>>
+      gaps_;              ///< of each column, a bit a row; empty: all rows were logged
+  std::size_t made_ = 0;  ///< of the columns, one behind the other in the order of their making
   int rows_ = 0;
   int capacity_ = 0;
 };

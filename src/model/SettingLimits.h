@@ -15,7 +15,8 @@ struct Limits {
   friend bool operator==(const Limits&, const Limits&) = default;
 };
 
-inline constexpr Limits kAnyWhole{std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
+inline constexpr Limits kAnyWhole{std::numeric_limits<std::int32_t>::min(),
+                                  std::numeric_limits<std::int32_t>::max()};
 
 // What the reader of the settings, the windows and the definitions hold their values to.
 

@@ -25,9 +25,11 @@ struct GraphAngles {
   int lngIgnitionElevation = 130;
 };
 
-/// The values of the section "General" of Tarnview.ini and of its small neighbours, each with its default.
+/// The values of the section "General" of Tarnview.ini and of its small neighbours, each with its
+/// default.
 struct Settings {
-  std::string gstrInitialDirectory;  ///< as it was read; dialogs start at gstrDefaultWorkingDirectory
+  std::string
+      gstrInitialDirectory;  ///< as it was read; dialogs start at gstrDefaultWorkingDirectory
   int gintDefaultFileType = 1;
   int gintZoomAmount = 2;
   bool gblnQuickGraph = true;
@@ -76,7 +78,8 @@ struct Settings {
   BeyondSettings beyond;
   std::vector<std::string> recentFiles;            ///< "id|path", the latest first
   std::vector<std::string> recentPowerGraphFiles;  ///< paths, the latest first
-  bool firstRun = false;  ///< no file yet, or one fresh from a template: no user's choices are in it
+  bool firstRun =
+      false;  ///< no file yet, or one fresh from a template: no user's choices are in it
 };
 
 /// What the zoom box offers.

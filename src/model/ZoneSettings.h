@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// The settings of a Link ECU: 256 raw values, 0 to 255 each; a negative value is one that is not known.
+/// The settings of a Link ECU: 256 raw values, 0 to 255 each; a negative value is one that is not
+/// known.
 using ZoneSettings = std::array<std::int16_t, 256>;
 
 /// What decides how zone settings are read; it travels with them.

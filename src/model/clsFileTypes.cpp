@@ -23,12 +23,16 @@ std::string clsFileType::GetSingularDescription() const {
   return strDescription.substr(0, strDescription.size() - (plural ? 1 : 0));
 }
 
-void clsFileType::UpdateDescription(const std::string& name, const std::string& extension, bool force) {
-  strDescription = (force || lngID == kUniversalLog ? clsFileTypes::GetGenericFileTypeNamePrefix() : "") + name;
+void clsFileType::UpdateDescription(const std::string& name, const std::string& extension,
+                                    bool force) {
+  strDescription =
+      (force || lngID == kUniversalLog ? clsFileTypes::GetGenericFileTypeNamePrefix() : "") + name;
   strFileExtension = extension;
 }
 
-clsFileType& clsFileTypes::AddDirect(clsFileType type) { return types_.emplace_back(std::move(type)); }
+clsFileType& clsFileTypes::AddDirect(clsFileType type) {
+  return types_.emplace_back(std::move(type));
+}
 
 std::string clsFileTypes::CommonDialogFilter() const {
   std::vector<std::string> filters;
@@ -62,7 +66,8 @@ int clsFileTypes::GuessFileType(std::string_view path, int defaultType) const {
     ++matches;
     last = type.lngID;
   }
-  const bool defaultOpens = defaultType >= 1 && defaultType <= Count() && Opens(Item(defaultType), extension);
+  const bool defaultOpens =
+      defaultType >= 1 && defaultType <= Count() && Opens(Item(defaultType), extension);
   return matches > 1 && defaultOpens ? defaultType : last;
 }
 

@@ -15,7 +15,8 @@ std::string WholeText(std::int64_t value) {
   return {buffer, std::to_chars(buffer, std::end(buffer), value).ptr};
 }
 
-/// Rounds as the text of the value reads: its 15 digits make a half of what falls short of one by the last bit.
+/// Rounds as the text of the value reads: its 15 digits make a half of what falls short of one by
+/// the last bit.
 std::int32_t RoundAsText(double value) {
   const double fraction = std::fabs(value - std::floor(value) - 0.5);
   constexpr double kFarFromHalf = 1e-4;  // the 15 digits of a number of 32 bits reach further

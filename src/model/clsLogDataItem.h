@@ -16,18 +16,20 @@ enum ItemType : int {
   kListItem = 2     ///< index into varDescList
 };
 
-/// One quantity that a log can hold: how its stored integer turns into a value and a text, how it is drawn, and which
-/// log families may use it.
+/// One quantity that a log can hold: how its stored integer turns into a value and a text, how it
+/// is drawn, and which log families may use it.
 class clsLogDataItem {
  public:
   int intType = kPlainItem;
   std::string strShortName;  ///< column heading and legend; up to 8 characters in the catalogue
   std::string strLongName;
-  std::string strColumnTitles;  ///< of the columns of a Universal log that it is read from, "TitleA, TitleB"
+  std::string strColumnTitles;  ///< of the columns of a Universal log that it is read from,
+                                ///< "TitleA, TitleB"
   std::string strUnit;          ///< of the values, where it is known
-  int intKey = 0;               ///< rank in display order, from 1; the item's key in its collection is "k" + intKey
-  int intSeq = 0;               ///< position in the sample row, from 1: the item's column plus 1
-  double dblFactor = 1;         ///< counts for scaled items only
+  int intKey =
+      0;  ///< rank in display order, from 1; the item's key in its collection is "k" + intKey
+  int intSeq = 0;        ///< position in the sample row, from 1: the item's column plus 1
+  double dblFactor = 1;  ///< counts for scaled items only
   std::vector<std::string> varDescList;
   bool blnDisplay = true;
   long lngLineWidth = 1;  ///< 1 to 5
@@ -68,8 +70,11 @@ class clsLogDataItem {
     const double factor = Factor();
     return factor == 0 ? 0 : value / factor;
   }
-  std::int32_t LeastStored() const { return blnSigned ? std::numeric_limits<std::int32_t>::min() : 0; }
-  /// The stored integer of a value: clamped to the bounds, scaled, rounded half to even, and not below LeastStored.
+  std::int32_t LeastStored() const {
+    return blnSigned ? std::numeric_limits<std::int32_t>::min() : 0;
+  }
+  /// The stored integer of a value: clamped to the bounds, scaled, rounded half to even, and not
+  /// below LeastStored.
   std::int32_t SetRawData(double value) const;
 
   /// A deep copy (a plain copy is one too).

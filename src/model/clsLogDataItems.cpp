@@ -12,8 +12,9 @@ clsLogDataItem& clsLogDataItems::AddDirect(clsLogDataItem item) {
 std::vector<const clsLogDataItem*> clsLogDataItems::InDisplayOrder() const {
   std::vector<const clsLogDataItem*> ordered;
   for (int position = 1; position <= Count(); ++position) ordered.push_back(&Item(position));
-  std::stable_sort(ordered.begin(), ordered.end(),
-                   [](const clsLogDataItem* a, const clsLogDataItem* b) { return a->intKey < b->intKey; });
+  std::stable_sort(
+      ordered.begin(), ordered.end(),
+      [](const clsLogDataItem* a, const clsLogDataItem* b) { return a->intKey < b->intKey; });
   return ordered;
 }
 
@@ -25,7 +26,8 @@ const clsLogDataItem* clsLogDataItems::ByShortName(std::string_view name) const 
 
 clsLogDataItems clsLogDataItems::Duplicate() const {
   clsLogDataItems copy;
-  for (int position = 1; position <= Count(); ++position) copy.AddDirect(Item(position).Duplicate());
+  for (int position = 1; position <= Count(); ++position)
+    copy.AddDirect(Item(position).Duplicate());
   return copy;
 }
 

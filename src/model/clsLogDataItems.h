@@ -9,7 +9,8 @@
 
 namespace tarnview {
 
-/// Data items in the order of their columns, so that Item(n) is the item of column n - 1; keyed "k" + intKey.
+/// Data items in the order of their columns, so that Item(n) is the item of column n - 1; keyed "k"
+/// + intKey.
 class clsLogDataItems {
  public:
   clsLogDataItems() = default;

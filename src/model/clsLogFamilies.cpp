@@ -45,14 +45,17 @@ constexpr FamilyRow kLogFamilies[] = {
 }  // namespace
 
 void clsLogFamily::UpdateDescription(const std::string& name) {
-  strDescription = (lngID == kUniversalFamily ? clsLogFamilies::GetGenericLogFamilyNamePrefix() : "") + name;
+  strDescription =
+      (lngID == kUniversalFamily ? clsLogFamilies::GetGenericLogFamilyNamePrefix() : "") + name;
 }
 
 bool clsLogFamily::Holds(int fileType) const {
   return std::find(colFileTypes.begin(), colFileTypes.end(), fileType) != colFileTypes.end();
 }
 
-clsLogFamily& clsLogFamilies::AddDirect(clsLogFamily family) { return families_.emplace_back(std::move(family)); }
+clsLogFamily& clsLogFamilies::AddDirect(clsLogFamily family) {
+  return families_.emplace_back(std::move(family));
+}
 
 std::vector<std::string> clsLogFamilies::Descriptions() const {
   std::vector<std::string> descriptions;

@@ -34,7 +34,8 @@ class clsLogFamilies {
   /// The first family that holds the file type; 0 if none does.
   int FirstLogFamily(int fileType) const;
   /// The family that fits most of the item numbers, the lowest on a tie; 0 with no votes.
-  int LogFamilyFromDataItemCollection(const std::vector<int>& itemNumbers, const clsLogDataItems& items) const;
+  int LogFamilyFromDataItemCollection(const std::vector<int>& itemNumbers,
+                                      const clsLogDataItems& items) const;
   /// The id, held to 1 to Count.
   int ValidateLogFamily(int id) const;
   static std::string GetGenericLogFamilyNamePrefix() { return "Universal - "; }

@@ -17,7 +17,9 @@ class clsLogTags {
   void Add(std::int32_t from, std::int32_t to) { tags_.push_back({to, from}); }
   int Count() const { return static_cast<int>(tags_.size()); }
   /// From 1 to Count.
-  const clsLogTag& Item(int position) const { return tags_[static_cast<std::size_t>(position - 1)]; }
+  const clsLogTag& Item(int position) const {
+    return tags_[static_cast<std::size_t>(position - 1)];
+  }
   void Remove(int position) { tags_.erase(tags_.begin() + (position - 1)); }
   void RemoveAll() { tags_.clear(); }
   /// Turns tags the right way round and brings them within the log.

@@ -8,7 +8,8 @@
 
 namespace tarnview {
 
-/// Where a window stood when it was closed, in twips: 15 to a pixel of a screen with 96 to the inch.
+/// Where a window stood when it was closed, in twips: 15 to a pixel of a screen with 96 to the
+/// inch.
 class clsWindowConfig {
  public:
   std::int32_t lngHeight = 0;

@@ -8,8 +8,8 @@
 namespace tarnview {
 namespace {
 
-// The two formulas for the pressure of water vapour have constants of their own: each belongs to a published one, and
-// they are not to be made one.
+// The two formulas for the pressure of water vapour have constants of their own: each belongs to a
+// published one, and they are not to be made one.
 
 /// hPa over water at t degrees C (Bolton 1980, equation 10).
 double SaturationOfBolton(double t) { return 6.112 * std::exp(17.67 * t / (t + 243.5)); }
@@ -19,7 +19,9 @@ double SaturationOfTetens(double t) { return 6.1078 * std::pow(10, 7.5 * t / (t 
 
 double HumidityOf(const Air& air, double pressure) {
   const double given = StringToDouble(air.humidity);
-  return air.humidityType == HumidityType::WetBulb ? RelativeHumidity(air.temperature, given, pressure) : given;
+  return air.humidityType == HumidityType::WetBulb
+             ? RelativeHumidity(air.temperature, given, pressure)
+             : given;
 }
 
 }  // namespace
@@ -27,14 +29,16 @@ double HumidityOf(const Air& air, double pressure) {
 double RelativeHumidity(double temperature, double wetBulb, double pressure) {
   constexpr double kPsychrometer = 0.00066;  // per degree C, of a ventilated wet bulb
   constexpr double kWetBulbTerm = 0.00115;   // per degree C
-  const double vapour =
-      SaturationOfBolton(wetBulb) - (temperature - wetBulb) * pressure * kPsychrometer * (wetBulb * kWetBulbTerm + 1);
+  const double vapour = SaturationOfBolton(wetBulb) - (temperature - wetBulb) * pressure *
+                                                          kPsychrometer *
+                                                          (wetBulb * kWetBulbTerm + 1);
   const double percent = RoundHalfEven(100 * vapour / SaturationOfBolton(temperature));
   return std::isfinite(percent) ? std::clamp(percent, 0.0, 100.0) : 0;
 }
 
 std::string CorrectionFactor(const Air& air) {
-  // SAE J1349: the dry air of 990 hPa and 298 K is the standard's; 273 here, not 273.15, kept on purpose.
+  // SAE J1349: the dry air of 990 hPa and 298 K is the standard's; 273 here, not 273.15, kept on
+  // purpose.
   constexpr double kStandardDryPressure = 990, kStandardKelvin = 298, kZeroCelsius = 273;
   const double pressure = static_cast<double>(air.pressure) * 10;  // hPa
   const double vapour = SaturationOfTetens(air.temperature) * HumidityOf(air, pressure) / 100;

@@ -17,12 +17,12 @@ struct Air {
   HumidityType humidityType = HumidityType::Relative;
 };
 
-/// Per cent, 0 to 100, of air at `temperature` whose wet bulb shows `wetBulb` (degrees C); pressure in hPa. A wet bulb
-/// warmer than the air counts as saturated air.
+/// Per cent, 0 to 100, of air at `temperature` whose wet bulb shows `wetBulb` (degrees C); pressure
+/// in hPa. A wet bulb warmer than the air counts as saturated air.
 double RelativeHumidity(double temperature, double wetBulb, double pressure);
 
-/// The factor that takes power measured in this air to the power in the standard's air (25 degrees C, 99 kPa, dry),
-/// "1.007"; empty where it would not be above 0.
+/// The factor that takes power measured in this air to the power in the standard's air (25 degrees
+/// C, 99 kPa, dry), "1.007"; empty where it would not be above 0.
 std::string CorrectionFactor(const Air& air);
 
 }  // namespace tarnview

@@ -18,14 +18,16 @@ const Rule kUnits{[](C& car, std::string_view text) { car.blnImperialUnits = tex
                   [](const C& car) { return std::string(car.blnImperialUnits ? "I" : "M"); }};
 
 /// Files count gears from 1.
-const Rule kGearFromOne{
-    [](C& car, std::string_view text) { car.lngPowerRunGear = std::clamp(StringToLong(text), 1, kTopGear + 1) - 1; },
-    [](const C& car) { return std::to_string(car.lngPowerRunGear + 1); }};
+const Rule kGearFromOne{[](C& car, std::string_view text) {
+                          car.lngPowerRunGear = std::clamp(StringToLong(text), 1, kTopGear + 1) - 1;
+                        },
+                        [](const C& car) { return std::to_string(car.lngPowerRunGear + 1); }};
 
 const Rule kTyreMethod{[](C& car, std::string_view text) {
                          const int method = StringToLong(text);
-                         car.lngTyreSizeMethod =
-                             method == kTyreSize || method == kTyreRevolutions ? method : kTyreRadius;
+                         car.lngTyreSizeMethod = method == kTyreSize || method == kTyreRevolutions
+                                                     ? method
+                                                     : kTyreRadius;
                        },
                        [](const C& car) { return std::to_string(car.lngTyreSizeMethod); }};
 

@@ -13,10 +13,12 @@
 
 namespace tarnview {
 
-/// The controls of a car definition's window, in reading order. No behaviour: that is frmCarDefinitionDetails'.
+/// The controls of a car definition's window, in reading order. No behaviour: that is
+/// frmCarDefinitionDetails'.
 class CarDefinitionControls : public Form {
  public:
-  explicit CarDefinitionControls(Host& itsHost) : Form(itsHost, "frmCarDefinitionDetails", "Car Definition Details") {}
+  explicit CarDefinitionControls(Host& itsHost)
+      : Form(itsHost, "frmCarDefinitionDetails", "Car Definition Details") {}
 
   TabStrip tabCarDefinition{*this, "tabCarDefinition"};
 
@@ -56,7 +58,8 @@ class CarDefinitionControls : public Form {
   Label lblGearRatios{*this, "lblGearRatios", "Ratio"};
   Label lblGearLosses{*this, "lblGearLosses", "Relative Loss (%)"};
   ControlArray<Label> lblGears{*this, "lblGears", UpTo(kGears + 1), ""};
-  ControlArray<TextBox> txtGearRatios{*this, "txtGearRatios", UpTo(kGears + 1), ""};  ///< the last is the diff's
+  ControlArray<TextBox> txtGearRatios{*this, "txtGearRatios", UpTo(kGears + 1),
+                                      ""};  ///< the last is the diff's
   ControlArray<TextBox> txtGearLosses{*this, "txtGearLosses", UpTo(kGears), ""};
 
   Frame fraDefaults{*this, "fraDefaults"};

@@ -45,6 +45,7 @@ constexpr NumberField kNumbers[] = {
 };
 
 constexpr WholeField kWholeNumbers[] = {
+    // clang-format off
     {&Car::lng1stGearLoss, Of<&Fields::losses, 0>},       {&Car::lng2ndGearLoss, Of<&Fields::losses, 1>},
     {&Car::lng3rdGearLoss, Of<&Fields::losses, 2>},       {&Car::lng4thGearLoss, Of<&Fields::losses, 3>},
     {&Car::lng5thGearLoss, Of<&Fields::losses, 4>},       {&Car::lng6thGearLoss, Of<&Fields::losses, 5>},
@@ -53,11 +54,13 @@ constexpr WholeField kWholeNumbers[] = {
     {&Car::lngAeroLossPower, Of<&Fields::setPointPower>}, {&Car::lngAeroLossSpeed, Of<&Fields::setPointSpeed>},
     {&Car::lngCarWeight, Of<&Fields::carWeight>},         {&Car::lngCarContentsWeight, Of<&Fields::contentsWeight>},
     {&Car::lngSmoothingFactor, Of<&Fields::smoothing>},   {&Car::lngDynoCorrectionFactor, Of<&Fields::dyno>},
+    // clang-format on
 };
 
 constexpr double kMilesToKilometres = kMetresPerMile / 1000;
 
 constexpr std::array<CarUnitRow, kCarUnits> kUnits{{
+    // clang-format off
     {&Fields::radius, kMillimetresPerInch, kMeasurePlaces, "Drive Wheel Radius (inches)", "Drive Wheel Radius (mm)"},
     {&Fields::setPointPower, kWattsPerHorsepower / 1000, 0, "Wheel Power (hp)", "Wheel Power (kW)"},
     {&Fields::setPointSpeed, kMilesToKilometres, 0, "Speed (mph)", "Speed (kmh)"},
@@ -66,6 +69,7 @@ constexpr std::array<CarUnitRow, kCarUnits> kUnits{{
     {nullptr, kKilogramsPerPound, 0, "Total Car Weight (lb)", "Total Car Weight (kg)"},
     {&Fields::tyreRpm, 1 / kMilesToKilometres, 0, "Revs per Mile", "Revs per km"},
     {&Fields::frontalArea, kSquareMetresPerSquareFoot, kMeasurePlaces, "Frontal Area (ft2)", "Frontal Area (m2)"},
+    // clang-format on
 }};
 
 /// A number with two places in least..most; at `beyond` and above it is `most`.
@@ -83,7 +87,8 @@ CarFields FieldsOf(const clsCarDef& car) {
   fields.name = car.strName;
   fields.description = car.strDesc;
   fields.imperial = car.blnImperialUnits;
-  for (const NumberField& row : kNumbers) row.field(fields) = FixedText(car.*row.number, row.places);
+  for (const NumberField& row : kNumbers)
+    row.field(fields) = FixedText(car.*row.number, row.places);
   for (const WholeField& row : kWholeNumbers) row.field(fields) = std::to_string(car.*row.number);
   fields.tyreSizeMethod = car.lngTyreSizeMethod;
   fields.useCd = car.blnUseCD;
@@ -105,7 +110,9 @@ clsCarDef CarOf(const CarFields& given) {
   return car;
 }
 
-std::string RatioText(std::string_view text) { return FixedText(StringToDouble(text), kRatioPlaces); }
+std::string RatioText(std::string_view text) {
+  return FixedText(StringToDouble(text), kRatioPlaces);
+}
 
 const CarUnitRow& CarUnitOf(CarUnit unit) { return kUnits[static_cast<std::size_t>(unit)]; }
 

@@ -23,7 +23,8 @@ struct Row {
 
 template <std::string F::*member>
 Row TextRow(const char* key) {
-  return {key, [](const F& f) { return f.*member; }, [](F& f, std::string_view text) { f.*member = text; }};
+  return {key, [](const F& f) { return f.*member; },
+          [](F& f, std::string_view text) { f.*member = text; }};
 }
 template <std::size_t gear>
 Row RatioRow(const char* key) {
@@ -32,7 +33,8 @@ Row RatioRow(const char* key) {
 }
 template <std::size_t gear>
 Row LossRow(const char* key) {
-  return {key, [](const F& f) { return f.losses[gear]; }, [](F& f, std::string_view text) { f.losses[gear] = text; }};
+  return {key, [](const F& f) { return f.losses[gear]; },
+          [](F& f, std::string_view text) { f.losses[gear] = text; }};
 }
 
 int TyreMethodOf(std::string_view text) {
@@ -44,13 +46,16 @@ const Row kUnitsRow{"Units", [](const F& f) { return std::string(f.imperial ? "I
                     [](F& f, std::string_view text) { f.imperial = text != "M"; }};
 const Row kDiffRow{"Diff Ratio", [](const F& f) { return f.diffRatio; },
                    [](F& f, std::string_view text) { f.diffRatio = RatioText(text); }};
-const Row kMethodRow{"Tyre Size Method", [](const F& f) { return std::to_string(f.tyreSizeMethod); },
+const Row kMethodRow{"Tyre Size Method",
+                     [](const F& f) { return std::to_string(f.tyreSizeMethod); },
                      [](F& f, std::string_view text) { f.tyreSizeMethod = TyreMethodOf(text); }};
-const Row kDragRow{"Use Drag Coefficient", [](const F& f) { return std::string(f.useCd ? "Y" : "N"); },
+const Row kDragRow{"Use Drag Coefficient",
+                   [](const F& f) { return std::string(f.useCd ? "Y" : "N"); },
                    [](F& f, std::string_view text) { f.useCd = text == "Y"; }};
 /// Files count gears from 1.
-const Row kGearRow{"Default Gear", [](const F& f) { return std::to_string(f.gear + 1); },
-                   [](F& f, std::string_view text) { f.gear = std::clamp(StringToLong(text), 1, kGears) - 1; }};
+const Row kGearRow{
+    "Default Gear", [](const F& f) { return std::to_string(f.gear + 1); },
+    [](F& f, std::string_view text) { f.gear = std::clamp(StringToLong(text), 1, kGears) - 1; }};
 
 const Row kRows[] = {
     TextRow<&F::name>("Name"),
@@ -97,8 +102,8 @@ bool PassTo(std::string_view& text, std::string_view heading) {
 }  // namespace
 
 std::string CarFileText(const CarFields& fields, const Moment& now) {
-  std::string text =
-      std::string(kBanner) + kLineEnd + "File Created: " + LogTime(now) + kLineEnd + kLineEnd + kDetails + kLineEnd;
+  std::string text = std::string(kBanner) + kLineEnd + "File Created: " + LogTime(now) + kLineEnd +
+                     kLineEnd + kDetails + kLineEnd;
   for (const Row& row : kRows) text += std::string(row.key) + "=" + row.write(fields) + kLineEnd;
   return text;
 }
@@ -109,8 +114,8 @@ bool ReadCarFile(std::string_view text, CarFields& fields) {
   while (TakeLine(text, line)) {
     const auto equals = line.find('=');
     if (equals == std::string_view::npos) continue;
-    const auto row =
-        std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& r) { return line.substr(0, equals) == r.key; });
+    const auto row = std::find_if(std::begin(kRows), std::end(kRows),
+                                  [&](const Row& r) { return line.substr(0, equals) == r.key; });
     if (row != std::end(kRows)) row->read(fields, line.substr(equals + 1));
   }
   return true;

@@ -9,7 +9,9 @@ namespace tarnview {
 namespace {
 
 double WattsIn(bool imperial) { return imperial ? kWattsPerHorsepower : 1000; }
-double MetresPerSecondIn(bool imperial) { return imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh; }
+double MetresPerSecondIn(bool imperial) {
+  return imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh;
+}
 
 }  // namespace
 
@@ -18,8 +20,8 @@ double GetSetPointDragCalcPart(double lngPower, double lngSpeed, bool blnImperia
   return lngPower * WattsIn(blnImperial) / (speed * speed * speed);
 }
 
-double GetCdDragCalcPart(double dblCD, double dblFrontalArea, double dblPressure, double dblTemperature,
-                         bool blnImperial) {
+double GetCdDragCalcPart(double dblCD, double dblFrontalArea, double dblPressure,
+                         double dblTemperature, bool blnImperial) {
   constexpr double kZeroCelsius = 273.15;
   constexpr double kGasConstant = 0.28705;  // of dry air, kJ per kilogram and kelvin
   const double area = dblCD * dblFrontalArea * (blnImperial ? kSquareMetresPerSquareFoot : 1);
@@ -45,13 +47,15 @@ double CubeRoot(double value) {
 }
 
 std::string Cube_Root_Of(std::string_view value) {
-  return IsNumeric(value) ? NumberText(CubeRoot(StringToDouble(value))) : "ERROR: Invalid numeric argument";
+  return IsNumeric(value) ? NumberText(CubeRoot(StringToDouble(value)))
+                          : "ERROR: Invalid numeric argument";
 }
 
 double CDblStripUnits(std::string_view strValue) {
   constexpr std::size_t kLongestNumber = 400;  // the largest double has 309 digits
   for (std::size_t length = std::min(strValue.size(), kLongestNumber); length > 0; --length)
-    if (const auto start = strValue.substr(0, length); IsNumeric(start)) return StringToDouble(start);
+    if (const auto start = strValue.substr(0, length); IsNumeric(start))
+      return StringToDouble(start);
   return 0;
 }
 

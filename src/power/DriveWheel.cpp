@@ -9,7 +9,8 @@
 namespace tarnview {
 namespace {
 
-constexpr double kPi = 3.14159;  // these digits and no more: results are compared with those of older files
+constexpr double kPi =
+    3.14159;  // these digits and no more: results are compared with those of older files
 constexpr double kSecondsPerMinute = 60;
 
 struct Gear {
@@ -34,9 +35,13 @@ double DiameterOfTyre(const clsCarDef& car) {
 
 }  // namespace
 
-double GearRatio(const clsCarDef& car, int gear) { return car.*kGearMembers[static_cast<std::size_t>(gear)].ratio; }
+double GearRatio(const clsCarDef& car, int gear) {
+  return car.*kGearMembers[static_cast<std::size_t>(gear)].ratio;
+}
 
-std::int32_t GearLoss(const clsCarDef& car, int gear) { return car.*kGearMembers[static_cast<std::size_t>(gear)].loss; }
+std::int32_t GearLoss(const clsCarDef& car, int gear) {
+  return car.*kGearMembers[static_cast<std::size_t>(gear)].loss;
+}
 
 double DriveWheelCircumference(const clsCarDef& car) {
   switch (car.lngTyreSizeMethod) {
@@ -45,17 +50,22 @@ double DriveWheelCircumference(const clsCarDef& car) {
     case kTyreRevolutions:
       return (car.blnImperialUnits ? kMetresPerMile : 1000) / car.lngTyreRPM;
     default:
-      return 2 * car.dblDriveWheelRadius * kPi * (car.blnImperialUnits ? kMillimetresPerInch : 1) / 1000;
+      return 2 * car.dblDriveWheelRadius * kPi * (car.blnImperialUnits ? kMillimetresPerInch : 1) /
+             1000;
   }
 }
 
 double SpeedPerRpm(const clsCarDef& car, int gear) {
-  return DriveWheelCircumference(car) / (GearRatio(car, gear) * car.dblDiffRatio) / kSecondsPerMinute;
+  return DriveWheelCircumference(car) / (GearRatio(car, gear) * car.dblDiffRatio) /
+         kSecondsPerMinute;
 }
 
 int GearOfSpeed(const clsCarDef& car, double speed, double rpm) {
-  const double atOneToOne = RoundHalfEven(speed / DriveWheelCircumference(car) * car.dblDiffRatio * kSecondsPerMinute);
-  const auto error = [&](int gear) { return RoundHalfEven(std::fabs(atOneToOne * GearRatio(car, gear) - rpm)); };
+  const double atOneToOne =
+      RoundHalfEven(speed / DriveWheelCircumference(car) * car.dblDiffRatio * kSecondsPerMinute);
+  const auto error = [&](int gear) {
+    return RoundHalfEven(std::fabs(atOneToOne * GearRatio(car, gear) - rpm));
+  };
   int best = kGears - 1;
   for (int gear = best - 1; gear >= 0; --gear)
     if (error(gear) <= error(best)) best = gear;

@@ -19,8 +19,9 @@ double DriveWheelCircumference(const clsCarDef& car);
 /// Metres per second of road speed for each rpm of the engine.
 double SpeedPerRpm(const clsCarDef& car, int gear);
 
-/// The gear whose ratio explains best that the engine turns at `rpm` when the car does `speed` (metres per second);
-/// of two that explain it as well, the lower. Both are held as whole rpm, since a log's are.
+/// The gear whose ratio explains best that the engine turns at `rpm` when the car does `speed`
+/// (metres per second); of two that explain it as well, the lower. Both are held as whole rpm,
+/// since a log's are.
 int GearOfSpeed(const clsCarDef& car, double speed, double rpm);
 
 }  // namespace tarnview

@@ -16,8 +16,8 @@ constexpr const char* kWholeNumbers = "#######0";
 
 std::string At(double rpm) { return " @ " + FixedText(rpm, 0) + " rpm"; }
 
-ChartSeries SeriesOf(const std::vector<PowerPoint>& points, double PowerPoint::*value, std::string name,
-                     const Pen& pen) {
+ChartSeries SeriesOf(const std::vector<PowerPoint>& points, double PowerPoint::*value,
+                     std::string name, const Pen& pen) {
   ChartSeries series;
   series.id = value == &PowerPoint::power ? ItemOf(kPower) : ItemOf(kTorque);
   series.name = std::move(name);
@@ -29,12 +29,13 @@ ChartSeries SeriesOf(const std::vector<PowerPoint>& points, double PowerPoint::*
   return series;
 }
 
-void AddPair(std::vector<ChartSeries>& series, const std::vector<PowerPoint>& points, const PowerPeaks& peaks,
-             const std::string& whose, bool imperial, int style, int width) {
-  series.push_back(
-      SeriesOf(points, &PowerPoint::power, PowerLegend(whose, peaks, imperial), {kPowerColour, style, width}));
-  series.push_back(
-      SeriesOf(points, &PowerPoint::torque, TorqueLegend(whose, peaks, imperial), {kTorqueColour, style, width}));
+void AddPair(std::vector<ChartSeries>& series, const std::vector<PowerPoint>& points,
+             const PowerPeaks& peaks, const std::string& whose, bool imperial, int style,
+             int width) {
+  series.push_back(SeriesOf(points, &PowerPoint::power, PowerLegend(whose, peaks, imperial),
+                            {kPowerColour, style, width}));
+  series.push_back(SeriesOf(points, &PowerPoint::torque, TorqueLegend(whose, peaks, imperial),
+                            {kTorqueColour, style, width}));
 }
 
 double Highest(const std::vector<ChartSeries>& series) {
@@ -46,8 +47,9 @@ double Highest(const std::vector<ChartSeries>& series) {
 
 Object FactsOf(const PowerCurves& run, double maxRpm) {
   const PowerPeaks& peaks = run.peaks;
-  Object facts{{"power", peaks.power},          {"power_rpm", peaks.powerRpm},  {"torque", peaks.torque},
-               {"torque_rpm", peaks.torqueRpm}, {"top_speed", *peaks.topSpeed}, {"max_rpm", maxRpm}};
+  Object facts{{"power", peaks.power},         {"power_rpm", peaks.powerRpm},
+               {"torque", peaks.torque},       {"torque_rpm", peaks.torqueRpm},
+               {"top_speed", *peaks.topSpeed}, {"max_rpm", maxRpm}};
   List speed;
   for (const SpeedPoint& point : run.speed) speed.emplace_back(List{point.seconds, point.speed});
   return {{"peaks", std::move(facts)}, {"speed", std::move(speed)}};
@@ -56,13 +58,16 @@ Object FactsOf(const PowerCurves& run, double maxRpm) {
 }  // namespace
 
 std::string PowerLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial) {
-  std::string text = whose + " Power (" + FixedText(peaks.power, 1) + (imperial ? " hp" : " kW") + At(peaks.powerRpm);
-  if (peaks.topSpeed) text += ", Vmax " + NumberText(*peaks.topSpeed) + (imperial ? " mph" : " kmh");
+  std::string text = whose + " Power (" + FixedText(peaks.power, 1) + (imperial ? " hp" : " kW") +
+                     At(peaks.powerRpm);
+  if (peaks.topSpeed)
+    text += ", Vmax " + NumberText(*peaks.topSpeed) + (imperial ? " mph" : " kmh");
   return text + ")";
 }
 
 std::string TorqueLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial) {
-  return whose + " Torque (" + FixedText(peaks.torque, 1) + (imperial ? " lbft" : " Nm") + At(peaks.torqueRpm) + ")";
+  return whose + " Torque (" + FixedText(peaks.torque, 1) + (imperial ? " lbft" : " Nm") +
+         At(peaks.torqueRpm) + ")";
 }
 
 ChartAxis RpmAxis(double maxRpm) {
@@ -80,16 +85,19 @@ ChartAxis PowerAxis(double highest) {
   const double divisions = std::floor(std::max(highest, 0.0) / step) + 1;
   // Of a benchmark that nobody measured the divisions would be too many to count.
   constexpr double kMostDivisions = 1000;
-  return {0, step * divisions, static_cast<int>(std::min(divisions, kMostDivisions)), kWholeNumbers};
+  return {0, step * divisions, static_cast<int>(std::min(divisions, kMostDivisions)),
+          kWholeNumbers};
 }
 
-ChartDescription PowerChart(const PowerCurves& run, const std::optional<ShownBenchmark>& benchmark) {
+ChartDescription PowerChart(const PowerCurves& run,
+                            const std::optional<ShownBenchmark>& benchmark) {
   ChartDescription chart;
   std::vector<ChartSeries> series;
   AddPair(series, run.points, run.peaks, "Your", run.imperial, kSolid, kWide);
   double maxRpm = run.peaks.maxRpm;
   if (benchmark) {
-    AddPair(series, benchmark->points, benchmark->peaks, "Benchmark", run.imperial, kDashed, kNarrow);
+    AddPair(series, benchmark->points, benchmark->peaks, "Benchmark", run.imperial, kDashed,
+            kNarrow);
     maxRpm = std::max(maxRpm, benchmark->peaks.maxRpm);
   }
   chart.x = RpmAxis(maxRpm);

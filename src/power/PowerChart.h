@@ -15,7 +15,8 @@ struct ShownBenchmark {
   PowerPeaks peaks;
 };
 
-/// "Your Power (141.2 hp @ 6480 rpm, Vmax 128.1 mph)"; without a top speed the text ends behind "rpm".
+/// "Your Power (141.2 hp @ 6480 rpm, Vmax 128.1 mph)"; without a top speed the text ends behind
+/// "rpm".
 std::string PowerLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial);
 /// "Your Torque (131.0 lbft @ 4200 rpm)"
 std::string TorqueLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial);
@@ -25,7 +26,8 @@ ChartAxis RpmAxis(double maxRpm);
 /// From 0 to the next round number above the highest value.
 ChartAxis PowerAxis(double highest);
 
-/// Power and torque over rpm, and the benchmark's where there is one. Its facts are the peaks and the run's speeds.
+/// Power and torque over rpm, and the benchmark's where there is one. Its facts are the peaks and
+/// the run's speeds.
 ChartDescription PowerChart(const PowerCurves& run, const std::optional<ShownBenchmark>& benchmark);
 
 }  // namespace tarnview

@@ -17,7 +17,8 @@ PowerPoint ToImperial(const PowerPoint& p) {
   return {p.rpm, p.power / kKilowattsPerHorsepower, p.torque * kFootPoundsPerNm};
 }
 
-double Mean(double own, const PowerPoint& a, const PowerPoint& b, double PowerPoint::*value, double rpm) {
+double Mean(double own, const PowerPoint& a, const PowerPoint& b, double PowerPoint::*value,
+            double rpm) {
   return (own + LinearInterpolate(a.rpm, b.rpm, rpm, a.*value, b.*value, /*clamp=*/true)) / 2;
 }
 
@@ -41,15 +42,17 @@ PowerPeaks PeaksOf(const std::vector<PowerPoint>& points) {
 
 std::vector<PowerPoint> InUnits(std::vector<PowerPoint> points, bool areImperial, bool toImperial) {
   if (areImperial != toImperial)
-    std::transform(points.begin(), points.end(), points.begin(), toImperial ? ToImperial : ToMetric);
+    std::transform(points.begin(), points.end(), points.begin(),
+                   toImperial ? ToImperial : ToMetric);
   return points;
 }
 
 void AverageWith(std::vector<PowerPoint>& points, const std::vector<PowerPoint>& benchmark) {
   for (PowerPoint& point : points) {
     const double rpm = point.rpm;
-    const auto pair = std::adjacent_find(benchmark.begin(), benchmark.end(),
-                                         [rpm](const auto& a, const auto& b) { return a.rpm <= rpm && b.rpm >= rpm; });
+    const auto pair = std::adjacent_find(
+        benchmark.begin(), benchmark.end(),
+        [rpm](const auto& a, const auto& b) { return a.rpm <= rpm && b.rpm >= rpm; });
     if (rpm <= 0 || pair == benchmark.end()) continue;
     const PowerPoint &a = *pair, &b = *(pair + 1);
     point.power = Mean(point.power, a, b, &PowerPoint::power, rpm);

@@ -18,12 +18,14 @@ struct SpeedPoint {
   double speed = 0;
 };
 
-/// The first of equal highest points counts, and only what is above 0: without such a point a peak is 0 at 0 rpm.
+/// The first of equal highest points counts, and only what is above 0: without such a point a peak
+/// is 0 at 0 rpm.
 struct PowerPeaks {
   double power = 0, powerRpm = 0;
   double torque = 0, torqueRpm = 0;
   double maxRpm = 0;
-  std::optional<double> topSpeed;  ///< mph or km/h, to one place; nothing where the drag is not known
+  std::optional<double>
+      topSpeed;  ///< mph or km/h, to one place; nothing where the drag is not known
 };
 
 PowerPeaks PeaksOf(const std::vector<PowerPoint>& points);
@@ -35,14 +37,16 @@ struct PowerCurves {
   std::vector<SpeedPoint> speed;  ///< for each point; metres per second
   PowerPeaks peaks;
   bool failed = false;
-  std::string fault;  ///< of a run that failed: the field of the car that is to blame, where it is known
+  std::string
+      fault;  ///< of a run that failed: the field of the car that is to blame, where it is known
 };
 
 /// Points in the other units, or as they are.
 std::vector<PowerPoint> InUnits(std::vector<PowerPoint> points, bool areImperial, bool toImperial);
 
-/// The mean of each point with what the benchmark, in the same units, has at its rpm, on the straight line between the
-/// first two neighbours of the benchmark (in its order) that it lies between. Beyond the benchmark a point stays.
+/// The mean of each point with what the benchmark, in the same units, has at its rpm, on the
+/// straight line between the first two neighbours of the benchmark (in its order) that it lies
+/// between. Beyond the benchmark a point stays.
 void AverageWith(std::vector<PowerPoint>& points, const std::vector<PowerPoint>& benchmark);
 
 }  // namespace tarnview

@@ -18,7 +18,8 @@ constexpr std::string_view kOldPowerData = "Graph Data (RPM, Power, Torque):";
 constexpr std::string_view kSpeedData = "Graph Speed Data (Time, Speed):";
 constexpr const char* kLineEnd = "\r\n";
 
-/// One attribute: its key, the key of the earlier generation, where it is kept and, if not always, when it is written.
+/// One attribute: its key, the key of the earlier generation, where it is kept and, if not always,
+/// when it is written.
 struct Attribute {
   const char* key;
   const char* olderKey;
@@ -45,7 +46,9 @@ bool IsCorrected(const F& file) { return !file.correctionFactor.empty(); }
 bool Never(const F&) { return false; }
 void RaiseDrag(F& file) { file.usesDrag = true; }
 void RaiseWetBulb(F& file) { file.wetBulb = true; }
-void UnitsOfName(F& file) { file.units = file.units == "hp" || file.units == "lb ft" ? "Imperial" : "Metric"; }
+void UnitsOfName(F& file) {
+  file.units = file.units == "hp" || file.units == "lb ft" ? "Imperial" : "Metric";
+}
 void SayRadius(F& file) { file.driveWheel += " drive wheel radius"; }
 
 constexpr Attribute kDetailRows[] = {
@@ -56,6 +59,7 @@ constexpr Attribute kDetailRows[] = {
 };
 
 constexpr Attribute kParameterRows[] = {
+    // clang-format off
     {"1st Gear Ratio", "Gear Ratio 1", Of<&F::gearRatios, 0>},
     {"2nd Gear Ratio", "Gear Ratio 2", Of<&F::gearRatios, 1>},
     {"3rd Gear Ratio", "Gear Ratio 3", Of<&F::gearRatios, 2>},
@@ -86,6 +90,7 @@ constexpr Attribute kParameterRows[] = {
     {"Wet Bulb Air Temperature", "", Of<&F::humidity>, HasWetBulb, RaiseWetBulb},
     {"SAE Correction Factor", "", Of<&F::correctionFactor>, IsCorrected},
     {"", "SAE Correction", Of<&F::correctionSummary>, Never},
+    // clang-format on
 };
 
 template <std::size_t N>
@@ -95,7 +100,8 @@ std::string Lines(const Attribute (&rows)[N], const F& graph) {
   file.speed.clear();
   std::string text;
   for (const Attribute& row : rows)
-    if (!row.written || row.written(file)) text += std::string(row.key) + "=" + row.value(file) + kLineEnd;
+    if (!row.written || row.written(file))
+      text += std::string(row.key) + "=" + row.value(file) + kLineEnd;
   return text;
 }
 
@@ -123,8 +129,10 @@ std::string Padded(double value, int digits, int places) {
   return (negative ? "-" : "") + zeros + text;
 }
 
-/// The number in `length` characters from the one at `place`, which counts from 1; 0 where the line ends before.
-double FixedNumber(std::string_view line, std::size_t place, std::size_t length = std::string_view::npos) {
+/// The number in `length` characters from the one at `place`, which counts from 1; 0 where the line
+/// ends before.
+double FixedNumber(std::string_view line, std::size_t place,
+                   std::size_t length = std::string_view::npos) {
   return place <= line.size() ? StringToDouble(line.substr(place - 1, length)) : 0;
 }
 
@@ -136,11 +144,14 @@ PowerPoint PointOf(std::string_view line) {
 
 // 000.08,041.25
 // 1234567890123
-SpeedPoint SpeedOf(std::string_view line) { return {FixedNumber(line, 1, 6), FixedNumber(line, 8)}; }
+SpeedPoint SpeedOf(std::string_view line) {
+  return {FixedNumber(line, 1, 6), FixedNumber(line, 8)};
+}
 
 /// Reads rows up to `end` or the text's; false at the text's. Empty lines are passed over.
 template <class Row>
-bool TakeRows(std::string_view& text, std::string_view end, std::vector<Row>& rows, Row (*rowOf)(std::string_view)) {
+bool TakeRows(std::string_view& text, std::string_view end, std::vector<Row>& rows,
+              Row (*rowOf)(std::string_view)) {
   std::string_view line;
   while (TakeLine(text, line)) {
     if (!end.empty() && line == end) return true;
@@ -151,8 +162,8 @@ bool TakeRows(std::string_view& text, std::string_view end, std::vector<Row>& ro
 
 /// Reads the attributes of a section up to the line that ends it; false at the text's end.
 template <std::size_t N>
-bool TakeSection(std::string_view& text, const Attribute (&rows)[N], std::string_view end, std::string_view olderEnd,
-                 F& file) {
+bool TakeSection(std::string_view& text, const Attribute (&rows)[N], std::string_view end,
+                 std::string_view olderEnd, F& file) {
   std::string_view line;
   while (TakeLine(text, line)) {
     if (line == end || line == olderEnd) return true;
@@ -169,11 +180,13 @@ std::string_view FirstHeading(std::string_view& text) {
   return {};
 }
 
-void ReadSections(std::string_view text, PowerFile& file, const std::function<void(const char*)>& loading) {
+void ReadSections(std::string_view text, PowerFile& file,
+                  const std::function<void(const char*)>& loading) {
   loading("Loading data log details");
   const std::string_view heading = FirstHeading(text);
   if (heading.empty()) return;
-  if (heading == kDetails && !TakeSection(text, kDetailRows, kParameters, kParameters, file)) return;
+  if (heading == kDetails && !TakeSection(text, kDetailRows, kParameters, kParameters, file))
+    return;
   loading("Loading calculation parameters");
   if (!TakeSection(text, kParameterRows, kPowerData, kOldPowerData, file)) return;
   loading("Loading power information");
@@ -185,15 +198,19 @@ void ReadSections(std::string_view text, PowerFile& file, const std::function<vo
 }  // namespace
 
 std::string PowerFileText(const PowerFile& graph, const Moment& now) {
-  std::string text = std::string(kBanner) + kLineEnd + "File Created: " + LogTime(now) + kLineEnd + kLineEnd;
-  const auto heading = [&](std::string_view line) { text += std::string(line) + kLineEnd + kLineEnd; };
+  std::string text =
+      std::string(kBanner) + kLineEnd + "File Created: " + LogTime(now) + kLineEnd + kLineEnd;
+  const auto heading = [&](std::string_view line) {
+    text += std::string(line) + kLineEnd + kLineEnd;
+  };
   heading(kDetails);
   text += Lines(kDetailRows, graph) + kLineEnd;
   heading(kParameters);
   text += Lines(kParameterRows, graph) + kLineEnd;
   heading(kPowerData);
   for (const PowerPoint& p : graph.points)
-    text += Padded(p.rpm, 4, 0) + "," + Padded(p.power, 3, 1) + "," + Padded(p.torque, 3, 1) + kLineEnd;
+    text +=
+        Padded(p.rpm, 4, 0) + "," + Padded(p.power, 3, 1) + "," + Padded(p.torque, 3, 1) + kLineEnd;
   text += kLineEnd;
   heading(kSpeedData);
   for (const SpeedPoint& p : graph.speed)
@@ -205,7 +222,8 @@ PowerFile ReadPowerFile(std::string_view text, const std::function<void(const ch
   PowerFile file;
   ReadSections(
       text, file, loading ? loading : [](const char*) {});
-  if (file.temperature == "N/A" && file.pressure == "N/A" && file.humidity == "N/A") file.correctionSummary = "N/A";
+  if (file.temperature == "N/A" && file.pressure == "N/A" && file.humidity == "N/A")
+    file.correctionSummary = "N/A";
   return file;
 }
 

@@ -15,8 +15,8 @@ namespace tarnview {
 
 inline constexpr const char* kPowerFileFilter = "Power Graph files (*.pow)|*.pow";
 
-/// A saved power graph: where it came from, what it was worked out with (texts with their units, only ever shown), and
-/// the finished curves.
+/// A saved power graph: where it came from, what it was worked out with (texts with their units,
+/// only ever shown), and the finished curves.
 struct PowerFile {
   std::string file;
   std::string plotFrom, plotTo;  ///< `Sample` values
@@ -47,13 +47,14 @@ struct PowerFile {
   bool UnitsKnown() const { return imperial() || units == "Metric"; }
 };
 
-/// The file's text, CR LF behind each line. A power or torque of 1000 and an rpm of 10000 or more is written in full,
-/// although readers take the fields by fixed places: kept on purpose.
+/// The file's text, CR LF behind each line. A power or torque of 1000 and an rpm of 10000 or more
+/// is written in full, although readers take the fields by fixed places: kept on purpose.
 std::string PowerFileText(const PowerFile& graph, const Moment& now);
 
-/// What any text holds of a power graph, at most so many rows of each kind; a text without its headings gives an empty
-/// one. `loading` is told what is being read, for the status bar.
+/// What any text holds of a power graph, at most so many rows of each kind; a text without its
+/// headings gives an empty one. `loading` is told what is being read, for the status bar.
 inline constexpr std::size_t kMostPowerRows = 300000;
-PowerFile ReadPowerFile(std::string_view text, const std::function<void(const char* what)>& loading = {});
+PowerFile ReadPowerFile(std::string_view text,
+                        const std::function<void(const char* what)>& loading = {});
 
 }  // namespace tarnview

@@ -22,7 +22,8 @@ inline constexpr int kRecentPowerFiles = 9;
 /// The controls of a power graph window, in reading order. No behaviour: that is frmPowerGraph's.
 class PowerGraphControls : public Form {
  public:
-  explicit PowerGraphControls(Host& itsHost) : Form(itsHost, "frmPowerGraph", "Tarnview Power Graph") {}
+  explicit PowerGraphControls(Host& itsHost)
+      : Form(itsHost, "frmPowerGraph", "Tarnview Power Graph") {}
 
   // Left column: the run, the car, the day's air, the benchmark.
   Frame fraPlotRange{*this, "fraPlotRange", "Run"};

@@ -28,8 +28,9 @@ double PerCentMore(std::int32_t perCent) { return (perCent + 100.0) / 100; }
 
 Constants ConstantsOf(const PowerRun& run) {
   const double unit = run.car.blnImperialUnits ? kKilogramsPerPound : 1;
-  return {SpeedPerRpm(run.car, run.gear), static_cast<double>(TotalWeight(run)) * unit, DragOf(run.car, run.air),
-          PerCentMore(GearLoss(run.car, run.gear)), PerCentMore(run.car.lngDynoCorrectionFactor)};
+  return {SpeedPerRpm(run.car, run.gear), static_cast<double>(TotalWeight(run)) * unit,
+          DragOf(run.car, run.air), PerCentMore(GearLoss(run.car, run.gear)),
+          PerCentMore(run.car.lngDynoCorrectionFactor)};
 }
 
 const char* TyreField(std::int32_t method) {
@@ -51,7 +52,8 @@ std::string FaultOf(const PowerRun& run) {
   const double circumference = DriveWheelCircumference(car);
   if (!(GearRatio(car, run.gear) > 0)) return kRatioFields[static_cast<std::size_t>(run.gear)];
   if (!(car.dblDiffRatio > 0)) return "Diff Ratio";
-  if (!(circumference > 0) || !std::isfinite(circumference)) return TyreField(car.lngTyreSizeMethod);
+  if (!(circumference > 0) || !std::isfinite(circumference))
+    return TyreField(car.lngTyreSizeMethod);
   if (TotalWeight(run) <= 0) return "Car Weight";
   const double drag = DragOf(car, run.air);
   if (std::isfinite(drag) && drag != 0) return "";
@@ -76,14 +78,16 @@ PowerPoint PointOf(double watts, double rpm, bool imperial) {
   return {rpm, watts / 1000, newtonMetres};
 }
 
-/// A sample that stands still, or no later than the one before, gives no point, and the next interval starts from it.
-/// The time of a point is its number times the latest interval, not the sum of the intervals: kept on purpose.
+/// A sample that stands still, or no later than the one before, gives no point, and the next
+/// interval starts from it. The time of a point is its number times the latest interval, not the
+/// sum of the intervals: kept on purpose.
 void TakePoints(const PowerRun& run, PowerCurves& curves) {
   const Constants constants = ConstantsOf(run);
   for (std::size_t i = 1; i < run.samples.size(); ++i) {
     const RunSample &now = run.samples[i], &before = run.samples[i - 1];
     const double dt = now.seconds - before.seconds;
-    const double speed = now.rpm * constants.speedPerRpm, previous = before.rpm * constants.speedPerRpm;
+    const double speed = now.rpm * constants.speedPerRpm,
+                 previous = before.rpm * constants.speedPerRpm;
     if (previous <= 0 || dt <= 0) continue;
     const double watts = PowerOf(constants, speed, previous, dt);
     curves.speed.push_back({static_cast<double>(curves.points.size()) * dt, speed});
@@ -116,18 +120,22 @@ std::vector<RunSample> SamplesOfRun(const OpenLog& log, std::int32_t from, std::
   std::int32_t row = LocateSample(log, from - log.glngFirstSampleTime, from);
   for (; row <= log.glngLastSample && samples.size() <= kLongestRun; ++row) {
     if (log.Sample(row) < from || log.Sample(row) > to) continue;
-    samples.push_back({secs.GetRawData(log.glngDataLog(kSecs, row)), rpm.GetRawData(log.glngDataLog(kRPM, row))});
+    samples.push_back(
+        {secs.GetRawData(log.glngDataLog(kSecs, row)), rpm.GetRawData(log.glngDataLog(kRPM, row))});
   }
   return samples;
 }
 
 double DragOf(const clsCarDef& car, const Air& air) {
   if (car.blnUseCD)
-    return GetCdDragCalcPart(car.dblCD, car.dblFrontalArea, air.pressure, air.temperature, car.blnImperialUnits);
+    return GetCdDragCalcPart(car.dblCD, car.dblFrontalArea, air.pressure, air.temperature,
+                             car.blnImperialUnits);
   return GetSetPointDragCalcPart(car.lngAeroLossPower, car.lngAeroLossSpeed, car.blnImperialUnits);
 }
 
-std::int64_t TotalWeight(const PowerRun& run) { return std::int64_t{run.car.lngCarWeight} + run.contentsWeight; }
+std::int64_t TotalWeight(const PowerRun& run) {
+  return std::int64_t{run.car.lngCarWeight} + run.contentsWeight;
+}
 
 PowerCurves CurvesOf(const PowerRun& run, const std::vector<PowerPoint>* average) {
   if (const std::string fault = FaultOf(run); !fault.empty()) return Failed(fault);
@@ -142,7 +150,8 @@ PowerCurves CurvesOf(const PowerRun& run, const std::vector<PowerPoint>* average
   }
   if (average) AverageWith(curves.points, *average);
   curves.peaks = PeaksOf(curves.points);
-  curves.peaks.topSpeed = RoundPlaces(TopSpeed(curves.peaks.power, DragOf(run.car, run.air), run.imperial), 1);
+  curves.peaks.topSpeed =
+      RoundPlaces(TopSpeed(curves.peaks.power, DragOf(run.car, run.air), run.imperial), 1);
   return AllFinite(curves) ? curves : Failed("");
 }
 

@@ -18,9 +18,13 @@ enum GearSpeedUnits { kMph = 1, kKmh = 2, kByFactor = 3 };
 
 }  // namespace
 
-RunFields::RunFields(PowerGraphControls& window, const OpenLog& log, const Settings& settings, const clsCarDefs& cars,
-                     std::function<double()> speedFactor)
-    : w_(window), log_(log), settings_(settings), cars_(cars), speedFactor_(std::move(speedFactor)) {
+RunFields::RunFields(PowerGraphControls& window, const OpenLog& log, const Settings& settings,
+                     const clsCarDefs& cars, std::function<double()> speedFactor)
+    : w_(window),
+      log_(log),
+      settings_(settings),
+      cars_(cars),
+      speedFactor_(std::move(speedFactor)) {
   Bind();
   BindArrows();
 }
@@ -58,7 +62,8 @@ void RunFields::BindArrows() {
     row.arrows.Min = row.least;
     row.arrows.Max = row.most;
     const auto step = [&arrows = row.arrows, &field = row.field](int by) {
-      field.Text = std::to_string(std::clamp(StringToLong(field.Text()) + by, arrows.Min, arrows.Max));
+      field.Text =
+          std::to_string(std::clamp(StringToLong(field.Text()) + by, arrows.Min, arrows.Max));
     };
     row.arrows.UpClick = [step] { step(1); };
     row.arrows.DownClick = [step] { step(-1); };
@@ -103,7 +108,8 @@ void RunFields::TakeCar() {
   w_.txtWeight.Text = std::to_string(car->lngCarContentsWeight);
   w_.txtSmoothFactor.Text = std::to_string(car->lngSmoothingFactor);
   w_.cboGear.SetListIndex(car->lngPowerRunGear);
-  w_.lblWeight.Caption = std::string(car->blnImperialUnits ? "Contents &Weight (lb)" : "Contents &Weight (kg)");
+  w_.lblWeight.Caption =
+      std::string(car->blnImperialUnits ? "Contents &Weight (lb)" : "Contents &Weight (kg)");
 }
 
 Air RunFields::AirNow() const {
@@ -148,7 +154,8 @@ BenchmarkAction RunFields::Action() const {
 }
 
 double RunFields::SpeedAt(std::int32_t row) const {
-  const double speed = log_.gcolDataItems->Item(ItemOf(kSpeed)).GetRawData(log_.glngDataLog(kSpeed, row));
+  const double speed =
+      log_.gcolDataItems->Item(ItemOf(kSpeed)).GetRawData(log_.glngDataLog(kSpeed, row));
   if (log_.gintCurrentFileType == kLinkPlusLog) return speed * kMetresPerSecondInKmh;
   const double factor = speedFactor_();
   if (log_.gintCurrentFileType == kUniversalLog && factor > 0) return speed * factor;

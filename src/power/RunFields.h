@@ -13,13 +13,15 @@ namespace tarnview {
 /// What is done with a benchmark, in the order of the list.
 enum class BenchmarkAction : int { Hide, Show, Average };
 
-/// The fields of a power graph window that say what is worked out, and how they hang together: a car brings its
-/// weight, smoothing and gear, the air its correction, a range the gear that the road speed tells of.
+/// The fields of a power graph window that say what is worked out, and how they hang together: a
+/// car brings its weight, smoothing and gear, the air its correction, a range the gear that the
+/// road speed tells of.
 class RunFields {
  public:
-  /// `speedFactor` gives the metres per second in one unit of a Universal log's speed; 0 where it is not known.
-  RunFields(PowerGraphControls& window, const OpenLog& log, const Settings& settings, const clsCarDefs& cars,
-            std::function<double()> speedFactor);
+  /// `speedFactor` gives the metres per second in one unit of a Universal log's speed; 0 where it
+  /// is not known.
+  RunFields(PowerGraphControls& window, const OpenLog& log, const Settings& settings,
+            const clsCarDefs& cars, std::function<double()> speedFactor);
 
   /// Fills the lists in, takes the settings and chooses the first car.
   void Load();
@@ -34,7 +36,8 @@ class RunFields {
   void SetRange(const SampleRange& range);
   BenchmarkAction Action() const;
 
-  /// Proposes the gear that explains the road speed behind the start of the range, where the log tells it.
+  /// Proposes the gear that explains the road speed behind the start of the range, where the log
+  /// tells it.
   void SetPowerRunGear();
 
  private:

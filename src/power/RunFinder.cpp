@@ -10,14 +10,17 @@
 namespace tarnview {
 namespace {
 
-constexpr double kFullThrottle = 0.9;     ///< of the widest that the log knows
-constexpr double kSensorStep = 0.98;      ///< of the highest rpm so far: a fall to less is no more noise
-constexpr double kLeavesLowest = 0.99;    ///< of rpm that have left the lowest of a stretch
-constexpr double kLeastRise = 1000;       ///< rpm
-constexpr double kSameGear = 0.12;        ///< gears lie further apart than this part of a ratio
-constexpr double kReliableSpeed = 10;     ///< below it, a speed sensor is too coarse to tell gears apart
+constexpr double kFullThrottle = 0.9;  ///< of the widest that the log knows
+constexpr double kSensorStep =
+    0.98;  ///< of the highest rpm so far: a fall to less is no more noise
+constexpr double kLeavesLowest = 0.99;  ///< of rpm that have left the lowest of a stretch
+constexpr double kLeastRise = 1000;     ///< rpm
+constexpr double kSameGear = 0.12;      ///< gears lie further apart than this part of a ratio
+constexpr double kReliableSpeed =
+    10;  ///< below it, a speed sensor is too coarse to tell gears apart
 constexpr double kLongestInterval = 1.0;  ///< seconds; a longer one is a pause of the logger
-constexpr int kLongestPlateau = 200;      ///< rows without a new highest rpm: the car no longer gathers speed
+constexpr int kLongestPlateau =
+    200;  ///< rows without a new highest rpm: the car no longer gathers speed
 
 class Finder {
  public:
@@ -48,7 +51,9 @@ class Finder {
     return widest;
   }
 
-  bool Open(std::int32_t row) const { return Value(kTPS, row) >= fullThrottle_ && Value(kRPM, row) > 0; }
+  bool Open(std::int32_t row) const {
+    return Value(kTPS, row) >= fullThrottle_ && Value(kRPM, row) > 0;
+  }
 
   /// rpm for each unit of road speed; 0 where the log cannot tell.
   double Gearing(std::int32_t row) const {
@@ -61,14 +66,17 @@ class Finder {
     return gearing == 0 || other == 0 || std::fabs(other - gearing) <= gearing * kSameGear;
   }
 
-  /// The row of the highest rpm that are reached from `start` without lifting, shifting or falling back; `start` itself
-  /// where nothing rises.
+  /// The row of the highest rpm that are reached from `start` without lifting, shifting or falling
+  /// back; `start` itself where nothing rises.
   std::int32_t EndOfRise(std::int32_t start) const {
     std::int32_t highest = start;
     double gearing = Gearing(start);
-    for (std::int32_t row = start; row <= last_ && row - highest <= kLongestPlateau && Open(row); ++row) {
-      const bool pause = row > start && Value(kSecs, row) - Value(kSecs, row - 1) > kLongestInterval;
-      if (pause || Value(kRPM, row) < Value(kRPM, highest) * kSensorStep || !SameGear(gearing, row)) break;
+    for (std::int32_t row = start; row <= last_ && row - highest <= kLongestPlateau && Open(row);
+         ++row) {
+      const bool pause =
+          row > start && Value(kSecs, row) - Value(kSecs, row - 1) > kLongestInterval;
+      if (pause || Value(kRPM, row) < Value(kRPM, highest) * kSensorStep || !SameGear(gearing, row))
+        break;
       if (Value(kRPM, row) > Value(kRPM, highest)) highest = row;
       if (gearing == 0) gearing = Gearing(row);
     }
@@ -90,7 +98,8 @@ class Finder {
   }
 
   static bool IsRun(const FoundRun& run) {
-    return run.to - run.from >= kShortestRun && run.toRpm - run.fromRpm >= kLeastRise && run.seconds > 0;
+    return run.to - run.from >= kShortestRun && run.toRpm - run.fromRpm >= kLeastRise &&
+           run.seconds > 0;
   }
 
   const OpenLog& log_;

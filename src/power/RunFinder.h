@@ -14,8 +14,8 @@ struct FoundRun {
   double seconds = 0;
 };
 
-/// Stretches of full throttle with rising rpm in one gear, in the log's order. Where the log does not deliver the
-/// throttle, rising rpm alone count.
+/// Stretches of full throttle with rising rpm in one gear, in the log's order. Where the log does
+/// not deliver the throttle, rising rpm alone count.
 std::vector<FoundRun> FindRuns(const OpenLog& log);
 
 }  // namespace tarnview

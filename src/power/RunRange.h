@@ -19,8 +19,8 @@ struct RunRange {
   bool drawable = true;            ///< long enough
 };
 
-/// Brings a range as it was typed into the log and to the length that a power graph takes. An end outside the log
-/// becomes the main window's.
+/// Brings a range as it was typed into the log and to the length that a power graph takes. An end
+/// outside the log becomes the main window's.
 RunRange CheckedRange(SampleRange typed, const SampleRange& log, const SampleRange& mainWindow);
 
 }  // namespace tarnview

@@ -7,7 +7,8 @@ namespace {
 
 constexpr double kLeastLines = 10;    ///< a second
 constexpr double kSensorStep = 0.98;  ///< of the highest rpm so far: a fall to less is no noise
-constexpr double kTick = 0.9999;      ///< times are kept in whole ten-thousandths: ten lines may last a little longer
+constexpr double kTick =
+    0.9999;  ///< times are kept in whole ten-thousandths: ten lines may last a little longer
 
 bool IsSlow(const std::vector<RunSample>& samples) {
   if (samples.size() < 2) return false;

@@ -13,13 +13,15 @@ namespace {
 std::string DriveWheelText(const clsCarDef& car) {
   switch (car.lngTyreSizeMethod) {
     case kTyreSize:
-      return "Tyre size " + std::to_string(car.lngTyreWidth) + "/" + std::to_string(car.lngTyreProfile) + " R" +
-             std::to_string(car.lngWheelDiameter);
+      return "Tyre size " + std::to_string(car.lngTyreWidth) + "/" +
+             std::to_string(car.lngTyreProfile) + " R" + std::to_string(car.lngWheelDiameter);
     case kTyreRevolutions:
       // The blank at the end is kept on purpose: files have always had it.
-      return std::to_string(car.lngTyreRPM) + " Revolutions per " + (car.blnImperialUnits ? "Mile " : "Km ");
+      return std::to_string(car.lngTyreRPM) + " Revolutions per " +
+             (car.blnImperialUnits ? "Mile " : "Km ");
     default:
-      return NumberText(car.dblDriveWheelRadius) + (car.blnImperialUnits ? " in " : " mm ") + "drive wheel radius";
+      return NumberText(car.dblDriveWheelRadius) + (car.blnImperialUnits ? " in " : " mm ") +
+             "drive wheel radius";
   }
 }
 
@@ -46,7 +48,9 @@ void SayAir(const Air& air, PowerFile& graph) {
   graph.humidity = air.humidity + (graph.wetBulb ? " 'C WB" : " %");
 }
 
-bool Bears(std::string_view text, std::string_view unit) { return text.find(unit) != std::string_view::npos; }
+bool Bears(std::string_view text, std::string_view unit) {
+  return text.find(unit) != std::string_view::npos;
+}
 
 }  // namespace
 
@@ -75,7 +79,8 @@ PowerFile SavedRun(const PowerRun& run, const PowerCurves& curves, const RunOrig
 }
 
 std::vector<SpeedPoint> SpeedsIn(std::vector<SpeedPoint> speed, bool imperial) {
-  for (SpeedPoint& point : speed) point.speed /= imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh;
+  for (SpeedPoint& point : speed)
+    point.speed /= imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh;
   return speed;
 }
 
@@ -84,8 +89,9 @@ std::optional<double> DragOf(const PowerFile& graph, const Air& air) {
   const std::string& second = graph.usesDrag ? graph.frontalArea : graph.setPointSpeed;
   if (first.empty() || second.empty()) return std::nullopt;
   const double a = CDblStripUnits(first), b = CDblStripUnits(second);
-  const double k = graph.usesDrag ? GetCdDragCalcPart(a, b, air.pressure, air.temperature, !Bears(second, "m2"))
-                                  : GetSetPointDragCalcPart(a, b, !Bears(first, "kW"));
+  const double k =
+      graph.usesDrag ? GetCdDragCalcPart(a, b, air.pressure, air.temperature, !Bears(second, "m2"))
+                     : GetSetPointDragCalcPart(a, b, !Bears(first, "kW"));
   if (!std::isfinite(k) || k == 0) return std::nullopt;
   return k;
 }

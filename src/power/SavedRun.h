@@ -18,16 +18,16 @@ struct RunOrigin {
 /// "1st" to "6th".
 const char* GearName(int gear);
 
-/// What is saved of a run: the curves as they stand, in their units; the speeds in mph or km/h. `correctionFactor` is
-/// the factor's text.
+/// What is saved of a run: the curves as they stand, in their units; the speeds in mph or km/h.
+/// `correctionFactor` is the factor's text.
 PowerFile SavedRun(const PowerRun& run, const PowerCurves& curves, const RunOrigin& origin,
                    const std::string& correctionFactor);
 
 /// mph or km/h of metres per second.
 std::vector<SpeedPoint> SpeedsIn(std::vector<SpeedPoint> speed, bool imperial);
 
-/// The drag of a saved graph (K, see GetSetPointDragCalcPart) by its own texts and their units, in this air; nothing
-/// where it has no such texts or nothing can be reckoned with them.
+/// The drag of a saved graph (K, see GetSetPointDragCalcPart) by its own texts and their units, in
+/// this air; nothing where it has no such texts or nothing can be reckoned with them.
 std::optional<double> DragOf(const PowerFile& graph, const Air& air);
 
 }  // namespace tarnview

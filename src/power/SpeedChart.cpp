@@ -32,7 +32,8 @@ double RoundStep(double span, int most) {
 }
 
 /// From 0 or below to a round number that holds all values.
-ChartAxis AxisOf(const std::vector<ChartSeries>& series, std::vector<double> ChartSeries::*values, int most) {
+ChartAxis AxisOf(const std::vector<ChartSeries>& series, std::vector<double> ChartSeries::*values,
+                 int most) {
   double low = 0, high = 0;
   for (const ChartSeries& one : series)
     for (const double value : one.*values) {
@@ -50,18 +51,21 @@ ChartAxis AxisOf(const std::vector<ChartSeries>& series, std::vector<double> Cha
 
 }  // namespace
 
-std::vector<SpeedPoint> ShownSpeeds(const std::vector<SpeedPoint>& speed, double from, double to, double offset) {
-  constexpr double kFastest = 1e9;  // a file may hold any number; beyond it an axis would have no end
+std::vector<SpeedPoint> ShownSpeeds(const std::vector<SpeedPoint>& speed, double from, double to,
+                                    double offset) {
+  constexpr double kFastest =
+      1e9;  // a file may hold any number; beyond it an axis would have no end
   std::vector<SpeedPoint> shown;
   for (const SpeedPoint& point : speed) {
     const double converted = from == to ? point.speed : point.speed * from / to;
-    if (converted > 0 && converted <= kFastest) shown.push_back({point.seconds + offset, converted});
+    if (converted > 0 && converted <= kFastest)
+      shown.push_back({point.seconds + offset, converted});
   }
   return shown;
 }
 
-ChartDescription SpeedChart(const std::vector<SpeedPoint>& run, const std::vector<SpeedPoint>* benchmark,
-                            bool imperial) {
+ChartDescription SpeedChart(const std::vector<SpeedPoint>& run,
+                            const std::vector<SpeedPoint>* benchmark, bool imperial) {
   constexpr int kMostTimes = 12, kMostSpeeds = 10;
   ChartDescription chart;
   std::vector<ChartSeries> series;

@@ -10,8 +10,8 @@ namespace tarnview {
 /// How the drive wheel of a car is given; any other number stands for the radius.
 enum TyreSizeMethod : std::int32_t { kTyreSize = 1, kTyreRevolutions = 2, kTyreRadius = 3 };
 
-/// What the power calculation needs to know of a car. Measures are imperial or metric by its own flag; the values here
-/// are those of a new one.
+/// What the power calculation needs to know of a car. Measures are imperial or metric by its own
+/// flag; the values here are those of a new one.
 class clsCarDef {
  public:
   std::string strName = "New";

@@ -27,7 +27,8 @@ const char* LabelOf(CarUnit unit, bool imperial) {
 }
 
 bool IsLegalFileName(std::string_view name) {
-  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." && name != "..";
+  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." &&
+         name != "..";
 }
 
 }  // namespace
@@ -38,8 +39,9 @@ frmCarDefinitionDetails::frmCarDefinitionDetails(Host& itsHost, const Surroundin
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "CarDefinitionDetails";
-  tabCarDefinition.SetTabs(
-      {{"Car Definition", &fraCarDefinition}, {"Gear Ratios", &fraGearRatios}, {"Defaults", &fraDefaults}});
+  tabCarDefinition.SetTabs({{"Car Definition", &fraCarDefinition},
+                            {"Gear Ratios", &fraGearRatios},
+                            {"Defaults", &fraDefaults}});
   txtTotalWeight.ReadOnly = true;
   FillLists();
   BindControls();
@@ -65,7 +67,9 @@ void frmCarDefinitionDetails::FillLists() {
 
 void frmCarDefinitionDetails::BindControls() {
   txtCD.LostFocus = [this] { txtCD.Text = ValidateCD(txtCD.Text()); };
-  txtFrontalArea.LostFocus = [this] { txtFrontalArea.Text = ValidateFrontalArea(txtFrontalArea.Text()); };
+  txtFrontalArea.LostFocus = [this] {
+    txtFrontalArea.Text = ValidateFrontalArea(txtFrontalArea.Text());
+  };
   txtCarWeight.Change = [this] { ShowTotalWeight(); };
   txtCarContentsWeight.Change = [this] { ShowTotalWeight(); };
   cmdSave.Click = [this] { cmdSave_Click(); };
@@ -75,7 +79,8 @@ void frmCarDefinitionDetails::BindControls() {
 }
 
 void frmCarDefinitionDetails::BindOptions() {
-  for (OptionButton* option : {&optTyreSize, &optRevsPerMile, &optRadius, &optAeroSetPoint, &optAeroCD})
+  for (OptionButton* option :
+       {&optTyreSize, &optRevsPerMile, &optRadius, &optAeroSetPoint, &optAeroCD})
     option->Click = [this] { EnableFields(); };
   for (const auto& option : optUnits) option->Click = [this] { UnitsChosen(); };
 }
@@ -172,14 +177,17 @@ void frmCarDefinitionDetails::UnitsChosen() {
   if (showing_ || shownImperial_ == optUnits(0).Value) return;
   ShowLabels();
   const bool toMetric = !shownImperial_;
-  if (!around_.messages.AskQuestion(toMetric ? Question::ConvertToMetric : Question::ConvertToImperial)) return;
+  if (!around_.messages.AskQuestion(toMetric ? Question::ConvertToMetric
+                                             : Question::ConvertToImperial))
+    return;
   CarFields fields = FieldsNow();
   ConvertFields(fields, toMetric);
   ShowFields(fields);
 }
 
 void frmCarDefinitionDetails::EnableFields() {
-  for (ComboBox* list : {&cboTyreWidth, &cboTyreProfile, &cboWheelDiameter}) list->Enabled = optTyreSize.Value();
+  for (ComboBox* list : {&cboTyreWidth, &cboTyreProfile, &cboWheelDiameter})
+    list->Enabled = optTyreSize.Value();
   txtTyreRPM.Enabled = optRevsPerMile.Value();
   txtWheelRadius.Enabled = optRadius.Value();
   for (TextBox* field : {&txtSetPointPower, &txtSetPointSpeed}) field->Enabled = !optAeroCD.Value();
@@ -192,16 +200,20 @@ void frmCarDefinitionDetails::ShowTotalWeight() {
   txtTotalWeight.Text = std::to_string(total);
 }
 
-bool frmCarDefinitionDetails::Changed() { return CarFileText(FieldsNow(), {}) != CarFileText(before_, {}); }
+bool frmCarDefinitionDetails::Changed() {
+  return CarFileText(FieldsNow(), {}) != CarFileText(before_, {});
+}
 
 void frmCarDefinitionDetails::cmdOK_Click() {
   car_ = CarOf(FieldsNow());
   Accept();
 }
 
-/// A changed form that is left without OK: the user may keep the changes, and the window closes as with OK.
+/// A changed form that is left without OK: the user may keep the changes, and the window closes as
+/// with OK.
 bool frmCarDefinitionDetails::Form_QueryUnload() {
-  if (Accepted() || !Changed() || !around_.messages.AskQuestion(Question::KeepCarChanges)) return true;
+  if (Accepted() || !Changed() || !around_.messages.AskQuestion(Question::KeepCarChanges))
+    return true;
   car_ = CarOf(FieldsNow());
   MarkAccepted();
   return true;
@@ -236,8 +248,8 @@ void frmCarDefinitionDetails::cmdLoad_Click() {
   Dialog dialog = FileDialog(DialogKind::Open, "Load");
   if (!host.Choose(dialog)) return;
   lastFile_ = dialog.path;
-  const bool loaded =
-      TrapEvent(around_.errors, "frmCarDefinitionDetails", "cmdLoad_Click", [&] { LoadFile(dialog.path); });
+  const bool loaded = TrapEvent(around_.errors, "frmCarDefinitionDetails", "cmdLoad_Click",
+                                [&] { LoadFile(dialog.path); });
   if (!loaded) around_.messages.ShowMessage(Message::CarDefinitionNotLoaded);
 }
 
@@ -245,7 +257,8 @@ void frmCarDefinitionDetails::LoadFile(const std::string& path) {
   const auto bytes = ReadText(around_.files, path);
   if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + path);
   CarFields fields = FieldsNow();
-  if (!ReadCarFile(*bytes, fields)) throw RuntimeError(kInputPastEnd, "No car definition in " + path);
+  if (!ReadCarFile(*bytes, fields))
+    throw RuntimeError(kInputPastEnd, "No car definition in " + path);
   ShowFields(fields);
 }
 

@@ -21,7 +21,8 @@ class frmCarDefinitionDetails : public CarDefinitionControls {
     ErrorLog& errors;
     Messages& messages;
   };
-  frmCarDefinitionDetails(Host& itsHost, const Surroundings& surroundings, const clsCarDef& ColItem);
+  frmCarDefinitionDetails(Host& itsHost, const Surroundings& surroundings,
+                          const clsCarDef& ColItem);
 
   /// The definition as the user left it.
   const clsCarDef& ColItem() const { return car_; }

@@ -28,7 +28,8 @@ class frmPowerBenchDetails : public Form {
   Frame fraGearRatios{*this, "fraGearRatios", "Gear Ratios"};
   ControlArray<Label> lblGears{*this, "lblGears", UpTo(kGears + 1), ""};
   Label lblGearRatios{*this, "lblGearRatios", "Ratio"};
-  ControlArray<TextBox> txtGearRatios{*this, "txtGearRatios", UpTo(kGears + 1), ""};  ///< the last is the final drive
+  ControlArray<TextBox> txtGearRatios{*this, "txtGearRatios", UpTo(kGears + 1),
+                                      ""};  ///< the last is the final drive
   Label lblGearLosses{*this, "lblGearLosses", "Loss (%)"};
   ControlArray<TextBox> txtGearLosses{*this, "txtGearLosses", UpTo(kGears), ""};
   Label lblWheelRadius{*this, "lblWheelRadius", "Drive Wheel"};

@@ -20,16 +20,19 @@ constexpr long kDivisionByZero = 11;
 enum Panel { kReadingPanel = 3, kWarningPanel = 4 };
 
 std::string InWindow(const std::string& fault) {
-  return fault.empty() ? "Car definition: its numbers lead nowhere" : "Car definition: check " + fault;
+  return fault.empty() ? "Car definition: its numbers lead nowhere"
+                       : "Car definition: check " + fault;
 }
 
 }  // namespace
 
-frmPowerGraph::frmPowerGraph(Host& itsHost, const Surroundings& surroundings, MainWindow& mainWindow)
+frmPowerGraph::frmPowerGraph(Host& itsHost, const Surroundings& surroundings,
+                             MainWindow& mainWindow)
     : PowerGraphControls(itsHost),
       around_(surroundings),
       mainWindow_(mainWindow),
-      fields_(*this, around_.log, around_.settings, around_.cars, [this] { return mainWindow_.AutoGearSpeedFactor(); }),
+      fields_(*this, around_.log, around_.settings, around_.cars,
+              [this] { return mainWindow_.AutoGearSpeedFactor(); }),
       output_(itsHost, around_.messages, around_.errors),
       commands_(around_.errors, "frmPowerGraph") {
   DefaultButton = &cmdDrawGraph;
@@ -62,6 +65,7 @@ std::vector<Command> frmPowerGraph::CommandRows() {
   const auto copy = [this] { output_.Copy(chPowerGraph); };
   const auto print = [this] { output_.Print(chPowerGraph, DetailsForPrint()); };
   return {
+      // clang-format off
       {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { cmdDrawGraph_Click(); },
        [this] { return around_.log.gblnSamplesLoaded && fields_.Car(); }},
       {&cmdFindRuns, "cmdFindRuns_Click", [this] { FindTheRuns(); }, loaded},
@@ -75,6 +79,7 @@ std::vector<Command> frmPowerGraph::CommandRows() {
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
       {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
       {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
+      // clang-format on
   };
 }
 
@@ -151,7 +156,8 @@ std::optional<ShownBenchmark> frmPowerGraph::BenchmarkToShow(const PowerRun& run
 
 void frmPowerGraph::Draw(const SampleRange& range) {
   PowerRun run = fields_.Run();
-  run.samples = SamplesOfRun(around_.log, static_cast<std::int32_t>(range.from), static_cast<std::int32_t>(range.to));
+  run.samples = SamplesOfRun(around_.log, static_cast<std::int32_t>(range.from),
+                             static_cast<std::int32_t>(range.to));
   const auto benchmark = BenchmarkToShow(run);
   const bool average = benchmark && fields_.Action() == BenchmarkAction::Average;
   status_.Say(average ? "Averaging with Benchmark" : "Smoothing curves");
@@ -159,7 +165,8 @@ void frmPowerGraph::Draw(const SampleRange& range) {
   if (curves.failed) return TellFault(curves.fault);
   ShowGraph(curves, benchmark);
   staPowerGraph.SetPanel(kWarningPanel, RunWarning(run.samples));
-  drawn_ = DrawnRun{std::move(run), std::move(curves), range, around_.log.gstrCurrentFile, txtCorrFactor.Text};
+  drawn_ = DrawnRun{std::move(run), std::move(curves), range, around_.log.gstrCurrentFile,
+                    txtCorrFactor.Text};
   MarkPeak();
   SetCaption();
   status_.Say("Graph draw complete");
@@ -173,7 +180,8 @@ void frmPowerGraph::TellFault(const std::string& fault) {
   around_.messages.ShowMessage(Message::PowerGraphNotDrawn);
 }
 
-void frmPowerGraph::ShowGraph(const PowerCurves& curves, const std::optional<ShownBenchmark>& benchmark) {
+void frmPowerGraph::ShowGraph(const PowerCurves& curves,
+                              const std::optional<ShownBenchmark>& benchmark) {
   ChartDescription chart = PowerChart(curves, benchmark);
   SetGraphColourScheme(chart, around_.settings.gintGraphColourScheme);
   HideReading();
@@ -186,7 +194,8 @@ void frmPowerGraph::ShowGraph(const PowerCurves& curves, const std::optional<Sho
 void frmPowerGraph::MarkPeak() {
   const auto& points = drawn_->curves.points;
   const double peak = drawn_->curves.peaks.power;
-  const auto at = std::find_if(points.begin(), points.end(), [peak](const PowerPoint& p) { return p.power == peak; });
+  const auto at = std::find_if(points.begin(), points.end(),
+                               [peak](const PowerPoint& p) { return p.power == peak; });
   if (at != points.end()) chPowerGraph.SelectPoint(1, static_cast<int>(at - points.begin()) + 1);
 }
 
@@ -196,24 +205,28 @@ void frmPowerGraph::FindTheRuns() {
   for (const FoundRun& run : runs_) {
     ListView::Row row;
     row.texts = {std::to_string(run.from), std::to_string(run.to),
-                 FixedText(run.fromRpm, 0) + "-" + FixedText(run.toRpm, 0), FixedText(run.seconds, 1)};
+                 FixedText(run.fromRpm, 0) + "-" + FixedText(run.toRpm, 0),
+                 FixedText(run.seconds, 1)};
     row.tag = std::to_string(rows.size());
     rows.push_back(std::move(row));
   }
   lvwRuns.SetRows(std::move(rows));
-  status_.Say(runs_.empty() ? "No run at full throttle found" : std::to_string(runs_.size()) + " found");
+  status_.Say(runs_.empty() ? "No run at full throttle found"
+                            : std::to_string(runs_.size()) + " found");
 }
 
 std::optional<double> frmPowerGraph::ShowReadingAt(double rpm) {
   if (!drawn_ || drawn_->curves.points.empty()) return std::nullopt;
   const auto& points = drawn_->curves.points;
-  const auto nearest = std::min_element(points.begin(), points.end(), [rpm](const auto& a, const auto& b) {
-    return std::fabs(a.rpm - rpm) < std::fabs(b.rpm - rpm);
-  });
+  const auto nearest =
+      std::min_element(points.begin(), points.end(), [rpm](const auto& a, const auto& b) {
+        return std::fabs(a.rpm - rpm) < std::fabs(b.rpm - rpm);
+      });
   const bool imperial = drawn_->curves.imperial;
-  staPowerGraph.SetPanel(kReadingPanel, FixedText(nearest->rpm, 0) + " rpm: " + FixedText(nearest->power, 1) +
-                                            (imperial ? " hp, " : " kW, ") + FixedText(nearest->torque, 1) +
-                                            (imperial ? " lbft" : " Nm"));
+  staPowerGraph.SetPanel(kReadingPanel,
+                         FixedText(nearest->rpm, 0) + " rpm: " + FixedText(nearest->power, 1) +
+                             (imperial ? " hp, " : " kW, ") + FixedText(nearest->torque, 1) +
+                             (imperial ? " lbft" : " Nm"));
   return nearest->rpm;
 }
 

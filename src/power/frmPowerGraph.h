@@ -18,7 +18,8 @@
 
 namespace tarnview {
 
-/// Power and torque of one run, with a saved graph beside it. It keeps what it drew when the log goes.
+/// Power and torque of one run, with a saved graph beside it. It keeps what it drew when the log
+/// goes.
 class frmPowerGraph : public PowerGraphControls {
  public:
   /// What it asks of the program.
@@ -38,7 +39,8 @@ class frmPowerGraph : public PowerGraphControls {
     virtual SampleRange MainRange() const = 0;
     /// Plots a range anew, with one of its samples chosen.
     virtual void PlotRun(const SampleRange& range, std::int32_t sample) = 0;
-    /// Metres per second in one unit of the log's road speed, of a Universal log that says so; else 0.
+    /// Metres per second in one unit of the log's road speed, of a Universal log that says so; else
+    /// 0.
     virtual double AutoGearSpeedFactor() const = 0;
     virtual void OpenSpeedGraph(const SpeedGraphInput& input) = 0;
     /// The list of recent power graphs has changed: every power window lists it again.
@@ -97,7 +99,8 @@ class frmPowerGraph : public PowerGraphControls {
   void ShowGraph(const PowerCurves& curves, const std::optional<ShownBenchmark>& benchmark);
   void FindTheRuns();
   void MarkPeak();
-  /// The curves of the run at the point nearest to an engine speed, side by side; where that point is.
+  /// The curves of the run at the point nearest to an engine speed, side by side; where that point
+  /// is.
   std::optional<double> ShowReadingAt(double rpm);
   void HideReading();
 

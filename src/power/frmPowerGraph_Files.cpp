@@ -1,4 +1,5 @@
-// What a power graph window keeps and gives away: saved graphs, the recent list, copies into the log, the printed page.
+// What a power graph window keeps and gives away: saved graphs, the recent list, copies into the
+// log, the printed page.
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
@@ -16,6 +17,7 @@ namespace tarnview {
 std::vector<Command> frmPowerGraph::FileCommandRows() {
   const auto drawn = [this] { return Drawn(); };
   std::vector<Command> rows{
+      // clang-format off
       {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
       {&mnuFileSave, "mnuFileSave_Click", [this] { mnuFileSave_Click(); }, drawn},
       {&mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { mnuFileSaveAs_Click(); }, drawn},
@@ -25,9 +27,13 @@ std::vector<Command> frmPowerGraph::FileCommandRows() {
       {&mnuFileSavePicture, "mnuFileSavePicture_Click", [this] { output_.SavePictureAs(chPowerGraph, drawn_->file); },
        drawn},
       {&mnuFileClose, "mnuFileClose_Click", [this] { Unload(); }, {}},
+      // clang-format on
   };
   for (const auto& item : mnuFileRecent)
-    rows.push_back({item.get(), "mnuFileRecent_Click", [this, index = item->index] { OpenRecentFile(index); }, {}});
+    rows.push_back({item.get(),
+                    "mnuFileRecent_Click",
+                    [this, index = item->index] { OpenRecentFile(index); },
+                    {}});
   return rows;
 }
 
@@ -36,7 +42,8 @@ Dialog frmPowerGraph::FileDialog(DialogKind kind, const char* title) const {
   dialog.kind = kind;
   dialog.title = title;
   dialog.filter = kPowerFileFilter;
-  dialog.initialPath = savedPath_.empty() ? around_.settings.gstrDefaultWorkingDirectory : savedPath_;
+  dialog.initialPath =
+      savedPath_.empty() ? around_.settings.gstrDefaultWorkingDirectory : savedPath_;
   return dialog;
 }
 
@@ -114,7 +121,8 @@ void frmPowerGraph::SavePowerGraphFile(const std::string& strFileName) {
   window.ShowModal();
   if (!window.Accepted()) return;
   comments_ = window.Comments();
-  const RunOrigin origin{drawn_->file, std::to_string(drawn_->range.from), std::to_string(drawn_->range.to), comments_};
+  const RunOrigin origin{drawn_->file, std::to_string(drawn_->range.from),
+                         std::to_string(drawn_->range.to), comments_};
   const PowerFile graph = SavedRun(drawn_->run, drawn_->curves, origin, drawn_->correctionFactor);
   saved_ = around_.files.Write(strFileName, PowerFileText(graph, around_.clock.Now()));
   if (!saved_) return around_.messages.ShowMessage(Message::SomethingWentWrong);
@@ -130,7 +138,8 @@ void frmPowerGraph::mnuToolsSpeed_Click() {
   input.imperial = drawn_->curves.imperial;
   if (benchmark_ && fields_.Action() != BenchmarkAction::Hide) {
     input.benchmark = benchmark_->graph.speed;
-    input.benchmarkImperial = benchmark_->graph.UnitsKnown() ? benchmark_->graph.imperial() : input.imperial;
+    input.benchmarkImperial =
+        benchmark_->graph.UnitsKnown() ? benchmark_->graph.imperial() : input.imperial;
   }
   mainWindow_.OpenSpeedGraph(input);
 }
@@ -164,15 +173,19 @@ void frmPowerGraph::mnuToolsCopy_Click() {
 PrintDetails frmPowerGraph::DetailsForPrint() const {
   const PowerFile told = SavedRun(drawn_->run, drawn_->curves, {}, "");
   PrintDetails details{" Power Graph", {}};
-  details.rows = {{"File", drawn_->file},
+  details.rows = {
+      {"File", drawn_->file},
+      // clang-format off
                   {"Plot Range", std::to_string(drawn_->range.from) + " - " + std::to_string(drawn_->range.to)},
                   {"Car", drawn_->run.car.strName},
                   {"Gear", told.gear},
                   {"Car Weight", told.carWeight},
                   {"Smoothing Factor", told.smoothing},
                   {"SAE Correction Factor", drawn_->run.corrected ? drawn_->correctionFactor : "Off"}};
+  // clang-format on
   for (const ChartSeries& series : chPowerGraph.Data().Series())
-    details.rows.emplace_back(&series == &chPowerGraph.Data().Series().front() ? "Curves" : "", series.name);
+    details.rows.emplace_back(&series == &chPowerGraph.Data().Series().front() ? "Curves" : "",
+                              series.name);
   return details;
 }
 

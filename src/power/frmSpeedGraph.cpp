@@ -22,7 +22,9 @@ constexpr double kMostOffset = 1e6;
 double UnitOf(bool imperial) { return imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh; }
 
 /// A field's number in the other units: a whole number.
-void Convert(TextBox& field, double factor) { field.Text = FixedText(StringToDouble(field.Text()) * factor, 0); }
+void Convert(TextBox& field, double factor) {
+  field.Text = FixedText(StringToDouble(field.Text()) * factor, 0);
+}
 
 }  // namespace
 
@@ -54,10 +56,12 @@ void frmSpeedGraph::BindControls() {
 }
 
 void frmSpeedGraph::BindArrows() {
-  for (const auto& [arrows, field] : {std::pair{&updSpeedFrom, &txtSpeedFrom}, std::pair{&updSpeedTo, &txtSpeedTo}}) {
+  for (const auto& [arrows, field] :
+       {std::pair{&updSpeedFrom, &txtSpeedFrom}, std::pair{&updSpeedTo, &txtSpeedTo}}) {
     arrows->Max = kMostSpeed;
     const auto step = [arrows = arrows, field = field](int by) {
-      field->Text = std::to_string(std::clamp(StringToLong(field->Text()) + by, arrows->Min, arrows->Max));
+      field->Text =
+          std::to_string(std::clamp(StringToLong(field->Text()) + by, arrows->Min, arrows->Max));
     };
     arrows->UpClick = [step] { step(1); };
     arrows->DownClick = [step] { step(-1); };
@@ -94,8 +98,8 @@ std::vector<Command> frmSpeedGraph::CommandRows() {
 
 void frmSpeedGraph::Form_Load() {
   ApplyPlacement(around_.settings.windows.speedGraph, *this);
-  for (Control* control :
-       std::initializer_list<Control*>{&lblOffset, &txtOffset, &updOffset, &lblResBench, &txtResBench})
+  for (Control* control : std::initializer_list<Control*>{&lblOffset, &txtOffset, &updOffset,
+                                                          &lblResBench, &txtResBench})
     control->Visible = HasBenchmark();
   Draw();
 }
@@ -105,16 +109,20 @@ void frmSpeedGraph::Form_Unload() {
   closed_(ID);
 }
 
-std::vector<SpeedPoint> frmSpeedGraph::RunShown() const { return ShownSpeeds(input_.run, 1, UnitOf(Imperial())); }
+std::vector<SpeedPoint> frmSpeedGraph::RunShown() const {
+  return ShownSpeeds(input_.run, 1, UnitOf(Imperial()));
+}
 
 std::vector<SpeedPoint> frmSpeedGraph::BenchmarkShown() const {
   const double offset = std::clamp(StringToDouble(txtOffset.Text()), -kMostOffset, kMostOffset);
-  return ShownSpeeds(input_.benchmark, UnitOf(input_.benchmarkImperial), UnitOf(Imperial()), offset);
+  return ShownSpeeds(input_.benchmark, UnitOf(input_.benchmarkImperial), UnitOf(Imperial()),
+                     offset);
 }
 
 void frmSpeedGraph::Draw() {
   const std::vector<SpeedPoint> benchmark = BenchmarkShown();
-  ChartDescription chart = SpeedChart(RunShown(), HasBenchmark() ? &benchmark : nullptr, Imperial());
+  ChartDescription chart =
+      SpeedChart(RunShown(), HasBenchmark() ? &benchmark : nullptr, Imperial());
   SetGraphColourScheme(chart, around_.settings.gintGraphColourScheme);
   chSpeedGraph.SetData(std::move(chart));
 }
@@ -122,12 +130,14 @@ void frmSpeedGraph::Draw() {
 void frmSpeedGraph::UnitsChosen() {
   if (shownImperial_ == Imperial()) return;
   shownImperial_ = Imperial();
-  for (TextBox* field : {&txtSpeedFrom, &txtSpeedTo}) Convert(*field, Imperial() ? 1 / kMphInKmh : kMphInKmh);
+  for (TextBox* field : {&txtSpeedFrom, &txtSpeedTo})
+    Convert(*field, Imperial() ? 1 / kMphInKmh : kMphInKmh);
   Draw();
 }
 
 void frmSpeedGraph::cmdCalc_Click() {
-  if (StringToDouble(txtSpeedFrom.Text()) > StringToDouble(txtSpeedTo.Text())) txtSpeedTo.Text = txtSpeedFrom.Text();
+  if (StringToDouble(txtSpeedFrom.Text()) > StringToDouble(txtSpeedTo.Text()))
+    txtSpeedTo.Text = txtSpeedFrom.Text();
   const double from = StringToDouble(txtSpeedFrom.Text()), to = StringToDouble(txtSpeedTo.Text());
   txtResYou.Text = TimeBetween(RunShown(), from, to);
   constexpr std::size_t kFewestPoints = 2;

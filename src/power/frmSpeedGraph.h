@@ -21,7 +21,8 @@
 
 namespace tarnview {
 
-/// Speed over time of a run, with a benchmark's beside it, and how long each took from one speed to another.
+/// Speed over time of a run, with a benchmark's beside it, and how long each took from one speed to
+/// another.
 class frmSpeedGraph : public Form {
  public:
   struct Surroundings {

@@ -5,7 +5,8 @@
 
 namespace tarnview {
 
-/// A whole number that every write brings into its limits. It starts at 0, which may lie outside them: never written.
+/// A whole number that every write brings into its limits. It starts at 0, which may lie outside
+/// them: never written.
 template <std::int32_t Low, std::int32_t High>
 class Clamped {
  public:

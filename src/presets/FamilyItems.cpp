@@ -6,7 +6,9 @@ namespace tarnview {
 namespace {
 
 /// The axes of time, which every log has.
-bool IsTime(const clsLogDataItem& item) { return item.intSeq == ItemOf(kSample) || item.intSeq == ItemOf(kSecs); }
+bool IsTime(const clsLogDataItem& item) {
+  return item.intSeq == ItemOf(kSample) || item.intSeq == ItemOf(kSecs);
+}
 
 DataItemList ItemsWith(bool clsLogDataItem::*flag, const Catalogue& catalogue, int lngLogFamily) {
   DataItemList items;
@@ -18,7 +20,8 @@ DataItemList ItemsWith(bool clsLogDataItem::*flag, const Catalogue& catalogue, i
 }  // namespace
 
 const clsLogDataItems& ItemsOfFamily(const Catalogue& catalogue, int lngLogFamily) {
-  return lngLogFamily == kUniversalLogFamily ? catalogue.gcolUniversalDataItems : catalogue.gcolFixedDataItems;
+  return lngLogFamily == kUniversalLogFamily ? catalogue.gcolUniversalDataItems
+                                             : catalogue.gcolFixedDataItems;
 }
 
 DataItemList AxisItems(const Catalogue& catalogue, int lngLogFamily) {

@@ -20,7 +20,8 @@ constexpr int kFamily = 1;
 constexpr int kGraphMax = 10;
 
 /// The item of each bit of a series' mask, bit 0 first.
-constexpr std::array kBitItems{kEGR, kCTemp, kIAdv, kInjW, kKnock, kMAP, kO2, kRPM, kATemp, kTPS, kIAC, kWGPercent};
+constexpr std::array kBitItems{kEGR, kCTemp, kIAdv,  kInjW, kKnock, kMAP,
+                               kO2,  kRPM,   kATemp, kTPS,  kIAC,   kWGPercent};
 
 clsSampleGraphPreset SeriesPreset(std::string_view value) {
   clsSampleGraphPreset preset;
@@ -53,9 +54,10 @@ constexpr NamedNumber kColourNames[] = {
 };
 
 template <std::size_t N>
-std::int32_t NumberOf(const NamedNumber (&names)[N], std::string_view name, std::int32_t otherwise) {
-  const auto found =
-      std::find_if(std::begin(names), std::end(names), [&](const auto& row) { return row.name == name; });
+std::int32_t NumberOf(const NamedNumber (&names)[N], std::string_view name,
+                      std::int32_t otherwise) {
+  const auto found = std::find_if(std::begin(names), std::end(names),
+                                  [&](const auto& row) { return row.name == name; });
   return found == std::end(names) ? otherwise : found->number;
 }
 
@@ -64,6 +66,7 @@ std::int32_t ItemNamed(std::string_view name) { return NumberOf(kItemNames, name
 using Scatter = clsScatterGraphPreset;
 
 const IniKey<Scatter> kKeys[] = {
+    // clang-format off
     {"Name", IniText<Scatter>{&Scatter::strName}},
     {"XAxis", IniRule<Scatter>{[](Scatter& p, std::string_view text) { p.lngXAxisDataItem = ItemNamed(text); }, {}}},
     {"YAxis", IniRule<Scatter>{[](Scatter& p, std::string_view text) { p.lngYAxisDataItem = ItemNamed(text); }, {}}},
@@ -72,12 +75,14 @@ const IniKey<Scatter> kKeys[] = {
     {"Point Colour",
      IniRule<Scatter>{[](Scatter& p, std::string_view text) { p.lngPointColour = NumberOf(kColourNames, text, 0); },
                       {}}},
+    // clang-format on
 };
 
 double Bound(std::string_view text) { return text.empty() ? kBoundNotSet : StringToDouble(text); }
 
 /// Adds the filter of that name ("Filter ", "Filter 2 ") unless its type is "None" or not there.
-void ReadFilter(const IniTable& table, const std::string& prefix, const clsLogDataItems& items, Scatter& preset) {
+void ReadFilter(const IniTable& table, const std::string& prefix, const clsLogDataItems& items,
+                Scatter& preset) {
   const auto value = [&](const char* name) {
     return GetINIValue(table, kScatterSection, prefix + name).value_or(std::string_view());
   };
@@ -100,13 +105,15 @@ void ReadOldSamplePresets(const IniTable& table, clsSampleGraphPresets& presets)
   }
 }
 
-void ReadOldScatterPresets(const IniTable& table, const clsLogDataItems& items, clsScatterGraphPresets& presets) {
+void ReadOldScatterPresets(const IniTable& table, const clsLogDataItems& items,
+                           clsScatterGraphPresets& presets) {
   for (int n = 1;; ++n) {
     Scatter preset;
     const IniPlace place{kScatterSection, "Graph " + std::to_string(n) + " "};
     ReadIniKeys<Scatter>(kKeys, table, place, preset, IniMissing::IsEmpty);
     if (preset.strName.empty()) return;
-    for (const char* filter : {"Filter ", "Filter 2 "}) ReadFilter(table, place.prefix + filter, items, preset);
+    for (const char* filter : {"Filter ", "Filter 2 "})
+      ReadFilter(table, place.prefix + filter, items, preset);
     preset.lngLogFamily = kFamily;
     presets.AddDirect(std::move(preset));
   }

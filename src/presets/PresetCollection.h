@@ -23,7 +23,8 @@ class PresetCollection : public Records<Preset> {
   }
   /// Drops the presets of a log family.
   void RemoveFamily(int family) {
-    std::erase_if(this->records_, [family](const Preset& preset) { return preset.lngLogFamily == family; });
+    std::erase_if(this->records_,
+                  [family](const Preset& preset) { return preset.lngLogFamily == family; });
   }
 
   PresetCollection Duplicate() const { return *this; }

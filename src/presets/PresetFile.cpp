@@ -4,9 +4,10 @@
 
 namespace tarnview {
 
-std::string PresetFileText(const PresetFileLines& lines, const Moment& now, const IniWriter& record) {
-  return std::string(lines.banner) + "\r\nFile Created: " + LogTime(now) + "\r\n\r\n" + lines.details + "\r\n" +
-         record.Text();
+std::string PresetFileText(const PresetFileLines& lines, const Moment& now,
+                           const IniWriter& record) {
+  return std::string(lines.banner) + "\r\nFile Created: " + LogTime(now) + "\r\n\r\n" +
+         lines.details + "\r\n" + record.Text();
 }
 
 std::optional<IniTable> ReadPresetFile(const PresetFileLines& lines, std::string_view text) {

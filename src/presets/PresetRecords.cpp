@@ -19,14 +19,16 @@ bool IsItem(int number) { return number >= 1 && number <= kColumnCount; }
 template <class Preset>
 const IniKey<Preset> kFamily[] = {
     {"Log Family",
-     IniRule<Preset>{[](Preset& preset, std::string_view text) { preset.lngLogFamily = StringToLong(text); },
-                     [](const Preset& preset) { return std::to_string(preset.lngLogFamily); }}}};
+     IniRule<Preset>{
+         [](Preset& preset, std::string_view text) { preset.lngLogFamily = StringToLong(text); },
+         [](const Preset& preset) { return std::to_string(preset.lngLogFamily); }}}};
 
 const IniKey<Sample> kSampleKeys[] = {
     {"Name", IniText<Sample>{&Sample::strName}},
     {"Data Items",
-     IniRule<Sample>{[](Sample& preset, std::string_view text) { preset.colDataItems = ReadItemNumbers(text); },
-                     [](const Sample& preset) { return ItemNumbersText(preset.colDataItems); }}},
+     IniRule<Sample>{
+         [](Sample& preset, std::string_view text) { preset.colDataItems = ReadItemNumbers(text); },
+         [](const Sample& preset) { return ItemNumbersText(preset.colDataItems); }}},
     {"Fix Graph Max", IniFlag<Sample>{&Sample::blnFixGraphMax, IniFlagForm::OffUnlessY}},
     {"Graph Max", IniWhole<Sample>{&Sample::lngGraphMax}},
 };
@@ -43,8 +45,12 @@ const IniKey<Scatter> kScatterKeys[] = {
 
 template <double Filter::*Bound>
 constexpr IniRule<Filter> kBound{
-    [](Filter& filter, std::string_view text) { filter.*Bound = text.empty() ? kBoundNotSet : StringToDouble(text); },
-    [](const Filter& filter) { return filter.*Bound == kBoundNotSet ? std::string() : ShortestText(filter.*Bound); }};
+    [](Filter& filter, std::string_view text) {
+      filter.*Bound = text.empty() ? kBoundNotSet : StringToDouble(text);
+    },
+    [](const Filter& filter) {
+      return filter.*Bound == kBoundNotSet ? std::string() : ShortestText(filter.*Bound);
+    }};
 
 constexpr const char* kFilterFrom = "From";
 
@@ -55,7 +61,9 @@ const IniKey<Filter> kFilterKeys[] = {
 };
 
 std::string Number(const char* name, int number) { return name + std::to_string(number) + " "; }
-IniPlace GraphPlace(const std::string& section, int number) { return {section, Number("Graph ", number)}; }
+IniPlace GraphPlace(const std::string& section, int number) {
+  return {section, Number("Graph ", number)};
+}
 IniPlace FilterPlace(const IniPlace& graph, int number) {
   return {graph.section, graph.prefix + Number("Filter ", number)};
 }
@@ -68,20 +76,23 @@ void CheckItem(std::int32_t& item, std::vector<int>& unknown) {
 }
 
 template <class Preset>
-void ReadRecord(std::span<const IniKey<Preset>> keys, const IniTable& table, const IniPlace& place, Preset& preset) {
+void ReadRecord(std::span<const IniKey<Preset>> keys, const IniTable& table, const IniPlace& place,
+                Preset& preset) {
   ReadIniKeys<Preset>(keys, table, place, preset, IniMissing::IsEmpty);
   ReadIniKeys<Preset>(kFamily<Preset>, table, place, preset);
 }
 
 template <class Preset>
-void WriteRecord(std::span<const IniKey<Preset>> keys, const Preset& preset, int number, bool family, IniWriter& file) {
+void WriteRecord(std::span<const IniKey<Preset>> keys, const Preset& preset, int number,
+                 bool family, IniWriter& file) {
   WriteIniKeys<Preset>(keys, GraphPlace("", number), preset, file);
   if (family) WriteIniKeys<Preset>(kFamily<Preset>, GraphPlace("", number), preset, file);
 }
 
 }  // namespace
 
-PresetRead<Sample> ReadSamplePreset(const IniTable& table, const std::string& section, int lngGraphNo) {
+PresetRead<Sample> ReadSamplePreset(const IniTable& table, const std::string& section,
+                                    int lngGraphNo) {
   PresetRead<Sample> read;
   ReadRecord<Sample>(kSampleKeys, table, GraphPlace(section, lngGraphNo), read.preset);
   auto& items = read.preset.colDataItems;
@@ -91,8 +102,9 @@ PresetRead<Sample> ReadSamplePreset(const IniTable& table, const std::string& se
   return read;
 }
 
-PresetRead<Scatter> ReadScatterPreset(const IniTable& table, const std::string& section, int lngGraphNo,
-                                      const clsLogDataItems& fixedItems, const clsLogDataItems& universalItems) {
+PresetRead<Scatter> ReadScatterPreset(const IniTable& table, const std::string& section,
+                                      int lngGraphNo, const clsLogDataItems& fixedItems,
+                                      const clsLogDataItems& universalItems) {
   PresetRead<Scatter> read;
   Scatter& preset = read.preset;
   const IniPlace graph = GraphPlace(section, lngGraphNo);
@@ -121,11 +133,13 @@ void WriteToFile(const Scatter& preset, IniWriter& file, int lngGraphNo, bool bl
     WriteIniKeys<Filter>(kFilterKeys, FilterPlace(GraphPlace("", lngGraphNo), ++f), filter, file);
 }
 
-void ReadFilterField(std::string_view field, std::string_view text, const clsLogDataItems& objItems, Filter& filter) {
+void ReadFilterField(std::string_view field, std::string_view text, const clsLogDataItems& objItems,
+                     Filter& filter) {
   for (const auto& key : kFilterKeys)
     if (key.name == field) std::visit(detail::IniReader<Filter>{filter, text}, key.kind);
   if (field == kFilterItem && !IsItem(filter.lngDataItemSeq)) filter.lngDataItemSeq = 1;
-  if (field == kFilterFrom) filter.dblFrom = ValidateFilterFrom(filter.dblFrom, filter.lngDataItemSeq, objItems);
+  if (field == kFilterFrom)
+    filter.dblFrom = ValidateFilterFrom(filter.dblFrom, filter.lngDataItemSeq, objItems);
 }
 
 double ValidateFilterFrom(double dblFrom, int lngItem, const clsLogDataItems& objItems) {

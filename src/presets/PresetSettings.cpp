@@ -33,20 +33,29 @@ void WriteAll(const PresetCollection<Preset>& presets, IniWriter& file) {
 
 }  // namespace
 
-void ReadSamplePresets(const IniTable& table, const TellUnknownItems& tell, clsSampleGraphPresets& presets) {
+void ReadSamplePresets(const IniTable& table, const TellUnknownItems& tell,
+                       clsSampleGraphPresets& presets) {
   ReadAll([&](int n) { return ReadSamplePreset(table, kSampleSection, n); }, tell, presets);
   ReadOldSamplePresets(table, presets);
 }
 
-void ReadScatterPresets(const IniTable& table, const clsLogDataItems& fixedItems, const clsLogDataItems& universalItems,
-                        const TellUnknownItems& tell, clsScatterGraphPresets& presets) {
-  ReadAll([&](int n) { return ReadScatterPreset(table, kScatterSection, n, fixedItems, universalItems); }, tell,
-          presets);
+void ReadScatterPresets(const IniTable& table, const clsLogDataItems& fixedItems,
+                        const clsLogDataItems& universalItems, const TellUnknownItems& tell,
+                        clsScatterGraphPresets& presets) {
+  ReadAll(
+      [&](int n) {
+        return ReadScatterPreset(table, kScatterSection, n, fixedItems, universalItems);
+      },
+      tell, presets);
   ReadOldScatterPresets(table, fixedItems, presets);
 }
 
-void WriteSamplePresets(const clsSampleGraphPresets& presets, IniWriter& file) { WriteAll(presets, file); }
+void WriteSamplePresets(const clsSampleGraphPresets& presets, IniWriter& file) {
+  WriteAll(presets, file);
+}
 
-void WriteScatterPresets(const clsScatterGraphPresets& presets, IniWriter& file) { WriteAll(presets, file); }
+void WriteScatterPresets(const clsScatterGraphPresets& presets, IniWriter& file) {
+  WriteAll(presets, file);
+}
 
 }  // namespace tarnview

@@ -13,7 +13,8 @@ namespace tarnview {
 
 inline constexpr const char* kSampleGraphPresetFilter = "Preset Sample Graph files (*.sam)|*.sam";
 
-std::string SampleGraphPresetFileText(const clsSampleGraphPreset& preset, bool blnWriteFamily, const Moment& now);
+std::string SampleGraphPresetFileText(const clsSampleGraphPreset& preset, bool blnWriteFamily,
+                                      const Moment& now);
 
 /// Nothing where the text holds no preset. The family is 0 where the text names none.
 std::optional<clsSampleGraphPreset> ReadSampleGraphPresetFile(std::string_view text);

@@ -26,17 +26,21 @@ std::string FilterPrintString(const clsScatterFilter& objFilter, const clsLogDat
   const clsLogDataItem& item = objItems.Item(objFilter.lngDataItemSeq);
   std::string text = item.strShortName + " [" + item.strLongName + "]";
   if (item.intType == kListItem) return text + " = " + FilterBoundText(objFilter.dblFrom, item);
-  if (objFilter.dblFrom != kBoundNotSet) text += " from " + FilterBoundText(objFilter.dblFrom, item);
+  if (objFilter.dblFrom != kBoundNotSet)
+    text += " from " + FilterBoundText(objFilter.dblFrom, item);
   if (objFilter.dblTo != kBoundNotSet) text += " to " + FilterBoundText(objFilter.dblTo, item);
   return text;
 }
 
-std::vector<int> RemoveNonDisplayFilters(clsScatterFilters& objFilters, const Catalogue& catalogue, int lngLogFamily) {
+std::vector<int> RemoveNonDisplayFilters(clsScatterFilters& objFilters, const Catalogue& catalogue,
+                                         int lngLogFamily) {
   const DataItemList offered = FilterItems(catalogue, lngLogFamily);
   clsScatterFilters kept;
   std::vector<int> removed;
   for (const clsScatterFilter& filter : objFilters) {
-    const auto isOfFilter = [&](const clsLogDataItem* item) { return item->intSeq == filter.lngDataItemSeq; };
+    const auto isOfFilter = [&](const clsLogDataItem* item) {
+      return item->intSeq == filter.lngDataItemSeq;
+    };
     if (std::any_of(offered.begin(), offered.end(), isOfFilter))
       kept.AddDirect(filter);
     else

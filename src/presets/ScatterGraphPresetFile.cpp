@@ -11,7 +11,8 @@
 namespace tarnview {
 namespace {
 
-constexpr PresetFileLines kLines{"Tarnview Preset Scatter Graph File", "Preset Scatter Graph Details:"};
+constexpr PresetFileLines kLines{"Tarnview Preset Scatter Graph File",
+                                 "Preset Scatter Graph Details:"};
 constexpr std::string_view kFilter = "Graph 1 Filter ";
 
 struct FilterLine {
@@ -19,7 +20,8 @@ struct FilterLine {
   std::string_view field, value;
 };
 
-/// The lines of filters, which stand in the order in which the file first names them; "02" and "2" are the same one.
+/// The lines of filters, which stand in the order in which the file first names them; "02" and "2"
+/// are the same one.
 std::vector<FilterLine> FilterLines(const IniTable& table) {
   std::map<int, int> positions;  // by the filter's number in the file
   std::vector<FilterLine> lines;
@@ -29,7 +31,8 @@ std::vector<FilterLine> FilterLines(const IniTable& table) {
     if (blank == key.npos || !row.section.empty()) continue;
     const int number = StringToLong(key.substr(kFilter.size(), blank - kFilter.size()));
     const int next = static_cast<int>(positions.size()) + 1;
-    lines.push_back({positions.try_emplace(number, next).first->second, key.substr(blank + 1), row.value});
+    lines.push_back(
+        {positions.try_emplace(number, next).first->second, key.substr(blank + 1), row.value});
   }
   return lines;
 }
@@ -37,7 +40,8 @@ std::vector<FilterLine> FilterLines(const IniTable& table) {
 clsScatterFilters ReadFilters(const IniTable& table, const clsLogDataItems& objItems) {
   std::vector<FilterLine> lines = FilterLines(table);
   // A lower bound is held against its item, which may stand further down.
-  std::stable_partition(lines.begin(), lines.end(), [](const auto& line) { return line.field == kFilterItem; });
+  std::stable_partition(lines.begin(), lines.end(),
+                        [](const auto& line) { return line.field == kFilterItem; });
   clsScatterFilters filters;
   for (const FilterLine& line : lines) {
     while (filters.Count() < line.position) filters.AddDirect({});
@@ -48,7 +52,8 @@ clsScatterFilters ReadFilters(const IniTable& table, const clsLogDataItems& objI
 
 }  // namespace
 
-std::string ScatterGraphPresetFileText(const clsScatterGraphPreset& preset, bool blnWriteFamily, const Moment& now) {
+std::string ScatterGraphPresetFileText(const clsScatterGraphPreset& preset, bool blnWriteFamily,
+                                       const Moment& now) {
   IniWriter record;
   WriteToFile(preset, record, kFilePresetNo, blnWriteFamily);
   return PresetFileText(kLines, now, record);
@@ -58,7 +63,8 @@ std::optional<clsScatterGraphPreset> ReadScatterGraphPresetFile(std::string_view
                                                                 const clsLogDataItems& objItems) {
   const auto table = ReadPresetFile(kLines, text);
   if (!table) return std::nullopt;
-  clsScatterGraphPreset preset = ReadScatterPreset(*table, "", kFilePresetNo, objItems, objItems).preset;
+  clsScatterGraphPreset preset =
+      ReadScatterPreset(*table, "", kFilePresetNo, objItems, objItems).preset;
   preset.objFilters = ReadFilters(*table, objItems);
   preset.FileOpenDraw = false;
   return preset;

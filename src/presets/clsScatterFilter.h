@@ -9,7 +9,8 @@ namespace tarnview {
 /// The one mark of a bound that is not set, in memory and in files.
 inline constexpr double kBoundNotSet = -99999;
 
-/// Keeps the samples whose value of one item lies within bounds (both inclusive), or equals a listed value.
+/// Keeps the samples whose value of one item lies within bounds (both inclusive), or equals a
+/// listed value.
 class clsScatterFilter {
  public:
   double dblTo = kBoundNotSet;

@@ -11,7 +11,9 @@ namespace {
 
 /// A byte that is no text stands as half a character that no text holds: U+DC80 to U+DCFF.
 constexpr char16_t kEscape = 0xDC00;
-bool IsEscaped(QChar one) { return one.unicode() >= kEscape + 0x80 && one.unicode() <= kEscape + 0xFF; }
+bool IsEscaped(QChar one) {
+  return one.unicode() >= kEscape + 0x80 && one.unicode() <= kEscape + 0xFF;
+}
 
 }  // namespace
 
@@ -61,6 +63,8 @@ QColor ColourToQt(long colour) {
                 static_cast<int>(colour >> 16 & 0xFF));
 }
 
-long ColourFromQt(const QColor& colour) { return colour.red() | colour.green() << 8 | colour.blue() << 16; }
+long ColourFromQt(const QColor& colour) {
+  return colour.red() | colour.green() << 8 | colour.blue() << 16;
+}
 
 }  // namespace tarnview

@@ -16,8 +16,8 @@ QString TipToQt(const std::string& text);
 /// The same for a window's caption, where the toolkit puts a mark of its own in the place of "[*]".
 QString CaptionToQt(const std::string& text);
 
-/// Paths are the platform's bytes; one whose bytes are no text of the platform goes to the toolkit and back unharmed,
-/// though only files of the program's own FileSystem are found under it there.
+/// Paths are the platform's bytes; one whose bytes are no text of the platform goes to the toolkit
+/// and back unharmed, though only files of the program's own FileSystem are found under it there.
 QString PathToQt(const std::string& path);
 std::string PathFromQt(const QString& path);
 

@@ -36,7 +36,8 @@ ProgramFolders FindFolders() {
   const QString program = WritableFolder();
   ProgramFolders folders{PathFromQt(program + '/'), PathFromQt(DataFolder() + '/')};
   if (program != QCoreApplication::applicationDirPath())
-    folders.logs = PathFromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/');
+    folders.logs =
+        PathFromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/');
   return folders;
 }
 

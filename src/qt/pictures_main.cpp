@@ -1,5 +1,5 @@
-// tarnview-windows FOLDER [LOG [SETTINGS]]: draws every window into a folder, without a screen: empty and (with a log)
-// filled, light and dark, small, large, and in a font 40 % wider.
+// tarnview-windows FOLDER [LOG [SETTINGS]]: draws every window into a folder, without a screen:
+// empty and (with a log) filled, light and dark, small, large, and in a font 40 % wider.
 
 #include <QApplication>
 #include <QDir>
@@ -34,7 +34,8 @@ QPalette DarkPalette() {
   dark.setColor(QPalette::ToolTipBase, QColor(53, 53, 57));
   dark.setColor(QPalette::Highlight, QColor(61, 110, 165));
   dark.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
     dark.setColor(role, QColor(232, 232, 232));
     dark.setColor(QPalette::Disabled, role, QColor(128, 128, 128));
   }
@@ -77,15 +78,16 @@ bool DrawAll(const QDir& folder, const Content& content, const Look& look) {
     host.DoEvents();
     host.DoEvents();
     const int number = ++seen[form->name];
-    const QString name = QString::fromStdString(form->name) + (number > 1 ? QString::number(number) : QString());
+    const QString name =
+        QString::fromStdString(form->name) + (number > 1 ? QString::number(number) : QString());
     saved = Save(window, folder, name + "-" + ending) && saved;
     if (window.inherits("QMainWindow")) saved = SaveMenus(window, folder, ending) && saved;
   }
   return saved;
 }
 
-/// The main window as tuners set it up: on small and large screens, in each colour scheme, with and without zone
-/// influence.
+/// The main window as tuners set it up: on small and large screens, in each colour scheme, with and
+/// without zone influence.
 bool DrawMainWindow(const QDir& folder, const Content& content, bool dark) {
   constexpr std::pair<int, const char*> kSchemes[] = {{1, "grey"}, {2, "black"}, {3, "white"}};
   UnattendedHost host;

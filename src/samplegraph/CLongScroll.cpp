@@ -78,7 +78,8 @@ void CLongScroll::ClientChanged() {
   const int sign = moved < 0 ? -1 : 1;
   const bool page = std::abs(moved) == m_Client->LargeChange();
   if (page || std::abs(moved) == m_Client->SmallChange()) {
-    const std::int64_t wanted = static_cast<std::int64_t>(value_) + sign * (page ? LargeChange : SmallChange);
+    const std::int64_t wanted =
+        static_cast<std::int64_t>(value_) + sign * (page ? LargeChange : SmallChange);
     value_ = static_cast<std::int32_t>(std::clamp<std::int64_t>(wanted, Lower(), Higher()));
   } else {
     TakeFromThumb();

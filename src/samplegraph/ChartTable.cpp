@@ -32,19 +32,21 @@ std::vector<Curve> CurvesOf(const std::vector<int>& plottedItems, const clsLogDa
 
 /// About 30 reports in a range, or one for each 50 rows that are plotted.
 std::int32_t ReportInterval(const PlotWindow& window) {
-  const std::int32_t interval = window.step < 2 ? (window.lastIndex - window.firstIndex) / 30 : window.step * 50;
+  const std::int32_t interval =
+      window.step < 2 ? (window.lastIndex - window.firstIndex) / 30 : window.step * 50;
   return std::max(interval, 1);
 }
 
-void AddRow(ChartTable& table, const OpenLog& log, const std::vector<Curve>& curves, std::int32_t row,
-            std::int32_t peakKnock) {
+void AddRow(ChartTable& table, const OpenLog& log, const std::vector<Curve>& curves,
+            std::int32_t row, std::int32_t peakKnock) {
   const double x = log.gcolDataItems->Item(ItemOf(kSecs)).GetRawData(log.glngDataLog(kSecs, row));
   table.x.push_back(Cell(x));
   table.lowestX = std::min(table.lowestX, x);
   table.highestX = std::max(table.highestX, x);
   for (std::size_t j = 0; j < curves.size(); ++j) {
     const Curve& curve = curves[j];
-    const double y = curve.column == kKnock ? peakKnock : curve.Height(log.glngDataLog(curve.column, row));
+    const double y =
+        curve.column == kKnock ? peakKnock : curve.Height(log.glngDataLog(curve.column, row));
     table.y[j].push_back(Cell(y));
     table.highestY = std::max(table.highestY, y);
     table.lowestY = std::min(table.lowestY, y);
@@ -53,7 +55,8 @@ void AddRow(ChartTable& table, const OpenLog& log, const std::vector<Curve>& cur
 
 }  // namespace
 
-ChartTable BuildChartTable(const OpenLog& log, const std::vector<int>& plottedItems, const PlotWindow& window,
+ChartTable BuildChartTable(const OpenLog& log, const std::vector<int>& plottedItems,
+                           const PlotWindow& window,
                            const std::function<void(std::int32_t)>& examining) {
   const auto curves = CurvesOf(plottedItems, *log.gcolDataItems);
   ChartTable table;

@@ -9,8 +9,9 @@
 
 namespace tarnview {
 
-/// What the chart of a Sample Graph receives: rows of samples, an X column (seconds) shared by all items and a Y
-/// column for each. Row 0 is the heading row and holds names alone, so that data rows count from 1.
+/// What the chart of a Sample Graph receives: rows of samples, an X column (seconds) shared by all
+/// items and a Y column for each. Row 0 is the heading row and holds names alone, so that data rows
+/// count from 1.
 struct ChartTable {
   std::vector<std::string> headings;
   std::vector<double> x;
@@ -32,9 +33,10 @@ struct PlotWindow {
   std::int32_t step = 1;                       ///< every so many store rows one is plotted
 };
 
-/// Fills the table. Of "Knock" each row holds the highest value since the row before, so that no knock is lost
-/// between two plotted rows. `examining(index)` is called now and then.
-ChartTable BuildChartTable(const OpenLog& log, const std::vector<int>& plottedItems, const PlotWindow& window,
+/// Fills the table. Of "Knock" each row holds the highest value since the row before, so that no
+/// knock is lost between two plotted rows. `examining(index)` is called now and then.
+ChartTable BuildChartTable(const OpenLog& log, const std::vector<int>& plottedItems,
+                           const PlotWindow& window,
                            const std::function<void(std::int32_t index)>& examining);
 
 }  // namespace tarnview

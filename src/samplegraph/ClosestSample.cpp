@@ -12,7 +12,8 @@ std::int32_t ClosestSampleNumberToTime(const OpenLog& log, std::int32_t lngTime)
   const double first = timeAt(log.glngFirstSample), last = timeAt(log.glngLastSample);
   const double samples = static_cast<double>(log.glngLastSampleTime) - log.glngFirstSampleTime;
   const double share = last == first ? 0 : (lngTime - first) / (last - first);
-  std::int32_t index = std::clamp(RoundToLong(share * samples), log.glngFirstSample, log.glngLastSample);
+  std::int32_t index =
+      std::clamp(RoundToLong(share * samples), log.glngFirstSample, log.glngLastSample);
   if (timeAt(index) >= lngTime) {
     while (index > log.glngFirstSample && timeAt(index) > lngTime) --index;
   } else {

@@ -9,7 +9,8 @@
 
 namespace tarnview {
 
-/// The texts of the range at the last draw ([0]) and before that ([1]; empty until a second range has been drawn).
+/// The texts of the range at the last draw ([0]) and before that ([1]; empty until a second range
+/// has been drawn).
 struct RangeHistory {
   std::array<std::string, 2> strPlotFromHistory;
   std::array<std::string, 2> strPlotToHistory;
@@ -25,7 +26,8 @@ struct DrawnGraph {
 
   std::int32_t lngPlotFirstIndex = 0;
   std::int32_t lngPlotLastIndex = 0;
-  std::int32_t lngPlotSpan = 2;  ///< last index less first plus 2: rows of an unthinned table with its heading
+  std::int32_t lngPlotSpan =
+      2;  ///< last index less first plus 2: rows of an unthinned table with its heading
   std::int32_t intThinStep = 1;
   std::int32_t lngChartRow = 0;  ///< one more than the last row of the table
   ChartTable varChartData;
@@ -36,7 +38,9 @@ struct DrawnGraph {
   /// Width of the range in store rows.
   std::int32_t Width() const { return lngPlotSpan - 2; }
   /// Store index of a point of the chart, from 1.
-  std::int32_t IndexOfPoint(std::int32_t point) const { return (point - 1) * intThinStep + lngPlotFirstIndex; }
+  std::int32_t IndexOfPoint(std::int32_t point) const {
+    return (point - 1) * intThinStep + lngPlotFirstIndex;
+  }
 };
 
 }  // namespace tarnview

@@ -18,7 +18,8 @@ struct ExportRun {
   ErrorLog& errors;
   const char* procedure;  ///< for the error log
 
-  /// Offers `path`, which becomes what is chosen, and writes there. A failure shows message 64. True if it was written.
+  /// Offers `path`, which becomes what is chosen, and writes there. A failure shows message 64.
+  /// True if it was written.
   bool Run(std::string& path, const std::function<void(const std::string& strFile)>& write) const;
 };
 

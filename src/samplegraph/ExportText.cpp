@@ -10,12 +10,14 @@ constexpr long kCannotWrite = 75;
 
 }  // namespace
 
-std::string ExportHead(const std::string& banner, const std::string& strLogFile, const std::string& fileType) {
-  return banner + kExportLineEnd + "Original Data Log Path and File Name: " + strLogFile + kExportLineEnd +
-         "Original Data Log File Type: " + fileType + kExportLineEnd;
+std::string ExportHead(const std::string& banner, const std::string& strLogFile,
+                       const std::string& fileType) {
+  return banner + kExportLineEnd + "Original Data Log Path and File Name: " + strLogFile +
+         kExportLineEnd + "Original Data Log File Type: " + fileType + kExportLineEnd;
 }
 
-void AddExportNames(std::string& out, const std::vector<int>& columns, const clsLogDataItems& items) {
+void AddExportNames(std::string& out, const std::vector<int>& columns,
+                    const clsLogDataItems& items) {
   std::string between;
   for (const int column : columns) {
     out += between + items.Item(column).strShortName;
@@ -25,7 +27,8 @@ void AddExportNames(std::string& out, const std::vector<int>& columns, const cls
 }
 
 void WriteExport(FileSystem& files, const std::string& strFile, const std::string& text) {
-  if (!files.Write(strFile, text)) throw RuntimeError(kCannotWrite, "Path/File access error: " + strFile);
+  if (!files.Write(strFile, text))
+    throw RuntimeError(kCannotWrite, "Path/File access error: " + strFile);
 }
 
 }  // namespace tarnview

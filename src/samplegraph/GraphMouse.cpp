@@ -17,8 +17,9 @@ constexpr std::int32_t kNarrowest = 2;
 
 }  // namespace
 
-GraphMouse::GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
-                       const OpenLog& log, PointHighlight& highlight, MainWindow& mainWindow)
+GraphMouse::GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+                       PlotRange& range, const OpenLog& log, PointHighlight& highlight,
+                       MainWindow& mainWindow)
     : controls_(controls),
       drawn_(drawn),
       selection_(selection),
@@ -39,7 +40,8 @@ double GraphMouse::TimeOf(std::int32_t index) const {
   return log_.gcolDataItems->Item(ItemOf(kSecs)).GetRawData(log_.glngDataLog(kSecs, index));
 }
 
-/// The sample nearest to a time. Where the log's times run backwards somewhere, it is one of the log's all the same.
+/// The sample nearest to a time. Where the log's times run backwards somewhere, it is one of the
+/// log's all the same.
 std::int32_t GraphMouse::IndexAt(double x) const {
   std::int32_t index = log_.glngFirstSample, end = log_.glngLastSample;
   while (index < end) {
@@ -68,8 +70,8 @@ void GraphMouse::ZoomAt(double x, double notches) {
   if (wanted == width) wanted += notches < 0 ? 1 : -1;
   wanted = std::clamp(wanted, std::min(kNarrowest, widest), widest);
   const double share = width > 0 ? static_cast<double>(at - drawn_.lngPlotFirstIndex) / width : 0.5;
-  const std::int32_t first =
-      std::clamp(RoundToLong(at - share * wanted), log_.glngFirstSample, log_.glngLastSample - wanted);
+  const std::int32_t first = std::clamp(RoundToLong(at - share * wanted), log_.glngFirstSample,
+                                        log_.glngLastSample - wanted);
   ShowRows(first, first + wanted, Move::OneOfMany);
   if (pointing_) PointAt(x);
 }
@@ -77,8 +79,8 @@ void GraphMouse::ZoomAt(double x, double notches) {
 void GraphMouse::MoveTo(double grabbed, double x) {
   if (!Drawn()) return;
   const std::int32_t width = drawn_.lngPlotLastIndex - drawn_.lngPlotFirstIndex;
-  const std::int32_t first = std::clamp(drawn_.lngPlotFirstIndex + IndexAt(grabbed) - IndexAt(x), log_.glngFirstSample,
-                                        log_.glngLastSample - width);
+  const std::int32_t first = std::clamp(drawn_.lngPlotFirstIndex + IndexAt(grabbed) - IndexAt(x),
+                                        log_.glngFirstSample, log_.glngLastSample - width);
   ShowRows(first, first + width, Move::OneOfMany);
   if (pointing_) PointAt(grabbed);
 }
@@ -99,8 +101,8 @@ void GraphMouse::ShowRows(std::int32_t first, std::int32_t last, Move move) {
   Draw(move);
 }
 
-/// Notches and steps of a drag that follow each other, with no other draw between them, are one move for the history:
-/// "Previous Graph" leads back to where the hand began.
+/// Notches and steps of a drag that follow each other, with no other draw between them, are one
+/// move for the history: "Previous Graph" leads back to where the hand began.
 void GraphMouse::Draw(Move move) {
   if (move == Move::OneOfMany && drawn_.history == afterMove_) {
     mainWindow_.DrawSampleGraphAfter(beforeMove_);
@@ -114,7 +116,8 @@ void GraphMouse::Draw(Move move) {
 void GraphMouse::PointAt(double x) {
   if (!Drawn()) return;
   pointing_ = true;
-  const std::int32_t index = std::clamp(IndexAt(x), drawn_.lngPlotFirstIndex, drawn_.lngPlotLastIndex);
+  const std::int32_t index =
+      std::clamp(IndexAt(x), drawn_.lngPlotFirstIndex, drawn_.lngPlotLastIndex);
   controls_.chSampleGraph.HairLine = TimeOf(index);
   highlight_.LookAt(index);
 }

@@ -11,8 +11,8 @@
 
 namespace tarnview {
 
-/// The mouse on the Sample Graph: its wheel zooms, a drag pans or marks a range, a double click shows the whole log,
-/// and the list tells the values at the pointer while it is there.
+/// The mouse on the Sample Graph: its wheel zooms, a drag pans or marks a range, a double click
+/// shows the whole log, and the list tells the values at the pointer while it is there.
 class GraphMouse {
  public:
   struct Controls {
@@ -27,8 +27,9 @@ class GraphMouse {
     /// Draws as if that had been drawn last: "Previous Graph" will lead back to it.
     virtual void DrawSampleGraphAfter(const RangeHistory& history) = 0;
   };
-  GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
-             const OpenLog& log, PointHighlight& highlight, MainWindow& mainWindow);
+  GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+             PlotRange& range, const OpenLog& log, PointHighlight& highlight,
+             MainWindow& mainWindow);
 
  private:
   enum class Move { Alone, OneOfMany };
@@ -54,8 +55,8 @@ class GraphMouse {
   PointHighlight& highlight_;
   MainWindow& mainWindow_;
   bool pointing_ = false;
-  RangeHistory
-      beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a graph being drawn along
+  RangeHistory beforeMove_;  ///< where "Previous Graph" leads from a wheel turned on and on, or a
+                             ///< graph being drawn along
   RangeHistory afterMove_;
 };
 

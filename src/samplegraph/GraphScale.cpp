@@ -42,7 +42,8 @@ VerticalScale ScaleForRange(double lowest, double highest) {
   if (!(-lowest > highest)) return ReachingBelow(ScaleForHighest(highest), lowest);
   // The deeper side says how large a step is.
   const std::int64_t step = FirstFit(RoundHalfEven(-lowest)).step;
-  const auto above = static_cast<std::int64_t>(RoundHalfEven(highest / static_cast<double>(step))) + 1;
+  const auto above =
+      static_cast<std::int64_t>(RoundHalfEven(highest / static_cast<double>(step))) + 1;
   return ReachingBelow({step * above, above}, lowest);
 }
 

@@ -23,26 +23,30 @@ std::string GetExportPathFile(const std::string& strLogFile) {
   return WithoutExtension(strLogFile) + (itsOwn ? "_export." : ".") + kEnding;
 }
 
-LogExport::LogExport(const Controls& controls, const PlotRange& range, const OpenLog& log, FileSystem& files,
-                     StatusArea& status)
+LogExport::LogExport(const Controls& controls, const PlotRange& range, const OpenLog& log,
+                     FileSystem& files, StatusArea& status)
     : controls_(controls), range_(range), log_(log), files_(files), status_(status) {}
 
 void LogExport::ExportDataLog(const std::string& strFile, const std::string& fileType) {
   // The number in the box is the guess as well.
-  const auto from = static_cast<std::int32_t>(range_.From()), to = static_cast<std::int32_t>(range_.To());
+  const auto from = static_cast<std::int32_t>(range_.From()),
+             to = static_cast<std::int32_t>(range_.To());
   const std::int32_t last = LocateSample(log_, to, to);
   const std::int32_t first = std::min(LocateSample(log_, from, from), last);
   const std::int32_t interval = std::max((last - first) / kProgressUpdates, 1);
   status_.ShowProgressInStatusBar(std::max(last - first, 1));
   const std::vector<int> columns = Columns();
-  std::string out = ExportHead("TARNVIEW EXPORT FILE", log_.gstrCurrentFile, fileType) + kExportLineEnd;
+  std::string out =
+      ExportHead("TARNVIEW EXPORT FILE", log_.gstrCurrentFile, fileType) + kExportLineEnd;
   CellTexts cells(log_, columns);
   constexpr std::size_t kUsualCell = 8;
-  out.reserve(out.size() + columns.size() * kUsualCell * static_cast<std::size_t>(last - first + 2));
+  out.reserve(out.size() +
+              columns.size() * kUsualCell * static_cast<std::size_t>(last - first + 2));
   AddExportNames(out, columns, *log_.gcolDataItems);
   for (std::int32_t index = first; index <= last; ++index) {
     if (index % interval == 0)
-      status_.Progress("Exporting sample " + log_.FormatDataItem(ItemOf(kSample), index), index - first);
+      status_.Progress("Exporting sample " + log_.FormatDataItem(ItemOf(kSample), index),
+                       index - first);
     out.append(cells.Line(index)).append(kExportLineEnd);
   }
   WriteExport(files_, strFile, out);

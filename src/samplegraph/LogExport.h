@@ -12,11 +12,12 @@
 
 namespace tarnview {
 
-/// The log's path with the extension ".csv"; of a log that has it itself, "_export.csv" behind its name.
+/// The log's path with the extension ".csv"; of a log that has it itself, "_export.csv" behind its
+/// name.
 std::string GetExportPathFile(const std::string& strLogFile);
 
-/// Writes the samples of the plot range to a comma-separated text, with the items of the list beside the graph and
-/// values as the user sees them. The format knows no quoting.
+/// Writes the samples of the plot range to a comma-separated text, with the items of the list
+/// beside the graph and values as the user sees them. The format knows no quoting.
 class LogExport {
  public:
   struct Controls {

@@ -6,7 +6,8 @@
 
 namespace tarnview {
 
-PlotRange::PlotRange(const Controls& controls, const OpenLog& log, Selection& selection, RedrawRequest& redraw)
+PlotRange::PlotRange(const Controls& controls, const OpenLog& log, Selection& selection,
+                     RedrawRequest& redraw)
     : controls_(controls), log_(log), selection_(selection), redraw_(redraw) {
   const auto edited = [this] { redraw_.RangeEdited(); };
   controls_.PlotRangeFrom.Change = edited;
@@ -21,7 +22,9 @@ PlotRange::PlotRange(const Controls& controls, const OpenLog& log, Selection& se
 
 std::int64_t PlotRange::From() const { return StringToLong(controls_.PlotRangeFrom.Text()); }
 std::int64_t PlotRange::To() const { return StringToLong(controls_.PlotRangeTo.Text()); }
-void PlotRange::SetFrom(std::int64_t sample) { controls_.PlotRangeFrom.Text = std::to_string(sample); }
+void PlotRange::SetFrom(std::int64_t sample) {
+  controls_.PlotRangeFrom.Text = std::to_string(sample);
+}
 void PlotRange::SetTo(std::int64_t sample) { controls_.PlotRangeTo.Text = std::to_string(sample); }
 void PlotRange::SetFromToFirst() { controls_.PlotRangeFrom.Text = gstrPlotFrom; }
 void PlotRange::SetToToLast() { controls_.PlotRangeTo.Text = gstrPlotTo; }
@@ -59,7 +62,9 @@ void PlotRange::EnsureMinimumPlotRange() {
     SetFrom(To() - 2);
 }
 
-bool PlotRange::IsWholeLog() const { return From() == log_.glngFirstSampleTime && To() == log_.glngLastSampleTime; }
+bool PlotRange::IsWholeLog() const {
+  return From() == log_.glngFirstSampleTime && To() == log_.glngLastSampleTime;
+}
 
 void PlotRange::LeaveFrom() {
   if (!log_.gblnSamplesLoaded) return;
@@ -75,7 +80,8 @@ void PlotRange::LeaveTo() {
 
 void PlotRange::Step(TextBox& box, int by) {
   const std::int64_t sample = StringToLong(box.Text());
-  box.Text = std::to_string(std::clamp<std::int64_t>(sample + by, log_.glngFirstSampleTime, log_.glngLastSampleTime));
+  box.Text = std::to_string(
+      std::clamp<std::int64_t>(sample + by, log_.glngFirstSampleTime, log_.glngLastSampleTime));
 }
 
 bool PlotRange::Outside(std::int64_t sample) const {

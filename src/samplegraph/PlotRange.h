@@ -20,7 +20,8 @@ class PlotRange {
     TextBox& PlotRangeTo;
     UpDown& updPlotRangeTo;
   };
-  PlotRange(const Controls& controls, const OpenLog& log, Selection& selection, RedrawRequest& redraw);
+  PlotRange(const Controls& controls, const OpenLog& log, Selection& selection,
+            RedrawRequest& redraw);
 
   std::int64_t From() const;
   std::int64_t To() const;

@@ -6,9 +6,9 @@
 
 namespace tarnview {
 
-PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-                               const PlotRange& range, const OpenLog& log, SampleDetails& details, StatusArea& status,
-                               MainWindow& mainWindow)
+PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn,
+                               Selection& selection, const PlotRange& range, const OpenLog& log,
+                               SampleDetails& details, StatusArea& status, MainWindow& mainWindow)
     : controls_(controls),
       drawn_(drawn),
       selection_(selection),
@@ -17,14 +17,17 @@ PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn
       details_(details),
       status_(status),
       mainWindow_(mainWindow) {
-  controls_.chSampleGraph.PointSelected = [this](int series, int point) { chSampleGraph_PointSelected(series, point); };
+  controls_.chSampleGraph.PointSelected = [this](int series, int point) {
+    chSampleGraph_PointSelected(series, point);
+  };
   details_.CurveChosen = [this](int place) { MoveToCurve(place); };
 }
 
 void PointHighlight::Note(int intSeries, int lngDataPoint) {
   const auto& headings = drawn_.varChartData.headings;
   const auto place = static_cast<std::size_t>((intSeries - 1) / 2);
-  const auto* item = place < headings.size() ? log_.gcolDataItems->ByShortName(headings[place]) : nullptr;
+  const auto* item =
+      place < headings.size() ? log_.gcolDataItems->ByShortName(headings[place]) : nullptr;
   selection_.Select(intSeries, lngDataPoint, item ? item->intSeq : ItemOf(kRPM));
 }
 
@@ -63,14 +66,16 @@ bool PointHighlight::CanGoRight() const {
 void PointHighlight::LookAt(std::int32_t index) {
   details_.PopulateSampleListView(index);
   const auto named = [&](Column column) {
-    return log_.gcolDataItems->Item(ItemOf(column)).strShortName + ": " + log_.FormatDataItem(ItemOf(column), index);
+    return log_.gcolDataItems->Item(ItemOf(column)).strShortName + ": " +
+           log_.FormatDataItem(ItemOf(column), index);
   };
   status_.Say(named(kSample) + ", " + named(kSecs));
 }
 
 void PointHighlight::cmdDataPointLeft_Click() {
   if (selection_.lngSelectedPoint() > 1)
-    controls_.chSampleGraph.SelectPoint(selection_.intSelectedSeries(), selection_.lngSelectedPoint() - 1);
+    controls_.chSampleGraph.SelectPoint(selection_.intSelectedSeries(),
+                                        selection_.lngSelectedPoint() - 1);
   else if (range_.From() > log_.glngFirstSampleTime)
     mainWindow_.ScrollOneStep(-1);
   controls_.chSampleGraph.SetFocus();
@@ -78,7 +83,8 @@ void PointHighlight::cmdDataPointLeft_Click() {
 
 void PointHighlight::cmdDataPointRight_Click() {
   if (selection_.lngSelectedPoint() < drawn_.lngChartRow - 1)
-    controls_.chSampleGraph.SelectPoint(selection_.intSelectedSeries(), selection_.lngSelectedPoint() + 1);
+    controls_.chSampleGraph.SelectPoint(selection_.intSelectedSeries(),
+                                        selection_.lngSelectedPoint() + 1);
   else if (range_.To() < log_.glngLastSampleTime)
     mainWindow_.ScrollOneStep(1);
   controls_.chSampleGraph.SetFocus();
@@ -89,13 +95,18 @@ void PointHighlight::MoveBetweenSeries(int direction) {
   const auto row = static_cast<std::size_t>(selection_.lngSelectedPoint() - 1);
   if (selection_.lngSelectedPoint() < 1 || row >= table.x.size()) return;
   std::vector<std::pair<double, int>> heights;
-  for (std::size_t j = 0; j < table.y.size(); ++j) heights.emplace_back(table.y[j][row], 2 * static_cast<int>(j) + 1);
-  std::stable_sort(heights.begin(), heights.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-  const auto found = std::find_if(heights.begin(), heights.end(),
-                                  [&](const auto& one) { return one.second == selection_.intSelectedSeries(); });
+  for (std::size_t j = 0; j < table.y.size(); ++j)
+    heights.emplace_back(table.y[j][row], 2 * static_cast<int>(j) + 1);
+  std::stable_sort(heights.begin(), heights.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  const auto found = std::find_if(heights.begin(), heights.end(), [&](const auto& one) {
+    return one.second == selection_.intSelectedSeries();
+  });
   const auto wanted = (found - heights.begin()) + direction;
-  if (found == heights.end() || wanted < 0 || wanted >= static_cast<std::ptrdiff_t>(heights.size())) return;
-  controls_.chSampleGraph.SelectPoint(heights[static_cast<std::size_t>(wanted)].second, selection_.lngSelectedPoint());
+  if (found == heights.end() || wanted < 0 || wanted >= static_cast<std::ptrdiff_t>(heights.size()))
+    return;
+  controls_.chSampleGraph.SelectPoint(heights[static_cast<std::size_t>(wanted)].second,
+                                      selection_.lngSelectedPoint());
 }
 
 std::int32_t PointHighlight::SelectedIndex() const {

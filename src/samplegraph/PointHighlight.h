@@ -12,8 +12,8 @@
 
 namespace tarnview {
 
-/// The selected point of the Sample Graph: its sample's values in the list and the status bar, and the walk from point
-/// to point and from curve to curve.
+/// The selected point of the Sample Graph: its sample's values in the list and the status bar, and
+/// the walk from point to point and from curve to curve.
 class PointHighlight {
  public:
   struct Controls {
@@ -22,11 +22,13 @@ class PointHighlight {
   /// What it needs of the main window.
   struct MainWindow {
     virtual ~MainWindow() = default;
-    virtual void ScrollOneStep(int direction) = 0;     ///< -1 left, 1 right, stopping at the log's end
-    virtual void SampleShown(std::int32_t index) = 0;  ///< the store index whose values are on show now
+    virtual void ScrollOneStep(int direction) = 0;  ///< -1 left, 1 right, stopping at the log's end
+    virtual void SampleShown(
+        std::int32_t index) = 0;  ///< the store index whose values are on show now
   };
-  PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection, const PlotRange& range,
-                 const OpenLog& log, SampleDetails& details, StatusArea& status, MainWindow& mainWindow);
+  PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+                 const PlotRange& range, const OpenLog& log, SampleDetails& details,
+                 StatusArea& status, MainWindow& mainWindow);
 
   bool CanGoLeft() const;
   bool CanGoRight() const;

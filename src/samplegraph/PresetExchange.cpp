@@ -13,7 +13,8 @@ namespace {
 constexpr long kFileNotFound = 53;
 
 bool IsLegalFileName(std::string_view name) {
-  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." && name != "..";
+  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." &&
+         name != "..";
 }
 
 }  // namespace
@@ -42,7 +43,8 @@ std::string PresetExchange::ProposedFile() const {
   return (folder.empty() ? "" : AddBackslash(folder)) + name + kind_.extension;
 }
 
-void PresetExchange::Save(const std::function<std::string(bool blnWriteFamily, const Moment& now)>& text) {
+void PresetExchange::Save(
+    const std::function<std::string(bool blnWriteFamily, const Moment& now)>& text) {
   const bool withFamily = around_.messages.AskQuestion(Question::IncludeLogFamily);
   Dialog dialog = DialogFor(DialogKind::Save, "Save As");
   dialog.path = ProposedFile();
@@ -65,7 +67,8 @@ void PresetExchange::Load(const std::function<void(std::string_view bytes)>& tak
 }
 
 bool PresetExchange::AgreesToFamily(int lngLogFamily, int selected) {
-  return lngLogFamily == 0 || lngLogFamily == selected || around_.messages.AskQuestion(Question::PresetOfOtherFamily);
+  return lngLogFamily == 0 || lngLogFamily == selected ||
+         around_.messages.AskQuestion(Question::PresetOfOtherFamily);
 }
 
 void PresetExchange::TellNotRelevant(const std::string& items) {

@@ -25,8 +25,8 @@ struct PresetSurroundings {
   Messages& messages;
 };
 
-/// How the details window of a preset exchanges it with files: the dialogs, the file used last since the window opened,
-/// and what the user is asked and told.
+/// How the details window of a preset exchanges it with files: the dialogs, the file used last
+/// since the window opened, and what the user is asked and told.
 class PresetExchange {
  public:
   /// One kind of file.
@@ -34,7 +34,8 @@ class PresetExchange {
     const char* extension;  ///< with its point
     const char* filter;     ///< of the dialogs
   };
-  PresetExchange(Form& window, TextBox& txtName, const PresetSurroundings& surroundings, const Kind& kind)
+  PresetExchange(Form& window, TextBox& txtName, const PresetSurroundings& surroundings,
+                 const Kind& kind)
       : window_(window), txtName_(txtName), around_(surroundings), kind_(kind) {}
 
   /// A preset needs a name; false where there is none, and the user was told.

@@ -17,8 +17,8 @@ std::string DigitsOf(const std::string& text) {
 
 }  // namespace
 
-PresetGraphs::PresetGraphs(const Controls& controls, clsSampleGraphPresets& presets, const clsLogFamilies& families,
-                           MainWindow& mainWindow)
+PresetGraphs::PresetGraphs(const Controls& controls, clsSampleGraphPresets& presets,
+                           const clsLogFamilies& families, MainWindow& mainWindow)
     : controls_(controls), list_(controls.lvwPresets, presets, families), mainWindow_(mainWindow) {
   controls_.lvwPresets.ItemClick = [this](int row) { lvwPresets_ItemClick(row); };
   controls_.lvwPresets.DblClick = [this](int row) {
@@ -34,7 +34,8 @@ void PresetGraphs::lvwPresets_ItemClick(int row) {
   ListView& list = controls_.lvwSampleDetails;
   for (int n = 1; n <= list.Count(); ++n) {
     const auto& items = preset->colDataItems;
-    list.SetChecked(n, std::find(items.begin(), items.end(), StringToLong(list.At(n).tag)) != items.end());
+    list.SetChecked(
+        n, std::find(items.begin(), items.end(), StringToLong(list.At(n).tag)) != items.end());
   }
   controls_.chkFixY.Value = preset->blnFixGraphMax;
   controls_.txtYMax.Text = std::to_string(preset->lngGraphMax);

@@ -9,7 +9,8 @@
 
 namespace tarnview {
 
-/// The list of presets beside the Sample Graph: a click ticks a preset's items, a double click draws it.
+/// The list of presets beside the Sample Graph: a click ticks a preset's items, a double click
+/// draws it.
 class PresetGraphs {
  public:
   struct Controls {
@@ -24,11 +25,14 @@ class PresetGraphs {
     virtual ~MainWindow() = default;
     virtual void DrawGraphChecked() = 0;
   };
-  PresetGraphs(const Controls& controls, clsSampleGraphPresets& presets, const clsLogFamilies& families,
-               MainWindow& mainWindow);
+  PresetGraphs(const Controls& controls, clsSampleGraphPresets& presets,
+               const clsLogFamilies& families, MainWindow& mainWindow);
 
-  /// Lists the presets of a file type's family, or "[None]". `blnKeepPosition` selects the last row.
-  void PopulatePresetGraphs(bool blnKeepPosition, int fileType) { list_.Populate(blnKeepPosition, fileType); }
+  /// Lists the presets of a file type's family, or "[None]". `blnKeepPosition` selects the last
+  /// row.
+  void PopulatePresetGraphs(bool blnKeepPosition, int fileType) {
+    list_.Populate(blnKeepPosition, fileType);
+  }
   bool HasRows() const { return list_.HasRows(); }
   /// Applies the first preset of that name in the list; false if there is none.
   bool ApplyNamed(const std::string& name) { return list_.ApplyNamed(name); }

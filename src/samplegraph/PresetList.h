@@ -10,7 +10,8 @@
 
 namespace tarnview {
 
-/// A window's list of the presets of one log family; each row bears its preset's place in the collection.
+/// A window's list of the presets of one log family; each row bears its preset's place in the
+/// collection.
 template <class Collection>
 class PresetList {
  public:
@@ -19,7 +20,8 @@ class PresetList {
   PresetList(ListView& lvwPresets, Collection& presets, const clsLogFamilies& families)
       : list_(lvwPresets), presets_(presets), families_(families) {}
 
-  /// Lists the presets of a file type's family, or "[None]". `blnKeepPosition` selects the last row.
+  /// Lists the presets of a file type's family, or "[None]". `blnKeepPosition` selects the last
+  /// row.
   void Populate(bool blnKeepPosition, int fileType) {
     const int family = families_.FirstLogFamily(fileType);
     std::vector<ListView::Row> rows;

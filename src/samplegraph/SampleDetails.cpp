@@ -14,8 +14,9 @@ constexpr int kFirstCurveRow = 3;
 
 }  // namespace
 
-SampleDetails::SampleDetails(const Controls& controls, const DrawnGraph& drawn, const Selection& selection,
-                             const OpenLog& log, const clsLogFamilies& families)
+SampleDetails::SampleDetails(const Controls& controls, const DrawnGraph& drawn,
+                             const Selection& selection, const OpenLog& log,
+                             const clsLogFamilies& families)
     : controls_(controls), drawn_(drawn), selection_(selection), log_(log), families_(families) {
   controls_.chkShowCheckedOnly.ToolTip =
       std::string("Check this to only display the data items that have been checked");
@@ -31,7 +32,8 @@ void SampleDetails::SetUpSampleGraphSampleListView(int lngFileType, const clsLog
   const bool wasVisible = controls_.lvwSampleDetails.Visible;
   controls_.lvwSampleDetails.Visible = false;
   SampleListForm form;
-  form.intMode = controls_.chkShowCheckedOnly.Value ? kDisplayedAndCheckedItems : kDisplayedInAnyCase;
+  form.intMode =
+      controls_.chkShowCheckedOnly.Value ? kDisplayedAndCheckedItems : kDisplayedInAnyCase;
   form.lngFileType = lngFileType;
   SetUpSampleListView(controls_.lvwSampleDetails, checked_, form, families_, items);
   controls_.lvwSampleDetails.Visible = wasVisible;
@@ -47,7 +49,8 @@ void SampleDetails::FindItem(const std::string& text) {
   const std::string wanted = Upper(text);
   const auto holds = [&](int row) {
     const ListView::Row& it = list.At(row);
-    return Upper(it.texts[0]).find(wanted) != std::string::npos || Upper(it.toolTip).find(wanted) != std::string::npos;
+    return Upper(it.texts[0]).find(wanted) != std::string::npos ||
+           Upper(it.toolTip).find(wanted) != std::string::npos;
   };
   if (wanted.empty()) return;
   for (int step = 0; step < list.Count(); ++step) {
@@ -75,7 +78,8 @@ std::vector<int> SampleDetails::CheckedItems() const {
 void SampleDetails::SetCheckedItems(const std::vector<int>& items) {
   checked_.clear();
   for (int seq : items)
-    if (!items_ || (seq >= 1 && seq <= items_->Count() && items_->Item(seq).blnSampleGraphPlottable))
+    if (!items_ ||
+        (seq >= 1 && seq <= items_->Count() && items_->Item(seq).blnSampleGraphPlottable))
       checked_[CheckedKey(seq)] = seq;
   controls_.lvwSampleDetails.Clear();
   if (items_) SetUpSampleGraphSampleListView(fileType_, *items_);

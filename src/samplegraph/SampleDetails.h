@@ -13,7 +13,8 @@
 
 namespace tarnview {
 
-/// The list beside the Sample Graph: which items are plotted, and their values at the selected sample.
+/// The list beside the Sample Graph: which items are plotted, and their values at the selected
+/// sample.
 class SampleDetails {
  public:
   struct Controls {
@@ -21,8 +22,8 @@ class SampleDetails {
     CheckBox& chkShowCheckedOnly;
     Chart& chSampleGraph;
   };
-  SampleDetails(const Controls& controls, const DrawnGraph& drawn, const Selection& selection, const OpenLog& log,
-                const clsLogFamilies& families);
+  SampleDetails(const Controls& controls, const DrawnGraph& drawn, const Selection& selection,
+                const OpenLog& log, const clsLogFamilies& families);
 
   /// The row of a curve was clicked: the curve's place among those drawn, from 0.
   std::function<void(int place)> CurveChosen;
@@ -38,8 +39,8 @@ class SampleDetails {
   void ClearValues() { PopulateSampleListView(-1); }
   /// Selects the row of an item, if it is on show.
   void SelectItem(int item);
-  /// Selects the first row below the selected one, or else from the top, in whose name or tool tip the text stands, in
-  /// any case; an empty text selects nothing.
+  /// Selects the first row below the selected one, or else from the top, in whose name or tool tip
+  /// the text stands, in any case; an empty text selects nothing.
   void FindItem(const std::string& text);
 
   /// Data items whose check is set, those of hidden rows too; in item order.

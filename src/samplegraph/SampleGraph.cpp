@@ -23,8 +23,9 @@ bool Note(std::array<std::string, 2>& history, const std::string& text) {
 
 }  // namespace
 
-SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot, const OpenLog& log,
-                         const Settings& settings, StatusArea& status, Messages& messages, MainWindow& mainWindow)
+SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot,
+                         const OpenLog& log, const Settings& settings, StatusArea& status,
+                         Messages& messages, MainWindow& mainWindow)
     : window_(window),
       controls_(controls),
       range_(range),
@@ -89,7 +90,8 @@ void SampleGraph::DrawSampleGraph() {
   redraw_.Drawn();
 }
 
-/// A range box that is left by a key that draws keeps what is selected; one that the user leaves does not.
+/// A range box that is left by a key that draws keeps what is selected; one that the user leaves
+/// does not.
 void SampleGraph::TakeFocus() {
   const std::int32_t highlight = selection_.lngHighlightSample();
   controls_.chSampleGraph.SetFocus();
@@ -124,11 +126,14 @@ void SampleGraph::Build() {
   const std::int32_t first = drawn_.lngPlotFirstIndex;
   status_.ShowProgressInStatusBar(std::max(drawn_.lngPlotLastIndex - first, 1));
   drawn_.intThinStep = ThinStep(drawn_.lngPlotSpan, controls_.chkQuickGraph.Value);
-  const PlotWindow window{static_cast<std::int32_t>(range_.From()), static_cast<std::int32_t>(range_.To()), first,
-                          drawn_.lngPlotLastIndex, drawn_.intThinStep};
-  drawn_.varChartData = BuildChartTable(log_, drawn_.intPlottedItems, window, [&](std::int32_t index) {
-    status_.Progress("Examining log line " + log_.FormatDataItem(ItemOf(kSample), index), index - first);
-  });
+  const PlotWindow window{static_cast<std::int32_t>(range_.From()),
+                          static_cast<std::int32_t>(range_.To()), first, drawn_.lngPlotLastIndex,
+                          drawn_.intThinStep};
+  drawn_.varChartData =
+      BuildChartTable(log_, drawn_.intPlottedItems, window, [&](std::int32_t index) {
+        status_.Progress("Examining log line " + log_.FormatDataItem(ItemOf(kSample), index),
+                         index - first);
+      });
   drawn_.lngChartRow = drawn_.varChartData.LastRow() + 1;
   status_.ProgressFull();
   controls_.chSampleGraph.SetData(Describe());
@@ -141,15 +146,17 @@ ChartDescription SampleGraph::Describe() const {
   auto& series = chart.kind.emplace<Curves>().series;
   for (std::size_t j = 0; j < drawn_.intPlottedItems.size(); ++j) {
     const clsLogDataItem& item = log_.gcolDataItems->Item(drawn_.intPlottedItems[j]);
-    const Pen pen{item.lngColour, static_cast<int>(item.lngLineStyle), static_cast<int>(item.lngLineWidth * 10)};
+    const Pen pen{item.lngColour, static_cast<int>(item.lngLineStyle),
+                  static_cast<int>(item.lngLineWidth * 10)};
     series.push_back({item.intSeq, table.headings[j], table.x, table.y[j], pen});
   }
   chart.x = {table.lowestX, table.highestX, 10, TimeAxisFormat(table.highestX - table.lowestX)};
   const VerticalScale scale =
-      controls_.chkFixY.Value ? ReachingBelow({drawn_.lngFixedGraphMax, drawn_.intFixedGraphDivisions}, table.lowestY)
-                              : ScaleForRange(table.lowestY, table.highestY);
-  chart.y = {static_cast<double>(scale.min), static_cast<double>(scale.max), static_cast<int>(scale.divisions),
-             "#######0"};
+      controls_.chkFixY.Value
+          ? ReachingBelow({drawn_.lngFixedGraphMax, drawn_.intFixedGraphDivisions}, table.lowestY)
+          : ScaleForRange(table.lowestY, table.highestY);
+  chart.y = {static_cast<double>(scale.min), static_cast<double>(scale.max),
+             static_cast<int>(scale.divisions), "#######0"};
   SetGraphColourScheme(chart, settings_.gintGraphColourScheme);
   chart.facts = {{"from", static_cast<long long>(range_.From())},
                  {"to", static_cast<long long>(range_.To())},
@@ -160,7 +167,9 @@ ChartDescription SampleGraph::Describe() const {
 
 int SampleGraph::PlaceOf(int item) const {
   const auto found = std::find(drawn_.intPlottedItems.begin(), drawn_.intPlottedItems.end(), item);
-  return found == drawn_.intPlottedItems.end() ? 0 : static_cast<int>(found - drawn_.intPlottedItems.begin()) + 1;
+  return found == drawn_.intPlottedItems.end()
+             ? 0
+             : static_cast<int>(found - drawn_.intPlottedItems.begin()) + 1;
 }
 
 void SampleGraph::SelectAgain() {
@@ -170,16 +179,19 @@ void SampleGraph::SelectAgain() {
   if (place == 0) place = 1;
   std::int32_t point = RoundToLong(drawn_.lngChartRow / 2.0);
   if (selection_.lngHighlightSample() >= 1) {
-    const double rows = selection_.lngHighlightSample() - static_cast<double>(log_.Sample(drawn_.lngPlotFirstIndex));
+    const double rows = selection_.lngHighlightSample() -
+                        static_cast<double>(log_.Sample(drawn_.lngPlotFirstIndex));
     point = FindChartRowForSample(selection_.lngHighlightSample(), rows / drawn_.intThinStep);
   }
   controls_.chSampleGraph.SelectPoint(2 * (place - 1) + 1, std::max(point, 1));
 }
 
 std::int32_t SampleGraph::FindChartRowForSample(std::int32_t lngSample, double estimate) const {
-  const auto guess = static_cast<std::int32_t>(std::clamp<std::int64_t>(lngSample - range_.From(), 0, kMostSamples));
+  const auto guess = static_cast<std::int32_t>(
+      std::clamp<std::int64_t>(lngSample - range_.From(), 0, kMostSamples));
   const std::int32_t index = LocateSample(log_, guess, lngSample);
-  const double wanted = log_.gcolDataItems->Item(ItemOf(kSecs)).GetRawData(log_.glngDataLog(kSecs, index));
+  const double wanted =
+      log_.gcolDataItems->Item(ItemOf(kSecs)).GetRawData(log_.glngDataLog(kSecs, index));
   const ChartTable& table = drawn_.varChartData;
   std::int32_t row = std::clamp(RoundToLong(estimate), 0, table.LastRow());
   if (table.X(row) < wanted) {
@@ -217,7 +229,8 @@ void SampleGraph::chkFixY_Click() {
 void SampleGraph::StepYMax(int by) {
   const std::int64_t wanted = std::int64_t{StringToLong(controls_.txtYMax.Text())} + by;
   const Limits& limits = kGraphYMaxLimits;
-  controls_.txtYMax.Text = std::to_string(std::clamp<std::int64_t>(wanted, limits.least, limits.most));
+  controls_.txtYMax.Text =
+      std::to_string(std::clamp<std::int64_t>(wanted, limits.least, limits.most));
 }
 
 }  // namespace tarnview

@@ -18,7 +18,8 @@
 
 namespace tarnview {
 
-/// Draws the log as curves over time: from the range, the checked items and the boxes beside them to the chart.
+/// Draws the log as curves over time: from the range, the checked items and the boxes beside them
+/// to the chart.
 class SampleGraph {
  public:
   struct Controls {
@@ -45,11 +46,12 @@ class SampleGraph {
     virtual void GraphDrawn() = 0;
   };
 
-  SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot, const OpenLog& log,
-              const Settings& settings, StatusArea& status, Messages& messages, MainWindow& mainWindow);
+  SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot,
+              const OpenLog& log, const Settings& settings, StatusArea& status, Messages& messages,
+              MainWindow& mainWindow);
 
-  /// What Draw does: corrects the range, then draws and shows the chart. Message 10 without a checked item, 1 where
-  /// the range is too wide to be drawn without Quick Graph.
+  /// What Draw does: corrects the range, then draws and shows the chart. Message 10 without a
+  /// checked item, 1 where the range is too wide to be drawn without Quick Graph.
   void DrawGraphChecked();
   /// Draws without those checks; builds nothing where nothing has changed.
   void DrawSampleGraph();
@@ -58,7 +60,9 @@ class SampleGraph {
   /// There is something to draw.
   bool AnyChecked() const;
   /// A graph of the open log is on show.
-  bool Drawn() const { return log_.gblnSamplesLoaded && !controls_.chSampleGraph.Data().Series().empty(); }
+  bool Drawn() const {
+    return log_.gblnSamplesLoaded && !controls_.chSampleGraph.Data().Series().empty();
+  }
   /// Brings the typed maximum onto the scale's steps.
   void ApplyFixedGraphMax();
   /// The table row that shows a sample, walked to from an estimate.

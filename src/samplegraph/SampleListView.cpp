@@ -43,7 +43,8 @@ ListView::Row MakeRow(const clsLogDataItem& item, const SampleListForm& form) {
   else
     row.toolTip = item.strLongName;
   if (!item.strColumnTitles.empty())
-    row.toolTip += (row.toolTip.empty() ? "" : "\r\n") + ("Data log column(s): " + item.strColumnTitles);
+    row.toolTip +=
+        (row.toolTip.empty() ? "" : "\r\n") + ("Data log column(s): " + item.strColumnTitles);
   row.tag = std::to_string(item.intSeq);
   if (!form.pictures) return row;
   row.icon = item.blnDisplay ? kIconDisplayed : kIconNotDisplayed;
@@ -78,8 +79,9 @@ void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const Sampl
 
 void PopulateSampleListView(std::int32_t lngIndex, ListView& lvw, const OpenLog& log) {
   for (int row = 1; row <= lvw.Count(); ++row)
-    lvw.SetText(row, kValueColumn,
-                lngIndex < 0 ? std::string() : log.FormatDataItem(StringToLong(lvw.At(row).tag), lngIndex));
+    lvw.SetText(
+        row, kValueColumn,
+        lngIndex < 0 ? std::string() : log.FormatDataItem(StringToLong(lvw.At(row).tag), lngIndex));
 }
 
 std::vector<int> ItemsOfRows(const ListView& lvw, bool checkedOnly) {

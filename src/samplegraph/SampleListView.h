@@ -33,8 +33,9 @@ struct SampleListForm {
   bool pictures = true;       ///< each item's colour, or whether it is shown, beside it
 };
 
-/// Fills a list with data items in display order. Checks of rows on show are noted in `objCheckedKeys` first and put
-/// back from there, so that rows which are not on show keep theirs. A file type of no family leaves the list alone.
+/// Fills a list with data items in display order. Checks of rows on show are noted in
+/// `objCheckedKeys` first and put back from there, so that rows which are not on show keep theirs.
+/// A file type of no family leaves the list alone.
 void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const SampleListForm& form,
                          const clsLogFamilies& families, const clsLogDataItems& objItems);
 

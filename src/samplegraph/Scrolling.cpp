@@ -6,9 +6,14 @@
 
 namespace tarnview {
 
-Scrolling::Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
-                     const OpenLog& log, MainWindow& mainWindow)
-    : controls_(controls), drawn_(drawn), selection_(selection), range_(range), log_(log), mainWindow_(mainWindow) {
+Scrolling::Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+                     PlotRange& range, const OpenLog& log, MainWindow& mainWindow)
+    : controls_(controls),
+      drawn_(drawn),
+      selection_(selection),
+      range_(range),
+      log_(log),
+      mainWindow_(mainWindow) {
   objGraphScrollLarge_.Client(&controls_.hsbGraphScrollLarge);
   controls_.hsbGraphScroll.Change = [this] { Moved(); };
   objGraphScrollLarge_.Change = [this] { Moved(); };
@@ -27,9 +32,9 @@ void Scrolling::TakeLog() {
 
 void Scrolling::LocateSampleOnGraph() {
   blnIgnoreScroll_ = true;
-  for (auto* property :
-       {&controls_.hsbGraphScroll.Min, &controls_.hsbGraphScroll.Max, &controls_.hsbGraphScroll.LargeChange,
-        &controls_.hsbGraphScroll.SmallChange, &controls_.hsbGraphScroll.Value})
+  for (auto* property : {&controls_.hsbGraphScroll.Min, &controls_.hsbGraphScroll.Max,
+                         &controls_.hsbGraphScroll.LargeChange,
+                         &controls_.hsbGraphScroll.SmallChange, &controls_.hsbGraphScroll.Value})
     *property = 1;
   objGraphScrollLarge_.Min(1);
   objGraphScrollLarge_.Max(1);
@@ -80,8 +85,9 @@ void Scrolling::Disable() {
 
 Scrolling::Bar Scrolling::Read() const {
   if (blnLongScroll_)
-    return {objGraphScrollLarge_.Min(), objGraphScrollLarge_.Max(), objGraphScrollLarge_.SmallChange,
-            objGraphScrollLarge_.LargeChange, objGraphScrollLarge_.value()};
+    return {objGraphScrollLarge_.Min(), objGraphScrollLarge_.Max(),
+            objGraphScrollLarge_.SmallChange, objGraphScrollLarge_.LargeChange,
+            objGraphScrollLarge_.value()};
   const ScrollBar& bar = controls_.hsbGraphScroll;
   return {bar.Min, bar.Max, bar.SmallChange, bar.LargeChange, bar.Value};
 }
@@ -101,9 +107,11 @@ void Scrolling::Moved() {
   const std::int32_t half = RoundToLong(width / 2.0);
   // A thumb held while the graph was zoomed may be let go where the bar does not reach any more.
   const Bar bar = Read();
-  const std::int32_t middle = std::clamp(bar.value, std::min(bar.min, bar.max), std::max(bar.min, bar.max));
+  const std::int32_t middle =
+      std::clamp(bar.value, std::min(bar.min, bar.max), std::max(bar.min, bar.max));
   range_.SetFrom(log_.Sample(middle - half > 0 ? middle - half : 0));
-  range_.SetTo(log_.Sample(middle + half <= log_.glngLastSample ? middle + half : log_.glngLastSample));
+  range_.SetTo(
+      log_.Sample(middle + half <= log_.glngLastSample ? middle + half : log_.glngLastSample));
   if (range_.From() < log_.glngFirstSampleTime) {
     range_.SetFromToFirst();
     range_.SetTo(range_.From() + width);

@@ -12,7 +12,8 @@ namespace tarnview {
 /// From so many rows on (by the last store index) the long scroll bar serves.
 inline constexpr std::int32_t kLongScrollFrom = 32701;
 
-/// Moves the plot range along the log. The thumb of the bar is the middle of the range, as a store index.
+/// Moves the plot range along the log. The thumb of the bar is the middle of the range, as a store
+/// index.
 class Scrolling {
  public:
   struct Controls {
@@ -24,8 +25,8 @@ class Scrolling {
     virtual ~MainWindow() = default;
     virtual void DrawSampleGraph() = 0;
   };
-  Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
-            const OpenLog& log, MainWindow& mainWindow);
+  Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+            PlotRange& range, const OpenLog& log, MainWindow& mainWindow);
 
   /// A new log: which bar serves, and both at rest.
   void TakeLog();

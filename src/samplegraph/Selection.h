@@ -7,10 +7,16 @@ namespace tarnview {
 /// What is selected in the Sample Graph: a point of a curve, and the sample that it stands for.
 class Selection {
  public:
-  std::int32_t lngHighlightSample() const { return lngHighlightSample_; }  ///< `Sample` value; 0 for none
-  std::int32_t lngSelectedPoint() const { return lngSelectedPoint_; }      ///< row of the table, from 1; 0 for none
-  int intSelectedSeries() const { return intSelectedSeries_; }  ///< the chart's number, 2j + 1 for the item at place j
-  int intSelectedItem() const { return intSelectedItem_; }      ///< data item of that series
+  std::int32_t lngHighlightSample() const {
+    return lngHighlightSample_;
+  }  ///< `Sample` value; 0 for none
+  std::int32_t lngSelectedPoint() const {
+    return lngSelectedPoint_;
+  }  ///< row of the table, from 1; 0 for none
+  int intSelectedSeries() const {
+    return intSelectedSeries_;
+  }  ///< the chart's number, 2j + 1 for the item at place j
+  int intSelectedItem() const { return intSelectedItem_; }  ///< data item of that series
 
   void Select(int series, std::int32_t point, int item) {
     intSelectedSeries_ = series;

@@ -17,9 +17,13 @@ constexpr double kColumnRPM = 500;
 constexpr int kColumnName = 5;  ///< hundreds of RPM from one column to the next
 constexpr double kHalfColumn = 0.5;
 
-std::int64_t ColumnFor(double rpm) { return static_cast<std::int64_t>(std::floor(rpm / kColumnRPM)) * kColumnName; }
+std::int64_t ColumnFor(double rpm) {
+  return static_cast<std::int64_t>(std::floor(rpm / kColumnRPM)) * kColumnName;
+}
 
-std::string ZoneNameOf(std::int64_t row, std::int64_t column) { return std::to_string(row) + PaddedText(column, 2); }
+std::string ZoneNameOf(std::int64_t row, std::int64_t column) {
+  return std::to_string(row) + PaddedText(column, 2);
+}
 
 }  // namespace
 
@@ -35,7 +39,8 @@ ZoneInfluence FindZoneInfluence(double rpm, double kPa, bool sixRows) {
   found.upperHigh = ZoneNameOf(rows.upper, high);
   found.up = rows.up;
   // A zone's name is the lower end of its column: its middle lies half a column further on.
-  found.across = (limited / 100 - static_cast<double>(low)) / static_cast<double>(high - low) - kHalfColumn;
+  found.across =
+      (limited / 100 - static_cast<double>(low)) / static_cast<double>(high - low) - kHalfColumn;
   return found;
 }
 

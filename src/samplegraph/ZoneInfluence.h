@@ -10,8 +10,9 @@ struct ZoneInfluence {
   std::string lowerHigh;  ///< lower row, higher RPM
   std::string upperLow;
   std::string upperHigh;
-  double up = 0;      ///< from the lower row (0) to the upper (1); may lie just outside
-  double across = 0;  ///< from the middle of the zones at the lower RPM (0) to that at the higher (1)
+  double up = 0;  ///< from the lower row (0) to the upper (1); may lie just outside
+  double across =
+      0;  ///< from the middle of the zones at the lower RPM (0) to that at the higher (1)
 };
 
 /// `sixRows`: the map has six rows (normally aspirated), else rows of 40 kPa.

@@ -14,7 +14,8 @@ constexpr int kRing = 60;
 
 }  // namespace
 
-ZoneInfluencePanel::ZoneInfluencePanel(const Controls& controls, const Selection& selection, const OpenLog& log)
+ZoneInfluencePanel::ZoneInfluencePanel(const Controls& controls, const Selection& selection,
+                                       const OpenLog& log)
     : controls_(controls), selection_(selection), log_(log) {
   controls_.picZoneInfl.Resize = [this] { RefreshZoneInfluence(); };
 }
@@ -38,7 +39,8 @@ void ZoneInfluencePanel::RefreshZoneInfluence() {
 }
 
 void ZoneInfluencePanel::ShowSample(std::int32_t index) {
-  if (gblnDisplayZoneInfluence) PopulateZoneInfl(log_.glngDataLog(kRPM, index), log_.glngDataLog(kMAP, index));
+  if (gblnDisplayZoneInfluence)
+    PopulateZoneInfl(log_.glngDataLog(kRPM, index), log_.glngDataLog(kMAP, index));
 }
 
 void ZoneInfluencePanel::PopulateZoneInfl(std::int32_t lngRPM, std::int32_t lngMAPRaw) {
@@ -51,7 +53,8 @@ void ZoneInfluencePanel::PopulateZoneInfl(std::int32_t lngRPM, std::int32_t lngM
   const int width = controls_.picZoneInfl.Width(), height = controls_.picZoneInfl.Height();
   const int x = RoundToLong(found.across * (width - 2 * kRing) + kRing);
   const int y = RoundToLong(found.up * (height - 2 * kDot) + kDot);
-  controls_.picZoneInfl.Draw({{{0, y, width, y}, {x, 0, x, height}}, {{x, y, kDot, true}, {x, y, kRing, false}}});
+  controls_.picZoneInfl.Draw(
+      {{{0, y, width, y}, {x, 0, x, height}}, {{x, y, kDot, true}, {x, y, kRing, false}}});
 }
 
 }  // namespace tarnview

@@ -11,12 +11,14 @@
 
 namespace tarnview {
 
-/// The panel that names the four zones around the highlighted sample and shows where the sample lies among them.
+/// The panel that names the four zones around the highlighted sample and shows where the sample
+/// lies among them.
 class ZoneInfluencePanel {
  public:
   struct Controls {
     Frame& fraZoneInfl;
-    /// The lower row at the lower and the higher RPM, above the picture; then the upper row, below it, as in the grid.
+    /// The lower row at the lower and the higher RPM, above the picture; then the upper row, below
+    /// it, as in the grid.
     ControlArray<Label>& lblZoneInfl;
     Picture& picZoneInfl;
     MenuItem& mnuViewZoneInfl;

@@ -15,8 +15,8 @@ constexpr std::int64_t kNarrowestToZoom = 10;
 
 }  // namespace
 
-Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
-           const OpenLog& log, Messages& messages, MainWindow& mainWindow)
+Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
+           PlotRange& range, const OpenLog& log, Messages& messages, MainWindow& mainWindow)
     : controls_(controls),
       drawn_(drawn),
       selection_(selection),
@@ -37,9 +37,10 @@ void Zoom::SetAmount(int amount) { controls_.cboZoomAmount.Text = std::to_string
 
 std::int32_t Zoom::Centre() const {
   // The selected point's own number, one row further on than its sample: kept as it is.
-  const std::int32_t index = selection_.lngSelectedPoint() > 0
-                                 ? selection_.lngSelectedPoint() * drawn_.intThinStep + drawn_.lngPlotFirstIndex
-                                 : RoundToLong(drawn_.lngPlotFirstIndex + drawn_.Width() / 2.0);
+  const std::int32_t index =
+      selection_.lngSelectedPoint() > 0
+          ? selection_.lngSelectedPoint() * drawn_.intThinStep + drawn_.lngPlotFirstIndex
+          : RoundToLong(drawn_.lngPlotFirstIndex + drawn_.Width() / 2.0);
   return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
 }
 
@@ -83,13 +84,15 @@ void Zoom::ClampToLog() {
 void Zoom::ShortenForFullGraph() {
   if (controls_.chkQuickGraph.Value || range_.Span() <= kWidestFullRange) return;
   messages_.ShowMessage(Message::RangeShortened);
-  const std::int64_t inward = RoundToLong(static_cast<double>(range_.Span() - kWidestFullRange) / 2);
+  const std::int64_t inward =
+      RoundToLong(static_cast<double>(range_.Span() - kWidestFullRange) / 2);
   range_.SetTo(range_.To() - inward);
   range_.SetFrom(range_.From() + inward);
 }
 
 void Zoom::ShowPreviousGraph() {
-  if (drawn_.history.strPlotFromHistory[1].empty() || drawn_.history.strPlotToHistory[1].empty()) return;
+  if (drawn_.history.strPlotFromHistory[1].empty() || drawn_.history.strPlotToHistory[1].empty())
+    return;
   selection_.Forget();
   const std::string from = drawn_.history.strPlotFromHistory[1];
   const std::string to = drawn_.history.strPlotToHistory[1];

@@ -23,8 +23,8 @@ class Zoom {
     virtual void DrawSampleGraph() = 0;
     virtual void DrawGraphChecked() = 0;
   };
-  Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range, const OpenLog& log,
-       Messages& messages, MainWindow& mainWindow);
+  Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
+       const OpenLog& log, Messages& messages, MainWindow& mainWindow);
 
   bool CanZoomIn() const;
   bool CanZoomOut() const { return !range_.IsWholeLog(); }

@@ -14,7 +14,9 @@ constexpr int kLastRow = 99999;
 }  // namespace
 
 frmDataTags::frmDataTags(Host& itsHost, clsLogTags& logTags, MainWindow& mainWindow)
-    : Form(itsHost, "frmDataTags", "Tarnview Data Tags"), logTags_(logTags), mainWindow_(mainWindow) {
+    : Form(itsHost, "frmDataTags", "Tarnview Data Tags"),
+      logTags_(logTags),
+      mainWindow_(mainWindow) {
   CancelButton = &cmdClose;
   HelpTopic = "DataTags";
   cmdNew.Click = [this] { NewDataTag(); };

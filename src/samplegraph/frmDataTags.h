@@ -7,8 +7,8 @@
 
 namespace tarnview {
 
-/// The tags of a log. It stays while other logs are loaded, with a copy of its own, and what it does then changes that
-/// copy alone.
+/// The tags of a log. It stays while other logs are loaded, with a copy of its own, and what it
+/// does then changes that copy alone.
 class frmDataTags : public Form {
  public:
   /// What it needs of the main window.
@@ -33,8 +33,8 @@ class frmDataTags : public Form {
 
   /// Adds the range of the main window as a tag of the open log, whose tags are then on show.
   void NewDataTag();
-  /// Shows the tags of the open log, with the row `lngSelect` selected: the first if it is below 1, the last if it is
-  /// beyond the end.
+  /// Shows the tags of the open log, with the row `lngSelect` selected: the first if it is below 1,
+  /// the last if it is beyond the end.
   void PopulateList(int lngSelect);
   /// The open log is about to go: its tags stay on show.
   void LogIsClosing() { ofOpenLog_ = false; }

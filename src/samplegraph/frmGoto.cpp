@@ -24,8 +24,8 @@ frmGoto::frmGoto(Host& itsHost, const OpenLog& log, std::int32_t lngSample, bool
 }
 
 void frmGoto::ValidateSampleNumber() {
-  const std::int32_t sample =
-      std::clamp(StringToLong(txtSampleNumber.Text()), log_.glngFirstSampleTime, log_.glngLastSampleTime);
+  const std::int32_t sample = std::clamp(StringToLong(txtSampleNumber.Text()),
+                                         log_.glngFirstSampleTime, log_.glngLastSampleTime);
   txtSampleNumber.Text = std::to_string(sample);
   ShowTime(LocateSample(log_, sample, sample));
 }

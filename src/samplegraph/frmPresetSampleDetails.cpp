@@ -15,9 +15,12 @@ constexpr const char* kDefaultGraphMax = "250";
 
 }  // namespace
 
-frmPresetSampleDetails::frmPresetSampleDetails(Host& itsHost, const PresetSurroundings& surroundings,
+frmPresetSampleDetails::frmPresetSampleDetails(Host& itsHost,
+                                               const PresetSurroundings& surroundings,
                                                const clsSampleGraphPreset& ColItem)
-    : Form(itsHost, "frmPresetSampleDetails", "Preset Sample Graph Details"), around_(surroundings), preset_(ColItem) {
+    : Form(itsHost, "frmPresetSampleDetails", "Preset Sample Graph Details"),
+      around_(surroundings),
+      preset_(ColItem) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "PresetSampleGraphDetails";
@@ -34,7 +37,9 @@ void frmPresetSampleDetails::BindControls() {
     if (chkFixY.Value && StringToLong(txtYMax.Text()) == 0) txtYMax.Text = kDefaultGraphMax;
   };
   txtYMax.LostFocus = [this] { ApplyFixedGraphMax(); };
-  lvwDataItems.DblClick = [this](int row) { lvwDataItems.SetChecked(row, !lvwDataItems.At(row).checked); };
+  lvwDataItems.DblClick = [this](int row) {
+    lvwDataItems.SetChecked(row, !lvwDataItems.At(row).checked);
+  };
   cmdSave.Click = [this] { cmdSave_Click(); };
   cmdLoad.Click = [this] { exchange_.Load([this](std::string_view bytes) { LoadPreset(bytes); }); };
   cmdOK.Click = [this] {
@@ -60,7 +65,8 @@ void frmPresetSampleDetails::ListItems() {
   form.intMode = kPlottableItems;
   form.blnSeqColumn = true;
   form.lngLogFamily = Family();
-  SetUpSampleListView(lvwDataItems, checked_, form, around_.families, ItemsOfFamily(around_.catalogue, Family()));
+  SetUpSampleListView(lvwDataItems, checked_, form, around_.families,
+                      ItemsOfFamily(around_.catalogue, Family()));
 }
 
 void frmPresetSampleDetails::TickItems(const clsSampleGraphPreset& preset) {

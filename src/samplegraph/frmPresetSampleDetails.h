@@ -19,7 +19,8 @@ namespace tarnview {
 /// Edits one preset sample graph, and exchanges it with .sam files.
 class frmPresetSampleDetails : public Form {
  public:
-  frmPresetSampleDetails(Host& itsHost, const PresetSurroundings& surroundings, const clsSampleGraphPreset& ColItem);
+  frmPresetSampleDetails(Host& itsHost, const PresetSurroundings& surroundings,
+                         const clsSampleGraphPreset& ColItem);
 
   Label lblName{*this, "lblName", "&Name"};
   TextBox txtName{*this, "txtName"};

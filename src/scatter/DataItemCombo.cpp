@@ -33,7 +33,8 @@ void DataItemCombo::DataItemImageComboDefault() { combo_.SetListIndex(0); }
 
 void DataItemCombo::Choose(int item, Messages& messages, bool blnQuiet) {
   if (SearchImageComboForDataItem(item)) return;
-  if (!blnQuiet) messages.ShowMessage(Message::DataItemNotFound, false, "Data Item: " + std::to_string(item));
+  if (!blnQuiet)
+    messages.ShowMessage(Message::DataItemNotFound, false, "Data Item: " + std::to_string(item));
   DataItemImageComboDefault();
 }
 

@@ -30,7 +30,8 @@ PointStyleControls::PointStyleControls(const Controls& controls) : controls_(con
 
 PointStyle PointStyleControls::Style() const {
   // A size that was just typed and is none counts as the first, as it will once the caret leaves.
-  return {std::max(controls_.cboPointShape.ListIndex(), 0), std::max(controls_.cboPointSize.ListIndex(), 0) + 1,
+  return {std::max(controls_.cboPointShape.ListIndex(), 0),
+          std::max(controls_.cboPointSize.ListIndex(), 0) + 1,
           static_cast<std::int32_t>(controls_.picColour.BackColour())};
 }
 

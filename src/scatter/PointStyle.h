@@ -20,7 +20,8 @@ class PointStyleControls {
  public:
   struct Controls {
     ComboBox& cboPointShape;
-    ComboBox& cboPointSize;  ///< editable; a size outside the list becomes "1" when the caret leaves
+    ComboBox&
+        cboPointSize;  ///< editable; a size outside the list becomes "1" when the caret leaves
     Picture& picColour;
     CommandButton& cmdColourSelector;
   };

@@ -10,12 +10,14 @@
 namespace tarnview {
 namespace {
 
-constexpr const char* kWhatHelps = "Too many samples for a graph without a filter: add a filter, or choose Draw All";
+constexpr const char* kWhatHelps =
+    "Too many samples for a graph without a filter: add a filter, or choose Draw All";
 
 }  // namespace
 
-ScatterDrawing::ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log, const Settings& settings,
-                               StatusArea& status, Messages& messages, ErrorLog& errors)
+ScatterDrawing::ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log,
+                               const Settings& settings, StatusArea& status, Messages& messages,
+                               ErrorLog& errors)
     : window_(window),
       controls_(controls),
       log_(log),
@@ -51,7 +53,8 @@ bool ScatterDrawing::MayBuild(const ScatterRequest& request, bool blnQuiet) {
   if (!RangeOfFilters(log_, request.objFilters).tooWide) return true;
   bool drawAll = false;
   if (!blnQuiet)
-    messages_.ShowMessageWithOffer(Message::TooManyScatterSamples, "", "Draw &All", [&] { drawAll = true; });
+    messages_.ShowMessageWithOffer(Message::TooManyScatterSamples, "", "Draw &All",
+                                   [&] { drawAll = true; });
   if (drawAll) return true;
   status_.Say(kWhatHelps);
   controls_.lblEmptyPlace.Caption = std::string(kWhatHelps);
@@ -95,7 +98,8 @@ ChartDescription ScatterDrawing::Describe(const ScatterRequest& request) const {
   cloud.x = ValuesOf(log_, request.xItem, rows_);
   cloud.y = ValuesOf(log_, request.yItem, rows_);
   cloud.sample.resize(rows_.size());
-  std::transform(rows_.begin(), rows_.end(), cloud.sample.begin(), [&](std::int32_t row) { return log_.Sample(row); });
+  std::transform(rows_.begin(), rows_.end(), cloud.sample.begin(),
+                 [&](std::int32_t row) { return log_.Sample(row); });
   cloud.shape = static_cast<PointShape>(request.style.lngPointShape);
   cloud.size = request.style.lngPointSize;
   cloud.colour = request.style.lngPointColour;
@@ -112,7 +116,8 @@ void ScatterDrawing::Colour(PointCloud& cloud, const ScatterRequest& request) co
   cloud.tint.clear();
   if (request.tintItem == 0) return;
   cloud.tint = ValuesOf(log_, request.tintItem, rows_);
-  cloud.tintAxis = AutomaticAxis(cloud.tint, log_.gcolDataItems->Item(request.tintItem).strLongName);
+  cloud.tintAxis =
+      AutomaticAxis(cloud.tint, log_.gcolDataItems->Item(request.tintItem).strLongName);
 }
 
 void ScatterDrawing::Recolour(const ScatterRequest& request) {
@@ -126,7 +131,8 @@ void ScatterDrawing::Recolour(const ScatterRequest& request) {
 }
 
 void ScatterDrawing::TakeColourScheme() {
-  if (Drawn()) tarnview::TakeColourScheme(controls_.chScatterGraph, settings_.gintGraphColourScheme);
+  if (Drawn())
+    tarnview::TakeColourScheme(controls_.chScatterGraph, settings_.gintGraphColourScheme);
 }
 
 }  // namespace tarnview

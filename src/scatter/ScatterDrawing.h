@@ -27,7 +27,8 @@ struct ScatterRequest {
   clsScatterFilters objFilters;
 };
 
-/// Draws one item against another over the samples that pass the filters, and remembers what it drew.
+/// Draws one item against another over the samples that pass the filters, and remembers what it
+/// drew.
 class ScatterDrawing {
  public:
   struct Controls {
@@ -36,11 +37,12 @@ class ScatterDrawing {
     Label& lblEmptyPlace;  ///< what to do while there is no graph
     Frame& fraSampleDetails;
   };
-  ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log, const Settings& settings,
-                 StatusArea& status, Messages& messages, ErrorLog& errors);
+  ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log,
+                 const Settings& settings, StatusArea& status, Messages& messages,
+                 ErrorLog& errors);
 
-  /// Draws anew; what was drawn before is gone in any case. Message 3, which offers to draw them all, for too many
-  /// samples without a filter and 46 for none at all, unless `blnQuiet`.
+  /// Draws anew; what was drawn before is gone in any case. Message 3, which offers to draw them
+  /// all, for too many samples without a filter and 46 for none at all, unless `blnQuiet`.
   void DrawScatter(const ScatterRequest& request, bool blnQuiet);
   /// Gives the graph on show the request's colouring and nothing else of it.
   void Recolour(const ScatterRequest& request);
@@ -57,7 +59,9 @@ class ScatterDrawing {
   /// The points with their `Sample` values.
   const PointCloud& dblScatterData() const { return *controls_.chScatterGraph.Data().Cloud(); }
   /// The store index of a point, from 1; -1 where the log is another by now.
-  std::int32_t IndexOfPoint(int point) const { return OfOpenLog() ? rows_[static_cast<std::size_t>(point - 1)] : -1; }
+  std::int32_t IndexOfPoint(int point) const {
+    return OfOpenLog() ? rows_[static_cast<std::size_t>(point - 1)] : -1;
+  }
   /// The log's path.
   const std::string& strGraphedFile() const { return strGraphedFile_; }
   /// The filters as texts.

@@ -11,19 +11,23 @@ namespace {
 
 constexpr int kProgressUpdates = 200;
 
-/// An axis on "Sample" stands beside it all the same: only the list leaves out what is there already.
+/// An axis on "Sample" stands beside it all the same: only the list leaves out what is there
+/// already.
 std::vector<int> Columns(const PointCloud& points, const std::vector<int>& listed) {
   std::vector<int> columns{ItemOf(kSample), points.xItem, points.yItem};
-  std::copy_if(listed.begin(), listed.end(), std::back_inserter(columns),
-               [&](int item) { return item != ItemOf(kSample) && item != points.xItem && item != points.yItem; });
+  std::copy_if(listed.begin(), listed.end(), std::back_inserter(columns), [&](int item) {
+    return item != ItemOf(kSample) && item != points.xItem && item != points.yItem;
+  });
   return columns;
 }
 
 }  // namespace
 
-void ExportScatterGraph(const std::string& strFile, const ScatterDrawing& graph, const std::vector<int>& listed,
-                        const OpenLog& log, const std::string& fileType, FileSystem& files, StatusArea& status) {
-  std::string out = ExportHead("TARNVIEW SCATTER GRAPH EXPORT FILE", graph.strGraphedFile(), fileType);
+void ExportScatterGraph(const std::string& strFile, const ScatterDrawing& graph,
+                        const std::vector<int>& listed, const OpenLog& log,
+                        const std::string& fileType, FileSystem& files, StatusArea& status) {
+  std::string out =
+      ExportHead("TARNVIEW SCATTER GRAPH EXPORT FILE", graph.strGraphedFile(), fileType);
   out += kExportLineEnd + std::string("Filters:") + kExportLineEnd;
   for (const std::string& filter : graph.Filters()) out += filter + kExportLineEnd;
   out += kExportLineEnd;
@@ -35,7 +39,8 @@ void ExportScatterGraph(const std::string& strFile, const ScatterDrawing& graph,
   status.ShowProgressInStatusBar(count);
   for (int j = 0; j < count; ++j) {
     const std::int32_t index = graph.IndexOfPoint(j + 1);
-    if (j % interval == 0) status.Progress("Exporting sample " + std::to_string(log.Sample(index)), j);
+    if (j % interval == 0)
+      status.Progress("Exporting sample " + std::to_string(log.Sample(index)), j);
     out.append(cells.Line(index)).append(kExportLineEnd);
   }
   WriteExport(files, strFile, out);

@@ -41,7 +41,8 @@ void ScatterFilterList::AddFilter(const clsScatterFilter& objFilter) {
 
 void ScatterFilterList::PopulateFiltersListView(int selectRow) {
   std::vector<ListView::Row> rows;
-  for (const clsScatterFilter& filter : filters_) rows.push_back(RowOf(filter, static_cast<int>(rows.size()) + 1));
+  for (const clsScatterFilter& filter : filters_)
+    rows.push_back(RowOf(filter, static_cast<int>(rows.size()) + 1));
   controls_.lvwFilters.SetRows(std::move(rows));
   controls_.lvwFilters.Select(selectRow);
 }

@@ -11,10 +11,12 @@
 namespace tarnview {
 
 /// The columns of a list of filters.
-inline std::vector<ListView::Column> FilterColumns() { return {{"Item"}, {"From", true}, {"To", true}}; }
+inline std::vector<ListView::Column> FilterColumns() {
+  return {{"Item"}, {"From", true}, {"To", true}};
+}
 
-/// The filters of a scatter graph with the list that shows them and the buttons that change them. The log family says
-/// of which items filters can be.
+/// The filters of a scatter graph with the list that shows them and the buttons that change them.
+/// The log family says of which items filters can be.
 class ScatterFilterList {
  public:
   struct Controls {
@@ -30,7 +32,8 @@ class ScatterFilterList {
   };
   ScatterFilterList(const Controls& controls, const Surroundings& surroundings);
 
-  /// Other items: the rows are written anew, and filters on what is not displayed any more are dropped.
+  /// Other items: the rows are written anew, and filters on what is not displayed any more are
+  /// dropped.
   void SetLogFamily(int lngLogFamily);
 
   const clsScatterFilters& objFilters() const { return filters_; }

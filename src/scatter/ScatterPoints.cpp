@@ -28,8 +28,8 @@ struct StoredRange {
   bool Holds(std::int32_t stored) const { return stored >= first && stored - first < count; }
 };
 
-/// The least stored integer for which `reached` holds, one past the greatest where it never does; `reached` must stay
-/// true once it is.
+/// The least stored integer for which `reached` holds, one past the greatest where it never does;
+/// `reached` must stay true once it is.
 template <class Reached>
 std::int64_t FirstStored(const Reached& reached) {
   using Limits = std::numeric_limits<std::int32_t>;
@@ -44,14 +44,15 @@ std::int64_t FirstStored(const Reached& reached) {
   return low;
 }
 
-/// A value only ever grows, or only ever shrinks, with its stored integer, so bounds on the value are bounds on the
-/// integer: found by the value's own arithmetic, they leave one whole-number test for each sample.
+/// A value only ever grows, or only ever shrinks, with its stored integer, so bounds on the value
+/// are bounds on the integer: found by the value's own arithmetic, they leave one whole-number test
+/// for each sample.
 StoredRange StoredRangeOf(const clsScatterFilter& filter, const clsLogDataItem& item) {
   const bool list = item.intType == kListItem;
   constexpr double kEndless = std::numeric_limits<double>::infinity();
   const double from = !list && filter.dblFrom == kBoundNotSet ? -kEndless : filter.dblFrom;
   // With neither bound set nothing passes: the value is held against the mark of an unset bound.
-  const double to = list                                                             ? filter.dblFrom
+  const double to = list ? filter.dblFrom
                     : filter.dblTo == kBoundNotSet && filter.dblFrom != kBoundNotSet ? kEndless
                                                                                      : filter.dblTo;
   const auto value = [&](std::int32_t stored) { return item.GetRawData(stored); };
@@ -88,7 +89,8 @@ class ColumnTest {
 };
 
 /// Makes the tests; false where no sample can pass.
-bool MakeTests(const OpenLog& log, const clsScatterFilters& filters, std::vector<ColumnTest>& tests) {
+bool MakeTests(const OpenLog& log, const clsScatterFilters& filters,
+               std::vector<ColumnTest>& tests) {
   for (const clsScatterFilter& filter : filters) {
     if (IsOnSample(filter)) continue;
     const int item = filter.lngDataItemSeq;
@@ -142,12 +144,14 @@ ScatterRange RangeOfFilters(const OpenLog& log, const clsScatterFilters& filters
   return range;
 }
 
-std::vector<std::int32_t> PassingRows(const OpenLog& log, const ScatterRange& range, const clsScatterFilters& filters,
+std::vector<std::int32_t> PassingRows(const OpenLog& log, const ScatterRange& range,
+                                      const clsScatterFilters& filters,
                                       const std::function<void(std::int32_t)>& examining) {
   std::vector<ColumnTest> tests;
   const std::int32_t first = RowOf(log, range.from), last = RowOf(log, range.to);
   if (last < first || !MakeTests(log, filters, tests)) return {};
-  std::vector<std::int32_t> rows(static_cast<std::size_t>(last - first + 1) + 1);  // the last place is only ever tried
+  std::vector<std::int32_t> rows(static_cast<std::size_t>(last - first + 1) +
+                                 1);  // the last place is only ever tried
   std::int32_t* end = rows.data();
   const std::int32_t interval = std::max((last - first) / kReports, 1);
   for (std::int32_t row = first; row <= last; row += interval) {
@@ -163,8 +167,9 @@ std::vector<double> ValuesOf(const OpenLog& log, int item, const std::vector<std
   const auto cells = log.glngDataLog.Column(item - 1);
   std::vector<double> values(rows.size(), it.GetRawData(0));
   if (cells.empty()) return values;
-  std::transform(rows.begin(), rows.end(), values.begin(),
-                 [&](std::int32_t row) { return it.GetRawData(cells[static_cast<std::size_t>(row)]); });
+  std::transform(rows.begin(), rows.end(), values.begin(), [&](std::int32_t row) {
+    return it.GetRawData(cells[static_cast<std::size_t>(row)]);
+  });
   return values;
 }
 

@@ -19,9 +19,10 @@ struct ScatterRange {
 /// The range of a log that the filters on "Sample" leave. A log must be open.
 ScatterRange RangeOfFilters(const OpenLog& log, const clsScatterFilters& filters);
 
-/// Store rows, in order, of the samples in the range that pass every filter but those on "Sample". `examining(row)` is
-/// called about 30 times.
-std::vector<std::int32_t> PassingRows(const OpenLog& log, const ScatterRange& range, const clsScatterFilters& filters,
+/// Store rows, in order, of the samples in the range that pass every filter but those on "Sample".
+/// `examining(row)` is called about 30 times.
+std::vector<std::int32_t> PassingRows(const OpenLog& log, const ScatterRange& range,
+                                      const clsScatterFilters& filters,
                                       const std::function<void(std::int32_t row)>& examining);
 
 /// The values of an item (intSeq) in those rows.

@@ -16,7 +16,8 @@ struct Span {
   double low = std::numeric_limits<double>::max(), high = std::numeric_limits<double>::lowest();
 };
 
-/// So far out there is no room for an axis about the value; no number and the endless lie there too.
+/// So far out there is no room for an axis about the value; no number and the endless lie there
+/// too.
 constexpr double kBeyond = 1e300;
 /// Of what is smaller, a double has not digits enough to tell steps apart.
 constexpr double kAsZero = 1e-100, kAsEqual = 1e-12;
@@ -55,10 +56,14 @@ double RoundStep(double wanted) {
 ChartAxis AutomaticAxis(const std::vector<double>& values, std::string title) {
   const Span span = SpanOf(values);
   const double step = RoundStep(Tenth(span));
-  const double first = std::floor(span.low / step + kSlack), last = std::ceil(span.high / step - kSlack);
-  const int places = std::clamp(static_cast<int>(std::ceil(-std::log10(step) - kSlack)), 0, kMostPlaces);
-  const std::string fraction = places == 0 ? "" : "." + std::string(static_cast<std::size_t>(places), '0');
-  return {first * step, last * step, static_cast<int>(last - first), "#######0" + fraction, std::move(title)};
+  const double first = std::floor(span.low / step + kSlack),
+               last = std::ceil(span.high / step - kSlack);
+  const int places =
+      std::clamp(static_cast<int>(std::ceil(-std::log10(step) - kSlack)), 0, kMostPlaces);
+  const std::string fraction =
+      places == 0 ? "" : "." + std::string(static_cast<std::size_t>(places), '0');
+  return {first * step, last * step, static_cast<int>(last - first), "#######0" + fraction,
+          std::move(title)};
 }
 
 }  // namespace tarnview

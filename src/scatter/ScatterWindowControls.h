@@ -18,7 +18,8 @@ namespace tarnview {
 /// The controls of a scatter window, in reading order. No behaviour: that is frmScatterGraph's.
 class ScatterWindowControls : public Form {
  public:
-  explicit ScatterWindowControls(Host& itsHost) : Form(itsHost, "frmScatterGraph", "Tarnview Scatter Graph") {}
+  explicit ScatterWindowControls(Host& itsHost)
+      : Form(itsHost, "frmScatterGraph", "Tarnview Scatter Graph") {}
 
   // Left column: what is drawn, how, and from which samples.
   Label lblXAxis{*this, "lblXAxis", "&X Axis"};

@@ -5,7 +5,8 @@
 
 namespace tarnview {
 
-frmPresetScatterDetails::frmPresetScatterDetails(Host& itsHost, const PresetSurroundings& surroundings,
+frmPresetScatterDetails::frmPresetScatterDetails(Host& itsHost,
+                                                 const PresetSurroundings& surroundings,
                                                  const clsScatterGraphPreset& ColItem)
     : Form(itsHost, "frmPresetScatterDetails", "Preset Scatter Graph Details"),
       around_(surroundings),

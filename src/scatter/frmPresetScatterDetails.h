@@ -23,7 +23,8 @@ namespace tarnview {
 /// Edits one preset scatter graph, and exchanges it with .sca files.
 class frmPresetScatterDetails : public Form {
  public:
-  frmPresetScatterDetails(Host& itsHost, const PresetSurroundings& surroundings, const clsScatterGraphPreset& ColItem);
+  frmPresetScatterDetails(Host& itsHost, const PresetSurroundings& surroundings,
+                          const clsScatterGraphPreset& ColItem);
 
   Label lblName{*this, "lblName", "&Name"};
   TextBox txtName{*this, "txtName"};

@@ -9,12 +9,16 @@
 namespace tarnview {
 namespace {
 
-double BoundIn(const ComboBox& box) { return box.Text->empty() ? kBoundNotSet : StringToDouble(box.Text()); }
+double BoundIn(const ComboBox& box) {
+  return box.Text->empty() ? kBoundNotSet : StringToDouble(box.Text());
+}
 
 }  // namespace
 
 frmScatterFilter::frmScatterFilter(Host& itsHost, const Catalogue& catalogue, Messages& messages)
-    : Form(itsHost, "frmScatterFilter", "Scatter Graph Filter"), catalogue_(catalogue), messages_(messages) {
+    : Form(itsHost, "frmScatterFilter", "Scatter Graph Filter"),
+      catalogue_(catalogue),
+      messages_(messages) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "ScatterFilter";
@@ -31,7 +35,8 @@ const clsLogDataItem* frmScatterFilter::Item() const {
 
 bool frmScatterFilter::IsList() const { return Item() && Item()->intType == kListItem; }
 
-void frmScatterFilter::SetScatterFilter(const clsScatterFilter& objFilter, int lngLogFamily, bool blnQuiet) {
+void frmScatterFilter::SetScatterFilter(const clsScatterFilter& objFilter, int lngLogFamily,
+                                        bool blnQuiet) {
   family_ = lngLogFamily;
   items_.SetItems(FilterItems(catalogue_, family_));
   items_.Choose(objFilter.lngDataItemSeq, messages_, blnQuiet);
@@ -68,8 +73,9 @@ bool frmScatterFilter::Recognise(ComboBox& box) {
   }
   if (&box == &cboTo || box.ListIndex() >= 0) return true;
   const auto& entries = box.Entries();
-  const auto found = std::find_if(entries.begin(), entries.end(),
-                                  [&](const std::string& entry) { return SameIgnoringCase(entry, box.Text()); });
+  const auto found = std::find_if(entries.begin(), entries.end(), [&](const std::string& entry) {
+    return SameIgnoringCase(entry, box.Text());
+  });
   if (found == entries.end()) return false;
   box.SetListIndex(static_cast<int>(found - entries.begin()));
   return true;
@@ -94,7 +100,8 @@ void frmScatterFilter::cmdOK_Click() {
   const clsScatterFilter filter = FilterInWindow();
   const bool hasFrom = filter.dblFrom != kBoundNotSet, hasTo = filter.dblTo != kBoundNotSet;
   if (!hasFrom && !hasTo) return messages_.ShowMessage(Message::NoFilterCriteria);
-  if (hasFrom && hasTo && filter.dblFrom > filter.dblTo) return messages_.ShowMessage(Message::FromAboveTo);
+  if (hasFrom && hasTo && filter.dblFrom > filter.dblTo)
+    return messages_.ShowMessage(Message::FromAboveTo);
   filter_ = filter;
   Accept();
 }

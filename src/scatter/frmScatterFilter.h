@@ -25,8 +25,8 @@ class frmScatterFilter : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// Offers the items of a log family and shows the filter; one on an item that is not offered takes the first, of
-  /// which the user is told unless `blnQuiet`.
+  /// Offers the items of a log family and shows the filter; one on an item that is not offered
+  /// takes the first, of which the user is told unless `blnQuiet`.
   void SetScatterFilter(const clsScatterFilter& objFilter, int lngLogFamily, bool blnQuiet);
   /// What was accepted.
   const clsScatterFilter& GetScatterFilter() const { return filter_; }

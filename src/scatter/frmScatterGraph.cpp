@@ -8,20 +8,23 @@ namespace {
 
 /// To be seen on all three backdrops.
 constexpr PointStyle kFirstStyle{0, 4, 0xC06000};
-/// Between two windows that open on each other, so that the caption of the lower one shows; in twips, 24 pixels.
+/// Between two windows that open on each other, so that the caption of the lower one shows; in
+/// twips, 24 pixels.
 constexpr int kCascadeStep = 360;
 
 }  // namespace
 
-frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings, MainWindow& mainWindow)
+frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings,
+                                 MainWindow& mainWindow)
     : ScatterWindowControls(itsHost),
       around_(surroundings),
       mainWindow_(mainWindow),
       style_({cboPointShape, cboPointSize, picColour, cmdColourSelector}),
-      filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete}, {around_.catalogue, around_.messages}),
+      filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete},
+               {around_.catalogue, around_.messages}),
       presets_(lvwPresets, around_.presets, around_.kinds.gcolLogFamilies),
-      drawing_(*this, {chScatterGraph, fraPicture, lblEmptyPlace, fraSampleDetails}, around_.log, around_.settings,
-               status_, around_.messages, around_.errors),
+      drawing_(*this, {chScatterGraph, fraPicture, lblEmptyPlace, fraSampleDetails}, around_.log,
+               around_.settings, status_, around_.messages, around_.errors),
       output_(itsHost, around_.messages, around_.errors),
       commands_(around_.errors, "frmScatterGraph") {
   HelpTopic = "ScatterGraph";
@@ -52,6 +55,7 @@ std::vector<Command> frmScatterGraph::CommandRows() {
   const auto copy = [this] { output_.Copy(chScatterGraph); };
   const auto print = [this] { output_.Print(chScatterGraph, DetailsForPrint()); };
   return {
+      // clang-format off
       {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawScatter(false); },
        [this] { return around_.log.gblnSamplesLoaded; }},
       {&cmdShowPoint, "cmdShowPoint_Click", [this] { cmdShowPoint_Click(); }, drawn},
@@ -77,6 +81,7 @@ std::vector<Command> frmScatterGraph::CommandRows() {
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
       {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
       {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
+      // clang-format on
   };
 }
 
@@ -109,7 +114,8 @@ void frmScatterGraph::ShowBackgroundPicture() {
   const bool there = around_.files.IsFile(picture);
   fraPicture.BackgroundPicture = there ? picture : std::string();
   const bool quiet = initialPreset_ > 0;
-  if (!quiet && !picture.empty() && !there) around_.messages.ShowMessage(Message::BackgroundPictureNotFound);
+  if (!quiet && !picture.empty() && !there)
+    around_.messages.ShowMessage(Message::BackgroundPictureNotFound);
 }
 
 void frmScatterGraph::Form_Unload() {
@@ -121,7 +127,8 @@ void frmScatterGraph::Form_Unload() {
 
 /// Before a first log, items are those of the file type that the user opens most.
 int frmScatterGraph::FileType() const {
-  return around_.log.gintCurrentFileType > 0 ? around_.log.gintCurrentFileType : around_.settings.gintDefaultFileType;
+  return around_.log.gintCurrentFileType > 0 ? around_.log.gintCurrentFileType
+                                             : around_.settings.gintDefaultFileType;
 }
 
 void frmScatterGraph::SetCaption() {
@@ -208,7 +215,8 @@ void frmScatterGraph::PopulateSampleListViewFromSample(std::int32_t index) {
 }
 
 void frmScatterGraph::cmdShowPoint_Click() {
-  if (lngShowPointSample_ > 0 && around_.log.gblnSamplesLoaded) mainWindow_.ShowPoint(lngShowPointSample_);
+  if (lngShowPointSample_ > 0 && around_.log.gblnSamplesLoaded)
+    mainWindow_.ShowPoint(lngShowPointSample_);
 }
 
 void frmScatterGraph::ShowSampleDetails(bool show) {

@@ -25,8 +25,8 @@
 
 namespace tarnview {
 
-/// Plots one data item against another for the samples that pass its filters. Several may be open at once, each with
-/// its own filters and its own copy of what it drew.
+/// Plots one data item against another for the samples that pass its filters. Several may be open
+/// at once, each with its own filters and its own copy of what it drew.
 class frmScatterGraph : public ScatterWindowControls {
  public:
   /// What it asks of the program.
@@ -49,14 +49,16 @@ class frmScatterGraph : public ScatterWindowControls {
     virtual std::optional<clsScatterFilter> RangeFilter() const = 0;
     /// Data items of the rows of the list beside the Sample Graph.
     virtual std::vector<int> ListedItems() const = 0;
-    /// A preset has changed: every scatter window lists them again. `added`: the settings are written too.
+    /// A preset has changed: every scatter window lists them again. `added`: the settings are
+    /// written too.
     virtual void ScatterPresetsChanged(bool added) = 0;
     virtual void ScatterGraphClosed(int ID) = 0;
   };
   frmScatterGraph(Host& itsHost, const Surroundings& surroundings, MainWindow& mainWindow);
 
-  int ID = 0;       ///< its number among the open scatter windows
-  int Cascade = 0;  ///< how many it opens on top of: each stands a little further down than the last
+  int ID = 0;  ///< its number among the open scatter windows
+  int Cascade =
+      0;  ///< how many it opens on top of: each stands a little further down than the last
 
   /// Before it is shown: the preset (by its place) that it opens with.
   void InitialPresetGraph(int preset) { initialPreset_ = preset; }
@@ -69,7 +71,8 @@ class frmScatterGraph : public ScatterWindowControls {
   void LogIsClosing();
   /// Another log is open: items, filters, presets and details follow it.
   void RefreshDataItems();
-  /// Settings or data items have changed: the colours of the graph, the picture and the lists follow.
+  /// Settings or data items have changed: the colours of the graph, the picture and the lists
+  /// follow.
   void OptionsChanged();
   /// Lists the presets of the log's family; the selected one stays selected, or the last is.
   void PopulatePresets(bool selectLast = false);

@@ -61,8 +61,8 @@ void frmScatterGraph::mnuFileExport_Click() {
 
 void frmScatterGraph::ExportGraph(const std::string& strFile) {
   const auto& type = around_.kinds.gcolFileTypes.Item(around_.log.gintCurrentFileType);
-  ExportScatterGraph(strFile, drawing_, mainWindow_.ListedItems(), around_.log, type.strDescription, around_.files,
-                     status_);
+  ExportScatterGraph(strFile, drawing_, mainWindow_.ListedItems(), around_.log, type.strDescription,
+                     around_.files, status_);
 }
 
 PrintDetails frmScatterGraph::DetailsForPrint() const {

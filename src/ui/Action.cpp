@@ -16,7 +16,8 @@ template <class T>
 T WholeWord(const std::string& word, const char* kind) {
   T number{};
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (error != std::errc() || end != word.data() + word.size()) throw CannotDo("\"" + word + "\" is no " + kind);
+  if (error != std::errc() || end != word.data() + word.size())
+    throw CannotDo("\"" + word + "\" is no " + kind);
   return number;
 }
 

@@ -19,7 +19,8 @@ struct Action {
   double Decimal(std::size_t n) const;
 };
 
-/// An action that this control, in this state, does not allow: no such row, a disabled button, a wrong verb.
+/// An action that this control, in this state, does not allow: no such row, a disabled button, a
+/// wrong verb.
 class CannotDo : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

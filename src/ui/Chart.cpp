@@ -44,10 +44,14 @@ void Chart::Perform(const Action& action) {
     const char* verb;
     std::function<void()> run;
   } kGestures[] = {
-      {"popup", [&] { RightClick(); }},    {"point", [&] { PerformPoint(action); }},
-      {"double", [&] { DblClick(); }},     {"wheel", [&] { Wheel(x(0), x(1)); }},
-      {"band", [&] { Band(x(0), x(1)); }}, {"pan", [&] { Pan(x(0), x(1)); }},
-      {"turn", [&] { Turn(x(0), x(1)); }}, {"hover", [&] { action.words.empty() ? HoverEnd() : Hover(x(0)); }},
+      {"popup", [&] { RightClick(); }},
+      {"point", [&] { PerformPoint(action); }},
+      {"double", [&] { DblClick(); }},
+      {"wheel", [&] { Wheel(x(0), x(1)); }},
+      {"band", [&] { Band(x(0), x(1)); }},
+      {"pan", [&] { Pan(x(0), x(1)); }},
+      {"turn", [&] { Turn(x(0), x(1)); }},
+      {"hover", [&] { action.words.empty() ? HoverEnd() : Hover(x(0)); }},
   };
   for (const auto& row : kGestures)
     if (action.verb == row.verb) return row.run();
@@ -59,14 +63,16 @@ void Chart::PerformPoint(const Action& action) {
   const int point = action.Number(1);
   const std::size_t points = PointsOf(series);
   if (points == 0) throw CannotDo(FullName() + " has no such series");
-  if (point < 1 || static_cast<std::size_t>(point) > points) throw CannotDo(FullName() + " has no such point");
+  if (point < 1 || static_cast<std::size_t>(point) > points)
+    throw CannotDo(FullName() + " has no such point");
   SelectPoint(series, point);
 }
 
 std::size_t Chart::PointsOf(int series) const {
   if (series < 1) return 0;
   const auto number = static_cast<std::size_t>(series);
-  if (const Surface* surface = data_.AsSurface()) return number <= surface->rows.size() ? surface->columns.size() : 0;
+  if (const Surface* surface = data_.AsSurface())
+    return number <= surface->rows.size() ? surface->columns.size() : 0;
   if (const PointCloud* cloud = data_.Cloud()) return number == 1 ? cloud->x.size() : 0;
   const std::size_t place = (number - 1) / 2;
   return number % 2 == 1 && place < data_.Series().size() ? data_.Series()[place].x.size() : 0;

@@ -7,9 +7,9 @@
 
 namespace tarnview {
 
-/// The control that shows a chart. Series are numbered from 1 in pairs, an X and a Y column each, so that the curve
-/// at place j (from 0) of the description is series 2j + 1; points are numbered from 1. The points of a cloud are
-/// series 1. Of a surface, series and point are row and column.
+/// The control that shows a chart. Series are numbered from 1 in pairs, an X and a Y column each,
+/// so that the curve at place j (from 0) of the description is series 2j + 1; points are numbered
+/// from 1. The points of a cloud are series 1. Of a surface, series and point are row and column.
 class Chart : public Control {
  public:
   Chart(Form& owner, std::string itsName) : Control(owner, std::move(itsName)) {}

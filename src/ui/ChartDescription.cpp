@@ -17,9 +17,10 @@ Object DescribeKind(const Curves& curves, const ChartDescription& chart) {
                                {"width", one.pen.width / 10}});
   Object y{{"max", chart.y.max}, {"divisions", chart.y.divisions}};
   if (chart.y.min < 0) y.emplace_back("min", chart.y.min);
-  return {{"series", std::move(series)},
-          {"x_axis", Object{{"min", chart.x.min}, {"max", chart.x.max}, {"format", chart.x.format}}},
-          {"y_axis", std::move(y)}};
+  return {
+      {"series", std::move(series)},
+      {"x_axis", Object{{"min", chart.x.min}, {"max", chart.x.max}, {"format", chart.x.format}}},
+      {"y_axis", std::move(y)}};
 }
 
 Object DescribeKind(const PointCloud& cloud, const ChartDescription&) {
@@ -49,8 +50,9 @@ Object DescribeKind(const Surface& surface, const ChartDescription&) {
           {"columns", MakeList(surface.columns)},
           {"values", std::move(values)},
           {"locked", std::move(locked)},
-          {"height_axis",
-           Object{{"min", surface.height.min}, {"max", surface.height.max}, {"divisions", surface.height.divisions}}}};
+          {"height_axis", Object{{"min", surface.height.min},
+                                 {"max", surface.height.max},
+                                 {"divisions", surface.height.divisions}}}};
 }
 
 }  // namespace
@@ -64,7 +66,8 @@ const std::vector<ChartSeries>& ChartDescription::Series() const {
 Object Describe(const ChartDescription& chart) {
   Object facts = chart.facts;
   Object more = std::visit([&](const auto& kind) { return DescribeKind(kind, chart); }, chart.kind);
-  facts.insert(facts.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+  facts.insert(facts.end(), std::make_move_iterator(more.begin()),
+               std::make_move_iterator(more.end()));
   return facts;
 }
 

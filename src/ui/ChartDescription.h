@@ -11,7 +11,8 @@
 
 namespace tarnview {
 
-/// A line: style 1 is solid, 2 dotted, anything else dashed; width in tenths of an item's line width (10 to 50).
+/// A line: style 1 is solid, 2 dotted, anything else dashed; width in tenths of an item's line
+/// width (10 to 50).
 struct Pen {
   Colour colour = 0;
   int style = 1;
@@ -34,9 +35,21 @@ struct Curves {
 };
 
 /// The mark of a point, in the order and with the numbers that presets keep.
-enum class PointShape : int { Ball, Circle, Dash, Diamond, DownTriangle, Plus, Square, Star, UpTriangle, Cross };
+enum class PointShape : int {
+  Ball,
+  Circle,
+  Dash,
+  Diamond,
+  DownTriangle,
+  Plus,
+  Square,
+  Star,
+  UpTriangle,
+  Cross
+};
 
-/// One item against another: a mark for each sample and no lines. All lists are as long as `x`, or empty.
+/// One item against another: a mark for each sample and no lines. All lists are as long as `x`, or
+/// empty.
 struct PointCloud {
   int xItem = 0;  ///< data item
   int yItem = 0;
@@ -46,9 +59,10 @@ struct PointCloud {
   PointShape shape = PointShape::Ball;
   int size = 1;  ///< 1 to 10
   Colour colour = 0;
-  std::vector<double> tint;  ///< a third item that gives the points their colours; empty: all bear `colour`
-  ChartAxis tintAxis;        ///< of the colour bar, where there is `tint`
-  bool density = false;      ///< without `tint`: marks that fall together are shaded by their number
+  std::vector<double>
+      tint;  ///< a third item that gives the points their colours; empty: all bear `colour`
+  ChartAxis tintAxis;    ///< of the colour bar, where there is `tint`
+  bool density = false;  ///< without `tint`: marks that fall together are shaded by their number
 };
 
 /// The colours of a chart: what lies behind it, its lines and texts, its grid.
@@ -59,13 +73,15 @@ struct ChartColours {
   Colour grid = 0x000000;
 };
 
-/// A chart in plain numbers: rooms fill it in, the toolkit draws it, on screen, on paper and into files alike.
+/// A chart in plain numbers: rooms fill it in, the toolkit draws it, on screen, on paper and into
+/// files alike.
 struct ChartDescription {
   std::variant<Curves, PointCloud, Surface> kind;
   ChartAxis x;  ///< a surface has axes of its own
   ChartAxis y;
   ChartColours colours;
-  /// What else the drawer knows about the picture (range, step, rows): told with the chart, not drawn.
+  /// What else the drawer knows about the picture (range, step, rows): told with the chart, not
+  /// drawn.
   Object facts;
 
   /// Null, or no series, for a chart of another kind.

@@ -7,7 +7,9 @@ namespace tarnview {
 class CheckBox : public Control {
  public:
   CheckBox(Form& owner, std::string itsName, std::string caption, int itsIndex = -1)
-      : Control(owner, std::move(itsName), itsIndex), Caption(Shown(std::move(caption))), Value(false, [this] {
+      : Control(owner, std::move(itsName), itsIndex),
+        Caption(Shown(std::move(caption))),
+        Value(false, [this] {
           Changed(What::Content);
           Click();
         }) {}

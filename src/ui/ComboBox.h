@@ -18,7 +18,8 @@ class ComboBox : public Control {
 
   void SetList(std::vector<std::string> entries);
   const std::vector<std::string>& Entries() const { return entries_; }
-  /// From 0; -1 when Text is none of the entries. Of equal entries the one that was chosen, else the first.
+  /// From 0; -1 when Text is none of the entries. Of equal entries the one that was chosen, else
+  /// the first.
   int ListIndex() const;
   /// Chooses an entry; an index outside the list empties Text.
   void SetListIndex(int entry);

@@ -16,7 +16,9 @@ Control::Control(Form& owner, std::string itsName, int itsIndex)
 
 Control::~Control() { form.Remove(*this); }
 
-std::string Control::FullName() const { return index < 0 ? name : name + "(" + std::to_string(index) + ")"; }
+std::string Control::FullName() const {
+  return index < 0 ? name : name + "(" + std::to_string(index) + ")";
+}
 
 Object Control::Facts() const {
   Object facts{{"enabled", Enabled()}, {"visible", Visible()}};
@@ -36,7 +38,8 @@ void Control::Do(const Action& action) {
 }
 
 void Control::Perform(const Action& action) {
-  throw CannotDo(FullName() + " is a " + std::string(Kind()) + " and cannot do \"" + action.verb + "\"");
+  throw CannotDo(FullName() + " is a " + std::string(Kind()) + " and cannot do \"" + action.verb +
+                 "\"");
 }
 
 void Control::SetFocus() { form.SetFocus(this); }

@@ -18,8 +18,9 @@ struct KeyPress;
 /// What about a control has changed, for the widget that shows it.
 enum class What { State, Content, Selection, Focus };
 
-/// A control of a window, without a toolkit. A kind of control adds its properties and events, how it tells what
-/// it holds (Describe) and what a user can do to it (Perform); the toolkit's widget watches it.
+/// A control of a window, without a toolkit. A kind of control adds its properties and events, how
+/// it tells what it holds (Describe) and what a user can do to it (Perform); the toolkit's widget
+/// watches it.
 ///
 /// Setting a property from code raises the same event as a user's edit.
 class Control {
@@ -52,7 +53,8 @@ class Control {
   virtual void Describe(Object& facts) const = 0;
   Object Facts() const;
 
-  /// Does what a user would do, unless the field that has the focus does not let it go; throws CannotDo.
+  /// Does what a user would do, unless the field that has the focus does not let it go; throws
+  /// CannotDo.
   void Do(const Action& action);
 
   void SetFocus();

@@ -16,8 +16,10 @@ class ControlArray {
  public:
   /// Members with these indices; `args` follow the name in each one's constructor.
   template <class... Args>
-  ControlArray(Form& form, const std::string& name, const std::vector<int>& indices, const Args&... args) {
-    for (int index : indices) members_.push_back(std::make_unique<Kind>(form, name, args..., index));
+  ControlArray(Form& form, const std::string& name, const std::vector<int>& indices,
+               const Args&... args) {
+    for (int index : indices)
+      members_.push_back(std::make_unique<Kind>(form, name, args..., index));
   }
 
   /// By index; the index must be one of the array's.
@@ -30,7 +32,8 @@ class ControlArray {
 
  private:
   auto Find(int index) const {
-    return std::find_if(members_.begin(), members_.end(), [&](const auto& one) { return one->index == index; });
+    return std::find_if(members_.begin(), members_.end(),
+                        [&](const auto& one) { return one->index == index; });
   }
 
   std::vector<std::unique_ptr<Kind>> members_;

@@ -6,7 +6,8 @@
 
 namespace tarnview {
 
-/// What a control raises. "=" sets the one handler that a window has for it, "+=" adds a listener beside it.
+/// What a control raises. "=" sets the one handler that a window has for it, "+=" adds a listener
+/// beside it.
 template <class... Args>
 class Event {
  public:

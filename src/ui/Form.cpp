@@ -28,8 +28,9 @@ Form::~Form() {
 }
 
 Control* Form::Find(std::string_view wanted, int index) const {
-  const auto found = std::find_if(controls_.begin(), controls_.end(),
-                                  [&](const Control* c) { return c->name == wanted && c->index == index; });
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
+    return c->name == wanted && c->index == index;
+  });
   return found == controls_.end() ? nullptr : *found;
 }
 
@@ -37,7 +38,8 @@ void Form::SetFocus(Control* control) {
   if (control == active_) return;
   Control* left = active_;
   active_ = control;
-  // A field that refuses its text takes the focus back: what was on its way to have it has nothing to lose.
+  // A field that refuses its text takes the focus back: what was on its way to have it has nothing
+  // to lose.
   if (left && !leaving_) {
     leaving_ = true;
     left->LeavesFocus();

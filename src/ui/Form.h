@@ -18,8 +18,8 @@ enum class MousePointer { Default = 0, Hourglass = 11 };
 /// How a dialog was closed: by its OK, or in any other way.
 enum class Outcome { Cancelled, Accepted };
 
-/// A window without a toolkit: its controls are members of the derived class and stand in `Controls` in the order
-/// of their declaration, which is the tab order.
+/// A window without a toolkit: its controls are members of the derived class and stand in
+/// `Controls` in the order of their declaration, which is the tab order.
 class Form {
  public:
   Form(Host& host, std::string name, std::string caption);
@@ -30,18 +30,20 @@ class Form {
   Host& host;
   const std::string name;  ///< its class, "frmGoto"
   Property<std::string> Caption;
-  Property<std::string> Subtitle;  ///< what the title bar tells behind the caption; empty for nothing
+  Property<std::string>
+      Subtitle;  ///< what the title bar tells behind the caption; empty for nothing
   Property<MousePointer> Pointer;
   CommandButton* DefaultButton = nullptr;  ///< what Enter presses
   CommandButton* CancelButton = nullptr;   ///< what Escape presses
-  std::string HelpTopic;                   ///< where F1 opens the manual ("DataTags"); empty: F1 does nothing
+  std::string HelpTopic;  ///< where F1 opens the manual ("DataTags"); empty: F1 does nothing
 
-  // Where the window stands and what it is: kept up to date by the toolkit, which also takes what Form_Load sets here.
-  // In twips, 15 to a pixel of a screen with 96 to the inch. A Width of 0: the design size, where the desktop puts it.
+  // Where the window stands and what it is: kept up to date by the toolkit, which also takes what
+  // Form_Load sets here. In twips, 15 to a pixel of a screen with 96 to the inch. A Width of 0: the
+  // design size, where the desktop puts it.
   int Left = 0, Top = 0, Width = 0, Height = 0;
   int WindowState = 0;  ///< 0 normal, 1 minimized, 2 maximized
-  /// Where the user dragged the bars between its parts: words of the toolkit's own, "mainSplitter=300,900 ...". Kept
-  /// and taken as the place is.
+  /// Where the user dragged the bars between its parts: words of the toolkit's own,
+  /// "mainSplitter=300,900 ...". Kept and taken as the place is.
   std::string Dividers;
 
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -61,13 +63,14 @@ class Form {
   /// Draws what has changed while a long loop runs.
   void Refresh() { host.Repaint(*this); }
 
-  /// A key from the user: the window first, then the active control, then Enter, Escape and the menus' shortcuts.
-  /// True if something took it.
+  /// A key from the user: the window first, then the active control, then Enter, Escape and the
+  /// menus' shortcuts. True if something took it.
   bool Press(const KeyPress& key);
   /// The first half of Press, for a toolkit that has its own way with Enter, Escape and shortcuts.
   bool KeyGoesDown(const KeyPress& key);
-  /// Enter, where nothing else took it: presses the button that has the focus, else the default one, for which the
-  /// field is left first (and may keep the caret where its text will not do). False: there is no such button.
+  /// Enter, where nothing else took it: presses the button that has the focus, else the default
+  /// one, for which the field is left first (and may keep the caret where its text will not do).
+  /// False: there is no such button.
   bool PressEnter();
   /// The same for a key that is let go.
   bool KeyGoesUp(const KeyPress& key);

@@ -9,8 +9,9 @@
 
 namespace tarnview {
 
-/// The open child windows of one kind, by a running number from 1. A window that closes takes itself out by Remove; its
-/// object lives on until the next Add, since it is still at work when it leaves.
+/// The open child windows of one kind, by a running number from 1. A window that closes takes
+/// itself out by Remove; its object lives on until the next Add, since it is still at work when it
+/// leaves.
 template <class Window>
 class FormCollection {
  public:

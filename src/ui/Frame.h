@@ -13,7 +13,8 @@ class Frame : public Control {
         BackgroundPicture(Shown(std::string())) {}
 
   Property<std::string> Caption;
-  Property<std::string> BackgroundPicture;  ///< path of a picture behind what it holds; empty for none
+  Property<std::string>
+      BackgroundPicture;  ///< path of a picture behind what it holds; empty for none
 
   std::string_view Kind() const override { return "frame"; }
   void Describe(Object& facts) const override { facts.emplace_back("caption", Caption()); }

@@ -37,7 +37,8 @@ Object DescribeBeside(const GridCell& cell) {
 std::size_t Grid::PlaceOf(int row, int column) const {
   if (row < 0 || column < 0 || row >= rows_ || column >= columns_)
     throw std::out_of_range(FullName() + ": no such cell");
-  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column);
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+         static_cast<std::size_t>(column);
 }
 
 bool Grid::IsCell(GridPlace cell) const {

@@ -46,18 +46,19 @@ struct GridCell {
   friend bool operator==(const GridCell&, const GridCell&) = default;
 };
 
-/// A table of texts under and beside headings, which are row 0 and column 0; cells count from 1. A cell is edited in
-/// place by a double click, F2, Enter (both with its text), Delete (empty), or by typing. The keys that move and mark
-/// are those of spreadsheets.
+/// A table of texts under and beside headings, which are row 0 and column 0; cells count from 1. A
+/// cell is edited in place by a double click, F2, Enter (both with its text), Delete (empty), or by
+/// typing. The keys that move and mark are those of spreadsheets.
 class Grid : public Control {
  public:
-  Grid(Form& owner, std::string itsName, int itsIndex = -1) : Control(owner, std::move(itsName), itsIndex) {}
+  Grid(Form& owner, std::string itsName, int itsIndex = -1)
+      : Control(owner, std::move(itsName), itsIndex) {}
 
   Event<int, int> Click;     ///< a cell was clicked on, by hand
   Event<> SelectionChanged;  ///< by hand or from code
   Event<> RightClick;        ///< for a pop-up menu; a cell outside the selection was selected first
-  /// Enter was pressed in a cell's field, or the field was left: row, column and what it held. The window writes what
-  /// it takes of that into the cell. Unheard, the text is taken as it is.
+  /// Enter was pressed in a cell's field, or the field was left: row, column and what it held. The
+  /// window writes what it takes of that into the cell. Unheard, the text is taken as it is.
   Event<int, int, const std::string&> Edited;
 
   Property<bool> ReadOnly = Shown(false, What::State);  ///< no cell is edited

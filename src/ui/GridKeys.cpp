@@ -48,8 +48,8 @@ bool Grid::TakesKey(const KeyPress& key) {
 }
 
 bool Grid::MovesBy(const KeyPress& key) {
-  const auto move =
-      std::find_if(std::begin(kMoves), std::end(kMoves), [&](const Move& row) { return key.key == row.key; });
+  const auto move = std::find_if(std::begin(kMoves), std::end(kMoves),
+                                 [&](const Move& row) { return key.key == row.key; });
   if (move == std::end(kMoves) || key.alt) return false;
   const GridPlace from = key.shift ? end_ : current_;
   const int rows = key.ctrl ? move->rowsByCtrl : move->rows;

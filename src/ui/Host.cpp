@@ -17,7 +17,8 @@ Reply Box::DefaultReply() const {
 
 std::string Box::TextWithin(std::size_t mostDetails) const {
   if (detailsFrom >= text.size()) return text;
-  return text.substr(0, detailsFrom) + Shortened(std::string_view(text).substr(detailsFrom), mostDetails);
+  return text.substr(0, detailsFrom) +
+         Shortened(std::string_view(text).substr(detailsFrom), mostDetails);
 }
 
 }  // namespace tarnview

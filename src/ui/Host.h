@@ -33,25 +33,28 @@ struct Box {
   std::string text;
   int style = kBoxOk;
   std::string title;
-  /// One more button, for who can show it: what it says, and what it does once the box is gone. The box's own answer
-  /// is then that of Enter.
+  /// One more button, for who can show it: what it says, and what it does once the box is gone. The
+  /// box's own answer is then that of Enter.
   std::string offer = {};
   std::function<void()> takeOffer = {};
-  std::size_t detailsFrom = std::string::npos;  ///< where in the text the details begin; npos: it has none
+  std::size_t detailsFrom =
+      std::string::npos;  ///< where in the text the details begin; npos: it has none
 
-  /// The text with at most so many bytes of details, which may be a line of a file, and "..." for the rest.
+  /// The text with at most so many bytes of details, which may be a line of a file, and "..." for
+  /// the rest.
   std::string TextWithin(std::size_t mostDetails) const;
   /// The button that Enter presses.
   Reply DefaultReply() const;
 };
 
-/// Bytes of a box's details that fit a screen, and that are told where room is cheap. The error log has them whole.
+/// Bytes of a box's details that fit a screen, and that are told where room is cheap. The error log
+/// has them whole.
 inline constexpr std::size_t kMostDetailsInBox = 600, kMostDetailsTold = 4000;
 
 enum class DialogKind { Open, Save, Folder, Colour, Printer };
 
-/// A file, folder or colour dialog (a printer's comes with Host::PrintPage): what it starts from and, after OK, what
-/// was chosen.
+/// A file, folder or colour dialog (a printer's comes with Host::PrintPage): what it starts from
+/// and, after OK, what was chosen.
 struct Dialog {
   DialogKind kind = DialogKind::Open;
   std::string title;
@@ -68,8 +71,8 @@ struct PrintJob {
   std::function<void(Page&)> fill;  ///< draws the page, as often as it is asked for
 };
 
-/// What a user sees while an outside program runs: that it does, for how long, and a button "Stop Waiting". As long as
-/// this lives the windows are drawn and take no input.
+/// What a user sees while an outside program runs: that it does, for how long, and a button "Stop
+/// Waiting". As long as this lives the windows are drawn and take no input.
 class Waiting {
  public:
   virtual ~Waiting() = default;
@@ -90,8 +93,11 @@ class Host {
   /// In words, why nothing may be saved into a file; "" where it may. Set once by the program.
   std::function<std::string(const std::string& path)> WhyNotSave;
 
-  /// Shows the manual that lies in a folder, in a window of the desktop's own; false where there is none.
-  virtual bool ShowManual(const std::string& /*folder*/, const std::string& /*topic*/) { return false; }
+  /// Shows the manual that lies in a folder, in a window of the desktop's own; false where there is
+  /// none.
+  virtual bool ShowManual(const std::string& /*folder*/, const std::string& /*topic*/) {
+    return false;
+  }
 
   virtual Reply Ask(const Box& box) = 0;
   /// False on Cancel; then `dialog` is unchanged.
@@ -118,13 +124,14 @@ class Host {
 
   /// The picture of a chart, as its window shows it, on the clipboard.
   virtual void CopyPicture(const Chart& chart) = 0;
-  /// The same in a file; the ending of `path` (.png, .svg, .pdf) says as what. False: nothing was written, and `error`
-  /// says why.
+  /// The same in a file; the ending of `path` (.png, .svg, .pdf) says as what. False: nothing was
+  /// written, and `error` says why.
   virtual bool SavePicture(const Chart& chart, const std::string& path, std::string& error) = 0;
-  /// Asks for a printer, its copies and orientation, and prints. False: nothing was printed, and `error` says why; it
-  /// is empty where the user cancelled.
+  /// Asks for a printer, its copies and orientation, and prints. False: nothing was printed, and
+  /// `error` says why; it is empty where the user cancelled.
   virtual bool PrintPage(const PrintJob& job, std::string& error) = 0;
-  /// Shows the page before it is printed; returns when the user is done. As PrintPage, where printing from there fails.
+  /// Shows the page before it is printed; returns when the user is done. As PrintPage, where
+  /// printing from there fails.
   virtual bool PreviewPage(const PrintJob& job, std::string& error) = 0;
 };
 

@@ -6,15 +6,18 @@
 namespace tarnview {
 namespace {
 
-constexpr std::array kNames{"Left",  "Right",  "Up",  "Down",  "Home",   "End",    "PageUp",    "PageDown",
-                            "Enter", "Escape", "Tab", "Space", "Delete", "Insert", "Backspace", "Plus",
-                            "Minus", "F1",     "F2",  "F3",    "F4",     "F5",     "F6",        "F7",
-                            "F8",    "F9",     "F10", "F11",   "F12"};
+constexpr std::array kNames{"Left",   "Right",    "Up",        "Down",   "Home",  "End",
+                            "PageUp", "PageDown", "Enter",     "Escape", "Tab",   "Space",
+                            "Delete", "Insert",   "Backspace", "Plus",   "Minus", "F1",
+                            "F2",     "F3",       "F4",        "F5",     "F6",    "F7",
+                            "F8",     "F9",       "F10",       "F11",    "F12"};
 
 bool SameText(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (std::size_t i = 0; i < a.size(); ++i)
-    if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) return false;
+    if (std::tolower(static_cast<unsigned char>(a[i])) !=
+        std::tolower(static_cast<unsigned char>(b[i])))
+      return false;
   return true;
 }
 

@@ -6,9 +6,9 @@
 
 namespace tarnview {
 
-/// A key with its modifiers. `key` is the name that scripts and menus use: "A" to "Z", "0" to "9", "F1" to "F12",
-/// "Left", "Right", "Up", "Down", "Home", "End", "PageUp", "PageDown", "Enter", "Escape", "Tab", "Space",
-/// "Delete", "Insert", "Backspace", "Plus", "Minus".
+/// A key with its modifiers. `key` is the name that scripts and menus use: "A" to "Z", "0" to "9",
+/// "F1" to "F12", "Left", "Right", "Up", "Down", "Home", "End", "PageUp", "PageDown", "Enter",
+/// "Escape", "Tab", "Space", "Delete", "Insert", "Backspace", "Plus", "Minus".
 struct KeyPress {
   std::string key;
   bool shift = false;

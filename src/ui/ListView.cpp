@@ -12,10 +12,13 @@ namespace {
 /// Numbers by value and before texts, so that "9" stands before "10".
 std::weak_ordering Compare(const std::string& a, const std::string& b) {
   double x = 0, y = 0;
-  const bool xIsNumber = std::from_chars(a.data(), a.data() + a.size(), x).ptr == a.data() + a.size() && !a.empty();
-  const bool yIsNumber = std::from_chars(b.data(), b.data() + b.size(), y).ptr == b.data() + b.size() && !b.empty();
+  const bool xIsNumber =
+      std::from_chars(a.data(), a.data() + a.size(), x).ptr == a.data() + a.size() && !a.empty();
+  const bool yIsNumber =
+      std::from_chars(b.data(), b.data() + b.size(), y).ptr == b.data() + b.size() && !b.empty();
   if (xIsNumber && yIsNumber) return std::weak_order(x, y);
-  if (xIsNumber != yIsNumber) return xIsNumber ? std::weak_ordering::less : std::weak_ordering::greater;
+  if (xIsNumber != yIsNumber)
+    return xIsNumber ? std::weak_ordering::less : std::weak_ordering::greater;
   return a <=> b;
 }
 
@@ -70,7 +73,8 @@ void ListView::UserSorts(int column) {
   const std::string tag = selected_ > 0 ? At(selected_).tag : std::string();
   const auto cell = static_cast<std::size_t>(column - 1);
   std::stable_sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) {
-    return sortDown_ ? Compare(b.texts[cell], a.texts[cell]) < 0 : Compare(a.texts[cell], b.texts[cell]) < 0;
+    return sortDown_ ? Compare(b.texts[cell], a.texts[cell]) < 0
+                     : Compare(a.texts[cell], b.texts[cell]) < 0;
   });
   Changed(What::Content);
   if (selected_ > 0) Select(RowOfTag(tag));
@@ -95,7 +99,8 @@ int ListView::RowOf(const Action& action) const {
   const std::string& word = action.Word(0);
   int row = 0;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), row);
-  if (error == std::errc() && end == word.data() + word.size() && row >= 1 && row <= Count()) return row;
+  if (error == std::errc() && end == word.data() + word.size() && row >= 1 && row <= Count())
+    return row;
   for (row = 1; row <= Count(); ++row)
     if (!At(row).texts.empty() && At(row).texts[0] == word) return row;
   throw CannotDo(FullName() + " has no row \"" + word + "\"");
@@ -117,7 +122,8 @@ void ListView::Perform(const Action& action) {
     for (std::size_t i = 0; i < columns_.size() && column == 0; ++i)
       if (columns_[i].heading == action.Word(0)) column = static_cast<int>(i) + 1;
     if (column == 0) column = action.Number(0);
-    if (column < 1 || column > static_cast<int>(columns_.size())) throw CannotDo(FullName() + " has no such column");
+    if (column < 1 || column > static_cast<int>(columns_.size()))
+      throw CannotDo(FullName() + " has no such column");
     UserSorts(column);
   } else {
     Control::Perform(action);

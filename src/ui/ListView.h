@@ -7,8 +7,8 @@
 
 namespace tarnview {
 
-/// A list of rows with columns, as a desktop's details list: check boxes, a tag per row, a heading to sort by.
-/// Rows are numbered from 1; 0 stands for none.
+/// A list of rows with columns, as a desktop's details list: check boxes, a tag per row, a heading
+/// to sort by. Rows are numbered from 1; 0 stands for none.
 class ListView : public Control {
  public:
   struct Column {

@@ -10,7 +10,8 @@ namespace tarnview {
 /// An entry of a menu, a menu itself, or (with the caption "-") a rule between entries.
 class MenuItem : public Control {
  public:
-  MenuItem(Form& owner, std::string itsName, std::string caption, std::string shortcut = "", int itsIndex = -1)
+  MenuItem(Form& owner, std::string itsName, std::string caption, std::string shortcut = "",
+           int itsIndex = -1)
       : Control(owner, std::move(itsName), itsIndex),
         Caption(Shown(std::move(caption))),
         Checked(Shown(false)),

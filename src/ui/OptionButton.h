@@ -5,11 +5,13 @@
 
 namespace tarnview {
 
-/// One choice of several: of the option buttons of a window that stand in one frame, at most one is on.
+/// One choice of several: of the option buttons of a window that stand in one frame, at most one is
+/// on.
 class OptionButton : public Control {
  public:
   /// `itsFrame` is the name of the frame that holds the choices.
-  OptionButton(Form& owner, std::string itsName, std::string itsFrame, std::string caption, int itsIndex = -1)
+  OptionButton(Form& owner, std::string itsName, std::string itsFrame, std::string caption,
+               int itsIndex = -1)
       : Control(owner, std::move(itsName), itsIndex),
         frame(std::move(itsFrame)),
         Caption(Shown(std::move(caption))),
@@ -38,7 +40,8 @@ class OptionButton : public Control {
     Changed(What::Content);
     if (!Value) return;
     for (Control* control : form.Controls())
-      if (auto* other = dynamic_cast<OptionButton*>(control); other && other != this && other->frame == frame)
+      if (auto* other = dynamic_cast<OptionButton*>(control);
+          other && other != this && other->frame == frame)
         other->Value = false;
     Click();
   }

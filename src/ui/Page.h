@@ -11,8 +11,8 @@ struct PageRect {
   double left = 0, top = 0, width = 0, height = 0;
 };
 
-/// A sheet of paper to be filled. Lengths are in twips and count from the corner of the sheet; texts are in Arial,
-/// their sizes in points.
+/// A sheet of paper to be filled. Lengths are in twips and count from the corner of the sheet;
+/// texts are in Arial, their sizes in points.
 class Page {
  public:
   virtual ~Page() = default;

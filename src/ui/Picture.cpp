@@ -7,12 +7,12 @@ void Picture::Describe(Object& facts) const {
   for (const Drawing::Line& line : drawing_().lines)
     lines.emplace_back(MakeList(std::vector<int>{line.x1, line.y1, line.x2, line.y2}));
   for (const Drawing::Circle& circle : drawing_().circles)
-    circles.emplace_back(
-        Object{{"x", circle.x}, {"y", circle.y}, {"radius", circle.radius}, {"filled", circle.filled}});
+    circles.emplace_back(Object{
+        {"x", circle.x}, {"y", circle.y}, {"radius", circle.radius}, {"filled", circle.filled}});
   List strokes;
   for (const Drawing::Stroke& stroke : drawing_().strokes)
-    strokes.emplace_back(
-        Object{{"colour", stroke.pen.colour}, {"style", stroke.pen.style}, {"width", stroke.pen.width}});
+    strokes.emplace_back(Object{
+        {"colour", stroke.pen.colour}, {"style", stroke.pen.style}, {"width", stroke.pen.width}});
   facts.emplace_back("width", width_);
   facts.emplace_back("height", height_);
   if (BackColour >= 0) facts.emplace_back("colour", BackColour());

@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// A small drawing in plain numbers. Lengths are twips (1/1440 inch, 15 to a pixel at 96 dpi), from the top left.
+/// A small drawing in plain numbers. Lengths are twips (1/1440 inch, 15 to a pixel at 96 dpi), from
+/// the top left.
 struct Drawing {
   struct Line {
     int x1, y1, x2, y2;
@@ -33,7 +34,10 @@ struct Drawing {
 class Picture : public Control {
  public:
   Picture(Form& owner, std::string itsName, int width, int height)
-      : Control(owner, std::move(itsName)), width_(width), height_(height), drawing_(Shown(Drawing{})) {}
+      : Control(owner, std::move(itsName)),
+        width_(width),
+        height_(height),
+        drawing_(Shown(Drawing{})) {}
 
   Event<> Resize;  ///< Width or Height has changed: what was drawn fits no more
 

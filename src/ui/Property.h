@@ -6,7 +6,8 @@
 
 namespace tarnview {
 
-/// A value that tells its owner after it has changed. Setting the value that it has already raises nothing.
+/// A value that tells its owner after it has changed. Setting the value that it has already raises
+/// nothing.
 template <class T>
 class Property {
  public:
@@ -27,8 +28,12 @@ class Property {
   operator const T&() const { return value_; }
   const T* operator->() const { return &value_; }
 
-  friend bool operator==(const Property& property, const T& value) { return property.value_ == value; }
-  friend std::ostream& operator<<(std::ostream& out, const Property& property) { return out << property.value_; }
+  friend bool operator==(const Property& property, const T& value) {
+    return property.value_ == value;
+  }
+  friend std::ostream& operator<<(std::ostream& out, const Property& property) {
+    return out << property.value_;
+  }
 
  private:
   T value_;

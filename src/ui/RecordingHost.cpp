@@ -66,14 +66,17 @@ Reply RecordingHost::Ask(const Box& box) {
   const auto answer = Next(answers);
   const Reply reply = answer ? ReplyFor(box, answer->kind) : box.DefaultReply();
   messages.push_back(box);
-  boxes.emplace_back(
-      Object{{"id", box.id}, {"text", box.TextWithin(kMostDetailsTold)}, {"style", box.style}, {"reply", Name(reply)}});
+  boxes.emplace_back(Object{{"id", box.id},
+                            {"text", box.TextWithin(kMostDetailsTold)},
+                            {"style", box.style},
+                            {"reply", Name(reply)}});
   if (takesOffers && box.takeOffer) box.takeOffer();
   return reply;
 }
 
 bool RecordingHost::Choose(Dialog& dialog) {
-  const Answer answer = nextFile ? *nextFile : Next(answers).value_or(Answer{Answer::Kind::Cancel, {}, 0, 0});
+  const Answer answer =
+      nextFile ? *nextFile : Next(answers).value_or(Answer{Answer::Kind::Cancel, {}, 0, 0});
   nextFile.reset();
   const bool chosen = answer.kind != Answer::Kind::Cancel && answer.kind != Answer::Kind::No;
   std::string reply = "cancel";
@@ -83,8 +86,10 @@ bool RecordingHost::Choose(Dialog& dialog) {
     if (answer.filterIndex > 0) dialog.filterIndex = answer.filterIndex;
     reply = answer.path.empty() ? "ok" : answer.path;
   }
-  boxes.emplace_back(
-      Object{{"dialog", Name(dialog.kind)}, {"title", dialog.title}, {"filter", dialog.filter}, {"reply", reply}});
+  boxes.emplace_back(Object{{"dialog", Name(dialog.kind)},
+                            {"title", dialog.title},
+                            {"filter", dialog.filter},
+                            {"reply", reply}});
   return chosen;
 }
 

@@ -20,8 +20,8 @@ struct Answer {
   int filterIndex = 0;  ///< of a file dialog, from 1; 0 leaves it
 };
 
-/// A desktop without a screen: it answers boxes and dialogs from a queue and remembers what was shown. With no
-/// answer queued, a box gets its default button and a dialog Cancel.
+/// A desktop without a screen: it answers boxes and dialogs from a queue and remembers what was
+/// shown. With no answer queued, a box gets its default button and a dialog Cancel.
 class RecordingHost : public Host {
  public:
   RecordingHost() {
@@ -30,18 +30,19 @@ class RecordingHost : public Host {
 
   std::deque<Answer> answers;
   std::optional<Answer> nextFile;  ///< for the next file dialog, before the queue
-  List boxes;                      ///< {"id", "text", "style", "reply"} or {"dialog", "title", "filter", "reply"}
-  std::vector<Box> messages;       ///< the boxes alone
-  std::vector<Form*> open;         ///< windows on show, the front one last
+  List boxes;  ///< {"id", "text", "style", "reply"} or {"dialog", "title", "filter", "reply"}
+  std::vector<Box> messages;  ///< the boxes alone
+  std::vector<Form*> open;    ///< windows on show, the front one last
   std::string clipboard;
-  std::vector<std::string> waits;       ///< programs that were waited for
-  std::vector<std::string> helpTopics;  ///< where the manual was opened, until a program brings its own
-  std::vector<const Chart*> copied;     ///< charts whose picture went to the clipboard
-  std::vector<std::string> pictures;    ///< paths of the pictures saved
-  std::vector<RecordingPage> pages;     ///< printed or shown before printing
-  std::function<void(Form&)> work;      ///< what a user does in a modal window; it is closed then
-  bool takesOffers = false;             ///< presses the one more button of a box that has one
-  std::string refusal;                  ///< why pictures and pages fail; empty: they do not
+  std::vector<std::string> waits;  ///< programs that were waited for
+  std::vector<std::string>
+      helpTopics;  ///< where the manual was opened, until a program brings its own
+  std::vector<const Chart*> copied;   ///< charts whose picture went to the clipboard
+  std::vector<std::string> pictures;  ///< paths of the pictures saved
+  std::vector<RecordingPage> pages;   ///< printed or shown before printing
+  std::function<void(Form&)> work;    ///< what a user does in a modal window; it is closed then
+  bool takesOffers = false;           ///< presses the one more button of a box that has one
+  std::string refusal;                ///< why pictures and pages fail; empty: they do not
 
   Reply Ask(const Box& box) override;
   bool Choose(Dialog& dialog) override;

@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// A page without a printer: it remembers what was drawn. Every letter is half as wide as its line is high.
+/// A page without a printer: it remembers what was drawn. Every letter is half as wide as its line
+/// is high.
 class RecordingPage : public Page {
  public:
   struct Text {

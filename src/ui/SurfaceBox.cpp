@@ -6,12 +6,14 @@
 namespace tarnview {
 namespace {
 
-// Half the sides of the box: a map has more columns than rows, and hills that are not too steep to look behind.
+// Half the sides of the box: a map has more columns than rows, and hills that are not too steep to
+// look behind.
 constexpr double kHalfWidth = 0.8;
 constexpr double kHalfDepth = 0.5;
 constexpr double kHalfHeight = 0.26;
 
-/// Lines of text that the labels and titles of the axes take around the box, beside the widest label.
+/// Lines of text that the labels and titles of the axes take around the box, beside the widest
+/// label.
 constexpr double kLinesBeside = 1.5;
 constexpr double kLinesBelow = 3.5;
 constexpr double kLinesAbove = 1.5;
@@ -32,10 +34,10 @@ bool MakesSurface(const Surface& surface) {
 
 SurfaceBox::SurfaceBox(const Surface& surface, const SceneRoom& room)
     : surface_(surface), room_(room), eye_(surface.view), empty_(!MakesSurface(surface)) {
-  const double right =
-      std::max(std::abs(eye_.Right(kHalfWidth, kHalfDepth)), std::abs(eye_.Right(kHalfWidth, -kHalfDepth)));
-  const double back =
-      std::max(std::abs(eye_.Back(kHalfWidth, kHalfDepth)), std::abs(eye_.Back(kHalfWidth, -kHalfDepth)));
+  const double right = std::max(std::abs(eye_.Right(kHalfWidth, kHalfDepth)),
+                                std::abs(eye_.Right(kHalfWidth, -kHalfDepth)));
+  const double back = std::max(std::abs(eye_.Back(kHalfWidth, kHalfDepth)),
+                               std::abs(eye_.Back(kHalfWidth, -kHalfDepth)));
   const double up = back * eye_.SinTilt() + kHalfHeight * eye_.CosTilt();
   const double width = room.width - 2 * (kLinesBeside * room.line + WidestLabel(surface, room));
   const double above = room.top + kLinesAbove * room.line;
@@ -44,9 +46,13 @@ SurfaceBox::SurfaceBox(const Surface& surface, const SceneRoom& room)
   middle_ = {room.width / 2, above + height / 2};
 }
 
-double SurfaceBox::X(double column) const { return (2 * column / static_cast<double>(Columns() - 1) - 1) * kHalfWidth; }
+double SurfaceBox::X(double column) const {
+  return (2 * column / static_cast<double>(Columns() - 1) - 1) * kHalfWidth;
+}
 
-double SurfaceBox::Y(double row) const { return (1 - 2 * row / static_cast<double>(Rows() - 1)) * kHalfDepth; }
+double SurfaceBox::Y(double row) const {
+  return (1 - 2 * row / static_cast<double>(Rows() - 1)) * kHalfDepth;
+}
 
 double SurfaceBox::Z(double share) const { return (2 * share - 1) * kHalfHeight; }
 

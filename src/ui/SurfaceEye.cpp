@@ -40,7 +40,8 @@ SurfaceEye::SurfaceEye(const SurfaceView& view) {
 
 SurfaceView Turned(const SurfaceView& view, double right, double up) {
   SurfaceView turned = view;
-  turned.rotation = Wrapped(view.rotation + static_cast<int>(std::lround(std::remainder(right, 360.0))));
+  turned.rotation =
+      Wrapped(view.rotation + static_cast<int>(std::lround(std::remainder(right, 360.0))));
   const int elevation = Wrapped(view.elevation);
   const bool behind = IsBehind(elevation), beyond = elevation > 180;
   // Straight above, a view from behind would be one from the front.

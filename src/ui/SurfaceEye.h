@@ -10,7 +10,8 @@ struct ScenePoint {
   double y = 0;
 };
 
-/// How a place in space is seen along parallel rays: x to the right, y to the back, z up while nothing is turned.
+/// How a place in space is seen along parallel rays: x to the right, y to the back, z up while
+/// nothing is turned.
 class SurfaceEye {
  public:
   explicit SurfaceEye(const SurfaceView& view);
@@ -27,8 +28,8 @@ class SurfaceEye {
   double sinSpin_, cosSpin_, sinTilt_, cosTilt_;
 };
 
-/// The view after the surface was drawn by so many degrees to the right and up. It stops where the eye is straight
-/// above and where it is on the floor, so that a hand never turns it over.
+/// The view after the surface was drawn by so many degrees to the right and up. It stops where the
+/// eye is straight above and where it is on the floor, so that a hand never turns it over.
 SurfaceView Turned(const SurfaceView& view, double right, double up);
 
 /// The view after so many notches of a wheel: above 0, nearer.

@@ -29,7 +29,8 @@ constexpr double kLeastUpright = 0.17;
 
 class Labels {
  public:
-  Labels(const SurfaceBox& box, std::vector<SceneLabel>& labels) : box_(box), room_(box.Room()), labels_(labels) {}
+  Labels(const SurfaceBox& box, std::vector<SceneLabel>& labels)
+      : box_(box), room_(box.Room()), labels_(labels) {}
 
   void Add(const Edge& edge);
   /// A title over the upper end of an upright edge.
@@ -50,19 +51,25 @@ class Labels {
 };
 
 ScenePoint Between(const Edge& edge, double share) {
-  return {edge.from.x + (edge.to.x - edge.from.x) * share, edge.from.y + (edge.to.y - edge.from.y) * share};
+  return {edge.from.x + (edge.to.x - edge.from.x) * share,
+          edge.from.y + (edge.to.y - edge.from.y) * share};
 }
 
-double LengthOf(const Edge& edge) { return std::hypot(edge.to.x - edge.from.x, edge.to.y - edge.from.y); }
+double LengthOf(const Edge& edge) {
+  return std::hypot(edge.to.x - edge.from.x, edge.to.y - edge.from.y);
+}
 
 Rect Labels::RectOf(const SceneLabel& label) const {
-  const double halfWidth = room_.widthOf(label.text) / 2 + room_.line / 6, halfHeight = room_.line / 2;
+  const double halfWidth = room_.widthOf(label.text) / 2 + room_.line / 6,
+               halfHeight = room_.line / 2;
   return {label.centre.x - halfWidth, label.centre.y - halfHeight, label.centre.x + halfWidth,
           label.centre.y + halfHeight};
 }
 
-SceneLabel Labels::Beside(const std::string& text, ScenePoint at, ScenePoint away, double gap) const {
-  const double reach = std::abs(away.x) * room_.widthOf(text) / 2 + std::abs(away.y) * room_.line / 2 + gap;
+SceneLabel Labels::Beside(const std::string& text, ScenePoint at, ScenePoint away,
+                          double gap) const {
+  const double reach =
+      std::abs(away.x) * room_.widthOf(text) / 2 + std::abs(away.y) * room_.line / 2 + gap;
   return {text, {at.x + away.x * reach, at.y + away.y * reach}};
 }
 
@@ -81,8 +88,10 @@ std::size_t Labels::StepOf(const Edge& edge, ScenePoint away) const {
 
 bool Labels::Take(const SceneLabel& label) {
   const Rect rect = RectOf(label);
-  if (rect.left < 0 || rect.top < 0 || rect.right > room_.width || rect.bottom > room_.height) return false;
-  if (std::any_of(taken_.begin(), taken_.end(), [&](const Rect& one) { return one.Meets(rect); })) return false;
+  if (rect.left < 0 || rect.top < 0 || rect.right > room_.width || rect.bottom > room_.height)
+    return false;
+  if (std::any_of(taken_.begin(), taken_.end(), [&](const Rect& one) { return one.Meets(rect); }))
+    return false;
   taken_.push_back(rect);
   labels_.push_back(label);
   return true;
@@ -101,12 +110,14 @@ void Labels::Add(const Edge& edge) {
   if (length < 2 * room_.line || edge.texts.size() < 2) return;
   ScenePoint away{(edge.to.y - edge.from.y) / length, -(edge.to.x - edge.from.x) / length};
   const ScenePoint middle = Between(edge, 0.5), centre = box_.At(0, 0, 0);
-  if ((middle.x - centre.x) * away.x + (middle.y - centre.y) * away.y < 0) away = {-away.x, -away.y};
+  if ((middle.x - centre.x) * away.x + (middle.y - centre.y) * away.y < 0)
+    away = {-away.x, -away.y};
   const double gap = kGap * room_.line;
   double widest = 0;
   for (std::size_t i = 0, step = StepOf(edge, away); i < edge.texts.size(); i += step) {
     const double share = static_cast<double>(i) / static_cast<double>(edge.texts.size() - 1);
-    if (TakeNear(edge.texts[i], Between(edge, share), away)) widest = std::max(widest, room_.widthOf(edge.texts[i]));
+    if (TakeNear(edge.texts[i], Between(edge, share), away))
+      widest = std::max(widest, room_.widthOf(edge.texts[i]));
   }
   if (edge.title.empty()) return;
   const double past = gap * 2 + std::abs(away.x) * widest + std::abs(away.y) * room_.line;
@@ -135,7 +146,8 @@ void AddLabels(const SurfaceBox& box, std::vector<SceneLabel>& labels) {
   const double left = box.X(0), right = -left, back = box.Y(0), front = -back;
   Labels all(box, labels);
   const Surface& table = box.Table();
-  all.Add({box.At(left, nearY, floor), box.At(right, nearY, floor), table.columns, table.columnTitle});
+  all.Add(
+      {box.At(left, nearY, floor), box.At(right, nearY, floor), table.columns, table.columnTitle});
   all.Add({box.At(nearX, back, floor), box.At(nearX, front, floor), table.rows, table.rowTitle});
   // The upright edge at the left of the picture is never in front of the ground.
   const ScenePoint one = box.At(-nearX, nearY, floor), other = box.At(nearX, -nearY, floor);

@@ -29,7 +29,8 @@ double LightOn(const SurfaceEye& eye, const Place& a, const Place& b, const Plac
   // Unit vector: left, forward to the eye, up.
   constexpr Place kLight{-0.36, -0.48, 0.8};
   const double sign = normal.z < 0 ? -1 : 1;
-  const double facing = sign * (normal.x * kLight.x + normal.y * kLight.y + normal.z * kLight.z) / length;
+  const double facing =
+      sign * (normal.x * kLight.x + normal.y * kLight.y + normal.z * kLight.z) / length;
   return kDarkest + (1 - kDarkest) * std::max(facing, 0.0);
 }
 
@@ -60,10 +61,13 @@ class Painter {
   void AddCell(std::size_t row, std::size_t column);
   void AddQuarter(std::size_t row, std::size_t column, std::size_t down, std::size_t across);
   Place Inside(std::size_t row, std::size_t column, double down, double across) const;
-  void AddSkirt(std::size_t row, std::size_t column, std::size_t nextRow, std::size_t nextColumn, double light);
-  void AddHalfSkirt(const Place& a, const Place& b, std::size_t row, std::size_t column, double light);
+  void AddSkirt(std::size_t row, std::size_t column, std::size_t nextRow, std::size_t nextColumn,
+                double light);
+  void AddHalfSkirt(const Place& a, const Place& b, std::size_t row, std::size_t column,
+                    double light);
   Place Corner(std::size_t row, std::size_t column) const {
-    return {box_.X(static_cast<double>(column)), box_.Y(static_cast<double>(row)), box_.Z(box_.ShareOf(row, column))};
+    return {box_.X(static_cast<double>(column)), box_.Y(static_cast<double>(row)),
+            box_.Z(box_.ShareOf(row, column))};
   }
 
   const SurfaceBox& box_;
@@ -96,33 +100,40 @@ void Painter::AddEdges() {
   const double nearX = box_.NearX(), nearY = box_.NearY(), floor = box_.Z(0), roof = box_.Z(1);
   AddLine({nearX, nearY, floor}, {-nearX, nearY, floor}, true);
   AddLine({nearX, nearY, floor}, {nearX, -nearY, floor}, true);
-  for (const Place& at : {Place{nearX, -nearY, 0}, Place{-nearX, nearY, 0}, Place{-nearX, -nearY, 0}})
+  for (const Place& at :
+       {Place{nearX, -nearY, 0}, Place{-nearX, nearY, 0}, Place{-nearX, -nearY, 0}})
     AddLine({at.x, at.y, floor}, {at.x, at.y, roof}, true);
 }
 
 void Painter::AddGround() {
   for (std::size_t row : Order(box_.Rows() - 1, LastRowIsFarthest()))
-    for (std::size_t column : Order(box_.Columns() - 1, LastColumnIsFarthest())) AddCell(row, column);
+    for (std::size_t column : Order(box_.Columns() - 1, LastColumnIsFarthest()))
+      AddCell(row, column);
 }
 
-/// Four quarters, so that colours change softly, and since four cells of the table need not lie in one plane.
+/// Four quarters, so that colours change softly, and since four cells of the table need not lie in
+/// one plane.
 void Painter::AddCell(std::size_t row, std::size_t column) {
   for (std::size_t down : Order(2, LastRowIsFarthest()))
-    for (std::size_t across : Order(2, LastColumnIsFarthest())) AddQuarter(row, column, down, across);
+    for (std::size_t across : Order(2, LastColumnIsFarthest()))
+      AddQuarter(row, column, down, across);
 }
 
-void Painter::AddQuarter(std::size_t row, std::size_t column, std::size_t down, std::size_t across) {
+void Painter::AddQuarter(std::size_t row, std::size_t column, std::size_t down,
+                         std::size_t across) {
   const std::size_t cellRow = row + down, cellColumn = column + across;
   const double top = static_cast<double>(down) / 2, left = static_cast<double>(across) / 2;
-  const std::array<Place, 4> corners{Inside(row, column, top, left), Inside(row, column, top, left + 0.5),
-                                     Inside(row, column, top + 0.5, left + 0.5), Inside(row, column, top + 0.5, left)};
+  const std::array<Place, 4> corners{
+      Inside(row, column, top, left), Inside(row, column, top, left + 0.5),
+      Inside(row, column, top + 0.5, left + 0.5), Inside(row, column, top + 0.5, left)};
   SceneFace face;
   double height = 0;
   for (std::size_t i = 0; i < corners.size(); ++i) {
     face.corners[i] = box_.At(corners[i].x, corners[i].y, corners[i].z);
     height += corners[i].z / 4;
   }
-  face.kind = box_.Table().IsLocked(cellRow, cellColumn) ? SceneFace::Kind::Locked : SceneFace::Kind::Ground;
+  face.kind = box_.Table().IsLocked(cellRow, cellColumn) ? SceneFace::Kind::Locked
+                                                         : SceneFace::Kind::Ground;
   face.height = box_.ShareOfZ(height);
   face.light = LightOn(box_.Eye(), corners[0], corners[1], corners[2]);
   face.row = static_cast<int>(cellRow) + 1;
@@ -141,18 +152,21 @@ Place Painter::Inside(std::size_t row, std::size_t column, double down, double a
 }
 
 /// From one cell of the table to the next, in two halves.
-void Painter::AddSkirt(std::size_t row, std::size_t column, std::size_t nextRow, std::size_t nextColumn, double light) {
+void Painter::AddSkirt(std::size_t row, std::size_t column, std::size_t nextRow,
+                       std::size_t nextColumn, double light) {
   const Place a = Corner(row, column), b = Corner(nextRow, nextColumn);
   const Place middle{(a.x + b.x) / 2, (a.y + b.y) / 2, (a.z + b.z) / 2};
   AddHalfSkirt(a, middle, row, column, light);
   AddHalfSkirt(middle, b, nextRow, nextColumn, light);
 }
 
-void Painter::AddHalfSkirt(const Place& a, const Place& b, std::size_t row, std::size_t column, double light) {
+void Painter::AddHalfSkirt(const Place& a, const Place& b, std::size_t row, std::size_t column,
+                           double light) {
   const double floor = box_.Z(0);
   SceneFace face;
   face.kind = SceneFace::Kind::Skirt;
-  face.corners = {box_.At(a.x, a.y, a.z), box_.At(b.x, b.y, b.z), box_.At(b.x, b.y, floor), box_.At(a.x, a.y, floor)};
+  face.corners = {box_.At(a.x, a.y, a.z), box_.At(b.x, b.y, b.z), box_.At(b.x, b.y, floor),
+                  box_.At(a.x, a.y, floor)};
   face.light = light;
   face.row = static_cast<int>(row) + 1;
   face.column = static_cast<int>(column) + 1;
@@ -160,11 +174,13 @@ void Painter::AddHalfSkirt(const Place& a, const Place& b, std::size_t row, std:
   scene_.faces.push_back(face);
 }
 
-/// The cut sides of the ground that look to the eye, as a model in a museum has them: nobody sees it from below.
+/// The cut sides of the ground that look to the eye, as a model in a museum has them: nobody sees
+/// it from below.
 void Painter::AddSkirts() {
   constexpr double kFront = 1, kSide = 0.8;
   const std::size_t lastRow = box_.Rows() - 1, lastColumn = box_.Columns() - 1;
-  const std::size_t row = box_.NearY() < 0 ? lastRow : 0, column = box_.NearX() > 0 ? lastColumn : 0;
+  const std::size_t row = box_.NearY() < 0 ? lastRow : 0,
+                    column = box_.NearX() > 0 ? lastColumn : 0;
   for (std::size_t i = 0; i < lastColumn; ++i) AddSkirt(row, i, row, i + 1, kFront);
   for (std::size_t i = 0; i < lastRow; ++i) AddSkirt(i, column, i + 1, column, kSide);
 }
@@ -191,19 +207,23 @@ SurfaceScene MakeScene(const Surface& surface, const SceneRoom& room) {
   painter.AddSkirts();
   AddLabels(box, scene.labels);
   for (std::size_t row = 0; row < box.Rows(); ++row)
-    for (std::size_t column = 0; column < box.Columns(); ++column) scene.cells.push_back(box.AtCell(row, column));
+    for (std::size_t column = 0; column < box.Columns(); ++column)
+      scene.cells.push_back(box.AtCell(row, column));
   return scene;
 }
 
-std::optional<SceneMark> MarkOf(const Surface& surface, const SceneRoom& room, int row, int column) {
+std::optional<SceneMark> MarkOf(const Surface& surface, const SceneRoom& room, int row,
+                                int column) {
   const SurfaceBox box(surface, room);
   if (box.IsEmpty() || row < 1 || column < 1) return std::nullopt;
   const auto r = static_cast<std::size_t>(row - 1), c = static_cast<std::size_t>(column - 1);
   if (r >= box.Rows() || c >= box.Columns()) return std::nullopt;
-  return SceneMark{box.AtCell(r, c), box.At(box.X(static_cast<double>(c)), box.Y(static_cast<double>(r)), box.Z(0))};
+  return SceneMark{box.AtCell(r, c),
+                   box.At(box.X(static_cast<double>(c)), box.Y(static_cast<double>(r)), box.Z(0))};
 }
 
-std::optional<std::pair<int, int>> CellAt(const SurfaceScene& scene, int columns, ScenePoint place, double reach) {
+std::optional<std::pair<int, int>> CellAt(const SurfaceScene& scene, int columns, ScenePoint place,
+                                          double reach) {
   // The last face that holds the place is in front.
   const auto face = std::find_if(scene.faces.rbegin(), scene.faces.rend(),
                                  [&](const SceneFace& one) { return Contains(one, place); });

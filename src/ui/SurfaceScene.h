@@ -60,8 +60,9 @@ SurfaceScene MakeScene(const Surface& surface, const SceneRoom& room);
 /// The mark of a cell, row and column from 1; none for a cell that is not there.
 std::optional<SceneMark> MarkOf(const Surface& surface, const SceneRoom& room, int row, int column);
 
-/// The cell at a place of the picture, as row and column from 1: that of the face in front there, else one that is
-/// near.
-std::optional<std::pair<int, int>> CellAt(const SurfaceScene& scene, int columns, ScenePoint place, double reach);
+/// The cell at a place of the picture, as row and column from 1: that of the face in front there,
+/// else one that is near.
+std::optional<std::pair<int, int>> CellAt(const SurfaceScene& scene, int columns, ScenePoint place,
+                                          double reach);
 
 }  // namespace tarnview

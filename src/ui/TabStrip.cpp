@@ -42,7 +42,8 @@ void TabStrip::Describe(Object& facts) const {
   for (const Tab& tab : tabs_) captions.emplace_back(tab.caption);
   facts.emplace_back("list", std::move(captions));
   facts.emplace_back("selected", selected_ - 1);
-  facts.emplace_back("text", selected_ > 0 ? tabs_[static_cast<std::size_t>(selected_ - 1)].caption : std::string());
+  facts.emplace_back("text", selected_ > 0 ? tabs_[static_cast<std::size_t>(selected_ - 1)].caption
+                                           : std::string());
 }
 
 void TabStrip::Perform(const Action& action) {

@@ -6,8 +6,8 @@ namespace tarnview {
 
 class Frame;
 
-/// Tabs of which one is in front. Each shows its page and hides those of the others; what stands on a page that is
-/// not in view keeps its own state and can be worked.
+/// Tabs of which one is in front. Each shows its page and hides those of the others; what stands on
+/// a page that is not in view keeps its own state and can be worked.
 class TabStrip : public Control {
  public:
   struct Tab {

@@ -7,7 +7,8 @@ namespace tarnview {
 /// Raises Tick every Interval milliseconds while it is enabled. It has no place on the screen.
 class Timer : public Control {
  public:
-  Timer(Form& owner, std::string itsName, int interval) : Control(owner, std::move(itsName)), Interval(interval) {
+  Timer(Form& owner, std::string itsName, int interval)
+      : Control(owner, std::move(itsName)), Interval(interval) {
     Enabled = false;
   }
 

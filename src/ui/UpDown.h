@@ -6,10 +6,12 @@
 
 namespace tarnview {
 
-/// A pair of small arrows. Its window moves the number of the field beside it on UpClick and DownClick.
+/// A pair of small arrows. Its window moves the number of the field beside it on UpClick and
+/// DownClick.
 class UpDown : public Control {
  public:
-  UpDown(Form& owner, std::string itsName, int itsIndex = -1) : Control(owner, std::move(itsName), itsIndex) {}
+  UpDown(Form& owner, std::string itsName, int itsIndex = -1)
+      : Control(owner, std::move(itsName), itsIndex) {}
 
   int Min = 0;
   int Max = 10;

@@ -42,7 +42,8 @@ void UserEvents::RunWhenFree(const std::string& module, const std::string& proce
     Run(module, procedure, event);
     return;
   }
-  waiting_.push_back([this, module, procedure, later = std::move(event)] { Run(module, procedure, later); });
+  waiting_.push_back(
+      [this, module, procedure, later = std::move(event)] { Run(module, procedure, later); });
 }
 
 void UserEvents::RunWaiting() {

@@ -13,8 +13,8 @@ class Value;
 using Object = std::vector<std::pair<std::string, Value>>;
 using List = std::vector<Value>;
 
-/// A small tree of facts: how a control or a chart tells what it holds, for tests and for the command line.
-/// Texts are Windows-1252 bytes, as everywhere inside the program.
+/// A small tree of facts: how a control or a chart tells what it holds, for tests and for the
+/// command line. Texts are Windows-1252 bytes, as everywhere inside the program.
 class Value {
  public:
   Value() = default;

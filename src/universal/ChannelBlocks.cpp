@@ -5,8 +5,8 @@
 namespace tarnview {
 namespace {
 
-// Whole numbers: tenths of a kPa, of a kelvin, of a per cent, of a degree, of km/h; thousandths of lambda and of a
-// volt.
+// Whole numbers: tenths of a kPa, of a kelvin, of a per cent, of a degree, of km/h; thousandths of
+// lambda and of a volt.
 constexpr ChannelScale kScales[] = {
     {"PRESSURE", 0.1, "kPa"}, {"ABSPRESSURE", 0.1, "kPa"},    {"TEMPERATURE", 0.1, "K"},
     {"AFR", 0.001, "lambda"}, {"PERCENTAGE", 0.1, "%"},       {"ANGLE", 0.1, "deg"},
@@ -24,7 +24,8 @@ bool SplitPair(std::string_view line, std::string& key, std::string_view& value)
 
 }  // namespace
 
-std::vector<ChannelBlock> ReadChannelBlocks(const std::vector<std::string_view>& lines, std::string_view wanted) {
+std::vector<ChannelBlock> ReadChannelBlocks(const std::vector<std::string_view>& lines,
+                                            std::string_view wanted) {
   std::vector<ChannelBlock> channels;
   std::string key;
   std::string_view value;

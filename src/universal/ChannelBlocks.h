@@ -19,9 +19,11 @@ struct ChannelScale {
   const char* unit;
 };
 
-/// A log without a row of titles: lines of "Channel : NAME" and of what the channel is ("Type : Pressure") name the
-/// fields behind a clock. Empty where fewer than two such lines stand in front of the data. `key` is "CHANNEL".
-std::vector<ChannelBlock> ReadChannelBlocks(const std::vector<std::string_view>& lines, std::string_view key);
+/// A log without a row of titles: lines of "Channel : NAME" and of what the channel is ("Type :
+/// Pressure") name the fields behind a clock. Empty where fewer than two such lines stand in front
+/// of the data. `key` is "CHANNEL".
+std::vector<ChannelBlock> ReadChannelBlocks(const std::vector<std::string_view>& lines,
+                                            std::string_view key);
 
 /// nullptr for a type whose numbers stand as they are.
 const ChannelScale* ScaleOfChannel(const std::string& type);

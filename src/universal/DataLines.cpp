@@ -16,25 +16,30 @@ namespace {
 
 using Kind = FieldTarget::Kind;
 
-/// The stored integer: rounded half to even, not below `least`, which is 0 or below, and 0 where it does not fit.
+/// The stored integer: rounded half to even, not below `least`, which is 0 or below, and 0 where it
+/// does not fit.
 inline std::int32_t StoredInteger(double stored, double least) {
   constexpr double kTooLarge = 2147483648.0;
-  const double rounded = WithoutFraction(stored > least ? stored : 0);  // too large stays so, whatever it is rounded to
+  const double rounded = WithoutFraction(
+      stored > least ? stored : 0);  // too large stays so, whatever it is rounded to
   return static_cast<std::int32_t>(rounded < kTooLarge ? rounded : 0);
 }
 
-// Each of these is one plain loop over the rows of a block, which the compiler turns into steps of several rows.
+// Each of these is one plain loop over the rows of a block, which the compiler turns into steps of
+// several rows.
 
 /// Numbers to the values that a target makes of them.
 void Convert(const FieldTarget& target, double* values, std::size_t rows) {
   const double before = target.before, factor = target.factor, after = target.after;
-  for (std::size_t row = 0; row < rows; ++row) values[row] = (values[row] + before) * factor + after;
+  for (std::size_t row = 0; row < rows; ++row)
+    values[row] = (values[row] + before) * factor + after;
 }
 
 void Store(const FieldTarget& target, const double* values, std::int32_t* cells, std::size_t rows) {
   const double scale = target.scale, offset = target.storedOffset;
   const double least = target.negative ? std::numeric_limits<std::int32_t>::min() : 0;
-  for (std::size_t row = 0; row < rows; ++row) cells[row] = StoredInteger(values[row] * scale + offset, least);
+  for (std::size_t row = 0; row < rows; ++row)
+    cells[row] = StoredInteger(values[row] * scale + offset, least);
 }
 
 /// A bound itself counts as out of bounds. `kept` is cleared for values that are refused.
@@ -52,10 +57,12 @@ void Bound(const FieldTarget& target, double* values, bool* kept, std::size_t ro
 
 }  // namespace
 
-DataLines::DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes, SampleStore& store)
+DataLines::DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes,
+                     SampleStore& store)
     : header_(header),
       store_(store),
-      block_(bytes, definition.lngDelimiterAsciiCharacter, static_cast<std::size_t>(header.Fields())),
+      block_(bytes, definition.lngDelimiterAsciiCharacter,
+             static_cast<std::size_t>(header.Fields())),
       formed_(definition.IsFormed()),
       commentPrefix_(definition.strCommentPrefix),
       secondsOfStamp_(SecondsOf(TimeFormOfName(definition.strTimeForm))),
@@ -66,7 +73,8 @@ DataLines::DataLines(const HeaderMap& header, const clsDataLog& definition, std:
     for (const FieldTarget& target : header.Targets(field)) {
       anyDate_ = anyDate_ || target.kind == Kind::Date;
       if (target.kind == Kind::Time && !clock_) clock_ = static_cast<std::size_t>(field);
-      if (std::find(fed.begin(), fed.end(), target.column) != fed.end()) sharedColumns_.push_back(target.column);
+      if (std::find(fed.begin(), fed.end(), target.column) != fed.end())
+        sharedColumns_.push_back(target.column);
       fed.push_back(target.column);
     }
 }
@@ -94,7 +102,8 @@ void DataLines::FindFirstMoment() {
   const std::size_t line = block_.Lines() - 1;
   for (std::size_t field = 0; field < block_.Fields(line); ++field)
     for (const FieldTarget& target : header_.Targets(static_cast<int>(field)))
-      if (target.kind == Kind::Date && !firstMoment_) firstMoment_ = ParseFieldMoment(block_.Field(line, field));
+      if (target.kind == Kind::Date && !firstMoment_)
+        firstMoment_ = ParseFieldMoment(block_.Field(line, field));
 }
 
 void DataLines::Flush() {
@@ -134,7 +143,8 @@ void DataLines::FlushField(std::size_t field, int first) {
 }
 
 void DataLines::WriteCells(const FieldTarget& target, int first, std::uint64_t gaps, Cells& cells) {
-  const bool shared = std::find(sharedColumns_.begin(), sharedColumns_.end(), target.column) != sharedColumns_.end();
+  const bool shared = std::find(sharedColumns_.begin(), sharedColumns_.end(), target.column) !=
+                      sharedColumns_.end();
   if (noValues_ && !shared)
     noValues_->Write(store_, target.column, first, block_.Lines(), gaps, cells);
   else
@@ -149,13 +159,15 @@ void DataLines::ReadStamps(std::size_t field) {
     ReadNumbers(field);
     Numbers values;
     numbers_.Values(lines, values);
-    for (std::size_t line = 0; line < lines; ++line) stamps_[before + line] = values[line] * secondsOfStamp_;
+    for (std::size_t line = 0; line < lines; ++line)
+      stamps_[before + line] = values[line] * secondsOfStamp_;
     return;
   }
   for (std::size_t line = 0; line < lines; ++line) {
     const auto time = ReadTimeText(block_.Field(line, field));
     if (time && !firstStamp_) firstStamp_ = time->moment;
-    stamps_[before + line] = time ? time->moment.Since(*firstStamp_) : std::numeric_limits<double>::quiet_NaN();
+    stamps_[before + line] =
+        time ? time->moment.Since(*firstStamp_) : std::numeric_limits<double>::quiet_NaN();
   }
 }
 
@@ -182,8 +194,9 @@ void DataLines::StoreNumbers(const FieldTarget& target, std::size_t field, Cells
 }
 
 /// Converts `values` as well.
-TARNVIEW_WIDE_STEPS void DataLines::StoreValues(const FieldTarget& target, std::size_t field, Numbers& values,
-                                                std::size_t rows, Cells& cells) const {
+TARNVIEW_WIDE_STEPS void DataLines::StoreValues(const FieldTarget& target, std::size_t field,
+                                                Numbers& values, std::size_t rows,
+                                                Cells& cells) const {
   Convert(target, values.data(), rows);
   if (!target.bounded && !Ragged(field)) return Store(target, values.data(), cells.data(), rows);
 
@@ -204,7 +217,8 @@ void DataLines::ReadNumbers(std::size_t field) {
 void DataLines::ReadMoments(std::size_t field, Numbers& moments) {
   if (formed_) return ReadSpans(field, moments);
   ReadColumn(block_, field, moments, [&](std::size_t line) {
-    const auto moment = block_.Fields(line) > field ? ParseFieldMoment(block_.Field(line, field)) : std::nullopt;
+    const auto moment =
+        block_.Fields(line) > field ? ParseFieldMoment(block_.Field(line, field)) : std::nullopt;
     return moment ? moment->Since(*firstMoment_) : 0;
   });
 }
@@ -212,8 +226,10 @@ void DataLines::ReadMoments(std::size_t field, Numbers& moments) {
 /// Seconds since the first time of the field itself.
 void DataLines::ReadSpans(std::size_t field, Numbers& spans) {
   for (std::size_t line = 0; line < block_.Lines(); ++line) {
-    const auto time = block_.Fields(line) > field ? ReadTimeText(block_.Field(line, field)) : std::nullopt;
-    spans[line] = time ? time->moment.Since(firstOfField_.emplace(field, time->moment).first->second) : 0;
+    const auto time =
+        block_.Fields(line) > field ? ReadTimeText(block_.Field(line, field)) : std::nullopt;
+    spans[line] =
+        time ? time->moment.Since(firstOfField_.emplace(field, time->moment).first->second) : 0;
   }
 }
 

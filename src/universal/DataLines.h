@@ -17,14 +17,17 @@
 
 namespace tarnview {
 
-/// The data lines of a Universal log into rows of the store. Some lines are gathered and then read column by column:
-/// the fields of a column are much alike, and the processor reads several at a time.
+/// The data lines of a Universal log into rows of the store. Some lines are gathered and then read
+/// column by column: the fields of a column are much alike, and the processor reads several at a
+/// time.
 class DataLines {
  public:
   /// `bytes` holds all lines to come.
-  DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes, SampleStore& store);
+  DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes,
+            SampleStore& store);
 
-  /// The next row. Where the definition tells the form of a log, a line that holds no sample is none.
+  /// The next row. Where the definition tells the form of a log, a line that holds no sample is
+  /// none.
   void Read(std::string_view line);
   /// Rows read so far.
   int Rows() const { return store_.Rows() + static_cast<int>(block_.Lines()); }
@@ -47,7 +50,8 @@ class DataLines {
   void ReadSpans(std::size_t field, Numbers& spans);
   void ReadMoments(std::size_t field, Numbers& moments);
   void StoreNumbers(const FieldTarget& target, std::size_t field, Cells& cells) const;
-  void StoreValues(const FieldTarget& target, std::size_t field, Numbers& values, std::size_t rows, Cells& cells) const;
+  void StoreValues(const FieldTarget& target, std::size_t field, Numbers& values, std::size_t rows,
+                   Cells& cells) const;
   void StoreListed(const FieldTarget& target, std::size_t field, Cells& cells) const;
   /// A line of the block lacks the field.
   bool Ragged(std::size_t field) const { return field >= block_.FewestFields(); }

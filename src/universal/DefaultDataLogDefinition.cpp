@@ -173,11 +173,14 @@ clsDataLog DefaultDataLogDefinition() {
   definition.dblLineFrequency = 10;
   definition.strVersion = "1.00";
   definition.strComments =
-      "For use with data logs generated from Hydra Nemesis ECU software version x for Mazda MX-5 Miata"
+      "For use with data logs generated from Hydra Nemesis ECU software version x for Mazda MX-5 "
+      "Miata"
       " (www.hydraems.com)";
   for (const ColumnRow& row : kColumns) definition.objColumns.AddDirect(ColumnOf(row));
-  for (const SampleRow& row : SampleRows()) definition.objPresetSampleGraphs.AddDirect(PresetOf(row));
-  for (const ScatterRow& row : kScatterRows) definition.objPresetScatterGraphs.AddDirect(PresetOf(row));
+  for (const SampleRow& row : SampleRows())
+    definition.objPresetSampleGraphs.AddDirect(PresetOf(row));
+  for (const ScatterRow& row : kScatterRows)
+    definition.objPresetScatterGraphs.AddDirect(PresetOf(row));
   return definition;
 }
 

@@ -112,7 +112,9 @@ void Read(std::int32_t& value, std::string_view text, Limits limits) {
 }
 void Read(double& value, std::string_view text, Limits) { value = ValDouble(text); }
 void Read(bool& value, std::string_view text, Limits) { value = SameIgnoringCase(text, "Y"); }
-void Read(Clamped<kPlainNumber, kDateAndTime>& value, std::string_view text, Limits) { value = StringToLong(text); }
+void Read(Clamped<kPlainNumber, kDateAndTime>& value, std::string_view text, Limits) {
+  value = StringToLong(text);
+}
 
 template <class T>
 void Read(Settable<T>& value, std::string_view text, Limits limits) {
@@ -127,14 +129,16 @@ void Read(std::vector<int>& value, std::string_view text, Limits limits) {
   std::vector<bool> seen(static_cast<std::size_t>(limits.most) + 1);
   for (const std::string& part : Split(text, ',')) {
     const int number = StringToLong(part);
-    if (number < limits.least || number > limits.most || seen[static_cast<std::size_t>(number)]) continue;
+    if (number < limits.least || number > limits.most || seen[static_cast<std::size_t>(number)])
+      continue;
     seen[static_cast<std::size_t>(number)] = true;
     value.push_back(number);
   }
 }
 
 template <class Block>
-void Set(Block& block, std::span<const Attribute<Block>> attributes, std::string_view key, std::string_view text) {
+void Set(Block& block, std::span<const Attribute<Block>> attributes, std::string_view key,
+         std::string_view text) {
   for (const auto& attribute : attributes)
     if (SameIgnoringCase(attribute.key, key))
       return std::visit(

@@ -28,7 +28,8 @@ struct Check {
 template <class Subject>
 void Run(std::span<const Check<Subject>> checks, const Subject& subject) {
   for (const auto& check : checks)
-    if (check.fails(subject)) throw DefinitionFault(check.message, DetailText(check.detail(subject)));
+    if (check.fails(subject))
+      throw DefinitionFault(check.message, DetailText(check.detail(subject)));
 }
 
 // The header.
@@ -39,7 +40,8 @@ struct HeaderBlock {
 };
 
 bool LacksHeaderData(const HeaderBlock& h) {
-  return h.log.strName.empty() || h.log.strFileExtension.empty() || h.log.lngDelimiterAsciiCharacter < 1;
+  return h.log.strName.empty() || h.log.strFileExtension.empty() ||
+         h.log.lngDelimiterAsciiCharacter < 1;
 }
 bool HasBadExtension(const HeaderBlock& h) {
   return h.log.strFileExtension.find_first_of("\"\\/:*?<>|") != std::string::npos;
@@ -53,7 +55,8 @@ bool HasNoTime(const HeaderBlock& h) {
 constexpr Check<HeaderBlock> kHeaderChecks[] = {
     {Message::HeaderIncomplete, LacksHeaderData,
      [](const HeaderBlock& h) {
-       return Texts{h.path, Line("File Name: ", h.log.strName), Line("File Extension: ", h.log.strFileExtension),
+       return Texts{h.path, Line("File Name: ", h.log.strName),
+                    Line("File Extension: ", h.log.strFileExtension),
                     Line("Delimiter ASCII Character: ", h.log.lngDelimiterAsciiCharacter)};
      }},
     {Message::BadFileExtension, HasBadExtension,
@@ -77,22 +80,25 @@ struct ColumnBlock {
 };
 
 bool IsIncomplete(const ColumnBlock& c) {
-  return c.it.strName.empty() || c.it.strDescription.empty() || c.it.strColumnTitle.empty() || c.it.lngDataItemID < 1 ||
-         c.it.lngType < 1 || !c.it.lngColumnDecimalPlaces.IsSet();
+  return c.it.strName.empty() || c.it.strDescription.empty() || c.it.strColumnTitle.empty() ||
+         c.it.lngDataItemID < 1 || c.it.lngType < 1 || !c.it.lngColumnDecimalPlaces.IsSet();
 }
 /// The program numbers the samples itself.
 bool FeedsSample(const ColumnBlock& c) { return c.it.lngDataItemID == ItemOf(kSample); }
 bool HasNoRange(const ColumnBlock& c) {
-  return c.it.dblMinValue.IsSet() && c.it.dblMaxValue.IsSet() && c.it.dblMinValue > c.it.dblMaxValue;
+  return c.it.dblMinValue.IsSet() && c.it.dblMaxValue.IsSet() &&
+         c.it.dblMinValue > c.it.dblMaxValue;
 }
 bool FeedsNoItem(const ColumnBlock& c) {
-  const bool own = c.ownItems && c.it.lngDataItemID >= kFirstOwnItem && c.it.lngDataItemID <= kLastOwnItem;
+  const bool own =
+      c.ownItems && c.it.lngDataItemID >= kFirstOwnItem && c.it.lngDataItemID <= kLastOwnItem;
   return c.it.lngDataItemID > c.catalogue.Count() && !own;
 }
 
 /// The program calculates with these, so that their kind must stay.
-constexpr int kItemsOfFixedKind[] = {ItemOf(kSample), ItemOf(kRPM),   ItemOf(kCTemp),  ItemOf(kSpeed),
-                                     ItemOf(kATemp),  ItemOf(kPower), ItemOf(kTorque), ItemOf(kSecs)};
+constexpr int kItemsOfFixedKind[] = {ItemOf(kSample), ItemOf(kRPM),   ItemOf(kCTemp),
+                                     ItemOf(kSpeed),  ItemOf(kATemp), ItemOf(kPower),
+                                     ItemOf(kTorque), ItemOf(kSecs)};
 
 bool HasWrongKind(const ColumnBlock& c) {
   if (std::find(std::begin(kItemsOfFixedKind), std::end(kItemsOfFixedKind), c.it.lngDataItemID) ==
@@ -116,17 +122,19 @@ Texts NameAndItem(const ColumnBlock& c) {
 constexpr Check<ColumnBlock> kColumnChecks[] = {
     {Message::ColumnIncomplete, IsIncomplete,
      [](const ColumnBlock& c) {
-       return Texts{Line("Column Name: ", c.it.strName),
-                    Line("Column Title: ", c.it.strColumnTitle),
-                    Line("Description: ", c.it.strDescription),
-                    Line("Data Item ID: ", c.it.lngDataItemID),
-                    Line("Column Data Type: ", c.it.lngType),
-                    Line("Column Decimal Places Set: ", c.it.lngColumnDecimalPlaces.IsSet() ? "Y" : "N")};
+       return Texts{
+           Line("Column Name: ", c.it.strName),
+           Line("Column Title: ", c.it.strColumnTitle),
+           Line("Description: ", c.it.strDescription),
+           Line("Data Item ID: ", c.it.lngDataItemID),
+           Line("Column Data Type: ", c.it.lngType),
+           Line("Column Decimal Places Set: ", c.it.lngColumnDecimalPlaces.IsSet() ? "Y" : "N")};
      }},
     {Message::DataItemCannotBeUsed, FeedsSample, NameAndItem},
     {Message::NoValidRange, HasNoRange,
      [](const ColumnBlock& c) {
-       return Texts{Line("Column Name: ", c.it.strName), Line("Minimum: ", c.it.dblMinValue.Value()),
+       return Texts{Line("Column Name: ", c.it.strName),
+                    Line("Minimum: ", c.it.dblMinValue.Value()),
                     Line("Maximum: ", c.it.dblMaxValue.Value())};
      }},
     {Message::DataItemOfDefinitionNotFound, FeedsNoItem, NameAndItem},
@@ -134,7 +142,8 @@ constexpr Check<ColumnBlock> kColumnChecks[] = {
      [](const ColumnBlock& c) {
        // The last is the type that a column of this type requires of its item.
        return Texts{Line("Column Name: ", c.it.strName), Line("Data Item ID: ", c.it.lngDataItemID),
-                    Line("Column Data Type: ", c.it.lngType), Line("Data Item Type: ", c.it.lngType)};
+                    Line("Column Data Type: ", c.it.lngType),
+                    Line("Data Item Type: ", c.it.lngType)};
      }},
     {Message::ValuesNotAllowed, HasValuesButIsNumeric, NameOfColumn},
     {Message::NoColumnValues, LacksValues, NameOfColumn},
@@ -169,7 +178,8 @@ constexpr Check<SampleGraphBlock> kSampleGraphChecks[] = {
     {Message::SampleItemNotInDefinition,
      [](const SampleGraphBlock& s) { return ForeignItem(s) != s.it.colDataItems.end(); },
      [](const SampleGraphBlock& s) {
-       return Texts{s.known.path, Line("Name: ", s.it.strName), Line("Data Item ID: ", *ForeignItem(s))};
+       return Texts{s.known.path, Line("Name: ", s.it.strName),
+                    Line("Data Item ID: ", *ForeignItem(s))};
      }},
 };
 
@@ -180,7 +190,8 @@ struct FilterBlock {
   Known known;
 
   Texts Lines() const {
-    return {known.path, Line("Scatter Graph Name: ", preset.strName), Line("Filter Data Item ID: ", it.lngDataItemSeq)};
+    return {known.path, Line("Scatter Graph Name: ", preset.strName),
+            Line("Filter Data Item ID: ", it.lngDataItemSeq)};
   }
 };
 
@@ -190,23 +201,29 @@ Texts With(Texts lines, const std::string& line) {
 }
 
 /// A filter whose only bound is 0 or below is refused as well: kept on purpose.
-bool HasNoBound(const FilterBlock& f) { return f.it.lngDataItemSeq < 1 || (f.it.dblFrom <= 0 && f.it.dblTo <= 0); }
+bool HasNoBound(const FilterBlock& f) {
+  return f.it.lngDataItemSeq < 1 || (f.it.dblFrom <= 0 && f.it.dblTo <= 0);
+}
 
 /// The entries of a file's value list are numbered 0, 1, 2.
 bool IsNoListedValue(const FilterBlock& f) {
-  return f.values &&
-         !(f.it.dblFrom >= 0 && f.it.dblFrom < f.values->Count() && f.it.dblFrom == std::floor(f.it.dblFrom));
+  return f.values && !(f.it.dblFrom >= 0 && f.it.dblFrom < f.values->Count() &&
+                       f.it.dblFrom == std::floor(f.it.dblFrom));
 }
 
 constexpr Check<FilterBlock> kFilterChecks[] = {
     {Message::BadScatterFilter, HasNoBound,
      [](const FilterBlock& f) {
-       return With(With(f.Lines(), Line("Filter From Value: ", f.it.dblFrom)), Line("Filter To Value: ", f.it.dblTo));
+       return With(With(f.Lines(), Line("Filter From Value: ", f.it.dblFrom)),
+                   Line("Filter To Value: ", f.it.dblTo));
      }},
-    {Message::FilterItemNotInDefinition, [](const FilterBlock& f) { return f.known.Lacks(f.it.lngDataItemSeq); },
+    {Message::FilterItemNotInDefinition,
+     [](const FilterBlock& f) { return f.known.Lacks(f.it.lngDataItemSeq); },
      [](const FilterBlock& f) { return f.Lines(); }},
     {Message::FilterValueNotInList, IsNoListedValue,
-     [](const FilterBlock& f) { return With(f.Lines(), Line("Filter From Value: ", f.it.dblFrom)); }},
+     [](const FilterBlock& f) {
+       return With(f.Lines(), Line("Filter From Value: ", f.it.dblFrom));
+     }},
 };
 
 struct ScatterGraphBlock {
@@ -219,7 +236,8 @@ struct ScatterGraphBlock {
 };
 
 bool IsIncompleteScatter(const ScatterGraphBlock& s) {
-  return s.it.lngPointSize < 1 || s.it.lngXAxisDataItem < 1 || s.it.lngYAxisDataItem < 1 || s.it.strName.empty();
+  return s.it.lngPointSize < 1 || s.it.lngXAxisDataItem < 1 || s.it.lngYAxisDataItem < 1 ||
+         s.it.strName.empty();
 }
 
 constexpr Check<ScatterGraphBlock> kScatterGraphChecks[] = {
@@ -227,9 +245,11 @@ constexpr Check<ScatterGraphBlock> kScatterGraphChecks[] = {
      [](const ScatterGraphBlock& s) {
        return With(With(With(s.Lines(), Line("Point Size: ", s.it.lngPointSize)), s.X()), s.Y());
      }},
-    {Message::XAxisItemNotInDefinition, [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngXAxisDataItem); },
+    {Message::XAxisItemNotInDefinition,
+     [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngXAxisDataItem); },
      [](const ScatterGraphBlock& s) { return With(s.Lines(), s.X()); }},
-    {Message::YAxisItemNotInDefinition, [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngYAxisDataItem); },
+    {Message::YAxisItemNotInDefinition,
+     [](const ScatterGraphBlock& s) { return s.known.Lacks(s.it.lngYAxisDataItem); },
      [](const ScatterGraphBlock& s) { return With(s.Lines(), s.Y()); }},
 };
 
@@ -245,7 +265,8 @@ void CheckTime(const clsDataLog& definition, const std::string& path) {
   Run<HeaderBlock>(kTimeChecks, {definition, path});
 }
 
-void CheckColumn(const clsDataLogColumn& column, const clsDataLog& definition, const clsLogDataItems& catalogue) {
+void CheckColumn(const clsDataLogColumn& column, const clsDataLog& definition,
+                 const clsLogDataItems& catalogue) {
   Run<ColumnBlock>(kColumnChecks, {column, catalogue, definition.blnOwnDataItems});
 }
 
@@ -254,8 +275,9 @@ void CheckSampleGraph(const clsSampleGraphPreset& preset, const clsDataLog& defi
   Run<SampleGraphBlock>(kSampleGraphChecks, {preset, {definition, catalogue, path}});
 }
 
-void CheckFilter(const clsScatterFilter& filter, const clsScatterGraphPreset& preset, const clsDataLog& definition,
-                 const clsDataLogColumnValues* values, const clsLogDataItems& catalogue, const std::string& path) {
+void CheckFilter(const clsScatterFilter& filter, const clsScatterGraphPreset& preset,
+                 const clsDataLog& definition, const clsDataLogColumnValues* values,
+                 const clsLogDataItems& catalogue, const std::string& path) {
   Run<FilterBlock>(kFilterChecks, {filter, preset, values, {definition, catalogue, path}});
 }
 

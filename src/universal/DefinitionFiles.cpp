@@ -22,7 +22,8 @@ clsDataLog DefinitionFiles::Load(const std::string& path) {
   return ReadDataLogDefinition(*text, path, catalogue_);
 }
 
-std::optional<clsDataLog> DefinitionFiles::LoadDataLogDefinition(const std::string& strFileName, bool blnQuiet) {
+std::optional<clsDataLog> DefinitionFiles::LoadDataLogDefinition(const std::string& strFileName,
+                                                                 bool blnQuiet) {
   const auto fail = [&](Message message, const RuntimeError& error) {
     if (!blnQuiet) tell_(message, error.what());
     errors_.LogError("modUniversal", "LoadDataLogDefinition", error, false);
@@ -48,7 +49,8 @@ std::vector<DefinitionChoice> DefinitionFiles::GenericFileLocation(const std::st
   std::vector<DefinitionChoice> choices;
   for (const std::string& name : files_.List(folder, "*.txt")) {
     const std::string path = AddBackslash(folder) + name;
-    if (const auto definition = LoadDataLogDefinition(path, true)) choices.push_back({definition->strName, path});
+    if (const auto definition = LoadDataLogDefinition(path, true))
+      choices.push_back({definition->strName, path});
   }
   return choices;
 }

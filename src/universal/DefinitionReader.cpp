@@ -11,10 +11,12 @@
 namespace tarnview {
 namespace {
 
-constexpr std::string_view kDefinition = "[DATALOGDEFINITION]", kColumn = "[COLUMN]", kValues = "[VALUES]",
-                           kSampleGraph = "[SAMPLE GRAPH]", kScatterGraph = "[SCATTER GRAPH]", kFilter = "[FILTER]";
+constexpr std::string_view kDefinition = "[DATALOGDEFINITION]", kColumn = "[COLUMN]",
+                           kValues = "[VALUES]", kSampleGraph = "[SAMPLE GRAPH]",
+                           kScatterGraph = "[SCATTER GRAPH]", kFilter = "[FILTER]";
 
-/// The place of the "=" that makes a line an attribute: behind a key and before a value; npos if it is none.
+/// The place of the "=" that makes a line an attribute: behind a key and before a value; npos if it
+/// is none.
 std::size_t Equals(std::string_view line) {
   const auto at = line.find('=');
   return at == 0 || at + 1 == line.size() ? std::string_view::npos : at;
@@ -25,16 +27,19 @@ template <class Block>
 bool ReadAttribute(Block& block, std::string_view line) {
   const auto at = Equals(line);
   if (at == std::string_view::npos) return false;
-  SetAttribute(block, TrimControlCharacters(line.substr(0, at)), TrimControlCharacters(line.substr(at + 1)));
+  SetAttribute(block, TrimControlCharacters(line.substr(0, at)),
+               TrimControlCharacters(line.substr(at + 1)));
   return true;
 }
 
-/// In the blocks of presets blanks before the "=" belong to the key, and what is no attribute is passed over.
+/// In the blocks of presets blanks before the "=" belong to the key, and what is no attribute is
+/// passed over.
 template <class Block>
 void ReadPresetAttribute(Block& block, std::string_view line) {
   line = Trim(line);
   const auto at = Equals(line);
-  if (at != std::string_view::npos) SetAttribute(block, line.substr(0, at), Trim(line.substr(at + 1)));
+  if (at != std::string_view::npos)
+    SetAttribute(block, line.substr(0, at), Trim(line.substr(at + 1)));
 }
 
 class Reader {
@@ -53,12 +58,16 @@ class Reader {
  private:
   std::string_view Line() const { return lines_.Current(); }
   bool Is(std::string_view section) const { return SameIgnoringCase(Line(), section); }
-  /// The current line starts a block of that kind. A section line that ends the file starts nothing.
+  /// The current line starts a block of that kind. A section line that ends the file starts
+  /// nothing.
   bool Starts(std::string_view section) const { return Is(section) && !lines_.AtEnd(); }
-  [[noreturn]] void Fail(Message message) const { throw DefinitionFault(message, std::string(Line())); }
+  [[noreturn]] void Fail(Message message) const {
+    throw DefinitionFault(message, std::string(Line()));
+  }
 
   void ReadHeader() {
-    if (lines_.AtEnd() || !SameIgnoringCase(lines_.Next(), kDefinition)) Fail(Message::NoHeaderDefinition);
+    if (lines_.AtEnd() || !SameIgnoringCase(lines_.Next(), kDefinition))
+      Fail(Message::NoHeaderDefinition);
     while (!lines_.AtEnd()) {
       lines_.Next();
       // The line that ends the file is not looked at: kept on purpose.
@@ -115,7 +124,8 @@ class Reader {
       if (Is(kSampleGraph) || Is(kScatterGraph)) break;
       ReadPresetAttribute(preset, Line());
     }
-    if (!definition_.blnOwnDataItems) std::erase_if(preset.colDataItems, [](int item) { return item > kColumnCount; });
+    if (!definition_.blnOwnDataItems)
+      std::erase_if(preset.colDataItems, [](int item) { return item > kColumnCount; });
     CheckSampleGraph(preset, definition_, catalogue_, path_);
     preset.lngLogFamily = kUniversalLogFamily;
     definition_.objPresetSampleGraphs.AddDirect(std::move(preset));
@@ -163,7 +173,8 @@ class Reader {
 
 }  // namespace
 
-clsDataLog ReadDataLogDefinition(std::string_view text, const std::string& path, const clsLogDataItems& catalogue) {
+clsDataLog ReadDataLogDefinition(std::string_view text, const std::string& path,
+                                 const clsLogDataItems& catalogue) {
   return Reader(text, path, catalogue).Read();
 }
 

@@ -27,7 +27,9 @@ std::string TextOf(double value) {
   return text;
 }
 std::string TextOf(bool value) { return value ? "Y" : "N"; }
-std::string TextOf(const Clamped<kPlainNumber, kDateAndTime>& value) { return std::to_string(std::int32_t{value}); }
+std::string TextOf(const Clamped<kPlainNumber, kDateAndTime>& value) {
+  return std::to_string(std::int32_t{value});
+}
 std::string TextOf(const std::vector<int>& values) {
   std::string text;
   for (const int value : values) text += (text.empty() ? "" : ",") + std::to_string(value);
@@ -74,7 +76,8 @@ void WriteColumn(std::string& out, const clsDataLogColumn& column) {
   WriteBlock(out, "[COLUMN]", column, ColumnAttributes());
   if (column.objColumnValues->Count() == 0) return;
   out += std::string("[VALUES]") + kLineEnd;
-  for (const auto& value : *column.objColumnValues) out += TextOf(value->strDataLogValue) + kLineEnd;
+  for (const auto& value : *column.objColumnValues)
+    out += TextOf(value->strDataLogValue) + kLineEnd;
 }
 
 }  // namespace
@@ -84,15 +87,19 @@ std::string DefinitionFileText(const clsDataLog& definition) {
   WriteBlock(out, "[DATALOGDEFINITION]", definition, HeaderAttributes());
   for (const clsDataLogColumn& column : definition.objColumns) WriteColumn(out, column);
   for (int n = 1; n <= definition.objPresetSampleGraphs.Count(); ++n)
-    WriteBlock(out, "[SAMPLE GRAPH]", definition.objPresetSampleGraphs.Item(n), SampleGraphAttributes());
+    WriteBlock(out, "[SAMPLE GRAPH]", definition.objPresetSampleGraphs.Item(n),
+               SampleGraphAttributes());
   for (int n = 1; n <= definition.objPresetScatterGraphs.Count(); ++n) {
     const clsScatterGraphPreset& preset = definition.objPresetScatterGraphs.Item(n);
     WriteBlock(out, "[SCATTER GRAPH]", preset, ScatterGraphAttributes());
-    for (const clsScatterFilter& filter : preset.objFilters) WriteBlock(out, "[FILTER]", filter, FilterAttributes());
+    for (const clsScatterFilter& filter : preset.objFilters)
+      WriteBlock(out, "[FILTER]", filter, FilterAttributes());
   }
-  // The reader does not look at the line that ends a file; behind a value list an empty one would be an entry.
+  // The reader does not look at the line that ends a file; behind a value list an empty one would
+  // be an entry.
   const clsDataLogColumns& columns = definition.objColumns;
-  const bool list = columns.Count() > 0 && columns.Item(columns.Count()).objColumnValues->Count() > 0;
+  const bool list =
+      columns.Count() > 0 && columns.Item(columns.Count()).objColumnValues->Count() > 0;
   return list ? out : out + kLineEnd;
 }
 

@@ -11,7 +11,8 @@ namespace {
 
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// "y", "m", "d" stand for a digit of a year, month, day; "N" for a letter of a month's name; the rest for itself.
+/// "y", "m", "d" stand for a digit of a year, month, day; "N" for a letter of a month's name; the
+/// rest for itself.
 constexpr std::string_view kDateForms[] = {"yyyy-mm-dd", "yyyy/mm/dd", "dd-NNN-yyyy", "dd/mm/yyyy"};
 constexpr std::string_view kTimeForm = "hh:nn:ss";
 constexpr std::string_view kMonths = "JANFEBMARAPRMAYJUNJULAUGSEPOCTNOVDEC";
@@ -42,7 +43,8 @@ int MonthOf(std::string_view text, std::string_view form) {
 std::optional<Date> ParseDay(std::string_view text) {
   for (const auto form : kDateForms) {
     if (!Fits(text, form)) continue;
-    const int year = Part(text, form, 'y'), month = MonthOf(text, form), day = Part(text, form, 'd');
+    const int year = Part(text, form, 'y'), month = MonthOf(text, form),
+              day = Part(text, form, 'd');
     if (month < 1 || month > 12 || day < 1 || year < 100) return std::nullopt;
     const bool inMonth = day <= MakeDate(year, month + 1, 1) - MakeDate(year, month, 1);
     return inMonth ? std::optional(MakeDate(year, month, day)) : std::nullopt;
@@ -53,7 +55,8 @@ std::optional<Date> ParseDay(std::string_view text) {
 /// 0 for no fraction; nothing for what is none.
 std::optional<double> ParseFraction(std::string_view text) {
   if (text.empty()) return 0;
-  if (text.size() < 2 || text[0] != '.' || !std::all_of(text.begin() + 1, text.end(), IsDigit)) return std::nullopt;
+  if (text.size() < 2 || text[0] != '.' || !std::all_of(text.begin() + 1, text.end(), IsDigit))
+    return std::nullopt;
   return ValDouble(text);
 }
 

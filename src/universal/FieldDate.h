@@ -16,9 +16,9 @@ struct FieldMoment {
   }
 };
 
-/// A date and time as loggers write them: "yyyy-mm-dd", "yyyy/mm/dd", "dd-mmm-yyyy" or "dd/mm/yyyy", a blank, and
-/// "hh:mm:ss" with any fraction of a second; or either alone. Nothing for any other text. Blanks at the ends are let
-/// be.
+/// A date and time as loggers write them: "yyyy-mm-dd", "yyyy/mm/dd", "dd-mmm-yyyy" or
+/// "dd/mm/yyyy", a blank, and "hh:mm:ss" with any fraction of a second; or either alone. Nothing
+/// for any other text. Blanks at the ends are let be.
 std::optional<FieldMoment> ParseFieldMoment(std::string_view text);
 
 }  // namespace tarnview

@@ -13,12 +13,14 @@ struct Delimiter {
 };
 
 constexpr Delimiter kDelimiters[] = {
-    {'\t', "tab", 1}, {';', "semicolon", 1}, {',', "comma", 1}, {'|', "bar", 1}, {' ', "blanks", 0.7},
+    {'\t', "tab", 1}, {';', "semicolon", 1}, {',', "comma", 1},
+    {'|', "bar", 1},  {' ', "blanks", 0.7},
 };
 
 constexpr std::size_t kMostLines = 300;
 
-/// The last quarter of the lines, where titles and notes are behind; four at least, so that a short log counts.
+/// The last quarter of the lines, where titles and notes are behind; four at least, so that a short
+/// log counts.
 std::vector<std::string_view> LinesToJudge(const std::vector<std::string_view>& lines) {
   std::vector<std::string_view> judged;
   const std::size_t count =
@@ -31,13 +33,15 @@ std::vector<std::string_view> LinesToJudge(const std::vector<std::string_view>& 
 bool AnyQuoted(const std::vector<std::string_view>& lines, char delimiter) {
   return std::any_of(lines.begin(), lines.end(), [&](std::string_view line) {
     const auto quote = line.find('"');
-    if (quote == std::string_view::npos || line.find('"', quote + 1) == std::string_view::npos) return false;
+    if (quote == std::string_view::npos || line.find('"', quote + 1) == std::string_view::npos)
+      return false;
     const auto before = line.find_last_not_of(' ', quote == 0 ? 0 : quote - 1);
     return quote == 0 || before == std::string_view::npos || line[before] == delimiter;
   });
 }
 
-/// Which sign the numbers of the fields have for the point. Where the comma cuts fields it is none, quoted ones aside.
+/// Which sign the numbers of the fields have for the point. Where the comma cuts fields it is none,
+/// quoted ones aside.
 char DecimalSignOf(const std::vector<std::string_view>& lines, FieldForm form) {
   int commas = 0, points = 0;
   for (const std::string_view line : lines) {
@@ -57,9 +61,11 @@ char DecimalSignOf(const std::vector<std::string_view>& lines, FieldForm form) {
 /// The number of fields that most lines have, and how many lines those are.
 std::pair<int, int> UsualFields(const std::vector<std::string_view>& lines, const FieldForm& form) {
   std::map<int, int> counts;
-  for (const std::string_view line : lines) ++counts[static_cast<int>(SplitShapeLine(line, form).size())];
+  for (const std::string_view line : lines)
+    ++counts[static_cast<int>(SplitShapeLine(line, form).size())];
   const auto most =
-      std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+      std::max_element(counts.begin(), counts.end(),
+                       [](const auto& a, const auto& b) { return a.second < b.second; });
   return most == counts.end() ? std::pair<int, int>(0, 0) : std::pair<int, int>(*most);
 }
 
@@ -90,7 +96,8 @@ FieldFormGuess Judge(const std::vector<std::string_view>& lines, const Delimiter
   guess.form.decimalSign = decimalSign ? *decimalSign : DecimalSignOf(lines, guess.form);
   guess.regularity = static_cast<double>(often) / static_cast<double>(lines.size());
   guess.numeric = NumericShare(lines, guess.form, usual);
-  guess.score = static_cast<int>(100 * delimiter.trust * guess.regularity * guess.numeric * (1 - 0.2 / usual));
+  guess.score = static_cast<int>(100 * delimiter.trust * guess.regularity * guess.numeric *
+                                 (1 - 0.2 / usual));
   return guess;
 }
 

@@ -19,7 +19,8 @@ struct FieldFormGuess {
 
 /// From lines that are, for the most part, data: the first ones may be anything.
 /// What is given of the form is taken as it is.
-FieldFormGuess GuessFieldForm(const std::vector<std::string_view>& lines, std::optional<char> delimiter = {},
+FieldFormGuess GuessFieldForm(const std::vector<std::string_view>& lines,
+                              std::optional<char> delimiter = {},
                               std::optional<char> decimalSign = {});
 
 /// "comma", "semicolon", "tab", "bar" or "blanks".

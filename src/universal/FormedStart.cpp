@@ -17,17 +17,23 @@ namespace {
 
 constexpr int kMostLinesBeforeTitles = 5000;
 
-bool IsUtf8(const clsDataLog& definition) { return EncodingOfName(definition.strEncoding) == TextEncoding::Utf8; }
+bool IsUtf8(const clsDataLog& definition) {
+  return EncodingOfName(definition.strEncoding) == TextEncoding::Utf8;
+}
 
-/// The titles of a line. Where they are more than the fields of a line of data, brackets are taken to hold delimiters.
-std::vector<std::string> TitlesOfLine(std::string_view line, std::size_t fieldsOfData, const clsDataLog& definition) {
-  const std::string decoded = IsUtf8(definition) ? PlainBytes(line, TextEncoding::Utf8) : std::string(line);
+/// The titles of a line. Where they are more than the fields of a line of data, brackets are taken
+/// to hold delimiters.
+std::vector<std::string> TitlesOfLine(std::string_view line, std::size_t fieldsOfData,
+                                      const clsDataLog& definition) {
+  const std::string decoded =
+      IsUtf8(definition) ? PlainBytes(line, TextEncoding::Utf8) : std::string(line);
   std::string_view text = decoded;
   text.remove_prefix(TitleMarkOf(text).size());
   const auto fields = SplitFields(text, definition.lngDelimiterAsciiCharacter);
   const char delimiter = static_cast<char>(definition.lngDelimiterAsciiCharacter);
   std::vector<std::string> titles(fields.begin(), fields.end());
-  if (auto joined = JoinInBrackets(fields, delimiter); fields.size() > fieldsOfData && joined.size() >= fieldsOfData)
+  if (auto joined = JoinInBrackets(fields, delimiter);
+      fields.size() > fieldsOfData && joined.size() >= fieldsOfData)
     titles = std::move(joined);
   for (std::string& title : titles) {
     std::replace(title.begin(), title.end(), kQuotedDelimiter, delimiter);
@@ -38,11 +44,13 @@ std::vector<std::string> TitlesOfLine(std::string_view line, std::size_t fieldsO
 
 /// The line begins with the titles that the definition wants in front.
 bool StartsWithTitles(std::string_view line, const clsDataLog& definition) {
-  const auto wanted = Split(definition.strTitlesStart, static_cast<char>(definition.lngDelimiterAsciiCharacter));
+  const auto wanted =
+      Split(definition.strTitlesStart, static_cast<char>(definition.lngDelimiterAsciiCharacter));
   const auto found = TitlesOfLine(line, wanted.size(), definition);
   if (found.size() < wanted.size()) return false;
-  return std::equal(wanted.begin(), wanted.end(), found.begin(),
-                    [](const std::string& a, const std::string& b) { return SameIgnoringCase(Trim(a), b); });
+  return std::equal(
+      wanted.begin(), wanted.end(), found.begin(),
+      [](const std::string& a, const std::string& b) { return SameIgnoringCase(Trim(a), b); });
 }
 
 /// Leaves `text` at the line of titles; false where no line starts as it is told.
@@ -64,7 +72,8 @@ std::size_t FieldsOfFirstLine(std::string_view data, const clsDataLog& definitio
   return SplitFields(line, definition.lngDelimiterAsciiCharacter).size();
 }
 
-/// The preamble's channels behind a clock. All lines count as data: those without a clock's time are no samples.
+/// The preamble's channels behind a clock. All lines count as data: those without a clock's time
+/// are no samples.
 LogStart StartOfChannels(std::string_view text) {
   LogStart start;
   const auto channels = ReadChannelBlocks(LinesOf(text.substr(0, ShapeText::kHead)), "CHANNEL");
@@ -74,30 +83,36 @@ LogStart StartOfChannels(std::string_view text) {
   return start;
 }
 
-LogStart StartWithoutTitles(std::string_view text, const clsDataLog& definition, const std::string& path) {
-  if (!SkipFileLines(text, definition.lngDataLinesBefore)) throw DefinitionFault(Message::FileNotLoaded, path);
+LogStart StartWithoutTitles(std::string_view text, const clsDataLog& definition,
+                            const std::string& path) {
+  if (!SkipFileLines(text, definition.lngDataLinesBefore))
+    throw DefinitionFault(Message::FileNotLoaded, path);
   LogStart start;
   start.titles.resize(FieldsOfFirstLine(text, definition));
   start.data = text;
   return start;
 }
 
-LogStart StartAtTitles(std::string_view text, const clsDataLog& definition, const std::string& path) {
+LogStart StartAtTitles(std::string_view text, const clsDataLog& definition,
+                       const std::string& path) {
   const bool found = !definition.strTitlesStart.empty() && FindTitles(text, definition);
   if (!found && (!SkipFileLines(text, definition.lngColumnHeadersLinesBefore) || text.empty()))
     throw DefinitionFault(Message::HeaderIncomplete, path);
   LogStart start;
   start.data = text;
   start.titleLine = TextLines(text).Next();
-  const long toData = std::max(definition.lngDataLinesBefore - definition.lngColumnHeadersLinesBefore, 1);
+  const long toData =
+      std::max(definition.lngDataLinesBefore - definition.lngColumnHeadersLinesBefore, 1);
   if (!SkipFileLines(start.data, toData)) throw DefinitionFault(Message::FileNotLoaded, path);
-  start.titles = TitlesOfLine(start.titleLine, FieldsOfFirstLine(start.data, definition), definition);
+  start.titles =
+      TitlesOfLine(start.titleLine, FieldsOfFirstLine(start.data, definition), definition);
   return start;
 }
 
 }  // namespace
 
-LogStart FindFormedStart(std::string_view text, const clsDataLog& definition, const std::string& path) {
+LogStart FindFormedStart(std::string_view text, const clsDataLog& definition,
+                         const std::string& path) {
   LogStart start;
   if (SameIgnoringCase(definition.strTitlesFrom, "CHANNELS"))
     start = StartOfChannels(text);
@@ -110,7 +125,8 @@ LogStart FindFormedStart(std::string_view text, const clsDataLog& definition, co
   return start;
 }
 
-std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fields, char delimiter) {
+std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fields,
+                                        char delimiter) {
   std::vector<std::string> joined;
   int open = 0;
   for (const std::string_view field : fields) {

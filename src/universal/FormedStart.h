@@ -15,12 +15,15 @@ struct LogStart {
   std::string_view data;            ///< the lines of samples; others may stand between them
 };
 
-/// For a log whose definition tells its form; `text` is what PlainLog makes of it. Raises a DefinitionFault where the
-/// lines that the definition counts are not there; `path` is the log's.
-LogStart FindFormedStart(std::string_view text, const clsDataLog& definition, const std::string& path);
+/// For a log whose definition tells its form; `text` is what PlainLog makes of it. Raises a
+/// DefinitionFault where the lines that the definition counts are not there; `path` is the log's.
+LogStart FindFormedStart(std::string_view text, const clsDataLog& definition,
+                         const std::string& path);
 
-/// Titles may hold a delimiter between brackets that nobody quoted: "Torque (lb, ft)". Such parts are joined again.
-std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fields, char delimiter);
+/// Titles may hold a delimiter between brackets that nobody quoted: "Torque (lb, ft)". Such parts
+/// are joined again.
+std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fields,
+                                        char delimiter);
 
 /// Signs such as "#" or "%" and blanks in front of the first title.
 std::string_view TitleMarkOf(std::string_view line);

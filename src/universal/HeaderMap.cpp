@@ -27,7 +27,8 @@ std::optional<int> TensOf(double factor) {
 
 ValueLookup::ValueLookup(const clsDataLogColumnValues& values) {
   for (const auto& value : values) {
-    translations_.emplace(CaseKey(value->strDataLogValue), value->lngDataLogTranslation);  // the first of a text stays
+    translations_.emplace(CaseKey(value->strDataLogValue),
+                          value->lngDataLogTranslation);  // the first of a text stays
     longest_ = std::max(longest_, kMostForOne * value->strDataLogValue.size());
   }
   capitals_.reserve(longest_);
@@ -38,7 +39,8 @@ std::int32_t ValueLookup::operator()(std::string_view field) {
   if (field.size() > longest_) return 0;
   capitals_ = field;
   std::transform(capitals_.begin(), capitals_.end(), capitals_.begin(), AsciiUpper);
-  const bool ascii = std::all_of(field.begin(), field.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+  const bool ascii = std::all_of(field.begin(), field.end(),
+                                 [](char c) { return static_cast<signed char>(c) >= 0; });
   const auto found = translations_.find(ascii ? capitals_ : CaseKey(field));
   return found == translations_.end() ? 0 : found->second;
 }
@@ -55,8 +57,10 @@ FieldTarget::FieldTarget(const clsDataLogColumn& it)
       scale(it.Scale()),
       storedOffset(it.Scale() * it.dblOffset) {
   (it.blnConversionFactorFirst ? after : before) = it.dblConversionOffset;
-  if (it.lngType == kNumericColumn) kind = it.lngConversionType == kDateAndTime ? Kind::Date : Kind::Number;
-  if (kind == Kind::Number && !bounded && factor == 1 && before == 0 && after == 0 && storedOffset == 0)
+  if (it.lngType == kNumericColumn)
+    kind = it.lngConversionType == kDateAndTime ? Kind::Date : Kind::Number;
+  if (kind == Kind::Number && !bounded && factor == 1 && before == 0 && after == 0 &&
+      storedOffset == 0)
     tens = TensOf(scale);
   if (it.lngType != kValueListColumn) return;
   kind = Kind::Value;
@@ -65,7 +69,8 @@ FieldTarget::FieldTarget(const clsDataLogColumn& it)
 
 HeaderMap::HeaderMap(std::string_view headerLine, const clsDataLog& definition) {
   Gather(definition);
-  for (const std::string_view field : SplitFields(headerLine, definition.lngDelimiterAsciiCharacter))
+  for (const std::string_view field :
+       SplitFields(headerLine, definition.lngDelimiterAsciiCharacter))
     Match(field, definition);
 }
 
@@ -95,21 +100,25 @@ void HeaderMap::Match(std::string_view field, const clsDataLog& definition) {
   }
   Group& group = found->second;
   ++group.used;
-  if (group.used == 1 || group.byOccurrence) group.targets = AddTargets(group.columns, group.used, definition);
+  if (group.used == 1 || group.byOccurrence)
+    group.targets = AddTargets(group.columns, group.used, definition);
   fields_.push_back(group.targets);
 }
 
 /// What the columns of a title make of its field that comes as the n-th.
-HeaderMap::Range HeaderMap::AddTargets(const std::vector<int>& columns, int occurrence, const clsDataLog& definition) {
+HeaderMap::Range HeaderMap::AddTargets(const std::vector<int>& columns, int occurrence,
+                                       const clsDataLog& definition) {
   const auto first = static_cast<std::uint32_t>(targets_.size());
   for (const int n : columns) {
     const clsDataLogColumn& column = definition.objColumns.Item(n);
     if (column.lngTitleOccurrence > 0 && column.lngTitleOccurrence != occurrence) continue;
     fed_[static_cast<std::size_t>(column.lngDataItemID)] = true;
     FieldTarget target(column);
-    if (!definition.strTimeForm.empty() && column.lngDataItemID == ItemOf(kSecs)) target.kind = FieldTarget::Kind::Time;
+    if (!definition.strTimeForm.empty() && column.lngDataItemID == ItemOf(kSecs))
+      target.kind = FieldTarget::Kind::Time;
     if (target.kind != FieldTarget::Kind::Nothing) targets_.push_back(target);
-    if (column.blnSmooth && std::find(smoothed_.begin(), smoothed_.end(), column.lngDataItemID) == smoothed_.end())
+    if (column.blnSmooth &&
+        std::find(smoothed_.begin(), smoothed_.end(), column.lngDataItemID) == smoothed_.end())
       smoothed_.push_back(column.lngDataItemID);
   }
   return {first, static_cast<std::uint32_t>(targets_.size()) - first};
@@ -124,7 +133,8 @@ std::vector<std::string_view> SplitFields(std::string_view line, std::int32_t de
   std::vector<std::string_view> fields;
   if (line.empty()) return fields;
   while (fields.size() < kMostFields) {
-    const auto end = delimiter <= 255 ? line.find(static_cast<char>(delimiter)) : std::string_view::npos;
+    const auto end =
+        delimiter <= 255 ? line.find(static_cast<char>(delimiter)) : std::string_view::npos;
     fields.push_back(line.substr(0, end));
     if (end == std::string_view::npos) return fields;
     line.remove_prefix(end + 1);

@@ -27,14 +27,16 @@ class ValueLookup {
   std::string capitals_;
 };
 
-/// What a field of a line gives to one data item: a definition column with all that a line needs of it worked out.
+/// What a field of a line gives to one data item: a definition column with all that a line needs of
+/// it worked out.
 struct FieldTarget {
   explicit FieldTarget(const clsDataLogColumn& column);
 
   enum class Kind { Nothing, Number, Date, Value, Time };
   Kind kind = Kind::Nothing;
   int column;  ///< of the store
-  /// A number becomes (number + before) x factor + after: the conversion's offset is one of the two, the other is 0.
+  /// A number becomes (number + before) x factor + after: the conversion's offset is one of the
+  /// two, the other is 0.
   double before = 0, factor, after = 0;
   bool bounded, setToMin, setToMax;
   bool negative;                        ///< values below 0 are stored
@@ -90,8 +92,8 @@ class HeaderMap {
 /// More columns than any log has; what stands behind them in a line of titles is passed over.
 inline constexpr std::size_t kMostFields = std::size_t{1} << 18;
 
-/// The parts of a line between delimiters, kMostFields at most; an empty line has none. No byte is a delimiter beyond
-/// 255.
+/// The parts of a line between delimiters, kMostFields at most; an empty line has none. No byte is
+/// a delimiter beyond 255.
 std::vector<std::string_view> SplitFields(std::string_view line, std::int32_t delimiter);
 
 }  // namespace tarnview

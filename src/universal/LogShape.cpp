@@ -28,7 +28,8 @@ class Reader {
     if (!FindForm() || !FindLines()) return std::move(shape_);
     NameColumns();
     GatherTable();
-    for (ShapeColumn& column : shape_.columns) DescribeColumn(column, table_, shape_.form.decimalSign);
+    for (ShapeColumn& column : shape_.columns)
+      DescribeColumn(column, table_, shape_.form.decimalSign);
     DropLastColumn();
     ScaleChannels();
     FindTime();
@@ -49,8 +50,9 @@ class Reader {
       Tell("Fields: no sign cuts the lines into fields of numbers");
       return false;
     }
-    Tell("Fields: " + std::string(DelimiterName(shape_.form.delimiter)) + ", " + std::to_string(guess_.fields) +
-         " in most lines; decimal sign \"" + shape_.form.decimalSign + "\"");
+    Tell("Fields: " + std::string(DelimiterName(shape_.form.delimiter)) + ", " +
+         std::to_string(guess_.fields) + " in most lines; decimal sign \"" +
+         shape_.form.decimalSign + "\"");
     return true;
   }
 
@@ -65,9 +67,11 @@ class Reader {
       Tell("Lines: no rows of numbers");
       return false;
     }
-    Tell("Lines: " + (rows.titleLine < 0 ? "no titles" : "titles in line " + std::to_string(rows.titleLine + 1)) +
-         (rows.unitsLine < 0 ? "" : ", units in line " + std::to_string(rows.unitsLine + 1)) + ", data from line " +
-         std::to_string(rows.dataLine + 1));
+    Tell("Lines: " +
+         (rows.titleLine < 0 ? "no titles"
+                             : "titles in line " + std::to_string(rows.titleLine + 1)) +
+         (rows.unitsLine < 0 ? "" : ", units in line " + std::to_string(rows.unitsLine + 1)) +
+         ", data from line " + std::to_string(rows.dataLine + 1));
     return true;
   }
 
@@ -85,7 +89,8 @@ class Reader {
       column.header = column.title = titles[at];
       if (!column.header.empty()) column.occurrence = ++seen[Upper(column.header)];
       column.unit = TakeUnit(column.title);
-      if (at < shape_.rows.units.size() && !shape_.rows.units[at].empty()) column.unit = shape_.rows.units[at];
+      if (at < shape_.rows.units.size() && !shape_.rows.units[at].empty())
+        column.unit = shape_.rows.units[at];
       if (column.title.empty()) column.title = "Column " + std::to_string(at + 1);
       shape_.columns.push_back(std::move(column));
     }
@@ -106,12 +111,13 @@ class Reader {
   }
 
   void GatherTable() {
-    const std::size_t most =
-        std::clamp(kMostFieldsRead / static_cast<std::size_t>(guess_.fields), std::size_t{50}, kMostLinesRead);
+    const std::size_t most = std::clamp(kMostFieldsRead / static_cast<std::size_t>(guess_.fields),
+                                        std::size_t{50}, kMostLinesRead);
     for (std::size_t at = static_cast<std::size_t>(shape_.rows.dataLine);
          at < text_.head.size() && table_.size() < most; ++at)
       AddLine(text_.head[at]);
-    for (std::size_t at = text_.tail.size() - std::min(text_.tail.size(), most / 4); at < text_.tail.size(); ++at)
+    for (std::size_t at = text_.tail.size() - std::min(text_.tail.size(), most / 4);
+         at < text_.tail.size(); ++at)
       AddLine(text_.tail[at]);
   }
 
@@ -124,8 +130,8 @@ class Reader {
     if (shape_.columns.size() < 3) return;
     const ShapeColumn& last = shape_.columns.back();
     const auto point = last.header.rfind('.');
-    const bool file =
-        point != std::string::npos && last.header.size() - point == 4 && IsLetters(last.header.substr(point + 1));
+    const bool file = point != std::string::npos && last.header.size() - point == 4 &&
+                      IsLetters(last.header.substr(point + 1));
     const bool note = last.header.empty() || last.header.find(":[") != std::string::npos || file;
     if (last.values > 0 || !note) return;
     Tell("The last column, \"" + last.header + "\", holds no data");
@@ -140,12 +146,15 @@ class Reader {
   void FindTime() {
     TimeBase& time = shape_.time;
     time = FindTimeBase(shape_.columns, table_, shape_.form.decimalSign);
-    if (choices_.timeColumn) time.column = std::min(*choices_.timeColumn, static_cast<int>(shape_.columns.size()) - 1);
+    if (choices_.timeColumn)
+      time.column = std::min(*choices_.timeColumn, static_cast<int>(shape_.columns.size()) - 1);
     if (choices_.timeForm) time.form = *choices_.timeForm;
     if (time.column >= 0 && time.form == TimeForm::None) time.form = TimeForm::Seconds;
     if (time.column < 0) time = {-1, TimeForm::None, 0, 0, time.why};
     shape_.lineFrequency =
-        time.column >= 0 ? 0 : choices_.lineFrequency.value_or(RateOfPreamble(text_.head, shape_.rows.dataLine));
+        time.column >= 0
+            ? 0
+            : choices_.lineFrequency.value_or(RateOfPreamble(text_.head, shape_.rows.dataLine));
     Tell("Time: " + time.why);
     if (shape_.lineFrequency > 0) Tell("Time: the log tells its rate");
   }
@@ -153,7 +162,8 @@ class Reader {
   /// The whole numbers of channels are scaled by their types.
   void ScaleChannels() {
     for (std::size_t at = 0; at < channels_.size() && at + 1 < shape_.columns.size(); ++at)
-      if (const ChannelScale* scale = ScaleOfChannel(channels_[at].type)) Scale(shape_.columns[at + 1], *scale);
+      if (const ChannelScale* scale = ScaleOfChannel(channels_[at].type))
+        Scale(shape_.columns[at + 1], *scale);
   }
 
   static void Scale(ShapeColumn& column, const ChannelScale& scale) {
@@ -186,8 +196,8 @@ class Reader {
 
 }  // namespace
 
-LogShape ReadLogShape(std::string_view bytes, const TitleDictionary& dictionary, const clsLogDataItems& catalogue,
-                      const ShapeChoices& choices) {
+LogShape ReadLogShape(std::string_view bytes, const TitleDictionary& dictionary,
+                      const clsLogDataItems& catalogue, const ShapeChoices& choices) {
   const ShapeText text(bytes, choices.encoding);
   if (text.encoding.score == 0 || text.head.size() < kFewestLines) {
     LogShape none;

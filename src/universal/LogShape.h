@@ -41,7 +41,7 @@ struct LogShape {
 };
 
 /// `bytes`: the whole file, of which both ends are looked at (ShapeText).
-LogShape ReadLogShape(std::string_view bytes, const TitleDictionary& dictionary, const clsLogDataItems& catalogue,
-                      const ShapeChoices& choices = {});
+LogShape ReadLogShape(std::string_view bytes, const TitleDictionary& dictionary,
+                      const clsLogDataItems& catalogue, const ShapeChoices& choices = {});
 
 }  // namespace tarnview

@@ -48,7 +48,8 @@ std::vector<double> Rising(std::span<const double> stamps, TimeForm form) {
   return times;
 }
 
-/// Spreads runs of equal times. A pause behind a run is no part of its span: that is at most three times the usual.
+/// Spreads runs of equal times. A pause behind a run is no part of its span: that is at most three
+/// times the usual.
 void Spread(std::vector<double>& times) {
   double usual = 0;
   for (std::size_t first = 0; first < times.size();) {

@@ -17,9 +17,13 @@ std::optional<FieldKey> KeyOf(std::string_view text) {
 }
 
 /// Loggers mark a channel that is not there by numbers just above the least of 32 bits.
-bool IsLeastNumber(std::string_view field) { return field.size() == 11 && field.starts_with("-21474836"); }
+bool IsLeastNumber(std::string_view field) {
+  return field.size() == 11 && field.starts_with("-21474836");
+}
 
-std::uint64_t BitsOf(std::size_t lines) { return lines == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << lines) - 1; }
+std::uint64_t BitsOf(std::size_t lines) {
+  return lines == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << lines) - 1;
+}
 
 }  // namespace
 
@@ -52,7 +56,8 @@ std::uint64_t NoValues::In(FieldIndex& block, std::size_t field) const {
     others |= keys[line] == kOtherField ? bit : 0;
   }
   for (const FieldKey key : keys_)
-    for (std::size_t line = 0; line < lines; ++line) gaps |= std::uint64_t{keys[line] == key} << line;
+    for (std::size_t line = 0; line < lines; ++line)
+      gaps |= std::uint64_t{keys[line] == key} << line;
   for (; others; others &= others - 1) {
     const auto line = static_cast<std::size_t>(std::countr_zero(others));
     if (IsLongNoValue(block.Field(line, field))) gaps |= others & (~others + 1);
@@ -60,8 +65,8 @@ std::uint64_t NoValues::In(FieldIndex& block, std::size_t field) const {
   return gaps;
 }
 
-void NoValues::Write(SampleStore& store, int column, int first, std::size_t lines, std::uint64_t gaps,
-                     BlockOf<std::int32_t>& cells) {
+void NoValues::Write(SampleStore& store, int column, int first, std::size_t lines,
+                     std::uint64_t gaps, BlockOf<std::int32_t>& cells) {
   if (gaps != 0) store.SetGaps(column, first, lines, gaps);
   const auto known = last_.find(column);
   if (known == last_.end() && gaps == BitsOf(lines)) return;  // nothing yet

@@ -45,7 +45,8 @@ class QuoteTaker {
 
  private:
   void TakeQuote(std::size_t at) {
-    if (quoted_ && std::memchr(text_.data() + from_, '\n', at - from_)) quoted_ = false;  // none was closed on its line
+    if (quoted_ && std::memchr(text_.data() + from_, '\n', at - from_))
+      quoted_ = false;  // none was closed on its line
     if (quoted_)
       CopyQuoted(at);
     else
@@ -109,7 +110,8 @@ bool HasLinesOfReturns(std::string_view text) {
   return head.find('\n') == std::string_view::npos && head.find('\r') != std::string_view::npos;
 }
 
-std::string_view Decoded(std::string_view bytes, const clsDataLog& definition, std::string& storage) {
+std::string_view Decoded(std::string_view bytes, const clsDataLog& definition,
+                         std::string& storage) {
   const auto encoding = EncodingOfName(definition.strEncoding);
   if (encoding == TextEncoding::Utf16LE || encoding == TextEncoding::Utf16BE)
     return storage = PlainBytes(bytes, *encoding);
@@ -120,7 +122,8 @@ std::string_view Decoded(std::string_view bytes, const clsDataLog& definition, s
 
 }  // namespace
 
-std::string_view PlainLog(std::string_view bytes, const clsDataLog& definition, std::string& storage) {
+std::string_view PlainLog(std::string_view bytes, const clsDataLog& definition,
+                          std::string& storage) {
   if (!definition.IsFormed()) return bytes;
   std::string_view text = Decoded(bytes, definition, storage);
   const auto rewrite = [&](const auto& write) {
@@ -135,13 +138,15 @@ std::string_view PlainLog(std::string_view bytes, const clsDataLog& definition, 
       out = text;
       std::replace(out.begin(), out.end(), '\r', '\n');
     });
-  if (definition.blnQuoted) rewrite([&](std::string& out) { QuoteTaker(text, delimiter, decimalComma, out).Run(); });
+  if (definition.blnQuoted)
+    rewrite([&](std::string& out) { QuoteTaker(text, delimiter, decimalComma, out).Run(); });
   if (decimalComma && delimiter != ',')
     rewrite([&](std::string& out) {
       out.resize(text.size());
       PointForComma(text.data(), out.data(), text.size());
     });
-  if (definition.blnDelimiterRuns) rewrite([&](std::string& out) { JoinRuns(text, delimiter, out); });
+  if (definition.blnDelimiterRuns)
+    rewrite([&](std::string& out) { JoinRuns(text, delimiter, out); });
   return text;
 }
 

@@ -4,8 +4,8 @@
 
 namespace tarnview {
 
-/// A value that knows whether it was ever written, so that "not given" is another thing than "given as 0". Nothing
-/// lowers the flag; a copy has its source's flag.
+/// A value that knows whether it was ever written, so that "not given" is another thing than "given
+/// as 0". Nothing lowers the flag; a copy has its source's flag.
 template <class T>
 class Settable {
  public:

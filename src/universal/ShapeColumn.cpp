@@ -21,7 +21,9 @@ struct Gathering {
 };
 
 void TakeListed(ShapeColumn& column, std::string_view field, Gathering& gathered) {
-  if (!gathered.listable || std::find(column.texts.begin(), column.texts.end(), field) != column.texts.end()) return;
+  if (!gathered.listable ||
+      std::find(column.texts.begin(), column.texts.end(), field) != column.texts.end())
+    return;
   gathered.listable = field.size() <= kLongestListed && column.texts.size() < kMostListed;
   column.texts.emplace_back(field);
 }
@@ -31,7 +33,8 @@ void TakeField(ShapeColumn& column, std::string_view field, char decimalSign, Ga
   ++gathered.kinds[static_cast<std::size_t>(kind)];
   if (kind == FieldKind::Empty || kind == FieldKind::NoValue) return;
   if (column.first.size() < kFirstValues) column.first.emplace_back(field);
-  if (const auto number = kind == FieldKind::Number ? ReadShapeNumber(field, decimalSign) : std::nullopt) {
+  if (const auto number =
+          kind == FieldKind::Number ? ReadShapeNumber(field, decimalSign) : std::nullopt) {
     gathered.numbers.push_back(number->value);
     column.places = std::max(column.places, std::min(number->places, kMostPlaces));
   } else {
@@ -68,13 +71,16 @@ void DescribeColumn(ShapeColumn& column, const ShapeTable& table, char decimalSi
     if (field < line.size()) TakeField(column, line[field], decimalSign, gathered);
   column.content = ContentOf(gathered);
   column.gaps = gathered.Of(FieldKind::Empty) + gathered.Of(FieldKind::NoValue);
-  column.values = gathered.Of(FieldKind::Number) + gathered.Of(FieldKind::Time) + gathered.Of(FieldKind::Text);
+  column.values =
+      gathered.Of(FieldKind::Number) + gathered.Of(FieldKind::Time) + gathered.Of(FieldKind::Text);
   TakeNumbers(column, gathered.numbers);
   // Numbers among listed texts are entries, too.
   if (column.content == ColumnContent::List && gathered.Of(FieldKind::Number) > 0)
     for (const auto& line : table)
-      if (field < line.size() && ReadShapeNumber(line[field], decimalSign)) TakeListed(column, line[field], gathered);
-  if (column.content == ColumnContent::List && !gathered.listable) column.content = ColumnContent::Text;
+      if (field < line.size() && ReadShapeNumber(line[field], decimalSign))
+        TakeListed(column, line[field], gathered);
+  if (column.content == ColumnContent::List && !gathered.listable)
+    column.content = ColumnContent::Text;
   if (column.content != ColumnContent::List) column.texts.clear();
 }
 

@@ -22,8 +22,8 @@ struct ShapeColumn {
   std::vector<std::string> first;              ///< the first three texts that are a value
   int values = 0, gaps = 0;                    ///< fields with a value, and without
   double lowest = 0, highest = 0, median = 0;  ///< of numbers
-  double scale = 1;                ///< a number of the log x scale is in `unit`; lowest, highest and median are
-  int places = 0;                  ///< behind the decimal sign: the most of a number
+  double scale = 1;  ///< a number of the log x scale is in `unit`; lowest, highest and median are
+  int places = 0;    ///< behind the decimal sign: the most of a number
   std::vector<std::string> texts;  ///< of a list: each once, in order of appearance
 };
 

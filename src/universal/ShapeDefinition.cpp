@@ -18,11 +18,13 @@ void TakeForm(clsDataLog& definition, const LogShape& shape) {
   definition.strEncoding = EncodingName(shape.encoding);
   definition.strCommentPrefix = shape.rows.commentPrefix;
   std::string texts;
-  for (const std::string_view text : NoValueTexts()) texts += (texts.empty() ? "" : "|") + std::string(text);
+  for (const std::string_view text : NoValueTexts())
+    texts += (texts.empty() ? "" : "|") + std::string(text);
   definition.strNoValueTexts = texts;
 }
 
-/// The first two titles are enough to find their line again, however long the preamble of another log is.
+/// The first two titles are enough to find their line again, however long the preamble of another
+/// log is.
 std::string TitlesStartOf(const LogShape& shape) {
   if (shape.rows.titles.size() < 2 || shape.rows.titles[0].empty()) return "";
   return shape.rows.titles[0] + shape.form.delimiter + shape.rows.titles[1];
@@ -44,7 +46,8 @@ void TakeValues(clsDataLogColumn& column, const ShapeColumn& from, const ShapeIt
   if (!item.list) return;
   column.lngType = kValueListColumn;
   column.objColumnValues->Add("", 0);  // any other text
-  for (const std::string& text : from.texts) column.objColumnValues->Add(text, column.objColumnValues->Count());
+  for (const std::string& text : from.texts)
+    column.objColumnValues->Add(text, column.objColumnValues->Count());
 }
 
 void TakeConversion(clsDataLogColumn& column, const ShapeItem& item) {
@@ -76,8 +79,8 @@ clsDataLogColumn ColumnOf(const ShapeColumn& from, const ShapeItem& item, bool c
   return column;
 }
 
-/// A title in the table of columns stands once for each field of that title; where there is but one, it needs no
-/// number.
+/// A title in the table of columns stands once for each field of that title; where there is but
+/// one, it needs no number.
 void DropNeedlessOccurrences(clsDataLogColumn& column, const std::vector<ShapeColumn>& columns) {
   const auto alike = std::count_if(columns.begin(), columns.end(), [&](const ShapeColumn& other) {
     return SameIgnoringCase(other.header, column.strColumnTitle);
@@ -87,8 +90,8 @@ void DropNeedlessOccurrences(clsDataLogColumn& column, const std::vector<ShapeCo
 
 }  // namespace
 
-clsDataLog DefinitionOfShape(const LogShape& shape, const std::string& name, const std::string& extension,
-                             double linesASecond) {
+clsDataLog DefinitionOfShape(const LogShape& shape, const std::string& name,
+                             const std::string& extension, double linesASecond) {
   clsDataLog definition;
   definition.strName = name;
   definition.strFileExtension = extension.empty() ? "csv" : extension;
@@ -106,7 +109,9 @@ clsDataLog DefinitionOfShape(const LogShape& shape, const std::string& name, con
     if (shape.items[at].item <= 0) continue;
     const bool clock = static_cast<int>(at) == shape.time.column;
     clsDataLogColumn column = ColumnOf(shape.columns[at], shape.items[at], clock);
-    if (clock) column.lngColumnDecimalPlaces = column.lngDisplayDecimalPlaces = shape.time.step < 0.002 ? 4 : 3;
+    if (clock)
+      column.lngColumnDecimalPlaces = column.lngDisplayDecimalPlaces =
+          shape.time.step < 0.002 ? 4 : 3;
     DropNeedlessOccurrences(column, shape.columns);
     definition.objColumns.AddDirect(column);
   }

@@ -40,7 +40,8 @@ std::size_t FieldLength(std::string_view line, const FieldForm& form) {
   if (form.quoted && first != std::string_view::npos && line[first] == '"') {
     const auto closing = line.find('"', first + 1);
     if (closing != std::string_view::npos) from = closing;
-    while (from + 1 < line.size() && closing != std::string_view::npos && line[from + 1] == '"') {  // "" within
+    while (from + 1 < line.size() && closing != std::string_view::npos &&
+           line[from + 1] == '"') {  // "" within
       const auto next = line.find('"', from + 2);
       if (next == std::string_view::npos) break;
       from = next;
@@ -85,7 +86,8 @@ bool Simplify(std::string_view text, char decimalSign, std::string& simple) {
 
 /// The value of digits with at most one point and an exponent.
 std::optional<double> ValueOf(const std::string& simple) {
-  if (simple.empty() || (!IsDigit(simple[0]) && simple[0] != '.') || !IsNumeric(simple)) return std::nullopt;
+  if (simple.empty() || (!IsDigit(simple[0]) && simple[0] != '.') || !IsNumeric(simple))
+    return std::nullopt;
   return StringToDouble(simple);
 }
 
@@ -111,24 +113,30 @@ std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSi
   if (text.ends_with('%')) text = TrimGaps(text.substr(0, text.size() - 1));
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
-  if (text.empty() || text.size() > 40 || (!IsDigit(text[0]) && text[0] != decimalSign)) return std::nullopt;
+  if (text.empty() || text.size() > 40 || (!IsDigit(text[0]) && text[0] != decimalSign))
+    return std::nullopt;
   std::string simple;
   if (!Simplify(text, decimalSign, simple)) return std::nullopt;
   const auto value = ValueOf(simple);
   if (!value) return std::nullopt;
   FieldNumber number{negative ? -*value : *value, 0};
   const auto point = simple.find('.');
-  for (std::size_t at = point; at != std::string::npos && ++at < simple.size() && IsDigit(simple[at]);) ++number.places;
+  for (std::size_t at = point;
+       at != std::string::npos && ++at < simple.size() && IsDigit(simple[at]);)
+    ++number.places;
   return number;
 }
 
 bool IsNoValue(std::string_view text) {
-  if (text.size() == 11 && text.starts_with("-21474836")) return true;  // just above the least of 32 bits
+  if (text.size() == 11 && text.starts_with("-21474836"))
+    return true;  // just above the least of 32 bits
   return std::any_of(std::begin(kNoValues), std::end(kNoValues),
                      [&](std::string_view token) { return SameIgnoringCase(token, text); });
 }
 
-std::vector<std::string_view> NoValueTexts() { return {std::begin(kNoValues), std::end(kNoValues)}; }
+std::vector<std::string_view> NoValueTexts() {
+  return {std::begin(kNoValues), std::end(kNoValues)};
+}
 
 FieldKind KindOfField(std::string_view field, char decimalSign) {
   if (field.empty()) return FieldKind::Empty;

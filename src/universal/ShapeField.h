@@ -9,11 +9,13 @@ namespace tarnview {
 /// How the lines of a log are cut into fields and its numbers are written.
 struct FieldForm {
   char delimiter = ',';  ///< ' ' stands for runs of blanks
-  bool quoted = false;   ///< fields, or some of them, stand between double quotes, and a delimiter may stand in them
+  bool quoted = false;   ///< fields, or some of them, stand between double quotes, and a delimiter
+                         ///< may stand in them
   char decimalSign = '.';
 };
 
-/// The fields of a line, without blanks at their ends and without their quotes. An empty line has none.
+/// The fields of a line, without blanks at their ends and without their quotes. An empty line has
+/// none.
 std::vector<std::string_view> SplitShapeLine(std::string_view line, const FieldForm& form);
 
 /// A number in a field, all of which is one.
@@ -22,7 +24,8 @@ struct FieldNumber {
   int places = 0;  ///< digits behind the decimal sign
 };
 
-/// Digits with a sign, an exponent, blanks or "%" behind them; with thousands of three digits set off by the other of
+/// Digits with a sign, an exponent, blanks or "%" behind them; with thousands of three digits set
+/// off by the other of
 /// "." and ",".
 std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSign);
 

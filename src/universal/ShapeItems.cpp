@@ -50,8 +50,8 @@ constexpr int kMostPlaces = 5;
 constexpr double kMostStored = 2147483647.0;
 
 const KeptItem* KeptOf(int item) {
-  const auto found =
-      std::find_if(std::begin(kKept), std::end(kKept), [&](const KeptItem& row) { return row.item == item; });
+  const auto found = std::find_if(std::begin(kKept), std::end(kKept),
+                                  [&](const KeptItem& row) { return row.item == item; });
   return found == std::end(kKept) ? nullptr : &*found;
 }
 
@@ -63,8 +63,8 @@ struct Match {
   std::string why;
 };
 
-/// The unit of the values, where the log tells none: lambda is about 1, an air/fuel ratio about 15; no coolant is at
-/// more than 130 degrees C.
+/// The unit of the values, where the log tells none: lambda is about 1, an air/fuel ratio about 15;
+/// no coolant is at more than 130 degrees C.
 std::string UnitByValues(const std::string& assumed, const ShapeColumn& column) {
   const Unit* unit = FindUnit(assumed);
   if (!unit) return assumed;
@@ -74,8 +74,8 @@ std::string UnitByValues(const std::string& assumed, const ShapeColumn& column) 
   return assumed;
 }
 
-/// Pressure of the manifold against a vacuum or against the air around: below 0.05 bar it cannot be the first, and no
-/// engine idles above the second by 0.15 bar.
+/// Pressure of the manifold against a vacuum or against the air around: below 0.05 bar it cannot be
+/// the first, and no engine idles above the second by 0.15 bar.
 int PressureItem(int item, const ShapeColumn& column, const Unit& unit, std::string& why) {
   const double lowest = column.lowest * unit.factor;
   if (item == ItemOf(kMAP) && lowest < 0) {
@@ -89,15 +89,18 @@ int PressureItem(int item, const ShapeColumn& column, const Unit& unit, std::str
   return item;
 }
 
-Match MatchOf(const ShapeColumn& column, const TitleDictionary& dictionary, const clsLogDataItems& catalogue) {
+Match MatchOf(const ShapeColumn& column, const TitleDictionary& dictionary,
+              const clsLogDataItems& catalogue) {
   Match match;
   const KnownTitle known = dictionary.Find(column.title);
   const clsLogDataItem* item = known.score > 0 ? catalogue.ByShortName(known.item) : nullptr;
-  if (!item || item->intSeq == ItemOf(kSecs) || column.content != ColumnContent::Number) return match;
+  if (!item || item->intSeq == ItemOf(kSecs) || column.content != ColumnContent::Number)
+    return match;
   const std::string unitText = IsUnit(column.unit) ? column.unit : UnitByValues(known.unit, column);
   const Unit* unit = FindUnit(unitText);
   int seq = item->intSeq;
-  if (unit && unit->quantity == Quantity::Pressure) seq = PressureItem(seq, column, *unit, match.why);
+  if (unit && unit->quantity == Quantity::Pressure)
+    seq = PressureItem(seq, column, *unit, match.why);
   const KeptItem* kept = KeptOf(seq);
   if (!kept) return match;
   const Unit* wanted = FindUnit(kept->unit);
@@ -137,8 +140,9 @@ ShapeItem KnownItem(const ShapeColumn& column, const Match& match) {
   item.offset = match.conversion.offset;
   const bool converted = item.factor != column.scale || item.offset != 0;
   const double factor = item.factor / column.scale;
-  item.places = PlacesOf(column.lowest * factor + item.offset, column.highest * factor + item.offset,
-                         converted ? match.kept->places : std::max(match.kept->places, column.places));
+  item.places =
+      PlacesOf(column.lowest * factor + item.offset, column.highest * factor + item.offset,
+               converted ? match.kept->places : std::max(match.kept->places, column.places));
   item.displayFactor = match.kept->displayFactor;
   item.why = "known by its title" + (match.why.empty() ? "" : "; " + match.why);
   return item;
@@ -153,7 +157,8 @@ ShapeItem OwnItem(const ShapeColumn& column, int number) {
   item.list = column.content == ColumnContent::List || column.content == ColumnContent::Text;
   // What is too large for a stored integer is kept in thousands, millions, ...
   double large = 1;
-  while (std::max(std::fabs(column.lowest), std::fabs(column.highest)) * large > kMostStored) large /= 1000;
+  while (std::max(std::fabs(column.lowest), std::fabs(column.highest)) * large > kMostStored)
+    large /= 1000;
   item.factor = column.scale * large;
   const double lowest = column.lowest * large, highest = column.highest * large;
   const bool thousandths = large < 1 || column.content == ColumnContent::Time;
@@ -187,15 +192,17 @@ std::map<int, std::size_t> BestColumns(const std::vector<Match>& matches, int ti
 }  // namespace
 
 std::vector<ShapeItem> ChooseItems(const std::vector<ShapeColumn>& columns, const TimeBase& time,
-                                   const TitleDictionary& dictionary, const clsLogDataItems& catalogue) {
+                                   const TitleDictionary& dictionary,
+                                   const clsLogDataItems& catalogue) {
   std::vector<Match> matches;
-  for (const ShapeColumn& column : columns) matches.push_back(MatchOf(column, dictionary, catalogue));
+  for (const ShapeColumn& column : columns)
+    matches.push_back(MatchOf(column, dictionary, catalogue));
   const auto best = BestColumns(matches, time.column);
   std::vector<ShapeItem> items;
   int next = kFirstOwnItem;
   for (std::size_t at = 0; at < columns.size(); ++at) {
-    const bool known =
-        matches[at].kept && best.contains(matches[at].kept->item) && best.at(matches[at].kept->item) == at;
+    const bool known = matches[at].kept && best.contains(matches[at].kept->item) &&
+                       best.at(matches[at].kept->item) == at;
     if (static_cast<int>(at) == time.column)
       items.push_back(TimeItem());
     else

@@ -23,10 +23,11 @@ struct ShapeItem {
   std::string why;
 };
 
-/// One for each column: the item of the catalogue that its title is known as, where unit and values agree, else one of
-/// its own. No two columns get the same item.
+/// One for each column: the item of the catalogue that its title is known as, where unit and values
+/// agree, else one of its own. No two columns get the same item.
 std::vector<ShapeItem> ChooseItems(const std::vector<ShapeColumn>& columns, const TimeBase& time,
-                                   const TitleDictionary& dictionary, const clsLogDataItems& catalogue);
+                                   const TitleDictionary& dictionary,
+                                   const clsLogDataItems& catalogue);
 
 /// The unit in which an item of the catalogue is kept for a log of unknown shape; "" for none.
 std::string_view UnitOfItem(int item);

@@ -17,11 +17,14 @@ constexpr std::size_t kMostLinesJudged = 2000;
 /// Fields of each kind.
 std::array<int, 5> CountKinds(const Fields& fields, char decimalSign) {
   std::array<int, 5> counts{};
-  for (const std::string_view field : fields) ++counts[static_cast<std::size_t>(KindOfField(field, decimalSign))];
+  for (const std::string_view field : fields)
+    ++counts[static_cast<std::size_t>(KindOfField(field, decimalSign))];
   return counts;
 }
 
-int Of(const std::array<int, 5>& counts, FieldKind kind) { return counts[static_cast<std::size_t>(kind)]; }
+int Of(const std::array<int, 5>& counts, FieldKind kind) {
+  return counts[static_cast<std::size_t>(kind)];
+}
 
 std::vector<std::string> TitlesOf(std::string_view line, const FieldFormGuess& guess) {
   FieldForm form = guess.form;
@@ -30,16 +33,19 @@ std::vector<std::string> TitlesOf(std::string_view line, const FieldFormGuess& g
   const Fields fields = SplitShapeLine(line, form);
   if (static_cast<int>(fields.size()) <= guess.fields) return {fields.begin(), fields.end()};
   const auto joined = JoinInBrackets(fields, form.delimiter);
-  return static_cast<int>(joined.size()) >= guess.fields ? joined
-                                                         : std::vector<std::string>(fields.begin(), fields.end());
+  return static_cast<int>(joined.size()) >= guess.fields
+             ? joined
+             : std::vector<std::string>(fields.begin(), fields.end());
 }
 
-/// A row that may name columns: about as many texts as there are fields, hardly a number among them.
+/// A row that may name columns: about as many texts as there are fields, hardly a number among
+/// them.
 bool MayBeTitles(std::string_view line, const FieldFormGuess& guess) {
   if (line.empty()) return false;
   const auto titles = TitlesOf(line, guess);
   const int usual = guess.fields, found = static_cast<int>(titles.size());
-  if (found < 2 || found + 2 < usual || (found < usual && usual < 4 && found + 1 < usual)) return false;
+  if (found < 2 || found + 2 < usual || (found < usual && usual < 4 && found + 1 < usual))
+    return false;
   const auto counts = CountKinds({titles.begin(), titles.end()}, guess.form.decimalSign);
   const int texts = Of(counts, FieldKind::Text);
   return texts >= 1 && texts >= 2 * (Of(counts, FieldKind::Number) + Of(counts, FieldKind::Time));
@@ -61,7 +67,8 @@ bool AnyLetter(std::string_view text) {
   });
 }
 
-/// The first line of data: of it and the four behind it at least three are data, or all where fewer follow.
+/// The first line of data: of it and the four behind it at least three are data, or all where fewer
+/// follow.
 int FirstDataLine(const std::vector<std::string_view>& lines, const FieldFormGuess& guess) {
   for (std::size_t at = 0; at < std::min(lines.size(), kMostLinesJudged); ++at) {
     if (!IsDataLine(lines[at], guess)) continue;
@@ -73,14 +80,16 @@ int FirstDataLine(const std::vector<std::string_view>& lines, const FieldFormGue
   return -1;
 }
 
-/// The lines above the data that are of as many fields, from the lowest to the highest; blank lines and short marks
-/// such as "[Channel Data]" may stand between them and the data.
-std::vector<int> RowsAbove(const std::vector<std::string_view>& lines, int dataLine, const FieldFormGuess& guess) {
+/// The lines above the data that are of as many fields, from the lowest to the highest; blank lines
+/// and short marks such as "[Channel Data]" may stand between them and the data.
+std::vector<int> RowsAbove(const std::vector<std::string_view>& lines, int dataLine,
+                           const FieldFormGuess& guess) {
   std::vector<int> rows;
   for (int at = dataLine - 1; at >= 0 && at >= dataLine - 12; --at) {
     const std::string_view line = lines[static_cast<std::size_t>(at)];
     const int fields = static_cast<int>(SplitShapeLine(line, guess.form).size());
-    if (MayBeTitles(line, guess) || (fields >= guess.fields - 1 && fields > 1 && !IsDataLine(line, guess)))
+    if (MayBeTitles(line, guess) ||
+        (fields >= guess.fields - 1 && fields > 1 && !IsDataLine(line, guess)))
       rows.push_back(at);
     else if (!rows.empty())
       break;
@@ -89,7 +98,8 @@ std::vector<int> RowsAbove(const std::vector<std::string_view>& lines, int dataL
 }
 
 /// Of those rows the topmost that may be titles, unless a line of comment.
-int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<int>& rows, const FieldFormGuess& guess) {
+int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<int>& rows,
+                const FieldFormGuess& guess) {
   int found = -1;
   for (const int row : rows) {
     const std::string_view line = lines[static_cast<std::size_t>(row)];
@@ -100,7 +110,8 @@ int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<in
 }
 
 /// The line of units between titles and data; -1 for none.
-int UnitsLineOf(const std::vector<std::string_view>& lines, const ShapeRows& rows, const FieldFormGuess& guess) {
+int UnitsLineOf(const std::vector<std::string_view>& lines, const ShapeRows& rows,
+                const FieldFormGuess& guess) {
   for (int at = rows.titleLine + 1; at < rows.dataLine; ++at) {
     const auto fields = TitlesOf(lines[static_cast<std::size_t>(at)], guess);
     if (fields.size() > 1 && IsUnitsRow(fields)) return at;
@@ -118,7 +129,8 @@ std::string CommentPrefixOf(const std::vector<std::string_view>& lines, std::siz
   return "";
 }
 
-double DataShare(const std::vector<std::string_view>& lines, std::size_t from, const FieldFormGuess& guess) {
+double DataShare(const std::vector<std::string_view>& lines, std::size_t from,
+                 const FieldFormGuess& guess) {
   int data = 0, all = 0;
   for (std::size_t at = from; at < std::min(lines.size(), from + kMostLinesJudged); ++at) {
     if (lines[at].empty()) continue;
@@ -130,8 +142,8 @@ double DataShare(const std::vector<std::string_view>& lines, std::size_t from, c
 
 }  // namespace
 
-void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines, const FieldFormGuess& guess,
-                   int titleLine, int unitsLine) {
+void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
+                   const FieldFormGuess& guess, int titleLine, int unitsLine) {
   const int count = static_cast<int>(lines.size());
   rows.titleLine = titleLine < count ? titleLine : -1;
   rows.unitsLine = unitsLine < count ? unitsLine : -1;
@@ -142,7 +154,8 @@ void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines, 
   if (rows.titleLine < 0) return;
   rows.titles = TitlesOf(lines[static_cast<std::size_t>(rows.titleLine)], guess);
   rows.titleMark = Trim(TitleMarkOf(lines[static_cast<std::size_t>(rows.titleLine)]));
-  rows.quotedTitles = lines[static_cast<std::size_t>(rows.titleLine)].find('"') != std::string_view::npos;
+  rows.quotedTitles =
+      lines[static_cast<std::size_t>(rows.titleLine)].find('"') != std::string_view::npos;
   if (rows.unitsLine < 0) return;
   rows.units = TitlesOf(lines[static_cast<std::size_t>(rows.unitsLine)], guess);
   rows.units.resize(rows.titles.size());
@@ -163,10 +176,12 @@ ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGu
   if (rows.dataLine < 0) return rows;
   const auto from = static_cast<std::size_t>(rows.dataLine);
   rows.titleLine = TitleLineOf(lines, RowsAbove(lines, rows.dataLine, guess), guess);
-  if (rows.titleLine >= 0) SetTitleLines(rows, lines, guess, rows.titleLine, UnitsLineOf(lines, rows, guess));
+  if (rows.titleLine >= 0)
+    SetTitleLines(rows, lines, guess, rows.titleLine, UnitsLineOf(lines, rows, guess));
   rows.commentPrefix = CommentPrefixOf(lines, from);
   rows.dataShare = DataShare(lines, from, guess);
-  if (rows.titleLine >= 0 && !std::any_of(rows.titles.begin(), rows.titles.end(), AnyLetter)) rows.titleLine = -1;
+  if (rows.titleLine >= 0 && !std::any_of(rows.titles.begin(), rows.titles.end(), AnyLetter))
+    rows.titleLine = -1;
   return rows;
 }
 

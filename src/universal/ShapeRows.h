@@ -13,10 +13,11 @@ struct ShapeRows {
   int titleLine = -1;
   int unitsLine = -1;
   int dataLine = -1;
-  std::vector<std::string> titles;  ///< of the columns, as they stand without quotes and blanks at their ends
-  std::vector<std::string> units;   ///< as many; empty: none is told
+  std::vector<std::string>
+      titles;  ///< of the columns, as they stand without quotes and blanks at their ends
+  std::vector<std::string> units;  ///< as many; empty: none is told
   bool quotedTitles = false;
-  std::string titleMark;      ///< signs in front of the first title that are no part of it, such as "#"
+  std::string titleMark;  ///< signs in front of the first title that are no part of it, such as "#"
   std::string commentPrefix;  ///< of lines among the data that are none; empty for none
   double dataShare = 0;       ///< of the lines from the first of data on: those that are data
 };
@@ -25,11 +26,11 @@ struct ShapeRows {
 ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess);
 
 /// Takes titles and units from other lines; -1 for none.
-void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines, const FieldFormGuess& guess,
-                   int titleLine, int unitsLine);
+void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
+                   const FieldFormGuess& guess, int titleLine, int unitsLine);
 
-/// A line of samples: as many fields as most have, or nearly, and at least half of those with a text are numbers or
-/// times.
+/// A line of samples: as many fields as most have, or nearly, and at least half of those with a
+/// text are numbers or times.
 bool IsDataLine(std::string_view line, const FieldFormGuess& guess);
 
 }  // namespace tarnview

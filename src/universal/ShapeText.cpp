@@ -19,7 +19,8 @@ std::string_view WithoutFirstLine(std::string_view text) {
 
 }  // namespace
 
-ShapeText::ShapeText(std::string_view bytes, std::optional<TextEncoding> settled) : encoding(GuessEncoding(bytes)) {
+ShapeText::ShapeText(std::string_view bytes, std::optional<TextEncoding> settled)
+    : encoding(GuessEncoding(bytes)) {
   if (settled) encoding = {*settled, 0, 100, "it was chosen"};
   if (encoding.score == 0) return;
   const bool whole = bytes.size() <= kHead;

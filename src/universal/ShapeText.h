@@ -9,8 +9,8 @@
 
 namespace tarnview {
 
-/// What of a file is looked at to find its shape: its two ends, as lines of Windows-1252 text. Neither a copy nor a
-/// move keeps the lines in place, so there is none.
+/// What of a file is looked at to find its shape: its two ends, as lines of Windows-1252 text.
+/// Neither a copy nor a move keeps the lines in place, so there is none.
 struct ShapeText {
   static constexpr std::size_t kHead = 256 << 10, kTail = 64 << 10;  ///< bytes of the file
 
@@ -19,7 +19,8 @@ struct ShapeText {
   ShapeText& operator=(const ShapeText&) = delete;
 
   EncodingGuess encoding;
-  std::vector<std::string_view> head, tail;  ///< whole lines, without their ends; no line stands in both
+  std::vector<std::string_view> head,
+      tail;  ///< whole lines, without their ends; no line stands in both
 
  private:
   std::string headText_, tailText_;

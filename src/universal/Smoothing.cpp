@@ -18,8 +18,8 @@ void SmoothColumn(SampleStore& store, int column, std::int32_t least) {
     const std::int32_t value = values[i];
     if (value == lastValue) continue;
     for (std::size_t j = last; j <= i; ++j) {
-      const double y = LinearInterpolate(static_cast<double>(last), static_cast<double>(i), static_cast<double>(j),
-                                         lastValue, value, false);
+      const double y = LinearInterpolate(static_cast<double>(last), static_cast<double>(i),
+                                         static_cast<double>(j), lastValue, value, false);
       values[j] = std::max(RoundToLong(y), least);
     }
     last = i;

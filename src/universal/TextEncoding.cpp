@@ -63,7 +63,8 @@ void AddUtf8(std::string& out, std::uint32_t code) {
   out += static_cast<char>(0x80 | (code & 0x3F));
 }
 
-/// Half of a pair that stands for a character beyond 16 bits becomes one '?', its second half nothing.
+/// Half of a pair that stands for a character beyond 16 bits becomes one '?', its second half
+/// nothing.
 void AddUnit(std::string& out, std::uint32_t unit) {
   if (unit < 0x80)
     out += static_cast<char>(unit);
@@ -106,14 +107,18 @@ EncodingGuess GuessEncoding(std::string_view head) {
   const std::string_view text = head.substr(0, kLookedAt);
   const auto nuls = CountNuls(text);
   const std::size_t many = text.size() / 5, few = text.size() / 50;
-  if (nuls[1] > many && nuls[0] <= few) return {TextEncoding::Utf16LE, 0, 90, "every second byte is 0"};
-  if (nuls[0] > many && nuls[1] <= few) return {TextEncoding::Utf16BE, 0, 90, "every first byte of two is 0"};
+  if (nuls[1] > many && nuls[0] <= few)
+    return {TextEncoding::Utf16LE, 0, 90, "every second byte is 0"};
+  if (nuls[0] > many && nuls[1] <= few)
+    return {TextEncoding::Utf16BE, 0, 90, "every first byte of two is 0"};
   if (nuls[0] + nuls[1] > 0) return {TextEncoding::Windows1252, 0, 0, "zero bytes: no text"};
   if (IsUtf8(text)) return {TextEncoding::Utf8, 0, 95, "all of it reads as UTF-8"};
   return {TextEncoding::Windows1252, 0, 80, "bytes that are no UTF-8"};
 }
 
-std::string_view EncodingName(TextEncoding encoding) { return kEncodings[static_cast<std::size_t>(encoding)].name; }
+std::string_view EncodingName(TextEncoding encoding) {
+  return kEncodings[static_cast<std::size_t>(encoding)].name;
+}
 
 std::optional<TextEncoding> EncodingOfName(std::string_view name) {
   for (const Named& row : kEncodings)
@@ -126,7 +131,8 @@ std::string PlainBytes(std::string_view text, TextEncoding encoding) {
   if (!mark.empty() && text.starts_with(mark)) text.remove_prefix(mark.size());
   if (encoding == TextEncoding::Windows1252) return std::string(text);
   if (encoding != TextEncoding::Utf8) return FromUtf16(text, encoding == TextEncoding::Utf16BE);
-  const bool ascii = std::none_of(text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) < 0; });
+  const bool ascii = std::none_of(text.begin(), text.end(),
+                                  [](char c) { return static_cast<signed char>(c) < 0; });
   return ascii ? std::string(text) : FromUtf8(text);
 }
 

@@ -33,7 +33,8 @@ constexpr Form kForms[] = {
     {TimeForm::DateAndTime, "DATE", "date and time", 1},
 };
 
-constexpr double kLeastStep = 0.001, kMostStep = 10;  // seconds between lines that a logger may have
+constexpr double kLeastStep = 0.001,
+                 kMostStep = 10;  // seconds between lines that a logger may have
 
 const Form& RowOf(TimeForm form) { return kForms[static_cast<std::size_t>(form)]; }
 
@@ -69,15 +70,21 @@ int NameWorth(const ShapeColumn& column) {
     std::string_view word;
     int worth;
   };
-  constexpr Word kWords[] = {{"time", 10},    {"timestamp", 9},   {"elapsed", 12}, {"offset", 8},   {"runtime", 9},
+  constexpr Word kWords[] = {{"time", 10},
+                             {"timestamp", 9},
+                             {"elapsed", 12},
+                             {"offset", 8},
+                             {"runtime", 9},
+                             // clang-format off
                              {"zeit", 10},    {"zeitstempel", 9}, {"seconds", 9},  {"secs", 8},     {"sec", 6},
                              {"sekunden", 8}, {"ms", 6},          {"msec", 7},     {"clock", 8},    {"start", 4},
                              {"date", 4},     {"datetime", 8},    {"uhrzeit", 8},  {"log", 2},      {"session", 3},
                              {"device", 2},   {"laufzeit", 9},    {"t", 3},        {"messzeit", 9}, {"stamp", 3},
                              {"secl", 6}};
-  constexpr std::string_view kNoClock[] = {"lap",  "injection", "injector",  "delay", "dwell",  "on",
-                                           "off",  "response",  "remaining", "last",  "sector", "split",
-                                           "fuel", "since",     "trip",      "gps",   "utc"};
+  // clang-format on
+  constexpr std::string_view kNoClock[] = {
+      "lap",  "injection", "injector", "delay", "dwell", "on",   "off", "response", "remaining",
+      "last", "sector",    "split",    "fuel",  "since", "trip", "gps", "utc"};
   int worth = 0;
   for (const std::string& word : WordsOf(column.header)) {
     for (const Word& row : kWords)
@@ -87,8 +94,10 @@ int NameWorth(const ShapeColumn& column) {
   return worth;
 }
 
-/// The values of a column in the order of its lines, in its own unit; a clock that passes midnight goes on.
-std::vector<double> ReadStamps(const ShapeColumn& column, const ShapeTable& table, char decimalSign, bool& dates) {
+/// The values of a column in the order of its lines, in its own unit; a clock that passes midnight
+/// goes on.
+std::vector<double> ReadStamps(const ShapeColumn& column, const ShapeTable& table, char decimalSign,
+                               bool& dates) {
   std::vector<double> stamps;
   std::optional<FieldMoment> first;
   constexpr double kDay = 86400;
@@ -144,7 +153,9 @@ bool Rises(Candidate& candidate) {
   return stamps.size() >= 3 && candidate.distinct >= 1 && falls * 50 <= stamps.size();
 }
 
-bool IsPlausible(double seconds) { return seconds >= kLeastStep * 0.999 && seconds <= kMostStep * 1.001; }
+bool IsPlausible(double seconds) {
+  return seconds >= kLeastStep * 0.999 && seconds <= kMostStep * 1.001;
+}
 
 /// Numbers about 1.5 thousand million are seconds since 1970, a thousand times that milliseconds.
 TimeForm UnixForm(double value) {
@@ -153,11 +164,13 @@ TimeForm UnixForm(double value) {
   return TimeForm::None;
 }
 
-/// By the step between lines: the form that makes it likeliest, a tenth of a second being the likeliest of all.
+/// By the step between lines: the form that makes it likeliest, a tenth of a second being the
+/// likeliest of all.
 TimeForm PlausibleForm(double step) {
   TimeForm best = TimeForm::None;
   double least = 1e9;
-  for (const TimeForm form : {TimeForm::Seconds, TimeForm::Milliseconds, TimeForm::Microseconds, TimeForm::Days}) {
+  for (const TimeForm form :
+       {TimeForm::Seconds, TimeForm::Milliseconds, TimeForm::Microseconds, TimeForm::Days}) {
     const double seconds = step * SecondsOf(form);
     const double far = std::fabs(std::log10(seconds / 0.1));
     if (!IsPlausible(seconds) || far >= least) continue;
@@ -167,8 +180,10 @@ TimeForm PlausibleForm(double step) {
   return best;
 }
 
-TimeForm FormOf(const ShapeColumn& column, const Candidate& candidate, double step, std::string& why) {
-  if (column.content == ColumnContent::Time) return candidate.dates ? TimeForm::DateAndTime : TimeForm::Clock;
+TimeForm FormOf(const ShapeColumn& column, const Candidate& candidate, double step,
+                std::string& why) {
+  if (column.content == ColumnContent::Time)
+    return candidate.dates ? TimeForm::DateAndTime : TimeForm::Clock;
   const TimeForm unix = UnixForm(candidate.stamps.front());
   if (unix != TimeForm::None) return unix;
   const TimeForm named = NamedForm(column);
@@ -180,7 +195,8 @@ TimeForm FormOf(const ShapeColumn& column, const Candidate& candidate, double st
   return PlausibleForm(step);
 }
 
-std::vector<Candidate> Candidates(const std::vector<ShapeColumn>& columns, const ShapeTable& table, char decimalSign) {
+std::vector<Candidate> Candidates(const std::vector<ShapeColumn>& columns, const ShapeTable& table,
+                                  char decimalSign) {
   std::vector<Candidate> found;
   for (std::size_t at = 0; at < columns.size(); ++at) {
     const ShapeColumn& column = columns[at];
@@ -189,7 +205,9 @@ std::vector<Candidate> Candidates(const std::vector<ShapeColumn>& columns, const
     Candidate candidate{static_cast<int>(at), {}, false, 0, NameWorth(column)};
     const Unit* unit = FindUnit(column.unit);
     const bool otherUnit = unit && unit->quantity != Quantity::Time;
-    if (otherUnit || (candidate.worth <= 0 && !timed && (at > 0 || !column.title.starts_with("Column ")))) continue;
+    if (otherUnit ||
+        (candidate.worth <= 0 && !timed && (at > 0 || !column.title.starts_with("Column "))))
+      continue;
     if (unit) candidate.worth += 3;
     candidate.worth -= timed * 2;
     candidate.stamps = ReadStamps(column, table, decimalSign, candidate.dates);
@@ -222,7 +240,8 @@ TimeForm TimeFormOfName(std::string_view name) {
 
 double SecondsOf(TimeForm form) { return RowOf(form).seconds; }
 
-TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable& table, char decimalSign) {
+TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable& table,
+                      char decimalSign) {
   TimeBase base;
   const auto candidates = Candidates(columns, table, decimalSign);
   const Candidate* best = Best(candidates);
@@ -241,7 +260,8 @@ TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable&
   base.column = best->column;
   base.step = step * SecondsOf(base.form);
   base.score = (IsPlausible(base.step) ? 80 : 50) + std::min(best->worth, 20);
-  base.why = "\"" + column.title + "\" rises; " + std::string(RowOf(base.form).words) + (why.empty() ? "" : ": " + why);
+  base.why = "\"" + column.title + "\" rises; " + std::string(RowOf(base.form).words) +
+             (why.empty() ? "" : ": " + why);
   return base;
 }
 

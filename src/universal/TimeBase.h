@@ -39,9 +39,10 @@ struct TimeBase {
   std::string why;
 };
 
-/// The finest of a log's clocks that rises. What its unit is, title or units row tell; without them, what gives a
-/// plausible step between lines.
-TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable& table, char decimalSign);
+/// The finest of a log's clocks that rises. What its unit is, title or units row tell; without
+/// them, what gives a plausible step between lines.
+TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable& table,
+                      char decimalSign);
 
 /// Lines a second that a preamble tells ("Sample Rate","50.000","Hz"); 0 for none.
 double RateOfPreamble(const std::vector<std::string_view>& lines, int count);

@@ -19,7 +19,8 @@ constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 std::optional<int> TakeNumber(std::string_view& text, std::size_t most) {
   std::size_t length = 0;
   int number = 0;
-  while (length < text.size() && length < most && IsDigit(text[length])) number = number * 10 + (text[length++] - '0');
+  while (length < text.size() && length < most && IsDigit(text[length]))
+    number = number * 10 + (text[length++] - '0');
   if (length == 0) return std::nullopt;
   text.remove_prefix(length);
   return number;
@@ -53,7 +54,8 @@ int MonthOf(std::string_view word) {
 
 std::optional<Date> DayOf(int year, int month, int day) {
   if (year < 100) year += 2000;
-  if (month < 1 || month > 12 || day < 1 || day > 31 || year < 1900 || year > 2200) return std::nullopt;
+  if (month < 1 || month > 12 || day < 1 || day > 31 || year < 1900 || year > 2200)
+    return std::nullopt;
   return MakeDate(year, month, day);
 }
 
@@ -74,11 +76,13 @@ std::optional<Date> TakeDay(std::string_view& text) {
       parts[part] = *number;
     }
     if (part == 0) yearFirst = before - rest.size() == 4;
-    if (part == 2 && !yearFirst && before - rest.size() < 2) return std::nullopt;  // "1.2.3" is no date
+    if (part == 2 && !yearFirst && before - rest.size() < 2)
+      return std::nullopt;  // "1.2.3" is no date
     if (part == 2) break;
     if (rest.empty()) return std::nullopt;
     if (part == 0) sign = rest[0];
-    if (std::string_view("-./ ").find(sign) == std::string_view::npos || !Take(rest, sign)) return std::nullopt;
+    if (std::string_view("-./ ").find(sign) == std::string_view::npos || !Take(rest, sign))
+      return std::nullopt;
   }
   if (sign == ' ' && !named) return std::nullopt;
   text = rest;
@@ -89,7 +93,9 @@ std::optional<Date> TakeDay(std::string_view& text) {
 
 /// ".5", ",5" or ":500" behind whole seconds; 0 for none.
 double TakeFraction(std::string_view& text) {
-  if (text.size() < 2 || std::string_view(".,:").find(text[0]) == std::string_view::npos || !IsDigit(text[1])) return 0;
+  if (text.size() < 2 || std::string_view(".,:").find(text[0]) == std::string_view::npos ||
+      !IsDigit(text[1]))
+    return 0;
   text.remove_prefix(1);
   double fraction = 0, place = 1;
   while (!text.empty() && IsDigit(text[0])) {

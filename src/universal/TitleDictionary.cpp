@@ -10,9 +10,10 @@ namespace {
 
 constexpr std::string_view kNoMeaning[] = {"sae", "obd", "the", "of", "ecu", "signal"};
 /// A quantity that is wanted, or a limit of one, is another than the quantity.
-constexpr std::string_view kAnother[] = {"target",  "desired", "commanded", "requested", "max",  "min",  "limit",
-                                         "delta",   "error",   "soll",      "setpoint",  "idle", "diff", "rate",
-                                         "learned", "lower",   "upper",     "avg",       "raw"};
+constexpr std::string_view kAnother[] = {"target",   "desired", "commanded", "requested", "max",
+                                         "min",      "limit",   "delta",     "error",     "soll",
+                                         "setpoint", "idle",    "diff",      "rate",      "learned",
+                                         "lower",    "upper",   "avg",       "raw"};
 
 bool IsOneOf(std::span<const std::string_view> words, const std::string& word) {
   return std::find(words.begin(), words.end(), word) != words.end();
@@ -23,7 +24,8 @@ enum class Letter { Small, Capital, Digit, Sign };
 Letter LetterOf(char c) {
   const auto byte = static_cast<unsigned char>(c);
   if (c >= '0' && c <= '9') return Letter::Digit;
-  if ((c >= 'A' && c <= 'Z') || (byte >= 0xC0 && byte < 0xDF && byte != 0xD7)) return Letter::Capital;
+  if ((c >= 'A' && c <= 'Z') || (byte >= 0xC0 && byte < 0xDF && byte != 0xD7))
+    return Letter::Capital;
   const bool small = (c >= 'a' && c <= 'z') || (byte >= 0xDF && byte != 0xF7);
   return small ? Letter::Small : Letter::Sign;
 }
@@ -86,7 +88,8 @@ KnownTitle TitleDictionary::FindWords(std::vector<std::string> words) const {
   }
   for (std::size_t front = 1; front + 2 <= words.size() && front <= 3; ++front) {
     if (IsOneOf(kAnother, words[front - 1])) break;
-    const std::vector<std::string> behind(words.begin() + static_cast<std::ptrdiff_t>(front), words.end());
+    const std::vector<std::string> behind(words.begin() + static_cast<std::ptrdiff_t>(front),
+                                          words.end());
     if (const KnownTitle* known = Exactly(behind)) return {known->item, known->unit, 60};
   }
   return {};

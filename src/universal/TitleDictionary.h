@@ -14,8 +14,9 @@ struct KnownTitle {
   int score = 0;     ///< 0 for an unknown title; 100 where all words are those of an alias
 };
 
-/// The titles under which loggers of the field keep the data items: a plain table that a user may add to. A line is
-/// "alias ; item ; unit"; "#" begins a comment. The last of two like aliases counts.
+/// The titles under which loggers of the field keep the data items: a plain table that a user may
+/// add to. A line is "alias ; item ; unit"; "#" begins a comment. The last of two like aliases
+/// counts.
 class TitleDictionary {
  public:
   TitleDictionary() = default;
@@ -23,8 +24,9 @@ class TitleDictionary {
   explicit TitleDictionary(std::string_view text);
 
   int Count() const { return static_cast<int>(entries_.size()); }
-  /// A title without its unit. It is compared by words: case, blanks, signs and brackets do not matter, nor words of
-  /// no meaning such as "(SAE)"; a path ("engine/rpm") and a maker's word in front ("XYZ Engine Speed") may be there.
+  /// A title without its unit. It is compared by words: case, blanks, signs and brackets do not
+  /// matter, nor words of no meaning such as "(SAE)"; a path ("engine/rpm") and a maker's word in
+  /// front ("XYZ Engine Speed") may be there.
   KnownTitle Find(std::string_view title) const;
   /// Item names that stand in it, each once.
   std::vector<std::string> Items() const;
@@ -36,8 +38,8 @@ class TitleDictionary {
   std::unordered_map<std::string, KnownTitle> entries_;  ///< by the alias' words, joined by blanks
 };
 
-/// Small letters; a capital behind a small letter begins a word, and so does a digit behind a letter:
-/// "wboAFR1" is "wbo", "afr", "1".
+/// Small letters; a capital behind a small letter begins a word, and so does a digit behind a
+/// letter: "wboAFR1" is "wbo", "afr", "1".
 std::vector<std::string> WordsOf(std::string_view title);
 
 }  // namespace tarnview

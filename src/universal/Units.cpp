@@ -8,8 +8,9 @@
 namespace tarnview {
 namespace {
 
-// The pressures are the standard's: 1 psi = 6.894757 kPa, 1 inHg at 0 C = 3.386389 kPa, 1 mmHg = 0.1333224 kPa. An
-// air/fuel ratio is lambda x 14.7, petrol's. 1 lb = 453.59237 g, 1 mile = 1.609344 km.
+// The pressures are the standard's: 1 psi = 6.894757 kPa, 1 inHg at 0 C = 3.386389 kPa, 1 mmHg =
+// 0.1333224 kPa. An air/fuel ratio is lambda x 14.7, petrol's. 1 lb = 453.59237 g, 1 mile
+// = 1.609344 km.
 // clang-format off
 constexpr Unit kUnits[] = {
     {"s",      Quantity::Time, 1, 0,              " sec secs second seconds sek sekunden "},
@@ -63,7 +64,8 @@ constexpr Unit kUnits[] = {
 std::string Simple(std::string_view text) {
   std::string simple;
   for (const char c : text)
-    if (c != ' ' && c != '\xC2') simple += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    if (c != ' ' && c != '\xC2')
+      simple += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
   if (simple.size() >= 2 && (simple.front() == '[' || simple.front() == '('))
     simple = simple.substr(1, simple.size() - 2);
   if (simple.size() == 2 && (simple[0] == '\xB0' || simple[0] == '\xBA')) simple.erase(0, 1);

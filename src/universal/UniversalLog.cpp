@@ -21,7 +21,8 @@
 namespace tarnview {
 namespace {
 
-// A line of titles that is missing or too short is told by messages about definitions: kept on purpose.
+// A line of titles that is missing or too short is told by messages about definitions: kept on
+// purpose.
 constexpr Message kTooFewFields = Message::ColumnOfOtherType;
 constexpr Message kNoHeader = Message::HeaderIncomplete;
 
@@ -37,14 +38,17 @@ void Identify(std::string_view text, const clsDataLog& definition) {
   if (before >= 0 && static_cast<std::size_t>(before) <= line.size() &&
       line.substr(static_cast<std::size_t>(before)).starts_with(definition.strFileIDText))
     return;
-  throw DefinitionFault(Message::FileIDTextNotFound,
-                        DetailText({"Lines before: " + std::to_string(definition.lngFileIDTextLinesBefore),
-                                    "Columns before: " + std::to_string(before), "ID Text: " + definition.strFileIDText,
-                                    "Line read from data log: ", std::string(line)}));
+  throw DefinitionFault(
+      Message::FileIDTextNotFound,
+      DetailText({"Lines before: " + std::to_string(definition.lngFileIDTextLinesBefore),
+                  "Columns before: " + std::to_string(before),
+                  "ID Text: " + definition.strFileIDText,
+                  "Line read from data log: ", std::string(line)}));
 }
 
 /// The line of the columns' titles.
-std::string_view FindHeader(std::string_view text, const clsDataLog& definition, const std::string& path) {
+std::string_view FindHeader(std::string_view text, const clsDataLog& definition,
+                            const std::string& path) {
   const bool there = SkipFileLines(text, definition.lngColumnHeadersLinesBefore);
   if (!there || text.empty()) throw DefinitionFault(kNoHeader, path);
   const std::string_view line = TextLines(text).Next();
@@ -57,22 +61,24 @@ std::string_view FindHeader(std::string_view text, const clsDataLog& definition,
 long ExpectedRows(std::size_t bytes, std::size_t headerLength) {
   constexpr double kBlock = 128;
   const double length = RoundHalfEven(static_cast<double>(bytes) / kBlock) * kBlock;
-  return static_cast<long>(std::min(length / static_cast<double>(std::max<std::size_t>(headerLength, 1)), 1e9));
+  return static_cast<long>(
+      std::min(length / static_cast<double>(std::max<std::size_t>(headerLength, 1)), 1e9));
 }
 
-/// Rows that the log will have, by the length of its first data lines; rather too many than too few, which costs
-/// nothing, while a store that must grow moves all its rows.
+/// Rows that the log will have, by the length of its first data lines; rather too many than too
+/// few, which costs nothing, while a store that must grow moves all its rows.
 int RowsToHold(std::string_view text, long expected) {
   const std::string_view start = text.substr(0, 1 << 16);
   const auto lines = static_cast<double>(std::count(start.begin(), start.end(), '\n')) + 1;
-  const double rows =
-      lines * static_cast<double>(text.size()) / static_cast<double>(std::max<std::size_t>(start.size(), 1));
+  const double rows = lines * static_cast<double>(text.size()) /
+                      static_cast<double>(std::max<std::size_t>(start.size(), 1));
   return static_cast<int>(std::min(std::max(rows * 1.1, static_cast<double>(expected)), 1e9));
 }
 
 class Load {
  public:
-  Load(std::string_view bytes, const LoadContext& context, const clsDataLog& definition, LoadOutcome& outcome)
+  Load(std::string_view bytes, const LoadContext& context, const clsDataLog& definition,
+       LoadOutcome& outcome)
       : bytes_(PlainLog(bytes, definition, plain_)),
         context_(context),
         definition_(definition),
@@ -94,7 +100,8 @@ class Load {
 
  private:
   /// `data`: the lines of samples, where they are not to be counted.
-  void Read(const HeaderMap& header, std::string_view headerLine, std::optional<std::string_view> data) {
+  void Read(const HeaderMap& header, std::string_view headerLine,
+            std::optional<std::string_view> data) {
     CheckHeader(header, headerLine);
     ReadData(header, data ? *data : CountedData(), ExpectedRows(bytes_.size(), headerLine.size()));
     NoteTemperatures(header);
@@ -147,8 +154,10 @@ class Load {
     const clsLogDataItem& coolant = context_.items.Item(ItemOf(kCTemp));
     if (header.Feeds(ItemOf(kATemp)) && store.Rows() > 0) {
       const auto stored = store.Column(kATemp);
-      const std::int32_t lowest = stored.empty() ? 0 : *std::min_element(stored.begin(), stored.end());
-      log_.glngLowestAirTemp = std::min(log_.glngLowestAirTemp, RoundToLong(air.GetRawData(lowest)));
+      const std::int32_t lowest =
+          stored.empty() ? 0 : *std::min_element(stored.begin(), stored.end());
+      log_.glngLowestAirTemp =
+          std::min(log_.glngLowestAirTemp, RoundToLong(air.GetRawData(lowest)));
     }
     if (!header.Feeds(ItemOf(kCTemp))) return;
     for (int row = 0; row < store.Rows() && log_.glngFirstPlotSample == -1; ++row)
@@ -160,7 +169,8 @@ class Load {
   void FillOffsetItems(const HeaderMap& header) {
     for (const int item : definition_.objColumns.OffsetDataItems())
       if (!header.Feeds(item))
-        log_.glngDataLog.Fill(item - 1, 0, log_.glngDataLog.Rows(), context_.items.Item(item).SetRawData(0));
+        log_.glngDataLog.Fill(item - 1, 0, log_.glngDataLog.Rows(),
+                              context_.items.Item(item).SetRawData(0));
   }
 
   void SetTimes(const HeaderMap& header) {
@@ -168,7 +178,8 @@ class Load {
     if (!header.Feeds(ItemOf(kSecs))) {
       const double factor = context_.items.Item(ItemOf(kSecs)).dblFactor;
       for (int row = 0; row < store.Rows(); ++row)
-        store.Set(kSecs, row, RoundToLong(RoundPlaces(1 / definition_.dblLineFrequency * row, 4) * factor));
+        store.Set(kSecs, row,
+                  RoundToLong(RoundPlaces(1 / definition_.dblLineFrequency * row, 4) * factor));
       return;
     }
     if (!stamps_.empty()) return SetStampedTimes();
@@ -186,7 +197,8 @@ class Load {
     const double factor = context_.items.Item(ItemOf(kSecs)).dblFactor;
     const auto times = TimesOfLines(stamps_, TimeFormOfName(definition_.strTimeForm));
     const std::span<std::int32_t> cells = log_.glngDataLog.Writable(kSecs);
-    for (std::size_t row = 0; row < cells.size(); ++row) cells[row] = StoredTime(times[row] * factor);
+    for (std::size_t row = 0; row < cells.size(); ++row)
+      cells[row] = StoredTime(times[row] * factor);
   }
 
   /// The last that a stored integer holds, for a clock that goes wild.
@@ -222,7 +234,8 @@ bool SkipFileLines(std::string_view& text, long lines) {
   return true;
 }
 
-LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context, const clsDataLog& definition) {
+LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context,
+                               const clsDataLog& definition) {
   LoadOutcome outcome;
   try {
     Load(bytes, context, definition, outcome).Run();

@@ -7,9 +7,11 @@
 
 namespace tarnview {
 
-/// Reads a delimited text log through a definition; the context's items are those that the definition generates. Never
-/// throws; any bytes are a log or a message. The path of the log, which some messages name, is that of the open log.
-LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context, const clsDataLog& definition);
+/// Reads a delimited text log through a definition; the context's items are those that the
+/// definition generates. Never throws; any bytes are a log or a message. The path of the log, which
+/// some messages name, is that of the open log.
+LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context,
+                               const clsDataLog& definition);
 
 /// Passes over up to `lines` lines from the front of a text; false if it ends first.
 bool SkipFileLines(std::string_view& text, long lines);

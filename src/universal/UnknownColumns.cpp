@@ -11,8 +11,10 @@ std::string LinesText(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-std::string WriteUnknownUniversalColumns(FileSystem& files, const Moment& now, const std::string& folder,
-                                         const std::string& definitionPath, const std::string& logPath,
+std::string WriteUnknownUniversalColumns(FileSystem& files, const Moment& now,
+                                         const std::string& folder,
+                                         const std::string& definitionPath,
+                                         const std::string& logPath,
                                          const std::vector<std::string>& columns) {
   std::vector<std::string> lines{"TARNVIEW UNKNOWN COLUMNS",
                                  "",
@@ -29,8 +31,10 @@ std::string WriteUnknownUniversalColumns(FileSystem& files, const Moment& now, c
   return files.Write(path, LinesText(lines)) ? path : "";
 }
 
-bool CreateNewDataLogDescriptionFile(FileSystem& files, const std::string& folder, const std::string& strPath) {
-  return files.Write(folder + "NewDataLogDescription.txt", LinesText({"[General]", "Path and Filename=" + strPath}));
+bool CreateNewDataLogDescriptionFile(FileSystem& files, const std::string& folder,
+                                     const std::string& strPath) {
+  return files.Write(folder + "NewDataLogDescription.txt",
+                     LinesText({"[General]", "Path and Filename=" + strPath}));
 }
 
 }  // namespace tarnview

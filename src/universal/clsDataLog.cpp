@@ -7,7 +7,8 @@ bool IsDataItemInDataLogDefinition(int lngDataItemID, const clsDataLog& objDefin
   if (lngDataItemID >= kFirstOwnItem && objDefinition.blnOwnDataItems)
     return objDefinition.objColumns.DataItemInColumns(lngDataItemID);
   if (lngDataItemID < 1 || lngDataItemID > catalogue.Count()) return false;
-  return catalogue.Item(lngDataItemID).blnMandatory || objDefinition.objColumns.DataItemInColumns(lngDataItemID);
+  return catalogue.Item(lngDataItemID).blnMandatory ||
+         objDefinition.objColumns.DataItemInColumns(lngDataItemID);
 }
 
 }  // namespace tarnview

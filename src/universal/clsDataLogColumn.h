@@ -22,11 +22,13 @@ class clsDataLogColumn {
  public:
   std::string strName;  ///< of the data item
   std::string strColumnTitle;
-  std::int32_t lngDataItemID = 0;                 ///< item number (intSeq)
-  Settable<std::int32_t> lngColumnDecimalPlaces;  ///< 0 to 5: a value is stored times 10 to this power
-  std::int32_t lngType = 0;                       ///< ColumnType
+  std::int32_t lngDataItemID = 0;  ///< item number (intSeq)
+  Settable<std::int32_t>
+      lngColumnDecimalPlaces;  ///< 0 to 5: a value is stored times 10 to this power
+  std::int32_t lngType = 0;    ///< ColumnType
   /// Shared by all duplicates of the column.
-  std::shared_ptr<clsDataLogColumnValues> objColumnValues = std::make_shared<clsDataLogColumnValues>();
+  std::shared_ptr<clsDataLogColumnValues> objColumnValues =
+      std::make_shared<clsDataLogColumnValues>();
   std::string strDescription;
   Settable<double> dblOffset;  ///< added when storing, so that negative values can be stored
   Settable<std::int32_t> lngDisplayDecimalPlaces;
@@ -40,14 +42,15 @@ class clsDataLogColumn {
   Settable<double> dblConversionFactor;  ///< 0 stands for not given
   Settable<double> dblConversionOffset;
   bool blnConversionFactorFirst = false;
-  bool blnSetToMaximum = true;  ///< a value above the maximum becomes the maximum; else it is refused
+  bool blnSetToMaximum =
+      true;  ///< a value above the maximum becomes the maximum; else it is refused
   bool blnSetToMinimum = true;
   Clamped<kPlainNumber, kDateAndTime> lngConversionType;
   bool blnSmooth = false;
   std::string strUnit;                  ///< of the values; may be empty
   std::int32_t lngTitleOccurrence = 0;  ///< of several fields of that title the n-th; 0: each
   Settable<bool> blnDisplay;            ///< the Sample Graph draws it
-  bool blnSigned = false;               ///< negative values are stored as they are; else they become 0
+  bool blnSigned = false;  ///< negative values are stored as they are; else they become 0
 
   /// The title as the headings of logs are compared with it.
   std::string strColumnTitleCaps() const { return Upper(strColumnTitle); }

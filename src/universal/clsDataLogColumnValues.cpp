@@ -16,7 +16,8 @@ clsDataLogColumnValues::Entry clsDataLogColumnValues::Add(std::string strDataLog
   return AddDirect(std::move(entry));
 }
 
-clsDataLogColumnValues::Entry clsDataLogColumnValues::AddDirect(Entry objValue, int Before, int After) {
+clsDataLogColumnValues::Entry clsDataLogColumnValues::AddDirect(Entry objValue, int Before,
+                                                                int After) {
   const auto place = static_cast<std::ptrdiff_t>(Placement(values_.size(), Before, After));
   return *values_.insert(values_.begin() + place, std::move(objValue));
 }
@@ -34,7 +35,8 @@ void clsDataLogColumnValues::Remove(int position) {
 
 clsDataLogColumnValues clsDataLogColumnValues::Duplicate() const {
   clsDataLogColumnValues copy;
-  for (const Entry& value : values_) copy.AddDirect(std::make_shared<clsDataLogColumnValue>(value->Duplicate()));
+  for (const Entry& value : values_)
+    copy.AddDirect(std::make_shared<clsDataLogColumnValue>(value->Duplicate()));
   return copy;
 }
 

@@ -24,7 +24,8 @@ class clsDataLogColumnValues {
   using Entry = std::shared_ptr<clsDataLogColumnValue>;
 
   /// A new entry at the end; by `strKey` too where that is not empty.
-  Entry Add(std::string strDataLogValue, std::int32_t lngDataLogTranslation, const std::string& strKey = "");
+  Entry Add(std::string strDataLogValue, std::int32_t lngDataLogTranslation,
+            const std::string& strKey = "");
   /// The entry itself, at the place that Placement tells.
   Entry AddDirect(Entry objValue, int Before = 0, int After = 0);
 

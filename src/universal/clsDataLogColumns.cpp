@@ -4,11 +4,13 @@
 
 namespace tarnview {
 
-const clsDataLogColumn& clsDataLogColumns::AddDirect(const clsDataLogColumn& objColumn, int Before, int After) {
+const clsDataLogColumn& clsDataLogColumns::AddDirect(const clsDataLogColumn& objColumn, int Before,
+                                                     int After) {
   const auto place = static_cast<std::ptrdiff_t>(Placement(columns_.size(), Before, After));
   columns_.insert(columns_.begin() + place, objColumn.Duplicate());
   ++uses_[objColumn.lngDataItemID];
-  if (objColumn.dblOffset.IsSet() && objColumn.dblOffset != 0) colOffsetDataItems_.insert(objColumn.lngDataItemID);
+  if (objColumn.dblOffset.IsSet() && objColumn.dblOffset != 0)
+    colOffsetDataItems_.insert(objColumn.lngDataItemID);
   return objColumn;
 }
 
@@ -25,8 +27,9 @@ clsDataLogColumns clsDataLogColumns::Duplicate() const {
   return copy;
 }
 
-void clsDataLogColumns::DataItemDetails(int lngDataItemID, std::string& strName, std::string& strDescription,
-                                        bool& blnFound, std::string& strColumnTitles) const {
+void clsDataLogColumns::DataItemDetails(int lngDataItemID, std::string& strName,
+                                        std::string& strDescription, bool& blnFound,
+                                        std::string& strColumnTitles) const {
   constexpr std::string_view kBetween = ", ";
   if (!DataItemInColumns(lngDataItemID)) return;
   for (const clsDataLogColumn& column : columns_) {

@@ -24,7 +24,9 @@ constexpr int kFields[] = {6,  16,  17,  226, 227, 247,                       //
                            2,  7,   9,   10,  11,  224, 225, 228, 243, 244};  // miscellaneous
 constexpr int kLeastAtmos = 0, kMostAtmos = 255;                              ///< kPa
 
-std::vector<std::string> Texts(std::span<const std::string_view> views) { return {views.begin(), views.end()}; }
+std::vector<std::string> Texts(std::span<const std::string_view> views) {
+  return {views.begin(), views.end()};
+}
 
 std::string FromTo(const std::string& what, const std::string& from, const std::string& to) {
   return what + " " + from + " to " + to;
@@ -113,7 +115,8 @@ void GeneralFields::BindChip() {
   txtChipDate.LostFocus = [this] { LeaveChipDate(); };
   txtAtmos.LostFocus = [this] {
     ZoneSheet sheet = keeper_.Sheet();
-    sheet.intAtmosphericPressure = std::clamp(StringToLong(txtAtmos.Text()), kLeastAtmos, kMostAtmos);
+    sheet.intAtmosphericPressure =
+        std::clamp(StringToLong(txtAtmos.Text()), kLeastAtmos, kMostAtmos);
     std::string step = "Atmospheric Pressure " + std::to_string(sheet.intAtmosphericPressure);
     keeper_.Do(std::move(step), std::move(sheet));
   };
@@ -129,15 +132,18 @@ void GeneralFields::BindTuning() {
     row.box.Click = [this, row] {
       if (showing_) return;
       const std::string word = row.box.Value() ? " on" : " off";
-      keeper_.Do(Trimmed(row.box.Caption()) + word, WithTick(keeper_.Sheet(), row.tick, row.box.Value));
+      keeper_.Do(Trimmed(row.box.Caption()) + word,
+                 WithTick(keeper_.Sheet(), row.tick, row.box.Value));
     };
   cboAutoTune0.Click = [this] {
     if (showing_) return;
-    keeper_.Do("Auto Tuning " + cboAutoTune0.Text(), WithAutoTuneType(keeper_.Sheet(), cboAutoTune0.Text()));
+    keeper_.Do("Auto Tuning " + cboAutoTune0.Text(),
+               WithAutoTuneType(keeper_.Sheet(), cboAutoTune0.Text()));
   };
   cboAutoTune1.Click = [this] {
     if (showing_) return;
-    keeper_.Do("O2 Sensor " + cboAutoTune1.Text(), WithSensor(keeper_.Sheet(), cboAutoTune1.Text()));
+    keeper_.Do("O2 Sensor " + cboAutoTune1.Text(),
+               WithSensor(keeper_.Sheet(), cboAutoTune1.Text()));
   };
   txtTrim_.LostFocus = [this] { LeaveTrim(txtTrim_.Text); };
   updTrim_.UpClick = [this] { StepZone(zone::kTrim, 1); };
@@ -155,7 +161,8 @@ std::vector<GeneralFields::TickBox> GeneralFields::TickBoxes() {
 void GeneralFields::LeaveZone(int zone, const std::string& text) {
   const ZoneSheet& before = keeper_.Sheet();
   ZoneSheet after = WithField(before, zone, text);
-  std::string step = FromTo(std::string(FieldLabel(before, zone)), FieldText(before, zone), FieldText(after, zone));
+  std::string step = FromTo(std::string(FieldLabel(before, zone)), FieldText(before, zone),
+                            FieldText(after, zone));
   keeper_.Do(std::move(step), std::move(after));
 }
 
@@ -167,8 +174,8 @@ void GeneralFields::StepZone(int zone, int by) {
 void GeneralFields::LeaveTrim(const std::string& degrees) {
   const ZoneSheet& before = keeper_.Sheet();
   ZoneSheet after = WithTrim(before, degrees);
-  std::string step =
-      FromTo("Trim", TrimDegreesText(before.Shown(zone::kTrim)), TrimDegreesText(after.Shown(zone::kTrim)));
+  std::string step = FromTo("Trim", TrimDegreesText(before.Shown(zone::kTrim)),
+                            TrimDegreesText(after.Shown(zone::kTrim)));
   keeper_.Do(std::move(step), std::move(after));
 }
 
@@ -194,7 +201,8 @@ void GeneralFields::Show(const ZoneSheet& sheet, bool readOnly) {
   txtAtmos.Text = std::to_string(sheet.intAtmosphericPressure);
   txtNotes.Text = sheet.strNotes;
   txtNotes.ReadOnly = readOnly;
-  for (Control* control : std::initializer_list<Control*>{&cboEngineSize, &cboMAPID, &txtChipDate, &txtAtmos})
+  for (Control* control :
+       std::initializer_list<Control*>{&cboEngineSize, &cboMAPID, &txtChipDate, &txtAtmos})
     control->Enabled = !readOnly;
   ShowTuning(sheet, readOnly);
   showing_ = false;
@@ -209,7 +217,8 @@ void GeneralFields::ShowZones(const ZoneSheet& sheet, bool readOnly) {
     field->text.ToolTip = std::to_string(range.low) + " to " + std::to_string(range.high);
     field->arrows.Min = range.low;
     field->arrows.Max = range.high;
-    for (Control* control : std::initializer_list<Control*>{&field->label, &field->text, &field->arrows})
+    for (Control* control :
+         std::initializer_list<Control*>{&field->label, &field->text, &field->arrows})
       control->Enabled = available;
   }
   txtTrim_.Text = TrimDegreesText(sheet.Shown(zone::kTrim));

@@ -14,7 +14,8 @@
 
 namespace tarnview {
 
-/// The labelled fields and boxes of the editor: the chip, the general zones, the flags, auto tuning, the notes.
+/// The labelled fields and boxes of the editor: the chip, the general zones, the flags, auto
+/// tuning, the notes.
 class GeneralFields {
  public:
   GeneralFields(Form& form, SheetKeeper& keeper);
@@ -22,7 +23,8 @@ class GeneralFields {
   Label lblEngineSize, lblMAPID, lblChipDate, lblAtmos;
   ComboBox cboEngineSize, cboMAPID;
   TextBox txtChipDate, txtAtmos;
-  CheckBox chkMisc0, chkMisc1, chkMisc2, chkMisc3, chkMisc4, chkBoost0, chkBoost1, chkIdle0, chkIdle1, chkAutoTune1;
+  CheckBox chkMisc0, chkMisc1, chkMisc2, chkMisc3, chkMisc4, chkBoost0, chkBoost1, chkIdle0,
+      chkIdle1, chkAutoTune1;
   Label lblAutoTune0, lblAutoTune1;
   ComboBox cboAutoTune0, cboAutoTune1;
   Label lblNotes;

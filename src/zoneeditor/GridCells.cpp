@@ -8,7 +8,8 @@
 namespace tarnview {
 namespace {
 
-/// The shape of a grid: its size with headings, the zone of its first cell, what its cells are called.
+/// The shape of a grid: its size with headings, the zone of its first cell, what its cells are
+/// called.
 struct Shape {
   int rows, columns;
   int firstZone;
@@ -64,7 +65,8 @@ std::string HeadingOf(SheetGrid grid, int row, int column, const ZoneSheet& shee
   if (row == 0 && column == 0)
     return grid != SheetGrid::BoostTargets ? "" : std::string(sheet.boostTargets ? "kPa" : "Pct");
   if (IsZoneGrid(grid))
-    return row == 0 ? ZoneColumnHeading(column - 1) : std::string(ZoneRowHeading(sheet.normallyAspirated, row));
+    return row == 0 ? ZoneColumnHeading(column - 1)
+                    : std::string(ZoneRowHeading(sheet.normallyAspirated, row));
   if (row == 0) return std::string(FieldLabel(sheet, ZoneOfCell(grid, kValueRow, column)));
   if (grid == SheetGrid::BoostTargets) return "";
   return row == kValueRow ? "Val" : "Conv";
@@ -100,23 +102,27 @@ std::string TextOf(const Grid& grid, const GridRange& range, bool headings) {
     if (row > 0 && row < range.top) continue;
     Texts texts;
     if (headings) texts.push_back(grid.Text(row, 0));
-    for (int column = range.left; column <= range.right; ++column) texts.push_back(grid.Text(row, column));
+    for (int column = range.left; column <= range.right; ++column)
+      texts.push_back(grid.Text(row, column));
     text += Join(texts, "\t") + "\n";
   }
   return text;
 }
 
-Pasted PasteOf(std::string_view text, SheetGrid grid, const GridRange& range, const ZoneSheet& sheet) {
+Pasted PasteOf(std::string_view text, SheetGrid grid, const GridRange& range,
+               const ZoneSheet& sheet) {
   Pasted pasted;
   auto rows = RowsOf(text);
   if (rows.empty()) return {{}, {}, "There is nothing to paste."};
   if (rows.size() == 1 && rows[0].size() == 1) rows = Filled(rows[0][0], range);
   for (std::size_t r = 0; r < rows.size(); ++r)
     for (std::size_t c = 0; c < rows[r].size(); ++c) {
-      const int zone = ZoneOfCell(grid, range.top + static_cast<int>(r), range.left + static_cast<int>(c));
+      const int zone =
+          ZoneOfCell(grid, range.top + static_cast<int>(r), range.left + static_cast<int>(c));
       if (zone < 0) return {{}, {}, "What was copied does not fit there; nothing was pasted."};
       if (IsBlackedOut(sheet, zone)) continue;
-      if (!IsNumeric(rows[r][c])) return {{}, {}, "\"" + rows[r][c] + "\" is no number; nothing was pasted."};
+      if (!IsNumeric(rows[r][c]))
+        return {{}, {}, "\"" + rows[r][c] + "\" is no number; nothing was pasted."};
       pasted.cells.push_back(zone);
       pasted.numbers.push_back(StringToLong(rows[r][c]));
     }

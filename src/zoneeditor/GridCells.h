@@ -30,7 +30,9 @@ inline bool IsDifferenceGrid(SheetGrid grid) {
   return grid == SheetGrid::FuelDifference || grid == SheetGrid::IgnitionDifference;
 }
 /// One whose cells are the sheet's own.
-inline bool IsSheetGrid(SheetGrid grid) { return !IsBenchmarkGrid(grid) && !IsDifferenceGrid(grid); }
+inline bool IsSheetGrid(SheetGrid grid) {
+  return !IsBenchmarkGrid(grid) && !IsDifferenceGrid(grid);
+}
 /// One of the six, of zones by load and engine speed.
 inline bool IsZoneGrid(SheetGrid grid) { return grid <= SheetGrid::IgnitionDifference; }
 
@@ -58,6 +60,7 @@ struct Pasted {
   std::string trouble;  ///< why nothing can be pasted; or empty
 };
 /// A text pasted with its first cell at the range's; a single number fills the range.
-Pasted PasteOf(std::string_view text, SheetGrid grid, const GridRange& range, const ZoneSheet& sheet);
+Pasted PasteOf(std::string_view text, SheetGrid grid, const GridRange& range,
+               const ZoneSheet& sheet);
 
 }  // namespace tarnview

@@ -28,14 +28,17 @@ GridGraphTable TableOf(const Grid& grid) {
     for (int column = 1; column <= kGridColumns; ++column) {
       const GridCell& cell = grid.At(row, column);
       table.Text(row, column) = cell.text;
-      table.locked[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column - 1)] = cell.blackedOut;
+      table.locked[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column - 1)] =
+          cell.blackedOut;
     }
   return table;
 }
 
 bool IsFuelGrid(int grid) { return grid < 3; }
 
-std::string GraphKind(int grid) { return IsFuelGrid(grid) ? " Fuel Zone Graph" : " Ignition Zone Graph"; }
+std::string GraphKind(int grid) {
+  return IsFuelGrid(grid) ? " Fuel Zone Graph" : " Ignition Zone Graph";
+}
 
 std::string GraphSource(int grid, const std::string& benchmark) {
   const int place = grid % 3;
@@ -43,8 +46,9 @@ std::string GraphSource(int grid, const std::string& benchmark) {
 }
 
 StartingAngles AnglesOf(const GraphAngles& settings, int grid) {
-  return IsFuelGrid(grid) ? StartingAngles{settings.lngFuelRotation, settings.lngFuelElevation}
-                          : StartingAngles{settings.lngIgnitionRotation, settings.lngIgnitionElevation};
+  return IsFuelGrid(grid)
+             ? StartingAngles{settings.lngFuelRotation, settings.lngFuelElevation}
+             : StartingAngles{settings.lngIgnitionRotation, settings.lngIgnitionElevation};
 }
 
 std::string GraphRowLabel(bool normallyAspirated, int row) {
@@ -54,11 +58,13 @@ std::string GraphRowLabel(bool normallyAspirated, int row) {
 
 Surface SurfaceOf(const GridGraphRequest& request, const GridGraphTable& table) {
   Surface surface;
-  surface.title = request.kind.substr(std::min(request.kind.find_first_not_of(' '), request.kind.size()));
+  surface.title =
+      request.kind.substr(std::min(request.kind.find_first_not_of(' '), request.kind.size()));
   surface.subtitle = request.source;
   surface.rowTitle = "MAP Zone";
   surface.columnTitle = "RPM Zone (RPM / 100)";
-  for (int column = 1; column <= kGridColumns; ++column) surface.columns.push_back(ZoneColumnHeading(column - 1));
+  for (int column = 1; column <= kGridColumns; ++column)
+    surface.columns.push_back(ZoneColumnHeading(column - 1));
   for (int row = 1; row <= kGridRows; ++row) {
     surface.rows.push_back(GraphRowLabel(request.normallyAspirated, row));
     for (int column = 1; column <= kGridColumns; ++column) {
@@ -79,7 +85,8 @@ ChartAxis HeightAxis(const std::vector<double>& values) {
       step *= decade;
       const double min = std::floor(*lowest / step) * step;
       const double max = std::max(std::ceil(*highest / step) * step, min + step);
-      if (max - min <= kMostDivisions * step) return {min, max, static_cast<int>((max - min) / step), "##0"};
+      if (max - min <= kMostDivisions * step)
+        return {min, max, static_cast<int>((max - min) / step), "##0"};
     }
 }
 

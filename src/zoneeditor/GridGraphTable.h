@@ -18,7 +18,8 @@ struct GridGraphTable {
   std::array<std::array<std::string, kGridColumns>, kGridRows> texts;
   std::array<std::array<bool, kGridColumns>, kGridRows> locked{};
 
-  /// Row 1 to 6, column 1 to 16, as the grid numbers them. An empty text is 0, as in a table of differences.
+  /// Row 1 to 6, column 1 to 16, as the grid numbers them. An empty text is 0, as in a table of
+  /// differences.
   int Number(int row, int column) const;
   std::string& Text(int row, int column) {
     return texts[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column - 1)];
@@ -48,8 +49,8 @@ struct GridGraphRequest {
   int grid = 0;        ///< index of the editor's grid, 0 to 5
 };
 
-/// Grids 0 to 2 show fuel, 3 to 5 ignition; of each three the first is the editor's own, then the benchmark and the
-/// difference to it.
+/// Grids 0 to 2 show fuel, 3 to 5 ignition; of each three the first is the editor's own, then the
+/// benchmark and the difference to it.
 bool IsFuelGrid(int grid);
 std::string GraphKind(int grid);
 std::string GraphSource(int grid, const std::string& benchmark);
@@ -68,8 +69,9 @@ Surface SurfaceOf(const GridGraphRequest& request, const GridGraphTable& table);
 /// Round numbers around the values, in at most six steps.
 ChartAxis HeightAxis(const std::vector<double>& values);
 
-/// The sheet after OK: the cells that differ from those the graph opened with take its numbers. Of row 6, fuel leaves
-/// out columns 1 and 2, but ignition column 1 alone, on every chip: kept on purpose.
+/// The sheet after OK: the cells that differ from those the graph opened with take its numbers. Of
+/// row 6, fuel leaves out columns 1 and 2, but ignition column 1 alone, on every chip: kept on
+/// purpose.
 ZoneSheet WithGraphTable(const ZoneSheet& sheet, ZoneGrid grid, const GridGraphTable& before,
                          const GridGraphTable& after);
 

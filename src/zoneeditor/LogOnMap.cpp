@@ -32,12 +32,15 @@ int Nearest(double place) { return static_cast<int>(std::floor(place + 0.5)); }
 class Rows {
  public:
   explicit Rows(const OpenLog& log)
-      : item_(log.gcolDataItems->Item(ItemOf(kMAP))), sixRows_(log.zones.gblnZoneLayout6), known_(kKeptMAPs, 0) {}
+      : item_(log.gcolDataItems->Item(ItemOf(kMAP))),
+        sixRows_(log.zones.gblnZoneLayout6),
+        known_(kKeptMAPs, 0) {}
 
   int operator()(std::int32_t stored) {
     const auto slot = static_cast<std::size_t>(stored);
     if (stored < 0 || slot >= kKeptMAPs) return Nearest(RowOf(item_.GetRawData(stored), sixRows_));
-    if (known_[slot] == 0) known_[slot] = static_cast<char>(Nearest(RowOf(item_.GetRawData(stored), sixRows_)));
+    if (known_[slot] == 0)
+      known_[slot] = static_cast<char>(Nearest(RowOf(item_.GetRawData(stored), sixRows_)));
     return known_[slot];
   }
 
@@ -67,7 +70,8 @@ std::string Signed(double value, int places) {
 std::optional<double> LogOnMap::Value(GridShow show, int row, int column) const {
   const CellFacts& cell = At(row, column);
   const bool error = show == GridShow::Error;
-  if (show == GridShow::Nothing || (error ? cell.mixtures : cell.samples) < kFewestSamples) return std::nullopt;
+  if (show == GridShow::Nothing || (error ? cell.mixtures : cell.samples) < kFewestSamples)
+    return std::nullopt;
   if (error) return cell.MeanError();
   return show == GridShow::Visits ? cell.samples : cell.highestKnock;
 }
@@ -132,7 +136,8 @@ FuelProposal Propose(const LogOnMap& drive, const ZoneSheet& sheet) {
       const CellFacts& facts = drive.At(row, column);
       const int zone = ZoneCell(ZoneGrid::Fuel, row - 1, column - 1);
       if (facts.mixtures < FuelProposal::kFewestSamples || IsBlackedOut(sheet, zone)) continue;
-      const double error = std::clamp(facts.MeanError(), -FuelProposal::kMostPerCent, FuelProposal::kMostPerCent);
+      const double error =
+          std::clamp(facts.MeanError(), -FuelProposal::kMostPerCent, FuelProposal::kMostPerCent);
       // Truncated, so that rounding never goes beyond the limit of a step.
       const int change = static_cast<int>(sheet.Shown(zone) * error / 100);
       const int after = Forced(sheet, zone, sheet.Shown(zone) + change);

@@ -28,7 +28,8 @@ class ZoneComparison {
 
   /// The zones that are chosen; nullptr for none.
   const ZoneSettings* Zones() const;
-  /// With their chip, which is `form`'s for the log's own sets; `form` itself where nothing is chosen.
+  /// With their chip, which is `form`'s for the log's own sets; `form` itself where nothing is
+  /// chosen.
   ZoneMap Map(const ZoneMap& form) const;
 
  private:

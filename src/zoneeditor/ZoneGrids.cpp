@@ -19,7 +19,8 @@ Colour HeatColour(double share) {
   Colour mixed = 0;
   for (const int shift : {0, 8, 16}) {
     const auto byte = [&](Colour colour) { return static_cast<double>((colour >> shift) & 0xff); };
-    const double value = byte(kHeatColours[low]) + part * (byte(kHeatColours[low + 1]) - byte(kHeatColours[low]));
+    const double value =
+        byte(kHeatColours[low]) + part * (byte(kHeatColours[low + 1]) - byte(kHeatColours[low]));
     mixed |= static_cast<Colour>(value + 0.5) << shift;
   }
   return mixed;
@@ -29,10 +30,15 @@ std::string Signed(int number) { return (number > 0 ? "+" : "") + std::to_string
 
 }  // namespace
 
-ZoneGrids::ZoneGrids(Form& form, SheetKeeper& keeper, const ZoneComparison& comparison, Window& window)
-    : grdData(form, "grdData", UpTo(kSheetGrids)), keeper_(keeper), comparison_(comparison), window_(window) {
+ZoneGrids::ZoneGrids(Form& form, SheetKeeper& keeper, const ZoneComparison& comparison,
+                     Window& window)
+    : grdData(form, "grdData", UpTo(kSheetGrids)),
+      keeper_(keeper),
+      comparison_(comparison),
+      window_(window) {
   for (const auto& grid : grdData)
-    grid->Edited = [this, which = SheetGrid{grid->index}](int row, int column, const std::string& text) {
+    grid->Edited = [this, which = SheetGrid{grid->index}](int row, int column,
+                                                          const std::string& text) {
       CellEdited(which, row, column, text);
     };
 }
@@ -99,7 +105,8 @@ GridCell ZoneGrids::ValueCell(SheetGrid grid, int zone) const {
   }
   if (heat_ && IsZoneGrid(grid)) {
     const ZoneRange range = FieldRange(sheet, zone);
-    cell.backColour = HeatColour(static_cast<double>(now - range.low) / std::max(1, range.high - range.low));
+    cell.backColour =
+        HeatColour(static_cast<double>(now - range.low) / std::max(1, range.high - range.low));
   }
   return cell;
 }
@@ -125,7 +132,8 @@ void ZoneGrids::CellEdited(SheetGrid grid, int row, int column, const std::strin
   const ZoneSheet& before = keeper_.Sheet();
   ZoneSheet after = WithCell(before, zone, text);
   std::string step = (IsZoneGrid(grid) ? GridCellName(zone) : ZoneName(zone)) + " " +
-                     std::to_string(before.Shown(zone)) + " to " + std::to_string(after.Shown(zone));
+                     std::to_string(before.Shown(zone)) + " to " +
+                     std::to_string(after.Shown(zone));
   if (grid == SheetGrid::BoostTargets && column == 1 && window_.CopyFirstToAll()) {
     after = WithFirstBoostTargetInAll(std::move(after));
     step = "All boost targets " + std::to_string(after.Shown(zone));
@@ -160,7 +168,8 @@ void ZoneGrids::ApplyDifference(SheetGrid difference) {
 
 void ZoneGrids::Interpolate(SheetGrid grid) {
   const CellBlock block = BlockOf(grid, At(grid).Selection());
-  keeper_.Do("Interpolate " + CountOf(grid, block.cells.size()), WithInterpolation(keeper_.Sheet(), block));
+  keeper_.Do("Interpolate " + CountOf(grid, block.cells.size()),
+             WithInterpolation(keeper_.Sheet(), block));
 }
 
 void ZoneGrids::Smooth(SheetGrid grid) {
@@ -178,7 +187,8 @@ void ZoneGrids::ResetToOpened(SheetGrid grid) {
 void ZoneGrids::Paste(SheetGrid grid, const std::string& text) {
   const Pasted pasted = PasteOf(text, grid, At(grid).Selection(), keeper_.Sheet());
   if (!pasted.trouble.empty()) return keeper_.Say(pasted.trouble);
-  keeper_.Do("Paste " + CountOf(grid, pasted.cells.size()), WithNumbers(keeper_.Sheet(), pasted.cells, pasted.numbers));
+  keeper_.Do("Paste " + CountOf(grid, pasted.cells.size()),
+             WithNumbers(keeper_.Sheet(), pasted.cells, pasted.numbers));
 }
 
 std::optional<SheetGrid> ZoneGrids::Focused(const Control* active) const {

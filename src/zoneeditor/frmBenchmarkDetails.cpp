@@ -7,8 +7,11 @@
 
 namespace tarnview {
 
-frmBenchmarkDetails::frmBenchmarkDetails(Host& itsHost, const Surroundings& surroundings, const clsBenchmark& ColItem)
-    : Form(itsHost, "frmBenchmarkDetails", "Benchmark Details"), around_(surroundings), benchmark_(ColItem) {
+frmBenchmarkDetails::frmBenchmarkDetails(Host& itsHost, const Surroundings& surroundings,
+                                         const clsBenchmark& ColItem)
+    : Form(itsHost, "frmBenchmarkDetails", "Benchmark Details"),
+      around_(surroundings),
+      benchmark_(ColItem) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "BenchmarkDetails";
@@ -29,7 +32,9 @@ void frmBenchmarkDetails::Form_Load() {
   Enable();
 }
 
-void frmBenchmarkDetails::Enable() { cmdSave.Enabled = cmdZones.Enabled = !benchmark_.File.empty(); }
+void frmBenchmarkDetails::Enable() {
+  cmdSave.Enabled = cmdZones.Enabled = !benchmark_.File.empty();
+}
 
 void frmBenchmarkDetails::cmdBrowse_Click() {
   const clsFileType& log = around_.types.Item(kFMLinkLog);
@@ -38,7 +43,8 @@ void frmBenchmarkDetails::cmdBrowse_Click() {
   dialog.title = "Open";
   dialog.filter = log.CommonDialogFilter() + "|" + map.CommonDialogFilter();
   dialog.filterIndex = SameIgnoringCase(GetExtension(txtFile.Text()), map.strFileExtension) ? 2 : 1;
-  dialog.initialPath = txtFile.Text().empty() ? around_.settings.gstrDefaultWorkingDirectory : txtFile.Text();
+  dialog.initialPath =
+      txtFile.Text().empty() ? around_.settings.gstrDefaultWorkingDirectory : txtFile.Text();
   dialog.path = FileTitle(txtFile.Text());
   if (!host.Choose(dialog)) return;
   txtFile.Text = dialog.path;

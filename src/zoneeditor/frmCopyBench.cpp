@@ -46,7 +46,8 @@ void frmCopyBench::BoxClicked(CheckBox& box) {
 
 CopyBoxes frmCopyBench::Boxes() const {
   CopyBoxes boxes{};
-  for (const auto& box : chkOptions) boxes[static_cast<std::size_t>(box->index)] = box->Value() && box->Enabled();
+  for (const auto& box : chkOptions)
+    boxes[static_cast<std::size_t>(box->index)] = box->Value() && box->Enabled();
   return boxes;
 }
 

@@ -10,7 +10,9 @@ namespace {
 
 constexpr int kGreatestAngle = 359;
 
-int AngleOf(const TextBox& field) { return std::clamp(StringToLong(field.Text()), 0, kGreatestAngle); }
+int AngleOf(const TextBox& field) {
+  return std::clamp(StringToLong(field.Text()), 0, kGreatestAngle);
+}
 
 void StepAngle(TextBox& field, int by) {
   field.Text = std::to_string(std::clamp(AngleOf(field) + by, 0, kGreatestAngle));
@@ -18,7 +20,8 @@ void StepAngle(TextBox& field, int by) {
 
 }  // namespace
 
-frmGridGraph::frmGridGraph(Host& itsHost, const Surroundings& surroundings, GridGraphRequest request)
+frmGridGraph::frmGridGraph(Host& itsHost, const Surroundings& surroundings,
+                           GridGraphRequest request)
     : Form(itsHost, "frmGridGraph", "Tarnview 3D Graph - " + request.caption),
       around_(surroundings),
       request_(std::move(request)),
@@ -27,8 +30,10 @@ frmGridGraph::frmGridGraph(Host& itsHost, const Surroundings& surroundings, Grid
       commands_(surroundings.errors, "frmGridGraph") {
   HelpTopic = "ThreeDGraph";
   std::vector<std::string> rows, columns;
-  for (int row = kGridRows; row >= 1; --row) rows.push_back(GraphRowLabel(request_.normallyAspirated, row));
-  for (int column = 0; column < kGridColumns; ++column) columns.push_back(ZoneColumnHeading(column));
+  for (int row = kGridRows; row >= 1; --row)
+    rows.push_back(GraphRowLabel(request_.normallyAspirated, row));
+  for (int column = 0; column < kGridColumns; ++column)
+    columns.push_back(ZoneColumnHeading(column));
   cboRow.SetList(rows);
   cboColumn.SetList(columns);
   txtRotation.Text = std::to_string(request_.rotation);
@@ -100,6 +105,7 @@ void frmGridGraph::BindButtons() {
   chGridGraph.RightClick = [this] { host.PopupMenu(mnuRightClick); };
   const PrintDetails details{request_.kind, {{"Source", request_.source}}};
   commands_.Bind({
+      // clang-format off
       {&cmdReset, "cmdReset_Click", [this] { Reset(); }, {}},
       {&cmdOK, "cmdOK_Click", [this] { cmdOK_Click(); }, {}},
       {&cmdCancel, "cmdCancel_Click", [this] { Unload(); }, {}},
@@ -109,6 +115,7 @@ void frmGridGraph::BindButtons() {
        "mnuRightClickSavePicture_Click",
        [this] { output_.SavePictureAs(chGridGraph, request_.source); },
        {}},
+      // clang-format on
   });
 }
 
@@ -120,7 +127,9 @@ void frmGridGraph::cmdOK_Click() {
 
 int frmGridGraph::Rotation() const { return AngleOf(txtRotation); }
 int frmGridGraph::Elevation() const { return AngleOf(txtElevation); }
-int frmGridGraph::Row() const { return cboRow.ListIndex() < 0 ? 0 : kGridRows - cboRow.ListIndex(); }
+int frmGridGraph::Row() const {
+  return cboRow.ListIndex() < 0 ? 0 : kGridRows - cboRow.ListIndex();
+}
 int frmGridGraph::Column() const { return cboColumn.ListIndex() + 1; }
 
 bool frmGridGraph::MayEdit() const {
@@ -140,7 +149,8 @@ void frmGridGraph::ShowTable() {
 void frmGridGraph::ShowView() { chGridGraph.SetView({Rotation(), Elevation(), zoom_}); }
 
 void frmGridGraph::SelectOnChart() {
-  const bool selected = chGridGraph.SelectedSeries() == Row() && chGridGraph.SelectedPoint() == Column();
+  const bool selected =
+      chGridGraph.SelectedSeries() == Row() && chGridGraph.SelectedPoint() == Column();
   if (Row() > 0 && Column() > 0 && !selected) chGridGraph.SelectPoint(Row(), Column());
 }
 
@@ -152,7 +162,8 @@ void frmGridGraph::ShowValue() {
 
 void frmGridGraph::TakeValue() {
   if (!MayEdit()) return;
-  const int value = std::clamp(StringToLong(txtValue.Text()), request_.limits.low, request_.limits.high);
+  const int value =
+      std::clamp(StringToLong(txtValue.Text()), request_.limits.low, request_.limits.high);
   txtValue.Text = std::to_string(value);
   std::string& cell = table_.Text(Row(), Column());
   if (cell == txtValue.Text()) return;
@@ -161,7 +172,8 @@ void frmGridGraph::TakeValue() {
 }
 
 void frmGridGraph::StepValue(int by) {
-  const int from = std::clamp(StringToLong(txtValue.Text()), request_.limits.low, request_.limits.high);
+  const int from =
+      std::clamp(StringToLong(txtValue.Text()), request_.limits.low, request_.limits.high);
   txtValue.Text = std::to_string(from + by);
   TakeValue();
 }

@@ -16,7 +16,8 @@
 
 namespace tarnview {
 
-/// A zone grid of the editor as a surface, which can be turned and, where it is the editor's own, changed.
+/// A zone grid of the editor as a surface, which can be turned and, where it is the editor's own,
+/// changed.
 class frmGridGraph : public Form {
  public:
   struct Surroundings {

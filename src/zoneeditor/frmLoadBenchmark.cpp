@@ -8,8 +8,12 @@
 
 namespace tarnview {
 
-frmLoadBenchmark::frmLoadBenchmark(Host& itsHost, FileSystem& files, const Settings& settings, Messages& messages)
-    : Form(itsHost, "frmLoadBenchmark", "Loading Benchmark"), files_(files), settings_(settings), messages_(messages) {
+frmLoadBenchmark::frmLoadBenchmark(Host& itsHost, FileSystem& files, const Settings& settings,
+                                   Messages& messages)
+    : Form(itsHost, "frmLoadBenchmark", "Loading Benchmark"),
+      files_(files),
+      settings_(settings),
+      messages_(messages) {
   HelpTopic = "BenchmarkDetails";
 }
 

@@ -14,7 +14,8 @@
 
 namespace tarnview {
 
-/// Reads the zones of a MAP file or of an FM Link log, with a bar that shows how far it is, and closes by itself.
+/// Reads the zones of a MAP file or of an FM Link log, with a bar that shows how far it is, and
+/// closes by itself.
 class frmLoadBenchmark : public Form {
  public:
   frmLoadBenchmark(Host& itsHost, FileSystem& files, const Settings& settings, Messages& messages);

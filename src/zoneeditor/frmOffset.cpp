@@ -15,7 +15,8 @@ frmOffset::frmOffset(Host& itsHost) : Form(itsHost, "frmOffset", "Apply Offset")
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "ZoneDataFuelZonesTab";
-  txtOffset.ToolTip = std::string("Enter a value between -255 and +255 to be added to the highlighted range of cells");
+  txtOffset.ToolTip = std::string(
+      "Enter a value between -255 and +255 to be added to the highlighted range of cells");
   txtOffset.LostFocus = [this] { HoldOffset(); };
   cmdOK.Click = [this] {
     HoldOffset();

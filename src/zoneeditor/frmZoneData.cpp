@@ -28,13 +28,15 @@ constexpr int kBoostTargetsUnit = 0, kWastegateUnit = 1;
 
 }  // namespace
 
-frmZoneData::frmZoneData(Host& itsHost, const Surroundings& surroundings, ZoneEditorParameters parameters)
+frmZoneData::frmZoneData(Host& itsHost, const Surroundings& surroundings,
+                         ZoneEditorParameters parameters)
     : Form(itsHost, "frmZoneData", "Tarnview Zone Data - " + parameters.fileName),
       around_(surroundings),
       parameters_(std::move(parameters)),
       history_(OpenSheet(parameters_.map)),
       comparison_(parameters_.comparison, around_.benchmarks),
-      radBoost(*this, "radBoost", {kBoostTargetsUnit, kWastegateUnit}, std::string("fraBoostTargets"), std::string()),
+      radBoost(*this, "radBoost", {kBoostTargetsUnit, kWastegateUnit},
+               std::string("fraBoostTargets"), std::string()),
       commands_(around_.errors, "frmZoneData") {
   CancelButton = &cmdCancel;
   radBoost(kBoostTargetsUnit).Caption = std::string("Boost Targets");
@@ -56,7 +58,9 @@ void frmZoneData::SetUpTabs() {
 }
 
 /// The manual opens at the tab in view.
-void frmZoneData::SetHelpTopic() { HelpTopic = kTabs[std::max(tabZoneData2.Selected() - 1, 0)].help; }
+void frmZoneData::SetHelpTopic() {
+  HelpTopic = kTabs[std::max(tabZoneData2.Selected() - 1, 0)].help;
+}
 
 void frmZoneData::SetUpCaptions() {
   const bool map = Upper(parameters_.fileName).ends_with("MAP");
@@ -77,7 +81,8 @@ void frmZoneData::BindControls() {
   SetHelpTopic();
   cboBenchmark.Click = [this] { cboBenchmark_Click(); };
   cboSteps.Click = [this] {
-    if (!showing_ && cboSteps.ListIndex() >= 0) GoTo(static_cast<std::size_t>(cboSteps.ListIndex()));
+    if (!showing_ && cboSteps.ListIndex() >= 0)
+      GoTo(static_cast<std::size_t>(cboSteps.ListIndex()));
   };
   for (const auto& button : radBoost)
     button->Click = [this, unit = button->index] {
@@ -96,8 +101,9 @@ void frmZoneData::Form_Load() {
   const bool boost = !Sheet().normallyAspirated && !ReadOnly();
   fraBoost.Enabled = fraBoostTargets.Enabled = boost;
   for (const auto& button : radBoost) button->Enabled = boost;
-  for (Control* control : std::initializer_list<Control*>{&lblBenchmark, &cboBenchmark, &cmdDetails, &cmdCopyBenchmark,
-                                                          &cmdOK, &lblSteps, &cboSteps})
+  for (Control* control :
+       std::initializer_list<Control*>{&lblBenchmark, &cboBenchmark, &cmdDetails, &cmdCopyBenchmark,
+                                       &cmdOK, &lblSteps, &cboSteps})
     control->Visible = !ReadOnly();
   cmdUpload.Visible = !ReadOnly() && parameters_.mayUpload;
   ShowSheet();
@@ -160,16 +166,19 @@ void frmZoneData::Resume(EditHistory history) { history_ = std::move(history); }
 
 std::vector<std::string> frmZoneData::ConvertedTargets() const {
   const ZoneMap map = Map();
-  const AFTargets targets = CalcAFTargets(map.zones, map.chip, around_.tables, around_.auxInput.dblFactor);
+  const AFTargets targets =
+      CalcAFTargets(map.zones, map.chip, around_.tables, around_.auxInput.dblFactor);
   std::vector<std::string> texts;
   for (const double target : targets.targets)
-    texts.push_back(around_.auxInput.GetFormattedData(static_cast<std::int32_t>(std::trunc(target))));
+    texts.push_back(
+        around_.auxInput.GetFormattedData(static_cast<std::int32_t>(std::trunc(target))));
   return texts;
 }
 
 bool frmZoneData::CopyFirstToAll() {
   const char* what = Sheet().boostTargets ? "boost target" : "wastegate duty cycle";
-  const std::string text = std::string("Would you like to copy the first ") + what + " to all the rest? ";
+  const std::string text =
+      std::string("Would you like to copy the first ") + what + " to all the rest? ";
   return around_.messages.Tell(text, kYesNoQuestion) == Reply::Yes;
 }
 
@@ -177,7 +186,8 @@ void frmZoneData::radBoost_Click(int unit) {
   const bool targets = unit == kBoostTargetsUnit;
   if (targets == Sheet().boostTargets) return;
   const std::string text = std::string("Confirm change to specifying ") +
-                           (targets ? "boost targets" : "wastegate duty cycles") + " (existing data will be erased) ?";
+                           (targets ? "boost targets" : "wastegate duty cycles") +
+                           " (existing data will be erased) ?";
   if (around_.messages.Tell(text, kYesNoQuestion) == Reply::Yes)
     Do(radBoost(unit).Caption(), WithBoostTargets(Sheet(), targets));
   else
@@ -186,7 +196,8 @@ void frmZoneData::radBoost_Click(int unit) {
 
 void frmZoneData::cmdCopyBenchmark_Click() {
   const ZoneMap source = comparison_.Map(Map());
-  frmCopyBench window(host, source.chip.datChipDate, Sheet().chip.datChipDate, Sheet().normallyAspirated);
+  frmCopyBench window(host, source.chip.datChipDate, Sheet().chip.datChipDate,
+                      Sheet().normallyAspirated);
   window.ShowModal();
   if (!window.Accepted()) return;
   CopiedSheet copied = CopyFromBenchmark(Sheet(), source, window.Boxes());
@@ -208,7 +219,8 @@ void frmZoneData::cmdDetails_Click() {
 void frmZoneData::cmdDefault_Click() {
   if (!around_.messages.AskQuestion(Question::OverwriteChip, true)) return;
   const ChipIdentity& chip = Sheet().chip;
-  around_.settings.gdblDefaultEngineSize = IsEngineSize(chip.dblEngineSize) ? chip.dblEngineSize : 1.6;
+  around_.settings.gdblDefaultEngineSize =
+      IsEngineSize(chip.dblEngineSize) ? chip.dblEngineSize : 1.6;
   around_.settings.gdatDefaultChipDate = chip.datChipDate;
   around_.settings.gintDefaultChipVersion = chip.intChipVersion;
   Do("Rules of the chip", WithChipRules(Sheet()));
@@ -217,7 +229,8 @@ void frmZoneData::cmdDefault_Click() {
 bool frmZoneData::UploadFits() const {
   const ChipIdentity& chip = Sheet().chip;
   const Settings& own = around_.settings;
-  return chip.dblEngineSize == own.gdblDefaultEngineSize && chip.intChipVersion == own.gintDefaultChipVersion &&
+  return chip.dblEngineSize == own.gdblDefaultEngineSize &&
+         chip.intChipVersion == own.gintDefaultChipVersion &&
          chip.datChipDate == own.gdatDefaultChipDate;
 }
 

@@ -33,7 +33,7 @@ struct ZoneEditorParameters {
   ZoneMap map;
   std::optional<ComparisonZones> comparison;  ///< nothing: benchmarks alone are compared with
   bool detailsOnly = false;                   ///< a view in which nothing is edited
-  std::string fileName;                       ///< for the caption; one that ends in "MAP" is a MAP file's
+  std::string fileName;  ///< for the caption; one that ends in "MAP" is a MAP file's
   bool mayUpload = false;
 };
 
@@ -44,7 +44,8 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
     Settings& settings;  ///< the default benchmark and the user's own chip are set from here
     const clsBenchmarks& benchmarks;
     const ConversionTables& tables;
-    const clsLogDataItem& auxInput;  ///< the item whose texts and factor air/fuel targets are shown by
+    const clsLogDataItem&
+        auxInput;  ///< the item whose texts and factor air/fuel targets are shown by
     ErrorLog& errors;
     Messages& messages;
     /// Sends a sheet to the ECU; `source` is the map that was opened. Empty: there is no upload.
@@ -107,7 +108,8 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   MenuItem mnuCopyOffset{*this, "mnuCopyOffset", "&Apply Difference to Datalog"};
 
   const EditHistory& History() const { return history_; }
-  /// Goes on where an editor that never closed was: its steps are undone and redone as if they were made here.
+  /// Goes on where an editor that never closed was: its steps are undone and redone as if they were
+  /// made here.
   void Resume(EditHistory history);
   /// The map as the form stands.
   ZoneMap Map() const { return Rebuild(history_.Now(), parameters_.map); }

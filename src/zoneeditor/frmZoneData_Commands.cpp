@@ -1,4 +1,5 @@
-// The editor's commands: one table of what each does and when it may run, the grids' menus and keys.
+// The editor's commands: one table of what each does and when it may run, the grids' menus and
+// keys.
 
 #include "zoneeditor/frmGridGraph.h"
 #include "zoneeditor/frmOffset.h"
@@ -13,7 +14,8 @@ constexpr int kLargeStep = 10;
 
 void frmZoneData::BindCommands() {
   std::vector<Command> rows = EditCommands();
-  for (auto&& part : {GridCommands(), ButtonCommands()}) rows.insert(rows.end(), part.begin(), part.end());
+  for (auto&& part : {GridCommands(), ButtonCommands()})
+    rows.insert(rows.end(), part.begin(), part.end());
   commands_.Bind(std::move(rows));
 }
 
@@ -26,6 +28,7 @@ std::vector<Command> frmZoneData::EditCommands() {
     };
   };
   return {
+      // clang-format off
       {&mnuEditUndo, "mnuEditUndo_Click", [this] { GoTo(history_.Done() - 1); }, [this] { return history_.CanUndo(); }},
       {&mnuEditRedo, "mnuEditRedo_Click", [this] { GoTo(history_.Done() + 1); }, [this] { return history_.CanRedo(); }},
       {&mnuEditCopy, "mnuEditCopy_Click", [this] { CopyCells(false); }, focused},
@@ -45,6 +48,7 @@ std::vector<Command> frmZoneData::EditCommands() {
          Grids.ShowHeat(mnuViewHeat.Checked);
        },
        {}},
+      // clang-format on
   };
 }
 
@@ -53,9 +57,10 @@ std::vector<Command> frmZoneData::GridCommands() {
   const auto compares = [this] { return !ReadOnly() && comparison_.Zones(); };
   return {
       {&mnuApplyOffset, "mnuApplyOffset_Click", [this] { mnuApplyOffset_Click(); }, edits},
-      {&mnuCopytoDatalog, "mnuCopytoDatalog_Click", [this] { Grids.CopyToDatalog(popupGrid_, cboBenchmark.Text()); },
+      {&mnuCopytoDatalog, "mnuCopytoDatalog_Click",
+       [this] { Grids.CopyToDatalog(popupGrid_, cboBenchmark.Text()); }, compares},
+      {&mnuCopyOffset, "mnuCopyOffset_Click", [this] { Grids.ApplyDifference(popupGrid_); },
        compares},
-      {&mnuCopyOffset, "mnuCopyOffset_Click", [this] { Grids.ApplyDifference(popupGrid_); }, compares},
   };
 }
 
@@ -96,7 +101,8 @@ GridGraphRequest frmZoneData::GraphOf(SheetGrid grid) const {
   for (int row = 1; row <= kGridRows; ++row)
     for (int column = 1; column <= kGridColumns; ++column)
       if (request.table.IsLocked(row, column))
-        request.table.Text(row, column) = std::to_string(Sheet().Shown(ZoneOfCell(grid, row, column)));
+        request.table.Text(row, column) =
+            std::to_string(Sheet().Shown(ZoneOfCell(grid, row, column)));
   request.caption = tabZoneData2.Tabs()[tab].caption + " (" + fraData(index).Caption() + ")";
   request.limits = FieldRange(Sheet(), ZoneOfCell(grid, 1, 1));
   request.normallyAspirated = Sheet().normallyAspirated;
@@ -147,7 +153,8 @@ void frmZoneData::StepCells(int by) {
 bool frmZoneData::Form_KeyDown(const KeyPress& key) {
   const bool plus = key.key == "Plus", minus = key.key == "Minus";
   const auto grid = Grids.Editable(ActiveControl());
-  if ((!plus && !minus) || key.ctrl || key.alt || !grid || Grids.At(*grid).IsEditing()) return false;
+  if ((!plus && !minus) || key.ctrl || key.alt || !grid || Grids.At(*grid).IsEditing())
+    return false;
   const int step = key.shift ? kLargeStep : 1;
   StepCells(plus ? step : -step);
   return true;

@@ -8,17 +8,20 @@
 
 namespace tarnview {
 
-double ConvertWBO2TargetToVoltage(double target, double voltageFactor) { return voltageFactor * (128 - target) / 25.6; }
+double ConvertWBO2TargetToVoltage(double target, double voltageFactor) {
+  return voltageFactor * (128 - target) / 25.6;
+}
 
-AFTargets CalcAFTargets(const ZoneSettings& zones, const ChipIdentity& chip, const ConversionTables& tables,
-                        double voltageFactor) {
+AFTargets CalcAFTargets(const ZoneSettings& zones, const ChipIdentity& chip,
+                        const ConversionTables& tables, double voltageFactor) {
   const int flags = zones[zone::kFlags];
   AFTargets result;
-  result.O2Sensor =
-      GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand), chip.intChipVersion, chip.datChipDate)
-          .text;
+  result.O2Sensor = GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand),
+                                chip.intChipVersion, chip.datChipDate)
+                        .text;
   if (result.O2Sensor.empty()) result.O2Sensor = "NB";
-  result.autoTuneType = RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate, chip.intChipVersion, zones);
+  result.autoTuneType =
+      RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate, chip.intChipVersion, zones);
 
   const auto narrowBand = [&](int target) { return TableLookup(target, tables.O2, true, false); };
   const auto wideBand = [&](int target) {

@@ -16,8 +16,8 @@ struct AFTargets {
 };
 
 /// `voltageFactor` is the factor of the data item "Aux NF": stored units per volt.
-AFTargets CalcAFTargets(const ZoneSettings& zones, const ChipIdentity& chip, const ConversionTables& tables,
-                        double voltageFactor);
+AFTargets CalcAFTargets(const ZoneSettings& zones, const ChipIdentity& chip,
+                        const ConversionTables& tables, double voltageFactor);
 
 /// A wide band target, 0 to 127, as the sensor's voltage in stored units: 128 steps are 5 V.
 double ConvertWBO2TargetToVoltage(double target, double voltageFactor);

@@ -28,7 +28,8 @@ bool IsL3(std::string_view type) { return type == "L3" || type == "L3+L4"; }
 Date GetL4EnableDate(int chipVersion) { return DatesOf(chipVersion).enable; }
 Date GetL4DisableDate(int chipVersion) { return DatesOf(chipVersion).disable; }
 
-std::string_view RetrieveAutoTuneType(double, Date chipDate, int chipVersion, const ZoneSettings& zones) {
+std::string_view RetrieveAutoTuneType(double, Date chipDate, int chipVersion,
+                                      const ZoneSettings& zones) {
   const int flags = zones[zone::kFlags];
   if (!BitIsSet(flags, z5::kAutoTune)) return "Off";
   if (!BitIsSet(flags, z5::kL3)) return "Lambda";
@@ -41,7 +42,8 @@ std::string_view RetrieveAutoTuneType(double, Date chipDate, int chipVersion, co
 std::vector<std::string_view> AutoTuneTypes(const ChipIdentity& chip) {
   const Date date = chip.datChipDate, enable = GetL4EnableDate(chip.intChipVersion);
   std::vector<std::string_view> types{"Off", "Lambda"};
-  if ((date >= kFirstL3 && date < enable) || date >= GetL4DisableDate(chip.intChipVersion)) types.push_back("L3");
+  if ((date >= kFirstL3 && date < enable) || date >= GetL4DisableDate(chip.intChipVersion))
+    types.push_back("L3");
   if (date >= enable) types.push_back("L3+L4");
   return types;
 }
@@ -55,7 +57,8 @@ void SetAutoTuneType(std::string_view type, const ChipIdentity& chip, int& flags
     moreFlags = SetBit(moreFlags, z800::kL3Alone, type == "L3");
 }
 
-std::vector<std::string_view> O2Sensors(const ChipIdentity& chip, bool EGRInUse, std::string_view autoTuneType) {
+std::vector<std::string_view> O2Sensors(const ChipIdentity& chip, bool EGRInUse,
+                                        std::string_view autoTuneType) {
   const bool first = chip.intChipVersion == 1;
   const bool wideBand = chip.datChipDate >= (first ? MakeDate(2003, 3, 15) : MakeDate(2002, 6, 10));
   std::vector<std::string_view> sensors{"NB"};

@@ -15,16 +15,21 @@ using Chip = ChipIdentity;
 /// Whether a setting means the same on the chips of both sides.
 using OnBoth = bool (*)(const Chip& source, const Chip& form);
 
-bool BothFrom(Date first, const Chip& a, const Chip& b) { return a.datChipDate >= first && b.datChipDate >= first; }
+bool BothFrom(Date first, const Chip& a, const Chip& b) {
+  return a.datChipDate >= first && b.datChipDate >= first;
+}
 bool BothAre(int version, const Chip& a, const Chip& b) {
   return a.intChipVersion == version && b.intChipVersion == version;
 }
 bool BothThird(const Chip& a, const Chip& b) { return BothAre(3, a, b); }
-bool ThirdOrNew(const Chip& a, const Chip& b) { return BothThird(a, b) || BothFrom(MakeDate(2003, 6, 9), a, b); }
+bool ThirdOrNew(const Chip& a, const Chip& b) {
+  return BothThird(a, b) || BothFrom(MakeDate(2003, 6, 9), a, b);
+}
 bool PrimeDelay(const Chip& a, const Chip& b) {
   if (BothAre(1, a, b)) return BothFrom(MakeDate(2003, 6, 9), a, b);
   if (BothAre(2, a, b))
-    return a.dblEngineSize == 1.8 && b.dblEngineSize == 1.8 && BothFrom(MakeDate(2003, 1, 25), a, b);
+    return a.dblEngineSize == 1.8 && b.dblEngineSize == 1.8 &&
+           BothFrom(MakeDate(2003, 1, 25), a, b);
   return BothThird(a, b);
 }
 
@@ -124,7 +129,8 @@ class Copy {
   Copy(ZoneSheet sheet, const ZoneMap& source, const CopyBoxes& boxes)
       : result_{std::move(sheet), {}}, source_(source), boxes_(boxes) {
     if (Sheet().normallyAspirated)
-      for (const CopyBox box : {Wastegate, BoostTargets}) boxes_[static_cast<std::size_t>(box)] = false;
+      for (const CopyBox box : {Wastegate, BoostTargets})
+        boxes_[static_cast<std::size_t>(box)] = false;
   }
 
   CopiedSheet Run() {
@@ -151,7 +157,9 @@ class Copy {
   }
 
   /// Settings whose range goes by the engine's size.
-  static bool SizeMatters(int zone) { return zone == zone::kHotRestart || zone == zone::kCoolantLimit; }
+  static bool SizeMatters(int zone) {
+    return zone == zone::kHotRestart || zone == zone::kCoolantLimit;
+  }
 
   /// By the source's rule, so that a number means what it meant there.
   void CopyZone(int zone) {
@@ -168,7 +176,8 @@ class Copy {
   }
 
   void CopyIntakeLimit() {
-    const bool sourceIsNew = source_.chip.datChipDate >= kNewChipDate, isNew = Sheet().chip.datChipDate >= kNewChipDate;
+    const bool sourceIsNew = source_.chip.datChipDate >= kNewChipDate,
+               isNew = Sheet().chip.datChipDate >= kNewChipDate;
     // The box is not available then, so that nobody sees this message: kept on purpose.
     if (sourceIsNew != isNew)
       result_.messages.push_back(Message::AdvanceLimitNotCopied);
@@ -178,7 +187,8 @@ class Copy {
 
   bool SourceTick(Tick tick) const {
     if (tick == Tick::EGR)
-      return BitIsSet(source_.zones[zone::kFlags], source_.chip.intChipVersion == 3 ? z5::kWideBand : z5::kEGR);
+      return BitIsSet(source_.zones[zone::kFlags],
+                      source_.chip.intChipVersion == 3 ? z5::kWideBand : z5::kEGR);
     // Not the knock light's own bit: kept on purpose.
     if (tick == Tick::KnockLight) return BitIsSet(source_.zones[zone::kMoreFlags], z800::kTPSIdle);
     return ReadTick(tick, source_.zones, source_.chip);
@@ -186,7 +196,8 @@ class Copy {
 
   void CopyTicks() {
     for (const TickRow& row : kTickRows) {
-      const bool both = TickExists(row.tick, source_.chip, true) && TickExists(row.tick, Sheet().chip, true);
+      const bool both =
+          TickExists(row.tick, source_.chip, true) && TickExists(row.tick, Sheet().chip, true);
       if (Wants(row.box) && (both || !row.onBoth))
         Sheet() = WithTick(std::move(Sheet()), row.tick, SourceTick(row.tick));
     }
@@ -201,12 +212,14 @@ class Copy {
   void CopyGrid(ZoneGrid grid) {
     const int first = ZoneCell(grid, 0, 0), end = ZoneCell(grid, kGridRows, 0);
     for (int zone = first; zone < end; ++zone)
-      if (!IsClosedLoopCell(zone)) Sheet().Shown(zone) = source_.zones[static_cast<std::size_t>(zone)];
+      if (!IsClosedLoopCell(zone))
+        Sheet().Shown(zone) = source_.zones[static_cast<std::size_t>(zone)];
   }
 
   void CopyAutoTuning() {
     const Chip& chip = source_.chip;
-    const auto type = RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate, chip.intChipVersion, source_.zones);
+    const auto type = RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate,
+                                           chip.intChipVersion, source_.zones);
     const auto types = AutoTuneTypes(Sheet().chip);
     if (std::find(types.begin(), types.end(), type) != types.end())
       Sheet() = WithAutoTuneType(std::move(Sheet()), type);

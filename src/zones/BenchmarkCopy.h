@@ -9,7 +9,8 @@
 
 namespace tarnview {
 
-/// What can be copied from a benchmark into a sheet. The numbers are those of the window's boxes; 7 and 11 are none.
+/// What can be copied from a benchmark into a sheet. The numbers are those of the window's boxes; 7
+/// and 11 are none.
 enum class CopyBox : int {
   Everything = 0,
   Start = 1,

@@ -18,7 +18,8 @@ constexpr const char* kEmergency = "Emergency Benchmark";
 
 std::int16_t ToShort(std::string_view text) {
   using Limits = std::numeric_limits<std::int16_t>;
-  return static_cast<std::int16_t>(std::clamp<std::int32_t>(StringToLong(text), Limits::min(), Limits::max()));
+  return static_cast<std::int16_t>(
+      std::clamp<std::int32_t>(StringToLong(text), Limits::min(), Limits::max()));
 }
 
 // An empty text leaves the default of a row that has one.
@@ -34,6 +35,7 @@ void ReadPressure(B& benchmark, std::string_view text) {
 }
 
 const IniKey<B> kKeys[] = {
+    // clang-format off
     {"Name", IniText<B>{&B::strName}},
     {"File", IniText<B>{&B::File}},
     {"Engine Size", IniRule<B>{ReadEngineSize, [](const B& b) { return std::string(EngineSizeText(b.EngineSize)); }}},
@@ -41,26 +43,32 @@ const IniKey<B> kKeys[] = {
     {"Chip Version", IniRule<B>{ReadChipVersion, [](const B& b) { return std::to_string(b.ChipVersion); }}},
     {"Atmospheric Pressure",
      IniRule<B>{ReadPressure, [](const B& b) { return std::to_string(b.AtmosphericPressure); }}},
+    // clang-format on
 };
 
 IniPlace PlaceOf(int n) { return {kSection, "Benchmark " + std::to_string(n) + " "}; }
 std::string LineKey(int line) { return "Data Line " + std::to_string(line); }
 
-int FieldNumber(std::string_view text) { return std::clamp(StringToLong(text), kLeastOfField, kMostOfField); }
+int FieldNumber(std::string_view text) {
+  return std::clamp(StringToLong(text), kLeastOfField, kMostOfField);
+}
 
-/// Fields of four characters. The reader of the file has taken the first one's blank, which is put back.
+/// Fields of four characters. The reader of the file has taken the first one's blank, which is put
+/// back.
 void ReadLine(B& benchmark, int line, std::string text) {
   if (text.size() % kFieldWidth == kFieldWidth - 1) text.insert(0, 1, ' ');
   for (std::size_t c = 0; c < kZonesOfLine && c * kFieldWidth < text.size(); ++c)
-    benchmark.ZoneSettings(kZonesOfLine * line + static_cast<int>(c)) =
-        static_cast<std::int16_t>(FieldNumber(std::string_view(text).substr(c * kFieldWidth, kFieldWidth)));
+    benchmark.ZoneSettings(kZonesOfLine * line + static_cast<int>(c)) = static_cast<std::int16_t>(
+        FieldNumber(std::string_view(text).substr(c * kFieldWidth, kFieldWidth)));
 }
 
-/// A value that is not known, -1, takes the blank for its sign, so that the fields keep their width.
+/// A value that is not known, -1, takes the blank for its sign, so that the fields keep their
+/// width.
 std::string LineText(const B& benchmark, int line) {
   std::string text;
   for (int c = 0; c < kZonesOfLine; ++c) {
-    const int value = std::clamp<int>(benchmark.ZoneSettings(kZonesOfLine * line + c), kLeastOfField, kMostOfField);
+    const int value = std::clamp<int>(benchmark.ZoneSettings(kZonesOfLine * line + c),
+                                      kLeastOfField, kMostOfField);
     text += (value < 0 ? "" : " ") + PaddedText(value, 3);
   }
   return text;
@@ -71,7 +79,8 @@ B Blank(const Settings& settings) {
   benchmark.EngineSize = settings.gdblDefaultEngineSize;
   benchmark.ChipDate = settings.gdatDefaultChipDate;
   benchmark.ChipVersion = static_cast<std::int16_t>(settings.gintDefaultChipVersion);
-  benchmark.AtmosphericPressure = static_cast<std::int16_t>(settings.gintDefaultAtmosphericPressure);
+  benchmark.AtmosphericPressure =
+      static_cast<std::int16_t>(settings.gintDefaultAtmosphericPressure);
   return benchmark;
 }
 
@@ -99,7 +108,8 @@ void WriteBenchmarks(const clsBenchmarks& benchmarks, IniWriter& file) {
   for (const B& benchmark : benchmarks) {
     const IniPlace place = PlaceOf(++n);
     WriteIniKeys<B>(kKeys, place, benchmark, file);
-    for (int line = 0; line < kLines; ++line) file.Line(place.KeyOf(LineKey(line)), LineText(benchmark, line));
+    for (int line = 0; line < kLines; ++line)
+      file.Line(place.KeyOf(LineKey(line)), LineText(benchmark, line));
   }
 }
 

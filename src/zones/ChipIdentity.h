@@ -14,8 +14,8 @@ constexpr bool IsEngineSize(double size) { return size == 1.6 || size == 1.8; }
 /// The number of the text when it is at least 1 and below 4, else 2.
 int ValidateChipVersion(std::string_view text);
 
-/// A chip's date as logs and MAP files write it ("X18-Sep-2001", "18-Sep-01", "18Sep2001", or any date); `defaultDate`
-/// where it cannot be read.
+/// A chip's date as logs and MAP files write it ("X18-Sep-2001", "18-Sep-01", "18Sep2001", or any
+/// date); `defaultDate` where it cannot be read.
 Date ParseChipDate(std::string_view text, Date defaultDate);
 
 /// The chips that a user can own.

@@ -20,7 +20,8 @@ constexpr Date On(int year, int month, int day) {
 }
 static_assert(On(2001, 3, 1) == kNewChipDate && On(2000, 1, 1) == 36526);
 
-/// A setting exists where a row of its rule fits: chip version, engine size, date from, date before.
+/// A setting exists where a row of its rule fits: chip version, engine size, date from, date
+/// before.
 struct Row {
   ChipRule rule;
   int version;
@@ -82,8 +83,9 @@ bool Fits(int wanted, int version) {
 
 bool ChipAllows(ChipRule rule, double engineSize, Date chipDate, int chipVersion) {
   return std::any_of(std::begin(kRows), std::end(kRows), [&](const Row& row) {
-    return row.rule == rule && Fits(row.version, chipVersion) && (row.size == kAnySize || row.size == engineSize) &&
-           chipDate >= row.from && chipDate < row.before;
+    return row.rule == rule && Fits(row.version, chipVersion) &&
+           (row.size == kAnySize || row.size == engineSize) && chipDate >= row.from &&
+           chipDate < row.before;
   });
 }
 

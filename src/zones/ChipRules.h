@@ -7,8 +7,8 @@
 
 namespace tarnview {
 
-/// Settings that exist on some chips only. A "boost" rule says what the chip can do; the setting also needs the boost
-/// section, which the window knows.
+/// Settings that exist on some chips only. A "boost" rule says what the chip can do; the setting
+/// also needs the boost section, which the window knows.
 enum class ChipRule {
   ClosedLoop,             ///< "Closed Lp -ve", "Closed Lp +ve"; boost
   AdvanceLimit,           ///< z4 is "Advance Limit", not "Intake Limit ('C)"
@@ -22,8 +22,9 @@ enum class ChipRule {
   BoostHysteresis,  ///< "Boost Hysteresis", "Rise Rate Weight"; boost
   MixtureFuelFlag,  ///< " M. Fuel" instead of the O2 sensor; targets are 70 to 110
   EnablePrimeDelay,
-  SpeedoCalibration,       ///< z7 is "Speedo. Calib.", not "Volt. Correction"
-  L3LowMAPLabels,          ///< z860, z865 are "L3 Low MAP", "Intake Comp.", not "Fuel Low Slope", "Fuel High Slope"
+  SpeedoCalibration,  ///< z7 is "Speedo. Calib.", not "Volt. Correction"
+  L3LowMAPLabels,     ///< z860, z865 are "L3 Low MAP", "Intake Comp.", not "Fuel Low Slope", "Fuel
+                      ///< High Slope"
   FuelLowSlopeOrL3LowMAP,  ///< z860
   InjectorOffset,          ///< "Injector Offset", "Debug Data"
   VICSActivation,

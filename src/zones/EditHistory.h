@@ -8,8 +8,8 @@
 
 namespace tarnview {
 
-/// The sheets of an editor from the opened one on, each behind a step with a name. Undo, redo and "reset" are a choice
-/// among them.
+/// The sheets of an editor from the opened one on, each behind a step with a name. Undo, redo and
+/// "reset" are a choice among them.
 class EditHistory {
  public:
   struct Step {

@@ -23,8 +23,8 @@ using Facts = std::vector<std::string>;
 std::string Escaped(std::string_view text) {
   std::string out;
   for (const char c : text) {
-    const auto* row =
-        std::find_if(std::begin(kEscapes), std::end(kEscapes), [&](const auto& pair) { return pair.first == c; });
+    const auto* row = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                   [&](const auto& pair) { return pair.first == c; });
     if (row == std::end(kEscapes))
       out += c;
     else
@@ -49,7 +49,8 @@ std::string Unescaped(std::string_view text) {
 bool TakeNumber(const std::string& text, int low, int high, int& value) {
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || number < low || number > high) return false;
+  if (error != std::errc() || end != text.data() + text.size() || number < low || number > high)
+    return false;
   value = number;
   return true;
 }
@@ -70,9 +71,10 @@ Facts FactsOf(const ZoneSheet& sheet) {
   for (const int shown : sheet.shown) facts.push_back(std::to_string(shown));
   for (const bool tick : sheet.ticks) facts.push_back(tick ? "1" : "0");
   facts.insert(facts.end(),
-               {std::string(EngineSizeText(sheet.chip.dblEngineSize)), std::to_string(sheet.chip.datChipDate),
-                std::to_string(sheet.intAtmosphericPressure), sheet.strNotes, sheet.MAPID, sheet.autoTuneType,
-                sheet.O2Sensor, sheet.boostTargets ? "1" : "0"});
+               {std::string(EngineSizeText(sheet.chip.dblEngineSize)),
+                std::to_string(sheet.chip.datChipDate),
+                std::to_string(sheet.intAtmosphericPressure), sheet.strNotes, sheet.MAPID,
+                sheet.autoTuneType, sheet.O2Sensor, sheet.boostTargets ? "1" : "0"});
   return facts;
 }
 
@@ -86,8 +88,8 @@ bool TakeFacts(const Facts& facts, ZoneSheet& sheet) {
   for (bool& tick : sheet.ticks) tick = *next++ == "1";
   sheet.chip.dblEngineSize = *next++ == "1.8" ? 1.8 : 1.6;
   good &= TakeNumber(*next++, 1, kLastDate, sheet.chip.datChipDate);
-  good &= TakeNumber(*next++, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max(),
-                     sheet.intAtmosphericPressure);
+  good &= TakeNumber(*next++, std::numeric_limits<std::int16_t>::min(),
+                     std::numeric_limits<std::int16_t>::max(), sheet.intAtmosphericPressure);
   sheet.strNotes = *next++;
   good &= TakeWord(*next++, MAPIDs(), sheet.MAPID);
   good &= TakeWord(*next++, kTypes, sheet.autoTuneType);
@@ -114,7 +116,8 @@ bool TakeStep(std::string_view line, EditHistory& history) {
     if (equals == std::string::npos ||
         !TakeNumber(words[i].substr(0, equals), 0, static_cast<int>(facts.size()) - 1, index))
       return false;
-    facts[static_cast<std::size_t>(index)] = Unescaped(std::string_view(words[i]).substr(equals + 1));
+    facts[static_cast<std::size_t>(index)] =
+        Unescaped(std::string_view(words[i]).substr(equals + 1));
   }
   ZoneSheet after = history.Now();
   if (!TakeFacts(facts, after)) return false;
@@ -134,17 +137,18 @@ bool TakeZones(std::string_view line, ZoneSettings& zones) {
   bool good = true;
   for (std::size_t zone = 0; zone < zones.size(); ++zone) {
     int value = 0;
-    good &= TakeNumber(words[zone], std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max(),
-                       value);
+    good &= TakeNumber(words[zone], std::numeric_limits<std::int16_t>::min(),
+                       std::numeric_limits<std::int16_t>::max(), value);
     zones[zone] = static_cast<std::int16_t>(value);
   }
   return good;
 }
 
 std::string ChipText(const ZoneMap& map) {
-  return Join({std::string(EngineSizeText(map.chip.dblEngineSize)), std::to_string(map.chip.datChipDate),
-               std::to_string(map.chip.intChipVersion), std::to_string(map.intAtmosphericPressure)},
-              " ");
+  return Join(
+      {std::string(EngineSizeText(map.chip.dblEngineSize)), std::to_string(map.chip.datChipDate),
+       std::to_string(map.chip.intChipVersion), std::to_string(map.intAtmosphericPressure)},
+      " ");
 }
 
 bool TakeChip(std::string_view line, ZoneMap& map) {
@@ -153,8 +157,8 @@ bool TakeChip(std::string_view line, ZoneMap& map) {
   map.chip.dblEngineSize = words[0] == "1.8" ? 1.8 : 1.6;
   return TakeNumber(words[1], 1, kLastDate, map.chip.datChipDate) &&
          TakeNumber(words[2], 1, 3, map.chip.intChipVersion) &&
-         TakeNumber(words[3], std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max(),
-                    map.intAtmosphericPressure);
+         TakeNumber(words[3], std::numeric_limits<std::int16_t>::min(),
+                    std::numeric_limits<std::int16_t>::max(), map.intAtmosphericPressure);
 }
 
 }  // namespace

@@ -9,8 +9,8 @@
 
 namespace tarnview {
 
-/// What an editor has done that no file holds yet, so that it outlives a crash: kept as one small text, written anew
-/// at each step.
+/// What an editor has done that no file holds yet, so that it outlives a crash: kept as one small
+/// text, written anew at each step.
 struct EditJournal {
   std::string file;  ///< path of what is edited
   int fileType = 0;

@@ -14,28 +14,35 @@ constexpr double kRPMPerVICSStep = 62.5;
 constexpr double kMostVICSRPM = 9937.5;  ///< raw 159
 
 template <int Factor>
-constexpr ZoneConversion kTimes{[](int raw) { return raw * Factor; },
-                                [](int shown) { return RoundToLong(shown / static_cast<double>(Factor)); }};
+constexpr ZoneConversion kTimes{
+    [](int raw) { return raw * Factor; },
+    [](int shown) { return RoundToLong(shown / static_cast<double>(Factor)); }};
 template <int Offset>
-constexpr ZoneConversion kPlus{[](int raw) { return raw + Offset; }, [](int shown) { return shown - Offset; }};
+constexpr ZoneConversion kPlus{[](int raw) { return raw + Offset; },
+                               [](int shown) { return shown - Offset; }};
 constexpr ZoneConversion kPlain = kPlus<0>;
 constexpr ZoneConversion kTwosComplement{[](int raw) { return raw >= 128 ? raw - 256 : raw; },
                                          [](int shown) { return shown < 0 ? shown + 256 : shown; }};
 constexpr ZoneConversion kCoolantOf16{[](int raw) { return (raw - 140) * 2; },
                                       [](int shown) { return shown / 2 + 140; }};
 constexpr ZoneConversion kVICS{
-    [](int raw) { return static_cast<int>(std::floor(std::min(raw * kRPMPerVICSStep, kMostVICSRPM))); },
+    [](int raw) {
+      return static_cast<int>(std::floor(std::min(raw * kRPMPerVICSStep, kMostVICSRPM)));
+    },
     [](int shown) { return RoundToLong(std::min<double>(shown, kMostVICSRPM) / kRPMPerVICSStep); }};
 
 bool Is18(const ChipIdentity& chip) { return chip.dblEngineSize == 1.8; }
-bool AdvanceLimitLabel(const ChipIdentity& chip) { return ChipAllows(ChipRule::AdvanceLimit, chip); }
+bool AdvanceLimitLabel(const ChipIdentity& chip) {
+  return ChipAllows(ChipRule::AdvanceLimit, chip);
+}
 bool Speedo(const ChipIdentity& chip) { return ChipAllows(ChipRule::SpeedoCalibration, chip); }
 bool RunIAC(const ChipIdentity& chip) { return ChipAllows(ChipRule::RunIACLabels, chip); }
 bool L3LowMAP(const ChipIdentity& chip) { return ChipAllows(ChipRule::L3LowMAPLabels, chip); }
 bool OldTargets(const ChipIdentity& chip) { return ChipAllows(ChipRule::MixtureFuelFlag, chip); }
 
 constexpr int kTrimOffset = 20;
-/// z21 is stored in quarter degrees: two's complement on a 1.6 of before November 2000, else with an offset.
+/// z21 is stored in quarter degrees: two's complement on a 1.6 of before November 2000, else with
+/// an offset.
 bool TrimIsTwosComplement(const ChipIdentity& chip) {
   return chip.datChipDate < MakeDate(2000, 11, 1) && chip.dblEngineSize == 1.6;
 }
@@ -138,9 +145,9 @@ std::string GeneralZone::Text(int shown) const {
 }
 
 const GeneralZone* FindGeneralZone(int zone, const ChipIdentity& chip) {
-  const auto* found = std::find_if(std::begin(kZones), std::end(kZones), [&](const GeneralZone& row) {
-    return row.zone == zone && (!row.when || row.when(chip));
-  });
+  const auto* found = std::find_if(
+      std::begin(kZones), std::end(kZones),
+      [&](const GeneralZone& row) { return row.zone == zone && (!row.when || row.when(chip)); });
   return found == std::end(kZones) ? nullptr : found;
 }
 

@@ -32,7 +32,7 @@ struct GeneralZone {
   bool offAt255 = false;  ///< raw 255 is shown as "OFF"
   bool (*when)(const ChipIdentity&) = nullptr;
   std::optional<ChipRule> rule = {};  ///< the chips that have it; empty for all
-  bool boost = false;                 ///< of the boost section, which a normally aspirated chip lacks
+  bool boost = false;  ///< of the boost section, which a normally aspirated chip lacks
 
   constexpr GeneralZone Steps(int size) const {
     GeneralZone row = *this;
@@ -70,7 +70,8 @@ struct GeneralZone {
   int ToShown(int raw) const { return conversion->toShown(raw); }
   /// As it stands, whatever the range: what an ECU holds stays as it is until somebody edits it.
   int ToRaw(int shown) const { return conversion->toRaw(shown); }
-  /// The nearest shown value that the setting can have; halves of a step go up, odd values of an even one down.
+  /// The nearest shown value that the setting can have; halves of a step go up, odd values of an
+  /// even one down.
   int Force(int shown) const { return Force(shown, Range()); }
   int Force(int shown, const ZoneRange& limits) const;
   /// A shown value as a text, or "OFF".
@@ -80,10 +81,12 @@ struct GeneralZone {
 /// The settings of a chip: its row for each zone, or nullptr.
 std::array<const GeneralZone*, 256> GeneralZonesOf(const ChipIdentity& chip);
 
-/// The setting of a zone on a chip; nullptr for zones that are no plain setting (flags, grids, z805).
+/// The setting of a zone on a chip; nullptr for zones that are no plain setting (flags, grids,
+/// z805).
 const GeneralZone* FindGeneralZone(int zone, const ChipIdentity& chip);
 
-/// The row of z725 to z775, one target for each 500 RPM from 2500 to 7500, is entered in kPa or as "Pct".
+/// The row of z725 to z775, one target for each 500 RPM from 2500 to 7500, is entered in kPa or as
+/// "Pct".
 inline constexpr std::string_view kBoostTargetRange = "100/255", kBoostTargetRangePct = "000/099";
 
 /// z21, the ignition trim, is shown in quarter degrees; the same in degrees, "-1.50".

@@ -13,7 +13,8 @@
 namespace tarnview {
 namespace {
 
-constexpr std::size_t kZonesOfLine = 16, kFieldWidth = 4, kZoneLineLength = kZonesOfLine * kFieldWidth;
+constexpr std::size_t kZonesOfLine = 16, kFieldWidth = 4,
+                      kZoneLineLength = kZonesOfLine * kFieldWidth;
 constexpr std::size_t kFewestLines = 15;  ///< old firmware has no z800 to z875
 constexpr std::string_view kNotes = " Notes:", kEndOfNotes = " End Of Notes";
 constexpr std::string_view kLineEnd = "\r\n";
@@ -30,7 +31,9 @@ std::string_view Behind(std::string_view line, std::size_t start) {
 }
 
 /// 0, which no line of the file may mean, stays for the defaults.
-int ChipVersion(std::string_view text) { return StringToLong(text) == 0 ? 0 : ValidateChipVersion(text); }
+int ChipVersion(std::string_view text) {
+  return StringToLong(text) == 0 ? 0 : ValidateChipVersion(text);
+}
 
 /// Reading, line by line.
 class Reader {
@@ -60,7 +63,8 @@ class Reader {
       throw RuntimeError(9, "Subscript out of range");
     }
     for (std::size_t c = 0; c < kZonesOfLine; ++c)
-      map.zones[kZonesOfLine * lines + c] = ToShort(StringToLong(line_.substr(kFieldWidth * c + 1, kFieldWidth - 1)));
+      map.zones[kZonesOfLine * lines + c] =
+          ToShort(StringToLong(line_.substr(kFieldWidth * c + 1, kFieldWidth - 1)));
     ++lines;
   }
 
@@ -69,14 +73,22 @@ class Reader {
       std::string_view start;
       void (*take)(ZoneMap& map, std::string_view line);
     } kFields[] = {
-        {" Engine Size", [](ZoneMap& m, std::string_view l) { m.chip.dblEngineSize = StringToDouble(Behind(l, 14)); }},
+        {" Engine Size",
+         [](ZoneMap& m, std::string_view l) {
+           m.chip.dblEngineSize = StringToDouble(Behind(l, 14));
+         }},
         {" Chip Date: ",
          [](ZoneMap& m, std::string_view l) {
            m.chip.datChipDate = ParseChipDate(Trim(Behind(l, 12)), m.chip.datChipDate);
          }},
-        {" Chip Versio", [](ZoneMap& m, std::string_view l) { m.chip.intChipVersion = ChipVersion(Behind(l, 15)); }},
+        {" Chip Versio",
+         [](ZoneMap& m, std::string_view l) {
+           m.chip.intChipVersion = ChipVersion(Behind(l, 15));
+         }},
         {" Atmospheric",
-         [](ZoneMap& m, std::string_view l) { m.intAtmosphericPressure = ToShort(StringToLong(Behind(l, 23))); }},
+         [](ZoneMap& m, std::string_view l) {
+           m.intAtmosphericPressure = ToShort(StringToLong(Behind(l, 23)));
+         }},
     };
     for (const auto& field : kFields)
       if (line_.starts_with(field.start)) field.take(map, line_);
@@ -103,7 +115,8 @@ std::string ZoneLine(const ZoneSettings& zones, std::size_t line) {
   return text;
 }
 
-/// The lines behind which an empty one stands: two of general settings, the end of the fuel and the ignition grid.
+/// The lines behind which an empty one stands: two of general settings, the end of the fuel and the
+/// ignition grid.
 constexpr std::size_t kBeforeGap[] = {0, 1, 7, 13};
 
 void AddZones(const ZoneMap& map, std::vector<std::string>& lines) {
@@ -111,7 +124,8 @@ void AddZones(const ZoneMap& map, std::vector<std::string>& lines) {
   const std::size_t count = map.chip.datChipDate > kNewChipDate ? kFewestLines + 1 : kFewestLines;
   for (std::size_t line = 0; line < count; ++line) {
     lines.push_back(ZoneLine(map.zones, line));
-    if (std::find(std::begin(kBeforeGap), std::end(kBeforeGap), line) != std::end(kBeforeGap)) lines.emplace_back();
+    if (std::find(std::begin(kBeforeGap), std::end(kBeforeGap), line) != std::end(kBeforeGap))
+      lines.emplace_back();
   }
 }
 
@@ -138,7 +152,8 @@ std::string UnreadFileError(FileSystem& disk, const std::string& path) {
   return disk.FileExists(path) ? "75, Path/File access error" : "53, File not found";
 }
 
-MapReading ReadMapFile(FileSystem& disk, const std::string& path, const Settings& settings, bool quiet) {
+MapReading ReadMapFile(FileSystem& disk, const std::string& path, const Settings& settings,
+                       bool quiet) {
   const auto bytes = disk.Read(path);
   if (bytes) return ParseMap(*bytes, settings, quiet);
   MapReading none;
@@ -160,7 +175,8 @@ std::string MapText(const ZoneMap& map, const Moment& now) {
   return Join(lines, kLineEnd) + std::string(kLineEnd);
 }
 
-bool WriteMapFile(FileSystem& disk, const std::string& path, const ZoneMap& map, const Moment& now) {
+bool WriteMapFile(FileSystem& disk, const std::string& path, const ZoneMap& map,
+                  const Moment& now) {
   return disk.Write(path, MapText(map, now));
 }
 

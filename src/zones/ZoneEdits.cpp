@@ -13,8 +13,9 @@
 namespace tarnview {
 namespace {
 
-constexpr int kBoostTargets = zone::kMoreFlags - zone::kFirstBoostTarget;  ///< 11, one for each 500 RPM
-constexpr int kLeastMeanOfTargets = 100;                                   ///< kPa
+constexpr int kBoostTargets =
+    zone::kMoreFlags - zone::kFirstBoostTarget;  ///< 11, one for each 500 RPM
+constexpr int kLeastMeanOfTargets = 100;         ///< kPa
 
 template <class Value>
 void ForEachCell(ZoneSheet& sheet, std::span<const int> cells, Value&& value) {
@@ -22,7 +23,9 @@ void ForEachCell(ZoneSheet& sheet, std::span<const int> cells, Value&& value) {
     if (!IsBlackedOut(sheet, cells[i])) sheet.Shown(cells[i]) = Forced(sheet, cells[i], value(i));
 }
 
-bool SameRange(const GeneralZone& a, const GeneralZone& b) { return a.range == b.range && a.step == b.step; }
+bool SameRange(const GeneralZone& a, const GeneralZone& b) {
+  return a.range == b.range && a.step == b.step;
+}
 
 /// The text, or the first of the list, unless some other text is chosen that has gone.
 std::string ChosenType(const std::string& chosen, const std::vector<std::string_view>& types) {
@@ -53,7 +56,9 @@ bool IsClosedLoopCell(int zone) {
   return false;
 }
 
-bool IsBlackedOut(const ZoneSheet& sheet, int zone) { return !sheet.normallyAspirated && IsClosedLoopCell(zone); }
+bool IsBlackedOut(const ZoneSheet& sheet, int zone) {
+  return !sheet.normallyAspirated && IsClosedLoopCell(zone);
+}
 
 ZoneSheet WithField(ZoneSheet sheet, int zone, std::string_view text) {
   const GeneralZone* field = FindGeneralZone(zone, sheet.chip);
@@ -101,9 +106,10 @@ ZoneSheet WithSensor(ZoneSheet sheet, std::string_view sensor) {
 
 std::string_view SensorText(const ZoneMap& map) {
   const int flags = map.zones[zone::kFlags];
-  const std::string_view text = GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand),
-                                            map.chip.intChipVersion, map.chip.datChipDate)
-                                    .text;
+  const std::string_view text =
+      GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand),
+                  map.chip.intChipVersion, map.chip.datChipDate)
+          .text;
   return text.empty() ? "NB" : text;
 }
 
@@ -120,13 +126,15 @@ ZoneSheet WithChipRules(ZoneSheet sheet) {
     const Tick tick{i};
     if (tick != Tick::TargetControl && !TickExists(sheet, tick)) sheet.Ticked(tick) = false;
   }
-  sheet.Shown(zone::kIntakeLimit) = Forced(sheet, zone::kIntakeLimit, sheet.Shown(zone::kIntakeLimit));
+  sheet.Shown(zone::kIntakeLimit) =
+      Forced(sheet, zone::kIntakeLimit, sheet.Shown(zone::kIntakeLimit));
   sheet.autoTuneType = ChosenType(sheet.autoTuneType, AutoTuneTypes(sheet.chip));
   return WithSensorRules(std::move(sheet));
 }
 
 std::vector<std::string_view> O2SensorsOf(const ZoneSheet& sheet) {
-  return O2Sensors(sheet.chip, sheet.Ticked(Tick::EGR) && TickExists(sheet, Tick::EGR), sheet.autoTuneType);
+  return O2Sensors(sheet.chip, sheet.Ticked(Tick::EGR) && TickExists(sheet, Tick::EGR),
+                   sheet.autoTuneType);
 }
 
 bool MeanSaysBoostTargets(const ZoneSheet& sheet) {
@@ -148,7 +156,8 @@ ZoneSheet WithFirstBoostTargetInAll(ZoneSheet sheet) {
 }
 
 ZoneSheet WithOffset(ZoneSheet sheet, std::span<const int> cells, int offset) {
-  if (offset != 0) ForEachCell(sheet, cells, [&](std::size_t i) { return sheet.Shown(cells[i]) + offset; });
+  if (offset != 0)
+    ForEachCell(sheet, cells, [&](std::size_t i) { return sheet.Shown(cells[i]) + offset; });
   return sheet;
 }
 
@@ -158,9 +167,11 @@ ZoneSheet WithCellsOf(ZoneSheet sheet, std::span<const int> cells, const ZoneSet
   return sheet;
 }
 
-ZoneSheet WithDifference(ZoneSheet sheet, std::span<const int> cells, const ZoneSettings& benchmark) {
+ZoneSheet WithDifference(ZoneSheet sheet, std::span<const int> cells,
+                         const ZoneSettings& benchmark) {
   // The cell and its difference are the benchmark's value.
-  ForEachCell(sheet, cells, [&](std::size_t i) { return benchmark[static_cast<std::size_t>(cells[i])]; });
+  ForEachCell(sheet, cells,
+              [&](std::size_t i) { return benchmark[static_cast<std::size_t>(cells[i])]; });
   return sheet;
 }
 
@@ -175,7 +186,8 @@ ZoneSheet WithInterpolation(ZoneSheet sheet, const CellBlock& block) {
   if (rows == 0) return sheet;
   const ZoneSheet before = sheet;
   const auto corner = [&](int row, int column) {
-    return static_cast<double>(before.Shown(block.cells[static_cast<std::size_t>(row * columns + column)]));
+    return static_cast<double>(
+        before.Shown(block.cells[static_cast<std::size_t>(row * columns + column)]));
   };
   ForEachCell(sheet, block.cells, [&](std::size_t i) {
     const int at = static_cast<int>(i);

@@ -8,10 +8,11 @@
 
 namespace tarnview {
 
-// What can be done to a sheet: each function gives the sheet after it. Cells are zones, 32 to 223 of the two grids and
-// those of the three small ones.
+// What can be done to a sheet: each function gives the sheet after it. Cells are zones, 32 to 223
+// of the two grids and those of the three small ones.
 
-/// zf600, zf605, zi600 and zi605: settings of closed loop boost control on a turbo chip, cells on others.
+/// zf600, zf605, zi600 and zi605: settings of closed loop boost control on a turbo chip, cells on
+/// others.
 bool IsClosedLoopCell(int zone);
 bool IsBlackedOut(const ZoneSheet& sheet, int zone);
 
@@ -33,7 +34,8 @@ std::string_view SensorText(const ZoneMap& map);
 /// Both erase the values: 100 kPa, or 0 per cent.
 ZoneSheet WithBoostTargets(ZoneSheet sheet, bool boostTargets);
 
-/// What follows from the chip: boxes that it lacks are clear, z4 is in its range, type and sensor are on their lists.
+/// What follows from the chip: boxes that it lacks are clear, z4 is in its range, type and sensor
+/// are on their lists.
 ZoneSheet WithChipRules(ZoneSheet sheet);
 std::vector<std::string_view> O2SensorsOf(const ZoneSheet& sheet);
 /// A mean of 100 or more of z725 to z775 is one of pressures.
@@ -48,7 +50,8 @@ ZoneSheet WithOffset(ZoneSheet sheet, std::span<const int> cells, int offset);
 /// Each cell takes the benchmark's value, whatever the range.
 ZoneSheet WithCellsOf(ZoneSheet sheet, std::span<const int> cells, const ZoneSettings& benchmark);
 /// Each cell takes its difference to the benchmark, within the range.
-ZoneSheet WithDifference(ZoneSheet sheet, std::span<const int> cells, const ZoneSettings& benchmark);
+ZoneSheet WithDifference(ZoneSheet sheet, std::span<const int> cells,
+                         const ZoneSettings& benchmark);
 /// Each cell takes the number of the same place, within the range.
 ZoneSheet WithNumbers(ZoneSheet sheet, std::span<const int> cells, std::span<const int> numbers);
 

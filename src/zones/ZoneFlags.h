@@ -16,20 +16,22 @@ constexpr int SetBit(int value, int bit, bool on) {
 
 /// Zones that the rules name.
 namespace zone {
-inline constexpr int kMasterFuel = 1, kIntakeLimit = 4, kFlags = 5, kTrim = 21, kHotRestart = 17, kKnockThreshold = 13,
-                     kFirstTarget = 26;
-inline constexpr int kCoolantLimit = 225, kPrimeFactor = 227, kFirstBoostTarget = 229, kMoreFlags = 240, kUnnamed = 241,
-                     kEGRFlags = 242, kIgnitionStart = 254, kIgnitionSlope = 255;
+inline constexpr int kMasterFuel = 1, kIntakeLimit = 4, kFlags = 5, kTrim = 21, kHotRestart = 17,
+                     kKnockThreshold = 13, kFirstTarget = 26;
+inline constexpr int kCoolantLimit = 225, kPrimeFactor = 227, kFirstBoostTarget = 229,
+                     kMoreFlags = 240, kUnnamed = 241, kEGRFlags = 242, kIgnitionStart = 254,
+                     kIgnitionSlope = 255;
 }  // namespace zone
 
 /// Bits of z5.
 namespace z5 {
-inline constexpr int kAutoTune = 0, kTurboMAP = 1, kTargetControl = 2, kEGR = 3, kWideBand = 4, kSecondMAP = 5,
-                     kByChip = 6, kL3 = 7;
+inline constexpr int kAutoTune = 0, kTurboMAP = 1, kTargetControl = 2, kEGR = 3, kWideBand = 4,
+                     kSecondMAP = 5, kByChip = 6, kL3 = 7;
 }
 /// Bits of z800.
 namespace z800 {
-inline constexpr int kSecurity = 0, kTPSIdle = 1, kL3Alone = 2, kKnockLightOrIATTarget = 3, kKnockLight = 4;
+inline constexpr int kSecurity = 0, kTPSIdle = 1, kL3Alone = 2, kKnockLightOrIATTarget = 3,
+                     kKnockLight = 4;
 }
 
 /// The knock light's bit of z800; it is lit by a clear one.
@@ -45,7 +47,8 @@ std::span<const std::string_view> MAPIDs();
 /// z5 with the two bits of a MAP ID; unchanged for a text that is none.
 int SetMAPID(int flags, std::string_view text);
 
-/// The tick is read from bit 1 of z800 on every chip, but written to bit 6 of z5 on Chip Version 1: kept on purpose.
+/// The tick is read from bit 1 of z800 on every chip, but written to bit 6 of z5 on Chip Version 1:
+/// kept on purpose.
 bool GetTPSIdleValue(const ZoneSettings& zones);
 void SetTPSIdleValue(ZoneSettings& zones, int chipVersion, bool on);
 

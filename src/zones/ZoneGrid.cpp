@@ -16,9 +16,9 @@ struct Row {
   std::int32_t fromKPa;  ///< a sample's zone lies in the row from this MAP on
 };
 
-constexpr Row kNormallyAspirated[kGridRows] = {{"30 kPa 100", 300, 0, 0},    {"44 kPa 200", 440, 430, 34},
-                                               {"57 kPa 300", 570, 560, 48}, {"70 kPa 400", 700, 690, 61},
-                                               {"84 kPa 500", 840, 830, 74}, {"97 kPa 600", 960, 0, 88}};
+constexpr Row kNormallyAspirated[kGridRows] = {
+    {"30 kPa 100", 300, 0, 0},    {"44 kPa 200", 440, 430, 34}, {"57 kPa 300", 570, 560, 48},
+    {"70 kPa 400", 700, 690, 61}, {"84 kPa 500", 840, 830, 74}, {"97 kPa 600", 960, 0, 88}};
 constexpr Row kTurbo[kGridRows] = {{"20 kPa 100", 200, 0, 0},     {"60 kPa 200", 600, 0, 41},
                                    {"100 kPa 300", 1000, 0, 81},  {"140 kPa 400", 1400, 0, 121},
                                    {"180 kPa 500", 1800, 0, 161}, {"220 kPa 600", 2200, 0, 201}};
@@ -34,7 +34,9 @@ std::int32_t Column(std::int32_t RPM) {
 
 }  // namespace
 
-std::string_view ZoneRowHeading(bool normallyAspirated, int row) { return Rows(normallyAspirated)[row - 1].heading; }
+std::string_view ZoneRowHeading(bool normallyAspirated, int row) {
+  return Rows(normallyAspirated)[row - 1].heading;
+}
 
 std::string ZoneColumnHeading(int column) { return PaddedText(column * 5, 2); }
 
@@ -53,9 +55,11 @@ ZoneRows RowAndRowMAPCalc(bool normallyAspirated, std::int32_t MAP) {
 ZoneRows CalcZoneRowBoundaries(std::int32_t MAP, bool normallyAspirated, std::string_view O2Sensor,
                                std::string_view autoTuneType, std::int32_t RPM) {
   constexpr std::int32_t kNarrowBandBelow = 640;
-  const std::int32_t held = normallyAspirated ? std::clamp(MAP, 300, 960) : std::clamp(MAP, 200, 2190);
+  const std::int32_t held =
+      normallyAspirated ? std::clamp(MAP, 300, 960) : std::clamp(MAP, 200, 2190);
   ZoneRows rows;
-  if (O2Sensor == "NB+WB" && held < kNarrowBandBelow && (autoTuneType == "L3" || autoTuneType == "L3+L4")) {
+  if (O2Sensor == "NB+WB" && held < kNarrowBandBelow &&
+      (autoTuneType == "L3" || autoTuneType == "L3+L4")) {
     rows.lower = rows.upper = 1;
   } else {
     rows = RowAndRowMAPCalc(normallyAspirated, held);
@@ -74,7 +78,8 @@ int ZoneRowOfSample(bool normallyAspirated, std::int32_t kPa) {
 }
 
 std::int32_t ZoneNumber(int row, std::int32_t RPM) {
-  // Row and column are two texts side by side, read as one number: behind the row's digit a minus sign ends it.
+  // Row and column are two texts side by side, read as one number: behind the row's digit a minus
+  // sign ends it.
   if (RPM < 0) return row;
   const std::int32_t column = Column(RPM) * 5;
   std::int32_t digits = 100;

@@ -8,8 +8,8 @@
 
 namespace tarnview {
 
-/// The whole calibration of one ECU: a plain value, copied and compared as such. What MAP files hold, what the editor
-/// takes and gives back, what goes to the ECU.
+/// The whole calibration of one ECU: a plain value, copied and compared as such. What MAP files
+/// hold, what the editor takes and gives back, what goes to the ECU.
 struct ZoneMap {
   ZoneSettings zones{};
   ChipIdentity chip;

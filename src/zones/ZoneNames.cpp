@@ -20,7 +20,8 @@ constexpr Run kRuns[] = {{0, 224, 0, 1}, {224, 240, 700, 5}, {240, 256, 800, 5}}
 
 std::string ZoneName(int index) {
   for (const Run& run : kRuns)
-    if (index >= run.first && index < run.end) return "z" + std::to_string(run.name + run.step * (index - run.first));
+    if (index >= run.first && index < run.end)
+      return "z" + std::to_string(run.name + run.step * (index - run.first));
   return "";
 }
 
@@ -35,7 +36,8 @@ std::string GridCellName(int index) {
 int ZoneIndex(std::string_view name) {
   constexpr int kZones = std::tuple_size_v<ZoneSettings>;
   for (int index = 0; index < kZones; ++index)
-    if (SameIgnoringCase(name, ZoneName(index)) || (!name.empty() && SameIgnoringCase(name, GridCellName(index))))
+    if (SameIgnoringCase(name, ZoneName(index)) ||
+        (!name.empty() && SameIgnoringCase(name, GridCellName(index))))
       return index;
   return -1;
 }

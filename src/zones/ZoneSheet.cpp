@@ -87,8 +87,8 @@ ZoneSheet OpenSheet(const ZoneMap& map) {
   sheet.boostTargets = MeanSaysBoostTargets(sheet);
   for (int tick = 0; tick < kTicks; ++tick)
     sheet.ticks[static_cast<std::size_t>(tick)] = ReadTick(Tick{tick}, map.zones, map.chip);
-  sheet.autoTuneType =
-      RetrieveAutoTuneType(map.chip.dblEngineSize, map.chip.datChipDate, map.chip.intChipVersion, map.zones);
+  sheet.autoTuneType = RetrieveAutoTuneType(map.chip.dblEngineSize, map.chip.datChipDate,
+                                            map.chip.intChipVersion, map.zones);
   return WithSensor(WithChipRules(std::move(sheet)), SensorText(map));
 }
 
@@ -98,7 +98,8 @@ ZoneMap Rebuild(const ZoneSheet& sheet, const ZoneMap& source, const ChipIdentit
   map.intAtmosphericPressure = sheet.intAtmosphericPressure;
   map.strNotes = sheet.strNotes;
   const auto fields = GeneralZonesOf(chip);
-  for (std::size_t zone = 0; zone < map.zones.size(); ++zone) map.zones[zone] = Raw(fields[zone], sheet.shown[zone]);
+  for (std::size_t zone = 0; zone < map.zones.size(); ++zone)
+    map.zones[zone] = Raw(fields[zone], sheet.shown[zone]);
   WriteFlags(sheet, source, map);
   return map;
 }
@@ -120,7 +121,9 @@ std::string RangeText(const ZoneSheet& sheet, int zone) {
   return std::string(RangeOf(sheet, zone));
 }
 
-ZoneRange FieldRange(const ZoneSheet& sheet, int zone) { return ParseZoneRange(RangeText(sheet, zone)); }
+ZoneRange FieldRange(const ZoneSheet& sheet, int zone) {
+  return ParseZoneRange(RangeText(sheet, zone));
+}
 
 int Forced(const ZoneSheet& sheet, int zone, int shown) {
   const GeneralZone* field = FindGeneralZone(zone, sheet.chip);

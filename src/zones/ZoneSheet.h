@@ -10,8 +10,9 @@
 
 namespace tarnview {
 
-/// What the editor shows of a map: a plain value. The shown numbers are the truth, not the raw ones, since a new engine
-/// size keeps them. The map that they came from gives the bits that cannot be shown.
+/// What the editor shows of a map: a plain value. The shown numbers are the truth, not the raw
+/// ones, since a new engine size keeps them. The map that they came from gives the bits that cannot
+/// be shown.
 struct ZoneSheet {
   std::array<int, 256> shown{};  ///< as fields and cells show them; flags are in `ticks`
   std::array<bool, kTicks> ticks{};
@@ -34,9 +35,12 @@ struct ZoneSheet {
 
 /// The sheet of a map. A number out of its range stays; z4 alone is held to its range.
 ZoneSheet OpenSheet(const ZoneMap& map);
-/// The map of a sheet, with the conversions and dates of `chip`. `source` is the map that was opened.
+/// The map of a sheet, with the conversions and dates of `chip`. `source` is the map that was
+/// opened.
 ZoneMap Rebuild(const ZoneSheet& sheet, const ZoneMap& source, const ChipIdentity& chip);
-inline ZoneMap Rebuild(const ZoneSheet& sheet, const ZoneMap& source) { return Rebuild(sheet, source, sheet.chip); }
+inline ZoneMap Rebuild(const ZoneSheet& sheet, const ZoneMap& source) {
+  return Rebuild(sheet, source, sheet.chip);
+}
 
 // What a sheet's chip has.
 

@@ -37,7 +37,8 @@ constexpr Row kRows[kTicks] = {
 const Row& RowOf(Tick tick) { return kRows[static_cast<std::size_t>(tick)]; }
 
 O2Sensor SensorOf(int flags, const ChipIdentity& chip) {
-  return GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand), chip.intChipVersion, chip.datChipDate);
+  return GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand), chip.intChipVersion,
+                     chip.datChipDate);
 }
 
 }  // namespace

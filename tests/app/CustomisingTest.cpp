@@ -11,12 +11,15 @@ class CustomisingTest : public ProgramFixture {
   CustomisingTest() {
     files.files["/car/run.txt"] = SmallLog(40);
     files.files["/car/mine.txt"] =
-        "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=csv\r\nLINEFREQUENCY=10\r\nDELIMITERASCIICHARACTER=44\r\n"
+        "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=csv\r\nLINEFREQUENCY="
+        "10\r\nDELIMITERASCIICHARACTER=44\r\n"
         "DATALINESBEFORE=1\r\nCOLUMNHEADERSLINESBEFORE=0\r\n"
-        "[COLUMN]\r\nNAME=Revs\r\nCOLUMNTITLE=Revs\r\nDATAITEMID=3\r\nTYPE=1\r\nDESCRIPTION=Revs\r\n"
+        "[COLUMN]\r\nNAME=Revs\r\nCOLUMNTITLE=Revs\r\nDATAITEMID=3\r\nTYPE=1\r\nDESCRIPTION="
+        "Revs\r\n"
         "COLUMNDECIMALPLACES=0\r\n"
         "[SAMPLE GRAPH]\r\nNAME=Its own\r\nDATA ITEMS=3\r\n\r\n";
-    files.files["/car/old.csv"] = "timestamp,Engine Speed (RPM)\r\n100,1000\r\n200,1100\r\n300,1200\r\n400,1300\r\n";
+    files.files["/car/old.csv"] =
+        "timestamp,Engine Speed (RPM)\r\n100,1000\r\n200,1100\r\n300,1200\r\n400,1300\r\n";
     files.folders.insert("/logs");
   }
   /// Opens the Options, does that in them, and forgets the boxes of before.
@@ -29,12 +32,14 @@ class CustomisingTest : public ProgramFixture {
   }
   std::string Boxes() {
     std::string texts;
-    for (const Box& box : host.messages) texts += std::to_string(box.id) + "/" + std::to_string(box.style) + " ";
+    for (const Box& box : host.messages)
+      texts += std::to_string(box.id) + "/" + std::to_string(box.style) + " ";
     return texts;
   }
   int PresetsNamed(const std::string& name) {
     int count = 0;
-    for (const auto& preset : program->Global().gcolSampleGraphPresets) count += preset.strName == name;
+    for (const auto& preset : program->Global().gcolSampleGraphPresets)
+      count += preset.strName == name;
     return count;
   }
 };
@@ -42,7 +47,9 @@ class CustomisingTest : public ProgramFixture {
 TEST_F(CustomisingTest, AcceptedOptionsStandAfterARestartAndCancelledOnesDoNot) {
   Start("", "[General]\r\n");
   program->WriteSettingsTo("/car/Tarnview.ini");
-  InOptions("type txtSampleWidth 500\nchoose cboGraphColourScheme White\nclick chkScatterAutoDraw\nclick cmdOK");
+  InOptions(
+      "type txtSampleWidth 500\nchoose cboGraphColourScheme White\nclick chkScatterAutoDraw\nclick "
+      "cmdOK");
   const std::string written = files.files["/car/Tarnview.ini"];
   EXPECT_NE(written.find("\r\nShow Point Sample Graph Width=500\r\n"), std::string::npos);
   EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
@@ -64,7 +71,8 @@ TEST_F(CustomisingTest, OpenWindowsFollowAtOnce) {
   ASSERT_TRUE(Main().chSampleGraph.Visible());
   host.answers = {{Answer::Kind::Colour, "", 0x123456}};
   InOptions(
-      "choose cboGraphColourScheme Black\nrow lvwDataItems RPM\nclick cmdDataColour\ntick lvwDataItems MAP off\n"
+      "choose cboGraphColourScheme Black\nrow lvwDataItems RPM\nclick cmdDataColour\ntick "
+      "lvwDataItems MAP off\n"
       "click cmdOK");
   EXPECT_EQ(Main().chSampleGraph.Data().colours.backdrop, 0);
   EXPECT_EQ(scatter.chScatterGraph.Data().colours.backdrop, 0);
@@ -78,7 +86,8 @@ TEST_F(CustomisingTest, ANewDefinitionIsTakenWithOrWithoutItsPresets) {
     Answer::Kind answer;
     int own, builtIn;
   };
-  for (const Row& row : {Row{Answer::Kind::Yes, 1, 0}, Row{Answer::Kind::No, 1, 1}, Row{Answer::Kind::Cancel, 0, 1}}) {
+  for (const Row& row : {Row{Answer::Kind::Yes, 1, 0}, Row{Answer::Kind::No, 1, 1},
+                         Row{Answer::Kind::Cancel, 0, 1}}) {
     Start();
     host.answers = {{Answer::Kind::Ok}, {row.answer}};
     InOptions("type txtPath(6) /car/mine.txt\nclick cmdOK");

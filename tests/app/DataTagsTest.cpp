@@ -10,7 +10,8 @@ class DataTags : public ProgramFixture {
   ~DataTags() override { program.reset(); }
   DataTags() {
     files.files["/logs/run.txt"] = SmallLog(60);
-    files.files["/logs/other.csv"] = std::string_view(*RealFileSystem().Read(TARNVIEW_EXAMPLES "/utec.csv"));
+    files.files["/logs/other.csv"] =
+        std::string_view(*RealFileSystem().Read(TARNVIEW_EXAMPLES "/utec.csv"));
     Start();
   }
   void Open(const char* path, int type = 0) {

@@ -10,7 +10,8 @@ using Ids = std::vector<int>;
 class DrawGraph : public ProgramFixture {
  protected:
   void Open(int samples) {
-    files.files["/logs/run.txt"] = SmallLog(samples, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
+    files.files["/logs/run.txt"] =
+        SmallLog(samples, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
     Start();
     Main().LoadDataFile("/logs/run.txt", 0);
     host.messages.clear();
@@ -30,9 +31,11 @@ TEST_F(DrawGraph, ChecksTheRangeAsItWasTyped) {
     const char *from, *to, *drawn;
     Ids messages;
   } kRows[] = {
-      {"1", "1001", "1-1001", {}},       {"1", "1002", "2-1002", {1}},      {"50", "20", "19-21", {}},
-      {"5000", "20", "19-21", {}},       {"1900", "9999", "1-2000", {1}},   {"1990", "0", "1-2000", {}},
-      {"1990", "1990", "1990-1992", {}}, {"2000", "2000", "1998-2000", {}}, {"12abc", "40", "12abc-40", {}},
+      {"1", "1001", "1-1001", {}},       {"1", "1002", "2-1002", {1}},
+      {"50", "20", "19-21", {}},         {"5000", "20", "19-21", {}},
+      {"1900", "9999", "1-2000", {1}},   {"1990", "0", "1-2000", {}},
+      {"1990", "1990", "1990-1992", {}}, {"2000", "2000", "1998-2000", {}},
+      {"12abc", "40", "12abc-40", {}},
   };
   for (const auto& row : kRows) {
     host.messages.clear();
@@ -47,7 +50,8 @@ TEST_F(DrawGraph, WithNothingCheckedItSaysSoAndKeepsTheGraph) {
   Open(50);
   Main().cmdDrawGraph.Press();
   const auto rows = Rows();
-  for (int row = 1; row <= Main().lvwSampleDetails.Count(); ++row) Main().lvwSampleDetails.SetChecked(row, false);
+  for (int row = 1; row <= Main().lvwSampleDetails.Count(); ++row)
+    Main().lvwSampleDetails.SetChecked(row, false);
   Main().cmdDrawGraph.Press();
   EXPECT_EQ(MessageIds(), (Ids{10}));
   EXPECT_EQ(Rows(), rows);
@@ -58,7 +62,8 @@ TEST_F(DrawGraph, WithoutALogNothingIsDrawn) {
   Main().LoadDataFile("/logs/none.txt", 1);
   Main().lvwSampleDetails.SetChecked(Main().lvwSampleDetails.RowOfTag("3"), true);
   Main().DrawGraph();
-  for (const char* keys : {"Ctrl+I", "Ctrl+End", "Alt+Left", "Shift+Left"}) Main().Press(*ParseKeys(keys));
+  for (const char* keys : {"Ctrl+I", "Ctrl+End", "Alt+Left", "Shift+Left"})
+    Main().Press(*ParseKeys(keys));
   Main().hsbGraphScroll.Value = 20;
   EXPECT_TRUE(Main().chSampleGraph.Data().Series().empty());
   EXPECT_TRUE(Main().fraPicture.Visible());
@@ -72,7 +77,8 @@ TEST_F(DrawGraph, EnterLeavesTheBoxBeforeItDraws) {
   Main().PlotRangeFrom.Text = "1001";
   Main().Press({"Enter"});
   const ListView& list = Main().lvwSampleDetails;
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 1499) << "the middle of 1001 to 2000, every second one drawn";
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 1499)
+      << "the middle of 1001 to 2000, every second one drawn";
   EXPECT_EQ(list.At(1).texts[1], "1499");
   // A key that draws from within a box keeps what is selected.
   Main().PlotRangeTo.SetFocus();
@@ -138,7 +144,8 @@ TEST_F(DrawGraph, ASelectedPointShowsItsSample) {
 TEST_F(DrawGraph, TheWalkAlongThePointsHasOneRule) {
   Open(50);
   Main().cmdDrawGraph.Press();
-  for (const auto& [point, left, right] : {std::tuple{1, false, true}, {2, true, true}, {50, true, false}}) {
+  for (const auto& [point, left, right] :
+       {std::tuple{1, false, true}, {2, true, true}, {50, true, false}}) {
     Main().chSampleGraph.SelectPoint(1, point);
     Main().chSampleGraph.RightClick();
     EXPECT_EQ(Main().cmdDataPointLeft.Enabled(), left) << point;

@@ -13,13 +13,15 @@ class EcuCommandsTest : public ProgramFixture {
     files.files["/logs/kept.bin"] = "binary";
     files.files["/car/run.txt"] = SmallLog(40);
     processes.whileRunning = [this](const std::string& command) {
-      files.files[command.starts_with("/link") ? "/link/miata.dat" : "/mdos/miatatmp.txt"] = SmallLog(50);
+      files.files[command.starts_with("/link") ? "/link/miata.dat" : "/mdos/miatatmp.txt"] =
+          SmallLog(50);
     };
     host.work = [this](Form& form) { Act(form, actions[form.name]); };
   }
   void StartWithPrograms(const std::string& commandLine = "") {
     Start(commandLine,
-          "[General]\r\nLog EXE=/link/L.exe\r\nConversion EXE=/mdos/C.exe\r\nDefault Working Directory=/logs\r\n");
+          "[General]\r\nLog EXE=/link/L.exe\r\nConversion EXE=/mdos/C.exe\r\nDefault Working "
+          "Directory=/logs\r\n");
     host.messages.clear();
   }
 

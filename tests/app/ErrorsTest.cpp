@@ -19,7 +19,8 @@ class Errors : public ProgramFixture {
   Errors() {
     files.files["/logs/run.txt"] = SmallLog(600);
     files.files["/car/Tarnview.ini"] = "[General]\r\n";
-    program = std::make_unique<Program>(desk, files, clock, processes, ProgramFolders{"/car/", "/car/data/"});
+    program = std::make_unique<Program>(desk, files, clock, processes,
+                                        ProgramFolders{"/car/", "/car/data/"});
     program->Start("", false);
     Main().LoadDataFile("/logs/run.txt", 1);
     desk.messages.clear();
@@ -33,7 +34,9 @@ class Errors : public ProgramFixture {
     desk.messages.clear();
     return texts;
   }
-  bool Logged(const std::string& text) { return files.files["/car/error.log"].find(text) != std::string::npos; }
+  bool Logged(const std::string& text) {
+    return files.files["/car/error.log"].find(text) != std::string::npos;
+  }
 
   FullDesktop desk;
 };
@@ -47,7 +50,8 @@ TEST_F(Errors, ShortMemoryIsToldAndEndsNothing) {
   EXPECT_EQ(Main().Pointer(), MousePointer::Default);
   EXPECT_FALSE(Main().proProgInd.Visible());
   EXPECT_FALSE(Main().LoadDataFile("/logs/run.txt", 1));
-  EXPECT_EQ(Boxes(), told + "12 Could not load the necessary minimum of three records from the data log.|");
+  EXPECT_EQ(Boxes(),
+            told + "12 Could not load the necessary minimum of three records from the data log.|");
   EXPECT_EQ(Main().Pointer(), MousePointer::Default);
   desk.full = false;
   EXPECT_TRUE(Main().LoadDataFile("/logs/run.txt", 1));

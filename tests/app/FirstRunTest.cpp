@@ -1,4 +1,5 @@
-// The first run: which log, which template, what is written into it; and the templates that are shipped.
+// The first run: which log, which template, what is written into it; and the templates that are
+// shipped.
 
 #include <gmock/gmock.h>
 
@@ -33,13 +34,15 @@ class FirstRunTest : public ::testing::Test {
   FirstRunTest() {
     files.folders = {"/tv", "/tv/bin", "/tv/data"};
     for (const std::string& name : disk.List(TARNVIEW_DATA, "Tarnview_Install*.ini"))
-      files.files["/tv/data/" + name] = disk.Read(std::string(TARNVIEW_DATA "/") + name).value_or("");
+      files.files["/tv/data/" + name] =
+          disk.Read(std::string(TARNVIEW_DATA "/") + name).value_or("");
     files.files["/tv/data/Universal Data Log Formats/OBDLink.txt"] =
         disk.Read(TARNVIEW_DATA "/Universal Data Log Formats/OBDLink.txt").value_or("");
     files.files["/tv/data/Universal Data Log Formats/bad.txt"] = "no definition";
   }
   void Start() {
-    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/tv/bin/", "/tv/data/"});
+    program = std::make_unique<Program>(host, files, clock, processes,
+                                        ProgramFolders{"/tv/bin/", "/tv/data/"});
     program->Start("", true);
   }
   void Choose(const std::string& entry) {
@@ -54,7 +57,8 @@ class FirstRunTest : public ::testing::Test {
     return ids;
   }
   std::string Value(const char* key) {
-    return std::string(GetINIValue(ReadINIFileToArray(files.files[kPath]), "General", key).value_or("(missing)"));
+    return std::string(
+        GetINIValue(ReadINIFileToArray(files.files[kPath]), "General", key).value_or("(missing)"));
   }
 
   RealFileSystem disk;
@@ -78,13 +82,14 @@ TEST_F(FirstRunTest, LogsOfAUserWithAFolderOfHisOwnLieInHisDocuments) {
 TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
   host.user = [this](frmFindINIFile& window) {
     EXPECT_THAT(window.lstFileType.Entries(),
-                ElementsAre("FM Link Data Logs", "FM Link MAP Files", "LinkPlus Data Logs", "OBDLink Data Logs",
-                            "Tec-2 Data Logs", "Tec-3 Data Logs", "UTEC CSV Data Logs", "UTEC Fixed-Width Data Logs",
-                            "<Other>"));
+                ElementsAre("FM Link Data Logs", "FM Link MAP Files", "LinkPlus Data Logs",
+                            "OBDLink Data Logs", "Tec-2 Data Logs", "Tec-3 Data Logs",
+                            "UTEC CSV Data Logs", "UTEC Fixed-Width Data Logs", "<Other>"));
     EXPECT_EQ(window.lstFileType.ListIndex(), 0);
     EXPECT_FALSE(window.txtPathOther.Enabled());
     window.lstFileType.Do({"choose", {"<Other>"}});
-    EXPECT_TRUE(window.txtPathOther.Enabled() && window.lblPathOther.Enabled() && window.cmdBrowse.Enabled());
+    EXPECT_TRUE(window.txtPathOther.Enabled() && window.lblPathOther.Enabled() &&
+                window.cmdBrowse.Enabled());
     host.nextFile = Answer{Answer::Kind::File, "/logs/my.txt"};
     window.cmdBrowse.Press();
     EXPECT_EQ(window.ActiveControl(), &window.cmdOK) << "Enter goes on from there";
@@ -103,7 +108,8 @@ TEST_F(FirstRunTest, CancelEndsTheProgramWithNoFile) {
 
 TEST_F(FirstRunTest, ATemplateIsCopiedAndFilledIn) {
   files.files["/tv/bin/Tarnview_Install1.ini"] =
-      "[General]\r\nFirst Run Indicator=Y\r\nAlternative Background Picture=C:\\old\\car.bmp\r\nZoom Amount=30\r\n";
+      "[General]\r\nFirst Run Indicator=Y\r\nAlternative Background "
+      "Picture=C:\\old\\car.bmp\r\nZoom Amount=30\r\n";
   Choose("FM Link Data Logs");
   Start();
   EXPECT_EQ(Value("Initial Directory"), "/tv/");
@@ -111,7 +117,8 @@ TEST_F(FirstRunTest, ATemplateIsCopiedAndFilledIn) {
   EXPECT_EQ(Value("Alternative Background Picture"), "/tv/Images/car.bmp");
   EXPECT_EQ(Value("Log EXE"), "/tv/LinkWin/LinkWin.exe");
   EXPECT_EQ(Value("Conversion EXE"), "/tv/MDOS/MDOS_AT.exe");
-  EXPECT_EQ(Value("O2 Input Conversion File"), "/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt");
+  EXPECT_EQ(Value("O2 Input Conversion File"),
+            "/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt");
   EXPECT_EQ(Value("Zoom Amount"), "30");
   EXPECT_EQ(program->MainWindow().cboZoomAmount.Text(), "30");
   EXPECT_EQ(Value("Generic Data Log Definition File"), "(missing)");
@@ -130,7 +137,8 @@ TEST_F(FirstRunTest, ADefinitionIsTakenWithItsPresets) {
   Choose("OBDLink Data Logs");
   Start();
   EXPECT_THAT(MessageIds(), ElementsAre());
-  EXPECT_EQ(Value("Generic Data Log Definition File"), "/tv/data/Universal Data Log Formats/OBDLink.txt");
+  EXPECT_EQ(Value("Generic Data Log Definition File"),
+            "/tv/data/Universal Data Log Formats/OBDLink.txt");
   EXPECT_EQ(Value("Log EXE"), "");
   const Globals& globals = program->Global();
   EXPECT_EQ(globals.gclsDataLogDefinition.strName, "OBDLink");
@@ -145,14 +153,16 @@ TEST_F(FirstRunTest, OtherNeedsAGoodDefinition) {
     window.txtPathOther.Text = "/tv/none.txt";
     window.cmdOK.Press();
     EXPECT_TRUE(window.IsShown());
-    host.answers.push_back({Answer::Kind::File, "/tv/data/Universal Data Log Formats/OBDLink.txt", 0, 0});
+    host.answers.push_back(
+        {Answer::Kind::File, "/tv/data/Universal Data Log Formats/OBDLink.txt", 0, 0});
     window.cmdBrowse.Press();
     window.cmdOK.Press();
     EXPECT_FALSE(window.IsShown());
   };
   Start();
   EXPECT_THAT(MessageIds(), ElementsAre(78, 70));
-  EXPECT_EQ(Value("Generic Data Log Definition File"), "/tv/data/Universal Data Log Formats/OBDLink.txt");
+  EXPECT_EQ(Value("Generic Data Log Definition File"),
+            "/tv/data/Universal Data Log Formats/OBDLink.txt");
 }
 
 TEST_F(FirstRunTest, WithoutATemplateTheDefaultsServe) {
@@ -175,13 +185,15 @@ TEST_F(FirstRunTest, AFileThatIsThereAsksNothing) {
 
 /// Presets of a family, and a fault for each item that its logs do not have.
 template <class Presets, class Items>
-int PresetsOf(int family, const Presets& presets, const clsLogDataItems& items, const Items& itemsOf) {
+int PresetsOf(int family, const Presets& presets, const clsLogDataItems& items,
+              const Items& itemsOf) {
   int count = 0;
   for (const auto& preset : presets) {
     if (preset.lngLogFamily != family) continue;
     ++count;
     for (const int item : itemsOf(preset))
-      EXPECT_TRUE(items.Item(item).InFamily(family)) << preset.strName << ", family " << family << ", item " << item;
+      EXPECT_TRUE(items.Item(item).InFamily(family))
+          << preset.strName << ", family " << family << ", item " << item;
   }
   return count;
 }
@@ -203,12 +215,14 @@ TEST_F(FirstRunTest, TheShippedTemplatesHoldGoodData) {
       EXPECT_TRUE(own == kUniversalLogFamily || items.Item(item).InFamily(own)) << item;
     }
     for (int family = 1; family <= 6; ++family) {
-      const int samples = PresetsOf(family, globals.gcolSampleGraphPresets, items,
-                                    [](const clsSampleGraphPreset& preset) { return preset.colDataItems; });
-      const int scatters =
-          PresetsOf(family, globals.gcolScatterGraphPresets, items, [](const clsScatterGraphPreset& preset) {
+      const int samples =
+          PresetsOf(family, globals.gcolSampleGraphPresets, items,
+                    [](const clsSampleGraphPreset& preset) { return preset.colDataItems; });
+      const int scatters = PresetsOf(
+          family, globals.gcolScatterGraphPresets, items, [](const clsScatterGraphPreset& preset) {
             std::vector<int> all{preset.lngXAxisDataItem, preset.lngYAxisDataItem};
-            for (const clsScatterFilter& filter : preset.objFilters) all.push_back(filter.lngDataItemSeq);
+            for (const clsScatterFilter& filter : preset.objFilters)
+              all.push_back(filter.lngDataItemSeq);
             return all;
           });
       EXPECT_TRUE(samples >= 4 && samples <= 8) << samples;

@@ -153,13 +153,15 @@ inline std::string FullSettings() {
   text +=
       "[Recently Used Files]\r\nFile 0=3|/logs/b.dat\r\nFile 1=1|/logs/a.txt\r\n"
       "[Recently Used Power Graph Files]\r\nFile 0=/logs/b.pow\r\nFile 1=/logs/a.pow\r\n";
-  for (const char* section : {"Data Item Display Properties", "Generic Data Item Display Properties"}) {
+  for (const char* section :
+       {"Data Item Display Properties", "Generic Data Item Display Properties"}) {
     text += std::string("[") + section + "]\r\n";
     for (int item = 1; item <= kColumnCount; ++item) {
       const std::string key = "Item " + std::to_string(item) + " ";
       const bool universal = section[0] == 'G';
-      text += key + "Colour=" + std::to_string(item + (universal ? 1000 : 0)) + "\r\n" + key + "Style=2\r\n" + key +
-              "Width=4\r\n" + key + "Display=" + (item == 9 ? "False" : "True") + "\r\n" + key +
+      text += key + "Colour=" + std::to_string(item + (universal ? 1000 : 0)) + "\r\n" + key +
+              "Style=2\r\n" + key + "Width=4\r\n" + key +
+              "Display=" + (item == 9 ? "False" : "True") + "\r\n" + key +
               "Display Factor=" + (universal ? "0.25" : "2.5") + "\r\n";
     }
   }

@@ -67,8 +67,8 @@ TEST_F(GraphMouseTest, MovesTheRange) {
   };
   for (const auto& row : kRows) {
     Draw(row.from, row.to);
-    EXPECT_EQ(Do(row.verb, row.words), row.range)
-        << row.from << "-" << row.to << " " << row.verb << " " << (row.words.empty() ? "" : row.words[0]);
+    EXPECT_EQ(Do(row.verb, row.words), row.range) << row.from << "-" << row.to << " " << row.verb
+                                                  << " " << (row.words.empty() ? "" : row.words[0]);
   }
 }
 
@@ -117,10 +117,12 @@ TEST_F(GraphMouseTest, TheListFollowsThePointerAndComesBack) {
 
 TEST_F(GraphMouseTest, ATinyOrEmptyLogIsNoTrouble) {
   Open(3);
-  for (const char* verb : {"wheel", "pan", "band"}) EXPECT_EQ(Do(verb, {Time(1), "-2"}), "1-3") << verb;
+  for (const char* verb : {"wheel", "pan", "band"})
+    EXPECT_EQ(Do(verb, {Time(1), "-2"}), "1-3") << verb;
   files.files["/logs/none.txt"] = "nothing";
   Main().LoadDataFile("/logs/none.txt", 0);
-  for (const auto& raise : {Main().chSampleGraph.Wheel, Main().chSampleGraph.Pan, Main().chSampleGraph.Band})
+  for (const auto& raise :
+       {Main().chSampleGraph.Wheel, Main().chSampleGraph.Pan, Main().chSampleGraph.Band})
     raise(1, 2);
   Main().chSampleGraph.Hover(1);
   Main().chSampleGraph.HoverEnd();

@@ -19,9 +19,12 @@ class GraphOutput : public ProgramFixture {
     Main().LoadDataFile("/logs/run.txt", 0);
   }
   std::vector<MenuItem*> Commands() {
-    return {
-        &Main().mnuCopy,           &Main().mnuFilePrint,      &Main().mnuFilePrintPreview, &Main().mnuFileSavePicture,
-        &Main().mnuRightClickCopy, &Main().mnuRightClickPrint};
+    return {&Main().mnuCopy,
+            &Main().mnuFilePrint,
+            &Main().mnuFilePrintPreview,
+            &Main().mnuFileSavePicture,
+            &Main().mnuRightClickCopy,
+            &Main().mnuRightClickPrint};
   }
 };
 
@@ -41,7 +44,8 @@ TEST_F(GraphOutput, ThePageTellsFileAndRangeAsTheGraphWasDrawn) {
   Main().cmdDrawGraph.Press();
   Main().PlotRangeTo.Do({"type", {"40"}});
   host.answers = {{Answer::Kind::Printer}, {Answer::Kind::Printer}};
-  for (MenuItem* item : {&Main().mnuFilePrint, &Main().mnuFilePrintPreview, &Main().mnuRightClickPrint})
+  for (MenuItem* item :
+       {&Main().mnuFilePrint, &Main().mnuFilePrintPreview, &Main().mnuRightClickPrint})
     item->Do({"click", {}});
   ASSERT_EQ(host.pages.size(), 3u);
   std::vector<std::string> texts;
@@ -49,7 +53,8 @@ TEST_F(GraphOutput, ThePageTellsFileAndRangeAsTheGraphWasDrawn) {
   const OpenLog& log = Log();
   EXPECT_THAT(texts, ElementsAre("Tarnview Sample Graph", "File : ", "/logs/run.txt",
                                  "Sample Range From : ", "11 to 31", "Time Range From : ",
-                                 log.FormatDataItem(63, 10) + " secs to " + log.FormatDataItem(63, 30) + " secs"));
+                                 log.FormatDataItem(63, 10) + " secs to " +
+                                     log.FormatDataItem(63, 30) + " secs"));
 }
 
 TEST_F(GraphOutput, TheGraphIsCopiedAndSavedUnderTheLogsName) {

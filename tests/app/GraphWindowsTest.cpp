@@ -1,4 +1,5 @@
-// What the main window offers around the graph: presets, a sample to go to, the export, zone influence.
+// What the main window offers around the graph: presets, a sample to go to, the export, zone
+// influence.
 
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
@@ -17,9 +18,11 @@ class GraphWindows : public ProgramFixture {
   // The program goes before its desktop.
   ~GraphWindows() override { program.reset(); }
   void Open(int samples, const std::string& settings = "[General]\r\n") {
-    files.files["/logs/run.txt"] = SmallLog(samples, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
+    files.files["/logs/run.txt"] =
+        SmallLog(samples, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
     files.files["/car/Tarnview.ini"] = settings;
-    program = std::make_unique<Program>(desk, files, clock, processes, ProgramFolders{}, "/car/Tarnview.ini");
+    program = std::make_unique<Program>(desk, files, clock, processes, ProgramFolders{},
+                                        "/car/Tarnview.ini");
     program->Start("", false);
     Main().LoadDataFile("/logs/run.txt", 0);
     desk.messages.clear();
@@ -46,11 +49,14 @@ class GraphWindows : public ProgramFixture {
 
 constexpr const char* kPresets =
     "[General]\r\nChecked Data Items=3,5\r\n[New Preset Sample Graphs]\r\n"
-    "Graph 1 Name=Knock\r\nGraph 1 Data Items=20,3\r\nGraph 1 Fix Graph Max=Y\r\nGraph 1 Graph Max=120\r\n"
+    "Graph 1 Name=Knock\r\nGraph 1 Data Items=20,3\r\nGraph 1 Fix Graph Max=Y\r\nGraph 1 Graph "
+    "Max=120\r\n"
     "Graph 1 Log Family=1\r\n"
-    "Graph 2 Name=Other\r\nGraph 2 Data Items=1\r\nGraph 2 Fix Graph Max=N\r\nGraph 2 Graph Max=10\r\n"
+    "Graph 2 Name=Other\r\nGraph 2 Data Items=1\r\nGraph 2 Fix Graph Max=N\r\nGraph 2 Graph "
+    "Max=10\r\n"
     "Graph 2 Log Family=6\r\n"
-    "Graph 3 Name=None\r\nGraph 3 Data Items=\r\nGraph 3 Fix Graph Max=N\r\nGraph 3 Graph Max=10\r\n"
+    "Graph 3 Name=None\r\nGraph 3 Data Items=\r\nGraph 3 Fix Graph Max=N\r\nGraph 3 Graph "
+    "Max=10\r\n"
     "Graph 3 Log Family=1\r\n";
 
 TEST_F(GraphWindows, APresetTicksItsItemsAndDraws) {
@@ -72,8 +78,10 @@ TEST_F(GraphWindows, APresetTicksItsItemsAndDraws) {
 TEST_F(GraphWindows, TheFixedMaximumIsSteppedWithinItsLimits) {
   Open(50, kPresets);
   Main().chkFixY.Value = true;
-  const std::tuple<const char*, const char*, const char*> rows[] = {
-      {"90", "up", "100"}, {"15", "down", "10"}, {"2147483647", "up", "1000"}, {"-2147483648", "down", "10"}};
+  const std::tuple<const char*, const char*, const char*> rows[] = {{"90", "up", "100"},
+                                                                    {"15", "down", "10"},
+                                                                    {"2147483647", "up", "1000"},
+                                                                    {"-2147483648", "down", "10"}};
   for (const auto& [before, direction, after] : rows) {
     Main().txtYMax.Text = std::string(before);
     Main().updYMax.Do({"step", {direction}});
@@ -190,7 +198,8 @@ TEST_F(GraphWindows, ExportsWhatTheListShows) {
   desk.answers.push_back({Answer::Kind::File, "/logs/other.csv"});
   Main().lvwSampleDetails.SetChecked(1, false);
   Main().mnuFileExport.Do({"click", {}});
-  EXPECT_TRUE(files.files["/logs/other.csv"].ends_with("\r\nSample,Secs\r\n2,0.164\r\n3,0.246\r\n"));
+  EXPECT_TRUE(
+      files.files["/logs/other.csv"].ends_with("\r\nSample,Secs\r\n2,0.164\r\n3,0.246\r\n"));
 
   files.failWrites = true;
   desk.answers.push_back({Answer::Kind::Ok});
@@ -210,7 +219,8 @@ TEST_F(GraphWindows, ZoneInfluenceFollowsTheSelectedSampleOfALinkLog) {
   Main().picZoneInfl.SetSize(1120, 460);
   const auto& shapes = Main().picZoneInfl.Shapes();
   ASSERT_EQ(shapes.circles.size(), 2u);
-  // 1020 RPM between the middles of the zones, at 750 and 1250; 40 kPa half way between the rows at 20 and 60.
+  // 1020 RPM between the middles of the zones, at 750 and 1250; 40 kPa half way between the rows at
+  // 20 and 60.
   EXPECT_EQ(shapes.circles[0], (Drawing::Circle{600, 230, 30, true}));
   EXPECT_EQ(shapes.lines[0], (Drawing::Line{0, 230, 1120, 230}));
   Main().mnuViewZoneInfl.Do({"click", {}});

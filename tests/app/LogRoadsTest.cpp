@@ -1,4 +1,5 @@
-// Files whose kind is not sure: what they look like, the question, and what becomes of the log that is open.
+// Files whose kind is not sure: what they look like, the question, and what becomes of the log that
+// is open.
 
 #include "app/LogRoads.h"
 #include "support/ProgramFixture.h"
@@ -9,7 +10,8 @@ namespace {
 using Roads = ProgramFixture;
 
 const std::string kStrange =
-    "Time (msec);Engine Speed (rpm);Widget (V)\r\n0;900;1,5\r\n50;950;\r\n100;1000;1,6\r\n150;1050;1,7\r\n";
+    "Time (msec);Engine Speed (rpm);Widget "
+    "(V)\r\n0;900;1,5\r\n50;950;\r\n100;1000;1,6\r\n150;1050;1,7\r\n";
 
 TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   files.files["/run.csv"] = kStrange;
@@ -17,11 +19,14 @@ TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   host.messages.clear();
   EXPECT_TRUE(Main().DropFile("/run.csv"));
   ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(host.messages[0].text, "This looks like a log of an unknown logger: 3 of 3 columns. Open it so?");
+  EXPECT_EQ(host.messages[0].text,
+            "This looks like a log of an unknown logger: 3 of 3 columns. Open it so?");
   EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal: by its shape)");
   EXPECT_EQ(Main().staDataLogViewer.Panel(1),
-            "Loading complete: Universal: by its shape. Time: \"Time\" rises; milliseconds: its unit is told");
-  EXPECT_EQ(Log().FormatDataItem(63, 3) + " " + Log().FormatDataItem(3, 3) + " " + Log().FormatDataItem(101, 3),
+            "Loading complete: Universal: by its shape. Time: \"Time\" rises; milliseconds: its "
+            "unit is told");
+  EXPECT_EQ(Log().FormatDataItem(63, 3) + " " + Log().FormatDataItem(3, 3) + " " +
+                Log().FormatDataItem(101, 3),
             "0.150 1050 1.7");
   EXPECT_GT(Main().lvwSampleDetails.RowOfTag("101"), 0);  // in the list as any other
 }
@@ -73,14 +78,17 @@ TEST_F(Roads, TheDefinitionOfTheSettingsIsBackForTheNextLog) {
 
 TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
   const auto column = [](const char* title, int item, const char* more) {
-    return std::string("[COLUMN]\nNAME=x\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES=1\nCOLUMNTITLE=") + title +
-           "\nDATAITEMID=" + std::to_string(item) + "\n" + more;
+    return std::string(
+               "[COLUMN]\nNAME=x\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES=1\nCOLUMNTITLE=") +
+           title + "\nDATAITEMID=" + std::to_string(item) + "\n" + more;
   };
   const std::string head =
-      "[DATALOGDEFINITION]\nNAME=Mine\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=44\nDATALINESBEFORE=2\n";
+      "[DATALOGDEFINITION]\nNAME=Mine\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER="
+      "44\nDATALINESBEFORE=2\n";
   const std::string log = "Time,CLT\ns,F\n0,180\n1,181\n2,182\n3,183\n";
-  for (const auto& [more, taken] : {std::pair{"", "Universal: by its shape"},
-                                    {"CONVERSIONFACTOR=0.5555556\nCONVERSIONOFFSET=-32\n", "Universal: Mine"}}) {
+  for (const auto& [more, taken] :
+       {std::pair{"", "Universal: by its shape"},
+        {"CONVERSIONFACTOR=0.5555556\nCONVERSIONOFFSET=-32\n", "Universal: Mine"}}) {
     files.files["/data/Universal Data Log Formats/Mine.txt"] =
         head + column("Time", 63, "") + column("CLT", 23, more) + "\n";
     files.files["/run.csv"] = log;

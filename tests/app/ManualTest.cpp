@@ -1,4 +1,5 @@
-// The manual against the program: no topic without a chapter, no link or picture that leads nowhere.
+// The manual against the program: no topic without a chapter, no link or picture that leads
+// nowhere.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,8 @@ std::string TextOf(const fs::path& path) {
 }
 
 /// What stands between the two texts, wherever they do on one line.
-std::set<std::string> Between(const std::string& text, const std::string& before, const std::string& after) {
+std::set<std::string> Between(const std::string& text, const std::string& before,
+                              const std::string& after) {
   std::set<std::string> found;
   for (auto at = text.find(before); at != text.npos; at = text.find(before, at)) {
     at += before.size();
@@ -36,7 +38,8 @@ const std::set<std::string> kChapters = Between(kInstructions, "id=\"", "\"");
 
 TEST(Manual, HasAChapterForEachTopicOfTheProgram) {
   std::set<std::string> topics;
-  for (const auto& file : fs::recursive_directory_iterator(fs::path(TARNVIEW_TESTS).parent_path() / "src"))
+  for (const auto& file :
+       fs::recursive_directory_iterator(fs::path(TARNVIEW_TESTS).parent_path() / "src"))
     if (file.path().extension() == ".cpp") {
       const std::string text = TextOf(file.path());
       topics.merge(Between(text, "HelpTopic = \"", "\""));

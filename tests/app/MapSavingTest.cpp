@@ -46,7 +46,8 @@ TEST_F(MapSavingTest, Saving) {
   Dirty();
   Main().mnuFileSave.Do({"click", {}});
   EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Saving complete");
-  EXPECT_TRUE(files.files["/car/a.map"].starts_with(" Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n"));
+  EXPECT_TRUE(files.files["/car/a.map"].starts_with(
+      " Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n"));
   EXPECT_FALSE(Log().gblnZonesDirty);
 
   Dirty();
@@ -65,7 +66,9 @@ TEST_F(MapSavingTest, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
   files.files["/car/a.map"] += "other";
   host.answers = {{Answer::Kind::No}, {Answer::Kind::Yes}};
   Main().mnuFileSave.Do({"click", {}});
-  EXPECT_EQ(Texts(), "292 a.map was changed by another program since it was opened.\r\nDo you want to overwrite it?\n");
+  EXPECT_EQ(Texts(),
+            "292 a.map was changed by another program since it was opened.\r\nDo you want to "
+            "overwrite it?\n");
   EXPECT_TRUE(files.files["/car/a.map"].ends_with("other"));
   Main().mnuFileSave.Do({"click", {}});
   EXPECT_TRUE(files.files["/car/a.map"].ends_with(" End Of Notes\r\n"));
@@ -87,7 +90,9 @@ TEST_F(MapSavingTest, EditedZonesAreAskedFor) {
   const struct {
     Answer::Kind answer;
     bool goesOn, written;
-  } cases[] = {{Answer::Kind::Yes, true, true}, {Answer::Kind::No, true, false}, {Answer::Kind::Cancel, false, false}};
+  } cases[] = {{Answer::Kind::Yes, true, true},
+               {Answer::Kind::No, true, false},
+               {Answer::Kind::Cancel, false, false}};
   for (const auto& c : cases) {
     Open();
     EXPECT_TRUE(Main().SaveChangesPrompt());

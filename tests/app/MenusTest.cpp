@@ -10,7 +10,8 @@ namespace {
 /// The letter behind "&"; 0 for none.
 int LetterOf(const std::string& caption) {
   const auto mark = caption.find('&');
-  return mark == std::string::npos ? 0 : std::toupper(static_cast<unsigned char>(caption[mark + 1]));
+  return mark == std::string::npos ? 0
+                                   : std::toupper(static_cast<unsigned char>(caption[mark + 1]));
 }
 
 class Menus : public ProgramFixture {
@@ -19,7 +20,8 @@ class Menus : public ProgramFixture {
     std::set<int> seen;
     for (const Control* control : form.Controls()) {
       const auto* item = dynamic_cast<const MenuItem*>(control);
-      if (!item || item->index >= 0 || item->name == menu || !item->name.starts_with(menu)) continue;
+      if (!item || item->index >= 0 || item->name == menu || !item->name.starts_with(menu))
+        continue;
       const int letter = LetterOf(item->Caption());
       EXPECT_TRUE(letter == 0 || seen.insert(letter).second) << form.name << " " << item->Caption();
     }
@@ -29,10 +31,12 @@ class Menus : public ProgramFixture {
 TEST_F(Menus, EachEntryHasALetterOfItsOwn) {
   files.files["/logs/run.txt"] = SmallLog(20);
   Start("/logs/run.txt");
-  for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuModules", "mnuTools", "mnuCustomise", "mnuRightClick"})
+  for (const char* menu :
+       {"mnuFile", "mnuEdit", "mnuView", "mnuModules", "mnuTools", "mnuCustomise", "mnuRightClick"})
     ExpectOwnLetters(Main(), menu);
   Main().mnuModulesScatterGraph.Click();
-  for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuRightClick"}) ExpectOwnLetters(*host.Front(), menu);
+  for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuRightClick"})
+    ExpectOwnLetters(*host.Front(), menu);
 }
 
 }  // namespace

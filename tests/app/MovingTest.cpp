@@ -1,4 +1,5 @@
-// Every key and every menu entry that moves through the log: what it does to the range and to the selected point.
+// Every key and every menu entry that moves through the log: what it does to the range and to the
+// selected point.
 
 #include <set>
 
@@ -10,7 +11,8 @@ namespace {
 class Moving : public ProgramFixture {
  protected:
   Moving() {
-    files.files["/logs/run.txt"] = SmallLog(2000, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
+    files.files["/logs/run.txt"] =
+        SmallLog(2000, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
     Start();
     Main().LoadDataFile("/logs/run.txt", 0);
     Main().cmdDrawGraph.Press();
@@ -32,7 +34,8 @@ class Moving : public ProgramFixture {
   std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
   std::string Drawn() {
     const DrawnGraph& plot = Main().Drawn();
-    return std::to_string(plot.lngPlotFirstIndex + 1) + "-" + std::to_string(plot.lngPlotLastIndex + 1);
+    return std::to_string(plot.lngPlotFirstIndex + 1) + "-" +
+           std::to_string(plot.lngPlotLastIndex + 1);
   }
 };
 
@@ -89,6 +92,7 @@ TEST_F(Moving, Keys) {
     int point;
     bool taken;
   } kRows[] = {
+      // clang-format off
       {"Shift+Left", "chSampleGraph", "501-601", 50, true},    {"Shift+Right", "chSampleGraph", "501-601", 52, true},
       {"Shift+Left", "lvwSampleDetails", "501-601", 50, true}, {"Shift+Right", "lvwSampleDetails", "501-601", 52, true},
       {"Shift+Left", "PlotRangeFrom", "501-601", 51, false},   {"Left", "chSampleGraph", "501-601", 50, true},
@@ -99,6 +103,7 @@ TEST_F(Moving, Keys) {
       {"Ctrl+Home", "PlotRangeFrom", "1-101", 51, true},       {"Ctrl+End", "lvwPresets", "1900-2000", 51, true},
       {"Ctrl+F", "chSampleGraph", "1-2000", 139, true},        {"Ctrl+I", "PlotRangeFrom", "527-577", 25, true},
       {"Ctrl+O", "cboZoomAmount", "452-652", 100, true},
+      // clang-format on
   };
   for (const auto& row : kRows) {
     Reset();
@@ -145,7 +150,8 @@ TEST_F(Moving, ShiftUpAndDownWalkTheCurvesByTheirHeightAndStopAtTheEnds) {
       EXPECT_GE((height() - before) * sign, 0) << keys;
       EXPECT_EQ(Main().Selected().lngSelectedPoint(), 51);
     }
-    EXPECT_EQ(seen.size(), sign < 0 ? seen.size() : series.size()) << "from the lowest to the highest";
+    EXPECT_EQ(seen.size(), sign < 0 ? seen.size() : series.size())
+        << "from the lowest to the highest";
   }
 }
 

@@ -33,8 +33,9 @@ TEST_F(OpenFile, WhatDoesNotLoadIsToldAndLeavesNoLog) {
     int type;
     Ids messages;
   } kRows[] = {
-      {"/logs/two.txt", 0, {16, 12}},    {"/logs/empty.txt", 1, {52, 12}}, {"/logs/other.txt", 0, {52, 12}},
-      {"/logs/locked.txt", 0, {15, 12}}, {"/logs/none.txt", 0, {15, 12}},  {"/logs/other.txt", 99, {31, 12}},
+      {"/logs/two.txt", 0, {16, 12}},   {"/logs/empty.txt", 1, {52, 12}},
+      {"/logs/other.txt", 0, {52, 12}}, {"/logs/locked.txt", 0, {15, 12}},
+      {"/logs/none.txt", 0, {15, 12}},  {"/logs/other.txt", 99, {31, 12}},
   };
   for (const auto& row : kRows) {
     ASSERT_TRUE(Main().LoadDataFile("/logs/good.txt", 0));
@@ -92,7 +93,8 @@ TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
 
 TEST_F(OpenFile, IsDrawnAtOnceWhereThatIsWanted) {
   files.files["/logs/run.txt"] = SmallLog(40);
-  for (const char* settings : {"[General]\nChecked Data Items=3\n", "[General]\nChecked Data Items=56\n"})
+  for (const char* settings :
+       {"[General]\nChecked Data Items=3\n", "[General]\nChecked Data Items=56\n"})
     for (const bool wanted : {false, true}) {
       Start("", settings + std::string(wanted ? "[Beyond]\nDraw After Opening=Y\n" : ""));
       EXPECT_EQ(Main().lblEmptyPlace.Caption(), "Open a log, or drop one here");

@@ -10,7 +10,8 @@ class PowerWindowsOfProgram : public ProgramFixture {
  protected:
   /// 60 samples of rising rpm.
   void OpenLog() {
-    files.files["/run.txt"] = SmallLog(60, [](SmallSample& sample) { sample.rpm = 2000 + sample.sample * 40; });
+    files.files["/run.txt"] =
+        SmallLog(60, [](SmallSample& sample) { sample.rpm = 2000 + sample.sample * 40; });
     Start();
     Main().LoadDataFile("/run.txt", 1);
     host.messages.clear();

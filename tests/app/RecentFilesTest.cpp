@@ -12,7 +12,8 @@ TEST(RecentFiles, KeepsNineTheLatestOnTopEachOnce) {
   MainWindowControls window(host);
   RecentFiles recent(window.mnuRecentlyUsed, window.mnuSepRecentlyUsed);
   EXPECT_FALSE(window.mnuSepRecentlyUsed.Visible());
-  for (int n = 1; n <= 11; ++n) recent.AddRecentlyUsedFile("/logs/" + std::to_string(n) + ".txt", 1);
+  for (int n = 1; n <= 11; ++n)
+    recent.AddRecentlyUsedFile("/logs/" + std::to_string(n) + ".txt", 1);
   EXPECT_EQ(recent.Count(), 9);
   EXPECT_EQ(window.mnuRecentlyUsed(0).Tag, "1|/logs/11.txt");
   EXPECT_EQ(window.mnuRecentlyUsed(8).Caption(), "&9 /logs/3.txt");
@@ -30,7 +31,8 @@ TEST(RecentFiles, ANameIsShownAsItIs) {
   RecentFiles recent(window.mnuRecentlyUsed, window.mnuSepRecentlyUsed);
   const std::string path = "/logs/" + std::string(60, 'x') + " Tom & Jerry.txt";
   recent.AddRecentlyUsedFile(path, 1);
-  EXPECT_EQ(window.mnuRecentlyUsed(0).Caption(), "&1 " + std::string(32, 'x') + "...Tom && Jerry.txt");
+  EXPECT_EQ(window.mnuRecentlyUsed(0).Caption(),
+            "&1 " + std::string(32, 'x') + "...Tom && Jerry.txt");
   EXPECT_EQ(window.mnuRecentlyUsed(0).ToolTip(), path);
 }
 

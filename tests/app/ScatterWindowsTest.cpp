@@ -1,5 +1,5 @@
-// The main window and its scatter windows: the range on show, a load, the graphs drawn after it, the end of the
-// program.
+// The main window and its scatter windows: the range on show, a load, the graphs drawn after it,
+// the end of the program.
 
 #include "support/ProgramFixture.h"
 
@@ -8,11 +8,14 @@ namespace {
 
 constexpr const char* kPreset =
     "[New Preset Scatter Graphs]\r\n"
-    "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point Size=6\r\n"
+    "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point "
+    "Size=6\r\n"
     "Graph 1 X Axis=3\r\nGraph 1 Y Axis=5\r\nGraph 1 File Open Draw=Y\r\nGraph 1 Log Family=1\r\n"
-    "Graph 2 Name=Gone\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point Size=1\r\n"
+    "Graph 2 Name=Gone\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point "
+    "Size=1\r\n"
     "Graph 2 X Axis=3\r\nGraph 2 Y Axis=61\r\nGraph 2 File Open Draw=N\r\nGraph 2 Log Family=1\r\n"
-    "Graph 3 Name=Other family\r\nGraph 3 Point Colour=0\r\nGraph 3 Point Shape=0\r\nGraph 3 Point Size=1\r\n"
+    "Graph 3 Name=Other family\r\nGraph 3 Point Colour=0\r\nGraph 3 Point Shape=0\r\nGraph 3 Point "
+    "Size=1\r\n"
     "Graph 3 X Axis=3\r\nGraph 3 Y Axis=5\r\nGraph 3 File Open Draw=Y\r\nGraph 3 Log Family=6\r\n";
 
 class ScatterWindows : public ProgramFixture {
@@ -33,7 +36,8 @@ class ScatterWindows : public ProgramFixture {
 
 TEST_F(ScatterWindows, TakeTheRangeOnShowAsAFilter) {
   for (const bool wanted : {true, false}) {
-    Open(std::string("[General]\r\nAuto Scatter Graph Sample Filter=") + (wanted ? "Y" : "N") + "\r\n");
+    Open(std::string("[General]\r\nAuto Scatter Graph Sample Filter=") + (wanted ? "Y" : "N") +
+         "\r\n");
     EXPECT_EQ(Main().Scatter().OpenScatterGraph().objFilters().Count(), 0) << "the whole log";
     Main().PlotRangeTo.Do({"type", {"30"}});
     const clsScatterFilters& filters = Main().Scatter().OpenScatterGraph().objFilters();

@@ -28,7 +28,8 @@ class SettingsFileTest : public ProgramFixture {
   /// A program that keeps its settings, as tarnview does.
   void StartKeeping(const std::string& settings) {
     files.files[kPath] = settings;
-    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
+    program =
+        std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
     program->Start("", false);
   }
   std::string Closed() {
@@ -53,8 +54,12 @@ TEST_F(SettingsFileTest, TheDefaultsComeBackByteForByteToo) {
   const std::string written = Closed();
   EXPECT_THAT(MessageIds(), ElementsAre());
   EXPECT_THAT(written, Not(HasSubstr("Window State")));
-  EXPECT_THAT(written, HasSubstr("[New Preset Sample Graphs]\r\n[New Preset Scatter Graphs]\r\n[Benchmarks]\r\n"));
-  EXPECT_THAT(written, HasSubstr("[Recently Used Files]\r\n[Recently Used Power Graph Files]\r\n[Data Item"));
+  EXPECT_THAT(
+      written,
+      HasSubstr("[New Preset Sample Graphs]\r\n[New Preset Scatter Graphs]\r\n[Benchmarks]\r\n"));
+  EXPECT_THAT(
+      written,
+      HasSubstr("[Recently Used Files]\r\n[Recently Used Power Graph Files]\r\n[Data Item"));
   StartKeeping(written);
   EXPECT_EQ(Closed(), written);
 }
@@ -73,9 +78,10 @@ TEST_F(SettingsFileTest, WhatTheWindowShowsIsKept) {
   Main().chkShowCheckedOnly.Do({"click", {}});
   Main().LoadDataFile("/logs/a.txt", 0);
   const std::string written = Closed();
-  for (const char* line : {"Zoom Amount=2", "Quick Graph=0", "Fix Graph Max=1", "Graph Y Max=90",
-                           "Scatter Graph Auto Draw=Y", "Checked Data Items=20,3", "Show Checked Only=Y",
-                           "File 0=1|/logs/a.txt", "Window State=0", "Window Left=15", "Window Width=9000"})
+  for (const char* line :
+       {"Zoom Amount=2", "Quick Graph=0", "Fix Graph Max=1", "Graph Y Max=90",
+        "Scatter Graph Auto Draw=Y", "Checked Data Items=20,3", "Show Checked Only=Y",
+        "File 0=1|/logs/a.txt", "Window State=0", "Window Left=15", "Window Width=9000"})
     EXPECT_THAT(written, HasSubstr("\n" + std::string(line) + "\r\n"));
   EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Done");
   StartKeeping(written);
@@ -115,9 +121,11 @@ TEST_F(SettingsFileTest, OfADamagedFileEachUndamagedKeyIsRead) {
   files.files["/car/Tarnview.ini.old"] = "[General]\r\n";
   StartKeeping(damaged);
   ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(host.messages[0].text,
-            "The settings file is damaged. What can be read of it holds:\r\n/car/Tarnview.ini\r\n\r\n"
-            "It is kept as:\r\n/car/Tarnview.ini.bad\r\nThe last good settings are:\r\n/car/Tarnview.ini.old");
+  EXPECT_EQ(
+      host.messages[0].text,
+      "The settings file is damaged. What can be read of it holds:\r\n/car/Tarnview.ini\r\n\r\n"
+      "It is kept as:\r\n/car/Tarnview.ini.bad\r\nThe last good settings "
+      "are:\r\n/car/Tarnview.ini.old");
   std::string wanted = FullSettings();
   wanted.replace(wanted.find("Zoom Amount=30"), 14, "Zoom Amount=2");
   EXPECT_EQ(Closed(), wanted);
@@ -148,7 +156,8 @@ std::string LinesOnlyIn(const std::string& text, const std::string& other) {
   std::string only;
   std::string_view rest = text, line;
   while (TakeLine(rest, line))
-    if (("\n" + other).find("\n" + std::string(line) + "\r") == std::string::npos) only += std::string(line) + "\n";
+    if (("\n" + other).find("\n" + std::string(line) + "\r") == std::string::npos)
+      only += std::string(line) + "\n";
   return only;
 }
 
@@ -160,7 +169,9 @@ TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
   Main().txtYMax.Text = "90";
   Main().cboZoomAmount.Do({"type", {"4"}});
   Main().LoadDataFile("/logs/a.txt", 0);
-  program->Global().gcolSampleGraphPresets.AddDirect(clsSampleGraphPresets::BlankPreset()).lngLogFamily = 1;
+  program->Global()
+      .gcolSampleGraphPresets.AddDirect(clsSampleGraphPresets::BlankPreset())
+      .lngLogFamily = 1;
   program->Global().catalogue.gcolFixedDataItems.Item(3).lngColour = 77;
   program->Global().settings.beyond.drawAfterOpening = true;
   const std::string theirs = Closed();
@@ -190,12 +201,14 @@ TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
 TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsTold) {
   StartKeeping(
       "[General]\nAlternative Background Picture=/none.bmp\nDefault Working Directory=/none\n"
-      "Generic Data Log Definition File=/none.txt\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Data "
+      "Generic Data Log Definition File=/none.txt\n[New Preset Sample Graphs]\nGraph 1 "
+      "Name=A\nGraph 1 Data "
       "Items=84\n");
   EXPECT_THAT(MessageIds(), ElementsAre(18, 32, 79, 43));
   const std::string written = Closed();
-  for (const char* line : {"Alternative Background Picture=/none.bmp", "Default Working Directory=/none",
-                           "Generic Data Log Definition File=/none.txt"})
+  for (const char* line :
+       {"Alternative Background Picture=/none.bmp", "Default Working Directory=/none",
+        "Generic Data Log Definition File=/none.txt"})
     EXPECT_THAT(written, HasSubstr(std::string(line) + "\r\n"));
 }
 
@@ -231,7 +244,9 @@ std::string PresetsIn(const std::string& settings, const std::string& section) {
 
 TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThenOn) {
   const std::string section = "New Preset Sample Graphs";
-  StartKeeping("[General]\nFirst Run Indicator=Y\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Log Family=2\n");
+  StartKeeping(
+      "[General]\nFirst Run Indicator=Y\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Log "
+      "Family=2\n");
   clsSampleGraphPresets* presets = &program->Global().gcolSampleGraphPresets;
   presets->Item(4).strName = "Mine";
   presets->Remove(2);
@@ -239,7 +254,8 @@ TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThe
   presets->Remove(6);
   std::string written = Closed();
   const std::string kept =
-      "7 Power Graphing\n2 A\n7 A/F Investigation\n7 Mine\n7 Knock Investigation 2\n7 Clear All Checkboxes\n";
+      "7 Power Graphing\n2 A\n7 A/F Investigation\n7 Mine\n7 Knock Investigation 2\n7 Clear All "
+      "Checkboxes\n";
   EXPECT_EQ(PresetsIn(written, section), kept);
   StartKeeping(written);
   written = Closed();
@@ -249,17 +265,20 @@ TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThe
   StartKeeping("[General]\n");
   EXPECT_EQ(PresetsIn(Closed(), section), "");
   files.files.erase(kPath);
-  program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
+  program =
+      std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
   program->Start("", false);
   EXPECT_THAT(PresetsIn(Closed(), section), ::testing::StartsWith("7 Overview\n"));
 }
 
 TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
-  const std::string display = "[Generic Data Item Display Properties]\nItem 1 Colour=1\nItem 62 Colour=5\n";
+  const std::string display =
+      "[Generic Data Item Display Properties]\nItem 1 Colour=1\nItem 62 Colour=5\n";
   constexpr int kKnockRetard = 62;
   constexpr Colour kOfBuiltInDefinition = 8404992;
   StartKeeping("[General]\nFirst Run Indicator=Y\n" + display);
-  EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour, kOfBuiltInDefinition);
+  EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour,
+            kOfBuiltInDefinition);
   EXPECT_THAT(Closed(), Not(HasSubstr("First Run")));
   for (const bool told : {true, false}) {  // else as the built-in items do
     StartKeeping("[General]\n" + (told ? display : ""));

@@ -14,7 +14,8 @@ namespace {
 std::vector<std::string> RowsOf(const std::string& text) {
   std::vector<std::string> rows;
   const IniTable table = ReadINIFileToArray(text);
-  for (const IniRow& row : table.Rows()) rows.push_back(row.section + "/" + row.key + "=" + row.value);
+  for (const IniRow& row : table.Rows())
+    rows.push_back(row.section + "/" + row.key + "=" + row.value);
   std::sort(rows.begin(), rows.end());
   return rows;
 }
@@ -29,7 +30,8 @@ TEST(IniRepair, AByteLostAnywhereCostsItsOwnLineAtMost) {
     const std::string repaired = WithoutDamage(damaged, headings);
     std::vector<std::string> lost;
     const auto kept = RowsOf(repaired);
-    std::set_difference(rows.begin(), rows.end(), kept.begin(), kept.end(), std::back_inserter(lost));
+    std::set_difference(rows.begin(), rows.end(), kept.begin(), kept.end(),
+                        std::back_inserter(lost));
     ASSERT_LE(lost.size(), 1u) << "byte " << at << " of " << whole.substr(at, 20);
     ASSERT_EQ(repaired.find('\0'), std::string::npos);
   }
@@ -44,6 +46,7 @@ TEST(IniRepair, WhatCanBeToldOfALineStays) {
   const struct {
     const char *damaged, *wanted;
   } kRows[] = {
+      // clang-format off
       {"[General]\nk=1", "[General]\nk=1"},  // untouched
       {"[Gene#al]\nk=1\n", "[General]\r\nk=1\r\n"},
       {"#General]\nk=1\n", "[General]\r\nk=1\r\n"},
@@ -56,6 +59,7 @@ TEST(IniRepair, WhatCanBeToldOfALineStays) {
       {"[Graphs]\nGraph 1 Name=A\nGraph # Name=B\n", "[Graphs]\r\nGraph 1 Name=A\r\nGraph 0 Name=B\r\n"},
       {"Graph 1 Name=M#ne\n", "Graph 1 Name=M?ne\r\n"},  // without it the records behind would not be found
       {"Only#ne=1\n", ""},
+      // clang-format on
   };
   for (const auto& row : kRows) EXPECT_EQ(repaired(row.damaged), row.wanted) << row.damaged;
 }

@@ -12,12 +12,15 @@ class UniversalLogs : public ProgramFixture {
  protected:
   /// A start with a program folder, where reports may be written.
   void StartIn(const std::string& definition) {
-    files.files["/car/Tarnview.ini"] = "[General]\nGeneric Data Log Definition File=" + definition + "\n";
-    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/car/data/"});
+    files.files["/car/Tarnview.ini"] =
+        "[General]\nGeneric Data Log Definition File=" + definition + "\n";
+    program = std::make_unique<Program>(host, files, clock, processes,
+                                        ProgramFolders{"/car/", "/car/data/"});
     program->Start("", false);
     host.messages.clear();
   }
-  const std::string definition = DefinitionText{"", {ColumnText("Time", 63, 3), ColumnText("Revs", 3)}, ""}.Text();
+  const std::string definition =
+      DefinitionText{"", {ColumnText("Time", 63, 3), ColumnText("Revs", 3)}, ""}.Text();
 };
 
 TEST_F(UniversalLogs, ALogIsReadThroughTheDefinitionOfTheSettings) {
@@ -32,8 +35,9 @@ TEST_F(UniversalLogs, ALogIsReadThroughTheDefinitionOfTheSettings) {
   EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).toolTip,
             "About Revs\r\nData log column(s): Revs");
   EXPECT_EQ(Main().lvwSampleDetails.RowOfTag("5"), 0);
-  EXPECT_NE(files.files[std::string("/car/") + kUnknownColumnsFile].find("Unknown Columns:\r\nOther\r\n"),
-            std::string::npos);
+  EXPECT_NE(
+      files.files[std::string("/car/") + kUnknownColumnsFile].find("Unknown Columns:\r\nOther\r\n"),
+      std::string::npos);
 }
 
 TEST_F(UniversalLogs, ALogOfUnknownColumnsNamesTheReport) {
@@ -74,7 +78,8 @@ TEST_F(UniversalLogs, ADefinitionThatIsMissingOrBadIsToldAndTheBuiltInOneServes)
 TEST_F(UniversalLogs, ADefinitionMayBringItsPresets) {
   Start();
   const Globals& globals = program->Global();
-  const int samples = globals.gcolSampleGraphPresets.Count(), scatters = globals.gcolScatterGraphPresets.Count();
+  const int samples = globals.gcolSampleGraphPresets.Count(),
+            scatters = globals.gcolScatterGraphPresets.Count();
   Main().LoadDataLogDefinitionLocal(true);
   EXPECT_EQ(globals.gcolSampleGraphPresets.Count(), samples + 6);
   EXPECT_EQ(globals.gcolScatterGraphPresets.Count(), scatters + 12);

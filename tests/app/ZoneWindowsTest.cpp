@@ -11,7 +11,8 @@ class ZoneWindowsTest : public ProgramFixture {
   /// A program that keeps its settings, so that it keeps a journal beside them.
   void StartKeeping(const std::string& commandLine = "") {
     files.files["/car/Tarnview.ini"] = "[General]\r\nDefault Engine Size=1.8\r\n";
-    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{}, "/car/Tarnview.ini");
+    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{},
+                                        "/car/Tarnview.ini");
     program->WriteSettingsTo("/car/Tarnview.ini");
     program->Start(commandLine, false);
   }
@@ -21,9 +22,10 @@ class ZoneWindowsTest : public ProgramFixture {
       for (int c = 0; c < 16; ++c) text += " 050";
       text += "\r\n";
     }
-    files.files["/car/a.map"] = text +
-                                " Engine Size: 1.8\r\n Chip Date: 2004-07-02\r\n Chip Version: 3\r\n"
-                                " Atmospheric Pressure: 101\r\n";
+    files.files["/car/a.map"] =
+        text +
+        " Engine Size: 1.8\r\n Chip Date: 2004-07-02\r\n Chip Version: 3\r\n"
+        " Atmospheric Pressure: 101\r\n";
   }
   /// Types a Choke Scale and presses a button of the editor.
   void EditAnd(const char* button, const char* choke = "7") {
@@ -86,7 +88,8 @@ TEST_F(ZoneWindowsTest, EditsThatACrashCutOffAreOfferedOnce) {
   };
   StartKeeping();
   EXPECT_EQ(host.messages[0].text,
-            "Edits of the zones of a.map were not saved when Tarnview ended.\r\nDo you want to go on with them?");
+            "Edits of the zones of a.map were not saved when Tarnview ended.\r\nDo you want to go "
+            "on with them?");
   EXPECT_EQ(steps, "Choke Scale 7 to 8; Speedo. Calib. 50 to 9; ");
   EXPECT_EQ(ChokeScale(), 8);
   EXPECT_EQ(Log().zones.zones[7], 50);
@@ -130,20 +133,23 @@ TEST_F(ZoneWindowsTest, Benchmarks) {
   WriteMap();
   StartKeeping("/car/a.map");
   std::string told;
-  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::File, "/car/a.map"}, {Answer::Kind::File, "/car/b.map"}};
+  host.answers = {
+      {Answer::Kind::Ok}, {Answer::Kind::File, "/car/a.map"}, {Answer::Kind::File, "/car/b.map"}};
   host.work = [&](Form& form) {
     if (form.name == "frmMaint") {
       told += form.Caption() + ": ";
       form.Find("cmdNew")->Do({"click", {}});
       form.Find("cmdOK")->Do({"click", {}});
     } else if (form.name == "frmBenchmarkDetails") {
-      for (const char* name : {"cmdSave", "cmdZones"}) told += form.Find(name)->Enabled() ? "1" : "0";
+      for (const char* name : {"cmdSave", "cmdZones"})
+        told += form.Find(name)->Enabled() ? "1" : "0";
       form.Find("txtName")->Do({"type", {""}});
       form.Find("cmdOK")->Do({"click", {}});
       form.Find("txtName")->Do({"type", {"Mine"}});
       form.Find("cmdBrowse")->Do({"click", {}});
       form.Find("cmdLoad")->Do({"click", {}});
-      for (const char* name : {"cmdSave", "cmdZones"}) told += form.Find(name)->Enabled() ? "1" : "0";
+      for (const char* name : {"cmdSave", "cmdZones"})
+        told += form.Find(name)->Enabled() ? "1" : "0";
       form.Find("cmdZones")->Do({"click", {}});
       form.Find("cmdSave")->Do({"click", {}});
       form.Find("cmdOK")->Do({"click", {}});

@@ -8,12 +8,15 @@ namespace {
 using Ids = std::vector<int>;
 
 constexpr const char* kSettings =
-    "[General]\r\nChecked Data Items=3,5,20\r\nShow Checked Only=Y\r\nShow Point Sample Graph Width=60\r\n"
+    "[General]\r\nChecked Data Items=3,5,20\r\nShow Checked Only=Y\r\nShow Point Sample Graph "
+    "Width=60\r\n"
     "[New Preset Scatter Graphs]\r\n"
-    "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point Size=6\r\n"
+    "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point "
+    "Size=6\r\n"
     "Graph 1 X Axis=3\r\nGraph 1 Y Axis=5\r\nGraph 1 File Open Draw=Y\r\nGraph 1 Log Family=1\r\n"
     "Graph 1 Filter 1 Data Item=5\r\nGraph 1 Filter 1 From=100\r\nGraph 1 Filter 1 To=\r\n"
-    "Graph 2 Name=Other family\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point Size=1\r\n"
+    "Graph 2 Name=Other family\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point "
+    "Size=1\r\n"
     "Graph 2 X Axis=3\r\nGraph 2 Y Axis=5\r\nGraph 2 File Open Draw=Y\r\nGraph 2 Log Family=6\r\n";
 
 /// 40 kPa, and 120 kPa in each tenth sample.
@@ -42,7 +45,9 @@ class ScatterGraphTest : public ProgramFixture {
     host.messages.clear();
     return ids;
   }
-  static const PointCloud& Points(const frmScatterGraph& window) { return *window.chScatterGraph.Data().Cloud(); }
+  static const PointCloud& Points(const frmScatterGraph& window) {
+    return *window.chScatterGraph.Data().Cloud();
+  }
 };
 
 TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxes) {
@@ -55,8 +60,9 @@ TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxes) {
   EXPECT_EQ(window.lvwFilters.Count(), 0);
   EXPECT_EQ(window.lvwPresets.Count(), 1);
   for (const Control* control : std::initializer_list<const Control*>{
-           &window.cmdShowPoint, &window.mnuFilePrint, &window.mnuFilePrintPreview, &window.mnuFileSavePicture,
-           &window.mnuFileExport, &window.mnuEditCopy, &window.mnuRightClickPrint, &window.chScatterGraph})
+           &window.cmdShowPoint, &window.mnuFilePrint, &window.mnuFilePrintPreview,
+           &window.mnuFileSavePicture, &window.mnuFileExport, &window.mnuEditCopy,
+           &window.mnuRightClickPrint, &window.chScatterGraph})
     EXPECT_FALSE(control->Enabled()) << control->name;
 }
 
@@ -91,8 +97,9 @@ TEST_F(ScatterGraphTest, AFaultLeavesNoGraph) {
   Open(6000);
   frmScatterGraph& window = NewWindow();
   const auto gone = [&] {
-    return !window.chScatterGraph.Data().Cloud() && !window.chScatterGraph.Visible() && window.fraPicture.Visible() &&
-           !window.mnuFilePrint.Enabled() && !window.mnuFileExport.Enabled() && !window.cmdShowPoint.Enabled();
+    return !window.chScatterGraph.Data().Cloud() && !window.chScatterGraph.Visible() &&
+           window.fraPicture.Visible() && !window.mnuFilePrint.Enabled() &&
+           !window.mnuFileExport.Enabled() && !window.cmdShowPoint.Enabled();
   };
   const auto drawsAgain = [&] {
     window.AddFilter({kBoundNotSet, 0, 3});
@@ -105,7 +112,8 @@ TEST_F(ScatterGraphTest, AFaultLeavesNoGraph) {
   Click(window.cmdDrawGraph);
   EXPECT_TRUE(gone());
   for (const std::string& told : {window.staScatterGraph.Panel(1), window.lblEmptyPlace.Caption()})
-    EXPECT_EQ(told, "Too many samples for a graph without a filter: add a filter, or choose Draw All");
+    EXPECT_EQ(told,
+              "Too many samples for a graph without a filter: add a filter, or choose Draw All");
   EXPECT_EQ(window.Pointer(), MousePointer::Default);
   ASSERT_EQ(host.messages.size(), 1u);
   EXPECT_EQ(host.messages[0].offer, "Draw &All");
@@ -140,9 +148,11 @@ TEST_F(ScatterGraphTest, ExportsThePoints) {
   host.nextFile = Answer{Answer::Kind::File, "/out.csv"};
   Click(window.mnuFileExport);
   EXPECT_EQ(files.files["/out.csv"],
-            "TARNVIEW SCATTER GRAPH EXPORT FILE\r\nOriginal Data Log Path and File Name: /logs/run.txt\r\n"
+            "TARNVIEW SCATTER GRAPH EXPORT FILE\r\nOriginal Data Log Path and File Name: "
+            "/logs/run.txt\r\n"
             "Original Data Log File Type: FM Link Data Logs\r\n\r\nFilters:\r\n"
-            "MAP [Manifold Air Pressure] from 100\r\nSample [Sample No.] to 30\r\n\r\nSample,MAP,RPM,Knock\r\n"
+            "MAP [Manifold Air Pressure] from 100\r\nSample [Sample No.] to "
+            "30\r\n\r\nSample,MAP,RPM,Knock\r\n"
             "10,120.0,1010,40\r\n20,120.0,1020,40\r\n30,120.0,1030,40\r\n");
   EXPECT_EQ(window.staScatterGraph.Panel(1), "Export complete");
   window.ChooseAxes(1, 3);
@@ -155,8 +165,9 @@ TEST_F(ScatterGraphTest, ExportsThePoints) {
   files.failWrites = false;
   host.nextFile = Answer{Answer::Kind::File, "/out.csv"};
   Click(window.mnuFileExport);
-  EXPECT_NE(files.files["/out.csv"].find("\r\nSample,Sample,RPM,Knock,MAP\r\n10,10,1010,40,120.0\r\n"),
-            std::string::npos)
+  EXPECT_NE(
+      files.files["/out.csv"].find("\r\nSample,Sample,RPM,Knock,MAP\r\n10,10,1010,40,120.0\r\n"),
+      std::string::npos)
       << files.files["/out.csv"];
 }
 

@@ -26,16 +26,20 @@ TEST(Dates, CountDaysAndRunOver) {
 
 TEST(Dates, AreReadInManyForms) {
   const std::pair<const char*, const char*> rows[] = {
+      // clang-format off
       {"18-Sep-2001", "2001-09-18"},         {"18-Sep-01", "2001-09-18"},    {"18 sep 2001", "2001-09-18"},
       {" 18 September 2001 ", "2001-09-18"}, {"Sep 18, 2001", "2001-09-18"}, {"2001-09-18", "2001-09-18"},
       {"2001-Sep-18", "2001-09-18"},         {"18/09/2001", "2001-09-18"},   {"09/10/2001", "2001-10-09"},
       {"09/18/2001", "2001-09-18"},          {"01-Jan-29", "2029-01-01"},    {"01-Jan-30", "1930-01-01"},
       {"29-Feb-2000", "2000-02-29"},
+      // clang-format on
   };
-  for (const auto& [text, date] : rows) EXPECT_EQ(DateText(ParseDate(text).value_or(kNoDate)), date) << text;
+  for (const auto& [text, date] : rows)
+    EXPECT_EQ(DateText(ParseDate(text).value_or(kNoDate)), date) << text;
 
-  for (const char* text : {"", "-", "18-Sep", "18-Sepp-2001", "18-Se-2001", "29-Feb-2001", "31/31/2001", "18-Sep-20011",
-                           "18-Sep-2001 x", "1-2-3-4", "18:09:2001", "99999999999-1-1", "\xff"})
+  for (const char* text :
+       {"", "-", "18-Sep", "18-Sepp-2001", "18-Se-2001", "29-Feb-2001", "31/31/2001",
+        "18-Sep-20011", "18-Sep-2001 x", "1-2-3-4", "18:09:2001", "99999999999-1-1", "\xff"})
     EXPECT_FALSE(ParseDate(text)) << text;
   EXPECT_EQ(StringToDate("rubbish", 36951), 36951);
 }

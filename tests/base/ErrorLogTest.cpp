@@ -17,7 +17,9 @@ class ErrorLogTest : public testing::Test {
 TEST_F(ErrorLogTest, NestsTheEntriesOfOneFailure) {
   files.files["error.log"] = "of the last run";
   log.ResetErrorLog();
-  const auto inner = [&] { Trap(log, "modInner", "Work", [] { throw RuntimeError(13, "Type mismatch"); }); };
+  const auto inner = [&] {
+    Trap(log, "modInner", "Work", [] { throw RuntimeError(13, "Type mismatch"); });
+  };
   EXPECT_FALSE(TrapEvent(log, "frmOuter", "cmdOK_Click", inner));
   EXPECT_EQ(files.files["error.log"],
             "Tarnview Error File\r\n"
@@ -41,12 +43,14 @@ TEST_F(ErrorLogTest, ASecondProgramWritesBehindTheFirst) {
   log.LogError("m", "p", RuntimeError(1, "x"), false);
   EXPECT_EQ(files.files["error.log"],
             "of the first\r\n"
-            "Date & Time  : 24-Nov-2026 14:05\r\nLocation     : Tarnview/m/p\r\nNumber       : 1 x\r\n\r\n"
+            "Date & Time  : 24-Nov-2026 14:05\r\nLocation     : Tarnview/m/p\r\nNumber       : 1 "
+            "x\r\n\r\n"
             "--------------------------------------------------\r\n");
 }
 
 TEST_F(ErrorLogTest, TellsOtherFailuresAsNumberFive) {
-  EXPECT_THROW(Trap(log, "m", "p", []() -> int { throw std::out_of_range("index"); }), RuntimeError);
+  EXPECT_THROW(Trap(log, "m", "p", []() -> int { throw std::out_of_range("index"); }),
+               RuntimeError);
   EXPECT_NE(files.files["error.log"].find("Number       : 5 index\r\n"), std::string::npos);
   EXPECT_EQ(Trap(log, "m", "p", [] { return 7; }), 7);
   EXPECT_TRUE(TrapEvent(log, "m", "p", [] {}));

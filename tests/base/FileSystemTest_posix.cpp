@@ -85,7 +85,8 @@ TEST_F(FileSystemTest, AFailedWriteKeepsTheOldFile) {
 TEST_F(FileSystemTest, WhatAKilledSaveLeftIsClearedAndWhatOneIsWritingIsNot) {
   const auto names = [&] { return files.List(folder, "*"); };
   const std::string leftover = folder + ".tarnview-99999999.tmp", busy = folder + ".tarnview-1.tmp";
-  for (const std::string& path : {leftover, busy, folder + "mine.tmp"}) ASSERT_TRUE(files.Append(path, "half"));
+  for (const std::string& path : {leftover, busy, folder + "mine.tmp"})
+    ASSERT_TRUE(files.Append(path, "half"));
   RealFileSystem another;
   ASSERT_TRUE(another.Hold(busy));
   files.ClearLeftovers(folder);
@@ -160,11 +161,13 @@ TEST(MatchesPattern, KnowsStarAndQuestionMark) {
     const char* pattern;
     bool matches;
   };
-  const Row rows[] = {
-      {"a.txt", "*.TXT", true}, {"a.txt", "*.*", true},       {"a", "*.*", false},      {"", "*", true},
-      {"ab", "?", false},       {"abcbc", "a*bc", true},      {"abcbd", "a*bc", false}, {"a", "a**", true},
-      {"", "?", false},         {"a.txt.bak", "*.txt", false}};
-  for (const Row& row : rows) EXPECT_EQ(MatchesPattern(row.name, row.pattern), row.matches) << row.name << row.pattern;
+  const Row rows[] = {{"a.txt", "*.TXT", true}, {"a.txt", "*.*", true},
+                      {"a", "*.*", false},      {"", "*", true},
+                      {"ab", "?", false},       {"abcbc", "a*bc", true},
+                      {"abcbd", "a*bc", false}, {"a", "a**", true},
+                      {"", "?", false},         {"a.txt.bak", "*.txt", false}};
+  for (const Row& row : rows)
+    EXPECT_EQ(MatchesPattern(row.name, row.pattern), row.matches) << row.name << row.pattern;
   EXPECT_FALSE(MatchesPattern(std::string(5000, 'a'), "*a*a*a*a*a*a*a*a*b"));
 }
 

@@ -67,7 +67,8 @@ std::string WithoutSign(const std::string& text) {
 
 bool IsPlain(const std::string& text) {
   const std::string digits = WithoutSign(text);
-  return digits.find_first_not_of("0123456789.") == std::string::npos && digits.find('.') == digits.rfind('.') &&
+  return digits.find_first_not_of("0123456789.") == std::string::npos &&
+         digits.find('.') == digits.rfind('.') &&
          digits.find_first_of("0123456789") != std::string::npos;
 }
 
@@ -80,7 +81,8 @@ double Plainly(std::string text) {
   text.erase(0, text.find_first_not_of(" \t"));
   const std::string whole = text.substr(0, text.find_last_not_of(" \t") + 1);
   const auto e = whole.find('e');
-  const bool scientific = e != std::string::npos && IsPlain(whole.substr(0, e)) && IsExponent(whole.substr(e + 1));
+  const bool scientific =
+      e != std::string::npos && IsPlain(whole.substr(0, e)) && IsExponent(whole.substr(e + 1));
   while (!scientific && !text.empty() && !IsPlain(text)) text.pop_back();
   const double value = std::strtod(text.c_str(), nullptr);
   return std::isfinite(value) ? value : 0;
@@ -92,7 +94,8 @@ TEST(Numbers, TheFastRoadAgreesWithAPlainOne) {
   int fast = 0;
   for (int n = 0; n < 100000; ++n) {
     std::string text;
-    for (auto length = random() % 20; length > 0; --length) text += letters[random() % letters.size()];
+    for (auto length = random() % 20; length > 0; --length)
+      text += letters[random() % letters.size()];
     double quick = 0;
     fast += detail::ReadShortNumber(text, quick);
     ASSERT_EQ(StringToDouble(text), Plainly(text)) << '"' << text << '"';

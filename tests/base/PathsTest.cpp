@@ -28,7 +28,8 @@ TEST(Paths, AreShortenedInTheMiddle) {
   EXPECT_EQ(ShortPath("C:\\Program Files\\Logs\\Summer\\run.txt", 25), "C:\\...\\Summer\\run.txt");
   EXPECT_EQ(ShortPath("/home/someone/logs/run.txt", 20), "/.../logs/run.txt");
   EXPECT_EQ(ShortPath("/logs/Laguna Seca second stint.txt", 19), "Laguna Seca...t.txt");
-  EXPECT_EQ(ShortPath("/\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9", 10), "\xC3\xA9\xC3\xA9...\xC3\xA9")
+  EXPECT_EQ(ShortPath("/\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9", 10),
+            "\xC3\xA9\xC3\xA9...\xC3\xA9")
       << "no letter is cut in two";
 }
 

@@ -31,7 +31,8 @@ TEST(RealProcesses, RunACommandLineAsItStands) {
   };
   RealProcesses processes;
   for (const auto& [arguments, code] : rows)
-    EXPECT_EQ(processes.Run({"/bin/sh", arguments}, "", Wait), (RunResult{End::Exited, code})) << arguments;
+    EXPECT_EQ(processes.Run({"/bin/sh", arguments}, "", Wait), (RunResult{End::Exited, code}))
+        << arguments;
   EXPECT_EQ(processes.Open("/no/such/document.htm"), 2);
 }
 
@@ -41,7 +42,8 @@ TEST(RealProcesses, TellInTheSystemsWordsWhyNothingStarted) {
             (RunResult{End::NotStarted, 0, "No such file or directory"}));
   EXPECT_EQ(processes.Run({"/bin/sh", ""}, "/no/such/folder", Wait),
             (RunResult{End::NotStarted, 0, "No such file or directory"}));
-  EXPECT_EQ(processes.Run({"/tmp", ""}, "", Wait), (RunResult{End::NotStarted, 0, "Permission denied"}));
+  EXPECT_EQ(processes.Run({"/tmp", ""}, "", Wait),
+            (RunResult{End::NotStarted, 0, "Permission denied"}));
   EXPECT_EQ(processes.Run({"", ""}, "", Wait).end, End::NotStarted);
 }
 
@@ -54,14 +56,16 @@ class Folder : public ::testing::Test {
     std::filesystem::permissions(path / name, std::filesystem::perms::owner_all);
   }
 
-  std::filesystem::path path = std::filesystem::temp_directory_path() / ("processes of " + std::to_string(::getpid()));
+  std::filesystem::path path =
+      std::filesystem::temp_directory_path() / ("processes of " + std::to_string(::getpid()));
 };
 
 TEST_F(Folder, IsTheChildsAloneAndAPathWithBlanksIsOneWord) {
   WriteScript("my tool", "pwd >where; echo \"$0|$1|$2\" >words; echo noise\n");
   const auto before = std::filesystem::current_path();
   RealProcesses processes;
-  EXPECT_EQ(processes.Run({(path / "my tool").string(), " -f TVW.map"}, path.string() + "/", Wait), RunResult{});
+  EXPECT_EQ(processes.Run({(path / "my tool").string(), " -f TVW.map"}, path.string() + "/", Wait),
+            RunResult{});
   EXPECT_EQ(std::filesystem::current_path(), before);
   std::string where, words;
   std::getline(std::ifstream(path / "where"), where);
@@ -69,7 +73,8 @@ TEST_F(Folder, IsTheChildsAloneAndAPathWithBlanksIsOneWord) {
   EXPECT_EQ(where, path.string());
   EXPECT_EQ(words, (path / "my tool").string() + "|-f|TVW.map");
   // A program that is named from this program's folder is found from there.
-  EXPECT_EQ(processes.Run({std::filesystem::relative(path / "my tool").string(), ""}, path.string(), Wait),
+  EXPECT_EQ(processes.Run({std::filesystem::relative(path / "my tool").string(), ""}, path.string(),
+                          Wait),
             RunResult{});
 }
 
@@ -78,7 +83,8 @@ TEST_F(Folder, HoldsAProgramThatIsLeftAloneAndGoesOn) {
   RealProcesses processes;
   EXPECT_FALSE(processes.IsAnyLeftAlone());
   int asked = 0;
-  const RunResult result = processes.Run({(path / "slow").string(), ""}, path.string(), [&] { return ++asked < 3; });
+  const RunResult result =
+      processes.Run({(path / "slow").string(), ""}, path.string(), [&] { return ++asked < 3; });
   EXPECT_EQ(result, (RunResult{End::LeftAlone}));
   EXPECT_EQ(asked, 3);
   EXPECT_TRUE(processes.IsAnyLeftAlone());

@@ -35,9 +35,11 @@ TEST(Text, IsSplitJoinedAndSorted) {
   EXPECT_TRUE(SameIgnoringCase("aBc", "AbC"));
   EXPECT_FALSE(SameIgnoringCase("aBc", "AbCd"));
 
-  std::vector<std::vector<std::string>> table{{"head", "z"}, {"2", "c"}, {"1", "a"}, {"3"}, {"4", "a"}};
+  std::vector<std::vector<std::string>> table{
+      {"head", "z"}, {"2", "c"}, {"1", "a"}, {"3"}, {"4", "a"}};
   Sort2DStringArray(table, 1, 1);
-  EXPECT_EQ(table, (std::vector<std::vector<std::string>>{{"head", "z"}, {"3"}, {"1", "a"}, {"4", "a"}, {"2", "c"}}));
+  EXPECT_EQ(table, (std::vector<std::vector<std::string>>{
+                       {"head", "z"}, {"3"}, {"1", "a"}, {"4", "a"}, {"2", "c"}}));
 }
 
 TEST(Text, HasCapitalsBeyondAsciiInEitherEncoding) {
@@ -48,7 +50,8 @@ TEST(Text, HasCapitalsBeyondAsciiInEitherEncoding) {
       {"Temp\u00e9rature", "TEMP\u00c9RATURE", "TEMP\u00c9RATURE"},  // UTF-8
       {"Temp\xe9rature", "TEMP\xc9RATURE", "TEMP\u00c9RATURE"},
       {"\xff\x9a\xf7\xdf", "\x9f\x8a\xf7\xdf", "\u0178\u0160\u00f7\u00df"},
-      {"\u0161\u0142\u017e \u03c9 \u044f\u0451 \U0001f600", "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600",
+      {"\u0161\u0142\u017e \u03c9 \u044f\u0451 \U0001f600",
+       "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600",
        "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600"},
   };
   for (const auto& row : kRows) {

@@ -50,7 +50,8 @@ TEST(CommandLineProgram, AFailedLoadTellsWhy) {
   EXPECT_EQ(ran.status, kFailed);
   const Json told = Json::parse(ran.out);
   EXPECT_EQ(told["ok"], false);
-  EXPECT_EQ(told["messages"], (Json{{{"id", 15}, {"text", "File could not be loaded."}, {"style", 64}}}));
+  EXPECT_EQ(told["messages"],
+            (Json{{{"id", 15}, {"text", "File could not be loaded."}, {"style", 64}}}));
   EXPECT_EQ(ran.err, "message 15: File could not be loaded.\n");
   EXPECT_EQ(RunCli({"table", Example("none.txt")}).status, kFailed);
 }
@@ -58,18 +59,20 @@ TEST(CommandLineProgram, AFailedLoadTellsWhy) {
 TEST(CommandLineProgram, TablePrintsARangeOfItems) {
   EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63,1", "--from", "2", "--to", "4"}).out,
             "Sample,Secs\n2,0.164\n3,0.246\n4,0.328\n");
-  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63", "--raw", "--to", "1"}).out, "Secs\n819\n");
+  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63", "--raw", "--to", "1"}).out,
+            "Secs\n819\n");
 }
 
 TEST(CommandLineProgram, GraphTellsWhatTheChartReceives) {
-  const Ran ran = RunCli({"graph", Example("na.txt"), "--items", "1,3,47,20", "--json", "--from", "100", "--to", "1600",
-                          "--fix-max", "33"});
+  const Ran ran = RunCli({"graph", Example("na.txt"), "--items", "1,3,47,20", "--json", "--from",
+                          "100", "--to", "1600", "--fix-max", "33"});
   EXPECT_EQ(ran.status, kDone);
   const Json told = Json::parse(ran.out);
   EXPECT_EQ(told["from"], 100);
   EXPECT_EQ(told["thin_step"], 3);
   EXPECT_EQ(told["rows"], told["series"][0]["x"].size());
-  ASSERT_EQ(told["series"].size(), 2u);  // "Sample" cannot be plotted, item 47 is no item of this log
+  ASSERT_EQ(told["series"].size(),
+            2u);  // "Sample" cannot be plotted, item 47 is no item of this log
   EXPECT_EQ(told["series"][0]["item"], 20);
   EXPECT_EQ(told["series"][1], Json({{"item", 3},
                                      {"name", "RPM"},
@@ -83,9 +86,12 @@ TEST(CommandLineProgram, GraphTellsWhatTheChartReceives) {
 }
 
 TEST(CommandLineProgram, ScatterTellsDrawsAndExportsWhatTheWindowDoes) {
-  const std::vector<std::string> words{
-      "scatter", Example("turbo.txt"), "--x", "3", "--y", "5", "--filter", "5:100:", "--to", "900", "--json",
-      "--export"};
+  const std::vector<std::string> words{"scatter",  Example("turbo.txt"),
+                                       "--x",      "3",
+                                       "--y",      "5",
+                                       "--filter", "5:100:",
+                                       "--to",     "900",
+                                       "--json",   "--export"};
   const auto with = [&](std::vector<std::string> more) {
     std::vector<std::string> all = words;
     all.insert(all.end(), more.begin(), more.end());
@@ -97,12 +103,15 @@ TEST(CommandLineProgram, ScatterTellsDrawsAndExportsWhatTheWindowDoes) {
   const Json told = Json::parse(ran.out);
   EXPECT_EQ(told["x_item"], 3);
   EXPECT_EQ(told["y_item"], 5);
-  EXPECT_EQ(told["filters"], (Json{"Sample [Sample No.] from 1 to 900", "MAP [Manifold Air Pressure] from 100",
-                                   "RPM [RPM] from 1 to 2000"}));
+  EXPECT_EQ(told["filters"],
+            (Json{"Sample [Sample No.] from 1 to 900", "MAP [Manifold Air Pressure] from 100",
+                  "RPM [RPM] from 1 to 2000"}));
   std::ifstream file(out, std::ios::binary);
   const std::string text(std::istreambuf_iterator<char>(file), {});
-  EXPECT_NE(text.find("RPM [RPM] from 1 to 2000\r\n\r\nSample,RPM,MAP,Knock\r\n"), text.npos) << text.substr(0, 400);
-  EXPECT_EQ(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')), 10 + told["points"].size());
+  EXPECT_NE(text.find("RPM [RPM] from 1 to 2000\r\n\r\nSample,RPM,MAP,Knock\r\n"), text.npos)
+      << text.substr(0, 400);
+  EXPECT_EQ(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')),
+            10 + told["points"].size());
   for (const Json& point : told["points"]) {
     EXPECT_GE(point[1], 100);
     EXPECT_LE(point[2], 900);
@@ -137,15 +146,20 @@ TEST(CommandLineProgram, ScatterRefusesAsTheWindowsDo) {
 
 TEST(CommandLineProgram, ALogWithoutZonesIsNotNormallyAspirated) {
   EXPECT_EQ(Json::parse(RunCli({"load", Example("na.txt")}).out)["normally_aspirated"], true);
-  EXPECT_EQ(Json::parse(RunCli({"load", Example("na.txt"), "--type", "3"}).out)["normally_aspirated"], false);
+  EXPECT_EQ(
+      Json::parse(RunCli({"load", Example("na.txt"), "--type", "3"}).out)["normally_aspirated"],
+      false);
 }
 
 TEST(CommandLineProgram, AnExportNeverGoesOverItsLog) {
   const std::string log = ::testing::TempDir() + "own.txt";
-  std::filesystem::copy_file(Example("na.txt"), log, std::filesystem::copy_options::overwrite_existing);
+  std::filesystem::copy_file(Example("na.txt"), log,
+                             std::filesystem::copy_options::overwrite_existing);
   const Ran ran = RunCli({"export", log, ::testing::TempDir() + "./own.txt"});
   EXPECT_EQ(ran.status, kFailed);
-  EXPECT_NE(ran.err.find("message 0: The log that is open is never written over:"), std::string::npos) << ran.err;
+  EXPECT_NE(ran.err.find("message 0: The log that is open is never written over:"),
+            std::string::npos)
+      << ran.err;
   EXPECT_EQ(std::filesystem::file_size(log), std::filesystem::file_size(Example("na.txt")));
 }
 
@@ -159,7 +173,9 @@ TEST(CommandLineProgram, AResultThatCannotBeWrittenIsAFailure) {
 
 TEST(CommandLineProgram, AWrongCommandLineSaysSo) {
   const std::string na = Example("na.txt");
-  const std::vector<std::vector<std::string>> kRows{{},
+  const std::vector<std::vector<std::string>> kRows{
+      {},
+      // clang-format off
                                                     {"fly"},
                                                     {"load"},
                                                     {"load", "a", "--type", "9"},
@@ -178,6 +194,7 @@ TEST(CommandLineProgram, AWrongCommandLineSaysSo) {
                                                     {"scatter", na, "--json", "--filter", "3:abc:"},
                                                     {"scatter", na, "--json", "--filter", "3:1:2b"},
                                                     {"drive", "no-such-script"}};
+  // clang-format on
   for (const auto& words : kRows) {
     const Ran ran = RunCli(words);
     EXPECT_EQ(ran.status, kWrongCommandLine) << (words.empty() ? "" : words.back());

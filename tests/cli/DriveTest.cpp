@@ -1,5 +1,6 @@
-// A script and what it prints are a test of a whole use: tests/cli/scripts/NAME.txt and NAME.out, with the example
-// logs as the current folder. TARNVIEW_ACCEPT=1 writes what comes out as the new NAME.out: read the difference.
+// A script and what it prints are a test of a whole use: tests/cli/scripts/NAME.txt and NAME.out,
+// with the example logs as the current folder. TARNVIEW_ACCEPT=1 writes what comes out as the new
+// NAME.out: read the difference.
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,8 @@ std::string Drive(const fs::path& script) {
   ::testing::internal::CaptureStderr();
   const int status = RunCommandLine(3, arguments);
   const std::string out = ::testing::internal::GetCapturedStdout();
-  return out + ::testing::internal::GetCapturedStderr() + "exit status " + std::to_string(status) + "\n";
+  return out + ::testing::internal::GetCapturedStderr() + "exit status " + std::to_string(status) +
+         "\n";
 }
 
 TEST(Drive, ScriptsPrintWhatTheyDid) {

@@ -8,7 +8,8 @@ namespace {
 using Words = std::vector<std::string>;
 
 TEST(Script, SplitsWordsAndPassesCommentsOver) {
-  const auto lines = ParseScript("# first\r\n\r\n  type txtName  \"a \\\"b\\\" \\\\ c\\nd\"\r\nchoose cboX #2\n\"\"");
+  const auto lines = ParseScript(
+      "# first\r\n\r\n  type txtName  \"a \\\"b\\\" \\\\ c\\nd\"\r\nchoose cboX #2\n\"\"");
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[0].number, 3);
   EXPECT_EQ(lines[0].words, (Words{"type", "txtName", "a \"b\" \\ c\nd"}));

@@ -1,4 +1,5 @@
-// The settings on the command line: read and written whole by `settings`, and kept by `drive` where that is wanted.
+// The settings on the command line: read and written whole by `settings`, and kept by `drive` where
+// that is wanted.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,9 @@ class SettingsCommand : public ::testing::Test {
   ~SettingsCommand() override { fs::remove_all(folder_); }
 
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  void Put(const std::string& name, const std::string& text) { std::ofstream(Path(name), std::ios::binary) << text; }
+  void Put(const std::string& name, const std::string& text) {
+    std::ofstream(Path(name), std::ios::binary) << text;
+  }
   std::string Get(const std::string& name) const {
     std::stringstream text;
     text << std::ifstream(Path(name), std::ios::binary).rdbuf();
@@ -38,8 +41,9 @@ class SettingsCommand : public ::testing::Test {
   std::string out;
 
  private:
-  fs::path folder_ = fs::temp_directory_path() /
-                     ("tarnview-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+  fs::path folder_ =
+      fs::temp_directory_path() /
+      ("tarnview-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
 };
 
 TEST_F(SettingsCommand, ReadsAsAStartAndWritesAsAnEnd) {
@@ -71,11 +75,14 @@ TEST_F(SettingsCommand, TellsWhatItCannotDo) {
 TEST_F(SettingsCommand, AScriptKeepsItsSettingsWhereItIsTold) {
   const std::string before = "[General]\r\nQuick Graph=1\r\n";
   Put("in.ini", before);
-  Put("script",
-      "click chkQuickGraph\ntype cboZoomAmount 30\nopen " + std::string(TARNVIEW_EXAMPLES "/na.txt") + " 1\n");
-  ASSERT_EQ(Run({"drive", Path("script"), "--settings", Path("in.ini"), "--write-settings", Path("out.ini")}), kDone);
+  Put("script", "click chkQuickGraph\ntype cboZoomAmount 30\nopen " +
+                    std::string(TARNVIEW_EXAMPLES "/na.txt") + " 1\n");
+  ASSERT_EQ(Run({"drive", Path("script"), "--settings", Path("in.ini"), "--write-settings",
+                 Path("out.ini")}),
+            kDone);
   EXPECT_EQ(Get("in.ini"), before);
-  for (const char* line : {"Quick Graph=0", "Zoom Amount=30", "File 0=1|" TARNVIEW_EXAMPLES "/na.txt"})
+  for (const char* line :
+       {"Quick Graph=0", "Zoom Amount=30", "File 0=1|" TARNVIEW_EXAMPLES "/na.txt"})
     EXPECT_NE(Get("out.ini").find(std::string(line) + "\r\n"), std::string::npos) << line;
   ASSERT_EQ(Run({"drive", Path("script"), "--settings", Path("out.ini")}), kDone);
   EXPECT_NE(Get("out.ini").find("Quick Graph=0\r\n"), std::string::npos);

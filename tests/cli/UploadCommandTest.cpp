@@ -18,7 +18,8 @@ class UploadCommand : public ::testing::Test {
   UploadCommand() {
     fs::create_directories(folder_);
     Put("own.ini",
-        "[General]\nLog EXE=/link/L.exe\nSerial Com Port=2\nDefault Engine Size=1.8\nDefault Chip Date=2003-06-09\n"
+        "[General]\nLog EXE=/link/L.exe\nSerial Com Port=2\nDefault Engine Size=1.8\nDefault Chip "
+        "Date=2003-06-09\n"
         "Default Chip Version=2\nDefault Atmospheric Pressure=98\nUpload Default 1=0\n");
     Put("a.map", Map(1.8, 12));
     Put("b.map", Map(1.8, 12, " 013"));
@@ -29,14 +30,17 @@ class UploadCommand : public ::testing::Test {
   static std::string Map(double size, int value, const std::string& first = " 012") {
     std::string text;
     for (int row = 0; row < 16; ++row) {
-      for (int column = 0; column < 16; ++column) text += row + column == 0 ? first : " 0" + std::to_string(value);
+      for (int column = 0; column < 16; ++column)
+        text += row + column == 0 ? first : " 0" + std::to_string(value);
       text += "\n";
     }
     return text + " Engine Size: " + (size == 1.8 ? "1.8" : "1.6") +
            "\n Chip Date: 2003-06-09\n Chip Version: 2\n Atmospheric Pressure: 098\n";
   }
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  void Put(const std::string& name, const std::string& text) { std::ofstream(Path(name), std::ios::binary) << text; }
+  void Put(const std::string& name, const std::string& text) {
+    std::ofstream(Path(name), std::ios::binary) << text;
+  }
   int Run(std::vector<std::string> words) {
     words.insert(words.end(), {"--settings", Path("own.ini")});
     std::vector<const char*> arguments{"tarnview-cli"};
@@ -53,8 +57,9 @@ class UploadCommand : public ::testing::Test {
   std::string out, err;
 
  private:
-  fs::path folder_ = fs::temp_directory_path() /
-                     ("tarnview-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+  fs::path folder_ =
+      fs::temp_directory_path() /
+      ("tarnview-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
 };
 
 TEST_F(UploadCommand, PrintsTheMapAndTheCommandLine) {
@@ -97,12 +102,14 @@ TEST_F(UploadCommand, OptionsListEachSetting) {
       if (one["key"] == key) return one.dump();
     return std::string();
   };
-  EXPECT_EQ(row("Serial Com Port"),
-            R"({"control":"frmOptions/txtComPort","default":"1","key":"Serial Com Port","limits":"1 to 9",)"
-            R"("page":"FM Link ECU","section":"General","value":"2"})");
-  EXPECT_EQ(row("Graph Y Max"),
-            R"({"control":"frmDataLogViewer/txtYMax","default":"250","key":"Graph Y Max","limits":"10 to 1000",)"
-            R"("page":"","section":"General","value":"250"})");
+  EXPECT_EQ(
+      row("Serial Com Port"),
+      R"({"control":"frmOptions/txtComPort","default":"1","key":"Serial Com Port","limits":"1 to 9",)"
+      R"("page":"FM Link ECU","section":"General","value":"2"})");
+  EXPECT_EQ(
+      row("Graph Y Max"),
+      R"({"control":"frmDataLogViewer/txtYMax","default":"250","key":"Graph Y Max","limits":"10 to 1000",)"
+      R"("page":"","section":"General","value":"250"})");
 }
 
 }  // namespace

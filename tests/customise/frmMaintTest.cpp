@@ -48,14 +48,16 @@ class MaintTest : public ::testing::Test {
   clsSampleGraphPresets kept;
   bool ok = true;             ///< how the detail window is closed
   std::string newName = "x";  ///< what is typed in it
-  MaintainedCollection<clsSampleGraphPresets>::DetailWindow edit = [this](clsSampleGraphPreset& preset) {
-    preset.strName = newName;
-    return ok;
-  };
+  MaintainedCollection<clsSampleGraphPresets>::DetailWindow edit =
+      [this](clsSampleGraphPreset& preset) {
+        preset.strName = newName;
+        return ok;
+      };
 };
 
 TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {
-  for (const auto& [name, family] : {std::pair{"a", 1}, {"u", 7}, {"b", 1}, {"c", 1}, {"v", 7}}) Add(name, family);
+  for (const auto& [name, family] : {std::pair{"a", 1}, {"u", 7}, {"b", 1}, {"c", 1}, {"v", 7}})
+    Add(name, family);
   MaintainedCollection<clsSampleGraphPresets> copy(kept, edit);
   frmMaint window = Make(copy);
   window.Show();

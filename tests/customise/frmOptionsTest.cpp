@@ -25,11 +25,12 @@ class Options : public ::testing::Test {
   }
 
   frmOptions& Open(const Settings& settings = {}, int fileType = kFMLinkLog) {
-    OptionsDraft draft{settings, DefaultDataLogDefinition(), BuildDataItemCatalogue(), SetUpLogFamilies()};
+    OptionsDraft draft{settings, DefaultDataLogDefinition(), BuildDataItemCatalogue(),
+                       SetUpLogFamilies()};
     draft.catalogue.gcolUniversalDataItems =
         GenerateLogDataItemsGeneric(draft.definition, draft.catalogue.gcolFixedDataItems);
-    window = std::make_unique<frmOptions>(host, frmOptions::Surroundings{files, errors, messages}, std::move(draft),
-                                          fileType);
+    window = std::make_unique<frmOptions>(host, frmOptions::Surroundings{files, errors, messages},
+                                          std::move(draft), fileType);
     window->Show();
     return *window;
   }
@@ -41,7 +42,8 @@ class Options : public ::testing::Test {
   }
 
   static constexpr const char* kMine =
-      "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=log\r\nLINEFREQUENCY=10\r\nDELIMITERASCIICHARACTER=44\r\n"
+      "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=log\r\nLINEFREQUENCY="
+      "10\r\nDELIMITERASCIICHARACTER=44\r\n"
       "DATALINESBEFORE=1\r\nCOLUMNHEADERSLINESBEFORE=0\r\n"
       "[COLUMN]\r\nNAME=Revs\r\nCOLUMNTITLE=Revs\r\nDATAITEMID=3\r\nTYPE=1\r\nDESCRIPTION=Revs\r\n"
       "COLUMNDECIMALPLACES=0\r\nDISPLAYCOLOUR=255\r\nDISPLAYLINEWIDTH=5\r\n\r\n";
@@ -66,7 +68,8 @@ TEST_F(Options, ShowEverySettingThatNamesThemAndGiveItBack) {
   Act(options, "click cmdOK");
   ASSERT_TRUE(options.Accepted());
   EXPECT_EQ(Boxes(), "") << "what was bad before and was left alone stops nobody";
-  for (const SettingRow& row : AllSettings()) EXPECT_EQ(row.text(options.Draft().settings), row.text({})) << row.key;
+  for (const SettingRow& row : AllSettings())
+    EXPECT_EQ(row.text(options.Draft().settings), row.text({})) << row.key;
 }
 
 /// Another value than the default for each kind of control.
@@ -100,9 +103,11 @@ TEST_F(Options, GiveBackEverySettingThatWasChangedAndNoneAfterCancel) {
     if (std::string_view(row.setIn.window).starts_with("frmOptions/") &&
         std::string_view(row.key) != "Default Chip Version") {
       Control& control = *ControlOf(options, row.setIn.control);
-      if (!control.Enabled) Act(options, "click chkSAE");  // the air is asked for with the correction alone
+      if (!control.Enabled)
+        Act(options, "click chkSAE");  // the air is asked for with the correction alone
       Change(control);
-      if (!options.chkPowerGraphGearSelection.Value) Act(options, "click chkPowerGraphGearSelection");
+      if (!options.chkPowerGraphGearSelection.Value)
+        Act(options, "click chkPowerGraphGearSelection");
     }
   Act(options, "click chkPowerGraphGearSelection");
   options.chkSAE.Value = true;
@@ -119,7 +124,8 @@ TEST_F(Options, GiveBackEverySettingThatWasChangedAndNoneAfterCancel) {
             "Checked Data Items (frmDataLogViewer)\nLast Converted Binary File (frmConvertBIN)\n"
             "Default Chip Version (frmOptions/FM Link ECU)\n"
             "Default Benchmark (frmZoneData)\nDisplay Zone Influence (frmDataLogViewer)\n"
-            "Fix Graph Max (frmDataLogViewer)\nGraph Y Max (frmDataLogViewer)\nShow Checked Only (frmDataLogViewer)\n"
+            "Fix Graph Max (frmDataLogViewer)\nGraph Y Max (frmDataLogViewer)\nShow Checked Only "
+            "(frmDataLogViewer)\n"
             "Main Window Dividers ()\nScatter Graph Dividers ()\n");
 
   frmOptions& again = Open();
@@ -168,11 +174,13 @@ TEST_F(Options, HoldWhatIsTypedToTheLimitsOfTheSettings) {
   for (const Row& row : rows) {
     frmOptions& options = Open();
     Act(options, row.actions);
-    EXPECT_EQ(dynamic_cast<TextBox*>(ControlOf(options, row.control))->Text(), row.text) << row.actions;
+    EXPECT_EQ(dynamic_cast<TextBox*>(ControlOf(options, row.control))->Text(), row.text)
+        << row.actions;
   }
   EXPECT_EQ(Boxes(), "");
   frmOptions& options = Open();
-  options.txtComPort.Text = std::string("33");  // Enter presses OK with the caret still in the field
+  options.txtComPort.Text =
+      std::string("33");  // Enter presses OK with the caret still in the field
   options.cmdOK.Press();
   EXPECT_EQ(options.Draft().settings.gstrSerialComPort, "1");
 }
@@ -211,7 +219,8 @@ TEST_F(Options, CheckThePathsThatWereChanged) {
     EXPECT_EQ(options.IsShown(), !good);
     if (good) continue;
     EXPECT_EQ(options.ActiveControl(), ControlOf(options, box));
-    EXPECT_EQ(options.tabOptions.Selected(), *row.index == '2' || *row.index == '3' || *row.index == '6' ? 3 : 2);
+    EXPECT_EQ(options.tabOptions.Selected(),
+              *row.index == '2' || *row.index == '3' || *row.index == '6' ? 3 : 2);
   }
   frmOptions& options = Open();
   Act(options, "type txtPath(5) /no\ntype txtPath(3) /nowhere\nclick cmdOK");
@@ -247,7 +256,8 @@ TEST_F(Options, LoadADefinitionIntoTheDraftAlone) {
 
   Act(options, "row lvwDataItems Revs\nchoose imgcboDataWidth Thinner\nclick cmdOK");
   EXPECT_EQ(Boxes(), "86 ") << "checked again";
-  EXPECT_EQ(options.Draft().catalogue.gcolUniversalDataItems.Item(3).lngLineWidth, 2) << "and what was chosen stays";
+  EXPECT_EQ(options.Draft().catalogue.gcolUniversalDataItems.Item(3).lngLineWidth, 2)
+      << "and what was chosen stays";
   EXPECT_TRUE(options.DefinitionChanged());
   EXPECT_EQ(options.Draft().settings.gstrGenericDefinitionFile, "/defs/mine.txt");
 }
@@ -275,7 +285,8 @@ TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
   EXPECT_EQ(options.lvwDataItems.SelectedRow(), 1);
   host.answers = {{Answer::Kind::Colour, "", 0x123456}};
   Act(options,
-      "row lvwDataItems RPM\nchoose imgcboDataStyle Dashed\nchoose imgcboDataWidth Fattest\nclick cmdDataColour\n"
+      "row lvwDataItems RPM\nchoose imgcboDataStyle Dashed\nchoose imgcboDataWidth Fattest\nclick "
+      "cmdDataColour\n"
       "type txtFactor 0.5");
   const clsLogDataItem& rpm = options.Draft().catalogue.gcolFixedDataItems.Item(3);
   EXPECT_EQ(rpm.lngLineStyle, 3);
@@ -287,8 +298,9 @@ TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
   EXPECT_EQ(options.picDataSample.Shapes().strokes[0].pen, (Pen{0x123456, 3, 50}));
 
   Act(options, "row lvwDataItems MAP\nrow lvwDataItems RPM");
-  EXPECT_EQ(options.imgcboDataStyle.Text() + options.imgcboDataWidth.Text() + options.txtFactor.Text(),
-            "DashedFattest0.5");
+  EXPECT_EQ(
+      options.imgcboDataStyle.Text() + options.imgcboDataWidth.Text() + options.txtFactor.Text(),
+      "DashedFattest0.5");
   Act(options, "tick lvwDataItems RPM off\nclick cmdReset");
   const clsLogDataItem& fresh = options.Draft().catalogue.gcolDefaultDataItems.Item(3);
   EXPECT_EQ(rpm.lngLineStyle, fresh.lngLineStyle);
@@ -304,13 +316,15 @@ TEST_F(Options, CheckAndUncheckTheItemsOfAFamily) {
   const auto displayed = [&] {
     std::string names;
     for (int id = 1; id <= items.Count(); ++id)
-      if (items.Item(id).InFamily(1) && items.Item(id).blnDisplay) names += items.Item(id).strShortName + " ";
+      if (items.Item(id).InFamily(1) && items.Item(id).blnDisplay)
+        names += items.Item(id).strShortName + " ";
     return names;
   };
   Act(options, "click cmdUnCheckAll");
   std::string mandatory;
   for (int id = 1; id <= items.Count(); ++id)
-    if (items.Item(id).InFamily(1) && items.Item(id).blnMandatory) mandatory += items.Item(id).strShortName + " ";
+    if (items.Item(id).InFamily(1) && items.Item(id).blnMandatory)
+      mandatory += items.Item(id).strShortName + " ";
   EXPECT_FALSE(mandatory.empty());
   EXPECT_EQ(displayed(), mandatory);
   Act(options, "tick lvwDataItems RPM on");
@@ -335,8 +349,8 @@ TEST_F(Options, ResetAUniversalItemToWhatItsColumnSays) {
 TEST_F(Options, LetTheFieldsOfThePowerGraphFollow) {
   frmOptions& options = Open();
   EXPECT_TRUE(options.cboSpeedUnits.Enabled && options.txtmsConvFactor.Enabled);
-  EXPECT_FALSE(options.cboHumidityType.Enabled || options.txtAmbTemp.Enabled || options.txtAtmos.Enabled ||
-               options.txtRH.Enabled || options.txtCorrFactor.Enabled);
+  EXPECT_FALSE(options.cboHumidityType.Enabled || options.txtAmbTemp.Enabled ||
+               options.txtAtmos.Enabled || options.txtRH.Enabled || options.txtCorrFactor.Enabled);
   EXPECT_EQ(options.lblRH.Caption(), "Relati&ve Humidity (%)");
   Act(options, "choose cboSpeedUnits KPH");
   EXPECT_EQ(options.txtmsConvFactor.Text(), "0.27778");
@@ -345,15 +359,16 @@ TEST_F(Options, LetTheFieldsOfThePowerGraphFollow) {
   Act(options, "choose cboSpeedUnits MPH\nclick chkPowerGraphGearSelection\nclick chkSAE");
   EXPECT_EQ(options.txtmsConvFactor.Text(), "0.44704");
   EXPECT_FALSE(options.cboSpeedUnits.Enabled || options.txtmsConvFactor.Enabled);
-  EXPECT_TRUE(options.cboHumidityType.Enabled && options.txtAmbTemp.Enabled && options.txtAtmos.Enabled &&
-              options.txtRH.Enabled && options.txtCorrFactor.Enabled);
+  EXPECT_TRUE(options.cboHumidityType.Enabled && options.txtAmbTemp.Enabled &&
+              options.txtAtmos.Enabled && options.txtRH.Enabled && options.txtCorrFactor.Enabled);
   Act(options, "type txtAmbTemp 25\ntype txtAtmos 100");
   EXPECT_EQ(options.txtCorrFactor.Text(), "1.007");
   Act(options, "type txtRH 0\ntype txtAtmos 99");
   EXPECT_EQ(options.txtCorrFactor.Text(), "1.000");
   Act(options, "choose cboHumidityType Wet Bulb");
   EXPECT_EQ(options.lblRH.Caption(), "Wet &Bulb Temp ('C)");
-  EXPECT_EQ(options.txtRH.ToolTip(), "Default environmental wet bulb temperature during Power Runs");
+  EXPECT_EQ(options.txtRH.ToolTip(),
+            "Default environmental wet bulb temperature during Power Runs");
 
   Settings own;
   own.gdblGearSpeedConvFactor = 0.5;
@@ -387,7 +402,8 @@ TEST_F(Options, FindASettingByCaptionKeyOrToolTip) {
     frmOptions& options = Open();
     Act(options, std::string("type txtFind ") + row.text);
     EXPECT_EQ(options.tabOptions.Selected(), row.page) << row.text;
-    EXPECT_EQ(options.ActiveControl() ? options.ActiveControl()->FullName() : "", row.control) << row.text;
+    EXPECT_EQ(options.ActiveControl() ? options.ActiveControl()->FullName() : "", row.control)
+        << row.text;
   }
   frmOptions& options = Open();
   options.txtFind.SetFocus();

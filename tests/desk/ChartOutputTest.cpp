@@ -47,9 +47,11 @@ TEST_F(ChartOutputTest, APageHasTitleDetailsAndPicture) {
 }
 
 TEST_F(ChartOutputTest, APictureIsNamedAfterTheLogAndGetsTheEndingOfTheChosenKind) {
-  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::File, "/out/a.svg"}, {Answer::Kind::File, "/out/b", 0, 3}};
+  host.answers = {
+      {Answer::Kind::Ok}, {Answer::Kind::File, "/out/a.svg"}, {Answer::Kind::File, "/out/b", 0, 3}};
   for (int i = 0; i < 3; ++i) output.SavePictureAs(chart, "/logs/run.1.txt");
-  EXPECT_EQ(host.pictures, (std::vector<std::string>{"/logs/run.1.png", "/out/a.svg", "/out/b.pdf"}));
+  EXPECT_EQ(host.pictures,
+            (std::vector<std::string>{"/logs/run.1.png", "/out/a.svg", "/out/b.pdf"}));
 }
 
 TEST_F(ChartOutputTest, AFailureIsToldAndLogged) {
@@ -58,7 +60,8 @@ TEST_F(ChartOutputTest, AFailureIsToldAndLogged) {
   output.SavePictureAs(chart, "/logs/run.txt");
   output.Print(chart, details);
   ASSERT_EQ(host.messages.size(), 2u);
-  EXPECT_EQ(host.messages[0].text, "Problem saving the picture /out/a.png.\r\n\r\nThe disk is full.");
+  EXPECT_EQ(host.messages[0].text,
+            "Problem saving the picture /out/a.png.\r\n\r\nThe disk is full.");
   EXPECT_EQ(host.messages[1].text, "Problem printing the graph.\r\n\r\nThe disk is full.");
   EXPECT_NE(std::string_view(files.Read("/car/error.log").value_or("")).find("The disk is full."),
             std::string_view::npos);

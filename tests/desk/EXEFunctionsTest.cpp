@@ -14,8 +14,9 @@ TEST(EXEFunctions, TellWhyADocumentDidNotOpen) {
   EXPECT_EQ(programs.ShellOpen("a.htm"), 33);
   EXPECT_TRUE(host.messages.empty());
 
-  for (const auto& [code, text] : {std::pair(2, "File not found"), std::pair(31, "No association for file extension"),
-                                   std::pair(0, "Unknown error"), std::pair(32, "DLL not found")}) {
+  for (const auto& [code, text] :
+       {std::pair(2, "File not found"), std::pair(31, "No association for file extension"),
+        std::pair(0, "Unknown error"), std::pair(32, "DLL not found")}) {
     processes.openCode = code;
     programs.ShellOpen("b.htm");
     EXPECT_EQ(host.messages.back().text, text);

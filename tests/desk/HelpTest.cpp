@@ -23,10 +23,13 @@ TEST_F(HelpTest, OpensTheManualAtATopic) {
   help.ShowHelp("GotoSample");
   const std::string& page = files.files["C:\\car\\Documentation\\HelpLauncher.htm"];
   EXPECT_NE(page.find("src=\"file://C:/car/Documentation/Contents.htm\""), page.npos);
-  EXPECT_NE(page.find("src=\"file://C:/car/Documentation/Instructions.htm#GotoSample\""), page.npos);
+  EXPECT_NE(page.find("src=\"file://C:/car/Documentation/Instructions.htm#GotoSample\""),
+            page.npos);
   help.ShowHelp("");
-  EXPECT_NE(files.files["C:\\car\\Documentation\\HelpLauncher.htm"].find("Instructions.htm\""), page.npos);
-  EXPECT_EQ(processes.opened, std::vector<std::string>(2, "C:\\car\\Documentation\\HelpLauncher.htm"));
+  EXPECT_NE(files.files["C:\\car\\Documentation\\HelpLauncher.htm"].find("Instructions.htm\""),
+            page.npos);
+  EXPECT_EQ(processes.opened,
+            std::vector<std::string>(2, "C:\\car\\Documentation\\HelpLauncher.htm"));
 }
 
 TEST_F(HelpTest, APathOfAnyCharactersIsNamedWhole) {
@@ -35,7 +38,8 @@ TEST_F(HelpTest, APathOfAnyCharactersIsNamedWhole) {
   files.files[folder + "Contents.htm"] = "";
   odd.ShowHelp("Keys");
   const std::string& page = files.files[folder + "HelpLauncher.htm"];
-  EXPECT_NE(page.find("\"file:///my%20%231%20caf%C3%A9%25/Instructions.htm#Keys\""), page.npos) << page;
+  EXPECT_NE(page.find("\"file:///my%20%231%20caf%C3%A9%25/Instructions.htm#Keys\""), page.npos)
+      << page;
 }
 
 TEST_F(HelpTest, AManualThatCannotBeWrittenToIsOpenedFromTheUsersFolder) {

@@ -29,6 +29,7 @@ TEST_F(MessagesTest, HaveTextAndStyle) {
     const char* text;
   };
   const Row rows[] = {
+      // clang-format off
       {4, 48, "Unable to load Conversion File.\rApplication default values will be used instead."},
       {8, 48,
        "Problem loading chip date - default assumed.\rWARNING: Before uploading zone data from this file\r"
@@ -46,6 +47,7 @@ TEST_F(MessagesTest, HaveTextAndStyle) {
       {0, 48, "Unknown error."},
       {49, 48, "Unknown error."},
       {102, 48, "Unknown error."},
+      // clang-format on
   };
   for (const Row& row : rows) {
     EXPECT_EQ(messages.Text(static_cast<Message>(row.id)), row.text);
@@ -54,9 +56,10 @@ TEST_F(MessagesTest, HaveTextAndStyle) {
 }
 
 TEST_F(MessagesTest, NameTheWrongKindOfFile) {
-  const std::pair<int, const char*> rows[] = {
-      {52, "FM Link Data Log"}, {53, "LinkPlus Data Log"}, {54, "Tec-2 Data Log"},   {55, "Tec-3 Data Log"},
-      {56, "FM Link MAP File"}, {59, "UTEC CSV Data Log"}, {60, "UTEC Fixed-Width "}};
+  const std::pair<int, const char*> rows[] = {{52, "FM Link Data Log"}, {53, "LinkPlus Data Log"},
+                                              {54, "Tec-2 Data Log"},   {55, "Tec-3 Data Log"},
+                                              {56, "FM Link MAP File"}, {59, "UTEC CSV Data Log"},
+                                              {60, "UTEC Fixed-Width "}};
   for (const auto& [id, name] : rows)
     EXPECT_EQ(messages.Text(static_cast<Message>(id)),
               std::string("That doesn't look like a ") + name +
@@ -69,7 +72,8 @@ TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgram) {
   EXPECT_EQ(host.messages[0].id, 79);
   EXPECT_EQ(host.messages[0].style, 48);
   EXPECT_EQ(host.messages[0].title, "Tarnview");
-  EXPECT_EQ(host.messages[0].text, "Universal data log definition file not found:\r\n\r\nC:\\x.def");
+  EXPECT_EQ(host.messages[0].text,
+            "Universal data log definition file not found:\r\n\r\nC:\\x.def");
 
   messages.ShowMessage(Message::FileNotLoaded, true);  // no window to show it: a box
   EXPECT_EQ(host.messages.size(), 2u);
@@ -89,7 +93,8 @@ TEST_F(MessagesTest, HaveLongDetailsCutWhereTheyAreShown) {
   EXPECT_EQ(box.TextWithin(kMostDetailsInBox), text + std::string(597, 'x') + "...");
   EXPECT_EQ(box.TextWithin(kMostDetailsTold), text + std::string(3997, 'x') + "...");
   EXPECT_EQ(box.text.size(), text.size() + 5000);
-  EXPECT_EQ((Box{0, std::string(700, 'y'), kBoxOk, ""}.TextWithin(kMostDetailsInBox)), std::string(700, 'y'));
+  EXPECT_EQ((Box{0, std::string(700, 'y'), kBoxOk, ""}.TextWithin(kMostDetailsInBox)),
+            std::string(700, 'y'));
 }
 
 TEST_F(MessagesTest, AskQuestions) {
@@ -101,10 +106,11 @@ TEST_F(MessagesTest, AskQuestions) {
   EXPECT_EQ(host.messages[0].style, 36);
   EXPECT_EQ(host.messages[0].id, 0);
   EXPECT_EQ(host.messages[1].style, 292);
-  EXPECT_EQ(
-      host.messages[1].text,
-      "The preset graph definition you are loading is for a different Log Family than that\r\ncurrently selected, "
-      "and may contain data items that are not relevant.\r\n\r\nAre you sure you want to continue?");
+  EXPECT_EQ(host.messages[1].text,
+            "The preset graph definition you are loading is for a different Log Family than "
+            "that\r\ncurrently selected, "
+            "and may contain data items that are not relevant.\r\n\r\nAre you sure you want to "
+            "continue?");
   EXPECT_EQ(host.messages[2].text, "Do you want to proceed?");
 }
 

@@ -11,11 +11,13 @@ TEST(PageLayoutTest, APictureFillsTheWidthOrTheHeightAndKeepsItsShape) {
     double pageWidth, pageHeight, top, width, height;
     PageRect place;
   } rows[] = {
+      // clang-format off
       {12240, 15840, 3000, 1400, 700, {720, 3000, 10800, 5400}},   // wide, on a portrait page: the width
       {15840, 12240, 3520, 1000, 1000, {3920, 3520, 8000, 8000}},  // on a landscape page: the height
       {12240, 15840, 3000, 3, 1.5, {720, 3000, 10800, 5400}},      // in another unit
       {1440, 15840, 3000, 1400, 700, {}},                          // no room between the margins
       {12240, 15840, 15120, 1400, 700, {}},                        // nor above the lower one
+      // clang-format on
   };
   for (const auto& row : rows) {
     const PageRect at = PicturePlace(row.pageWidth, row.pageHeight, row.top, row.width, row.height);
@@ -28,7 +30,8 @@ TEST(PageLayoutTest, APictureFillsTheWidthOrTheHeightAndKeepsItsShape) {
 
 TEST(PageLayoutTest, LabelsEndWhereValuesBeginAndTheBlockStandsInTheMiddle) {
   const RecordingPage page;  // a letter of 10 points is 100 twips wide, one of 24 is 240
-  const PageLayout layout = LayOutPage(page, "Title", {{"File", "a.txt"}, {"Range", "1 to 9"}, {"", "2"}}, 0.5);
+  const PageLayout layout =
+      LayOutPage(page, "Title", {{"File", "a.txt"}, {"Range", "1 to 9"}, {"", "2"}}, 0.5);
   ASSERT_EQ(layout.texts.size(), 6u);
   EXPECT_DOUBLE_EQ(layout.texts[0].left, (12240 - 5 * 240) / 2.0);
   EXPECT_EQ(layout.texts[0].points, 24);
@@ -44,9 +47,11 @@ TEST(PageLayoutTest, LabelsEndWhereValuesBeginAndTheBlockStandsInTheMiddle) {
   for (std::size_t i = 0; i < std::size(rows); ++i) {
     EXPECT_EQ(layout.texts[i + 1].text, rows[i].text);
     EXPECT_DOUBLE_EQ(layout.texts[i + 1].left, rows[i].left) << rows[i].text;
-    EXPECT_DOUBLE_EQ(layout.texts[i + 1].top, layout.texts[1].top + 200 * rows[i].line) << rows[i].text;
+    EXPECT_DOUBLE_EQ(layout.texts[i + 1].top, layout.texts[1].top + 200 * rows[i].line)
+        << rows[i].text;
   }
-  EXPECT_DOUBLE_EQ(layout.picture.top, layout.texts.back().top + 200 + 120) << "a line of 6 points lies between";
+  EXPECT_DOUBLE_EQ(layout.picture.top, layout.texts.back().top + 200 + 120)
+      << "a line of 6 points lies between";
 }
 
 TEST(PageLayoutTest, AValueThatIsTooLongGoesOnInTheNextLineBehindASeparator) {
@@ -61,7 +66,9 @@ TEST(PageLayoutTest, AValueThatIsTooLongGoesOnInTheNextLineBehindASeparator) {
 
 TEST(PageLayoutTest, ManyDetailsGetSmallerAndNeverTakeThePicturesHalf) {
   const RecordingPage page;
-  const auto laid = [&](std::size_t count) { return LayOutPage(page, "T", DetailRows(count, {"", "x"}), 0.5); };
+  const auto laid = [&](std::size_t count) {
+    return LayOutPage(page, "T", DetailRows(count, {"", "x"}), 0.5);
+  };
   EXPECT_EQ(laid(30).texts.back().points, 10);
   EXPECT_EQ(laid(40).texts.back().points, 8);
   EXPECT_EQ(laid(2000).texts.back().points, 6);

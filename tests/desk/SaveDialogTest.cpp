@@ -8,7 +8,9 @@ namespace {
 
 TEST(SaveDialog, ComesAgainUntilTheFileMayBeWritten) {
   RecordingHost host;
-  host.WhyNotSave = [](const std::string& path) { return path == "/log.txt" ? "Not this one:" : ""; };
+  host.WhyNotSave = [](const std::string& path) {
+    return path == "/log.txt" ? "Not this one:" : "";
+  };
   host.answers = {{Answer::Kind::File, "/log"}, {}, {Answer::Kind::File, "/other"}};
   Dialog dialog;
   EXPECT_TRUE(ChooseFileToSave(host, dialog, [](Dialog& chosen) { chosen.path += ".txt"; }));

@@ -12,8 +12,9 @@ class CaptureTest : public EcuTest, public Capture::MainWindow {
       files.files["/link/miata.dat"] = "binary";
       files.files["/link/miata.map"] = "zones";
     });
-    ProgramDoes("C.exe",
-                [this] { files.files["/mdos/miatatmp.txt"] = "text of " + files.files["/mdos/miatatmp.bin"]; });
+    ProgramDoes("C.exe", [this] {
+      files.files["/mdos/miatatmp.txt"] = "text of " + files.files["/mdos/miatatmp.bin"];
+    });
   }
 
   bool SaveChangesPrompt() override {
@@ -50,9 +51,11 @@ TEST_F(CaptureTest, OfALogGoesThroughTheConverter) {
             "run /mdos/C.exe in /mdos/\n");
   EXPECT_EQ(files.files["/logs/run.txt"], "text of binary");
   EXPECT_EQ(files.files["/logs/run.bin"], "binary");
-  EXPECT_EQ(files.files["/link/NewDataLogDescription.txt"], "[General]\r\nPath and Filename=/logs/run.txt\r\n");
+  EXPECT_EQ(files.files["/link/NewDataLogDescription.txt"],
+            "[General]\r\nPath and Filename=/logs/run.txt\r\n");
   EXPECT_EQ(FileNames(),
-            "/link/L.exe /link/NewDataLogDescription.txt /link/miata.dat /link/miata.map /logs/old.txt /logs/run.bin "
+            "/link/L.exe /link/NewDataLogDescription.txt /link/miata.dat /link/miata.map "
+            "/logs/old.txt /logs/run.bin "
             "/logs/run.txt /mdos/C.exe /mdos/miatatmp.bin /mdos/miatatmp.txt ");
 }
 
@@ -90,9 +93,9 @@ TEST_F(CaptureTest, IsRefusedBeforeAnythingIsTouched) {
     std::string Settings::*setting;
     const char* told;
   };
-  for (const Row& row :
-       {Row{&Settings::gstrLogEXE, "prompt\nbox 6 [64]\n"}, Row{&Settings::gstrConversionEXE, "prompt\nbox 11 [64]\n"},
-        Row{&Settings::gstrDefaultWorkingDirectory, "prompt\nbox 32 [48]\n"}})
+  for (const Row& row : {Row{&Settings::gstrLogEXE, "prompt\nbox 6 [64]\n"},
+                         Row{&Settings::gstrConversionEXE, "prompt\nbox 11 [64]\n"},
+                         Row{&Settings::gstrDefaultWorkingDirectory, "prompt\nbox 32 [48]\n"}})
     for (const char* value : {"", "/nowhere/x"}) {
       const std::string good = std::exchange(settings.*row.setting, value);
       EXPECT_EQ(Run(), row.told) << value;
@@ -102,14 +105,16 @@ TEST_F(CaptureTest, IsRefusedBeforeAnythingIsTouched) {
   EXPECT_EQ(Run(), "prompt\nwindow frmNewDownload\n");
   processes.anyLeftAlone = true;
   EXPECT_EQ(Run(),
-            "prompt\nbox A program that was left alone is still running.\r\nWait until it has ended, then try again. "
+            "prompt\nbox A program that was left alone is still running.\r\nWait until it has "
+            "ended, then try again. "
             "[48]\n");
   EXPECT_EQ(FileNames(), before);
 }
 
 TEST_F(CaptureTest, EndsAtTheStepThatFails) {
   const std::string upTo = "prompt\nwindow frmNewDownload\nclose\n";
-  const std::string logger = "run /link/L.exe -t in /link/\n", converter = "run /mdos/C.exe in /mdos/\n";
+  const std::string logger = "run /link/L.exe -t in /link/\n",
+                    converter = "run /mdos/C.exe in /mdos/\n";
   settings.gblnRetainBinary = false;
   processes.exitCodes = {-22};
   EXPECT_EQ(Run(), upTo + "box Error opening comm port., -22 [48]\n" + logger);
@@ -132,13 +137,15 @@ TEST_F(CaptureTest, EndsAtTheStepThatFails) {
   EXPECT_EQ(Run(), upTo + "load /logs/run.txt 1\n" + logger + converter);
 
   files.broken = {"/logs/run.txt"};
-  EXPECT_EQ(Run(), upTo + "box File already exists.  Overwrite? [36]\n" + "box 38 [48]\n" + logger + converter)
+  EXPECT_EQ(Run(), upTo + "box File already exists.  Overwrite? [36]\n" + "box 38 [48]\n" + logger +
+                       converter)
       << "with the default answer, Yes";
 }
 
 TEST_F(CaptureTest, LosesNothingWhereTheProgramDoesNotStart) {
-  for (const char* name : {"/link/miata.dat", "/link/miata.map", "/mdos/miatatmp.bin", "/mdos/miatatmp.txt",
-                           "/mdos/miata.dat", "/link/miatatmp.txt", "/logs/run.txt"})
+  for (const char* name :
+       {"/link/miata.dat", "/link/miata.map", "/mdos/miatatmp.bin", "/mdos/miatatmp.txt",
+        "/mdos/miata.dat", "/link/miatatmp.txt", "/logs/run.txt"})
     files.files[name] = name;
   const auto before = files.files;
   processes.trouble = "Permission denied";
@@ -163,10 +170,11 @@ TEST_F(CaptureTest, LosesNothingWhereTheProgramDoesNotStart) {
 
 TEST_F(CaptureTest, EndsWhereTheUserStopsWaiting) {
   host.answers = {{Answer::Kind::Stop}};
-  EXPECT_EQ(Run(),
-            "prompt\nwindow frmNewDownload\nclose\n"
-            "box L.exe was left alone and may still be at work, so nothing is known of its result. [48]\n"
-            "run /link/L.exe -t in /link/\n");
+  EXPECT_EQ(
+      Run(),
+      "prompt\nwindow frmNewDownload\nclose\n"
+      "box L.exe was left alone and may still be at work, so nothing is known of its result. [48]\n"
+      "run /link/L.exe -t in /link/\n");
   EXPECT_EQ(host.waits, std::vector<std::string>{"L.exe"});
 }
 

@@ -15,9 +15,12 @@ Settings OwnPrograms(const std::string& port) {
 
 TEST(CommandLines, OfACapture) {
   EXPECT_EQ(CaptureCall(OwnPrograms("1"), NewFileType::DataLog).Text(), "C:\\My Link\\L.exe -t");
-  EXPECT_EQ(CaptureCall(OwnPrograms("4"), NewFileType::DataLog).Text(), "C:\\My Link\\L.exe -p 4 -t");
-  EXPECT_EQ(CaptureCall(OwnPrograms("1"), NewFileType::ZoneSettings).Text(), "C:\\My Link\\L.exe -m -t");
-  EXPECT_EQ(CaptureCall(OwnPrograms("9"), NewFileType::ZoneSettings).Text(), "C:\\My Link\\L.exe -m -p 9 -t");
+  EXPECT_EQ(CaptureCall(OwnPrograms("4"), NewFileType::DataLog).Text(),
+            "C:\\My Link\\L.exe -p 4 -t");
+  EXPECT_EQ(CaptureCall(OwnPrograms("1"), NewFileType::ZoneSettings).Text(),
+            "C:\\My Link\\L.exe -m -t");
+  EXPECT_EQ(CaptureCall(OwnPrograms("9"), NewFileType::ZoneSettings).Text(),
+            "C:\\My Link\\L.exe -m -p 9 -t");
 }
 
 TEST(CommandLines, OfAConversionAreThePathAlone) {
@@ -31,6 +34,7 @@ TEST(CommandLines, OfAnUpload) {
     const char* arguments;
   };
   const Row rows[] = {
+      // clang-format off
       {{}, "1", " -q -f TVW.map"},
       {{.blnPermanentlyStore = true}, "1", " -q -s -f TVW.map"},
       {{.blnVerify = true}, "1", " -q -c -f TVW.map"},
@@ -41,6 +45,7 @@ TEST(CommandLines, OfAnUpload) {
       {{.blnVerbose = true}, "1", " -q -v -f TVW.map"},
       {{.blnChangesOnly = true, .strComparisonFile = "/a.map"}, "1", " -q -f TVW.map"},
       {{true, true, true, true, "", AutoTuneMode::FineNoIdle}, "3", " -q -s -c -p 3 -a fine_no_idle -v -f TVW.map"},
+      // clang-format on
   };
   for (const Row& row : rows) {
     const ProgramCall call = UploadCall(OwnPrograms(row.port), row.options);

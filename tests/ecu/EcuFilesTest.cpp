@@ -23,8 +23,10 @@ TEST(EcuFiles, LieBesideTheirPrograms) {
 }
 
 TEST(EcuFiles, HoldRecords) {
-  EXPECT_EQ(NewDataLogDescription("C:\\Logs\\a.txt"), "[General]\r\nPath and Filename=C:\\Logs\\a.txt\r\n");
-  EXPECT_EQ(UploadCommandRecord({"C:\\L.exe", " -q"}), "Tarnview Upload Command File\r\n\r\nC:\\L.exe -q\r\n");
+  EXPECT_EQ(NewDataLogDescription("C:\\Logs\\a.txt"),
+            "[General]\r\nPath and Filename=C:\\Logs\\a.txt\r\n");
+  EXPECT_EQ(UploadCommandRecord({"C:\\L.exe", " -q"}),
+            "Tarnview Upload Command File\r\n\r\nC:\\L.exe -q\r\n");
 }
 
 TEST(ExitCodes, HaveTheirTexts) {

@@ -16,8 +16,8 @@
 
 namespace tarnview {
 
-/// A program whose ECU programs lie in /link/L.exe and /mdos/C.exe and whose logs lie in /logs, before a desktop that
-/// writes down what is told.
+/// A program whose ECU programs lie in /link/L.exe and /mdos/C.exe and whose logs lie in /logs,
+/// before a desktop that writes down what is told.
 class EcuTest : public ::testing::Test {
  protected:
   EcuTest() {
@@ -40,15 +40,18 @@ class EcuTest : public ::testing::Test {
     users[window] = [actions](Form& form) { Act(form, actions); };
   }
   /// What a program does, by the name of its file.
-  void ProgramDoes(const std::string& name, std::function<void()> does) { programs_[name] = std::move(does); }
+  void ProgramDoes(const std::string& name, std::function<void()> does) {
+    programs_[name] = std::move(does);
+  }
 
-  /// All that happened, in its order by kind, and forgets it: windows and what the main window was asked for, boxes,
-  /// command lines with their folders.
+  /// All that happened, in its order by kind, and forgets it: windows and what the main window was
+  /// asked for, boxes, command lines with their folders.
   std::string Told() {
     std::string text = std::move(told);
     told.clear();
     for (const Box& box : host.messages)
-      text += "box " + (box.id ? std::to_string(box.id) : box.text) + " [" + std::to_string(box.style) + "]\n";
+      text += "box " + (box.id ? std::to_string(box.id) : box.text) + " [" +
+              std::to_string(box.style) + "]\n";
     host.messages.clear();
     for (std::size_t run = 0; run < processes.commands.size(); ++run)
       text += "run " + processes.commands[run] + " in " + processes.folders[run] + "\n";

@@ -37,7 +37,9 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
   }
   ~RealPrograms() override { fs::remove_all(folder); }
 
-  void Put(const std::string& name, const std::string& text) { std::ofstream(folder / name, std::ios::binary) << text; }
+  void Put(const std::string& name, const std::string& text) {
+    std::ofstream(folder / name, std::ios::binary) << text;
+  }
   std::string Get(const std::string& name) const {
     std::ostringstream text;
     text << std::ifstream(folder / name, std::ios::binary).rdbuf();
@@ -61,8 +63,9 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
   ComparisonChoices ChoicesForComparison() override { return {}; }
   std::optional<ZoneMap> LoadComparison(const std::string&) override { return std::nullopt; }
 
-  const fs::path folder = fs::temp_directory_path() /
-                          ("road-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+  const fs::path folder =
+      fs::temp_directory_path() /
+      ("road-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
   RecordingHost host;
   RealFileSystem files;
   FixedClock clock;
@@ -85,7 +88,8 @@ TEST_F(RealPrograms, CaptureALogThroughTheConverter) {
   EXPECT_EQ(loaded, "run.txt");
   EXPECT_EQ(Get("logs/run.txt"), "samples");
   EXPECT_EQ(Get("logs/run.bin"), "samples");
-  EXPECT_EQ(Get("my link/words.txt"), settings.gstrLogEXE + "|-p|3|-t|") << "the path is one word, blank and all";
+  EXPECT_EQ(Get("my link/words.txt"), settings.gstrLogEXE + "|-p|3|-t|")
+      << "the path is one word, blank and all";
   EXPECT_EQ(fs::current_path(), before);
 }
 
@@ -121,7 +125,8 @@ TEST_F(RealPrograms, TellOfEachWayInWhichACaptureFails) {
   Put("mdos/C.exe.script", "half miatatmp.txt text\nexit 7\n");
   Capture(world, *this).Run();
   EXPECT_EQ(Boxes(), "");
-  EXPECT_EQ(loaded + " " + Get("logs/run.txt"), "run.txt te") << "the loader says what it thinks of half a log";
+  EXPECT_EQ(loaded + " " + Get("logs/run.txt"), "run.txt te")
+      << "the loader says what it thinks of half a log";
 }
 
 TEST_F(RealPrograms, ThatDoNotStartLoseNothing) {
@@ -138,9 +143,12 @@ TEST_F(RealPrograms, AreLeftAloneAndKeepTheEcuToThemselves) {
   Put("my link/L.exe.script", "wait go\n");
   host.answers = {{Answer::Kind::Stop}};
   Capture(world, *this).Run();
-  EXPECT_EQ(Boxes(), "L.exe was left alone and may still be at work, so nothing is known of its result.\n");
+  EXPECT_EQ(Boxes(),
+            "L.exe was left alone and may still be at work, so nothing is known of its result.\n");
   Upload(world, *this).Run({});
-  EXPECT_EQ(Boxes(), "A program that was left alone is still running.\r\nWait until it has ended, then try again.\n");
+  EXPECT_EQ(Boxes(),
+            "A program that was left alone is still running.\r\nWait until it has ended, then try "
+            "again.\n");
   Put("my link/go", "");
   while (processes.IsAnyLeftAlone()) std::this_thread::sleep_for(std::chrono::milliseconds(5));
 }
@@ -155,8 +163,9 @@ TEST_F(RealPrograms, TakeAnUploadAndSayHowItWent) {
   EXPECT_EQ(Get("logs/Uploads/TVW 2026-11-24 14-05-09.map"), Get("my link/sent.map"));
 
   // Each exit code is told, and the user may try again.
-  for (const auto& [code, text] : {std::pair{231, "Zone map verification failed., -25\n"},
-                                   std::pair{218, "Unknown Error, -38\n"}, std::pair{1, "Unknown Error, 1\n"}}) {
+  for (const auto& [code, text] :
+       {std::pair{231, "Zone map verification failed., -25\n"},
+        std::pair{218, "Unknown Error, -38\n"}, std::pair{1, "Unknown Error, 1\n"}}) {
     Put("my link/L.exe.script", "exit " + std::to_string(code) + "\n");
     tries = 2;
     Upload(world, *this).Run(form);

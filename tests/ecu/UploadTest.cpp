@@ -15,12 +15,15 @@ class UploadTest : public EcuTest, public Upload::Editor {
     settings.gintDefaultAtmosphericPressure = 98;
     form.dblEngineSize = 1.8;
     form.datChipDate = settings.gdatDefaultChipDate;
-    for (std::size_t n = 0; n < form.zones.size(); ++n) form.zones[n] = static_cast<std::int16_t>(n);
+    for (std::size_t n = 0; n < form.zones.size(); ++n)
+      form.zones[n] = static_cast<std::int16_t>(n);
     User("frmUpload", "click cmdOK");
     User("frmUploadConf", "click cmdYes");
   }
 
-  ComparisonChoices ChoicesForComparison() override { return {{"/logs/a.txt", "/logs/b.map"}, "filter"}; }
+  ComparisonChoices ChoicesForComparison() override {
+    return {{"/logs/a.txt", "/logs/b.map"}, "filter"};
+  }
   std::optional<ZoneMap> LoadComparison(const std::string& path) override {
     told += "compare " + path + "\n";
     return comparison;
@@ -48,9 +51,11 @@ class UploadTest : public EcuTest, public Upload::Editor {
 TEST_F(UploadTest, OfEverythingWritesTheMapBesideTheProgram) {
   EXPECT_EQ(Run(), windows + run);
   const std::string map = files.files["/link/TVW.map"];
-  EXPECT_EQ(map.substr(0, map.find(" 000")), " Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n");
+  EXPECT_EQ(map.substr(0, map.find(" 000")),
+            " Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n");
   EXPECT_EQ(map.substr(map.find(" Engine")),
-            " Engine Size: 1.8\r\n Chip Date: 2003-06-09\r\n Chip Version: 0\r\n Atmospheric Pressure: 098\r\n"
+            " Engine Size: 1.8\r\n Chip Date: 2003-06-09\r\n Chip Version: 0\r\n Atmospheric "
+            "Pressure: 098\r\n"
             " Notes:\r\n\r\n End Of Notes\r\n");
   EXPECT_EQ(LeftAlone(), "z720 ");
   EXPECT_EQ(files.files["/link/vstrUploadCommand.txt"],
@@ -61,7 +66,8 @@ TEST_F(UploadTest, OfEverythingWritesTheMapBesideTheProgram) {
 TEST_F(UploadTest, TakesTheOptionsOfItsWindow) {
   settings.gstrSerialComPort = "3";
   User("frmUpload",
-       "click chkOption(0)\nclick chkOption(1)\nclick chkOption(3)\nchoose cboAutoTune Fine With Idle\nclick cmdOK");
+       "click chkOption(0)\nclick chkOption(1)\nclick chkOption(3)\nchoose cboAutoTune Fine With "
+       "Idle\nclick cmdOK");
   EXPECT_EQ(Run(), windows + "run /link/L.exe -q -p 3 -a fine_with_idle -v -f TVW.map in /link/\n");
 }
 
@@ -78,7 +84,8 @@ TEST_F(UploadTest, IsRefusedBeforeAnythingIsTouched) {
   EXPECT_EQ(Run(), "window frmUpload\n");
   processes.anyLeftAlone = true;
   EXPECT_EQ(Run(),
-            "box A program that was left alone is still running.\r\nWait until it has ended, then try again. [48]\n");
+            "box A program that was left alone is still running.\r\nWait until it has ended, then "
+            "try again. [48]\n");
   EXPECT_EQ(files.files, before);
 }
 
@@ -88,23 +95,27 @@ TEST_F(UploadTest, OfChangesMeasuresAgainstTheComparison) {
   EXPECT_EQ(LeftAlone(), "z720 ");
 
   files.files["/logs/b.map"] = "";
-  EXPECT_EQ(Run(), "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 22 [48]\n" + run);
+  EXPECT_EQ(Run(),
+            "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 22 [48]\n" + run);
   EXPECT_EQ(LeftAlone(), "z720 ");
 
   comparison.emplace();
   comparison->zones = form.zones;
   comparison->zones[1] = 99;
   comparison->zones[255] = -1;
-  for (const auto& chip : {ChipIdentity{1.6, settings.gdatDefaultChipDate, 2},
-                           ChipIdentity{1.8, MakeDate(2003, 6, 8), 2}, ChipIdentity{1.8, MakeDate(2003, 6, 10), 2}}) {
+  for (const auto& chip :
+       {ChipIdentity{1.6, settings.gdatDefaultChipDate, 2},
+        ChipIdentity{1.8, MakeDate(2003, 6, 8), 2}, ChipIdentity{1.8, MakeDate(2003, 6, 10), 2}}) {
     comparison->chip = chip;
-    EXPECT_EQ(Run(), "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 21 [48]\n" + run);
+    EXPECT_EQ(Run(),
+              "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 21 [48]\n" + run);
     EXPECT_EQ(LeftAlone(), "z720 ");
   }
   comparison->chip = {1.8, settings.gdatDefaultChipDate, 1};
   EXPECT_EQ(Run(), "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\n" + run);
   const MapReading sent = ParseMap(files.files["/link/TVW.map"], settings, true);
-  for (std::size_t n = 0; n < 256; ++n) EXPECT_EQ(sent.map.zones[n], n == 1 || n == 255 ? static_cast<int>(n) : -1);
+  for (std::size_t n = 0; n < 256; ++n)
+    EXPECT_EQ(sent.map.zones[n], n == 1 || n == 255 ? static_cast<int>(n) : -1);
 }
 
 TEST_F(UploadTest, LeavesTheAirAloneBetweenOldAndNewChips) {
@@ -115,29 +126,35 @@ TEST_F(UploadTest, LeavesTheAirAloneBetweenOldAndNewChips) {
 
 TEST_F(UploadTest, TellsWhereTheMapCannotBeWritten) {
   files.broken = {"/link/TVW.map"};
-  EXPECT_EQ(Run(), "window frmUpload\nbox Problem creating temporary MAP file (/link/TVW.map). [48]\n");
+  EXPECT_EQ(Run(),
+            "window frmUpload\nbox Problem creating temporary MAP file (/link/TVW.map). [48]\n");
 }
 
 TEST_F(UploadTest, IsOfferedAgainUntilItGoesWellOrTheUserHasEnough) {
   processes.exitCodes = {-25, -38, 0};
-  EXPECT_EQ(Run(), windows +
-                       "window frmUploadConf\nwindow frmUploadConf\n"
-                       "box Zone map verification failed., -25 [48]\nbox Unknown Error, -38 [48]\n" +
-                       run + run + run);
+  EXPECT_EQ(Run(),
+            windows +
+                "window frmUploadConf\nwindow frmUploadConf\n"
+                "box Zone map verification failed., -25 [48]\nbox Unknown Error, -38 [48]\n" +
+                run + run + run);
   EXPECT_EQ(files.List("/logs/Uploads/", "*").size(), 1u) << "the same map, sent three times";
 
   processes.trouble = "Permission denied";
   int asked = 0;
-  users["frmUploadConf"] = [&](Form& window) { Act(window, ++asked < 3 ? "click cmdYes" : "click cmdNo"); };
+  users["frmUploadConf"] = [&](Form& window) {
+    Act(window, ++asked < 3 ? "click cmdYes" : "click cmdNo");
+  };
   const std::string refused = "box L.exe could not be started:\r\nPermission denied [48]\n";
-  EXPECT_EQ(Run(), windows + "window frmUploadConf\nwindow frmUploadConf\n" + refused + refused + run + run);
+  EXPECT_EQ(Run(), windows + "window frmUploadConf\nwindow frmUploadConf\n" + refused + refused +
+                       run + run);
 }
 
 TEST_F(UploadTest, IsNotOfferedAgainWhileTheProgramMayBeAtIt) {
   host.answers = {{Answer::Kind::Stop}};
-  EXPECT_EQ(
-      Run(),
-      windows + "box L.exe was left alone and may still be at work, so nothing is known of its result. [48]\n" + run);
+  EXPECT_EQ(Run(), windows +
+                       "box L.exe was left alone and may still be at work, so nothing is known of "
+                       "its result. [48]\n" +
+                       run);
 }
 
 TEST_F(UploadTest, IsNotSentWithoutAYes) {
@@ -152,7 +169,8 @@ TEST_F(UploadTest, IsNotSentWithoutAYes) {
 TEST_F(UploadTest, KeepsTheLastFiftyMaps) {
   const std::string uploads = "/logs/Uploads/";
   files.files[uploads + "mine.map"] = files.files[uploads + "TVW.map"] = "mine";
-  for (int n = 0; n < 50; ++n) files.files[uploads + "TVW 2025-01-01 00-00-" + std::to_string(10 + n) + ".map"] = "old";
+  for (int n = 0; n < 50; ++n)
+    files.files[uploads + "TVW 2025-01-01 00-00-" + std::to_string(10 + n) + ".map"] = "old";
   Run();
   Run();
   EXPECT_EQ(files.List(uploads, "TVW 2025*").size(), 48u);
@@ -163,11 +181,13 @@ TEST_F(UploadTest, KeepsTheLastFiftyMaps) {
   EXPECT_TRUE(files.files.contains(uploads + "TVW.map"));
 
   files.failWrites = true;
-  EXPECT_EQ(Run(), "window frmUpload\nbox Problem creating temporary MAP file (/link/TVW.map). [48]\n");
+  EXPECT_EQ(Run(),
+            "window frmUpload\nbox Problem creating temporary MAP file (/link/TVW.map). [48]\n");
   files.failWrites = false;
   settings.gstrDefaultWorkingDirectory = "/nowhere";
   files.broken = {"/nowhere/Uploads/"};
-  EXPECT_EQ(Run(), windows + "box No copy of the map could be kept in:\r\n/nowhere/Uploads [48]\n" + run);
+  EXPECT_EQ(Run(),
+            windows + "box No copy of the map could be kept in:\r\n/nowhere/Uploads [48]\n" + run);
 }
 
 TEST_F(UploadTest, EnablesTheComparisonWithItsBox) {
@@ -177,14 +197,16 @@ TEST_F(UploadTest, EnablesTheComparisonWithItsBox) {
   EXPECT_FALSE(chosen.blnPermanentlyStore);
   EXPECT_TRUE(chosen.blnVerify && chosen.blnChangesOnly && chosen.blnVerbose);
   EXPECT_EQ(chosen.autoTune, AutoTuneMode::None);
-  EXPECT_TRUE(window.txtCCF.Enabled && window.lstCCF.Enabled && window.cmdCCF.Enabled && window.lblCCF.Enabled);
+  EXPECT_TRUE(window.txtCCF.Enabled && window.lstCCF.Enabled && window.cmdCCF.Enabled &&
+              window.lblCCF.Enabled);
   window.Show();
   host.answers = {{Answer::Kind::File, "/logs/c.map"}};
   Act(window, "click cmdCCF");
   EXPECT_EQ(window.txtCCF.Text(), "/logs/c.map");
   Act(window, "choose lstCCF #0\nclick chkOption(2)");
   EXPECT_EQ(window.txtCCF.Text(), "/logs/a.txt");
-  EXPECT_FALSE(window.txtCCF.Enabled || window.lstCCF.Enabled || window.cmdCCF.Enabled || window.lblCCF.Enabled);
+  EXPECT_FALSE(window.txtCCF.Enabled || window.lstCCF.Enabled || window.cmdCCF.Enabled ||
+               window.lblCCF.Enabled);
 }
 
 TEST_F(UploadTest, ConfirmsWithTheUsersOwnChip) {

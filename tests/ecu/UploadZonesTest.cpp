@@ -16,7 +16,8 @@ std::string LeftAlone(const ZoneSettings& zones) {
 
 ZoneSettings Counting() {
   ZoneSettings zones{};
-  for (std::size_t index = 0; index < zones.size(); ++index) zones[index] = static_cast<std::int16_t>(index);
+  for (std::size_t index = 0; index < zones.size(); ++index)
+    zones[index] = static_cast<std::int16_t>(index);
   return zones;
 }
 
@@ -33,7 +34,8 @@ TEST(UploadZones, OfChangesAreThoseThatDiffer) {
 }
 
 TEST(UploadZones, LeaveTheAirAloneBetweenOldAndNewChips) {
-  const Date before = MakeDate(2001, 2, 28), from = MakeDate(2001, 3, 1), later = MakeDate(2004, 1, 1);
+  const Date before = MakeDate(2001, 2, 28), from = MakeDate(2001, 3, 1),
+             later = MakeDate(2004, 1, 1);
   EXPECT_TRUE(AirZonesFit(from, later));
   EXPECT_TRUE(AirZonesFit(before, before - 400));
   EXPECT_FALSE(AirZonesFit(before, from));

@@ -9,8 +9,9 @@ class ConvertBIN : public EcuTest {
   ConvertBIN() {
     files.files["/logs/run.bin"] = "binary";
     files.files["/logs/RUN.DAT"] = "other";
-    ProgramDoes("C.exe",
-                [this] { files.files["/mdos/miatatmp.txt"] = "text of " + files.files["/mdos/miatatmp.bin"]; });
+    ProgramDoes("C.exe", [this] {
+      files.files["/mdos/miatatmp.txt"] = "text of " + files.files["/mdos/miatatmp.bin"];
+    });
   }
   const std::string good = "type txtPath(0) /logs/run.bin\ntype txtPath(1) /logs/run\n";
 };
@@ -96,7 +97,8 @@ TEST_F(ConvertBIN, KeepsWhatItCannotReplace) {
   processes.trouble.clear();
   ProgramDoes("C.exe", [] {});
   Act(window, "click cmdOK");
-  EXPECT_EQ(Told(), "box File already exists.  Overwrite? [36]\nbox 25 [48]\nrun /mdos/C.exe in /mdos/\n");
+  EXPECT_EQ(Told(),
+            "box File already exists.  Overwrite? [36]\nbox 25 [48]\nrun /mdos/C.exe in /mdos/\n");
   EXPECT_FALSE(window.IsShown());
   EXPECT_EQ(window.TargetPath(), "");
   EXPECT_FALSE(files.files.contains("/logs/run.txt"));
@@ -121,7 +123,9 @@ TEST_F(ConvertBIN, ConvertsWhatLiesAmongTheLeftovers) {
 TEST_F(ConvertBIN, BrowsesForBoth) {
   frmConvertBIN window(world, "/logs/a.txt");
   window.Show();
-  host.answers = {{Answer::Kind::File, "/logs/run.bin"}, {Answer::Kind::Cancel}, {Answer::Kind::File, "/logs/b"}};
+  host.answers = {{Answer::Kind::File, "/logs/run.bin"},
+                  {Answer::Kind::Cancel},
+                  {Answer::Kind::File, "/logs/b"}};
   Act(window, "click cmdBrowse(0)\nclick cmdBrowse(1)\nclick cmdBrowse(1)");
   EXPECT_EQ(window.txtPath(0).Text(), "/logs/run.bin");
   EXPECT_EQ(window.txtPath(1).Text(), "/logs/b");

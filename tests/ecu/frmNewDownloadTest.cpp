@@ -14,6 +14,7 @@ TEST_F(NewDownload, BringsTheNameIntoItsForm) {
     const char* told;
   };
   const Row rows[] = {
+      // clang-format off
       {"type txtFileName run", "run.txt", true, true, ""},
       {"type txtFileName C:\\Logs\\run.dat", "run.txt", true, true, ""},
       {"type txtFileName /logs/a.b.map", "a.b.txt", true, true, ""},
@@ -28,6 +29,7 @@ TEST_F(NewDownload, BringsTheNameIntoItsForm) {
       {"type txtFileName old\nclick cmdOK", "old.txt", true, true, "box File already exists.  Overwrite? [36]\n"},
       {"type txtFileName new\nclick cmdOK", "new.txt", true, false, ""},
       {"type txtFileName new\nclick chkRetainBIN\nclick cmdCancel", "new.txt", true, false, ""},
+      // clang-format on
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.actions);

@@ -16,9 +16,11 @@ TEST(ByteMarks, BothWaysMarkTheSameBytes) {
   std::mt19937 random(3);
   for (int n = 0; n < 2000; ++n) {
     char bytes[kMarkedBytes];
-    for (char& byte : bytes) byte = static_cast<char>(random() % 3 ? ',' + random() % 3 - 1 : random() % 256);
+    for (char& byte : bytes)
+      byte = static_cast<char>(random() % 3 ? ',' + random() % 3 - 1 : random() % 256);
     std::uint64_t wanted = 0;
-    for (std::size_t at = 0; at < kMarkedBytes; ++at) wanted |= std::uint64_t{bytes[at] == ','} << at;
+    for (std::size_t at = 0; at < kMarkedBytes; ++at)
+      wanted |= std::uint64_t{bytes[at] == ','} << at;
     ASSERT_EQ(MarksOf(bytes, ','), wanted);
     ASSERT_EQ(detail::MarksByWords(bytes, ','), wanted);
   }
@@ -30,7 +32,9 @@ TEST(FieldIndex, CutsLinesAsSplittingDoes) {
     std::string bytes;
     for (int n = 0; n < 4000; ++n) {
       const auto kind = random() % 8;
-      bytes += kind < 3 ? static_cast<char>(delimiter) : kind < 4 ? '\n' : static_cast<char>('a' + random() % 26);
+      bytes += kind < 3   ? static_cast<char>(delimiter)
+               : kind < 4 ? '\n'
+                          : static_cast<char>('a' + random() % 26);
       if (random() % 300 == 0) bytes += std::string(100, 'x');
     }
     constexpr std::size_t kMost = 5;
@@ -38,12 +42,13 @@ TEST(FieldIndex, CutsLinesAsSplittingDoes) {
     for (std::string_view rest = bytes; !rest.empty();) {
       const std::string_view line = rest.substr(0, rest.find('\n'));
       rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-      auto wanted =
-          delimiter <= 255 || line.empty() ? Split(line, static_cast<char>(delimiter)) : std::vector{std::string(line)};
+      auto wanted = delimiter <= 255 || line.empty() ? Split(line, static_cast<char>(delimiter))
+                                                     : std::vector{std::string(line)};
       if (wanted.size() > kMost) wanted.resize(kMost);
       ASSERT_EQ(block.Add(line), wanted.size()) << delimiter;
       const std::size_t last = block.Lines() - 1;
-      for (std::size_t field = 0; field < wanted.size(); ++field) ASSERT_EQ(block.Field(last, field), wanted[field]);
+      for (std::size_t field = 0; field < wanted.size(); ++field)
+        ASSERT_EQ(block.Field(last, field), wanted[field]);
       if (random() % 4 == 0) block.DropLast();
       if (block.Full()) block.Clear();
     }
@@ -56,7 +61,8 @@ TEST(FieldIndex, FieldsOfOneKeyHaveOneText) {
   std::map<FieldKey, std::string> texts;
   for (int n = 0; n < 50000; ++n) {
     std::string text;
-    for (auto left = random() % 10; left > 0; --left) text += kCharacters[random() % kCharacters.size()];
+    for (auto left = random() % 10; left > 0; --left)
+      text += kCharacters[random() % kCharacters.size()];
     const FieldKey key = KeyOfField(("12345678" + text).data() + 8 + text.size(), text.size() + 1);
     ASSERT_NE(key, kNoField);
     if (key == kOtherField) continue;

@@ -19,14 +19,16 @@ namespace {
 std::vector<std::string> Column(std::mt19937& random) {
   using namespace std::string_view_literals;
   constexpr std::string_view kCharacters = "0123456789..-- +x\0\7\t9"sv;
-  const auto lines = 1 + random() % FieldIndex::kMostLines, odd = random() % 4 * 5, places = random() % 4;
+  const auto lines = 1 + random() % FieldIndex::kMostLines, odd = random() % 4 * 5,
+             places = random() % 4;
   const bool lead = random() % 2, constant = random() % 8 == 0;
   const double span = std::pow(10, random() % 6);
   std::vector<std::string> fields;
   while (fields.size() < lines) {
     std::string field;
     if (random() % 100 < odd) {
-      for (auto left = random() % 11; left > 0; --left) field += kCharacters[random() % kCharacters.size()];
+      for (auto left = random() % 11; left > 0; --left)
+        field += kCharacters[random() % kCharacters.size()];
     } else if (constant && !fields.empty()) {
       field = fields[0];
     } else {
@@ -49,7 +51,8 @@ TEST(NumberColumn, AgreesWithTheTolerantRoad) {
     std::string bytes;
     for (const std::string& field : fields) bytes += before + field + '\n';
     FieldIndex block(bytes, ',', 2);
-    for (std::size_t at = 0; at < bytes.size(); at += before.size() + fields[block.Lines() - 1].size() + 1)
+    for (std::size_t at = 0; at < bytes.size();
+         at += before.size() + fields[block.Lines() - 1].size() + 1)
       block.Add({bytes.data() + at, before.size() + fields[block.Lines()].size()});
 
     NumberColumn numbers;
@@ -65,7 +68,8 @@ TEST(NumberColumn, AgreesWithTheTolerantRoad) {
     for (std::size_t line = 0; line < fields.size(); ++line, ++all) {
       const double wanted = StringToDouble(fields[line]);
       ASSERT_EQ(values[line], wanted) << '"' << fields[line] << '"';
-      ASSERT_EQ(cells[line], RoundToLong(wanted * std::pow(10, scale))) << '"' << fields[line] << "\" scale " << scale;
+      ASSERT_EQ(cells[line], RoundToLong(wanted * std::pow(10, scale)))
+          << '"' << fields[line] << "\" scale " << scale;
     }
   }
   EXPECT_LT(slow, all / 8);  // the quick roads are taken
@@ -91,7 +95,8 @@ TEST(PlainNumbers, ReadsTheSameInRegistersOfAnyWidth) {
     FieldKey keys[FieldIndex::kMostLines] = {};
     const std::vector<std::string> fields = Column(random);
     for (std::size_t at = 0; at < fields.size(); ++at)
-      keys[at] = KeyOfField((std::string(8, ',') + fields[at]).data() + 8 + fields[at].size(), fields[at].size() + 1);
+      keys[at] = KeyOfField((std::string(8, ',') + fields[at]).data() + 8 + fields[at].size(),
+                            fields[at].size() + 1);
     std::int32_t digits[FieldIndex::kMostLines] = {}, inSteps[FieldIndex::kMostLines] = {};
     const PlainNumbers plain(keys[0], keys[fields.size() - 1]);
     const auto wanted = ~std::uint64_t{0} >> (64 - fields.size());
@@ -107,7 +112,8 @@ TEST(PlainNumbers, PlainOnesTakeTheQuickestRoad) {
   const auto others = [](const std::vector<std::string>& fields) {
     FieldKey keys[PlainNumbers::kAtOnce] = {};
     for (std::size_t at = 0; at < fields.size(); ++at)
-      keys[at] = KeyOfField(("5.599999" + fields[at]).data() + 8 + fields[at].size(), fields[at].size() + 1);
+      keys[at] = KeyOfField(("5.599999" + fields[at]).data() + 8 + fields[at].size(),
+                            fields[at].size() + 1);
     std::int32_t digits[PlainNumbers::kAtOnce];
     return PlainNumbers(keys[0], keys[fields.size() - 1]).Read(keys, fields.size(), digits) &
            ((1u << fields.size()) - 1);

@@ -15,7 +15,8 @@ bool Read(NumberShape& shape, const std::string& field, ShortNumber& number) {
 
 TEST(NumberShape, AgreesWithTheTolerantRoadWhateverItReadBefore) {
   std::mt19937 random(7);
-  constexpr std::string_view kCharacters{"01234567890123456789012345678901234567890123456789..-+ (/:;e,\0\7", 63};
+  constexpr std::string_view kCharacters{
+      "01234567890123456789012345678901234567890123456789..-+ (/:;e,\0\7", 63};
   const auto character = [&] { return kCharacters[random() % kCharacters.size()]; };
   NumberShape shape;
   std::string field;
@@ -39,7 +40,8 @@ TEST(NumberShape, AgreesWithTheTolerantRoadWhateverItReadBefore) {
 TEST(NumberShape, PlainNumbersTakeTheQuickRoad) {
   NumberShape shape;
   ShortNumber number;
-  for (const char* field : {"0", "12", "-1.5", "12345678", "-1234567", "1234.678", ".5", "5.", "-.5", "+1", "  21.5"})
+  for (const char* field :
+       {"0", "12", "-1.5", "12345678", "-1234567", "1234.678", ".5", "5.", "-.5", "+1", "  21.5"})
     EXPECT_TRUE(Read(shape, field, number)) << field;
   for (const char* field : {"-", ".", "-.", "1.2.3", "--1", "1-", "1 ", "- 1", "", "123456789"})
     EXPECT_FALSE(Read(shape, field, number)) << field;

@@ -7,7 +7,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   static const FileKinds kinds = SetUpLogFamilies();
   const CommandLineFile file = ParseCommandLine({reinterpret_cast<const char*>(data), size});
   const clsFileTypes& types = kinds.gcolFileTypes;
-  const int type = file.fileType ? types.ValidateFileType(*file.fileType) : types.GuessFileType(file.path, 1);
+  const int type =
+      file.fileType ? types.ValidateFileType(*file.fileType) : types.GuessFileType(file.path, 1);
   types.Item(type);
   return 0;
 }

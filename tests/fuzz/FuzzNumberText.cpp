@@ -1,4 +1,5 @@
-// Text to number and back: the quick road and the plain one agree, and no text is too odd for either.
+// Text to number and back: the quick road and the plain one agree, and no text is too odd for
+// either.
 
 #include <cmath>
 #include <cstdlib>

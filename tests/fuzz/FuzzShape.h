@@ -11,8 +11,8 @@
 
 namespace tarnview {
 
-/// The bytes are a log of unknown shape: it is looked at, and loaded by the definition of what is found. The text of
-/// that definition reads back.
+/// The bytes are a log of unknown shape: it is looked at, and loaded by the definition of what is
+/// found. The text of that definition reads back.
 inline int FuzzLogShape(const unsigned char* data, std::size_t size) {
   static const Catalogue catalogue = BuildDataItemCatalogue();
   static const TitleDictionary titles{BuiltInTitles()};
@@ -20,7 +20,8 @@ inline int FuzzLogShape(const unsigned char* data, std::size_t size) {
   const LogShape shape = ReadLogShape(text, titles, catalogue.gcolFixedDataItems);
   if (shape.columns.empty()) return 0;
   const clsDataLog definition = DefinitionOfShape(shape, "Fuzz", "csv", 10);
-  const clsLogDataItems items = GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+  const clsLogDataItems items =
+      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
   const Settings settings;
   const ConversionTables tables;
   NoProgress progress;

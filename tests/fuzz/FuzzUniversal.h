@@ -14,14 +14,16 @@ inline int FuzzDataLogDefinition(const unsigned char* data, std::size_t size) {
   static const Catalogue catalogue = BuildDataItemCatalogue();
   try {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    GenerateLogDataItemsGeneric(ReadDataLogDefinition(text, "fuzz.txt", catalogue.gcolFixedDataItems),
-                                catalogue.gcolFixedDataItems);
+    GenerateLogDataItemsGeneric(
+        ReadDataLogDefinition(text, "fuzz.txt", catalogue.gcolFixedDataItems),
+        catalogue.gcolFixedDataItems);
   } catch (const DefinitionFault&) {
   }
   return 0;
 }
 
-/// The bytes are a definition and, behind a line "[LOG]", a log; without that line all of them are a log.
+/// The bytes are a definition and, behind a line "[LOG]", a log; without that line all of them are
+/// a log.
 inline int FuzzUniversalLog(const unsigned char* data, std::size_t size) {
   static const Catalogue catalogue = BuildDataItemCatalogue();
   constexpr std::string_view kLog = "\n[LOG]\n";
@@ -30,12 +32,14 @@ inline int FuzzUniversalLog(const unsigned char* data, std::size_t size) {
   definition.strFileIDText.clear();
   if (const auto at = text.find(kLog); at != std::string_view::npos) {
     try {
-      definition = ReadDataLogDefinition(text.substr(0, at + 1), "fuzz.txt", catalogue.gcolFixedDataItems);
+      definition =
+          ReadDataLogDefinition(text.substr(0, at + 1), "fuzz.txt", catalogue.gcolFixedDataItems);
     } catch (const DefinitionFault&) {
     }
     text.remove_prefix(at + kLog.size());
   }
-  const clsLogDataItems items = GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+  const clsLogDataItems items =
+      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
   const Settings settings;
   const ConversionTables tables;
   NoProgress progress;

@@ -33,7 +33,8 @@ struct Case {
 std::string CellsOf(const Case& c, const char* version, const std::vector<Column>& columns) {
   auto fields = c.fields;
   fields.insert(fields.begin(), {1, "7"});
-  const LoadedLog loaded(JoinLines({"Sample", std::string(" ") + version, Placed(c.length, fields)}));
+  const LoadedLog loaded(
+      JoinLines({"Sample", std::string(" ") + version, Placed(c.length, fields)}));
   std::string text;
   for (const Column column : columns) text += (text.empty() ? "" : " ") + loaded.Cells(column);
   return text;
@@ -81,7 +82,8 @@ TEST(FMLinkLines, ThrottleIdleValveAndAuxByVersion) {
       {"1.8b", {57, {{44, " 45"}}, "40 4500 0"}},
   };
   for (const auto& [version, c] : cases)
-    EXPECT_EQ(CellsOf(c, version, {kIAC, kTPS, kAuxNF}), c.cells) << version << " " << c.fields[0].second;
+    EXPECT_EQ(CellsOf(c, version, {kIAC, kTPS, kAuxNF}), c.cells)
+        << version << " " << c.fields[0].second;
 }
 
 TEST(FMLinkLines, NumbersAreReadTolerantly) {
@@ -127,7 +129,8 @@ TEST(FMLinkLines, SummaryTails) {
     auto fields = c.fields;
     fields.insert(fields.begin(), {2, "1.8"});
     const SummaryRow row = ParseSummaryLine(Placed(64, fields), lowest).row;
-    EXPECT_TRUE(row[kSpeed] == c.speed && row[kL4] == c.L4 && row[kAuxNS] == c.aux && row[kATemp] == c.airTemp)
+    EXPECT_TRUE(row[kSpeed] == c.speed && row[kL4] == c.L4 && row[kAuxNS] == c.aux &&
+                row[kATemp] == c.airTemp)
         << row[kSpeed] << " " << row[kL4] << " " << row[kAuxNS] << " " << row[kATemp];
     EXPECT_EQ(lowest, c.fields[0].second == "AT" ? c.airTemp : 200);
   }

@@ -10,7 +10,8 @@ namespace {
 using Lines = std::vector<std::string>;
 using Ids = std::vector<int>;
 
-constexpr const char* kSettingsLine = " ATM = 101            1.8 18-Sep-01 ";  // engine at 23, date at 27
+constexpr const char* kSettingsLine =
+    " ATM = 101            1.8 18-Sep-01 ";  // engine at 23, date at 27
 constexpr const char* kNoChanges = "No lambda/knock zone changes";
 constexpr const char* kChanges = "Lambda/knock zone changes";
 
@@ -24,7 +25,8 @@ std::string Log(Lines samples, const Lines& zones = {}, const Lines& behind = {}
 }
 Lines Samples(int count) {
   Lines lines;
-  for (int i = 1; i <= count; ++i) lines.push_back(Placed(57, {{1, std::to_string(i)}, {9, "3000"}, {16, "100"}}));
+  for (int i = 1; i <= count; ++i)
+    lines.push_back(Placed(57, {{1, std::to_string(i)}, {9, "3000"}, {16, "100"}}));
   return lines;
 }
 const Lines kZones = ZoneSectionLines(CountingZoneRows());
@@ -110,7 +112,8 @@ A/F Tgt: 14700 14700 14700 14700 14700
 }
 
 TEST(FMLinkLog, BadInputsAndWhatTheyTell) {
-  Lines unknownZone = CountingZoneRows(), beyond16Bits = CountingZoneRows(), tooMany = CountingZoneRows();
+  Lines unknownZone = CountingZoneRows(), beyond16Bits = CountingZoneRows(),
+        tooMany = CountingZoneRows();
   unknownZone[3].replace(1, 3, "  *");
   beyond16Bits[3].replace(1, 6, "99999 ");
   tooMany[15] = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17" + std::string(23, ' ');
@@ -121,6 +124,7 @@ TEST(FMLinkLog, BadInputsAndWhatTheyTell) {
     bool samples, zones, changes;
     Ids messages;
   } cases[] = {
+      // clang-format off
       {"empty", "", false, false, false, {52}},
       {"wrong kind", "SAMPLE\n", false, false, false, {52}},
       {"heading alone", "Sample", false, false, false, {16}},
@@ -137,6 +141,7 @@ TEST(FMLinkLog, BadInputsAndWhatTheyTell) {
       {"NUL bytes", Log({std::string(100, '\0')}), false, false, false, {16}},
       {"a long line", "Sample" + std::string(10'000'000, '1'), false, false, false, {16}},
       {"a long line of zones", Log(Samples(3), {" ATM" + std::string(1'000'000, '9')}), true, false, false, {16}},
+      // clang-format on
   };
   for (const auto& c : cases) {
     const LoadedLog loaded(c.text);
@@ -195,8 +200,9 @@ TEST(FMLinkLog, ChangesKeepTheZonesOwnValues) {
   const LoadedLog loaded(Log(Samples(3), kZones, changes));
   ASSERT_TRUE(loaded.log.gblnChangesLoaded);
   const LoadedZones& zones = loaded.log.zones;
-  const std::pair<std::size_t, int> cells[] = {{0, 9},  {1, 1},   {2, 2},    {16, 16}, {17, 8},  {32, 32},
-                                               {33, 7}, {209, 7}, {224, 24}, {225, 7}, {240, 40}};
+  const std::pair<std::size_t, int> cells[] = {{0, 9},    {1, 1},   {2, 2},   {16, 16},
+                                               {17, 8},   {32, 32}, {33, 7},  {209, 7},
+                                               {224, 24}, {225, 7}, {240, 40}};
   for (const auto& [zone, value] : cells) EXPECT_EQ(zones.changes[zone], value) << zone;
   EXPECT_EQ(zones.original, zones.zones);
 }

@@ -18,7 +18,9 @@ TEST(LayoutMarks, TellTheFixedLayoutsByTheirHeadings) {
                                                {"universal/me221.csv", kUnknownFile},
                                                {"universal/speeduino.msl", kUnknownFile}};
   for (const auto& [name, type] : kRows)
-    EXPECT_EQ(FileTypeByMarks(*RealFileSystem().Read(std::string(TARNVIEW_EXAMPLES) + "/" + name)), type) << name;
+    EXPECT_EQ(FileTypeByMarks(*RealFileSystem().Read(std::string(TARNVIEW_EXAMPLES) + "/" + name)),
+              type)
+        << name;
   EXPECT_EQ(FileTypeByMarks(""), kUnknownFile);
   EXPECT_EQ(FileTypeByMarks("Sample  RPM,TIAC\n"), kUnknownFile);
 }

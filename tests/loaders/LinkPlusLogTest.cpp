@@ -55,7 +55,8 @@ Fuel% M: 1000 1000 1000
 
 TEST(LinkPlusLog, NumberedColumnsSwitchesAndMarks) {
   const LoadedSampleLog loaded(
-      LoadLinkPlusLog, Tabbed(R"(CRNum|1100|1103|LambSt|IDLEST|1131|NeutPk|AIRCON|1136|1137|TGVClsd|TPSCls|1144|Knock
+      LoadLinkPlusLog,
+      Tabbed(R"(CRNum|1100|1103|LambSt|IDLEST|1131|NeutPk|AIRCON|1136|1137|TGVClsd|TPSCls|1144|Knock
 0.5|3250|0.75|=|T|On|On|Off|Off|Off|Off|Closed|On|On
 0.25|850|.8||X |on|Off|On|On|On|On|Open|Open|Off
 9|6400|70|*|*|Off|Off|Off|Off|Off|Off|On|open|
@@ -89,8 +90,8 @@ TEST(LinkPlusLog, OfTwoColumnsForOneItemTheLaterCounts) {
 
 TEST(LinkPlusLog, BadInputsAndWhatTheyTell) {
   const std::string heading = "Count\tRPM\n";
-  ExpectBad(LoadLinkPlusLog,
-            {
+  ExpectBad(LoadLinkPlusLog, {
+                                 // clang-format off
                 {"empty", "", {53}},
                 {"five lines without a heading", "\n\n\n\n\n", {53}},
                 {"the heading in the seventh line", Repeated(Repeated("", "", 6) + heading, "1\t2", 9), {53}},
@@ -100,12 +101,14 @@ TEST(LinkPlusLog, BadInputsAndWhatTheyTell) {
                 {"too few fields", Repeated(heading, "1", 9), {}},
                 {"empty lines under one column", Repeated("Count\n", "", 9), {}},
                 {"a long line", heading + std::string(10'000'000, '1'), {}},
-            });
+                                 // clang-format on
+                             });
 }
 
 TEST(LinkPlusLog, TheHeadingMayStandInTheSixthLineAndBeLong) {
   std::string heading = Repeated("", "", 5) + "Count", line = "7";
-  for (int column = 0; column < 10000; ++column) heading += "\tRPM", line += "\t" + std::to_string(column);
+  for (int column = 0; column < 10000; ++column)
+    heading += "\tRPM", line += "\t" + std::to_string(column);
   const LoadedSampleLog loaded(LoadLinkPlusLog, Repeated(heading + "\n", line, 3));
   EXPECT_EQ(loaded.Cells(kRPM), "9999 9999 9999");
 }

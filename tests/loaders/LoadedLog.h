@@ -13,7 +13,8 @@ namespace tarnview {
 struct LoadedLog {
   explicit LoadedLog(std::string_view text, const Settings& itsSettings = {}, bool silent = false)
       : settings(itsSettings) {
-    outcome = LoadFMLinkLog(text, {log, catalogue.gcolFixedDataItems, settings, tables, progress}, silent);
+    outcome = LoadFMLinkLog(text, {log, catalogue.gcolFixedDataItems, settings, tables, progress},
+                            silent);
   }
 
   /// The stored cells of a column: "3250 850".
@@ -29,7 +30,8 @@ struct LoadedLog {
     for (int column = 0; column < log.glngDataLog.Columns(); ++column)
       for (const std::int32_t cell : log.glngDataLog.Column(column)) {
         if (!cell) continue;
-        text += catalogue.gcolFixedDataItems.Item(column + 1).strShortName + ": " + Cells(column) + "\n";
+        text += catalogue.gcolFixedDataItems.Item(column + 1).strShortName + ": " + Cells(column) +
+                "\n";
         break;
       }
     return text;

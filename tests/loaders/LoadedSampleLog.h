@@ -8,7 +8,8 @@ namespace tarnview {
 struct LoadedSampleLog : LoadedLog {
   using Loader = LoadOutcome (*)(std::string_view bytes, const LoadContext& context);
 
-  LoadedSampleLog(Loader load, std::string_view text, const Settings& itsSettings = {}) : LoadedLog("", itsSettings) {
+  LoadedSampleLog(Loader load, std::string_view text, const Settings& itsSettings = {})
+      : LoadedLog("", itsSettings) {
     log = {};
     progress = {};
     outcome = load(text, {log, catalogue.gcolFixedDataItems, settings, tables, progress});

@@ -15,7 +15,8 @@ std::string Cells(int count, const std::string& cell) {
 
 std::string Told(const std::vector<LoadMessage>& messages) {
   std::string told;
-  for (const LoadMessage& message : messages) told += std::to_string(static_cast<int>(message.id)) + " ";
+  for (const LoadMessage& message : messages)
+    told += std::to_string(static_cast<int>(message.id)) + " ";
   return told;
 }
 
@@ -56,7 +57,8 @@ TEST_F(MapLoaderTest, WhatIsNoMap) {
 
 /// A log's zone section, each zone 3, one cell unknown.
 std::string Section() {
-  std::string text = "Sample\nInitial zone map\n\n ATM" + Cells(16, "   3") + "\nrest\n" + Cells(16, "   3") + "fuel\n";
+  std::string text = "Sample\nInitial zone map\n\n ATM" + Cells(16, "   3") + "\nrest\n" +
+                     Cells(16, "   3") + "fuel\n";
   text += "    *" + Cells(15, "   3").substr(1);
   for (int row = 1; row < 6; ++row) text += Cells(16, "   3");
   text += "\nx\nignition\n";
@@ -67,9 +69,12 @@ std::string Section() {
 std::string Told(const MapReading& reading) {
   if (!reading.read) return "none " + reading.error;
   std::string told = std::to_string(reading.map.zones[0]) + std::to_string(reading.map.zones[32]) +
-                     std::to_string(reading.map.zones[33]) + std::to_string(reading.map.zones[255]) + " " +
-                     DateText(reading.map.chip.datChipDate) + " " + std::to_string(reading.map.intAtmosphericPressure);
-  for (const Message message : reading.messages) told += " " + std::to_string(static_cast<int>(message));
+                     std::to_string(reading.map.zones[33]) +
+                     std::to_string(reading.map.zones[255]) + " " +
+                     DateText(reading.map.chip.datChipDate) + " " +
+                     std::to_string(reading.map.intAtmosphericPressure);
+  for (const Message message : reading.messages)
+    told += " " + std::to_string(static_cast<int>(message));
   return told;
 }
 
@@ -88,7 +93,9 @@ TEST(BenchmarkLog, ZonesAndChipOfALog) {
   };
   long bytes = 0;
   for (const auto& c : cases)
-    EXPECT_EQ(Told(ReadBenchmarkLog(c.text, Settings{}, [&](long length) { bytes += length; })), c.told) << c.what;
+    EXPECT_EQ(Told(ReadBenchmarkLog(c.text, Settings{}, [&](long length) { bytes += length; })),
+              c.told)
+        << c.what;
   EXPECT_GT(bytes, 0);
 }
 

@@ -39,7 +39,8 @@ TEST(ShortMemory, IsToldAsWhatItIs) {
     const auto bytes = RealFileSystem().Read(std::string(TARNVIEW_EXAMPLES) + row.example);
     NoMemory progress;
     OpenLog log;
-    EXPECT_THROW(row.load(*bytes, {log, around.catalogue.gcolFixedDataItems, around.settings, around.tables, progress}),
+    EXPECT_THROW(row.load(*bytes, {log, around.catalogue.gcolFixedDataItems, around.settings,
+                                   around.tables, progress}),
                  std::bad_alloc)
         << row.example;
   }

@@ -8,7 +8,8 @@ namespace {
 
 constexpr const char* kHeading = "Tec-2\nSECONDS  RPM\n";
 const std::string kLine =
-    "   12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52 ";
+    "   12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   "
+    "0.52 ";
 
 TEST(Tec2Log, AWholeLog) {
   const LoadedSampleLog loaded(LoadTec2Log, R"(Any first line
@@ -82,7 +83,8 @@ TEST(Tec2Log, TheSettingsCount) {
 }
 
 TEST(Tec2Log, StopsAt300000Samples) {
-  EXPECT_TRUE(LoadedSampleLog(LoadTec2Log, Repeated(kHeading, kLine, 300000)).outcome.messages.empty());
+  EXPECT_TRUE(
+      LoadedSampleLog(LoadTec2Log, Repeated(kHeading, kLine, 300000)).outcome.messages.empty());
   const LoadedSampleLog loaded(LoadTec2Log, Repeated(kHeading, kLine, 300001));
   EXPECT_EQ(loaded.log.glngDataLog.Rows(), 300000);
   EXPECT_EQ(loaded.outcome.messages, std::vector<int>{51});

@@ -74,7 +74,9 @@ MAP D: 142 12 12 12
 
 TEST(UTECCSVLog, BadInputsAndWhatTheyTell) {
   const std::string two = "RPM,MAP,AFR\n,,\n";
-  ExpectBad(LoadUTECCSVLog, {
+  ExpectBad(LoadUTECCSVLog,
+            {
+                // clang-format off
                                 {"empty", "", {59}},
                                 {"no line of three cells", "a,b\nc\n\n", {59}},
                                 {"cut in the heading", "RPM,MAP,AFR\n,,", {59}},
@@ -84,7 +86,8 @@ TEST(UTECCSVLog, BadInputsAndWhatTheyTell) {
                                 {"three samples", Repeated(two, "1,2,3", 3), {}},
                                 {"too few cells", Repeated(two + "1,2,3\n", "1,2", 9), {}},
                                 {"a long line", two + "1,2,3\n" + std::string(10'000'000, '1'), {}},
-                            });
+                // clang-format on
+            });
 }
 
 TEST(UTECCSVLog, StopsAt300000Samples) {

@@ -145,17 +145,20 @@ MLP: 12 12 12
   }
 }
 
-const std::string kHeading = " RPM   MAP  MAF TPS Site Count  AFR  Ign#1  Inj#1  Ign   Fuel Boost  MAF";
-const std::string kLine = " 3250  -8.5  38  45   7     3   12.5  22.5   68.2   ECU  -2.5   45.5  41";
+const std::string kHeading =
+    " RPM   MAP  MAF TPS Site Count  AFR  Ign#1  Inj#1  Ign   Fuel Boost  MAF";
+const std::string kLine =
+    " 3250  -8.5  38  45   7     3   12.5  22.5   68.2   ECU  -2.5   45.5  41";
 
 TEST(UTECFixedLog, TheWideBandSensorStandsBehindTheLine) {
   std::string line = kLine;
   line.replace(32, 4, "W/B ");
   const std::string at73 = line + std::string(74 - line.size(), ' ');
-  const LoadedSampleLog loaded(LoadUTECFixedLog,
-                               kHeading + "   AFR\n\n" + line + "  13.25\n" + line + "  9.5\n" + line + "    \n");
+  const LoadedSampleLog loaded(LoadUTECFixedLog, kHeading + "   AFR\n\n" + line + "  13.25\n" +
+                                                     line + "  9.5\n" + line + "    \n");
   EXPECT_EQ(loaded.Cells(kAF), "13250 9500 0");
-  const LoadedSampleLog shorter(LoadUTECFixedLog, kHeading + "\n\n" + kLine + "\n" + at73 + "\n" + at73 + "\n");
+  const LoadedSampleLog shorter(LoadUTECFixedLog,
+                                kHeading + "\n\n" + kLine + "\n" + at73 + "\n" + at73 + "\n");
   EXPECT_EQ(shorter.Cells(kAF), "12500 12500 12500");
 }
 
@@ -168,7 +171,8 @@ TEST(UTECFixedLog, WithoutItsTextAHeadingIsKnownByItsLength) {
 )");
   EXPECT_EQ(loaded.Cells(kRPM), "0 3250 3251");
   // Where a line is as long as the headings of two layouts, the later one counts.
-  const LoadedSampleLog shorter(LoadUTECFixedLog, Repeated(kHeading.substr(0, 71) + "\n", kLine, 3));
+  const LoadedSampleLog shorter(LoadUTECFixedLog,
+                                Repeated(kHeading.substr(0, 71) + "\n", kLine, 3));
   EXPECT_EQ(shorter.Cells(kMLP), "3 3 3");  // of layout 4, whose lines are two longer
 }
 
@@ -180,14 +184,18 @@ TEST(UTECFixedLog, LinesMayDifferFromTheHeadingByTwoCharacters) {
 }
 
 TEST(UTECFixedLog, BadInputsAndWhatTheyTell) {
-  ExpectBad(LoadUTECFixedLog, {
+  ExpectBad(
+      LoadUTECFixedLog,
+      {
+          // clang-format off
                                   {"empty", "", {60}},
                                   {"no heading", Repeated("", "SECONDS", 9), {60}},
                                   {"heading alone", kHeading, {60}},
                                   {"heading on line 31", Repeated("", "comment", 30) + kHeading + "\n\n" + kLine, {60}},
                                   {"two samples", Repeated(kHeading + "\n\n", kLine, 2), {}},
                                   {"a long line", kHeading + "\n\n" + std::string(10'000'000, '1'), {}},
-                              });
+          // clang-format on
+      });
 }
 
 TEST(UTECFixedLog, StopsAt300000Samples) {

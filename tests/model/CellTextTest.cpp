@@ -17,14 +17,16 @@ TEST(CellTexts, AreThoseOfTheItemsWhateverIsStored) {
   for (int row = 0; row < 400; ++row) {
     log.glngDataLog.AddRow();
     for (int column = 0; column < kColumnCount; ++column)
-      log.glngDataLog.Set(column, row, row % 3 ? static_cast<std::int32_t>(random() % 3000) : odd[random() % 10]);
+      log.glngDataLog.Set(
+          column, row, row % 3 ? static_cast<std::int32_t>(random() % 3000) : odd[random() % 10]);
   }
   std::vector<int> columns;
   for (int item = 1; item <= kColumnCount; ++item) columns.push_back(item);
   CellTexts cells(log, columns);
   for (int row = 0; row < 400; ++row) {
     std::string expected;
-    for (const int item : columns) expected += (item > 1 ? "," : "") + log.FormatDataItem(item, row);
+    for (const int item : columns)
+      expected += (item > 1 ? "," : "") + log.FormatDataItem(item, row);
     ASSERT_EQ(cells.Line(row), expected) << row;
   }
 }

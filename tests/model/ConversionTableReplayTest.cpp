@@ -1,4 +1,6 @@
 #include "fuzz/FuzzConversionTable.cpp"
 #include "support/ReplayCorpus.h"
 
-TEST(Replay, ConversionTable) { tarnview::ReplayCorpus("FuzzConversionTable", LLVMFuzzerTestOneInput); }
+TEST(Replay, ConversionTable) {
+  tarnview::ReplayCorpus("FuzzConversionTable", LLVMFuzzerTestOneInput);
+}

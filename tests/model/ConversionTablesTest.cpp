@@ -9,7 +9,8 @@ namespace tarnview {
 namespace {
 
 TEST(ConversionTables, LooksUpAndInterpolates) {
-  const ConversionTable one{{5, 77}}, equalEnds{{5, 77}, {9, 80}, {5, 78}}, down{{30, 100}, {20, 200}, {0, 1000}},
+  const ConversionTable one{{5, 77}}, equalEnds{{5, 77}, {9, 80}, {5, 78}},
+      down{{30, 100}, {20, 200}, {0, 1000}},
       uneven{{0, 0}, {1, 10}, {2, 20}, {100, 30}, {1000, 40}};
   const struct {
     const ConversionTable& table;
@@ -37,7 +38,8 @@ TEST(ConversionTables, LooksUpAndInterpolates) {
       {DefaultO2Table(), INT32_MIN, 14700},
       {DefaultO2Table(), INT32_MAX, 10900},
   };
-  for (const auto& c : cases) EXPECT_EQ(TableLookup(c.value, c.table, true, false), c.result) << c.value;
+  for (const auto& c : cases)
+    EXPECT_EQ(TableLookup(c.value, c.table, true, false), c.result) << c.value;
   EXPECT_EQ(TableLookup(1, {}, true, false), 0);
 }
 
@@ -65,9 +67,11 @@ TEST(ConversionTables, TheOxygenTableHoldsItsInput) {
 }
 
 TEST(ConversionTables, ParsesRowsAndSkipsWhatIsNone) {
-  EXPECT_EQ(ParseConversionTable(" tarnview Conversion Table \r\n1=10\n=5\n5=\n\nhello\n 2.5 = 3.5x\n3=4=5"),
+  EXPECT_EQ(ParseConversionTable(
+                " tarnview Conversion Table \r\n1=10\n=5\n5=\n\nhello\n 2.5 = 3.5x\n3=4=5"),
             (ConversionTable{{1, 10}, {2, 4}, {3, 4}}));
-  EXPECT_EQ(ParseConversionTable("TARNVIEW AUX INPUT CONVERSION TABLE\n0=1\n"), (ConversionTable{{0, 1}}));
+  EXPECT_EQ(ParseConversionTable("TARNVIEW AUX INPUT CONVERSION TABLE\n0=1\n"),
+            (ConversionTable{{0, 1}}));
   EXPECT_TRUE(ParseConversionTable("TARNVIEW TABLE\n1=2\n").empty());
   EXPECT_TRUE(ParseConversionTable("").empty());
 }
@@ -78,7 +82,8 @@ class ConversionFilesTest : public testing::Test {
   std::vector<Message> told;
   FixedClock clock;
   ErrorLog log{files, clock, "error.log"};
-  ConversionFiles conversions{files, [this](Message id, const std::string&) { told.push_back(id); }, log};
+  ConversionFiles conversions{files, [this](Message id, const std::string&) { told.push_back(id); },
+                              log};
 };
 
 TEST_F(ConversionFilesTest, FallsBackToTheDefaultAndTellsOnlyOfAnUnreadableFile) {

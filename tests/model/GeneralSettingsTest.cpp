@@ -75,6 +75,7 @@ TEST(Settings, HoldFlagsToTheirRules) {
   };
   using S = Settings;
   const Row rows[] = {
+      // clang-format off
       {"Quick Graph", &S::gblnQuickGraph, true, false, false, false, false},
       {"Fix Graph Max", &S::gblnFixGraphMax, false, false, false, false, false},
       {"Silent Defaults", &S::gblnSilentDefaults, false, true, false, false, false},
@@ -88,10 +89,13 @@ TEST(Settings, HoldFlagsToTheirRules) {
       {"Auto Gear Selection", &S::gblnAutoGearSelection, true, true, false, true, true},
       {"Auto File Names", &S::gblnAutoFileNames, false, true, false, false, false},
       {"SAE Correction", &S::gblnSAECorrection, false, true, false, false, false},
+      // clang-format on
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.key);
-    const auto read = [&](const char* text) { return Read(row.key + std::string("=") + text, row.value); };
+    const auto read = [&](const char* text) {
+      return Read(row.key + std::string("=") + text, row.value);
+    };
     EXPECT_EQ(Read("", row.value), row.missing);
     EXPECT_EQ(read("Y"), row.y);
     EXPECT_EQ(read("N"), row.n);
@@ -118,17 +122,21 @@ TEST(Settings, HoldTheOthersToTheirRules) {
   EXPECT_EQ(Read("Default Chip Date=2001-09-18", &S::gdatDefaultChipDate), MakeDate(2001, 9, 18));
   EXPECT_EQ(Read("Default Chip Date=soon", &S::gdatDefaultChipDate), MakeDate(2000, 1, 1));
   EXPECT_EQ(Read("Initial Directory= C:\\My Logs ", &S::gstrInitialDirectory), "C:\\My Logs");
-  EXPECT_EQ(Read("Checked Data Items=5, 3,0,84,x,83", &S::gcolCheckedDataItems), (std::vector<int>{5, 3, 83}));
+  EXPECT_EQ(Read("Checked Data Items=5, 3,0,84,x,83", &S::gcolCheckedDataItems),
+            (std::vector<int>{5, 3, 83}));
   EXPECT_EQ(Read("Checked Data Items=", &S::gcolCheckedDataItems), S().gcolCheckedDataItems);
   EXPECT_EQ(Read("", &S::gstrSerialComPort), "1");
   EXPECT_EQ(Read("Serial Com Port=0", &S::gstrSerialComPort), "1");
   EXPECT_EQ(Read("Serial Com Port=9", &S::gstrSerialComPort), "9");
   EXPECT_EQ(Read("Serial Com Port=10", &S::gstrSerialComPort), "1");
   EXPECT_EQ(Read("", &S::gdblGearSpeedConvFactor), 0.44704);
-  EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=99.9", &S::gdblGearSpeedConvFactor), 99.9);
+  EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=99.9", &S::gdblGearSpeedConvFactor),
+            99.9);
   EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=0", &S::gdblGearSpeedConvFactor), 0);
-  EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=100", &S::gdblGearSpeedConvFactor), 0.44704);
-  EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=-1", &S::gdblGearSpeedConvFactor), 0.44704);
+  EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=100", &S::gdblGearSpeedConvFactor),
+            0.44704);
+  EXPECT_EQ(Read("Auto Gear Selection Speed Conversion Factor=-1", &S::gdblGearSpeedConvFactor),
+            0.44704);
   EXPECT_TRUE(Read("First Run Indicator=Y", &S::firstRun));
   EXPECT_FALSE(Read("First Run Indicator=y", &S::firstRun));
   EXPECT_EQ(ReadSettings("[Other]\nZoom Amount=30\n").gintZoomAmount, 2);
@@ -136,14 +144,17 @@ TEST(Settings, HoldTheOthersToTheirRules) {
 
 TEST(Settings, ListRecentFilesLatestFirst) {
   std::string text = "[Recently Used Files]\n";
-  for (const int n : {9, 8, 2, 0}) text += "File " + std::to_string(n) + "=1|C:\\" + std::to_string(n) + ".txt\n";
-  EXPECT_EQ(Join(ReadSettings(text + "File 3=\n").recentFiles, " "), "1|C:\\0.txt 1|C:\\2.txt 1|C:\\8.txt");
+  for (const int n : {9, 8, 2, 0})
+    text += "File " + std::to_string(n) + "=1|C:\\" + std::to_string(n) + ".txt\n";
+  EXPECT_EQ(Join(ReadSettings(text + "File 3=\n").recentFiles, " "),
+            "1|C:\\0.txt 1|C:\\2.txt 1|C:\\8.txt");
 }
 
 TEST(Settings, HoldTheAnglesToWholeDegrees) {
-  const auto angles =
-      ReadSettings("[3D Graph]\nInitial Fuel Rotation=360\nInitial Fuel Elevation=-1\nInitial Ignition Rotation=12.5\n")
-          .angles;
+  const auto angles = ReadSettings(
+                          "[3D Graph]\nInitial Fuel Rotation=360\nInitial Fuel "
+                          "Elevation=-1\nInitial Ignition Rotation=12.5\n")
+                          .angles;
   EXPECT_EQ(angles.lngFuelRotation, 359);
   EXPECT_EQ(angles.lngFuelElevation, 0);
   EXPECT_EQ(angles.lngIgnitionRotation, 12);
@@ -151,10 +162,11 @@ TEST(Settings, HoldTheAnglesToWholeDegrees) {
 }
 
 TEST(Settings, PlaceOnlyWindowsThatHaveAState) {
-  const auto windows = ReadSettings(
-                           "[General]\nWindow Left=5\nScatter Graph Window State=2\nScatter Graph Window Left=-40\n"
-                           "Scatter Graph Window Width=20000\nSpeed Graph Window State=9\n")
-                           .windows;
+  const auto windows =
+      ReadSettings(
+          "[General]\nWindow Left=5\nScatter Graph Window State=2\nScatter Graph Window Left=-40\n"
+          "Scatter Graph Window Width=20000\nSpeed Graph Window State=9\n")
+          .windows;
   EXPECT_FALSE(windows.main);
   EXPECT_FALSE(windows.powerGraph);
   ASSERT_TRUE(windows.scatterGraph && windows.speedGraph);
@@ -168,9 +180,11 @@ TEST(Settings, PlaceOnlyWindowsThatHaveAState) {
 
 TEST(Settings, TakeFromTheInstallFileWhatIsEmpty) {
   const IniTable install = ReadINIFileToArray(
-      "[General]\nLog EXE=L.exe\nConversion EXE=C.exe\nDefault Working Directory=W\nChecked Data Items=3,5\n"
+      "[General]\nLog EXE=L.exe\nConversion EXE=C.exe\nDefault Working Directory=W\nChecked Data "
+      "Items=3,5\n"
       "Initial Directory=no\n");
-  const IniTable table = ReadINIFileToArray("[General]\nLog EXE=\nConversion EXE=mine\nInitial Directory=\n");
+  const IniTable table =
+      ReadINIFileToArray("[General]\nLog EXE=\nConversion EXE=mine\nInitial Directory=\n");
   Settings settings;
   ReadGeneralSettings(table, &install, settings);
   EXPECT_EQ(settings.gstrLogEXE, "L.exe");
@@ -185,7 +199,9 @@ std::string Listed(const std::vector<SettingRow>& rows) {
   std::string text;
   const Settings defaults;
   for (const SettingRow& row : rows)
-    text += Join({row.key, row.text(defaults), row.limits, row.setIn.window, row.setIn.control}, " | ") + "\n";
+    text += Join({row.key, row.text(defaults), row.limits, row.setIn.window, row.setIn.control},
+                 " | ") +
+            "\n";
   return text;
 }
 

@@ -6,8 +6,8 @@ namespace tarnview {
 namespace {
 
 TEST(IniFile, KeepsKeysAsTheyStand) {
-  const IniTable table =
-      ReadINIFileToArray("first=1\r\n[A]\nkey = a = b \n Key=2\nkey=3\n[B\nlone\n[A] \n[ C ]\nkey=4");
+  const IniTable table = ReadINIFileToArray(
+      "first=1\r\n[A]\nkey = a = b \n Key=2\nkey=3\n[B\nlone\n[A] \n[ C ]\nkey=4");
   EXPECT_EQ(GetINIValue(table, "", "first"), "1");
   EXPECT_EQ(GetINIValue(table, "A", "key "), "a = b");
   EXPECT_EQ(GetINIValue(table, "A", "key"), "3");
@@ -31,7 +31,8 @@ TEST(IniFile, TellsWhatIsNoSettingsFile) {
 }
 
 TEST(IniFile, ReadsTheInstallFileAsTheDesktopDoes) {
-  const IniTable table = ReadINIFileToArray("[Other]\nLog EXE=no\n[GENERAL]\n log exe = \"C:\\Link Win\\L.exe\" \n");
+  const IniTable table =
+      ReadINIFileToArray("[Other]\nLog EXE=no\n[GENERAL]\n log exe = \"C:\\Link Win\\L.exe\" \n");
   EXPECT_EQ(ReadProfileValue(table, "General", "Log EXE"), "C:\\Link Win\\L.exe");
   EXPECT_EQ(ReadProfileValue(table, "General", "Conversion EXE"), "");
   const IniTable longLine = ReadINIFileToArray("[General]\nk=" + std::string(300, 'x'));

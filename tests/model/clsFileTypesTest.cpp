@@ -31,7 +31,8 @@ TEST_F(FileKindsTest, FiltersNameEveryExtension) {
   EXPECT_EQ(types.Item(6).CommonDialogFilter(),
             "UTEC CSV Data Logs (*.csv;*.dat;*.txt;*.log;*.utc)|*.csv;*.dat;*.txt;*.log;*.utc");
   for (int id = 3; id <= 8; ++id) types.Item(id).blnEnabled = false;
-  EXPECT_EQ(types.CommonDialogFilter(), "FM Link Data Logs (*.txt)|*.txt|FM Link MAP Files (*.map)|*.map");
+  EXPECT_EQ(types.CommonDialogFilter(),
+            "FM Link Data Logs (*.txt)|*.txt|FM Link MAP Files (*.map)|*.map");
 }
 
 TEST_F(FileKindsTest, PlacesCountEnabledTypesOnly) {
@@ -51,7 +52,8 @@ TEST_F(FileKindsTest, AreGuessedFromTheExtension) {
   const Row rows[] = {{"log.dat", 1, 6}, {"log.txt", 1, 1},   {"log.TXT", 7, 7}, {"log.txt", 2, 8},
                       {"log.map", 1, 2}, {"log.csv", 4, 6},   {"log.dat", 4, 4}, {"log", 5, 5},
                       {"log.xyz", 5, 5}, {"a.map/log", 5, 5}, {"log.txt", 99, 8}};
-  for (const Row& row : rows) EXPECT_EQ(types.GuessFileType(row.path, row.defaultType), row.guess) << row.path;
+  for (const Row& row : rows)
+    EXPECT_EQ(types.GuessFileType(row.path, row.defaultType), row.guess) << row.path;
   types.Item(2).blnEnabled = false;
   EXPECT_EQ(types.GuessFileType("log.map", 1), 1);
 }
@@ -79,7 +81,8 @@ TEST_F(FileKindsTest, IdsAreHeldToTheList) {
 
 TEST_F(FileKindsTest, FamiliesHoldTypes) {
   const int firstFamilies[] = {1, 1, 3, 4, 5, 6, 6, 7};
-  for (int type = 1; type <= 8; ++type) EXPECT_EQ(families.FirstLogFamily(type), firstFamilies[type - 1]);
+  for (int type = 1; type <= 8; ++type)
+    EXPECT_EQ(families.FirstLogFamily(type), firstFamilies[type - 1]);
   EXPECT_EQ(families.FirstLogFamily(9), 0);
   EXPECT_TRUE(families.Item(2).Holds(2));
   families.Item(6).UpdateDescription("Mine");

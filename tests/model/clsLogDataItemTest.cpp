@@ -28,6 +28,7 @@ TEST(clsLogDataItem, TurnsStoredIntegersIntoTextAndValue) {
   };
   constexpr auto kLeast = std::numeric_limits<std::int32_t>::min();
   const Row rows[] = {
+      // clang-format off
       {Item(kPlainItem, 10, 1, 0), 1234, "1234", 1234},  // the factor of a plain item does not count
       {Item(kPlainItem, 1, 0, 1000), 995, "-5", -5},
       {Item(kPlainItem, 1, 0, 1), kLeast, "-2147483649", -2147483649.0},
@@ -46,6 +47,7 @@ TEST(clsLogDataItem, TurnsStoredIntegersIntoTextAndValue) {
       {Item(kListItem, 1, 0, 0, false), 0, "Off", 0},
       {Item(kListItem, 1, 0, 0), 2, "", 2},
       {Item(kListItem, 1, 0, 0), -1, "", -1},
+      // clang-format on
   };
   for (const Row& row : rows) {
     EXPECT_EQ(row.item.GetFormattedData(row.stored), row.text) << row.stored;

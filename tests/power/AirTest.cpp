@@ -23,7 +23,8 @@ TEST(Air, TheFactorOfTheDaysAir) {
       {{20, 0, "0", kRelative}, ""},
   };
   for (const auto& row : kRows)
-    EXPECT_EQ(CorrectionFactor(row.air), row.factor) << row.air.temperature << " " << row.air.humidity;
+    EXPECT_EQ(CorrectionFactor(row.air), row.factor)
+        << row.air.temperature << " " << row.air.humidity;
 }
 
 TEST(Air, HumidityOfAWetBulbIsAWholePerCent) {

@@ -13,9 +13,11 @@ clsCarDefs Read(const std::string& lines) {
 
 TEST(CarDefSettings, CarsAreReadWhileTheyHaveUnitsAndHeldToTheirLimits) {
   const clsCarDefs cars = Read(
-      "Units Car Def 1=M\nName Car Def 1=One\nDrag Coefficient Car Def 1=7\nFrontal Area Car Def 1=0\n"
+      "Units Car Def 1=M\nName Car Def 1=One\nDrag Coefficient Car Def 1=7\nFrontal Area Car Def "
+      "1=0\n"
       "Default Gear Car Def 1=6\nTyre Size Method Car Def 1=9\nUse Drag Coefficient Car Def 1=Y\n"
-      "Units Car Def 2=m\nDefault Gear Car Def 2=0\nTyre Size Method Car Def 2=2\nUnits Car Def 4=M\n");
+      "Units Car Def 2=m\nDefault Gear Car Def 2=0\nTyre Size Method Car Def 2=2\nUnits Car Def "
+      "4=M\n");
   ASSERT_EQ(cars.Count(), 2);
   const clsCarDef& one = cars.Item(1);
   EXPECT_EQ(one.strName, "One");
@@ -33,8 +35,10 @@ TEST(CarDefSettings, CarsAreReadWhileTheyHaveUnitsAndHeldToTheirLimits) {
 
 TEST(CarDefSettings, TheOneCarOfAnOldFileBecomesTheOriginal) {
   const clsCarDefs cars = Read(
-      "Units=M\nGear Ratio 0=3.5\nGear Ratio 5=0.7\nGear Ratio 6=3.9\nGear Loss 0=20\nGear Loss 5=4\n"
-      "Drive Wheel Radius=290\nSet Point Power=75\nSet Point Speed=180\nUse Drag Coefficient=Y\nDefault Gear=2\n"
+      "Units=M\nGear Ratio 0=3.5\nGear Ratio 5=0.7\nGear Ratio 6=3.9\nGear Loss 0=20\nGear Loss "
+      "5=4\n"
+      "Drive Wheel Radius=290\nSet Point Power=75\nSet Point Speed=180\nUse Drag "
+      "Coefficient=Y\nDefault Gear=2\n"
       "Default Car Weight=1100\nDefault Dyno Factor=5\n");
   ASSERT_EQ(cars.Count(), 1);
   const clsCarDef& car = cars.Item(1);

@@ -7,8 +7,8 @@ namespace tarnview {
 namespace {
 
 std::string Measures(const CarFields& f) {
-  return f.radius + " " + f.setPointPower + " " + f.setPointSpeed + " " + f.carWeight + " " + f.contentsWeight + " " +
-         f.tyreRpm + " " + f.frontalArea;
+  return f.radius + " " + f.setPointPower + " " + f.setPointSpeed + " " + f.carWeight + " " +
+         f.contentsWeight + " " + f.tyreRpm + " " + f.frontalArea;
 }
 
 TEST(CarFields, ShowACarAndGiveItBack) {
@@ -53,18 +53,21 @@ TEST(CarFields, EachUnitHasItsLabels) {
     const CarUnitRow& row = CarUnitOf(static_cast<CarUnit>(unit));
     text += std::string(row.imperialLabel) + " / " + row.metricLabel + "\n";
   }
-  EXPECT_EQ(text,
-            "Drive Wheel Radius (inches) / Drive Wheel Radius (mm)\nWheel Power (hp) / Wheel Power (kW)\n"
-            "Speed (mph) / Speed (kmh)\nCar Kerb Weight (lb) / Car Kerb Weight (kg)\n"
-            "Car Contents Weight (lb) / Car Contents Weight (kg)\nTotal Car Weight (lb) / Total Car Weight (kg)\n"
-            "Revs per Mile / Revs per km\nFrontal Area (ft2) / Frontal Area (m2)\n");
+  EXPECT_EQ(
+      text,
+      "Drive Wheel Radius (inches) / Drive Wheel Radius (mm)\nWheel Power (hp) / Wheel Power (kW)\n"
+      "Speed (mph) / Speed (kmh)\nCar Kerb Weight (lb) / Car Kerb Weight (kg)\n"
+      "Car Contents Weight (lb) / Car Contents Weight (kg)\nTotal Car Weight (lb) / Total Car "
+      "Weight (kg)\n"
+      "Revs per Mile / Revs per km\nFrontal Area (ft2) / Frontal Area (m2)\n");
 }
 
 TEST(CarFields, DragIsHeldToItsLimits) {
-  const char* kRows[][3] = {{"1", "0.99", "1.00"},         {"0", "0.01", "0.01"},       {"abc", "0.01", "0.01"},
-                            {"50", "0.99", "49.99"},       {"49.994", "0.99", "49.99"}, {"0.345", "0.34", "0.34"},
-                            {"0.3 or so", "0.30", "0.30"}, {"-1", "0.01", "0.01"},      {"0.996", "0.99", "1.00"},
-                            {"", "0.01", "0.01"}};
+  const char* kRows[][3] = {{"1", "0.99", "1.00"},         {"0", "0.01", "0.01"},
+                            {"abc", "0.01", "0.01"},       {"50", "0.99", "49.99"},
+                            {"49.994", "0.99", "49.99"},   {"0.345", "0.34", "0.34"},
+                            {"0.3 or so", "0.30", "0.30"}, {"-1", "0.01", "0.01"},
+                            {"0.996", "0.99", "1.00"},     {"", "0.01", "0.01"}};
   for (const auto& [text, cd, area] : kRows) {
     EXPECT_EQ(ValidateCD(text), cd) << text;
     EXPECT_EQ(ValidateFrontalArea(text), area) << text;

@@ -57,7 +57,8 @@ TEST(CarFile, IsWrittenAsItWasRead) {
 TEST(CarFile, WhatAFileDoesNotNameStays) {
   const CarFields before = FieldsOf({});
   CarFields fields = before;
-  EXPECT_TRUE(ReadCarFile(std::string(kStart) + "name=a\nName =b\nunits=M\nTyre Width\n=1\nUnknown=2", fields));
+  EXPECT_TRUE(ReadCarFile(
+      std::string(kStart) + "name=a\nName =b\nunits=M\nTyre Width\n=1\nUnknown=2", fields));
   EXPECT_EQ(CarFileText(fields, kNow), CarFileText(before, kNow));
   EXPECT_FALSE(ReadCarFile("Car Definition Details: \nName=a", fields));
   EXPECT_FALSE(ReadCarFile("", fields));

@@ -43,8 +43,9 @@ TEST(Drag, NumbersInFrontOfUnits) {
   const struct {
     const char* text;
     double number;
-  } kRows[] = {{"110 hp", 110}, {"-0.5kW", -0.5}, {"1e3 hp", 1000}, {"1e kg", 1}, {" 12", 12},    {"12,5", 12},
-               {"hp 110", 0},   {"", 0},          {".5 m2", 0.5},   {"-", 0},     {"2.2 m2", 2.2}};
+  } kRows[] = {{"110 hp", 110}, {"-0.5kW", -0.5}, {"1e3 hp", 1000}, {"1e kg", 1},
+               {" 12", 12},     {"12,5", 12},     {"hp 110", 0},    {"", 0},
+               {".5 m2", 0.5},  {"-", 0},         {"2.2 m2", 2.2}};
   for (const auto& row : kRows) EXPECT_EQ(CDblStripUnits(row.text), row.number) << row.text;
   EXPECT_EQ(CDblStripUnits(std::string(1 << 20, '1')), 0);  // beyond a double
 }

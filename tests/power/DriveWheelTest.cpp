@@ -53,7 +53,8 @@ TEST(DriveWheel, TheGearThatExplainsTheSpeedAndTheLowerOfTwo) {
                {10, 1579, 3},
                {10, 1579.5, 2},
                {10, 1580, 2}};
-  for (const auto& row : kRows) EXPECT_EQ(GearOfSpeed(clsCarDef(), row.speed, row.rpm), row.gear) << row.rpm;
+  for (const auto& row : kRows)
+    EXPECT_EQ(GearOfSpeed(clsCarDef(), row.speed, row.rpm), row.gear) << row.rpm;
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ TEST(PowerChart, LegendsNamePeaksAndTopSpeed) {
   EXPECT_EQ(PowerLegend("Your", peaks, true), "Your Power (141.2 hp @ 6480 rpm, Vmax 128 mph)");
   EXPECT_EQ(TorqueLegend("Your", peaks, true), "Your Torque (131.0 lbft @ 4200 rpm)");
   peaks.topSpeed = 206.1;
-  EXPECT_EQ(PowerLegend("Benchmark", peaks, false), "Benchmark Power (141.2 kW @ 6480 rpm, Vmax 206.1 kmh)");
+  EXPECT_EQ(PowerLegend("Benchmark", peaks, false),
+            "Benchmark Power (141.2 kW @ 6480 rpm, Vmax 206.1 kmh)");
   EXPECT_EQ(TorqueLegend("Benchmark", peaks, false), "Benchmark Torque (131.0 Nm @ 4200 rpm)");
   peaks.topSpeed.reset();
   EXPECT_EQ(PowerLegend("Benchmark", peaks, true), "Benchmark Power (141.2 hp @ 6480 rpm)");
@@ -26,10 +27,10 @@ TEST(PowerChart, AxesEndAtRoundNumbers) {
                                                  {7999.5, "1000-9000/8"}, {8999, "1000-9000/8"},
                                                  {9000, "1000-10000/9"},  {14000, "1000-10000/9"}};
   for (const auto& [rpm, axis] : kRpm) EXPECT_EQ(Axis(RpmAxis(rpm)), axis) << rpm;
-  const std::pair<double, const char*> kPower[] = {{-5, "0-20/1"},     {0, "0-20/1"},     {19.9, "0-20/1"},
-                                                   {20, "0-40/2"},     {299, "0-300/15"}, {300, "0-320/16"},
-                                                   {300.1, "0-350/7"}, {350, "0-400/8"},  {500, "0-550/11"},
-                                                   {500.1, "0-600/6"}, {600, "0-700/7"},  {999.9, "0-1000/10"}};
+  const std::pair<double, const char*> kPower[] = {
+      {-5, "0-20/1"},    {0, "0-20/1"},      {19.9, "0-20/1"},   {20, "0-40/2"},
+      {299, "0-300/15"}, {300, "0-320/16"},  {300.1, "0-350/7"}, {350, "0-400/8"},
+      {500, "0-550/11"}, {500.1, "0-600/6"}, {600, "0-700/7"},   {999.9, "0-1000/10"}};
   for (const auto& [top, axis] : kPower) EXPECT_EQ(Axis(PowerAxis(top)), axis) << top;
 }
 

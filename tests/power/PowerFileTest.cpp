@@ -66,16 +66,19 @@ std::string Rows(const PowerFile& f) {
   for (const PowerPoint& p : f.points)
     text += NumberText(p.rpm) + "," + NumberText(p.power) + "," + NumberText(p.torque) + " ";
   text += "| ";
-  for (const SpeedPoint& p : f.speed) text += NumberText(p.seconds) + "," + NumberText(p.speed) + " ";
+  for (const SpeedPoint& p : f.speed)
+    text += NumberText(p.seconds) + "," + NumberText(p.speed) + " ";
   return text;
 }
 
 std::string Printed(const PowerFile& f) {
-  return f.file + "; " + f.plotFrom + "-" + f.plotTo + "; " + f.comments + "\n" + All(f.gearRatios) + f.finalDrive +
-         "; " + All(f.gearLosses) + "\n" + f.driveWheel + "; " + (f.usesDrag ? "drag" : "set point") + " " +
-         f.setPointPower + " " + f.setPointSpeed + " " + f.dragCoefficient + " " + f.frontalArea + "\n" + f.gear + " " +
-         f.carWeight + " " + f.smoothing + " " + f.dyno + " " + f.units + "\n" + f.temperature + ", " + f.pressure +
-         ", " + f.humidity + ", " + f.correctionFactor + ", " + f.correctionSummary + "\n" + Rows(f);
+  return f.file + "; " + f.plotFrom + "-" + f.plotTo + "; " + f.comments + "\n" +
+         All(f.gearRatios) + f.finalDrive + "; " + All(f.gearLosses) + "\n" + f.driveWheel + "; " +
+         (f.usesDrag ? "drag" : "set point") + " " + f.setPointPower + " " + f.setPointSpeed + " " +
+         f.dragCoefficient + " " + f.frontalArea + "\n" + f.gear + " " + f.carWeight + " " +
+         f.smoothing + " " + f.dyno + " " + f.units + "\n" + f.temperature + ", " + f.pressure +
+         ", " + f.humidity + ", " + f.correctionFactor + ", " + f.correctionSummary + "\n" +
+         Rows(f);
 }
 
 TEST(PowerFile, IsReadAsItWasWritten) {
@@ -92,12 +95,16 @@ TEST(PowerFile, IsReadAsItWasWritten) {
 // The earlier generation has neither log details nor speeds.
 TEST(PowerFile, TheKeysOfTheEarlierGenerationAreSynonyms) {
   const PowerFile f = ReadPowerFile(
-      "Calculation Parameters:\nGear Ratio 1=3.1\nGear Ratio 2=2\nGear Ratio 3=1.5\nGear Ratio 4=1.1\nGear Ratio "
+      "Calculation Parameters:\nGear Ratio 1=3.1\nGear Ratio 2=2\nGear Ratio 3=1.5\nGear Ratio "
+      "4=1.1\nGear Ratio "
       "5=0.9\n"
-      "Gear Ratio 6=0.8\nFinal Drive=4.3\nGear Loss 1=9\nGear Loss 2=8\nGear Loss 3=7\nGear Loss 4=6\nGear Loss 5=5\n"
-      "Gear Loss 6=4\nDrive Wheel Radius=11.5 in\nKnown Set Point Power=75 kW\nKnown Set Point Speed=180 "
+      "Gear Ratio 6=0.8\nFinal Drive=4.3\nGear Loss 1=9\nGear Loss 2=8\nGear Loss 3=7\nGear Loss "
+      "4=6\nGear Loss 5=5\n"
+      "Gear Loss 6=4\nDrive Wheel Radius=11.5 in\nKnown Set Point Power=75 kW\nKnown Set Point "
+      "Speed=180 "
       "kmh\nGear=4th\n"
-      "Car Weight=1200 kg\nGraph Smoothing Factor=6\nDyno Correction Factor=2\nPower Units=kW\nSAE Correction=On\n"
+      "Car Weight=1200 kg\nGraph Smoothing Factor=6\nDyno Correction Factor=2\nPower Units=kW\nSAE "
+      "Correction=On\n"
       "Air Temperature=20\nGraph Data (RPM, Power, Torque):\n3000,050.0,100.0\n");
   EXPECT_EQ(Printed(f),
             "; -; \n3.1 2 1.5 1.1 0.9 0.8 4.3; 9 8 7 6 5 4 \n"
@@ -108,7 +115,9 @@ TEST(PowerFile, TheKeysOfTheEarlierGenerationAreSynonyms) {
 }
 
 TEST(PowerFile, EachAttributeByItself) {
-  const auto with = [](const std::string& lines) { return ReadPowerFile("Calculation Parameters:\n" + lines); };
+  const auto with = [](const std::string& lines) {
+    return ReadPowerFile("Calculation Parameters:\n" + lines);
+  };
   EXPECT_EQ(with("Power Units=hp").units, "Imperial");
   EXPECT_EQ(with("Torque Units=lb ft").units, "Imperial");
   EXPECT_EQ(with("Torque Units=Nm").units, "Metric");
@@ -126,13 +135,16 @@ TEST(PowerFile, EachAttributeByItself) {
 
 TEST(PowerFile, FieldsStandAtFixedPlaces) {
   const auto rows = [](const std::string& lines) {
-    return Rows(ReadPowerFile("Calculation Parameters:\nGraph Data (RPM, Power, Torque):\n" + lines));
+    return Rows(
+        ReadPowerFile("Calculation Parameters:\nGraph Data (RPM, Power, Torque):\n" + lines));
   };
   EXPECT_EQ(rows("6000,100.0,200.0"), "6000,100,200 | ");
-  EXPECT_EQ(rows("6000,1000.5,200.0"), "6000,1000,0 | ");  // a field too wide: the torque is misread, kept on purpose
+  EXPECT_EQ(rows("6000,1000.5,200.0"),
+            "6000,1000,0 | ");  // a field too wide: the torque is misread, kept on purpose
   EXPECT_EQ(rows("10000,100.0,200.0"), "1000,0,0 | ");
   EXPECT_EQ(rows("\n\nabc\n6000\n6000,1"), "0,0,0 6000,0,0 6000,1,0 | ");
-  EXPECT_EQ(rows("Graph Speed Data (Time, Speed):\n\n000.10,12.5\n000.20,1e9\nx"), "| 0.1,12.5 0.2,1000000000 0,0 ");
+  EXPECT_EQ(rows("Graph Speed Data (Time, Speed):\n\n000.10,12.5\n000.20,1e9\nx"),
+            "| 0.1,12.5 0.2,1000000000 0,0 ");
   EXPECT_EQ(rows("Graph Speed Data (Time, Speed): \n"), "0,0,0 | ");
 }
 
@@ -142,9 +154,11 @@ TEST(PowerFile, IsWrittenWithPaddedFieldsAndWithoutTheFirstSpeed) {
   f.points = {{7.4, -0.04, -0.5}, {10000, 1000.5, 99.95}};
   f.speed = {{0, 30}, {0.004, 31}, {1234.5, 1000}};
   const std::string text = PowerFileText(f, {});
-  EXPECT_NE(text.find("Torque):\r\n\r\n0007,000.0,-000.5\r\n10000,1000.5,100.0\r\n\r\nGraph"), std::string::npos)
+  EXPECT_NE(text.find("Torque):\r\n\r\n0007,000.0,-000.5\r\n10000,1000.5,100.0\r\n\r\nGraph"),
+            std::string::npos)
       << text;
-  EXPECT_NE(text.find("Speed):\r\n\r\n000.00,031.00\r\n1234.50,1000.00\r\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("Speed):\r\n\r\n000.00,031.00\r\n1234.50,1000.00\r\n"), std::string::npos)
+      << text;
   EXPECT_NE(text.find("\r\nDrag Coefficient=\r\nFrontal Area=\r\nGear="), std::string::npos);
   EXPECT_NE(text.find("\r\nWet Bulb Air Temperature=N/A\r\n\r\nGraph"), std::string::npos);
   EXPECT_EQ(text.find("Set Point"), std::string::npos);
@@ -153,7 +167,9 @@ TEST(PowerFile, IsWrittenWithPaddedFieldsAndWithoutTheFirstSpeed) {
 TEST(PowerFile, ATextWithoutItsHeadingsIsAnEmptyGraph) {
   const std::string empty = Printed(ReadPowerFile(""));
   EXPECT_EQ(Printed(ReadPowerFile("Tarnview Power Graph File\nGear=1st\n6000,100.0,200.0")), empty);
-  EXPECT_EQ(Printed(ReadPowerFile("Data Log Details: \nGraph Data (RPM, Power, Torque):\n1000,100.0,200.0")), empty);
+  EXPECT_EQ(Printed(ReadPowerFile(
+                "Data Log Details: \nGraph Data (RPM, Power, Torque):\n1000,100.0,200.0")),
+            empty);
   EXPECT_EQ(ReadPowerFile("Data Log Details:\nFile=a\nGear=1st").file, "a");
 }
 

@@ -9,14 +9,17 @@
 namespace tarnview {
 namespace {
 
-const std::vector<RunSample> kRough{{0, 2000},  {.1, 2060}, {.2, 2130}, {.3, 2130}, {.3, 2200}, {.4, 2290},
-                                    {.5, 2370}, {.6, 0},    {.7, 2500}, {.8, 2590}, {.9, 2670}, {1.0, 2640}};
-const std::vector<RunSample> kSmooth{{0, 2000},   {.08, 2062}, {.16, 2115}, {.24, 2182}, {.32, 2240}, {.4, 2289},
-                                     {.48, 2352}, {.56, 2406}, {.64, 2451}, {.72, 2510}, {.8, 2560}};
+const std::vector<RunSample> kRough{{0, 2000},  {.1, 2060}, {.2, 2130}, {.3, 2130},
+                                    {.3, 2200}, {.4, 2290}, {.5, 2370}, {.6, 0},
+                                    {.7, 2500}, {.8, 2590}, {.9, 2670}, {1.0, 2640}};
+const std::vector<RunSample> kSmooth{{0, 2000},   {.08, 2062}, {.16, 2115}, {.24, 2182},
+                                     {.32, 2240}, {.4, 2289},  {.48, 2352}, {.56, 2406},
+                                     {.64, 2451}, {.72, 2510}, {.8, 2560}};
 
 std::string Line(std::initializer_list<std::pair<double, int>> numbers) {
   std::string line;
-  for (const auto& [number, places] : numbers) line += (line.empty() ? "" : " ") + FixedText(number, places);
+  for (const auto& [number, places] : numbers)
+    line += (line.empty() ? "" : " ") + FixedText(number, places);
   return line;
 }
 
@@ -29,7 +32,8 @@ std::string Printed(const PowerCurves& curves) {
     text += Line({{p.rpm, 1}, {p.power, 2}, {p.torque, 2}, {s.seconds, 2}, {s.speed, 3}}) + "\n";
   }
   const PowerPeaks& k = curves.peaks;
-  return text + "peaks " + Line({{k.power, 2}, {k.powerRpm, 1}, {k.torque, 2}, {k.torqueRpm, 1}, {k.maxRpm, 1}}) +
+  return text + "peaks " +
+         Line({{k.power, 2}, {k.powerRpm, 1}, {k.torque, 2}, {k.torqueRpm, 1}, {k.maxRpm, 1}}) +
          " top " + NumberText(*k.topSpeed);
 }
 
@@ -63,29 +67,38 @@ PowerRun MetricRun() {
   return run;
 }
 
-// A repeated time and a standing engine give no point, and the next interval starts from them; falling rpm give less
-// than no power.
+// A repeated time and a standing engine give no point, and the next interval starts from them;
+// falling rpm give less than no power.
 TEST(PowerRun, EachIntervalGivesAPointThatIsNotClamped) {
   EXPECT_EQ(Printed(CurvesOf(RunOf(kRough, 3, 0))),
-            "2030.0 107.28 277.56 0.00 15.195\n2095.0 128.91 323.17 0.10 15.712\n2130.0 2.85 7.04 0.20 15.712\n"
-            "2245.0 177.21 414.57 0.30 16.892\n2330.0 164.14 369.98 0.40 17.482\n1185.0 -2416.21 -10709.03 0.50 0.000\n"
-            "2545.0 201.97 416.80 0.60 19.105\n2630.0 186.42 372.29 0.70 19.695\n2655.0 -63.01 -124.65 0.80 19.474\n"
+            "2030.0 107.28 277.56 0.00 15.195\n2095.0 128.91 323.17 0.10 15.712\n2130.0 2.85 7.04 "
+            "0.20 15.712\n"
+            "2245.0 177.21 414.57 0.30 16.892\n2330.0 164.14 369.98 0.40 17.482\n1185.0 -2416.21 "
+            "-10709.03 0.50 0.000\n"
+            "2545.0 201.97 416.80 0.60 19.105\n2630.0 186.42 372.29 0.70 19.695\n2655.0 -63.01 "
+            "-124.65 0.80 19.474\n"
             "peaks 201.97 2545.0 416.80 2545.0 2655.0 top 145.4");
 }
 
 TEST(PowerRun, CurvesAreSmoothedAndTheirPeaksTakenBehindIt) {
   EXPECT_EQ(Printed(CurvesOf(RunOf(kSmooth, 3, 3))),
-            "2031.0 138.77 339.48 0.00 15.210\n2088.5 139.23 338.42 0.08 15.601\n2148.5 139.05 335.12 0.16 16.095\n"
-            "2211.0 139.94 331.36 0.24 16.523\n2264.5 141.02 327.38 0.32 16.884\n2320.5 141.30 321.68 0.40 17.349\n"
-            "2379.0 142.30 317.70 0.48 17.748\n2428.5 142.98 313.94 0.56 18.079\n2480.5 142.49 308.43 0.64 18.515\n"
+            "2031.0 138.77 339.48 0.00 15.210\n2088.5 139.23 338.42 0.08 15.601\n2148.5 139.05 "
+            "335.12 0.16 16.095\n"
+            "2211.0 139.94 331.36 0.24 16.523\n2264.5 141.02 327.38 0.32 16.884\n2320.5 141.30 "
+            "321.68 0.40 17.349\n"
+            "2379.0 142.30 317.70 0.48 17.748\n2428.5 142.98 313.94 0.56 18.079\n2480.5 142.49 "
+            "308.43 0.64 18.515\n"
             "2535.0 142.69 307.07 0.72 18.883\npeaks 142.98 2428.5 339.48 2031.0 2535.0 top 129.6");
 }
 
 TEST(PowerRun, AMetricCarWithADragCoefficientCorrectedInThirdGear) {
   EXPECT_EQ(Printed(CurvesOf(MetricRun())),
-            "2031.0 67.37 305.84 0.00 11.484\n2088.5 66.85 301.65 0.08 11.779\n2148.5 67.10 297.32 0.16 12.152\n"
-            "2211.0 67.91 294.46 0.24 12.475\n2264.5 68.10 287.96 0.32 12.748\n2320.5 68.21 281.46 0.40 13.099\n"
-            "2379.0 68.25 274.96 0.48 13.399\n2428.5 68.85 272.11 0.56 13.650\n2480.5 68.75 267.77 0.64 13.979\n"
+            "2031.0 67.37 305.84 0.00 11.484\n2088.5 66.85 301.65 0.08 11.779\n2148.5 67.10 297.32 "
+            "0.16 12.152\n"
+            "2211.0 67.91 294.46 0.24 12.475\n2264.5 68.10 287.96 0.32 12.748\n2320.5 68.21 281.46 "
+            "0.40 13.099\n"
+            "2379.0 68.25 274.96 0.48 13.399\n2428.5 68.85 272.11 0.56 13.650\n2480.5 68.75 267.77 "
+            "0.64 13.979\n"
             "2535.0 69.69 268.37 0.72 14.257\npeaks 69.69 2535.0 305.84 2031.0 2535.0 top 203.6");
 }
 
@@ -102,11 +115,15 @@ TEST(PowerRun, AFactorCountsOnlyForACorrectedRunAndNoneAtAllIsNoPower) {
 }
 
 TEST(PowerRun, AveragingComesBehindSmoothingAndAheadOfThePeaks) {
-  const std::vector<PowerPoint> benchmark{{2000, 50, 100}, {2200, 60, 120}, {2200, 99, 99}, {2400, 80, 140}};
+  const std::vector<PowerPoint> benchmark{
+      {2000, 50, 100}, {2200, 60, 120}, {2200, 99, 99}, {2400, 80, 140}};
   EXPECT_EQ(Printed(CurvesOf(RunOf(kSmooth, 3, 3), &benchmark)),
-            "2031.0 95.16 221.29 0.00 15.210\n2088.5 96.83 223.64 0.08 15.601\n2148.5 98.24 224.98 0.16 16.095\n"
-            "2211.0 118.95 216.31 0.24 16.523\n2264.5 116.95 219.80 0.32 16.884\n2320.5 114.43 222.69 0.40 17.349\n"
-            "2379.0 112.15 226.70 0.48 17.748\n2428.5 142.98 313.94 0.56 18.079\n2480.5 142.49 308.43 0.64 18.515\n"
+            "2031.0 95.16 221.29 0.00 15.210\n2088.5 96.83 223.64 0.08 15.601\n2148.5 98.24 224.98 "
+            "0.16 16.095\n"
+            "2211.0 118.95 216.31 0.24 16.523\n2264.5 116.95 219.80 0.32 16.884\n2320.5 114.43 "
+            "222.69 0.40 17.349\n"
+            "2379.0 112.15 226.70 0.48 17.748\n2428.5 142.98 313.94 0.56 18.079\n2480.5 142.49 "
+            "308.43 0.64 18.515\n"
             "2535.0 142.69 307.07 0.72 18.883\npeaks 142.98 2428.5 313.94 2428.5 2535.0 top 129.6");
 }
 
@@ -115,6 +132,7 @@ TEST(PowerRun, ACarThatCannotBeReckonedWithFailsAndSaysWhichField) {
     const char* printed;
     void (*spoil)(PowerRun&);
   } kRows[] = {
+      // clang-format off
       {"failed: 4th Gear Ratio", [](PowerRun& r) { r.car.dbl4thGearRatio = 0; }},
       {"failed: 4th Gear Ratio", [](PowerRun& r) { r.car.dbl4thGearRatio = std::numeric_limits<double>::quiet_NaN(); }},
       {"failed: Diff Ratio", [](PowerRun& r) { r.car.dblDiffRatio = -1; }},
@@ -128,6 +146,7 @@ TEST(PowerRun, ACarThatCannotBeReckonedWithFailsAndSaysWhichField) {
       {"failed: Atmospheric Pressure", [](PowerRun& r) { r.car.blnUseCD = true, r.air.pressure = 0; }},
       {"failed: ", [](PowerRun& r) { r.car.dblDiffRatio = 1e-200; }},
       {"peaks 0.00 0.0 0.00 0.0 0.0 top 0", [](PowerRun& r) { r.samples.clear(); }},
+      // clang-format on
   };
   for (const auto& row : kRows) {
     PowerRun run = RunOf(kSmooth, 3, 0);

@@ -21,13 +21,15 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
   static std::string Lines() {
     std::string lines;
     for (int i = 0; i <= 1200; ++i)
-      lines += std::to_string(100 + i) + " " + FixedText(i * 0.1, 1) + " " + std::to_string(2000 + i * 20) + " 4.5\n";
+      lines += std::to_string(100 + i) + " " + FixedText(i * 0.1, 1) + " " +
+               std::to_string(2000 + i * 20) + " 4.5\n";
     return lines;
   }
 
   void Open(const std::string& lines = Lines()) {
     made = std::make_unique<PowerLog>(lines);
-    const frmPowerGraph::Surroundings around{made->log, settings, cars, files, clock, errors, messages};
+    const frmPowerGraph::Surroundings around{made->log, settings, cars,    files,
+                                             clock,     errors,   messages};
     frmPowerGraph::MainWindow& self = *this;
     window = std::make_unique<frmPowerGraph>(host, around, self);
     window->Show();
@@ -37,10 +39,13 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
     window->txtPlotRangeTo.Do({"type", {to}});
     window->cmdDrawGraph.Do({"click", {}});
   }
-  std::string Range() const { return window->txtPlotRangeFrom.Text() + "-" + window->txtPlotRangeTo.Text(); }
+  std::string Range() const {
+    return window->txtPlotRangeFrom.Text() + "-" + window->txtPlotRangeTo.Text();
+  }
   std::string Names() const {
     std::string names;
-    for (const ChartSeries& series : window->chPowerGraph.Data().Series()) names += series.name + "\n";
+    for (const ChartSeries& series : window->chPowerGraph.Data().Series())
+      names += series.name + "\n";
     return names;
   }
   /// The ids of the boxes since the last call.
@@ -54,7 +59,8 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
 
   SampleRange MainRange() const override { return mainRange; }
   void PlotRun(const SampleRange& range, std::int32_t sample) override {
-    plotted += std::to_string(range.from) + "-" + std::to_string(range.to) + " at " + std::to_string(sample);
+    plotted += std::to_string(range.from) + "-" + std::to_string(range.to) + " at " +
+               std::to_string(sample);
   }
   double AutoGearSpeedFactor() const override { return speedFactor; }
   void OpenSpeedGraph(const SpeedGraphInput& input) override { speedGraphs.push_back(input); }

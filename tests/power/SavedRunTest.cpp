@@ -15,16 +15,17 @@ PowerCurves SmallCurves(bool imperial) {
 }
 
 std::string Texts(const PowerFile& f) {
-  return f.file + " " + f.plotFrom + "-" + f.plotTo + " " + f.comments + "; " + f.gearRatios[2] + " " + f.finalDrive +
-         " " + f.gearLosses[0] + "; " + f.driveWheel + "; " + f.setPointPower + " " + f.setPointSpeed + "; " +
-         f.dragCoefficient + " " + f.frontalArea + "; " + f.gear + " " + f.carWeight + " " + f.smoothing + " " +
-         f.dyno + " " + f.units + "; " + f.temperature + " " + f.pressure + " " + f.humidity + "; " +
-         f.correctionFactor;
+  return f.file + " " + f.plotFrom + "-" + f.plotTo + " " + f.comments + "; " + f.gearRatios[2] +
+         " " + f.finalDrive + " " + f.gearLosses[0] + "; " + f.driveWheel + "; " + f.setPointPower +
+         " " + f.setPointSpeed + "; " + f.dragCoefficient + " " + f.frontalArea + "; " + f.gear +
+         " " + f.carWeight + " " + f.smoothing + " " + f.dyno + " " + f.units + "; " +
+         f.temperature + " " + f.pressure + " " + f.humidity + "; " + f.correctionFactor;
 }
 
 std::string Speeds(const PowerFile& f) {
   std::string text;
-  for (const SpeedPoint& p : f.speed) text += FixedText(p.seconds, 2) + " " + FixedText(p.speed, 3) + "; ";
+  for (const SpeedPoint& p : f.speed)
+    text += FixedText(p.seconds, 2) + " " + FixedText(p.speed, 3) + "; ";
   return text;
 }
 
@@ -34,9 +35,10 @@ TEST(SavedRun, TellsTheRunInWords) {
   run.contentsWeight = 180;
   run.smoothing = 7;
   PowerFile f = SavedRun(run, SmallCurves(true), {"/logs/a.txt", "12", "90", "wet"}, "0.980");
-  EXPECT_EQ(Texts(f),
-            "/logs/a.txt 12-90 wet; 1.330 4.100 15; Tyre size 185/60 R14; 100 hp 115 mph; 0.4 2 ft2; "
-            "3rd 2600 lb 7 0 Imperial; 20 'C 101 kPa 50 %; ");
+  EXPECT_EQ(
+      Texts(f),
+      "/logs/a.txt 12-90 wet; 1.330 4.100 15; Tyre size 185/60 R14; 100 hp 115 mph; 0.4 2 ft2; "
+      "3rd 2600 lb 7 0 Imperial; 20 'C 101 kPa 50 %; ");
   EXPECT_EQ(Speeds(f), "0.00 44.739; 0.08 45.857; ");
   EXPECT_FALSE(f.usesDrag);
 

@@ -29,7 +29,8 @@ TEST(Smoothing, TwoAveragesInWhichThePointBehindTheLastCounts) {
 }
 
 TEST(Smoothing, TheSecondIsAThirdAsWideAndTwoAtLeastFromThreeOn) {
-  const std::int32_t kRows[][2] = {{0, 0}, {1, 0}, {2, 1}, {3, 2}, {4, 2}, {6, 2}, {7, 2}, {8, 3}, {10, 3}, {11, 4}};
+  const std::int32_t kRows[][2] = {{0, 0}, {1, 0}, {2, 1}, {3, 2},  {4, 2},
+                                   {6, 2}, {7, 2}, {8, 3}, {10, 3}, {11, 4}};
   for (const auto& [factor, half] : kRows) EXPECT_EQ(SecondHalfWidth(factor), half) << factor;
 }
 

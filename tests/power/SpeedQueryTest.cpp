@@ -11,8 +11,9 @@ TEST(SpeedQuery, TimeFromOneSpeedToTheOther) {
     double from, to;
     const char* time;
   } kRows[] = {
-      {40, 60, "02.00"},   {35, 65, "04.00"}, {60, 60, "00.00"}, {30.6, 60, "02.98"}, {30.4, 70, "N/A"},
-      {31, 70.4, "04.94"}, {30, 60, "N/A"},   {40, 71, "N/A"},   {31, 70.45, "N/A"},  {50, 55, "00.23"},
+      {40, 60, "02.00"},  {35, 65, "04.00"},   {60, 60, "00.00"}, {30.6, 60, "02.98"},
+      {30.4, 70, "N/A"},  {31, 70.4, "04.94"}, {30, 60, "N/A"},   {40, 71, "N/A"},
+      {31, 70.45, "N/A"}, {50, 55, "00.23"},
   };
   for (const auto& row : kRows)
     EXPECT_EQ(TimeBetween(kSeries, row.from, row.to), row.time) << row.from << " " << row.to;
@@ -22,7 +23,8 @@ TEST(SpeedQuery, TimeFromOneSpeedToTheOther) {
   EXPECT_EQ(TimeBetween({{2, 50.5}, {3, 60}}, 50.6, 60), "00.99");  // 51 lies above the first speed
 }
 
-// A speed that rounds to the first one or above, yet lies below it, has no way there: the first point's own time.
+// A speed that rounds to the first one or above, yet lies below it, has no way there: the first
+// point's own time.
 TEST(SpeedQuery, BelowTheFirstPointItsOwnTimeCounts) {
   EXPECT_EQ(TimeBetween({{2, 50.8}, {3, 60}}, 50.6, 60), "01.00");
 }

@@ -10,14 +10,15 @@
 namespace tarnview {
 namespace {
 
-/// Watts of a naturally aspirated engine of 1.8 litres: 105 kW at 6500 rpm, and less to either side.
+/// Watts of a naturally aspirated engine of 1.8 litres: 105 kW at 6500 rpm, and less to either
+/// side.
 double EnginePower(double rpm) {
   const double x = rpm / 6500;
   return 105000 * (x + x * x - x * x * x);
 }
 
-/// A pull in one gear from 2000 to 7000 rpm, driven in steps of a tenth of a millisecond and written down as a logger
-/// does: whole rpm, so many lines a second.
+/// A pull in one gear from 2000 to 7000 rpm, driven in steps of a tenth of a millisecond and
+/// written down as a logger does: whole rpm, so many lines a second.
 std::vector<RunSample> Pull(const PowerRun& run, double linesPerSecond) {
   constexpr double kStep = 0.0001;
   const double perRpm = SpeedPerRpm(run.car, run.gear);
@@ -34,14 +35,16 @@ std::vector<RunSample> Pull(const PowerRun& run, double linesPerSecond) {
   return samples;
 }
 
-/// The largest error, per cent of the true power, of the points but the first and last of the smoothing's reach.
+/// The largest error, per cent of the true power, of the points but the first and last of the
+/// smoothing's reach.
 double WorstError(const PowerRun& run) {
   double worst = 0;
   const PowerCurves curves = CurvesOf(run);
   const auto reach = static_cast<std::size_t>(run.smoothing);
   for (std::size_t i = reach; i + reach < curves.points.size(); ++i) {
     const PowerPoint& p = curves.points[i];
-    worst = std::max(worst, std::fabs(p.power * kWattsPerHorsepower / EnginePower(p.rpm) - 1) * 100);
+    worst =
+        std::max(worst, std::fabs(p.power * kWattsPerHorsepower / EnginePower(p.rpm) - 1) * 100);
   }
   return worst;
 }

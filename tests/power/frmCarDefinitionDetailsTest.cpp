@@ -12,10 +12,13 @@ namespace {
 class CarDetails : public ::testing::Test {
  protected:
   void Open(const clsCarDef& car = {}) {
-    window.emplace(host, frmCarDefinitionDetails::Surroundings{folder, files, clock, errors, messages}, car);
+    window.emplace(
+        host, frmCarDefinitionDetails::Surroundings{folder, files, clock, errors, messages}, car);
     window->Show();
   }
-  void Answer(Answer::Kind kind, const std::string& path = "") { host.answers.push_back({kind, path}); }
+  void Answer(Answer::Kind kind, const std::string& path = "") {
+    host.answers.push_back({kind, path});
+  }
   std::string Questions() {
     std::string texts;
     for (const Box& box : host.messages) texts += box.text + "\n";
@@ -25,8 +28,9 @@ class CarDetails : public ::testing::Test {
   std::string Measures() const {
     return window->txtWheelRadius.Text() + " " + window->txtSetPointPower.Text() + " " +
            window->txtSetPointSpeed.Text() + " " + window->txtCarWeight.Text() + "+" +
-           window->txtCarContentsWeight.Text() + "=" + window->txtTotalWeight.Text() + " " + window->txtTyreRPM.Text() +
-           " " + window->txtFrontalArea.Text() + " " + window->lblCarWeight.Caption();
+           window->txtCarContentsWeight.Text() + "=" + window->txtTotalWeight.Text() + " " +
+           window->txtTyreRPM.Text() + " " + window->txtFrontalArea.Text() + " " +
+           window->lblCarWeight.Caption();
   }
 
   RecordingHost host;
@@ -42,7 +46,9 @@ TEST_F(CarDetails, ShowsACarAndGivesItBackOnOK) {
   Open();
   EXPECT_EQ(Measures(), "11.50 100 115 2420+180=2600 887 2.00 Car Kerb Weight (lb)");
   EXPECT_EQ(window->txtGearRatios(2).Text() + " " + window->txtGearRatios(6).Text(), "1.330 4.100");
-  EXPECT_EQ(window->cboTyreWidth.Text() + window->cboTyreProfile.Text() + window->cboWheelDiameter.Text(), "1856014");
+  EXPECT_EQ(
+      window->cboTyreWidth.Text() + window->cboTyreProfile.Text() + window->cboWheelDiameter.Text(),
+      "1856014");
   EXPECT_EQ(window->cboDefGear.Text(), "4th");
   window->txtName.Do({"type", {"Mine"}});
   window->txtGearRatios(6).Do({"type", {"3.9"}});
@@ -70,10 +76,10 @@ TEST_F(CarDetails, OptionsEnableTheirOwnFields) {
   Open();
   const auto enabled = [this] {
     std::string text;
-    for (Control* control :
-         std::initializer_list<Control*>{&window->cboTyreWidth, &window->cboTyreProfile, &window->cboWheelDiameter,
-                                         &window->txtTyreRPM, &window->txtWheelRadius, &window->txtSetPointPower,
-                                         &window->txtSetPointSpeed, &window->txtCD, &window->txtFrontalArea})
+    for (Control* control : std::initializer_list<Control*>{
+             &window->cboTyreWidth, &window->cboTyreProfile, &window->cboWheelDiameter,
+             &window->txtTyreRPM, &window->txtWheelRadius, &window->txtSetPointPower,
+             &window->txtSetPointSpeed, &window->txtCD, &window->txtFrontalArea})
       text += control->Enabled() ? "1" : "0";
     return text;
   };
@@ -129,8 +135,11 @@ TEST_F(CarDetails, SavesAndLoadsFilesOfItsFields) {
   window->cmdSave.Press();
   EXPECT_EQ(host.boxes.size(), 1u);
   const std::string text = files.files["/cars/mine.car"];
-  EXPECT_NE(text.find("Name=Mine\r\nDescription=New Car Definition\r\nUnits=I\r\n"), std::string::npos) << text;
-  files.files["/cars/other.car"] = "Car Definition Details:\nName=Other\nUnits=M\nTyre Size Method=3\nTyre Width=187\n";
+  EXPECT_NE(text.find("Name=Mine\r\nDescription=New Car Definition\r\nUnits=I\r\n"),
+            std::string::npos)
+      << text;
+  files.files["/cars/other.car"] =
+      "Car Definition Details:\nName=Other\nUnits=M\nTyre Size Method=3\nTyre Width=187\n";
   Answer(Answer::Kind::File, "/cars/other.car");
   window->cmdLoad.Press();
   EXPECT_EQ(Questions(), "") << "a file's units ask nothing";

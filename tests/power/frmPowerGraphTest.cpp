@@ -10,7 +10,8 @@ namespace {
 using Ids = std::vector<int>;
 
 constexpr const char* kSaved =
-    "Calculation Parameters:\r\nSet Point Power=100 hp\r\nSet Point Speed=115 mph\r\nCalculation Units=Metric\r\n"
+    "Calculation Parameters:\r\nSet Point Power=100 hp\r\nSet Point Speed=115 mph\r\nCalculation "
+    "Units=Metric\r\n"
     "Graph Power & Torque Data (RPM, Power, Torque):\r\n2000,074.6,100.0\r\n4000,149.1,135.7\r\n"
     "Graph Speed Data (Time, Speed):\r\n000.10,050.0\r\n000.20,051.0\r\n";
 
@@ -51,7 +52,9 @@ TEST_F(PowerGraphTest, OpensWithTheMainWindowsRangeTheFirstCarAndTheSettingsAir)
   EXPECT_FALSE(window->mnuBench.Enabled());
   EXPECT_FALSE(window->mnuFileSave.Enabled());
   window->cboCarDefs.Do({"choose", {"Metric"}});
-  EXPECT_EQ(window->cboGear.Text() + " " + window->txtWeight.Text() + " " + window->txtSmoothFactor.Text(), "2nd 80 0");
+  EXPECT_EQ(window->cboGear.Text() + " " + window->txtWeight.Text() + " " +
+                window->txtSmoothFactor.Text(),
+            "2nd 80 0");
   window->cboHumidityType.Do({"choose", {"Rel. Humidity"}});
   window->txtRH.Do({"type", {"0"}});
   window->txtAmbTemp.Do({"type", {"25"}});
@@ -66,10 +69,12 @@ TEST_F(PowerGraphTest, BringsTheRangeIntoTheLogAndToItsLength) {
     const char *from, *to, *range;
     Ids boxes;
   } kRows[] = {
-      {"100", "1200", "200-1200", {2}}, {"99", "150", "120-150", {}},   {"1301", "1250", "250-1250", {2}},
-      {"130", "0", "130-180", {}},      {"130", "1301", "130-180", {}}, {"130", "99", "130-180", {}},
-      {"100", "109", "100-109", {26}},  {"100", "110", "100-110", {}},  {"200", "150", "149-150", {26}},
-      {"100", "1100", "100-1100", {}},  {"x", "y", "120-180", {}},
+      {"100", "1200", "200-1200", {2}},  {"99", "150", "120-150", {}},
+      {"1301", "1250", "250-1250", {2}}, {"130", "0", "130-180", {}},
+      {"130", "1301", "130-180", {}},    {"130", "99", "130-180", {}},
+      {"100", "109", "100-109", {26}},   {"100", "110", "100-110", {}},
+      {"200", "150", "149-150", {26}},   {"100", "1100", "100-1100", {}},
+      {"x", "y", "120-180", {}},
   };
   for (const auto& row : kRows) {
     Draw(row.from, row.to);
@@ -81,7 +86,8 @@ TEST_F(PowerGraphTest, BringsTheRangeIntoTheLogAndToItsLength) {
 TEST_F(PowerGraphTest, DrawsCurvesWithLegendsAxesAndFacts) {
   Open();
   Draw("100", "200");
-  EXPECT_EQ(Names(), "Your Power (85.1 hp @ 3990 rpm, Vmax 109 mph)\nYour Torque (114.2 lbft @ 3990 rpm)\n");
+  EXPECT_EQ(Names(),
+            "Your Power (85.1 hp @ 3990 rpm, Vmax 109 mph)\nYour Torque (114.2 lbft @ 3990 rpm)\n");
   const ChartDescription& chart = window->chPowerGraph.Data();
   EXPECT_EQ(chart.Series()[0].x.size(), 100u);
   EXPECT_EQ(chart.x.title, "RPM");
@@ -122,7 +128,8 @@ TEST_F(PowerGraphTest, ABenchmarkIsHiddenShownOrAveraged) {
   Draw("100", "200");
   EXPECT_EQ(Names(),
             "Your Power (85.1 hp @ 3990 rpm, Vmax 109 mph)\nYour Torque (114.2 lbft @ 3990 rpm)\n"
-            "Benchmark Power (199.9 hp @ 4000 rpm, Vmax 144.9 mph)\nBenchmark Torque (100.0 lbft @ 4000 rpm)\n");
+            "Benchmark Power (199.9 hp @ 4000 rpm, Vmax 144.9 mph)\nBenchmark Torque (100.0 lbft @ "
+            "4000 rpm)\n");
   window->cboBenchMarkAction.Do({"choose", {"Average"}});
   window->cmdDrawGraph.Press();
   EXPECT_EQ(Names().substr(0, 40), "Your Power (142.3 hp @ 3990 rpm, Vmax 12");
@@ -133,7 +140,9 @@ TEST_F(PowerGraphTest, ABenchmarkIsHiddenShownOrAveraged) {
   window->cboUnits.Do({"choose", {"Metric"}});
   window->cboBenchMarkAction.Do({"choose", {"Show"}});
   window->cmdDrawGraph.Press();
-  EXPECT_NE(Names().find("Benchmark Power (149.1 kW @ 4000 rpm, Vmax 233.2 kmh)"), std::string::npos) << Names();
+  EXPECT_NE(Names().find("Benchmark Power (149.1 kW @ 4000 rpm, Vmax 233.2 kmh)"),
+            std::string::npos)
+      << Names();
 }
 
 TEST_F(PowerGraphTest, ABenchmarkThatCannotBeReadTakesTheOldOneAway) {
@@ -189,7 +198,8 @@ TEST_F(PowerGraphTest, RunsAreFoundAndFillTheRange) {
   Open();
   window->cmdFindRuns.Do({"click", {}});
   ASSERT_EQ(window->lvwRuns.Count(), 1);
-  EXPECT_EQ(window->lvwRuns.At(1).texts, (std::vector<std::string>{"101", "1300", "2020-26000", "119.9"}));
+  EXPECT_EQ(window->lvwRuns.At(1).texts,
+            (std::vector<std::string>{"101", "1300", "2020-26000", "119.9"}));
   window->lvwRuns.Do({"row", {"1"}});
   EXPECT_EQ(Range(), "101-1300");
 }

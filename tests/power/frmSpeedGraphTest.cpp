@@ -15,17 +15,19 @@ class SpeedGraphTest : public ::testing::Test {
     SpeedGraphInput input;
     input.file = "/logs/run.txt";
     input.imperial = imperial;
-    input.run = {{0, 0}, {0.1, 22.352}, {1.1, 26.8224}, {2.1, 35.7633}};  // 50, 60 and a little over 80 mph
+    input.run = {
+        {0, 0}, {0.1, 22.352}, {1.1, 26.8224}, {2.1, 35.7633}};  // 50, 60 and a little over 80 mph
     if (withBenchmark) input.benchmark = {{0, 50}, {2, 60}, {4, 80}};
-    window.emplace(host, frmSpeedGraph::Surroundings{settings, errors, messages}, input, [](int) {});
+    window.emplace(host, frmSpeedGraph::Surroundings{settings, errors, messages}, input,
+                   [](int) {});
     window->Show();
   }
   std::string Query(const std::string& from, const std::string& to) {
     window->txtSpeedFrom.Do({"type", {from}});
     window->txtSpeedTo.Do({"type", {to}});
     window->cmdCalc.Do({"click", {}});
-    return window->txtSpeedFrom.Text() + "-" + window->txtSpeedTo.Text() + ": " + window->txtResYou.Text() + " " +
-           window->txtResBench.Text();
+    return window->txtSpeedFrom.Text() + "-" + window->txtSpeedTo.Text() + ": " +
+           window->txtResYou.Text() + " " + window->txtResBench.Text();
   }
   std::string Curve(std::size_t place) const {
     const ChartSeries& series = window->chSpeedGraph.Data().Series()[place];
@@ -92,8 +94,9 @@ TEST_F(SpeedGraphTest, TheOffsetMovesTheBenchmarkAndLeavesTheResults) {
 
 TEST_F(SpeedGraphTest, WithoutABenchmarkItsFieldsAreHidden) {
   Open(false, false);
-  for (const Control* control : std::initializer_list<Control*>{
-           &window->lblOffset, &window->txtOffset, &window->updOffset, &window->lblResBench, &window->txtResBench})
+  for (const Control* control :
+       std::initializer_list<Control*>{&window->lblOffset, &window->txtOffset, &window->updOffset,
+                                       &window->lblResBench, &window->txtResBench})
     EXPECT_FALSE(control->Visible()) << control->name;
   EXPECT_EQ(window->chSpeedGraph.Data().Series().size(), 1u);
   EXPECT_EQ(Query("90", "100"), "90-100: 00.51 ");

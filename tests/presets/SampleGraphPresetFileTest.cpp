@@ -42,8 +42,11 @@ TEST(SampleGraphPresetFile, IsWrittenLineByLineAndReadBack) {
 
 TEST(SampleGraphPresetFile, ReadsWhatItFinds) {
   EXPECT_FALSE(ReadSampleGraphPresetFile(""));
-  EXPECT_FALSE(ReadSampleGraphPresetFile("Graph 1 Name=a\r\nPreset Sample Graph Details: \r\nGraph 1 Name=b"));
-  const auto read = [](const std::string& lines) { return *ReadSampleGraphPresetFile(kStart + lines); };
+  EXPECT_FALSE(ReadSampleGraphPresetFile(
+      "Graph 1 Name=a\r\nPreset Sample Graph Details: \r\nGraph 1 Name=b"));
+  const auto read = [](const std::string& lines) {
+    return *ReadSampleGraphPresetFile(kStart + lines);
+  };
   EXPECT_EQ(read("").strName, "");
   EXPECT_EQ(read("Graph 2 Name=a\nGraph 1 name=b").strName, "");
   EXPECT_EQ(read("Graph 1 Graph Max=\nGraph 1 Name=a=b").lngGraphMax, 0);

@@ -1,4 +1,6 @@
 #include "fuzz/FuzzScatterGraphPresetFile.cpp"
 #include "support/ReplayCorpus.h"
 
-TEST(Replay, ScatterGraphPresetFile) { tarnview::ReplayCorpus("FuzzScatterGraphPresetFile", LLVMFuzzerTestOneInput); }
+TEST(Replay, ScatterGraphPresetFile) {
+  tarnview::ReplayCorpus("FuzzScatterGraphPresetFile", LLVMFuzzerTestOneInput);
+}

@@ -65,14 +65,16 @@ TEST_F(ScatterPresetFile, IsWrittenLineByLineAndReadBack) {
 }
 
 TEST_F(ScatterPresetFile, HoldsNumbersToTheirLimits) {
-  const auto low = Read("Graph 1 Point Size=0\nGraph 1 Point Shape=-1\nGraph 1 Point Colour=-5\nGraph 1 X Axis=84");
+  const auto low = Read(
+      "Graph 1 Point Size=0\nGraph 1 Point Shape=-1\nGraph 1 Point Colour=-5\nGraph 1 X Axis=84");
   EXPECT_EQ(low.lngPointSize, 1);
   EXPECT_EQ(low.lngPointShape, 0);
   EXPECT_EQ(low.lngPointColour, 0);
   EXPECT_EQ(low.lngXAxisDataItem, 1);
   EXPECT_EQ(low.lngYAxisDataItem, 1);
   EXPECT_EQ(low.lngLogFamily, 0);
-  const auto high = Read("Graph 1 Point Size=99\nGraph 1 Point Shape=12\nGraph 1 Point Colour=99999999");
+  const auto high =
+      Read("Graph 1 Point Size=99\nGraph 1 Point Shape=12\nGraph 1 Point Colour=99999999");
   EXPECT_EQ(high.lngPointSize, 10);
   EXPECT_EQ(high.lngPointShape, 9);
   EXPECT_EQ(high.lngPointColour, 0x1000000);
@@ -83,6 +85,7 @@ TEST_F(ScatterPresetFile, GroupsTheLinesOfAFilterByItsNumber) {
     const char* lines;
     const char* filters;
   } kRows[] = {
+      // clang-format off
       {"Graph 1 Filter 2 To=\nGraph 1 Filter 1 Data Item=3\nGraph 1 Filter 2 Data Item=5\nGraph 1 Filter 1 To=900\n"
        "Graph 1 Filter 02 From=60",
        "MAP [Manifold Air Pressure] from 60\nRPM [RPM] to 900\n"},
@@ -93,6 +96,7 @@ TEST_F(ScatterPresetFile, GroupsTheLinesOfAFilterByItsNumber) {
       {"Graph 1 Filter 1 From=1\nGraph 1 Filter 1 Data Item=27", "A/C [A/C Switch] = On\n"},
       {"Graph 1 Filter 1 From=60\nGraph 1 Filter 1 Data Item=5", "MAP [Manifold Air Pressure] from 60\n"},
       {"Graph 1 Filter 1 Colour=3\nGraph 1 Filters=4\nGraph 1 Filter 9\nGraph 2 Filter 1 Data Item=5", "\n"},
+      // clang-format on
   };
   for (const auto& row : kRows) EXPECT_EQ(Filters(row.lines), row.filters) << row.lines;
 }

@@ -137,7 +137,8 @@ TEST_F(BinderTest, ButtonsMenusAndArrowsReachTheirControls) {
   Find<QCheckBox>("chkFixY").click();
   emit Find<QComboBox>("cboZoomAmount").activated(1);
   Press(Qt::Key_L, Qt::ControlModifier);
-  EXPECT_THAT(events, ElementsAre("in", "in", "open", "recent 2", "down", "fixed", "amount 3", "open"));
+  EXPECT_THAT(events,
+              ElementsAre("in", "in", "open", "recent 2", "down", "fixed", "amount 3", "open"));
 }
 
 TEST_F(BinderTest, TheFormDecidesWhetherAMenuEntryIsTicked) {
@@ -156,7 +157,8 @@ TEST_F(BinderTest, AListGoesBothWays) {
     events.push_back("check " + list.At(row).tag);
     if (list.At(row).tag == "a") list.SetChecked(row, false);
   };
-  list.SetRows({{{"RPM", "900"}, "a", "", false, 0, 0x0000FF}, {{"MAP", "31"}, "b", "", true, 0, 0x00FF00}});
+  list.SetRows(
+      {{{"RPM", "900"}, "a", "", false, 0, 0x0000FF}, {{"MAP", "31"}, "b", "", true, 0, 0x00FF00}});
   list.Select(2);
   Settle();
   auto& tree = Find<QTreeWidget>("lvwSampleDetails");
@@ -264,14 +266,16 @@ TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {
   ChartDescription data;
   data.x = {0, 10, 10, "#######0"};
   data.y = {0, 10, 10, "#######0"};
-  std::get<Curves>(data.kind).series = {{1, "A", {0, 5, 10}, {2, 2, 2}, {}}, {2, "B", {0, 5, 10}, {8, 8, 8}, {}}};
+  std::get<Curves>(data.kind).series = {{1, "A", {0, 5, 10}, {2, 2, 2}, {}},
+                                        {2, "B", {0, 5, 10}, {8, 8, 8}, {}}};
   form_.fraPicture.Visible = false;
   form_.chSampleGraph.SetData(data);
   Settle();
   int rightClicks = 0;
   form_.chSampleGraph.RightClick = [&] { ++rightClicks; };
   auto& chart = Find<ChartWidget>("chSampleGraph");
-  const QPoint near(static_cast<int>(chart.xAxis->coordToPixel(5.4)), static_cast<int>(chart.yAxis->coordToPixel(7)));
+  const QPoint near(static_cast<int>(chart.xAxis->coordToPixel(5.4)),
+                    static_cast<int>(chart.yAxis->coordToPixel(7)));
   QTest::mouseClick(&chart, Qt::LeftButton, {}, near);
   QTest::mouseClick(&chart, Qt::RightButton, {}, near);
   EXPECT_EQ(form_.chSampleGraph.SelectedSeries(), 3);
@@ -289,7 +293,9 @@ TEST_F(BinderTest, TextsOfFilesAreShownAsTheyAre) {
   Settle();
   EXPECT_EQ(window_.window().windowTitle(), "<img src='x.png'> run[*][*] \u00E9")
       << "doubled, the toolkit shows it once";
-  const auto shownTip = [](const QString& tip) { return QTextDocumentFragment::fromHtml(tip).toPlainText(); };
+  const auto shownTip = [](const QString& tip) {
+    return QTextDocumentFragment::fromHtml(tip).toPlainText();
+  };
   EXPECT_EQ(shownTip(Find<QPushButton>("cmdDrawGraph").toolTip()), title);
   EXPECT_EQ(shownTip(Find<QTreeWidget>("lvwSampleDetails").topLevelItem(0)->toolTip(0)), title);
   EXPECT_EQ(Find<QToolButton>("recentFile0").text(), "&1 " + title);
@@ -319,7 +325,9 @@ TEST_F(BinderTest, AFrameHasAPictureBehindIt) {
   red.fill(Qt::red);
   ASSERT_TRUE(red.save(path));
   auto& frame = Find<QWidget>("fraPicture");
-  const auto foot = [&] { return frame.grab().toImage().pixelColor(frame.width() / 2, frame.height() - 8); };
+  const auto foot = [&] {
+    return frame.grab().toImage().pixelColor(frame.width() / 2, frame.height() - 8);
+  };
   const QColor bare = foot();
   form_.fraPicture.BackgroundPicture = path.toStdString();
   Settle();

@@ -55,8 +55,8 @@ class ChartGesturesTest : public testing::Test {
     QTest::mouseRelease(&chart_, button, held, to);
   }
   void Turn(double x, int eighths) {
-    QWheelEvent event(At(x), chart_.mapToGlobal(At(x)), {}, {0, eighths}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
+    QWheelEvent event(At(x), chart_.mapToGlobal(At(x)), {}, {0, eighths}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&chart_, &event);
   }
 

@@ -14,7 +14,8 @@ TEST(ChartTextTest, AChartSaysWhatItShows) {
   chart.y = {-1, 2.5, 10, "#######0.0", "Boost"};
   EXPECT_EQ(ChartText(chart), "Nothing is drawn.");
   chart.kind = Curves{{{3, "RPM", {0, 1}, {0, 1}, {}}, {37, "Boost \xB5", {0, 1}, {0, 1}, {}}}};
-  EXPECT_EQ(ChartText(chart), QString::fromUtf8("Curves of RPM, Boost \xC2\xB5; samples from 0 to 120."));
+  EXPECT_EQ(ChartText(chart),
+            QString::fromUtf8("Curves of RPM, Boost \xC2\xB5; samples from 0 to 120."));
   PointCloud cloud;
   cloud.x = cloud.y = {1, 2, 3};
   chart.kind = cloud;
@@ -24,8 +25,9 @@ TEST(ChartTextTest, AChartSaysWhatItShows) {
   chart.kind = cloud;
   ChartWidget widget;
   widget.SetDescription(chart);
-  EXPECT_EQ(widget.accessibleDescription(),
-            "3 points: Boost from -1.0 to 2.5, over RPM from 0 to 120, coloured by Knock from 0 to 5.");
+  EXPECT_EQ(
+      widget.accessibleDescription(),
+      "3 points: Boost from -1.0 to 2.5, over RPM from 0 to 120, coloured by Knock from 0 to 5.");
 }
 
 }  // namespace

@@ -18,7 +18,8 @@ TEST(DecimateTest, FewPointsStayAsTheyAre) {
 
 TEST(DecimateTest, OfEachColumnFirstLowestHighestAndLastStay) {
   // Two columns, 0 to 1 and 1 to 2, with five points in each.
-  const Polyline line = Decimate({0, .2, .4, .6, .8, 1, 1.2, 1.4, 1.6, 1.8}, {3, 9, 5, 1, 4, 7, 7, 7, 7, 7}, 0, 2, 2);
+  const Polyline line =
+      Decimate({0, .2, .4, .6, .8, 1, 1.2, 1.4, 1.6, 1.8}, {3, 9, 5, 1, 4, 7, 7, 7, 7, 7}, 0, 2, 2);
   EXPECT_THAT(line.y, testing::ElementsAre(3, 9, 1, 4, 7, 7));
   EXPECT_THAT(line.x, testing::ElementsAre(0, .2, .6, .8, 1, 1.8));
 }
@@ -36,8 +37,10 @@ TEST(DecimateTest, AnyLineKeepsItsExtremesInItsOrderWithinFourPointsAColumn) {
     const Polyline line = Decimate(x, y, count * 0.1, count * 0.9, 640);
     EXPECT_LE(line.x.size(), 4u * 642);
     EXPECT_TRUE(std::is_sorted(line.x.begin(), line.x.end()));
-    EXPECT_EQ(*std::max_element(line.y.begin(), line.y.end()), *std::max_element(y.begin(), y.end()));
-    EXPECT_EQ(*std::min_element(line.y.begin(), line.y.end()), *std::min_element(y.begin(), y.end()));
+    EXPECT_EQ(*std::max_element(line.y.begin(), line.y.end()),
+              *std::max_element(y.begin(), y.end()));
+    EXPECT_EQ(*std::min_element(line.y.begin(), line.y.end()),
+              *std::min_element(y.begin(), y.end()));
   }
 }
 

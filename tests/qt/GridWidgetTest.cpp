@@ -35,7 +35,8 @@ class GridWidgetTest : public testing::Test {
     (new QVBoxLayout(first))->addWidget(view);
     auto* second = Named(new QWidget, "fraUnit");
     auto* choices = new QVBoxLayout(second);
-    for (int i = 0; i < 2; ++i) choices->addWidget(buttons[i] = Named(new QRadioButton, i == 0 ? "radA" : "radB"));
+    for (int i = 0; i < 2; ++i)
+      choices->addWidget(buttons[i] = Named(new QRadioButton, i == 0 ? "radA" : "radB"));
     for (QWidget* page : {first, second}) book->addTab(page, "");
     binder = std::make_unique<Binder>(form, window);
     window.resize(400, 300);
@@ -68,11 +69,13 @@ class GridWidgetTest : public testing::Test {
 
 TEST_F(GridWidgetTest, TheMouseMarksCells) {
   for (int row = 0; row < 3; ++row)
-    for (int column = 0; column < 4; ++column) EXPECT_EQ(view->PlaceAt(Middle(row, column)), (GridPlace{row, column}));
+    for (int column = 0; column < 4; ++column)
+      EXPECT_EQ(view->PlaceAt(Middle(row, column)), (GridPlace{row, column}));
   QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, Middle(2, 3));
   EXPECT_EQ(grid.Selection(), (GridRange{2, 3, 2, 3}));
   // QTest's own move tells no button.
-  QMouseEvent drag(QEvent::MouseMove, Middle(1, 2), view->mapToGlobal(Middle(1, 2)), Qt::NoButton, Qt::LeftButton, {});
+  QMouseEvent drag(QEvent::MouseMove, Middle(1, 2), view->mapToGlobal(Middle(1, 2)), Qt::NoButton,
+                   Qt::LeftButton, {});
   QApplication::sendEvent(view, &drag);
   EXPECT_EQ(grid.Selection(), (GridRange{1, 2, 2, 3}));
   QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, Middle(1, 2));
@@ -119,7 +122,8 @@ TEST_F(GridWidgetTest, RingMarksAndBlackoutsAreDrawn) {
   const QImage ringed = view->grab().toImage();
   EXPECT_NE(before, ringed);
   const QPoint between = (Middle(1, 1) + Middle(2, 2)) / 2;
-  EXPECT_EQ(before.copy(QRect(Middle(2, 3), QSize(5, 5))), ringed.copy(QRect(Middle(2, 3), QSize(5, 5))));
+  EXPECT_EQ(before.copy(QRect(Middle(2, 3), QSize(5, 5))),
+            ringed.copy(QRect(Middle(2, 3), QSize(5, 5))));
   const QRect around(between - QPoint(16, 16), QSize(32, 32));
   EXPECT_NE(before.copy(around), ringed.copy(around));
   for (const auto mark : {GridCell::Mark::Raised, GridCell::Mark::Lowered}) {
@@ -132,7 +136,8 @@ TEST_F(GridWidgetTest, RingMarksAndBlackoutsAreDrawn) {
     const QImage shown = view->grab().toImage();
     const QColor above = shown.pixelColor(place.topLeft() + QPoint(1, 1));
     const QColor below = shown.pixelColor(place.bottomLeft() + QPoint(1, -1));
-    EXPECT_GT((raised ? above : below).hsvSaturation(), (raised ? below : above).hsvSaturation() + 50);
+    EXPECT_GT((raised ? above : below).hsvSaturation(),
+              (raised ? below : above).hsvSaturation() + 50);
   }
   GridCell black;
   black.blackedOut = true;

@@ -17,7 +17,9 @@ namespace tarnview {
 namespace {
 
 /// The text at the top of the page that is shown.
-QString TopOf(const ManualPage& page) { return page.cursorForPosition(QPoint(20, 8)).block().text(); }
+QString TopOf(const ManualPage& page) {
+  return page.cursorForPosition(QPoint(20, 8)).block().text();
+}
 
 const QWidget* Manual() {
   for (const QWidget* window : QApplication::topLevelWidgets())
@@ -27,7 +29,8 @@ const QWidget* Manual() {
 
 class ManualWindowTest : public testing::Test {
  protected:
-  /// A copy of the manual under a path with every character that a name of a page could stumble over.
+  /// A copy of the manual under a path with every character that a name of a page could stumble
+  /// over.
   std::string CopyManual(const char* name) {
     const std::string folder = folder_.path().toStdString() + "/" + name;
     EXPECT_EQ(std::system(("cp -r '" TARNVIEW_DATA "/Documentation' '" + folder + "'").c_str()), 0);
@@ -63,7 +66,8 @@ TEST_F(ManualWindowTest, StaysWhenTheDialogGoesForWhichItWasOpened) {
   frmAbout about(host, {}, [] {});
   QTimer::singleShot(0, [&] {
     EXPECT_TRUE(host.ShowManual(folder, "Keys"));
-    EXPECT_EQ(Manual()->parentWidget(), &host.WindowOf(about)->window()) << "it takes input before the dialog";
+    EXPECT_EQ(Manual()->parentWidget(), &host.WindowOf(about)->window())
+        << "it takes input before the dialog";
     about.Unload();
   });
   about.ShowModal();

@@ -23,7 +23,8 @@ ChartDescription TwoCurves(const ChartColours& colours, int points = 500) {
   chart.x = {0, 100, 10, "#######0"};
   chart.y = {0, 100, 10, "#######0"};
   chart.colours = colours;
-  std::get<Curves>(chart.kind).series = {{1, "RPM", {}, {}, {0x0000FF, 1, 30}}, {2, "MAP", {}, {}, {0xFF0000, 3, 10}}};
+  std::get<Curves>(chart.kind).series = {{1, "RPM", {}, {}, {0x0000FF, 1, 30}},
+                                         {2, "MAP", {}, {}, {0xFF0000, 3, 10}}};
   for (ChartSeries& series : std::get<Curves>(chart.kind).series)
     for (int i = 0; i < points; ++i) {
       series.x.push_back(100.0 * i / points);
@@ -47,7 +48,8 @@ class PicturePainterTest : public testing::Test {
 
 TEST_F(PicturePainterTest, APictureHoldsItsCurvesInTheirColoursOnEachScheme) {
   for (const ChartColours& colours :
-       {ChartColours{true, 0, 0, 0}, ChartColours{false, 0, 0xFFFFFF, 0x808080}, ChartColours{false, 0xFFFFFF, 0, 0}}) {
+       {ChartColours{true, 0, 0, 0}, ChartColours{false, 0, 0xFFFFFF, 0x808080},
+        ChartColours{false, 0xFFFFFF, 0, 0}}) {
     ASSERT_TRUE(DrawPicture(TwoCurves(colours), In("a.png"), 700, 400, error_)) << error_;
     const QImage image(folder_.filePath("a.png"));
     ASSERT_EQ(image.size(), QSize(700, 400));
@@ -74,7 +76,8 @@ TEST_F(PicturePainterTest, VectorFilesHaveThePicturesSizeAndItsTexts) {
   ASSERT_TRUE(DrawPicture(TwoCurves({}), In("a.PDF"), 960, 480, error_)) << error_;
   const QByteArray pdf = Read("a.PDF");
   EXPECT_TRUE(pdf.startsWith("%PDF-"));
-  EXPECT_TRUE(pdf.contains("MediaBox [0 0 720.000000 360.000000]")) << "960 by 480 pixels of 1/96 inch in points";
+  EXPECT_TRUE(pdf.contains("MediaBox [0 0 720.000000 360.000000]"))
+      << "960 by 480 pixels of 1/96 inch in points";
 }
 
 TEST_F(PicturePainterTest, ALegendTallerThanThePictureGetsMoreColumns) {
@@ -87,7 +90,8 @@ TEST_F(PicturePainterTest, ALegendTallerThanThePictureGetsMoreColumns) {
 
 TEST(ClipLineTest, KeepsWhatLiesWithin) {
   const QRectF box(0, 0, 10, 10);
-  EXPECT_EQ(ClipLine({{1, 1}, {5, 5}, {9, 1}}, box), (std::vector<QPolygonF>{{{1, 1}, {5, 5}, {9, 1}}}));
+  EXPECT_EQ(ClipLine({{1, 1}, {5, 5}, {9, 1}}, box),
+            (std::vector<QPolygonF>{{{1, 1}, {5, 5}, {9, 1}}}));
   EXPECT_EQ(ClipLine({{5, 5}, {5, 20}, {8, 20}, {8, 5}}, box),
             (std::vector<QPolygonF>{{{5, 5}, {5, 10}}, {{8, 10}, {8, 5}}}))
       << "out over the edge and in again";
@@ -106,7 +110,8 @@ TEST_F(PicturePainterTest, APictureIsWrittenAsEveryFileIs) {
     disk.failWrites = false;
   }
   EXPECT_THAT(disk.accesses, Each(StartsWith("write /"))) << "nothing goes past the disk";
-  EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(disk.files["/a.png"])).size(), QSize(100, 100));
+  EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(disk.files["/a.png"])).size(),
+            QSize(100, 100));
   EXPECT_TRUE(disk.files.contains("/run \xE9.png")) << "a name that is no UTF-8";
 }
 
@@ -114,7 +119,8 @@ TEST(TextTest, APathOfAnyBytesComesBack) {
   for (const std::string path :
        {"/run.txt", "/\xC3\xA9\xF0\x9F\x98\x80.txt", "/\xE9 \xC3\xA9.txt", "\xED\xB2\x80", "\xFF"})
     EXPECT_EQ(PathFromQt(PathToQt(path)), path);
-  EXPECT_EQ(PathFromQt(PathToQt("/\xE9/") + QString::fromUtf8("\xC3\xA9.png")), "/\xE9/\xC3\xA9.png");
+  EXPECT_EQ(PathFromQt(PathToQt("/\xE9/") + QString::fromUtf8("\xC3\xA9.png")),
+            "/\xE9/\xC3\xA9.png");
 }
 
 TEST_F(PicturePainterTest, WhatCannotBeDrawnIsTold) {

@@ -51,7 +51,8 @@ TEST(PointGridTest, FindsWhatLooksAtEveryPointWouldFind) {
         std::optional<int> nearest;
         double best = 8.0 * 8.0;
         for (std::size_t i = 0; i < cloud.x.size(); ++i) {
-          const QPoint at(static_cast<int>(std::lrint(cloud.x[i])), static_cast<int>(std::lrint(cloud.y[i])));
+          const QPoint at(static_cast<int>(std::lrint(cloud.x[i])),
+                          static_cast<int>(std::lrint(cloud.y[i])));
           if (!grid.inside.contains(at)) continue;
           const double away = std::pow(at.x() - x, 2) + std::pow(at.y() - y, 2);
           if (away > best) continue;
@@ -92,7 +93,8 @@ TEST(PlacedPointsTest, CountsWhatFallsAround) {
     for (std::size_t j = 0; j < cloud.x.size(); ++j)
       near += std::abs(std::lrint(cloud.x[j]) - placed[i].x) <= 3 &&
               std::abs(std::lrint(cloud.y[j]) - placed[i].y) <= 3 &&
-              grid.inside.contains(static_cast<int>(std::lrint(cloud.x[j])), static_cast<int>(std::lrint(cloud.y[j])));
+              grid.inside.contains(static_cast<int>(std::lrint(cloud.x[j])),
+                                   static_cast<int>(std::lrint(cloud.y[j])));
     EXPECT_EQ(counts[i], near);
   }
 }
@@ -109,7 +111,8 @@ TEST(MarkersTest, EveryShapeMarksItsPlaceAloneAndLooksLikeNoOther) {
       int outside = 0;
       for (int y = 0; y < 41; ++y)
         for (int x = 0; x < 41; ++x)
-          outside += image.pixelColor(x, y).alpha() > 0 && std::hypot(x - 20, y - 20) > marker.Diameter() / 2 + 0.8;
+          outside += image.pixelColor(x, y).alpha() > 0 &&
+                     std::hypot(x - 20, y - 20) > marker.Diameter() / 2 + 0.8;
       EXPECT_EQ(outside, 0) << shape << " at size " << size;
       if (size != 6) continue;
       EXPECT_EQ(std::count(atSix.begin(), atSix.end(), image), 0) << shape;
@@ -129,15 +132,17 @@ TEST(PointShadesTest, TintRunsFromEndToEndAndDensityDarkens) {
   EXPECT_EQ(placed.back().point, 6) << "the densest lies on top";
   EXPECT_EQ(placed.back().shade, static_cast<int>(shades.size()) - 1);
   EXPECT_EQ(placed.front().shade, 0);
-  EXPECT_TRUE(std::is_sorted(shades.rbegin(), shades.rend(),
-                             [](const QColor& a, const QColor& b) { return qGray(a.rgb()) < qGray(b.rgb()); }));
+  EXPECT_TRUE(std::is_sorted(shades.rbegin(), shades.rend(), [](const QColor& a, const QColor& b) {
+    return qGray(a.rgb()) < qGray(b.rgb());
+  }));
 
   cloud.tint = {-5, 0, 50, kNothing, 100, 100, 900};
   cloud.tintAxis = {0, 100, 10, "0"};
   placed = PlacePoints(cloud, grid);
   shades = Shade(placed, cloud, grid, 2, kOnWhite);
   const auto colourOf = [&](int point) {
-    const auto found = std::find_if(placed.begin(), placed.end(), [&](const auto& one) { return one.point == point; });
+    const auto found = std::find_if(placed.begin(), placed.end(),
+                                    [&](const auto& one) { return one.point == point; });
     return shades.at(static_cast<std::size_t>(found->shade));
   };
   EXPECT_EQ(colourOf(0), HeatColour(0));
@@ -149,7 +154,8 @@ TEST(PointShadesTest, TintRunsFromEndToEndAndDensityDarkens) {
 class PointCloudTest : public testing::Test {
  protected:
   qint64 SizeOf(const ChartDescription& chart, const char* name) {
-    EXPECT_TRUE(DrawPicture(chart, PathFromQt(folder_.filePath(name)), 1400, 800, error_)) << error_;
+    EXPECT_TRUE(DrawPicture(chart, PathFromQt(folder_.filePath(name)), 1400, 800, error_))
+        << error_;
     return QFile(folder_.filePath(name)).size();
   }
 
@@ -193,8 +199,10 @@ TEST_F(PointCloudTest, APictureHasMarksTitlesAndTheBarOfColours) {
   QFile file(folder_.filePath("a.svg"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QByteArray svg = file.readAll();
-  for (const char* text : {">RPM</text>", ">Air/Fuel Ratio</text>", ">Boost</text>"}) EXPECT_TRUE(svg.contains(text));
-  EXPECT_TRUE(svg.contains(HeatColour(0.5).name().toUtf8()) || svg.contains(HeatColour(32 / 63.0).name().toUtf8()));
+  for (const char* text : {">RPM</text>", ">Air/Fuel Ratio</text>", ">Boost</text>"})
+    EXPECT_TRUE(svg.contains(text));
+  EXPECT_TRUE(svg.contains(HeatColour(0.5).name().toUtf8()) ||
+              svg.contains(HeatColour(32 / 63.0).name().toUtf8()));
 
   // From a bar to none and back, as a window does.
   ChartWidget widget;

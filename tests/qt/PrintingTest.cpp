@@ -36,8 +36,10 @@ class PrintingTest : public ::testing::Test {
   Form form{host, "frmAny", "Any"};
   Chart chart{form, "chAny"};
   const PrintJob job{"Page", [this](Page& page) {
-                       const PageLayout layout = LayOutPage(page, "Title", {{"File", "a.txt"}}, page.ShapeOf(chart));
-                       for (const auto& text : layout.texts) page.DrawText(text.text, text.points, text.left, text.top);
+                       const PageLayout layout =
+                           LayOutPage(page, "Title", {{"File", "a.txt"}}, page.ShapeOf(chart));
+                       for (const auto& text : layout.texts)
+                         page.DrawText(text.text, text.points, text.left, text.top);
                        page.DrawPicture(chart, layout.picture);
                      }};
 };

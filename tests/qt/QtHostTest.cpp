@@ -95,7 +95,8 @@ TEST(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
     });
     QtHost host;
     int taken = 0;
-    EXPECT_EQ(host.Ask({83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}), Reply::Ok);
+    EXPECT_EQ(host.Ask({83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}),
+              Reply::Ok);
     EXPECT_EQ(taken, take);
   }
 }
@@ -193,7 +194,8 @@ TEST(QtHostTest, AnErrorThatNothingEndedEndsAtItsEvent) {
   TestApplication();
   QtHost host;
   std::string told;
-  host.events.Failed = [&](const std::string& module, const std::string& procedure, const std::exception& error) {
+  host.events.Failed = [&](const std::string& module, const std::string& procedure,
+                           const std::exception& error) {
     told += module + "/" + procedure + ":" + error.what() + " ";
   };
   Working form(host);
@@ -249,7 +251,8 @@ TEST(QtHostTest, ABoxBelongsToTheWindowThatTheUserIsIn) {
 }
 
 TEST(DialogsTest, FiltersTakeTheToolkitsForm) {
-  EXPECT_EQ(ToNameFilters("Logs (*.txt)|*.txt;*.csv|All|*.*"), (QStringList{"Logs (*.txt *.csv)", "All (*)"}));
+  EXPECT_EQ(ToNameFilters("Logs (*.txt)|*.txt;*.csv|All|*.*"),
+            (QStringList{"Logs (*.txt *.csv)", "All (*)"}));
   EXPECT_EQ(ToNameFilters(""), QStringList());
 }
 

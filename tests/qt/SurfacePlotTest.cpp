@@ -57,15 +57,17 @@ class SurfacePlotTest : public testing::Test {
     QObject::connect(&chart, &ChartWidget::RightClicked, tell("menu"));
   }
   void MoveTo(QPoint at) {
-    QMouseEvent move(QEvent::MouseMove, at, chart.mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
+    QMouseEvent move(QEvent::MouseMove, at, chart.mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                     {});
     QApplication::sendEvent(&chart, &move);
   }
   /// Of a cell, on the screen.
   QPoint Place(int row, int column) const {
     const auto& surface = std::get<Surface>(description.kind);
     const QFontMetricsF metrics(chart.xAxis->tickLabelFont());
-    const SceneRoom room{600, 400, metrics.height() * 2.9, metrics.height(),
-                         [&](const std::string& text) { return metrics.horizontalAdvance(text.c_str()); }};
+    const SceneRoom room{
+        600, 400, metrics.height() * 2.9, metrics.height(),
+        [&](const std::string& text) { return metrics.horizontalAdvance(text.c_str()); }};
     const auto mark = MarkOf(surface, room, row, column);
     return {static_cast<int>(std::lround(mark->at.x)), static_cast<int>(std::lround(mark->at.y))};
   }
@@ -95,8 +97,8 @@ TEST_F(SurfacePlotTest, AHandTurnsZoomsAndPicks) {
   EXPECT_THAT(told, ElementsAre("click 1 3", "menu", "double"));
   told.clear();
   for (int notch : {1, -3}) {
-    QWheelEvent event(QPointF(300, 200), chart.mapToGlobal(QPointF(300, 200)), {}, {0, notch * 120}, Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
+    QWheelEvent event(QPointF(300, 200), chart.mapToGlobal(QPointF(300, 200)), {}, {0, notch * 120},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&chart, &event);
   }
   Settle();
@@ -114,7 +116,8 @@ TEST_F(SurfacePlotTest, TheScreenFilesAndACurveAfterwardsAreDrawn) {
   EXPECT_NE(chart.grab().toImage().copy(around), shown.copy(around));
   EXPECT_EQ(chart.grab().toImage().copy(0, 0, 600, 40), shown.copy(0, 0, 600, 40));
   const QByteArray svg = DrawSvg(description, {600, 400});
-  for (const char* text : {"Fuel Zone Graph", "40kPa 200", ">15<"}) EXPECT_TRUE(svg.contains(text)) << text;
+  for (const char* text : {"Fuel Zone Graph", "40kPa 200", ">15<"})
+    EXPECT_TRUE(svg.contains(text)) << text;
   ChartDescription curve;
   curve.kind = Curves{{{1, "A", {0, 1}, {0, 1}, {0xFF0000, 1, 30}}}};
   chart.SetDescription(curve);
@@ -125,7 +128,8 @@ TEST_F(SurfacePlotTest, TheScreenFilesAndACurveAfterwardsAreDrawn) {
   fresh.SetDescription(curve);
   fresh.show();
   Settle();
-  EXPECT_EQ(chart.grab().toImage(), fresh.grab().toImage()) << "a curve after a surface is as any curve";
+  EXPECT_EQ(chart.grab().toImage(), fresh.grab().toImage())
+      << "a curve after a surface is as any curve";
 }
 
 }  // namespace

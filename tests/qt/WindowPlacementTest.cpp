@@ -27,6 +27,7 @@ TEST(WindowPlacementTest, AWindowOnAScreenThatIsGoneComesBack) {
     QList<QRect> screens;
     QRect placed;
   } rows[] = {
+      // clang-format off
       {"as it was", {100, 80, 800, 600}, {laptop}, {100, 80, 800, 600}},
       {"across two screens", {1000, 80, 1500, 600}, {laptop, beside}, {1000, 80, 1500, 600}},
       {"the second screen is gone", {1500, 80, 800, 600}, {laptop}, {566, 80, 800, 600}},
@@ -35,8 +36,10 @@ TEST(WindowPlacementTest, AWindowOnAScreenThatIsGoneComesBack) {
       {"caption above the screen", {100, -90, 800, 600}, {laptop}, {100, 32, 800, 600}},
       {"numbers of a damaged file", {-90000, 100000, 800, 600}, {laptop, beside}, {0, 140, 800, 600}},
       {"no screen at all", {5, 5, 10, 10}, {}, {5, 5, 10, 10}},
+      // clang-format on
   };
-  for (const auto& row : rows) EXPECT_EQ(FitOnScreens(row.wanted, row.screens), row.placed) << row.what;
+  for (const auto& row : rows)
+    EXPECT_EQ(FitOnScreens(row.wanted, row.screens), row.placed) << row.what;
 }
 
 TEST(WindowPlacementTest, AWindowTakesItsPlaceAndKeepsItUpToDate) {
@@ -77,7 +80,8 @@ TEST(WindowPlacementTest, TheSettingsFileKeepsWhereTheWindowsStood) {
   RecordingProcesses processes;
   files.files["/car/Tarnview.ini"] =
       "[General]\r\nWindow State=0\r\nWindow Left=150\r\nWindow Top=750\r\nWindow Width=11250\r\n"
-      "Window Height=10500\r\nMaintenance Form Window State=0\r\nMaintenance Form Window Left=300\r\n"
+      "Window Height=10500\r\nMaintenance Form Window State=0\r\nMaintenance Form Window "
+      "Left=300\r\n"
       "Maintenance Form Window Top=1500\r\nMaintenance Form Window Width=9000\r\n"
       "Maintenance Form Window Height=7500\r\n";
   Program program(host, files, clock, processes, ProgramFolders{}, "/car/Tarnview.ini");
@@ -98,8 +102,9 @@ TEST(WindowPlacementTest, TheSettingsFileKeepsWhereTheWindowsStood) {
   program.MainWindow().Unload();
   Settle();
   const std::string& kept = files.files["/car/Tarnview.ini"];
-  for (const char* line : {"\r\nWindow Left=180\r\n", "\r\nWindow Width=11400\r\n",
-                           "Maintenance Form Window Left=300\r\n", "Maintenance Form Window Width=9300\r\n"})
+  for (const char* line :
+       {"\r\nWindow Left=180\r\n", "\r\nWindow Width=11400\r\n",
+        "Maintenance Form Window Left=300\r\n", "Maintenance Form Window Width=9300\r\n"})
     EXPECT_NE(kept.find(line), std::string::npos) << line;
 }
 
@@ -126,12 +131,13 @@ TEST(WindowPlacementTest, TheBarsBetweenItsPartsStayWhereTheyWereDragged) {
   again.Raise(false);
   odd.Raise(false);
   Settle();
-  EXPECT_NEAR(again.window().findChild<QSplitter*>("mainSplitter")->sizes().first(), bar->sizes().first(), 4);
+  EXPECT_NEAR(again.window().findChild<QSplitter*>("mainSplitter")->sizes().first(),
+              bar->sizes().first(), 4);
   Settle();
 }
 
-/// What fits 1920 by 1080 at twice the size: 960 by 540 less the window's frame, and for the main window a desktop's
-/// panel.
+/// What fits 1920 by 1080 at twice the size: 960 by 540 less the window's frame, and for the main
+/// window a desktop's panel.
 TEST(WindowPlacementTest, EveryWindowFitsASmallScreen) {
   TestApplication();
   RecordingHost host;

@@ -57,9 +57,9 @@ TEST(WindowWalkTest, NamesWhatDoesNotFit) {
   plain.setObjectName("nameHeading");
   QAction second(&window);
   second.setProperty("control", "mnuNone");
-  EXPECT_THAT(WindowFaults(form, window),
-              UnorderedElementsAre("frmTwo: nothing shows lblMember(3)", "frmTwo: no control for lblStray",
-                                   "frmTwo: no control for mnuNone"));
+  EXPECT_THAT(WindowFaults(form, window), UnorderedElementsAre("frmTwo: nothing shows lblMember(3)",
+                                                               "frmTwo: no control for lblStray",
+                                                               "frmTwo: no control for mnuNone"));
 }
 
 TEST(WindowWalkTest, EveryWindowOpensTheManualAtAChapter) {
@@ -80,12 +80,15 @@ TEST(WindowWalkTest, WhatCanBeWorkedHasANameToBeReadOut) {
     FormWindow shown(*form, nullptr, [](Form&) {});
     for (QWidget* widget : shown.window().findChildren<QWidget*>()) {
       const bool own = !widget->objectName().startsWith("qt_") && !widget->objectName().isEmpty();
-      const bool silent = qobject_cast<QFrame*>(widget) && !qobject_cast<QAbstractScrollArea*>(widget);
-      const bool worked = widget->focusPolicy() != Qt::NoFocus || qobject_cast<QScrollBar*>(widget) ||
-                          qobject_cast<QProgressBar*>(widget) || qobject_cast<PictureWidget*>(widget);
+      const bool silent =
+          qobject_cast<QFrame*>(widget) && !qobject_cast<QAbstractScrollArea*>(widget);
+      const bool worked =
+          widget->focusPolicy() != Qt::NoFocus || qobject_cast<QScrollBar*>(widget) ||
+          qobject_cast<QProgressBar*>(widget) || qobject_cast<PictureWidget*>(widget);
       if (!own || silent || !worked || widget->isHidden()) continue;
       const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(widget);
-      EXPECT_NE(read->text(QAccessible::Name).trimmed(), "") << form->name << " " << widget->objectName().toStdString();
+      EXPECT_NE(read->text(QAccessible::Name).trimmed(), "")
+          << form->name << " " << widget->objectName().toStdString();
     }
   }
   Settle();
@@ -118,7 +121,8 @@ TEST_F(MenuWalkTest, NoTwoEntriesOfAMenuShareALetter) {
       const QString key = QKeySequence::mnemonic(action->text()).toString();
       if (key.isEmpty()) continue;
       const auto [other, isFirst] = letters.emplace(key, action->text());
-      EXPECT_TRUE(isFirst) << menu->objectName().toStdString() << ": " << action->text().toStdString() << " and "
+      EXPECT_TRUE(isFirst) << menu->objectName().toStdString() << ": "
+                           << action->text().toStdString() << " and "
                            << other->second.toStdString();
     }
   }
@@ -140,7 +144,8 @@ TEST_F(MenuWalkTest, TheManualNamesNoEntryThatIsNotThere) {
     const QRegularExpressionMatch match = found.next();
     if (!titles.count(match.captured(1))) continue;
     ++checked;
-    EXPECT_TRUE(entries.count(match.captured(1) + ", " + match.captured(2))) << match.captured(0).toStdString();
+    EXPECT_TRUE(entries.count(match.captured(1) + ", " + match.captured(2)))
+        << match.captured(0).toStdString();
   }
   EXPECT_GT(checked, 10);
 }

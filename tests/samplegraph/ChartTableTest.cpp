@@ -21,7 +21,8 @@ class ChartTableTest : public ::testing::Test {
     log.glngLastSample = 19;
   }
   ChartTable Build(const std::vector<int>& items, const PlotWindow& window) {
-    return BuildChartTable(log, items, window, [this](std::int32_t index) { examined.push_back(index); });
+    return BuildChartTable(log, items, window,
+                           [this](std::int32_t index) { examined.push_back(index); });
   }
 
   Catalogue catalogue = BuildDataItemCatalogue();

@@ -13,12 +13,14 @@
 
 namespace tarnview {
 
-/// A log of samples numbered from 1, its range boxes, and a draw that only notes which rows it would show.
+/// A log of samples numbered from 1, its range boxes, and a draw that only notes which rows it
+/// would show.
 class GraphStandIn : public ::testing::Test {
  protected:
   void Open(int samples) {
     log.Clear(catalogue.gcolFixedDataItems, samples);
-    for (int row = 0; row < samples; ++row) log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), row + 1);
+    for (int row = 0; row < samples; ++row)
+      log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), row + 1);
     log.glngLastSample = samples - 1;
     log.glngFirstSampleTime = 1;
     log.glngLastSampleTime = samples;
@@ -50,7 +52,8 @@ class GraphStandIn : public ::testing::Test {
   DrawnGraph drawn;
   Selection selection;
   RedrawRequest redraw;
-  PlotRange range{{PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log, selection, redraw};
+  PlotRange range{
+      {PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log, selection, redraw};
   int draws = 0;
 };
 

@@ -35,8 +35,10 @@ TEST_F(PlotRangeTest, IsCorrectedBeforeADraw) {
 TEST_F(PlotRangeTest, ABoxThatIsLeftIsBroughtIntoTheLogAndForgetsTheSample) {
   Open(2000);
   EXPECT_TRUE(redraw.TakeRangeEdited());
-  for (const auto& [text, from, to] :
-       {std::tuple{"0", "1", "2000"}, {"1", "1", "1"}, {"2000", "2000", "2000"}, {"2001", "1", "2000"}}) {
+  for (const auto& [text, from, to] : {std::tuple{"0", "1", "2000"},
+                                       {"1", "1", "1"},
+                                       {"2000", "2000", "2000"},
+                                       {"2001", "1", "2000"}}) {
     selection.Highlight(7);
     PlotRangeFrom.Do({"type", {text}});
     PlotRangeTo.Do({"type", {text}});

@@ -36,8 +36,11 @@ class PointHighlightTest : public GraphStandIn, protected PointHighlight::MainWi
   StatusBar bar{window, "bar", 3};
   ProgressBar progress{window, "progress"};
   StatusArea status{window, bar, progress};
-  SampleDetails details{
-      {lvwSampleDetails, chkShowCheckedOnly, chSampleGraph}, drawn, selection, log, kinds.gcolLogFamilies};
+  SampleDetails details{{lvwSampleDetails, chkShowCheckedOnly, chSampleGraph},
+                        drawn,
+                        selection,
+                        log,
+                        kinds.gcolLogFamilies};
   PointHighlight highlight{{chSampleGraph}, drawn, selection, range, log, details, status, *this};
   std::string notes;
 };
@@ -81,7 +84,11 @@ TEST_F(PointHighlightTest, MayWalkAsFarAsTheLogGoes) {
   const struct {
     int from, point;
     bool left, right;
-  } kRows[] = {{1, 1, false, true}, {1, 2, true, true}, {2, 1, true, true}, {21, 9, true, true}, {21, 10, true, false}};
+  } kRows[] = {{1, 1, false, true},
+               {1, 2, true, true},
+               {2, 1, true, true},
+               {21, 9, true, true},
+               {21, 10, true, false}};
   for (const auto& row : kRows) {
     Type(row.from, row.from + 9);
     selection.Select(1, row.point, 3);
@@ -93,11 +100,13 @@ TEST_F(PointHighlightTest, MayWalkAsFarAsTheLogGoes) {
 TEST_F(PointHighlightTest, WalksFromCurveToCurveByTheirHeight) {
   const struct {
     int point, series, direction, then;
-  } kRows[] = {{1, 1, -1, 3}, {1, 3, -1, 5}, {1, 5, -1, 5}, {1, 1, 1, 1}, {10, 1, 1, 3}, {10, 3, 1, 5}, {10, 5, 1, 5}};
+  } kRows[] = {{1, 1, -1, 3}, {1, 3, -1, 5}, {1, 5, -1, 5}, {1, 1, 1, 1},
+               {10, 1, 1, 3}, {10, 3, 1, 5}, {10, 5, 1, 5}};
   for (const auto& row : kRows) {
     chSampleGraph.SelectPoint(row.series, row.point);
     highlight.MoveBetweenSeries(row.direction);
-    EXPECT_EQ(selection.intSelectedSeries(), row.then) << row.point << " " << row.series << " " << row.direction;
+    EXPECT_EQ(selection.intSelectedSeries(), row.then)
+        << row.point << " " << row.series << " " << row.direction;
     EXPECT_EQ(selection.lngSelectedPoint(), row.point);
   }
 }

@@ -45,7 +45,8 @@ TEST_F(ScrollingTest, MovesTheRangeOnEitherBar) {
       EXPECT_EQ(hsbGraphScrollLarge.Visible(), samples > 32701);
       (scrolling.*row.move)();
       const std::string last = std::to_string(samples - 100) + "-" + std::to_string(samples);
-      EXPECT_EQ(Range(), row.range == std::string("last") ? last : row.range) << samples << " " << row.from;
+      EXPECT_EQ(Range(), row.range == std::string("last") ? last : row.range)
+          << samples << " " << row.from;
       EXPECT_EQ(scrolling.CanGoLeft(), row.left) << samples << " " << row.range;
       EXPECT_EQ(scrolling.CanGoRight(), row.right) << samples << " " << row.range;
     }
@@ -65,7 +66,8 @@ TEST_F(ScrollingTest, StepsFollowTheWidth) {
 
 TEST_F(ScrollingTest, AThumbLetGoBeyondTheBarIsBroughtBack) {
   Show(2000, 501, 601);
-  for (const auto& [place, shown] : {std::pair{5, "1-101"}, {1999, "1900-2000"}, {1000, "951-1051"}}) {
+  for (const auto& [place, shown] :
+       {std::pair{5, "1-101"}, {1999, "1900-2000"}, {1000, "951-1051"}}) {
     hsbGraphScroll.Value = place;
     EXPECT_EQ(Range(), shown) << place;
   }

@@ -59,8 +59,10 @@ TEST_F(ZoomTest, ZoomsAboutTheSelectedPointOrTheMiddle) {
 
 TEST_F(ZoomTest, MayRunWhereItDoesSomething) {
   Open(5000);
-  for (const auto& [from, to, in, out] :
-       {std::tuple{1, 5000, true, false}, {1, 4999, true, true}, {11, 21, true, true}, {11, 20, false, true}}) {
+  for (const auto& [from, to, in, out] : {std::tuple{1, 5000, true, false},
+                                          {1, 4999, true, true},
+                                          {11, 21, true, true},
+                                          {11, 20, false, true}}) {
     Type(from, to);
     EXPECT_EQ(zoom.CanZoomIn(), in) << to;
     EXPECT_EQ(zoom.CanZoomOut(), out) << to;

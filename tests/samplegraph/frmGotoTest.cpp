@@ -34,7 +34,8 @@ TEST_F(GotoTest, TheClosestSampleIsWalkedToFromAGuess) {
     std::int32_t time, index;
   } kRows[] = {{0, 0},     {10000, 0}, {12000, 1}, {15000, 1}, {19999, 1}, {30000, 2},
                {39999, 2}, {40000, 3}, {44000, 3}, {45000, 4}, {90000, 4}};
-  for (const auto& row : kRows) EXPECT_EQ(ClosestSampleNumberToTime(log, row.time), row.index) << row.time;
+  for (const auto& row : kRows)
+    EXPECT_EQ(ClosestSampleNumberToTime(log, row.time), row.index) << row.time;
   log.glngLastSample = 0;
   log.glngLastSampleTime = 5;
   EXPECT_EQ(ClosestSampleNumberToTime(log, 99), 0) << "one sample alone";
@@ -47,11 +48,12 @@ TEST_F(GotoTest, NumberAndTimeFollowEachOther) {
   const struct {
     TextBox& box;
     const char *typed, *number, *time;
-  } kRows[] = {{window.txtSampleNumber, "7", "7", "2"},        {window.txtSampleNumber, "6.5x", "6", "1.5"},
-               {window.txtSampleNumber, "-3", "5", "1"},       {window.txtSampleNumber, "8", "8", "2"},
-               {window.txtSampleNumber, "99999", "11", "4.5"}, {window.txtSampleTime, "4", "10", "4"},
-               {window.txtSampleTime, "-1", "5", "1"},         {window.txtSampleTime, "1e9", "11", "4.5"},
-               {window.txtSampleTime, "x", "5", "1"}};
+  } kRows[] = {
+      {window.txtSampleNumber, "7", "7", "2"},        {window.txtSampleNumber, "6.5x", "6", "1.5"},
+      {window.txtSampleNumber, "-3", "5", "1"},       {window.txtSampleNumber, "8", "8", "2"},
+      {window.txtSampleNumber, "99999", "11", "4.5"}, {window.txtSampleTime, "4", "10", "4"},
+      {window.txtSampleTime, "-1", "5", "1"},         {window.txtSampleTime, "1e9", "11", "4.5"},
+      {window.txtSampleTime, "x", "5", "1"}};
   for (const auto& row : kRows) {
     row.box.Do({"type", {row.typed}});
     window.cmdCancel.SetFocus();

@@ -62,9 +62,9 @@ TEST_F(PresetDetailsTest, SavesAndProposesTheSameFileAgain) {
   host.answers.push_back({Answer::Kind::Ok});  // the name proposed
   window->cmdSave.Press();
   ASSERT_TRUE(files.files.contains("/logs/Boost.sam"));
-  EXPECT_TRUE(
-      files.files["/logs/Boost.sam"].ends_with("Graph 1 Data Items=5,3\r\nGraph 1 Fix Graph Max=N\r\n"
-                                               "Graph 1 Graph Max=10\r\n"));
+  EXPECT_TRUE(files.files["/logs/Boost.sam"].ends_with(
+      "Graph 1 Data Items=5,3\r\nGraph 1 Fix Graph Max=N\r\n"
+      "Graph 1 Graph Max=10\r\n"));
   host.answers.push_back({Answer::Kind::Yes});
   host.answers.push_back({Answer::Kind::File, "/p/b.sam"});
   window->cmdSave.Press();
@@ -80,7 +80,9 @@ TEST_F(PresetDetailsTest, SavesAndProposesTheSameFileAgain) {
 }
 
 TEST_F(PresetDetailsTest, LoadsExactlyTheItemsOfAFile) {
-  Load("Graph 1 Name=Knock\nGraph 1 Data Items=20,99,47,21\nGraph 1 Fix Graph Max=Y\nGraph 1 Graph Max=120");
+  Load(
+      "Graph 1 Name=Knock\nGraph 1 Data Items=20,99,47,21\nGraph 1 Fix Graph Max=Y\nGraph 1 Graph "
+      "Max=120");
   EXPECT_EQ(Boxes(), (Items{92}));
   EXPECT_EQ(window->txtName.Text(), "Knock");
   EXPECT_EQ(window->txtYMax.Text(), "120");

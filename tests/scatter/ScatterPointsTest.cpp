@@ -23,7 +23,8 @@ struct Samples {
 
   explicit Samples(int rows, std::int32_t first = 1) {
     log.Clear(catalogue.gcolFixedDataItems, rows);
-    for (int row = 0; row < rows; ++row) log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), first + row);
+    for (int row = 0; row < rows; ++row)
+      log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), first + row);
     log.glngLastSample = rows - 1;
     log.glngFirstSampleTime = first;
     log.glngLastSampleTime = first + rows - 1;
@@ -82,7 +83,9 @@ bool Passes(const OpenLog& log, const clsScatterFilter& filter, int row) {
 
 TEST(ScatterWalk, AgreesWithTheRuleToldSampleBySample) {
   std::mt19937 random(7);
-  const auto number = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+  const auto number = [&](int low, int high) {
+    return std::uniform_int_distribution<int>(low, high)(random);
+  };
   for (int round = 0; round < 300; ++round) {
     Samples samples(number(1, 3000));
     SampleStore& store = samples.log.glngDataLog;
@@ -98,12 +101,15 @@ TEST(ScatterWalk, AgreesWithTheRuleToldSampleBySample) {
       if (number(0, 3) > 0)  // else the log does not deliver the item
         for (int row = 0; row < store.Rows(); ++row) store.Set(seq - 1, row, number(0, most));
       // Bounds that are values of the item, so that equality decides.
-      const auto bound = [&] { return number(0, 2) == 0 ? kBoundNotSet : item.GetRawData(number(0, most)); };
+      const auto bound = [&] {
+        return number(0, 2) == 0 ? kBoundNotSet : item.GetRawData(number(0, most));
+      };
       filters.AddDirect(On(seq, bound(), bound()));
     }
     std::vector<std::int32_t> expected;
     for (int row = 0; row < store.Rows(); ++row)
-      if (std::all_of(filters.begin(), filters.end(), [&](const auto& one) { return Passes(samples.log, one, row); }))
+      if (std::all_of(filters.begin(), filters.end(),
+                      [&](const auto& one) { return Passes(samples.log, one, row); }))
         expected.push_back(row);
     ASSERT_EQ(samples.Rows(filters), expected) << "round " << round;
   }

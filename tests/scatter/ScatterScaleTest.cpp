@@ -9,7 +9,8 @@ namespace tarnview {
 namespace {
 
 TEST(ScatterScale, HoldsTheValuesOnRoundSteps) {
-  constexpr double kNan = std::numeric_limits<double>::quiet_NaN(), kEndless = std::numeric_limits<double>::infinity();
+  constexpr double kNan = std::numeric_limits<double>::quiet_NaN(),
+                   kEndless = std::numeric_limits<double>::infinity();
   const struct {
     std::vector<double> values;
     double min, max;
@@ -36,7 +37,8 @@ TEST(ScatterScale, HoldsTheValuesOnRoundSteps) {
 }
 
 TEST(ScatterScale, StaysSaneAtTheEndsOfADouble) {
-  const double most = std::numeric_limits<double>::max(), least = std::numeric_limits<double>::denorm_min();
+  const double most = std::numeric_limits<double>::max(),
+               least = std::numeric_limits<double>::denorm_min();
   for (const auto& values : std::vector<std::vector<double>>{{-most, most},
                                                              {most, most},
                                                              {-9e299, 9e299},

@@ -91,7 +91,8 @@ TEST_F(ScatterDetailsTest, KeepsItsFilters) {
   host.answers.push_back({Answer::Kind::No});
   window->cmdFilterDelete.Press();
   EXPECT_EQ(host.messages.back().text, "Are you sure you want to delete this filter?");
-  window->lvwFilters.Do({"sort", {"Item"}});  // Knock, MAP, Throttle: the filters know their places all the same
+  window->lvwFilters.Do(
+      {"sort", {"Item"}});  // Knock, MAP, Throttle: the filters know their places all the same
   window->lvwFilters.Do({"row", {"Knock"}});
   host.answers.push_back({Answer::Kind::Yes});
   window->cmdFilterDelete.Press();
@@ -124,9 +125,9 @@ TEST_F(ScatterDetailsTest, SavesAndLoads) {
   host.answers.push_back({Answer::Kind::No});
   host.answers.push_back({Answer::Kind::Ok});  // the name proposed
   window->cmdSave.Press();
-  EXPECT_TRUE(
-      files.files["/logs/Boost.sca"].ends_with("Graph 1 Filter 2 Data Item=15\r\nGraph 1 Filter 2 From=1\r\n"
-                                               "Graph 1 Filter 2 To=9\r\n"));
+  EXPECT_TRUE(files.files["/logs/Boost.sca"].ends_with(
+      "Graph 1 Filter 2 Data Item=15\r\nGraph 1 Filter 2 From=1\r\n"
+      "Graph 1 Filter 2 To=9\r\n"));
   files.failWrites = true;
   host.answers.push_back({Answer::Kind::Yes});
   host.answers.push_back({Answer::Kind::Ok});
@@ -144,7 +145,8 @@ TEST_F(ScatterDetailsTest, SavesAndLoads) {
   EXPECT_EQ(Rows(), (Texts{"RPM - 900"}));
   EXPECT_TRUE(window->chkFileOpenDraw.Value());
 
-  const std::string other = "Graph 1 Name=Other\nGraph 1 X Axis=3\nGraph 1 Y Axis=5\nGraph 1 Log Family=6";
+  const std::string other =
+      "Graph 1 Name=Other\nGraph 1 X Axis=3\nGraph 1 Y Axis=5\nGraph 1 Log Family=6";
   host.answers.push_back({Answer::Kind::No});
   Load(other);
   EXPECT_EQ(window->txtName.Text(), "Knock");

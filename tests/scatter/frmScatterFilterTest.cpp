@@ -39,7 +39,10 @@ TEST_F(ScatterFilterTest, TakesBoundsOfANumber) {
   const struct {
     const char *from, *to;
     double dblFrom, dblTo;
-  } kRows[] = {{"5", "5", 5, 5}, {"", "1e2x", kBoundNotSet, 1}, {"x", "-0", 0, 0}, {".50", "", 0.5, kBoundNotSet}};
+  } kRows[] = {{"5", "5", 5, 5},
+               {"", "1e2x", kBoundNotSet, 1},
+               {"x", "-0", 0, 0},
+               {".50", "", 0.5, kBoundNotSet}};
   for (const auto& row : kRows) {
     EXPECT_EQ(Enter(row.from, row.to), (Ids{})) << row.from;
     EXPECT_TRUE(window->Accepted());

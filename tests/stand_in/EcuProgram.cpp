@@ -1,4 +1,5 @@
-// Plays the programs that talk to the ECU, by the script "NAME.script" beside it, one line at a time:
+// Plays the programs that talk to the ECU, by the script "NAME.script" beside it, one line at a
+// time:
 //
 //     words FILE          writes its own words into a file of the folder that it was started in
 //     write FILE TEXT     writes a file
@@ -20,7 +21,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Write(const std::string& file, const std::string& text) { std::ofstream(file, std::ios::binary) << text; }
+void Write(const std::string& file, const std::string& text) {
+  std::ofstream(file, std::ios::binary) << text;
+}
 
 std::string Rest(std::istringstream& line) {
   std::string text;

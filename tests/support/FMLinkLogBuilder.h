@@ -8,7 +8,8 @@
 namespace tarnview {
 
 /// A line of blanks with texts put at positions from 1: Placed(57, {{1, "1"}, {9, "3250"}}).
-inline std::string Placed(std::size_t length, const std::vector<std::pair<std::size_t, std::string_view>>& texts) {
+inline std::string Placed(std::size_t length,
+                          const std::vector<std::pair<std::size_t, std::string_view>>& texts) {
   std::string line(length, ' ');
   for (const auto& [at, text] : texts) line.replace(at - 1, text.size(), text);
   return line;
@@ -25,7 +26,8 @@ inline std::string ZoneRowText(int first, int step = 0) {
   return row;
 }
 
-/// The lines of a zone section: one row for zones 0, 16, fuel, ignition, 224 and, with `lastRow`, 240.
+/// The lines of a zone section: one row for zones 0, 16, fuel, ignition, 224 and, with `lastRow`,
+/// 240.
 inline std::vector<std::string> ZoneSectionLines(const std::vector<std::string>& rows) {
   const std::vector<int> headings{0, 2, 1, 0, 0, 0, 0, 0, 3, 0, 0, 0, 0, 0, 2, 0};
   std::vector<std::string> lines;

@@ -36,8 +36,12 @@ class MemoryFileSystem : public FileSystem {
     Note("folder", path);
     return IsFolder(path);
   }
-  bool IsProgram(const std::string& path) override { return HasProgramName(path) && files.contains(path); }
-  bool IsFile(const std::string& path) override { return files.contains(path) && !pipes.contains(path); }
+  bool IsProgram(const std::string& path) override {
+    return HasProgramName(path) && files.contains(path);
+  }
+  bool IsFile(const std::string& path) override {
+    return files.contains(path) && !pipes.contains(path);
+  }
   bool SameFile(const std::string& a, const std::string& b) override { return a == b; }
   std::optional<FileBytes> Read(const std::string& path) override {
     Note("read", path);
@@ -103,9 +107,12 @@ class MemoryFileSystem : public FileSystem {
   bool IsFolder(const std::string& path) const {
     const std::string inside = AddBackslash(path);
     return folders.contains(Bare(path)) ||
-           std::any_of(files.begin(), files.end(), [&](const auto& file) { return file.first.starts_with(inside); });
+           std::any_of(files.begin(), files.end(),
+                       [&](const auto& file) { return file.first.starts_with(inside); });
   }
-  bool MayChange(const std::string& path) const { return !failWrites && !broken.contains(path) && !IsFolder(path); }
+  bool MayChange(const std::string& path) const {
+    return !failWrites && !broken.contains(path) && !IsFolder(path);
+  }
   std::vector<std::string> NamesIn(const std::string& folder, const std::string& pattern) const {
     std::vector<std::string> names;
     for (const auto& [path, bytes] : files) {
@@ -114,7 +121,9 @@ class MemoryFileSystem : public FileSystem {
     }
     return names;
   }
-  void Note(const char* verb, const std::string& path) { accesses.push_back(std::string(verb) + " " + path); }
+  void Note(const char* verb, const std::string& path) {
+    accesses.push_back(std::string(verb) + " " + path);
+  }
 };
 
 }  // namespace tarnview

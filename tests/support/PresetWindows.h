@@ -21,7 +21,8 @@ class PresetWindowsTest : public ::testing::Test {
   /// The ids of the boxes shown since the last call; a question is -1.
   std::vector<int> Boxes() {
     std::vector<int> ids;
-    for (const Box& box : host.messages) ids.push_back(box.style & kBoxQuestion && box.style & kBoxYesNo ? -1 : box.id);
+    for (const Box& box : host.messages)
+      ids.push_back(box.style & kBoxQuestion && box.style & kBoxYesNo ? -1 : box.id);
     host.messages.clear();
     return ids;
   }

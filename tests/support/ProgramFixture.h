@@ -22,7 +22,8 @@ class ProgramFixture : public ::testing::Test {
     if (!settings.empty()) files.files["/car/Tarnview.ini"] = settings;
     program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{});
     if (!settings.empty())
-      program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{}, "/car/Tarnview.ini");
+      program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{},
+                                          "/car/Tarnview.ini");
     program->Start(commandLine, false);
   }
   frmDataLogViewer& Main() { return program->MainWindow(); }

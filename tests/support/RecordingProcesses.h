@@ -9,8 +9,8 @@
 
 namespace tarnview {
 
-/// Starts nothing: remembers the command lines and their folders, and answers with the codes of a script. A program
-/// that the user does not wait for is left alone.
+/// Starts nothing: remembers the command lines and their folders, and answers with the codes of a
+/// script. A program that the user does not wait for is left alone.
 class RecordingProcesses : public Processes {
  public:
   std::vector<std::string> commands;
@@ -23,7 +23,8 @@ class RecordingProcesses : public Processes {
   /// What the program does before it ends, such as writing its files.
   std::function<void(const std::string& command)> whileRunning;
 
-  RunResult Run(const ProgramCall& call, const std::string& folder, const std::function<bool()>& keepWaiting) override {
+  RunResult Run(const ProgramCall& call, const std::string& folder,
+                const std::function<bool()>& keepWaiting) override {
     commands.push_back(call.Text());
     folders.push_back(folder);
     if (!trouble.empty()) return {RunResult::End::NotStarted, 0, trouble};

@@ -9,10 +9,13 @@
 
 namespace tarnview {
 
-/// Gives each file of tests/fuzz/corpus/TARGET, and the file cut off in its middle, to a fuzz target's entry.
-inline void ReplayCorpus(const std::string& target, int (*entry)(const unsigned char*, std::size_t)) {
+/// Gives each file of tests/fuzz/corpus/TARGET, and the file cut off in its middle, to a fuzz
+/// target's entry.
+inline void ReplayCorpus(const std::string& target,
+                         int (*entry)(const unsigned char*, std::size_t)) {
   int files = 0;
-  for (const auto& file : std::filesystem::directory_iterator(std::string(TARNVIEW_TESTS) + "/fuzz/corpus/" + target)) {
+  for (const auto& file : std::filesystem::directory_iterator(std::string(TARNVIEW_TESTS) +
+                                                              "/fuzz/corpus/" + target)) {
     SCOPED_TRACE(file.path().string());
     std::ifstream stream(file.path(), std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(stream), {}};

@@ -14,8 +14,8 @@ struct SmallSample {
   int knock = 0;
 };
 
-/// An FM Link log of `count` samples numbered from 1, a summary behind every 16, 80 degrees C, and no zones: its load
-/// shows message 16. `shape` may change a sample.
+/// An FM Link log of `count` samples numbered from 1, a summary behind every 16, 80 degrees C, and
+/// no zones: its load shows message 16. `shape` may change a sample.
 inline std::string SmallLog(int count, const std::function<void(SmallSample&)>& shape = {}) {
   std::string text = "Sample   RPM\r\n";
   char line[80];
@@ -23,7 +23,8 @@ inline std::string SmallLog(int count, const std::function<void(SmallSample&)>& 
     SmallSample one;
     one.sample = n;
     if (shape) shape(one);
-    std::snprintf(line, sizeof line, "%-6d  %4d  D%3d    %3d  x   0  xxx 250  10.0   40  n %3d 12.0\r\n", one.sample,
+    std::snprintf(line, sizeof line,
+                  "%-6d  %4d  D%3d    %3d  x   0  xxx 250  10.0   40  n %3d 12.0\r\n", one.sample,
                   one.rpm, one.mapKPa, 90, one.knock);
     text += line;
     if (n % 16 == 0) text += " 1.8    13.8     80 AT  25                             0   0\r\n";

@@ -25,7 +25,8 @@ inline void Act(Form& form, const std::string& actions) {
     Action action{words[0], {}};
     const std::size_t front = words[0].size() + words[1].size() + 2;
     if (words.size() > 2) action.words.push_back(line.substr(front));
-    if (words[0] == "tick") action.words = {line.substr(front, line.rfind(' ') - front), words.back()};
+    if (words[0] == "tick")
+      action.words = {line.substr(front, line.rfind(' ') - front), words.back()};
     Control* control = ControlOf(form, words[1]);
     ASSERT_TRUE(control) << line;
     control->Do(action);

@@ -45,7 +45,8 @@ TEST_F(ChartTest, EachKindHasItsOwnSeriesAndPoints) {
   data.kind = Curves{{{3, "RPM", {0, 1}, {5, 6}, {}}, {5, "MAP", {0, 1, 2}, {7, 8, 9}, {}}}};
   chart.SetData(data);
   EXPECT_TRUE(Takes(1, 2) && Takes(3, 3));
-  EXPECT_FALSE(Takes(1, 3) || Takes(2, 1) || Takes(5, 1) || Takes(0, 1) || Takes(-1, 1) || Takes(1, 0));
+  EXPECT_FALSE(Takes(1, 3) || Takes(2, 1) || Takes(5, 1) || Takes(0, 1) || Takes(-1, 1) ||
+               Takes(1, 0));
   PointCloud cloud;
   cloud.x = cloud.y = cloud.sample = {1, 2};
   data.kind = cloud;
@@ -72,7 +73,9 @@ TEST_F(ChartTest, AViewFromElsewhereKeepsWhatIsSelected) {
   EXPECT_EQ(chart.SelectedSeries(), 2);
   EXPECT_EQ(chart.Data().AsSurface()->view, (SurfaceView{30, 130, 2}));
   std::string turned;
-  chart.Turn = [&](double right, double up) { turned = std::to_string(right) + " " + std::to_string(up); };
+  chart.Turn = [&](double right, double up) {
+    turned = std::to_string(right) + " " + std::to_string(up);
+  };
   chart.Do({"turn", {"12.5", "-3"}});
   EXPECT_EQ(turned, "12.500000 -3.000000");
   chart.SetData({});
@@ -86,7 +89,8 @@ TEST_F(ChartTest, ASurfaceTellsItsTableItsLabelsAndItsAngles) {
   const Object facts = Describe(data);
   std::string names;
   for (const auto& [name, value] : facts) names += name + " ";
-  EXPECT_EQ(names, "title subtitle rotation elevation zoom rows columns values locked height_axis ");
+  EXPECT_EQ(names,
+            "title subtitle rotation elevation zoom rows columns values locked height_axis ");
   const auto at = [&](std::size_t place) { return std::get<List>(facts[place].second.Get()); };
   const auto rows = at(7);
   ASSERT_EQ(rows.size(), 2u);

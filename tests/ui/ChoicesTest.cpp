@@ -12,7 +12,8 @@ namespace {
 TEST(OptionButton, OneOfAFrameIsOn) {
   RecordingHost host;
   Form form(host, "frmChoice", "Choice");
-  OptionButton targets(form, "radBoost", "fraUnit", "Targets", 0), duty(form, "radBoost", "fraUnit", "Duty", 1);
+  OptionButton targets(form, "radBoost", "fraUnit", "Targets", 0),
+      duty(form, "radBoost", "fraUnit", "Duty", 1);
   OptionButton other(form, "radOther", "fraOther", "Other");
   std::string notes;
   targets.Click = [&] { notes += "targets "; };
@@ -39,8 +40,8 @@ TEST(TabStrip, ShowsThePageOfItsTab) {
   Frame general(form, "fraGeneral"), fuel(form, "fraFuel"), notes(form, "fraNotes");
   TabStrip tabs(form, "tabPages");
   const auto shown = [&] {
-    return std::to_string(tabs.Selected()) + (general.Visible ? " general" : "") + (fuel.Visible ? " fuel" : "") +
-           (notes.Visible ? " notes" : "");
+    return std::to_string(tabs.Selected()) + (general.Visible ? " general" : "") +
+           (fuel.Visible ? " fuel" : "") + (notes.Visible ? " notes" : "");
   };
   int clicks = 0;
   tabs.Click = [&] { ++clicks; };

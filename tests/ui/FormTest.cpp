@@ -45,7 +45,8 @@ class frmNotes : public Form {
   ScrollBar hsbPlace{*this, "hsbPlace"};
   UpDown updPlace{*this, "updPlace"};
   MenuItem mnuGoto{*this, "mnuGoto", "&Goto...", "Ctrl+G"};
-  ControlArray<MenuItem> mnuRecent{*this, "mnuRecent", {0, 2}, std::string("recent"), std::string()};
+  ControlArray<MenuItem> mnuRecent{
+      *this, "mnuRecent", {0, 2}, std::string("recent"), std::string()};
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
@@ -120,7 +121,8 @@ TEST_F(FormTest, EnterAndEscapePressTheirButtons) {
     if (form.txtName.Text->empty()) form.txtName.SetFocus();
   };
   form.Press({"Enter"});
-  EXPECT_EQ(form.Notes(), " got key:Enter lost got") << "a field that keeps the caret keeps the button from it";
+  EXPECT_EQ(form.Notes(), " got key:Enter lost got")
+      << "a field that keeps the caret keeps the button from it";
   form.txtName.Text = "a";
   form.Press({"Enter"});
   form.Press({"Enter"});
@@ -192,7 +194,9 @@ TEST_F(FormTest, FindsControlsByNameAndIndex) {
 
 TEST_F(FormTest, WidgetsHearOfChangesFromCode) {
   std::string heard;
-  form.txtName.Watch([&](What what) { heard += what == What::Content ? "c" : what == What::State ? "s" : "f"; });
+  form.txtName.Watch([&](What what) {
+    heard += what == What::Content ? "c" : what == What::State ? "s" : "f";
+  });
   form.txtName.Text = "x";
   form.txtName.Enabled = false;
   form.txtName.Enabled = false;
@@ -201,7 +205,8 @@ TEST_F(FormTest, WidgetsHearOfChangesFromCode) {
 }
 
 TEST(Keys, AreReadByName) {
-  for (const char* text : {"", "Ctrl+", "Ctrl", "Meta+A", "F13", "++", "\xe9"}) EXPECT_FALSE(ParseKeys(text)) << text;
+  for (const char* text : {"", "Ctrl+", "Ctrl", "Meta+A", "F13", "++", "\xe9"})
+    EXPECT_FALSE(ParseKeys(text)) << text;
   const KeyPress shifted{"PageUp", true, true, true};
   EXPECT_EQ(ParseKeys("shift+CTRL+Alt+pageup"), shifted);
   EXPECT_EQ(ParseKeys("Esc")->key, "Escape");

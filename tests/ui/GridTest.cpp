@@ -10,13 +10,15 @@
 namespace tarnview {
 namespace {
 
-/// Four rows and four columns, headings among them; the last cell is blacked out, the one before it locked.
+/// Four rows and four columns, headings among them; the last cell is blacked out, the one before it
+/// locked.
 class GridTest : public testing::Test {
  protected:
   GridTest() {
     grid.SetSize(4, 4);
     for (int row = 1; row < 4; ++row)
-      for (int column = 1; column < 4; ++column) grid.SetText(row, column, std::to_string(10 * row + column));
+      for (int column = 1; column < 4; ++column)
+        grid.SetText(row, column, std::to_string(10 * row + column));
     GridCell cell = grid.At(3, 2);
     cell.locked = true;
     grid.SetCell(3, 2, cell);
@@ -40,8 +42,8 @@ class GridTest : public testing::Test {
   std::string State() {
     const GridRange range = grid.Selection();
     std::ostringstream state;
-    state << std::exchange(notes, "") << "@" << grid.Current().row << "," << grid.Current().column << " " << range.top
-          << "," << range.left << ":" << range.bottom << "," << range.right;
+    state << std::exchange(notes, "") << "@" << grid.Current().row << "," << grid.Current().column
+          << " " << range.top << "," << range.left << ":" << range.bottom << "," << range.right;
     if (grid.IsEditing()) state << " [" << grid.EditText() << "]";
     return state.str();
   }
@@ -139,9 +141,10 @@ TEST_F(GridTest, ScriptsSelectEditAndAreRefused) {
   EXPECT_EQ(State(), "selected @3,3 2,1:3,3");
   grid.Do({"popup", {}});
   EXPECT_EQ(State(), "menu @3,3 2,1:3,3");
-  const Action refused[] = {{"cell", {"0", "1"}},      {"cell", {"1", "0"}}, {"cell", {"4", "1"}},
-                            {"cell", {"1", "4"}},      {"cell", {"1"}},      {"cell", {"3", "3", "1"}},
-                            {"cell", {"3", "2", "1"}}, {"row", {"1"}},       {"range", {"1", "1", "2", "4"}}};
+  const Action refused[] = {
+      {"cell", {"0", "1"}},      {"cell", {"1", "0"}}, {"cell", {"4", "1"}},
+      {"cell", {"1", "4"}},      {"cell", {"1"}},      {"cell", {"3", "3", "1"}},
+      {"cell", {"3", "2", "1"}}, {"row", {"1"}},       {"range", {"1", "1", "2", "4"}}};
   for (const Action& action : refused) EXPECT_THROW(grid.Do(action), CannotDo) << action.verb;
   grid.ReadOnly = true;
   EXPECT_THROW(grid.Do({"cell", {"1", "1", "1"}}), CannotDo);

@@ -66,8 +66,9 @@ TEST_F(ListViewTest, AHeadingSortsNumbersByValueAndKeepsTheSelection) {
 }
 
 TEST_F(ListViewTest, RefusesWhatIsNotThere) {
-  const Action actions[] = {{"row", {"4"}},  {"row", {"0"}},  {"row", {}},          {"tick", {"1", "maybe"}},
-                            {"tick", {"1"}}, {"sort", {"3"}}, {"sort", {"Colour"}}, {"type", {"x"}}};
+  const Action actions[] = {{"row", {"4"}},           {"row", {"0"}},  {"row", {}},
+                            {"tick", {"1", "maybe"}}, {"tick", {"1"}}, {"sort", {"3"}},
+                            {"sort", {"Colour"}},     {"type", {"x"}}};
   for (const Action& action : actions) EXPECT_THROW(list.Do(action), CannotDo) << action.verb;
   list.Clear();
   EXPECT_THROW(list.Do({"row", {"1"}}), CannotDo);

@@ -23,8 +23,9 @@ TEST(RecordingHost, ChoosesWhatTheScriptSays) {
   dialog.colour = 5;
   EXPECT_FALSE(host.Choose(dialog));
   EXPECT_EQ(dialog.path, "before.txt");
-  host.answers = {
-      {Answer::Kind::File, "a.txt", 0}, {Answer::Kind::Colour, "", 0x0000FF}, {Answer::Kind::Cancel, "", 0}};
+  host.answers = {{Answer::Kind::File, "a.txt", 0},
+                  {Answer::Kind::Colour, "", 0x0000FF},
+                  {Answer::Kind::Cancel, "", 0}};
   EXPECT_TRUE(host.Choose(dialog));
   EXPECT_EQ(dialog.path, "a.txt");
   EXPECT_EQ(dialog.colour, 5);

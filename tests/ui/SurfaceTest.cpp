@@ -23,7 +23,8 @@ Surface SmallMap(int rotation, int elevation) {
 
 /// Every character is 6 wide.
 SceneRoom Room(double width = 600, double height = 400) {
-  return {width, height, 40, 12, [](const std::string& text) { return 6.0 * static_cast<double>(text.size()); }};
+  return {width, height, 40, 12,
+          [](const std::string& text) { return 6.0 * static_cast<double>(text.size()); }};
 }
 
 std::string Texts(const SurfaceScene& scene) {
@@ -35,7 +36,8 @@ std::string Texts(const SurfaceScene& scene) {
 TEST(SurfaceEye, LooksFromTheFrontOverTheTopAndFromBehindAndNeverFromBelow) {
   const struct {
     int rotation, elevation;
-    const char* seen;  ///< where the front, the right side and the top are on the screen (right, up)
+    const char*
+        seen;  ///< where the front, the right side and the top are on the screen (right, up)
   } kViews[] = {
       {0, 0, "front 0,0 right 1,0 top 0,1"},
       {0, 90, "front 0,-1 right 1,0 top 0,0"},
@@ -69,18 +71,21 @@ TEST(SurfaceEye, AHandTurnsItAndStopsAtTheFloorAndTheTop) {
     double right, up;
     SurfaceView to;
   } kTurns[] = {
+      // clang-format off
       {{20, 30, 1}, 15, 0, {35, 30, 1}},  {{350, 30, 1}, 15, 0, {5, 30, 1}},     {{5, 30, 1}, -15, 0, {350, 30, 1}},
       {{0, 30, 1}, 0, -10, {0, 40, 1}},   {{0, 30, 1}, 0, 10, {0, 20, 1}},       {{0, 30, 1}, 0, 99, {0, 0, 1}},
       {{0, 30, 1}, 0, -99, {0, 90, 1}},   {{0, 130, 1}, 0, -10, {0, 120, 1}},    {{0, 130, 1}, 0, 99, {0, 180, 1}},
       {{0, 130, 1}, 0, -99, {0, 91, 1}},  {{0, 240, 1}, 0, -10, {0, 250, 1}},    {{0, 240, 1}, 0, 99, {0, 180, 1}},
       {{0, 240, 1}, 0, -99, {0, 269, 1}}, {{0, 300, 1}, 0, -10, {0, 290, 1}},    {{0, 300, 1}, 0, 99, {0, 0, 1}},
       {{0, 300, 2}, 0, -99, {0, 270, 2}}, {{0, 30, 1}, 1e300, 1e300, {0, 0, 1}},
+      // clang-format on
   };
   for (const auto& turn : kTurns) {
     SurfaceView to = Turned(turn.from, turn.right, turn.up);
     if (turn.right > 1e9) to.rotation = 0;
-    EXPECT_EQ(to, turn.to) << turn.from.rotation << "," << turn.from.elevation << " by " << turn.right << "," << turn.up
-                           << " gave " << to.rotation << "," << to.elevation;
+    EXPECT_EQ(to, turn.to) << turn.from.rotation << "," << turn.from.elevation << " by "
+                           << turn.right << "," << turn.up << " gave " << to.rotation << ","
+                           << to.elevation;
   }
   EXPECT_DOUBLE_EQ(Zoomed({0, 0, 1}, 1).zoom, 1.15);
   EXPECT_EQ(Zoomed({0, 0, 3.9}, 5).zoom, 4);
@@ -102,9 +107,11 @@ TEST(SurfaceScene, FacesComeFromTheBackToTheFront) {
         const double back = eye.Back(column, 0);
         EXPECT_LE(back, before) << rotation << "," << elevation;
         before = back;
-        EXPECT_GE(eye.Back(0, -scene.faces[i].row), eye.Back(0, -scene.faces[i + 2].row)) << rotation;
+        EXPECT_GE(eye.Back(0, -scene.faces[i].row), eye.Back(0, -scene.faces[i + 2].row))
+            << rotation;
       }
-      for (std::size_t i = 8; i < scene.faces.size(); ++i) EXPECT_EQ(scene.faces[i].kind, SceneFace::Kind::Skirt);
+      for (std::size_t i = 8; i < scene.faces.size(); ++i)
+        EXPECT_EQ(scene.faces[i].kind, SceneFace::Kind::Skirt);
     }
 }
 
@@ -124,18 +131,22 @@ TEST(SurfaceScene, FillsItsRoomAndNothingBeyond) {
       EXPECT_LE(right, 564);
       EXPECT_GE(top, 40);
       EXPECT_LE(bottom, 400 - 12);
-      EXPECT_TRUE(right - left > 527 || bottom - top > 297) << rotation << "," << elevation << " is small";
+      EXPECT_TRUE(right - left > 527 || bottom - top > 297)
+          << rotation << "," << elevation << " is small";
       for (const SceneLabel& label : scene.labels) {
         const double half = 3.0 * static_cast<double>(label.text.size());
-        EXPECT_TRUE(label.centre.x >= half && label.centre.x <= 600 - half && label.centre.y <= 394) << label.text;
+        EXPECT_TRUE(label.centre.x >= half && label.centre.x <= 600 - half && label.centre.y <= 394)
+            << label.text;
       }
     }
 }
 
 TEST(SurfaceScene, LabelsStandOnTheNearEdgesAndKeepClear) {
   EXPECT_EQ(Texts(MakeScene(SmallMap(30, 40), Room())), "00 05 10 RPM 100 200 MAP 25 50 Fuel ");
-  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 0), Room())), "00 05 10 RPM 0 25 50 Fuel ") << "rows are behind each other";
-  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 90), Room())), "00 05 10 RPM 100 200 MAP ") << "heights are, from above";
+  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 0), Room())), "00 05 10 RPM 0 25 50 Fuel ")
+      << "rows are behind each other";
+  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 90), Room())), "00 05 10 RPM 100 200 MAP ")
+      << "heights are, from above";
   Surface wide = SmallMap(30, 40);
   wide.columns = {"a very long label", "another very long label", "one more that is long"};
   EXPECT_EQ(Texts(MakeScene(wide, Room(300, 300))).find("another"), std::string::npos);
@@ -145,7 +156,8 @@ TEST(SurfaceScene, LabelsStandOnTheNearEdgesAndKeepClear) {
       for (std::size_t j = 0; j < i; ++j) {
         const SceneLabel &a = scene.labels[i], &b = scene.labels[j];
         const double widths = 3.0 * static_cast<double>(a.text.size() + b.text.size());
-        EXPECT_TRUE(std::abs(a.centre.x - b.centre.x) >= widths || std::abs(a.centre.y - b.centre.y) >= 12)
+        EXPECT_TRUE(std::abs(a.centre.x - b.centre.x) >= widths ||
+                    std::abs(a.centre.y - b.centre.y) >= 12)
             << rotation << ": " << a.text << " covers " << b.text;
       }
   }
@@ -165,7 +177,8 @@ TEST(SurfaceScene, AClickPicksTheCellInFront) {
         EXPECT_GE(mark->floor.y, mark->at.y);
       }
     EXPECT_FALSE(CellAt(scene, 3, {1, 1}, 5));
-    EXPECT_FALSE(MarkOf(map, Room(), 3, 1) || MarkOf(map, Room(), 1, 4) || MarkOf(map, Room(), 0, 1));
+    EXPECT_FALSE(MarkOf(map, Room(), 3, 1) || MarkOf(map, Room(), 1, 4) ||
+                 MarkOf(map, Room(), 0, 1));
   }
   // A hill at the front hides the cell behind it.
   Surface hill = SmallMap(0, 10);
@@ -214,7 +227,8 @@ TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
   map.values = {NAN, INFINITY, -INFINITY, 1e300, -7, 20};
   map.height.max = map.height.min;
   for (const SceneFace& face : MakeScene(map, Room(1, 1)).faces)
-    for (const ScenePoint& corner : face.corners) EXPECT_TRUE(std::isfinite(corner.x) && std::isfinite(corner.y));
+    for (const ScenePoint& corner : face.corners)
+      EXPECT_TRUE(std::isfinite(corner.x) && std::isfinite(corner.y));
 }
 
 }  // namespace

@@ -11,7 +11,8 @@ namespace {
 class UserEventsTest : public ::testing::Test {
  protected:
   UserEventsTest() {
-    events.Failed = [this](const std::string& module, const std::string& procedure, const std::exception& error) {
+    events.Failed = [this](const std::string& module, const std::string& procedure,
+                           const std::exception& error) {
       notes += " " + module + "/" + procedure + ":" + error.what();
     };
   }

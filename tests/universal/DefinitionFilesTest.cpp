@@ -54,7 +54,8 @@ TEST_F(DefinitionFilesTest, AFolderOffersItsGoodDefinitions) {
   files.files["/formats/bad.txt"] = "rubbish";
   files.files["/formats/other.csv"] = good;
   std::string found;
-  for (const auto& choice : loader.GenericFileLocation("/formats")) found += choice.strName + "@" + choice.path + " ";
+  for (const auto& choice : loader.GenericFileLocation("/formats"))
+    found += choice.strName + "@" + choice.path + " ";
   EXPECT_EQ(found, "Test Logs@/formats/a.txt Test Logs@/formats/b.txt ");
   EXPECT_TRUE(told.empty());
 }
@@ -65,7 +66,8 @@ TEST_F(DefinitionFilesTest, TheFileTypeAndFamilyBearTheDefinitionsName) {
   definition.strName = "Test Logs";
   definition.strFileExtension = "tst";
   SetGenericDataLogDescriptions(kinds, definition);
-  EXPECT_EQ(kinds.gcolFileTypes.Item(kUniversalLog).CommonDialogFilter(), "Universal - Test Logs (*.tst)|*.tst");
+  EXPECT_EQ(kinds.gcolFileTypes.Item(kUniversalLog).CommonDialogFilter(),
+            "Universal - Test Logs (*.tst)|*.tst");
   EXPECT_EQ(kinds.gcolLogFamilies.Item(7).strDescription, "Universal - Test Logs");
 }
 

@@ -20,7 +20,8 @@ std::string FaultOf(std::string_view text) {
     return "";
   } catch (const DefinitionFault& fault) {
     std::string detail = fault.what();
-    for (auto at = detail.find("\r\n"); at != std::string::npos; at = detail.find("\r\n")) detail.replace(at, 2, "|");
+    for (auto at = detail.find("\r\n"); at != std::string::npos; at = detail.find("\r\n"))
+      detail.replace(at, 2, "|");
     return std::to_string(static_cast<int>(fault.Told())) + ": " + detail;
   }
 }
@@ -31,7 +32,8 @@ std::string With(const std::string& column, const std::string& behind = "") {
   return DefinitionText{"", {kTime, column}, behind}.Text();
 }
 std::string Behind(const std::string& presets) {
-  return DefinitionText{"", {kTime, ColumnText("Gear", 2, 0, "[VALUES]\nN\n1\n2\n", 2)}, presets}.Text();
+  return DefinitionText{"", {kTime, ColumnText("Gear", 2, 0, "[VALUES]\nN\n1\n2\n", 2)}, presets}
+      .Text();
 }
 
 TEST(DefinitionReader, AWholeDefinition) {
@@ -83,8 +85,9 @@ TO=3
 [FILTER]
 DATA ITEM=45
 TO=0.5)");
-  EXPECT_EQ(log.strName + "|" + log.strFileExtension + "|" + log.strFileIDText + "|" + log.strVersion,
-            "My Logs|csv|A=B|2");
+  EXPECT_EQ(
+      log.strName + "|" + log.strFileExtension + "|" + log.strFileIDText + "|" + log.strVersion,
+      "My Logs|csv|A=B|2");
   EXPECT_EQ(log.lngFileIDTextLinesBefore, 2);
   EXPECT_EQ(log.lngFileIDTextColumnsBefore, 2);
   EXPECT_EQ(log.dblLineFrequency, 1);  // a float is the number at the text's start
@@ -116,13 +119,14 @@ TO=0.5)");
   EXPECT_EQ(scatter.lngPointShape, 0);
   ASSERT_EQ(scatter.objFilters.Count(), 2);
   EXPECT_EQ(scatter.objFilters.Item(1).dblTo, kBoundNotSet);  // a listed value has no upper bound
-  EXPECT_EQ(scatter.objFilters.Item(2).dblTo, 0.5);           // the last line of the file counts here
+  EXPECT_EQ(scatter.objFilters.Item(2).dblTo, 0.5);  // the last line of the file counts here
 }
 
 TEST(DefinitionReader, EachFaultTellsItsNumberAndDetails) {
   const struct {
     std::string text, fault;
   } kRows[] = {
+      // clang-format off
       {"", "69: "},
       {"[DATALOGDEFINITION] \n", "69: [DATALOGDEFINITION] "},
       {"[DATALOGDEFINITION]", "74: my.txt|File Name: |File Extension: |Delimiter ASCII Character: 0"},
@@ -162,6 +166,7 @@ TEST(DefinitionReader, EachFaultTellsItsNumberAndDetails) {
        "96: my.txt|Scatter Graph Name: S|Filter Data Item ID: 5"},
       {Behind("[SCATTER GRAPH]\nNAME=S\n[FILTER]\nDATA ITEM=2\nFROM=1.5\n"),
        "97: my.txt|Scatter Graph Name: S|Filter Data Item ID: 2|Filter From Value: 1.5"},
+      // clang-format on
   };
   for (const auto& row : kRows) EXPECT_EQ(FaultOf(row.text), row.fault) << row.text;
 }
@@ -170,10 +175,11 @@ TEST(DefinitionReader, WhatIsNoFault) {
   const std::string kRows[] = {
       With(ColumnText("A", 5, 0, "", 3)),  // an unknown type stores nothing
       With(ColumnText("A", 5, 0, "COLUMNMINIMUMVALUE=1\nCOLUMNMAXIMUMVALUE=1\n")),
-      With(ColumnText("A", 63)),                                           // two columns of one item
-      With(ColumnText("A", 5), "[COLUMN]"),                                // a block that the file's end cuts off
-      With(ColumnText("A", 5), "rubbish"),                                 // the last line is not looked at
-      Behind("[SAMPLE GRAPH]\nNAME=S\nDATA ITEMS=1,24,46\n[FILTER]\n\n"),  // items that every log has
+      With(ColumnText("A", 63)),             // two columns of one item
+      With(ColumnText("A", 5), "[COLUMN]"),  // a block that the file's end cuts off
+      With(ColumnText("A", 5), "rubbish"),   // the last line is not looked at
+      Behind(
+          "[SAMPLE GRAPH]\nNAME=S\nDATA ITEMS=1,24,46\n[FILTER]\n\n"),  // items that every log has
       Behind("[SCATTER GRAPH]"),
       DefinitionText{"LINEFREQUENCY=10\n", {ColumnText("A", 5)}, ""}.Text(),
   };
@@ -181,15 +187,18 @@ TEST(DefinitionReader, WhatIsNoFault) {
 }
 
 TEST(DefinitionReader, TheLastAttributeOfAFileWantsALineBehindIt) {
-  EXPECT_EQ(FaultOf("[DATALOGDEFINITION]\nNAME=a\nFILEEXTENSION=c\nDELIMITERASCIICHARACTER=44\nLINEFREQUENCY=1\n"
-                    "[COLUMN]\nNAME=A\nDESCRIPTION=A\nCOLUMNTITLE=A\nDATAITEMID=5\nTYPE=1\nCOLUMNDECIMALPLACES=1\n"),
+  EXPECT_EQ(FaultOf("[DATALOGDEFINITION]\nNAME=a\nFILEEXTENSION=c\nDELIMITERASCIICHARACTER="
+                    "44\nLINEFREQUENCY=1\n"
+                    "[COLUMN]\nNAME=A\nDESCRIPTION=A\nCOLUMNTITLE=A\nDATAITEMID=5\nTYPE="
+                    "1\nCOLUMNDECIMALPLACES=1\n"),
             "71: Column Name: A|Column Title: A|Description: A|Data Item ID: 5|Column Data Type: 1|"
             "Column Decimal Places Set: N");
 }
 
 TEST(DefinitionReader, LargeFilesAreReadAtOnce) {
   DefinitionText large;
-  for (int n = 0; n < 10000; ++n) large.columns.push_back(ColumnText("Title " + std::to_string(n), 2 + n % 82));
+  for (int n = 0; n < 10000; ++n)
+    large.columns.push_back(ColumnText("Title " + std::to_string(n), 2 + n % 82));
   std::string values = "[VALUES]\n";
   for (int n = 0; n < 100000; ++n) values += "Value " + std::to_string(n) + "\n";
   large.columns.push_back(ColumnText("List", 2, 0, values, 2));

@@ -5,8 +5,8 @@
 
 namespace tarnview {
 
-/// The text of a small definition of comma-separated logs: extra lines of the header, columns of "key=value" lines and
-/// what follows them. Lines end in LF.
+/// The text of a small definition of comma-separated logs: extra lines of the header, columns of
+/// "key=value" lines and what follows them. Lines end in LF.
 struct DefinitionText {
   std::string header;
   std::vector<std::string> columns;
@@ -14,7 +14,8 @@ struct DefinitionText {
 
   std::string Text() const {
     std::string text =
-        "[DATALOGDEFINITION]\nNAME=Test Logs\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=44\nDATALINESBEFORE=1\n" +
+        "[DATALOGDEFINITION]\nNAME=Test "
+        "Logs\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=44\nDATALINESBEFORE=1\n" +
         header;
     for (const std::string& column : columns) text += "[COLUMN]\n" + column;
     return text + behind + "\n";
@@ -22,8 +23,8 @@ struct DefinitionText {
 };
 
 /// The lines of a column that are mandatory, and more.
-inline std::string ColumnText(const std::string& title, int item, int places = 0, const std::string& more = "",
-                              int type = 1) {
+inline std::string ColumnText(const std::string& title, int item, int places = 0,
+                              const std::string& more = "", int type = 1) {
   return "NAME=" + title + "\nDESCRIPTION=About " + title + "\nCOLUMNTITLE=" + title +
          "\nDATAITEMID=" + std::to_string(item) + "\nTYPE=" + std::to_string(type) +
          "\nCOLUMNDECIMALPLACES=" + std::to_string(places) + "\n" + more;

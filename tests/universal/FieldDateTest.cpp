@@ -36,7 +36,8 @@ TEST(FieldDate, TheFormsThatLoggersWrite) {
   };
   for (const auto& row : kRows) {
     const auto moment = ParseFieldMoment(row.text);
-    EXPECT_EQ(moment ? static_cast<double>(moment->seconds) + moment->fraction : -1, row.seconds) << row.text;
+    EXPECT_EQ(moment ? static_cast<double>(moment->seconds) + moment->fraction : -1, row.seconds)
+        << row.text;
   }
 }
 

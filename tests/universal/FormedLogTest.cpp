@@ -15,13 +15,16 @@
 namespace tarnview {
 namespace {
 
-/// Cells of item 5 of a log with the columns "Time" and "A": "10 20~" where no value was logged in the second row.
-std::string CellsOf(const std::string& header, const std::string& text, const std::string& column = "",
-                    const char* time = "Time") {
+/// Cells of item 5 of a log with the columns "Time" and "A": "10 20~" where no value was logged in
+/// the second row.
+std::string CellsOf(const std::string& header, const std::string& text,
+                    const std::string& column = "", const char* time = "Time") {
   const Catalogue catalogue = BuildDataItemCatalogue();
   const DefinitionText file{header, {ColumnText(time, 63, 3), ColumnText("A", 5, 0, column)}, ""};
-  const clsDataLog definition = ReadDataLogDefinition(file.Text(), "", catalogue.gcolFixedDataItems);
-  const clsLogDataItems items = GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+  const clsDataLog definition =
+      ReadDataLogDefinition(file.Text(), "", catalogue.gcolFixedDataItems);
+  const clsLogDataItems items =
+      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
   const Settings settings;
   const ConversionTables tables;
   NoProgress progress;
@@ -41,6 +44,7 @@ TEST(FormedLog, EachKeyByItself) {
     std::string text;
     const char* cells;
   } kRows[] = {
+      // clang-format off
       {"", "Time,A\n1,7\n2,\n3,x\n", "7 0 0"},
       {"NOVALUETEXTS=x|n/a\n", "Time,A\n1,\n2,7\n3,X\n4, n/a\n5,8\n", "7~ 7 7~ 7~ 8"},
       {"NOVALUETEXTS=x\nTIMEFORM=SECONDS\n", "Time,A\n1,9\n2\n3,-2147483617\n", "9 9~ 9~"},
@@ -64,6 +68,7 @@ TEST(FormedLog, EachKeyByItself) {
       {"ENCODING=UTF-8\n", "\xEF\xBB\xBFTime,A\r1,7\r2,8\r3,9\r", "7 8 9"},
       {"TIMEFORM=SECONDS\n", "Time,A\n1,7\nMARK,5\n# 2,3\n\n-2,8\nTime,A\n3,9\n", "7 8 9"},
       {"TIMEFORM=SECONDS\nTITLESFROM=CHANNELS\n", "Channel : A\nType : x\nChannel : B\n1,7\n2,8\n3,9\n", "7 8 9"},
+      // clang-format on
   };
   for (const auto& row : kRows) {
     std::string header = row.header;

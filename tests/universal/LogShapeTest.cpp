@@ -15,7 +15,8 @@ namespace tarnview {
 namespace {
 
 const TitleDictionary& Dictionary() {
-  static const TitleDictionary dictionary(*RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
+  static const TitleDictionary dictionary(
+      *RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
   return dictionary;
 }
 
@@ -28,7 +29,8 @@ std::string PrintedItem(const ShapeItem& item) {
   std::string text = std::to_string(item.item) + " " + item.name;
   if (!item.unit.empty()) text += " [" + item.unit + "]";
   if (item.factor != 1 || item.offset != 0)
-    text += " x" + NumberText(RoundPlaces(item.factor, 4)) + "+" + NumberText(RoundPlaces(item.offset, 2));
+    text += " x" + NumberText(RoundPlaces(item.factor, 4)) + "+" +
+            NumberText(RoundPlaces(item.offset, 2));
   return text + (item.list ? " list" : "");
 }
 
@@ -37,11 +39,13 @@ std::string Printed(const LogShape& shape) {
   std::string text(EncodingName(shape.encoding));
   text += " " + std::string(DelimiterName(shape.form.delimiter)) + " " + shape.form.decimalSign;
   text += shape.form.quoted ? " quoted" : "";
-  text += " titles " + std::to_string(shape.rows.titleLine + 1) + " units " + std::to_string(shape.rows.unitsLine + 1) +
-          " data " + std::to_string(shape.rows.dataLine + 1) + "\ntime " + std::to_string(shape.time.column) + " " +
-          std::string(TimeFormName(shape.time.form)) + " " + number(shape.time.step) + " rate " +
-          number(shape.lineFrequency) + "\n";
-  for (const ShapeItem& item : shape.items) text += (&item == shape.items.data() ? "| " : " | ") + PrintedItem(item);
+  text += " titles " + std::to_string(shape.rows.titleLine + 1) + " units " +
+          std::to_string(shape.rows.unitsLine + 1) + " data " +
+          std::to_string(shape.rows.dataLine + 1) + "\ntime " + std::to_string(shape.time.column) +
+          " " + std::string(TimeFormName(shape.time.form)) + " " + number(shape.time.step) +
+          " rate " + number(shape.lineFrequency) + "\n";
+  for (const ShapeItem& item : shape.items)
+    text += (&item == shape.items.data() ? "| " : " | ") + PrintedItem(item);
   return text + "\n";
 }
 
@@ -67,7 +71,8 @@ std::string PrintedLog(const LogShape& shape, const OpenLog& log) {
   for (int row = 0; row < rows; ++row) text += " " + Cell(log, 3, row);
   text += "; last";
   for (const ShapeItem& item : shape.items)
-    if (item.item != 63) text += " " + std::to_string(item.item) + ":" + Cell(log, item.item, rows - 1);
+    if (item.item != 63)
+      text += " " + std::to_string(item.item) + ":" + Cell(log, item.item, rows - 1);
   return text;
 }
 
@@ -83,9 +88,11 @@ TEST(LogShape, ALogLoadsByTheDefinitionOfItsShapeAndByTheFileOfThat) {
     const clsDataLog read = ReadDataLogDefinition(file, "made.txt", catalogue.gcolFixedDataItems);
     EXPECT_EQ(DefinitionFileText(read), file) << made.name;
     for (const clsDataLog* definition : {&direct, &read}) {
-      const clsLogDataItems items = GenerateLogDataItemsGeneric(*definition, catalogue.gcolFixedDataItems);
+      const clsLogDataItems items =
+          GenerateLogDataItemsGeneric(*definition, catalogue.gcolFixedDataItems);
       OpenLog log;
-      const LoadOutcome outcome = LoadGenericDataLog(made.text, {log, items, settings, tables, progress}, *definition);
+      const LoadOutcome outcome =
+          LoadGenericDataLog(made.text, {log, items, settings, tables, progress}, *definition);
       EXPECT_TRUE(outcome.loaded && outcome.unknownColumns.size() < 2) << made.name;
       EXPECT_EQ(PrintedLog(shape, log), made.loaded) << made.name;
     }
@@ -100,8 +107,9 @@ TEST(LogShape, WhatIsNoLogHasALowScore) {
     code += "  for (int i = 0; i < 10; ++i) {\n    sum += values[i];\n  }\n";
   }
   for (int byte = 0; byte < 5000; ++byte) bytes += static_cast<char>(byte * 37 % 256);
-  for (const std::string& text : {numbers, prose, code, bytes, std::string(), std::string("a,b\n1,2\n"),
-                                  std::string(9000, '\n'), std::string(9000, ',')})
+  for (const std::string& text :
+       {numbers, prose, code, bytes, std::string(), std::string("a,b\n1,2\n"),
+        std::string(9000, '\n'), std::string(9000, ',')})
     EXPECT_FALSE(ShapeOf(text).Found()) << text.substr(0, 40) << ShapeOf(text).score;
 }
 
@@ -109,8 +117,9 @@ TEST(LogShape, TheUnitOfATimeIsThePlausibleOneWhereNoneIsTold) {
   const struct {
     double step;
     const char* form;
-  } kRows[] = {{0.02, "SECONDS"},     {1, "SECONDS"},          {2, "SECONDS"},     {20, "MILLISECONDS"},
-               {250, "MILLISECONDS"}, {20000, "MICROSECONDS"}, {0.000002, "DAYS"}, {1e9, ""}};
+  } kRows[] = {
+      {0.02, "SECONDS"},     {1, "SECONDS"},          {2, "SECONDS"},     {20, "MILLISECONDS"},
+      {250, "MILLISECONDS"}, {20000, "MICROSECONDS"}, {0.000002, "DAYS"}, {1e9, ""}};
   for (const auto& row : kRows) {
     std::string text = "Time,RPM\n";
     for (int line = 0; line < 8; ++line) {
@@ -142,14 +151,15 @@ TEST(LogShape, PressuresAreToldApartByTheirValues) {
       {"Target Engine Speed (rpm)", "1", "4", "101 Target Engine Speed [rpm]"},
   };
   for (const auto& row : kRows) {
-    const std::string text = std::string("Time (s),") + row.title + "\n0," + row.first + "\n0.1," + row.second +
-                             "\n0.2," + row.second + "\n0.3," + row.first + "\n";
+    const std::string text = std::string("Time (s),") + row.title + "\n0," + row.first + "\n0.1," +
+                             row.second + "\n0.2," + row.second + "\n0.3," + row.first + "\n";
     EXPECT_EQ(PrintedItem(ShapeOf(text).items.at(1)), row.item);
   }
 }
 
 TEST(LogShape, WhatAUserSettlesStands) {
-  const std::string log = "note\nTime;RPM;Load\ns;rpm;%\n0;900;1,5\n1;901;1,6\n2;902;1,7\n3;903;1,8\n";
+  const std::string log =
+      "note\nTime;RPM;Load\ns;rpm;%\n0;900;1,5\n1;901;1,6\n2;902;1,7\n3;903;1,8\n";
   ShapeChoices choices;
   choices.timeColumn = -1;
   choices.lineFrequency = 25;

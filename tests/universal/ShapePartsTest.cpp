@@ -109,7 +109,9 @@ TEST(ShapeField, Numbers) {
   for (const auto& row : kRows) {
     const auto number = ReadShapeNumber(row.text, row.sign);
     const std::string expected = std::string(row.number) == ".5" ? "0.5 1" : row.number;
-    EXPECT_EQ(number ? NumberText(number->value) + " " + std::to_string(number->places) : "", expected) << row.text;
+    EXPECT_EQ(number ? NumberText(number->value) + " " + std::to_string(number->places) : "",
+              expected)
+        << row.text;
   }
 }
 
@@ -126,7 +128,8 @@ TEST(ShapeField, LinesAreCut) {
       {"\"1\";2", {';', false, '.'}, {"\"1\"", "2"}},
       {"", {',', false, '.'}, {}},
   };
-  for (const auto& row : kRows) EXPECT_EQ(SplitShapeLine(row.line, row.form), row.fields) << row.line;
+  for (const auto& row : kRows)
+    EXPECT_EQ(SplitShapeLine(row.line, row.form), row.fields) << row.line;
 }
 
 TEST(ShapeField, Kinds) {
@@ -148,6 +151,7 @@ TEST(Units, TurnIntoEachOther) {
     double value;
     const char* result;
   } kRows[] = {
+      // clang-format off
       {"psi", "kPa", 10, "68.9476"},    {"bar", "psi", 1, "14.5038"}, {"inHg", "kPa", 30, "101.5917"},
       {"mmHg", "kPa", 760, "101.325"},  {"hPa", "bar", 1000, "1"},    {"F", "C", 212, "100"},
       {"degC", "\xB0\x46", 100, "212"}, {"K", "C", 273.15, "0"},      {"mph", "km/h", 100, "160.9344"},
@@ -155,12 +159,14 @@ TEST(Units, TurnIntoEachOther) {
       {"kg/h", "g/s", 3.6, "1"},        {"msec", "s", 1500, "1.5"},   {"mV", "V", 500, "0.5"},
       {"[psi]", "psig", 3, "3"},        {"Nm", "N.m", 3, "3"},        {"psi", "C", 1, ""},
       {"Nm", "ft-lb", 1, ""},
+      // clang-format on
   };
   for (const auto& row : kRows) {
     const Unit *from = FindUnit(row.from), *to = FindUnit(row.to);
     ASSERT_TRUE(from && to) << row.from << row.to;
     const auto it = ConversionOf(*from, *to);
-    EXPECT_EQ(it ? NumberText(RoundPlaces(row.value * it->factor + it->offset, 4)) : "", row.result) << row.from;
+    EXPECT_EQ(it ? NumberText(RoundPlaces(row.value * it->factor + it->offset, 4)) : "", row.result)
+        << row.from;
   }
   EXPECT_FALSE(IsUnit("SAE"));
 }
@@ -182,7 +188,8 @@ TEST(Units, StandInTheLastBracketsOfATitle) {
 }
 
 const TitleDictionary& Dictionary() {
-  static const TitleDictionary dictionary(*RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
+  static const TitleDictionary dictionary(
+      *RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
   return dictionary;
 }
 

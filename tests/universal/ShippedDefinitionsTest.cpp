@@ -42,13 +42,15 @@ TEST(ShippedDefinitions, EachReadsItsLog) {
     const auto bytes = files.Read(std::string(TARNVIEW_EXAMPLES) + "/universal/" + shipped.log);
     ASSERT_TRUE(text && bytes);
     const clsDataLog definition = ReadDataLogDefinition(*text, "", catalogue.gcolFixedDataItems);
-    const clsLogDataItems items = GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+    const clsLogDataItems items =
+        GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
     OpenLog log;
     NoProgress progress;
-    const LoadOutcome outcome =
-        LoadGenericDataLog(*bytes, {log, items, Settings{}, ConversionTables{}, progress}, definition);
+    const LoadOutcome outcome = LoadGenericDataLog(
+        *bytes, {log, items, Settings{}, ConversionTables{}, progress}, definition);
     EXPECT_EQ(outcome.messages, std::vector<int>{});
-    EXPECT_TRUE(definition.objColumns.OffsetDataItems().empty());  // the graph would draw them that much higher
+    EXPECT_TRUE(definition.objColumns.OffsetDataItems()
+                    .empty());  // the graph would draw them that much higher
     EXPECT_EQ(outcome.unknownColumns.size(), shipped.unknown);
     ASSERT_EQ(log.glngDataLog.Rows(), 12);
     // The last moment of the drive: every log tells it in its own units.

@@ -22,10 +22,11 @@ clsLogDataItems Items(std::vector<std::string> columns) {
 }
 
 TEST(UniversalDataItems, AColumnShapesItsItem) {
-  const clsLogDataItems items = Items(
-      {ColumnText("EGT", 55, 2,
-                  "OFFSET=10.125\nDISPLAYDECIMALPLACES=1\nDISPLAYCOLOUR=255\nDISPLAYFACTOR=0.1\nDISPLAYLINESTYLE=2\n"
-                  "DISPLAYLINEWIDTH=4\nDISPLAYZERO=N\nCOLUMNMAXIMUMVALUE=900\n")});
+  const clsLogDataItems items =
+      Items({ColumnText("EGT", 55, 2,
+                        "OFFSET=10.125\nDISPLAYDECIMALPLACES=1\nDISPLAYCOLOUR=255\nDISPLAYFACTOR=0."
+                        "1\nDISPLAYLINESTYLE=2\n"
+                        "DISPLAYLINEWIDTH=4\nDISPLAYZERO=N\nCOLUMNMAXIMUMVALUE=900\n")});
   const clsLogDataItem& item = items.Item(55);
   EXPECT_EQ(item.strShortName + "|" + item.strLongName, "EGT|About EGT");
   EXPECT_EQ(item.lngStorageOffset, 1012);  // 1012.5, half to even
@@ -63,7 +64,8 @@ TEST(UniversalDataItems, ItemsOfTheDefinitionAndOfEveryLogBelongToTheFamily) {
 }
 
 TEST(UniversalDataItems, OfTheBuiltInDefinition) {
-  const clsLogDataItems items = GenerateLogDataItemsGeneric(DefaultDataLogDefinition(), Built().gcolFixedDataItems);
+  const clsLogDataItems items =
+      GenerateLogDataItemsGeneric(DefaultDataLogDefinition(), Built().gcolFixedDataItems);
   EXPECT_EQ(items.Item(62).strLongName, "Knock Retard (deg.)");
   EXPECT_EQ(items.Item(62).lngColour, 8404992);
   EXPECT_EQ(items.Item(63).dblFactor, 1000);

@@ -22,11 +22,12 @@ struct Loaded {
         items(GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems)) {
     log.gstrCurrentFile = "/run.csv";
     NoProgress progress;
-    outcome = LoadGenericDataLog(text, {log, items, settings, ConversionTables{}, progress}, definition);
+    outcome =
+        LoadGenericDataLog(text, {log, items, settings, ConversionTables{}, progress}, definition);
   }
   Loaded(const DefinitionText& text, std::string_view logText, const Settings& settings = {})
-      : Loaded(ReadDataLogDefinition(text.Text(), "", BuildDataItemCatalogue().gcolFixedDataItems), logText, settings) {
-  }
+      : Loaded(ReadDataLogDefinition(text.Text(), "", BuildDataItemCatalogue().gcolFixedDataItems),
+               logText, settings) {}
 
   /// The stored cells of an item: "3250 850".
   std::string Cells(int item) const {
@@ -36,9 +37,9 @@ struct Loaded {
     return text;
   }
   std::string FirstMessage() const {
-    return outcome.messages.empty()
-               ? ""
-               : std::to_string(static_cast<int>(outcome.messages[0].id)) + ": " + outcome.messages[0].extra;
+    return outcome.messages.empty() ? ""
+                                    : std::to_string(static_cast<int>(outcome.messages[0].id)) +
+                                          ": " + outcome.messages[0].extra;
   }
 
   Catalogue catalogue = BuildDataItemCatalogue();
@@ -49,11 +50,14 @@ struct Loaded {
 };
 
 /// The cells of one column "A" of item 5, for fields one a line.
-std::string CellsOf(const std::string& attributes, const std::vector<std::string>& fields, int places = 0,
-                    int type = 1) {
+std::string CellsOf(const std::string& attributes, const std::vector<std::string>& fields,
+                    int places = 0, int type = 1) {
   std::string text = "A,B\n";
   for (const std::string& field : fields) text += field + ",x\n";
-  return Loaded(DefinitionText{"LINEFREQUENCY=10\n", {ColumnText("A", 5, places, attributes, type)}, ""}, text)
+  return Loaded(
+             DefinitionText{
+                 "LINEFREQUENCY=10\n", {ColumnText("A", 5, places, attributes, type)}, ""},
+             text)
       .Cells(5);
 }
 
@@ -63,7 +67,8 @@ TEST(UniversalLog, TitlesAndListedValuesAreOneInEitherCaseAndEncoding) {
   const std::string upper = "TEMP\xc9RATURE", upperUtf8 = "TEMP\u00c9RATURE";
   for (const std::string& title : {kLatin1, kUtf8})
     for (const std::string& inLog : {kLatin1, kUtf8, upper, upperUtf8}) {
-      const std::string column = ColumnText(title, 5, 0, "", 2) + "[VALUES]\nfroid\n" + title + "\n";
+      const std::string column =
+          ColumnText(title, 5, 0, "", 2) + "[VALUES]\nfroid\n" + title + "\n";
       const Loaded loaded({"LINEFREQUENCY=10\n", {column}, ""},
                           inLog + ",B\nfroid,1\n" + inLog + ",1\n" + inLog + ",1\n");
       EXPECT_EQ(loaded.Cells(5), "0 1 1") << title << inLog;
@@ -81,13 +86,14 @@ const std::string kTime = ColumnText("Time", 63, 3);
 const std::string kPressure = ColumnText("MAP", 5, 1);
 
 TEST(UniversalLog, AWholeLogOfTheBuiltInDefinition) {
-  const Loaded loaded(DefaultDataLogDefinition(),
-                      "timestamp,engine speed (rpm), Boost (PSI) ,vacuum (mmHg),Vehicle Speed (KPH),Foo\r\n"
-                      "0,1000,0,100,100,1\r\n"
-                      "100,1500,-1,200,100,2\r\n"
-                      "\r\n"
-                      "200,2000,5,0\r\n"
-                      "300,2500.5,5,0,50,3,4,5");
+  const Loaded loaded(
+      DefaultDataLogDefinition(),
+      "timestamp,engine speed (rpm), Boost (PSI) ,vacuum (mmHg),Vehicle Speed (KPH),Foo\r\n"
+      "0,1000,0,100,100,1\r\n"
+      "100,1500,-1,200,100,2\r\n"
+      "\r\n"
+      "200,2000,5,0\r\n"
+      "300,2500.5,5,0,50,3,4,5");
   EXPECT_EQ(loaded.outcome.messages, Ids{});
   EXPECT_EQ(loaded.Cells(1), "1 2 3 4 5");
   EXPECT_EQ(loaded.Cells(63), "0 100 101 200 300");
@@ -153,8 +159,10 @@ TEST(UniversalLog, ListedTextsAreTranslated) {
 }
 
 TEST(UniversalLog, DatesCountFromTheFirstOfTheLog) {
-  const DefinitionText dates{
-      "", {ColumnText("Time", 63, 3, "CONVERSIONTYPE=1\n"), ColumnText("GPS", 5, 0, "CONVERSIONTYPE=1\n")}, ""};
+  const DefinitionText dates{"",
+                             {ColumnText("Time", 63, 3, "CONVERSIONTYPE=1\n"),
+                              ColumnText("GPS", 5, 0, "CONVERSIONTYPE=1\n")},
+                             ""};
   const Loaded loaded(dates,
                       "GPS,Time\n"
                       "bad,24-Nov-2026 23:59:59.500\n"
@@ -165,23 +173,29 @@ TEST(UniversalLog, DatesCountFromTheFirstOfTheLog) {
 }
 
 TEST(UniversalLog, TimesNeverFall) {
-  EXPECT_EQ(Loaded(DefinitionText{"", {kTime}, ""}, "Time,x\n1,\n0.5,\n1.005,\n1.005,\n\n,\n").Cells(63),
-            "1000 1001 1005 1005 1006 1007");
+  EXPECT_EQ(
+      Loaded(DefinitionText{"", {kTime}, ""}, "Time,x\n1,\n0.5,\n1.005,\n1.005,\n\n,\n").Cells(63),
+      "1000 1001 1005 1005 1006 1007");
 }
 
 TEST(UniversalLog, WithoutATimeColumnTheFrequencySetsTheTime) {
-  EXPECT_EQ(Loaded(DefinitionText{"LINEFREQUENCY=3\n", {kPressure}, ""}, "MAP,x\n1\n1\n1\n").Cells(63), "0 3333 6667");
+  EXPECT_EQ(
+      Loaded(DefinitionText{"LINEFREQUENCY=3\n", {kPressure}, ""}, "MAP,x\n1\n1\n1\n").Cells(63),
+      "0 3333 6667");
   // The definition's own column of seconds gives the factor, though this log lacks it.
-  EXPECT_EQ(Loaded(DefinitionText{"LINEFREQUENCY=10\n", {kPressure, kTime}, ""}, "MAP,x\n1\n1\n1\n").Cells(63),
+  EXPECT_EQ(Loaded(DefinitionText{"LINEFREQUENCY=10\n", {kPressure, kTime}, ""}, "MAP,x\n1\n1\n1\n")
+                .Cells(63),
             "0 100 200");
 }
 
 TEST(UniversalLog, OneTitleMayFeedSeveralItemsAndOneItemMayHaveSeveralTitles) {
   const std::string log = "A,B,A\n1,2,3\n4\n5,6\n";
-  const std::vector<std::string> columns{ColumnText("A", 5), ColumnText("B", 5), ColumnText("A", 7)};
+  const std::vector<std::string> columns{ColumnText("A", 5), ColumnText("B", 5),
+                                         ColumnText("A", 7)};
   const Loaded all(DefinitionText{"LINEFREQUENCY=1\n", columns, ""}, log);
   EXPECT_EQ(all.Cells(5) + "|" + all.Cells(7), "3 4 6|3 4 5");
-  const Loaded first(DefinitionText{"LINEFREQUENCY=1\nIGNOREDUPLICATECOLUMNS=Y\n", columns, ""}, log);
+  const Loaded first(DefinitionText{"LINEFREQUENCY=1\nIGNOREDUPLICATECOLUMNS=Y\n", columns, ""},
+                     log);
   EXPECT_EQ(first.Cells(5) + "|" + first.Cells(7), "2 4 6|1 4 5");
   EXPECT_EQ(first.outcome.unknownColumns, std::vector<std::string>{"A"});
 }
@@ -200,8 +214,9 @@ TEST(UniversalLog, ItemsWithAnOffsetThatALogLacksReadAsZero) {
 TEST(UniversalLog, TemperaturesAreNoted) {
   Settings settings;
   settings.gintPlotFromTemperature = 60;
-  const DefinitionText text{
-      "LINEFREQUENCY=1\n", {ColumnText("Air", 31, 1, "OFFSET=40\n"), ColumnText("Water", 23, 1)}, ""};
+  const DefinitionText text{"LINEFREQUENCY=1\n",
+                            {ColumnText("Air", 31, 1, "OFFSET=40\n"), ColumnText("Water", 23, 1)},
+                            ""};
   const Loaded loaded(text, "Air,Water\n20.5,59.9\n-7.5,60\n9,70\n", settings);
   EXPECT_EQ(loaded.log.glngLowestAirTemp, -8);
   EXPECT_EQ(loaded.log.glngFirstPlotSample, 1);
@@ -218,7 +233,8 @@ TEST(UniversalLog, WhatDoesNotLoadSaysWhy) {
       ""};
   const DefinitionText plain{"", {kTime, kPressure}, ""};
   const DefinitionText ticking{"LINEFREQUENCY=1\n", {kPressure}, ""};
-  const std::string noId = "90: Lines before: 1\r\nColumns before: 2\r\nID Text: ID\r\nLine read from data log: \r\n";
+  const std::string noId =
+      "90: Lines before: 1\r\nColumns before: 2\r\nID Text: ID\r\nLine read from data log: \r\n";
   const struct {
     const DefinitionText& definition;
     const char* text;
@@ -260,7 +276,8 @@ TEST(UniversalLog, WideLogsLoad) {
     header += n % 2 ? ",Column " : ",MAP";
     line += ",42.5";
   }
-  const Loaded loaded(DefinitionText{"", {kTime, kPressure}, ""}, header + "\n" + line + "\n\n" + line + "\n1");
+  const Loaded loaded(DefinitionText{"", {kTime, kPressure}, ""},
+                      header + "\n" + line + "\n\n" + line + "\n1");
   EXPECT_EQ(loaded.Cells(5), "425 0 425 0");
   EXPECT_EQ(loaded.outcome.unknownColumns.size(), 50000u);
 }

@@ -35,7 +35,8 @@ class LogOnMapTest : public testing::Test {
     std::string cells;
     for (int row = 1; row <= 6; ++row)
       for (int column = 1; column <= 16; ++column)
-        if (drive.At(row, column).samples > 0) cells += std::to_string(row) + "," + std::to_string(column) + " ";
+        if (drive.At(row, column).samples > 0)
+          cells += std::to_string(row) + "," + std::to_string(column) + " ";
     return cells;
   }
 
@@ -49,11 +50,13 @@ TEST_F(LogOnMapTest, ASampleCountsForTheNearestCell) {
     int RPM, MAP;
     const char* cells;
   } kSamples[] = {
+      // clang-format off
       {true, 0, 0, "1,1 "},       {true, 499, 364, "1,1 "},    {true, 500, 366, "2,2 "},   {true, 999, 499, "2,2 "},
       {true, 1000, 500, "3,3 "},  {true, 7499, 629, "3,15 "},  {true, 7500, 630, "4,16 "}, {true, 99999, 764, "4,16 "},
       {true, 500, 766, "5,2 "},   {true, 500, 899, "5,2 "},    {true, 500, 900, "6,2 "},   {true, -9, 99999, "6,1 "},
       {false, 500, 0, "1,2 "},    {false, 500, 399, "1,2 "},   {false, 500, 400, "2,2 "},  {false, 500, 1999, "5,2 "},
       {false, 500, 2000, "6,2 "}, {false, 500, 65000, "6,2 "},
+      // clang-format on
   };
   for (const auto& sample : kSamples) {
     Begin(sample.sixRows);
@@ -74,9 +77,9 @@ TEST_F(LogOnMapTest, FewSamplesSayNothingAndNeverZero) {
   Drive(5, 5000, 300);
   const LogOnMap drive = Read();
   const auto texts = [&](int column) {
-    return drive.Text(GridShow::Nothing, 1, column) + "|" + drive.Text(GridShow::Visits, 1, column) + "|" +
-           drive.Text(GridShow::Error, 1, column) + "|" + drive.Text(GridShow::Knock, 1, column) + "|" +
-           drive.ToolTip(1, column);
+    return drive.Text(GridShow::Nothing, 1, column) + "|" +
+           drive.Text(GridShow::Visits, 1, column) + "|" + drive.Text(GridShow::Error, 1, column) +
+           "|" + drive.Text(GridShow::Knock, 1, column) + "|" + drive.ToolTip(1, column);
   };
   EXPECT_EQ(texts(2), "||||No samples");
   EXPECT_EQ(texts(3), "||||9 samples");
@@ -98,8 +101,9 @@ TEST_F(LogOnMapTest, TheNextSampleInACellGoesRound) {
   Drive(1, 1000, 300);
   const struct {
     int first, last, after, next;
-  } kSteps[] = {{0, 4, -1, 0}, {0, 4, 0, 1},  {0, 4, 1, 4},  {0, 4, 4, 0},  {1, 3, -1, 1}, {1, 3, 1, 1},
-                {0, 99, 4, 0}, {-5, 0, 0, 0}, {2, 3, 2, -1}, {3, 2, 0, -1}, {0, 4, 99, 0}};
+  } kSteps[] = {{0, 4, -1, 0}, {0, 4, 0, 1},  {0, 4, 1, 4},  {0, 4, 4, 0},
+                {1, 3, -1, 1}, {1, 3, 1, 1},  {0, 99, 4, 0}, {-5, 0, 0, 0},
+                {2, 3, 2, -1}, {3, 2, 0, -1}, {0, 4, 99, 0}};
   for (const auto& step : kSteps)
     EXPECT_EQ(NextInCell(log, step.first, step.last, 1, 3, step.after), step.next) << step.after;
   EXPECT_EQ(ReadLogOnMap(log, 1, 2).At(1, 3).samples, 1);
@@ -118,7 +122,8 @@ TEST_F(LogOnMapTest, LeanCellsAreProposedMoreFuelInSmallSteps) {
   Drive(30, 5000, 300, 15400, 14000);
   const FuelProposal proposal = Propose(Read(), sheet);
   std::string changes;
-  for (int column = 1; column <= 16; ++column) changes += std::to_string(proposal.At(1, column)) + " ";
+  for (int column = 1; column <= 16; ++column)
+    changes += std::to_string(proposal.At(1, column)) + " ";
   EXPECT_EQ(changes, "0 0 4 0 5 0 -5 0 0 0 1 0 0 0 0 0 ");
   const ZoneSheet after = WithProposal(sheet, proposal);
   EXPECT_EQ(after.Shown(ZoneCell(ZoneGrid::Fuel, 0, 2)), 104);

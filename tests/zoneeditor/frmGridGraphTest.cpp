@@ -9,7 +9,8 @@
 namespace tarnview {
 namespace {
 
-/// The fuel grid of a turbo chip: each cell its row and column, the two cells of closed loop control locked.
+/// The fuel grid of a turbo chip: each cell its row and column, the two cells of closed loop
+/// control locked.
 GridGraphRequest Request() {
   GridGraphRequest request;
   request.readOnly = false;
@@ -28,20 +29,25 @@ GridGraphRequest Request() {
 class frmGridGraphTest : public testing::Test {
  protected:
   frmGridGraph& Open(GridGraphRequest request = Request()) {
-    window = std::make_unique<frmGridGraph>(host, frmGridGraph::Surroundings{angles, errors, messages}, request);
+    window = std::make_unique<frmGridGraph>(
+        host, frmGridGraph::Surroundings{angles, errors, messages}, request);
     window->Show();
     return *window;
   }
-  void Do(Control& control, const char* verb, std::vector<std::string> words = {}) { control.Do({verb, words}); }
+  void Do(Control& control, const char* verb, std::vector<std::string> words = {}) {
+    control.Do({verb, words});
+  }
   /// Row, column, value ("-" when it cannot be edited), the chart's point and its number there.
   std::string State() {
     const Surface& surface = *window->chGridGraph.Data().AsSurface();
-    const int row = window->chGridGraph.SelectedSeries(), column = window->chGridGraph.SelectedPoint();
-    std::string state = window->cboRow.Text() + "|" + window->cboColumn.Text() + "|" + window->txtValue.Text() +
-                        (window->txtValue.ReadOnly ? "-" : "") + "|" + std::to_string(row) + "," +
-                        std::to_string(column);
+    const int row = window->chGridGraph.SelectedSeries(),
+              column = window->chGridGraph.SelectedPoint();
+    std::string state = window->cboRow.Text() + "|" + window->cboColumn.Text() + "|" +
+                        window->txtValue.Text() + (window->txtValue.ReadOnly ? "-" : "") + "|" +
+                        std::to_string(row) + "," + std::to_string(column);
     if (row > 0)
-      state += "=" + NumberText(surface.At(static_cast<std::size_t>(row - 1), static_cast<std::size_t>(column - 1)));
+      state += "=" + NumberText(surface.At(static_cast<std::size_t>(row - 1),
+                                           static_cast<std::size_t>(column - 1)));
     return state;
   }
 
@@ -110,8 +116,8 @@ TEST_F(frmGridGraphTest, AnglesFollowFieldsArrowsAndTheHand) {
   angles = {1, 2, 3, 4};
   const auto view = [&] {
     const SurfaceView& it = w.chGridGraph.Data().AsSurface()->view;
-    return w.txtRotation.Text() + "," + w.txtElevation.Text() + " " + std::to_string(it.rotation) + "," +
-           std::to_string(it.elevation) + " x" + FixedText(it.zoom, 2);
+    return w.txtRotation.Text() + "," + w.txtElevation.Text() + " " + std::to_string(it.rotation) +
+           "," + std::to_string(it.elevation) + " x" + FixedText(it.zoom, 2);
   };
   const struct {
     const char* done;
@@ -167,8 +173,8 @@ TEST(GridGraphTable, TextsOfEachGrid) {
   std::string told;
   for (int grid = 0; grid < 6; ++grid) {
     const StartingAngles start = AnglesOf(angles, grid);
-    told += GraphKind(grid) + "; " + GraphSource(grid, "Mine") + "; " + std::to_string(start.rotation) + "," +
-            std::to_string(start.elevation) + "\n";
+    told += GraphKind(grid) + "; " + GraphSource(grid, "Mine") + "; " +
+            std::to_string(start.rotation) + "," + std::to_string(start.elevation) + "\n";
   }
   EXPECT_EQ(told,
             " Fuel Zone Graph; This Data Log; 1,2\n"
@@ -211,13 +217,16 @@ TEST(GridGraphTable, ComesBackButForTheLastRowsFirstCells) {
       for (auto& row : before.texts) row.fill("10");
       before.Text(1, 1) = "250";
       GridGraphTable after = before;
-      for (int column = 1; column <= 4; ++column) after.Text(6, column) = std::to_string(20 + column);
+      for (int column = 1; column <= 4; ++column)
+        after.Text(6, column) = std::to_string(20 + column);
       const ZoneSheet result = WithGraphTable(sheet, grid, before, after);
       std::string last;
-      for (int column = 0; column < 4; ++column) last += std::to_string(result.Shown(ZoneCell(grid, 5, column))) + " ";
+      for (int column = 0; column < 4; ++column)
+        last += std::to_string(result.Shown(ZoneCell(grid, 5, column))) + " ";
       const bool second = normallyAspirated && grid == ZoneGrid::Ignition;
       EXPECT_EQ(last, second ? "0 22 23 24 " : "0 0 23 24 ");
-      EXPECT_EQ(result.Shown(ZoneCell(grid, 0, 0)), 250) << "what was not edited stays, whatever its range";
+      EXPECT_EQ(result.Shown(ZoneCell(grid, 0, 0)), 250)
+          << "what was not edited stays, whatever its range";
     }
 }
 

@@ -54,7 +54,9 @@ class frmZoneDataTest : public ::testing::Test {
   frmZoneData::Surroundings Around() {
     return {settings, benchmarks, tables, catalogue.gcolFixedDataItems.Item(39), errors, messages};
   }
-  void Do(const char* control, int index, const Action& action) { window->Find(control, index)->Do(action); }
+  void Do(const char* control, int index, const Action& action) {
+    window->Find(control, index)->Do(action);
+  }
   /// The last step, and which raw zones differ from the map that was opened.
   std::string Told() const {
     const ZoneMap map = window->Map();
@@ -64,7 +66,9 @@ class frmZoneDataTest : public ::testing::Test {
         told += " " + ZoneName(static_cast<int>(zone)) + "=" + std::to_string(map.zones[zone]);
     return told;
   }
-  std::string Text(SheetGrid grid, int row, int column) const { return window->Grids.At(grid).Text(row, column); }
+  std::string Text(SheetGrid grid, int row, int column) const {
+    return window->Grids.At(grid).Text(row, column);
+  }
   std::string Boxes() {
     std::string texts;
     for (const Box& box : host.messages) texts += std::to_string(box.style) + " " + box.text + "\n";
@@ -90,11 +94,14 @@ TEST_F(frmZoneDataTest, OpensWithoutAChange) {
   EXPECT_EQ(window->Caption(), "Tarnview Zone Data - a.map");
   EXPECT_EQ(window->cboBenchmark.Entries(), (std::vector<std::string>{"Street", "Track"}));
   EXPECT_EQ(window->cboBenchmark.Text(), "Track");
-  EXPECT_EQ(window->fraData(0).Caption() + "/" + window->fraData(1).Caption() + "/" + window->fraData(5).Caption(),
+  EXPECT_EQ(window->fraData(0).Caption() + "/" + window->fraData(1).Caption() + "/" +
+                window->fraData(5).Caption(),
             "This MAP File/Selected Benchmark/Difference");
-  EXPECT_EQ(Text(SheetGrid::Fuel, 0, 1) + Text(SheetGrid::Fuel, 6, 0) + Text(SheetGrid::Fuel, 1, 16),
-            "00220 kPa 600100");
-  EXPECT_EQ(Text(SheetGrid::Fuel, 6, 1) + Text(SheetGrid::FuelBenchmark, 6, 3) + Text(SheetGrid::FuelDifference, 1, 1),
+  EXPECT_EQ(
+      Text(SheetGrid::Fuel, 0, 1) + Text(SheetGrid::Fuel, 6, 0) + Text(SheetGrid::Fuel, 1, 16),
+      "00220 kPa 600100");
+  EXPECT_EQ(Text(SheetGrid::Fuel, 6, 1) + Text(SheetGrid::FuelBenchmark, 6, 3) +
+                Text(SheetGrid::FuelDifference, 1, 1),
             "200100");
   EXPECT_TRUE(window->Grids.At(SheetGrid::Ignition).At(6, 2).blackedOut);
   EXPECT_EQ(Text(SheetGrid::BoostTargets, 0, 0) + Text(SheetGrid::BoostTargets, 0, 11), "kPa75");
@@ -225,7 +232,9 @@ TEST_F(frmZoneDataTest, BoostTargets) {
   host.messages.clear();
   host.answers = {{Answer::Kind::No}, {Answer::Kind::Yes}, {Answer::Kind::Yes}};
   Do("radBoost", 1, {"click", {}});
-  EXPECT_EQ(Boxes(), "36 Confirm change to specifying wastegate duty cycles (existing data will be erased) ?\n");
+  EXPECT_EQ(
+      Boxes(),
+      "36 Confirm change to specifying wastegate duty cycles (existing data will be erased) ?\n");
   EXPECT_TRUE(window->radBoost(0).Value());
   EXPECT_EQ(Told(), "z725 100 to 120: z725=120");
   Do("radBoost", 1, {"click", {}});
@@ -237,7 +246,8 @@ TEST_F(frmZoneDataTest, BoostTargets) {
 
 TEST_F(frmZoneDataTest, NormallyAspirated) {
   OpenMap(0);
-  for (const char* name : {"fraBoost", "fraBoostTargets"}) EXPECT_FALSE(window->Find(name)->Enabled) << name;
+  for (const char* name : {"fraBoost", "fraBoostTargets"})
+    EXPECT_FALSE(window->Find(name)->Enabled) << name;
   EXPECT_FALSE(window->Find("txtZone", 3)->Enabled);
   EXPECT_FALSE(window->Find("chkBoost", 0)->Enabled);
   EXPECT_FALSE(window->Grids.At(SheetGrid::BoostTargets).Enabled);
@@ -265,7 +275,8 @@ TEST_F(frmZoneDataTest, UploadNeedsTheUsersOwnChip) {
   host.answers = {{Answer::Kind::Yes}};
   Do("cmdDefault", -1, {"click", {}});
   EXPECT_EQ(Boxes(),
-            "292 Are you sure you want to overwrite your current chip type and date with those from the data log?\n");
+            "292 Are you sure you want to overwrite your current chip type and date with those "
+            "from the data log?\n");
   EXPECT_EQ(settings.gintDefaultChipVersion, 3);
   EXPECT_EQ(DateText(settings.gdatDefaultChipDate), "2005-02-10");
   EXPECT_TRUE(window->cmdUpload.Enabled);
@@ -281,12 +292,15 @@ TEST_F(frmZoneDataTest, CopyAndDetailsOfTheComparison) {
     form.Find("cmdOK")->Do({"click", {}});
   };
   window->cmdCopyBenchmark.Press();
-  EXPECT_EQ(Told(), "Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 z800=16 z855=200");
+  EXPECT_EQ(Told(),
+            "Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 "
+            "z800=16 z855=200");
   std::string seen;
   host.work = [&](Form& form) {
     auto& details = dynamic_cast<frmZoneData&>(form);
-    seen = details.Caption() + " " + details.fraData(0).Caption() + " " + details.cmdCancel.Caption() + " " +
-           details.Grids.At(SheetGrid::Fuel).Text(1, 1) + " " + std::to_string(details.tabZoneData2.Tabs().size());
+    seen = details.Caption() + " " + details.fraData(0).Caption() + " " +
+           details.cmdCancel.Caption() + " " + details.Grids.At(SheetGrid::Fuel).Text(1, 1) + " " +
+           std::to_string(details.tabZoneData2.Tabs().size());
     EXPECT_FALSE(details.Find("txtZone", 6)->Enabled);
     EXPECT_FALSE(details.cmdOK.Visible);
     EXPECT_FALSE(details.Grids.At(SheetGrid::FuelBenchmark).Enabled);
@@ -324,7 +338,8 @@ TEST(frmCopyBench, EverythingTicksWhatThereIs) {
   window.chkOptions(9).Do({"click", {}});
   EXPECT_EQ(told(), "0110001101111");
   EXPECT_EQ(window.Names(),
-            "Start, Idle, Auto Tuning, Miscellaneous, Fuel, Fuel Zones, Ignition Zones, General Information");
+            "Start, Idle, Auto Tuning, Miscellaneous, Fuel, Fuel Zones, Ignition Zones, General "
+            "Information");
 }
 
 }  // namespace

@@ -50,7 +50,8 @@ TEST(AutoTune, SensorByFlagsAndDate) {
   };
   for (const auto& c : cases) {
     const O2Sensor sensor = GetO2Sensor(c.bit3, c.bit4, c.version, c.date);
-    EXPECT_TRUE(sensor.text == c.text && sensor.EGR == c.EGR && sensor.mixtureFuel == c.mixture) << DateText(c.date);
+    EXPECT_TRUE(sensor.text == c.text && sensor.EGR == c.EGR && sensor.mixtureFuel == c.mixture)
+        << DateText(c.date);
   }
 }
 
@@ -78,7 +79,8 @@ TEST(ZoneDefaults, FillsWhatIsMissingAndTells) {
   Settings settings;
   LoadedZones zones;
   EXPECT_EQ(ApplyZoneDefaults(zones, settings, false),
-            (std::vector{Message::EngineSizeAssumed, Message::ChipDateAssumed, Message::PressureAssumed}));
+            (std::vector{Message::EngineSizeAssumed, Message::ChipDateAssumed,
+                         Message::PressureAssumed}));
   EXPECT_EQ(zones.chip.dblEngineSize, 1.6);
   EXPECT_EQ(zones.chip.datChipDate, MakeDate(2000, 1, 1));
   EXPECT_EQ(zones.chip.intChipVersion, 2);

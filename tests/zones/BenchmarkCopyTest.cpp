@@ -34,7 +34,8 @@ std::string Copied(CopyBox box, const ZoneMap& source, const ZoneMap& form) {
   int cells = 0;
   for (int zone = 0; zone < 256; ++zone) {
     if (before.Shown(zone) == after.Shown(zone)) continue;
-    if (zone >= 32 && zone < 224 && after.Shown(zone) == source.zones[static_cast<std::size_t>(zone)] &&
+    if (zone >= 32 && zone < 224 &&
+        after.Shown(zone) == source.zones[static_cast<std::size_t>(zone)] &&
         box >= CopyBox::FuelZones)
       ++cells;
     else
@@ -49,7 +50,8 @@ std::string Copied(CopyBox box, const ZoneMap& source, const ZoneMap& form) {
   if (before.boostTargets != after.boostTargets) told += after.boostTargets ? "kPa " : "Pct ";
   if (before.chip != after.chip) told += "chip ";
   if (before.intAtmosphericPressure != after.intAtmosphericPressure) told += "pressure ";
-  for (const Message message : copied.messages) told += "message " + std::to_string(static_cast<int>(message)) + " ";
+  for (const Message message : copied.messages)
+    told += "message " + std::to_string(static_cast<int>(message)) + " ";
   return told.empty() ? told : told.substr(0, told.size() - 1);
 }
 
@@ -74,7 +76,8 @@ TEST(BenchmarkCopy, WhatEachBoxBrings) {
       {CopyBox::IgnitionZones, "94 cells"},
       {CopyBox::General, "pressure"},
   };
-  for (const auto& c : cases) EXPECT_EQ(Copied(c.box, source, form), c.told) << CopyBoxCaption(static_cast<int>(c.box));
+  for (const auto& c : cases)
+    EXPECT_EQ(Copied(c.box, source, form), c.told) << CopyBoxCaption(static_cast<int>(c.box));
 }
 
 TEST(BenchmarkCopy, BetweenOtherChips) {
@@ -89,6 +92,7 @@ TEST(BenchmarkCopy, BetweenOtherChips) {
     ZoneMap source, form;
     const char* told;
   } cases[] = {
+      // clang-format off
       {"no delay between versions", CopyBox::Start, third, form(1.8, d2003, 2), "z6 z16 z17 z710 z715"},
       {"first chips", CopyBox::Start, form(1.6, d2003, 1), MapOf({1.6, d2003, 1}, 7, 2, 0),
        "z6 z16 z17 z710 z715 z835"},
@@ -114,6 +118,7 @@ TEST(BenchmarkCopy, BetweenOtherChips) {
       {"mixture fuel", CopyBox::AutoTuning, form(1.8, d2002, 2, 2 + 16), MapOf({1.8, d2002, 2}, 7, 2, 0),
        "z26 z27 z28 z29 z30 z31 +9"},
       {"the chip", CopyBox::General, third, form(1.6, d2002, 2), "z705 chip pressure"},
+      // clang-format on
   };
   for (const auto& c : cases) EXPECT_EQ(Copied(c.box, c.source, c.form), c.told) << c.what;
 }
@@ -141,8 +146,10 @@ TEST(BenchmarkCopy, BoxesThatCanBeTicked) {
     told += "\n";
   }
   EXPECT_EQ(told,
-            "Everything:1111\nStart:1111\nIdle:1111\nWastegate:1010\nAir Temp. Correction:0011\nBoost Targets:1010\n"
-            "Auto Tuning:1111\n:1111\nMiscellaneous:1111\nIgnition:1111\nFuel:1111\n:1111\nFuel Zones:1111\n"
+            "Everything:1111\nStart:1111\nIdle:1111\nWastegate:1010\nAir Temp. "
+            "Correction:0011\nBoost Targets:1010\n"
+            "Auto Tuning:1111\n:1111\nMiscellaneous:1111\nIgnition:1111\nFuel:1111\n:1111\nFuel "
+            "Zones:1111\n"
             "Ignition Zones:1111\nGeneral Information:1111\n");
   EXPECT_FALSE(CopyBoxAvailable(CopyBox::AirTemp, kNewChipDate, kNewChipDate + 1, false));
 }

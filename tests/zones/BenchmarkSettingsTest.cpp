@@ -34,16 +34,18 @@ TEST(BenchmarkSettings, WhatIsMissingIsTheUsersOwn) {
                           "Benchmark 1 Engine Size=1.8\r\nBenchmark 1 Chip Date=2001-09-18\r\n"
                           "Benchmark 1 Chip Version=3\r\nBenchmark 1 Atmospheric Pressure=99\r\n"
                           "Benchmark 1 Data Line 0= 000 000"));
-  EXPECT_NE(written.find("Benchmark 2 Name=Two\r\nBenchmark 2 File=a.map\r\nBenchmark 2 Engine Size=1.6\r\n"
-                         "Benchmark 2 Chip Date=2000-01-01\r\nBenchmark 2 Chip Version=1\r\n"
-                         "Benchmark 2 Atmospheric Pressure=85\r\n"),
+  EXPECT_NE(written.find(
+                "Benchmark 2 Name=Two\r\nBenchmark 2 File=a.map\r\nBenchmark 2 Engine Size=1.6\r\n"
+                "Benchmark 2 Chip Date=2000-01-01\r\nBenchmark 2 Chip Version=1\r\n"
+                "Benchmark 2 Atmospheric Pressure=85\r\n"),
             std::string::npos);
 }
 
 TEST(BenchmarkSettings, AllZonesComeBackTheUnknownOnesToo) {
   clsBenchmarks benchmarks = Read("Benchmark 1 Name=A\n");
   clsBenchmark& one = benchmarks.Item(1);
-  for (int zone = 0; zone < 256; ++zone) one.ZoneSettings(zone) = static_cast<std::int16_t>(255 - zone);
+  for (int zone = 0; zone < 256; ++zone)
+    one.ZoneSettings(zone) = static_cast<std::int16_t>(255 - zone);
   for (const int unknown : {0, 17, 47, 255}) one.ZoneSettings(unknown) = -1;
   const clsBenchmarks again = Read(Written(benchmarks));
   ASSERT_EQ(again.Count(), 1);

@@ -15,7 +15,8 @@ TEST(ChipIdentity, TypesAndTheirTexts) {
   EXPECT_EQ(EngineSizeText(1.8), "1.8");
   EXPECT_EQ(EngineSizeText(2.0), "1.6");
   EXPECT_EQ(ValidateChipVersion("3"), 3);
-  for (const char* text : {"0", "4", "", "-1", "x"}) EXPECT_EQ(ValidateChipVersion(text), 2) << text;
+  for (const char* text : {"0", "4", "", "-1", "x"})
+    EXPECT_EQ(ValidateChipVersion(text), 2) << text;
 }
 
 TEST(ChipIdentity, DatesOfChips) {
@@ -36,7 +37,8 @@ TEST(ChipIdentity, DatesOfChips) {
       {"XX-YYY-ZZ", other},
       {"00-Sep-2001", other},
   };
-  for (const auto& c : cases) EXPECT_EQ(DateText(ParseChipDate(c.text, other)), DateText(c.date)) << c.text;
+  for (const auto& c : cases)
+    EXPECT_EQ(DateText(ParseChipDate(c.text, other)), DateText(c.date)) << c.text;
   EXPECT_EQ(ParseChipDate("nonsense", kNoDate), kNoDate);
 }
 

@@ -56,10 +56,11 @@ TEST(EditJournal, WhatIsNoneOrNotWhole) {
   EditJournal journal = Sample();
   DoSome(journal.history);
   const std::string text = JournalText(journal);
-  for (std::size_t length = 0; length + 4 < text.size(); length += 7) EXPECT_FALSE(ReadJournal(text.substr(0, length)));
-  const std::pair<const char*, const char*> changes[] = {{"Tarnview", "x"},  {"1.8 ", ""},     {" 3 99", " 4 99"},
-                                                         {"100 100", "100"}, {"6=7", "999=7"}, {"6=7", "6=x"},
-                                                         {"6=7", "6"},       {"=L3+L4", "=L5"}};
+  for (std::size_t length = 0; length + 4 < text.size(); length += 7)
+    EXPECT_FALSE(ReadJournal(text.substr(0, length)));
+  const std::pair<const char*, const char*> changes[] = {
+      {"Tarnview", "x"}, {"1.8 ", ""},   {" 3 99", " 4 99"}, {"100 100", "100"},
+      {"6=7", "999=7"},  {"6=7", "6=x"}, {"6=7", "6"},       {"=L3+L4", "=L5"}};
   for (const auto& [from, to] : changes) {
     std::string changed = text;
     changed.replace(changed.find(from), std::string(from).size(), to);

@@ -83,7 +83,8 @@ TEST(ZoneRange, Limits) {
   const struct {
     const char* text;
     int low, high;
-  } cases[] = {{"-70/185", -70, 185}, {"015/085", 15, 85}, {"", 0, 255}, {"100", 0, 255}, {"/9", 0, 255}};
+  } cases[] = {
+      {"-70/185", -70, 185}, {"015/085", 15, 85}, {"", 0, 255}, {"100", 0, 255}, {"/9", 0, 255}};
   for (const auto& c : cases) {
     EXPECT_EQ(ParseZoneRange(c.text).low, c.low) << c.text;
     EXPECT_EQ(ParseZoneRange(c.text).high, c.high) << c.text;
@@ -98,9 +99,10 @@ TEST(ZoneNames, BothWays) {
     int index;
     const char* name;
     const char* cell;
-  } cases[] = {{0, "z0", ""},          {31, "z31", ""},        {32, "z32", "zf100"}, {112, "z112", "zf600"},
-               {209, "z209", "zi605"}, {223, "z223", "zi675"}, {224, "z700", ""},    {239, "z775", ""},
-               {240, "z800", ""},      {255, "z875", ""}};
+  } cases[] = {{0, "z0", ""},          {31, "z31", ""},        {32, "z32", "zf100"},
+               {112, "z112", "zf600"}, {209, "z209", "zi605"}, {223, "z223", "zi675"},
+               {224, "z700", ""},      {239, "z775", ""},      {240, "z800", ""},
+               {255, "z875", ""}};
   for (const auto& c : cases) {
     EXPECT_EQ(ZoneName(c.index), c.name);
     EXPECT_EQ(GridCellName(c.index), c.cell);
@@ -109,7 +111,8 @@ TEST(ZoneNames, BothWays) {
       EXPECT_EQ(ZoneIndex(c.cell), c.index);
     }
   }
-  for (const char* text : {"", "z224", "z701", "zf000", "zone"}) EXPECT_EQ(ZoneIndex(text), -1) << text;
+  for (const char* text : {"", "z224", "z701", "zf000", "zone"})
+    EXPECT_EQ(ZoneIndex(text), -1) << text;
 }
 
 TEST(ZoneFlags, BitsAndTheirQuirks) {

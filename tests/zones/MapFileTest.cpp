@@ -20,7 +20,8 @@ Settings Own() {
 /// Zone n is n, with a few that are not known.
 ZoneMap Sample() {
   ZoneMap map;
-  for (int zone = 0; zone < 256; ++zone) map.zones[static_cast<std::size_t>(zone)] = static_cast<std::int16_t>(zone);
+  for (int zone = 0; zone < 256; ++zone)
+    map.zones[static_cast<std::size_t>(zone)] = static_cast<std::int16_t>(zone);
   map.zones[1] = -1;
   map.zones[255] = -7;
   map.chip = {1.6, MakeDate(2001, 3, 2), 2};
@@ -82,18 +83,24 @@ std::string Lines(int count) {
 std::string Told(const MapReading& reading) {
   if (!reading.read) return "none" + (reading.error.empty() ? "" : " [" + reading.error + "]");
   std::string text = std::string(reading.map.chip.dblEngineSize == 1.8 ? "1.8 " : "1.6 ") +
-                     DateText(reading.map.chip.datChipDate) + " v" + std::to_string(reading.map.chip.intChipVersion) +
-                     " " + std::to_string(reading.map.intAtmosphericPressure) + " kPa '" + reading.map.strNotes + "'";
+                     DateText(reading.map.chip.datChipDate) + " v" +
+                     std::to_string(reading.map.chip.intChipVersion) + " " +
+                     std::to_string(reading.map.intAtmosphericPressure) + " kPa '" +
+                     reading.map.strNotes + "'";
   if (!reading.error.empty()) text += " [" + reading.error + "]";
-  for (const auto message : reading.messages) text += " " + std::to_string(static_cast<int>(message));
+  for (const auto message : reading.messages)
+    text += " " + std::to_string(static_cast<int>(message));
   return text;
 }
-std::string Told(const std::string& text, bool quiet = false) { return Told(ParseMap(text, Own(), quiet)); }
+std::string Told(const std::string& text, bool quiet = false) {
+  return Told(ParseMap(text, Own(), quiet));
+}
 
 TEST(MapFile, WritesAndReadsBack) {
   EXPECT_EQ(Written(Sample()), kSampleText);
   const std::string bytes = MapText(Sample(), {});
-  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), std::count(bytes.begin(), bytes.end(), '\n'));
+  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'),
+            std::count(bytes.begin(), bytes.end(), '\n'));
 
   ZoneMap expected = Sample();
   expected.zones[255] = -1;
@@ -117,11 +124,13 @@ TEST(MapFile, LastLineOfZonesByDateAndTheNotesOfNone) {
 
 TEST(MapFile, WhatOtherFilesHold) {
   const std::string user = "1.8 2001-09-18 v3 99 kPa ''";
-  const std::string whole = Lines(15) + " Engine Size: 1.6\n Chip Date: 2003-01-01\n Chip Version: 1\n";
+  const std::string whole =
+      Lines(15) + " Engine Size: 1.6\n Chip Date: 2003-01-01\n Chip Version: 1\n";
   const struct {
     const char* what;
     std::string text, told;
   } cases[] = {
+      // clang-format off
       {"no line of zones", "Sample\n", "none"},
       {"nothing", "", "none"},
       {"14 lines", Lines(14), "none"},
@@ -142,6 +151,7 @@ TEST(MapFile, WhatOtherFilesHold) {
        user + " [6, Overflow] 7 8 9"},
       {"empty first line of notes", whole + " Notes:\n\n\na\n\nb\n", "1.6 2003-01-01 v1 99 kPa 'a\r\n\r\nb' 9"},
       {"notes line that is longer", whole + " Notes: x\na\n", "1.6 2003-01-01 v1 99 kPa '' 9"},
+      // clang-format on
   };
   for (const auto& c : cases) EXPECT_EQ(Told(c.text), c.told) << c.what;
   EXPECT_EQ(Told(Lines(15), true), user);

@@ -45,13 +45,15 @@ struct Edit {
 };
 
 void Expect(const ZoneSheet& sheet, std::initializer_list<Edit> edits) {
-  for (const Edit& edit : edits) EXPECT_EQ(Changes(sheet, edit.edit(sheet)), edit.changes) << edit.what;
+  for (const Edit& edit : edits)
+    EXPECT_EQ(Changes(sheet, edit.edit(sheet)), edit.changes) << edit.what;
 }
 
 using S = ZoneSheet;
 
 TEST(ZoneEdits, Fields) {
   Expect(
+      // clang-format off
       OpenSheet(MapWith(kThird, 2)),
       {{"off", [](S s) { return WithField(s, 3, " off"); }, "z3 100>OFF"},
        {"255 is off", [](S s) { return WithField(s, 13, "255"); }, "z13 100>OFF"},
@@ -64,6 +66,7 @@ TEST(ZoneEdits, Fields) {
        {"closed loop as a field", [](S s) { return WithField(s, 112, "99"); }, "z112 100>40"},
        {"date before air temperatures", [](S s) { return WithChipDate(s, MakeDate(2001, 2, 28)); }, "z4 80>50 -4 -6"},
        {"to 1.6", [](S s) { return WithEngineSize(s, 1.6); }, ""}});
+  // clang-format on
 }
 
 TEST(ZoneEdits, AnotherEngineSizeKeepsTheNumbersInTheirNewRanges) {
@@ -86,6 +89,7 @@ TEST(ZoneEdits, BoxesAndLists) {
   ASSERT_EQ(sheet.autoTuneType + " " + sheet.O2Sensor, "L3+L4 WB");
   const S both = WithSensor(sheet, "NB+WB");
   Expect(
+      // clang-format off
       both,
       {{"EGR takes wide band off the list", [](S s) { return WithTick(s, Tick::EGR, true); }, "+0 sensor NB"},
        {"the place on the list stays", [](S s) { return WithAutoTuneType(s, "Lambda"); }, "type 'Lambda' sensor WB"},
@@ -93,10 +97,12 @@ TEST(ZoneEdits, BoxesAndLists) {
        {"box that the chip lacks", [](S s) { return WithTick(s, Tick::QuadInjection, true); }, ""},
        {"curve without EGR", [](S s) { return WithTick(s, Tick::AltEGRCurve, true); }, ""},
        {"sensor off the list", [](S s) { return WithSensor(s, "?"); }, "sensor NB"}});
+  // clang-format on
   const S curve = WithTick(WithTick(sheet, Tick::EGR, true), Tick::AltEGRCurve, true);
   EXPECT_EQ(Changes(curve, WithTick(curve, Tick::EGR, false)), "-0 -3");
-  EXPECT_EQ(Changes(sheet, WithChipDate(WithChipDate(sheet, MakeDate(2002, 1, 1)), MakeDate(2002, 1, 2))),
-            "-4 -6 type 'Off' sensor NB");
+  EXPECT_EQ(
+      Changes(sheet, WithChipDate(WithChipDate(sheet, MakeDate(2002, 1, 1)), MakeDate(2002, 1, 2))),
+      "-4 -6 type 'Off' sensor NB");
 }
 
 TEST(ZoneEdits, Cells) {
@@ -105,6 +111,7 @@ TEST(ZoneEdits, Cells) {
   benchmark.fill(250);
   const S turbo = OpenSheet(MapWith(kThird, 2));
   Expect(turbo,
+         // clang-format off
          {{"offset", [&](S s) { return WithOffset(s, fuel, 200); }, "z32 100>255 z33 100>255 z114 100>255"},
           {"offset down", [&](S s) { return WithOffset(s, fuel, -101); }, "z32 100>0 z33 100>0 z114 100>0"},
           {"ignition ends at 239", [&](S s) { return WithOffset(s, ignition, 200); }, "z128 100>239 z210 100>239"},
@@ -120,12 +127,14 @@ TEST(ZoneEdits, Cells) {
           {"unit", [](S s) { return WithCell(WithBoostTargets(s, false), 239, "150"); },
            "z725 100>0 z730 100>0 z735 100>0 z740 100>0 z745 100>0 z750 100>0 z755 100>0 z760 100>0 z765 100>0 "
            "z770 100>0 z775 100>99 Pct"}});
+  // clang-format on
   EXPECT_EQ(Changes(turbo, WithFirstBoostTargetInAll(WithCell(turbo, 229, "120"))).substr(0, 36),
             "z725 100>120 z730 100>120 z735 100>1");
   const S aspirated = OpenSheet(MapWith(kThird, 0));
-  Expect(aspirated, {{"all are cells", [&](S s) { return WithCellsOf(s, ignition, benchmark); },
-                      "z128 100>250 z208 100>250 z210 100>250"},
-                     {"with the grid's range", [](S s) { return WithCell(s, 112, "200"); }, "z112 100>200"}});
+  Expect(aspirated,
+         {{"all are cells", [&](S s) { return WithCellsOf(s, ignition, benchmark); },
+           "z128 100>250 z208 100>250 z210 100>250"},
+          {"with the grid's range", [](S s) { return WithCell(s, 112, "200"); }, "z112 100>200"}});
   const S old = OpenSheet(MapWith(kSecond16, 2));
   Expect(old, {{"targets of old chips", [](S s) { return WithCell(s, 26, "127"); }, "z26 100>110"},
                {"mixture fuel", [](S s) { return WithTick(s, Tick::MixtureFuel, true); }, "+9"}});
@@ -154,13 +163,16 @@ TEST(ZoneEdits, InterpolationAndSmoothing) {
 /// Ten thousand edits of every kind, all undone, all redone.
 TEST(EditHistory, RandomWalk) {
   std::mt19937 random(11);
-  const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
+  const auto below = [&](int end) {
+    return static_cast<int>(random() % static_cast<unsigned>(end));
+  };
   const ZoneMap source = MapWith(kThird, 2 + 0x91);
   ZoneSettings benchmark{};
   for (auto& zone : benchmark) zone = static_cast<std::int16_t>(below(256));
   const std::function<S(S)> edits[] = {
       [&](S s) {
-        return WithField(s, std::array{0, 1, 2, 3, 6, 17, 21, 225}[static_cast<std::size_t>(below(8))],
+        return WithField(s,
+                         std::array{0, 1, 2, 3, 6, 17, 21, 225}[static_cast<std::size_t>(below(8))],
                          std::to_string(below(9000) - 50));
       },
       [&](S s) { return WithTick(s, Tick{below(kTicks)}, below(2) == 0); },
@@ -173,13 +185,15 @@ TEST(EditHistory, RandomWalk) {
       },
       [&](S s) { return WithCellsOf(s, std::array{32 + below(96)}, benchmark); },
       [&](S s) {
-        return WithAutoTuneType(s, std::array{"Off", "Lambda", "L3"}[static_cast<std::size_t>(below(3))]);
+        return WithAutoTuneType(
+            s, std::array{"Off", "Lambda", "L3"}[static_cast<std::size_t>(below(3))]);
       },
   };
   EditHistory history(OpenSheet(source));
   const ZoneMap opened = Rebuild(history.Now(), source);
   for (int done = 0; done < 10000;)
-    done += history.Do("step", edits[static_cast<std::size_t>(below(std::size(edits)))](history.Now()));
+    done +=
+        history.Do("step", edits[static_cast<std::size_t>(below(std::size(edits)))](history.Now()));
   const ZoneMap last = Rebuild(history.Now(), source);
   while (history.CanUndo()) history.Undo();
   EXPECT_EQ(history.Now(), history.Opened());

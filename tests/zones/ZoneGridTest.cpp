@@ -31,6 +31,7 @@ TEST(ZoneGrid, RowsAroundAMAP) {
     int lower, upper;
     std::int32_t lowerMAP, upperMAP;
   } cases[] = {
+      // clang-format off
       {true, 960, "NB", "Off", 3000, 5, 6, 840, 960},       {true, 831, "NB", "Off", 3000, 5, 6, 840, 960},
       {true, 830, "NB", "Off", 3000, 4, 5, 700, 840},       {true, 431, "NB", "Off", 3000, 2, 3, 440, 570},
       {true, 430, "NB", "Off", 2001, 2, 2, 440, 440},       {true, 430, "NB", "Off", 2000, 1, 1, 300, 300},
@@ -39,12 +40,15 @@ TEST(ZoneGrid, RowsAroundAMAP) {
       {false, 599, "NB", "Off", 3000, 2, 2, 600, 600},      {false, 600, "NB", "Off", 3000, 2, 3, 600, 1000},
       {true, 639, "NB+WB", "L3", 3000, 1, 1, 300, 300},     {true, 640, "NB+WB", "L3", 3000, 3, 4, 570, 700},
       {false, 600, "NB+WB", "L3+L4", 3000, 1, 1, 200, 200}, {true, 600, "NB+WB", "Lambda", 3000, 3, 4, 570, 700},
+      // clang-format on
   };
   for (const auto& c : cases) {
-    const ZoneRows rows = CalcZoneRowBoundaries(c.MAP, c.normallyAspirated, c.sensor, c.type, c.RPM);
+    const ZoneRows rows =
+        CalcZoneRowBoundaries(c.MAP, c.normallyAspirated, c.sensor, c.type, c.RPM);
     EXPECT_TRUE(rows.lower == c.lower && rows.upper == c.upper && rows.lowerMAP == c.lowerMAP &&
                 rows.upperMAP == c.upperMAP)
-        << c.MAP << ": " << rows.lower << " " << rows.upper << " " << rows.lowerMAP << " " << rows.upperMAP;
+        << c.MAP << ": " << rows.lower << " " << rows.upper << " " << rows.lowerMAP << " "
+        << rows.upperMAP;
   }
 }
 
@@ -53,12 +57,14 @@ TEST(ZoneGrid, ZoneNumberOfASample) {
     bool normallyAspirated;
     std::int32_t kPa, RPM, zone;
   } cases[] = {
-      {true, 33, 0, 100},     {true, 34, 1500, 215},  {true, 47, 1999, 215}, {true, 48, 2000, 320},
-      {true, 88, 7999, 675},  {true, 200, 9999, 695}, {false, 40, 499, 100}, {false, 41, 500, 205},
-      {false, 201, 500, 605}, {false, 200, 500, 505}, {true, 33, -1, 1},     {true, 33, 100000, 11000},
+      {true, 33, 0, 100},     {true, 34, 1500, 215}, {true, 47, 1999, 215},
+      {true, 48, 2000, 320},  {true, 88, 7999, 675}, {true, 200, 9999, 695},
+      {false, 40, 499, 100},  {false, 41, 500, 205}, {false, 201, 500, 605},
+      {false, 200, 500, 505}, {true, 33, -1, 1},     {true, 33, 100000, 11000},
   };
   for (const auto& c : cases)
-    EXPECT_EQ(ZoneNumber(ZoneRowOfSample(c.normallyAspirated, c.kPa), c.RPM), c.zone) << c.kPa << " " << c.RPM;
+    EXPECT_EQ(ZoneNumber(ZoneRowOfSample(c.normallyAspirated, c.kPa), c.RPM), c.zone)
+        << c.kPa << " " << c.RPM;
   EXPECT_EQ(ZoneColumnOfSample(-1), 0);
   EXPECT_EQ(ZoneColumnOfSample(9999), 15);
 }

@@ -31,7 +31,8 @@ ZoneMap MapWith(const ChipIdentity& chip, int flags, int more = 0) {
   return map;
 }
 
-/// "11011": which of the chips have it, turbo and (after the slash) normally aspirated where that differs.
+/// "11011": which of the chips have it, turbo and (after the slash) normally aspirated where that
+/// differs.
 std::string Chips(const std::function<bool(const ZoneSheet&)>& has) {
   std::string turbo, aspirated;
   for (const ChipIdentity& chip : kChips) {
@@ -98,7 +99,8 @@ TPS Idle Sw. 00010
 )");
 }
 
-/// Every field, its number for 100 and its range; of a second chip only what differs. Five to a line.
+/// Every field, its number for 100 and its range; of a second chip only what differs. Five to a
+/// line.
 TEST(ZoneSheet, LabelsNumbersAndRanges) {
   std::set<std::string> seen;
   std::string told;
@@ -106,8 +108,8 @@ TEST(ZoneSheet, LabelsNumbersAndRanges) {
   for (const ChipIdentity& chip : {kNew18, kOld16}) {
     const ZoneSheet sheet = OpenSheet(MapWith(chip, 2));
     for (int zone = 0; zone < 256; ++zone) {
-      const std::string row =
-          std::string(FieldLabel(sheet, zone)) + "=" + FieldText(sheet, zone) + "[" + RangeText(sheet, zone) + "]";
+      const std::string row = std::string(FieldLabel(sheet, zone)) + "=" + FieldText(sheet, zone) +
+                              "[" + RangeText(sheet, zone) + "]";
       if (!FieldLabel(sheet, zone).empty() && seen.insert(std::to_string(zone) + row).second)
         told += row + (++count % 5 ? " " : "\n");
     }
@@ -142,6 +144,7 @@ TEST(ZoneSheet, FlagsComeBackAsTheBoxesStand) {
     const char* type;
     int flagsAfter, moreAfter;
   } cases[] = {
+      // clang-format off
       {"both sensors", day, 0x99, 0, "NB+WB", "L3+L4", 0x99, 0},
       {"a day earlier: EGR and no wide band", before, 0x99, 0, "NB", "L3+L4", 0x89, 0},
       {"both sensors without L3", day, 0x19, 0, "NB", "Lambda", 0x01, 0},
@@ -154,6 +157,7 @@ TEST(ZoneSheet, FlagsComeBackAsTheBoxesStand) {
       {"L3 alone", day, 0x81, 4, "NB", "L3", 0x81, 4},
       {"255 in z800", kNew18, 0x02, 255, "NB", "Off", 0x02, 233},
       {"z800 of a chip without boxes", kOld16, 0x02, 0x5a, "NB", "Off", 0x82, 0x5a},
+      // clang-format on
   };
   for (const auto& c : cases) {
     const ZoneMap map = MapWith(c.chip, c.flags, c.more);
@@ -175,7 +179,8 @@ TEST(ZoneSheet, EachBoxHasItsBit) {
     for (int i = 0; i < kTicks; ++i) {
       const ZoneMap other = Rebuild(WithTick(sheet, Tick{i}, !sheet.Ticked(Tick{i})), map);
       for (const int zone : {5, 240, 242})
-        if (const int bits = other.zones[static_cast<std::size_t>(zone)] ^ plain.zones[static_cast<std::size_t>(zone)])
+        if (const int bits = other.zones[static_cast<std::size_t>(zone)] ^
+                             plain.zones[static_cast<std::size_t>(zone)])
           told += std::to_string(i) + ":" + ZoneName(zone) + "^" + std::to_string(bits) + " ";
     }
     told += "\n";
@@ -189,7 +194,9 @@ TEST(ZoneSheet, EachBoxHasItsBit) {
 /// What is in range and has its boxes comes back as it was, whatever the numbers.
 TEST(ZoneSheet, MapsComeBackWhole) {
   std::mt19937 random(7);
-  const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
+  const auto below = [&](int end) {
+    return static_cast<int>(random() % static_cast<unsigned>(end));
+  };
   for (int round = 0; round < 300; ++round) {
     ZoneMap map = MapWith(kChips[below(5)], 0);
     for (auto& zone : map.zones) zone = static_cast<std::int16_t>(below(256));

@@ -24,7 +24,8 @@ void ShowCommonState(View& view, const Control& control) {
 
 }  // namespace
 
-Adapter::Adapter(Control& control, QObject* view, Binder& binder) : control_(control), view_(view), binder_(binder) {
+Adapter::Adapter(Control& control, QObject* view, Binder& binder)
+    : control_(control), view_(view), binder_(binder) {
   if (!view || !IsSecondView()) return;
   const QString text = view->property("text").toString();
   keepsItsText_ = !text.isEmpty();
@@ -66,7 +67,8 @@ void Adapter::ShowState() {
 
 void Adapter::ShowFocus() {
   auto* widget = qobject_cast<QWidget*>(view_);
-  if (widget && !IsSecondView() && control_.form.ActiveControl() == &control_ && !widget->hasFocus())
+  if (widget && !IsSecondView() && control_.form.ActiveControl() == &control_ &&
+      !widget->hasFocus())
     // As by Tab: the text of a field is selected, for a user who types another.
     widget->setFocus(Qt::TabFocusReason);
 }

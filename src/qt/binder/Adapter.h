@@ -12,9 +12,9 @@ class Binder;
 
 /// Shows one control in one widget or action, both ways.
 ///
-/// A handler of a widget's signal is connected by OnUser and calls the control as its last act, since the window, and
-/// this adapter with it, may be gone when that call returns. No guard against echoes is needed: a refresh leaves alone
-/// what is shown already.
+/// A handler of a widget's signal is connected by OnUser and calls the control as its last act,
+/// since the window, and this adapter with it, may be gone when that call returns. No guard against
+/// echoes is needed: a refresh leaves alone what is shown already.
 class Adapter : public QObject {
  public:
   Adapter(Control& control, QObject* view, Binder& binder);
@@ -35,8 +35,8 @@ class Adapter : public QObject {
   virtual void ShowSelection() {}
   virtual void ShowFocus();
 
-  /// Connects what the user does to a handler. It runs as an event of the user's: not within another, and with an end
-  /// for its errors.
+  /// Connects what the user does to a handler. It runs as an event of the user's: not within
+  /// another, and with an end for its errors.
   template <class Sender, class Signal, class Handler>
   void OnUser(Sender& sender, Signal signal, Handler handler) {
     connect(&sender, signal, this,

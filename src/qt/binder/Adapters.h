@@ -6,8 +6,8 @@
 
 namespace tarnview {
 
-/// The adapter for this kind of control on this kind of view (nullptr: a control that has no place on the screen);
-/// none if there is no such pair.
+/// The adapter for this kind of control on this kind of view (nullptr: a control that has no place
+/// on the screen); none if there is no such pair.
 std::unique_ptr<Adapter> MakeAdapter(Control& control, QObject* view, Binder& binder);
 
 }  // namespace tarnview

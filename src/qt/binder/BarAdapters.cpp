@@ -35,14 +35,16 @@ void ProgressBarAdapter::ShowContent() {
   // The toolkit counts in 32 bits.
   const long most = std::max(bar_.Max(), 1L);
   view_.setMaximum(1000);
-  view_.setValue(static_cast<int>(1000.0 * static_cast<double>(bar_.Value()) / static_cast<double>(most)));
+  view_.setValue(
+      static_cast<int>(1000.0 * static_cast<double>(bar_.Value()) / static_cast<double>(most)));
 }
 
 StatusBarAdapter::StatusBarAdapter(StatusBar& bar, QStatusBar& view, Binder& binder)
     : Adapter(bar, &view, binder), bar_(bar) {
   auto* progress = view.findChild<QProgressBar*>();
   if (progress) {
-    // It comes and goes with each draw: the bar's height must not, since the graph above would be drawn anew each time.
+    // It comes and goes with each draw: the bar's height must not, since the graph above would be
+    // drawn anew each time.
     QSizePolicy policy = progress->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     progress->setSizePolicy(policy);
@@ -50,12 +52,14 @@ StatusBarAdapter::StatusBarAdapter(StatusBar& bar, QStatusBar& view, Binder& bin
   for (int panel = 1; panel <= bar.Count(); ++panel) {
     auto* place = new QWidget(&view);
     auto* row = new QHBoxLayout(place);
-    row->setContentsMargins(view.fontMetrics().averageCharWidth(), 0, view.fontMetrics().averageCharWidth(), 0);
+    row->setContentsMargins(view.fontMetrics().averageCharWidth(), 0,
+                            view.fontMetrics().averageCharWidth(), 0);
     panels_.push_back(new QLabel(place));
     panels_.back()->setTextFormat(Qt::PlainText);
     // A long text must not widen the window.
     panels_.back()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    if (panel > 1 && panel == bar.Count()) panels_.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (panel > 1 && panel == bar.Count())
+      panels_.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     row->addWidget(panels_.back());
     if (panel == 2 && progress) row->addWidget(progress, 1);
     view.addWidget(place, panel == 2 ? 1 : 2);

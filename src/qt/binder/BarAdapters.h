@@ -38,7 +38,8 @@ class ProgressBarAdapter : public Adapter {
   QProgressBar& view_;
 };
 
-/// The last of several panels stands at the right; a progress bar that the form puts into the bar shares the second.
+/// The last of several panels stands at the right; a progress bar that the form puts into the bar
+/// shares the second.
 class StatusBarAdapter : public Adapter {
  public:
   StatusBarAdapter(StatusBar& bar, QStatusBar& view, Binder& binder);

@@ -12,7 +12,8 @@
 namespace tarnview {
 namespace {
 
-/// Showing the focus makes a field dirty that was left, whose handler corrects another: no window needs more.
+/// Showing the focus makes a field dirty that was left, whose handler corrects another: no window
+/// needs more.
 constexpr std::size_t kMostRounds = 4;
 /// Milliseconds until what is dirty even then is shown: short for the eye, long for the processor.
 constexpr int kLater = 20;
@@ -86,8 +87,8 @@ Control* Binder::ControlOf(const QObject* widget) const {
 }
 
 QObject* Binder::ViewOf(const Control& control) const {
-  const auto found =
-      std::find_if(adapters_.begin(), adapters_.end(), [&](const auto& one) { return &one->control() == &control; });
+  const auto found = std::find_if(adapters_.begin(), adapters_.end(),
+                                  [&](const auto& one) { return &one->control() == &control; });
   return found == adapters_.end() ? nullptr : (*found)->view();
 }
 

@@ -16,13 +16,14 @@ class Form;
 
 /// "txtFrom"; "mnuRecentlyUsed_2" for a member of an array.
 std::string ViewName(const Control& control);
-/// Everything in the window that shows the control: what bears its name first, then what names it in its property
-/// "control".
+/// Everything in the window that shows the control: what bears its name first, then what names it
+/// in its property "control".
 std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window);
 
-/// Ties the controls of a form to the widgets of its window by their names. What changes in the controls is shown
-/// once per turn of the event loop, or at once by Flush. What a refresh changes again is shown in the same flush, a few
-/// rounds long; then it waits for a later one, so that two that change each other never hold up the program.
+/// Ties the controls of a form to the widgets of its window by their names. What changes in the
+/// controls is shown once per turn of the event loop, or at once by Flush. What a refresh changes
+/// again is shown in the same flush, a few rounds long; then it waits for a later one, so that two
+/// that change each other never hold up the program.
 class Binder : public QObject {
  public:
   Binder(Form& form, QWidget& window);

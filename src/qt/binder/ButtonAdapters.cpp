@@ -8,7 +8,8 @@
 
 namespace tarnview {
 
-CommandButtonAdapter::CommandButtonAdapter(CommandButton& button, QAbstractButton& view, Binder& binder)
+CommandButtonAdapter::CommandButtonAdapter(CommandButton& button, QAbstractButton& view,
+                                           Binder& binder)
     : Adapter(button, &view, binder), button_(button), view_(view) {
   if (auto* push = qobject_cast<QPushButton*>(&view)) {
     // The form says which button Enter presses, whatever has the focus.
@@ -62,7 +63,8 @@ void OptionButtonAdapter::ShowContent() {
   view_.setAutoExclusive(true);
 }
 
-UpDownAdapter::UpDownAdapter(UpDown& arrows, UpDownWidget& view, Binder& binder) : Adapter(arrows, &view, binder) {
+UpDownAdapter::UpDownAdapter(UpDown& arrows, UpDownWidget& view, Binder& binder)
+    : Adapter(arrows, &view, binder) {
   OnUser(view, &UpDownWidget::Up, [&arrows] { arrows.UpClick(); });
   OnUser(view, &UpDownWidget::Down, [&arrows] { arrows.DownClick(); });
 }

@@ -18,13 +18,17 @@ class ChartAdapter : public Adapter {
     OnUser(view, &ChartWidget::PointClicked,
            [this](int place, int point) { chart_.SelectPoint(SeriesAt(place), point); });
     const auto& surface = *new SurfaceGestures(view);
-    OnUser(surface, &SurfaceGestures::Turned, [this](double right, double up) { chart_.Turn(right, up); });
+    OnUser(surface, &SurfaceGestures::Turned,
+           [this](double right, double up) { chart_.Turn(right, up); });
     OnUser(surface, &SurfaceGestures::Zoomed, [this](double notches) { chart_.Wheel(0, notches); });
     OnUser(surface, &SurfaceGestures::DoubleClicked, [this] { chart_.DblClick(); });
     OnUser(view, &ChartWidget::RightClicked, [this] { chart_.RightClick(); });
-    OnUser(gestures_, &ChartGestures::Turned, [this](double x, double notches) { chart_.Wheel(x, notches); });
-    OnUser(gestures_, &ChartGestures::Marked, [this](double x1, double x2) { chart_.Band(x1, x2); });
-    OnUser(gestures_, &ChartGestures::Panned, [this](double grabbed, double x) { chart_.Pan(grabbed, x); });
+    OnUser(gestures_, &ChartGestures::Turned,
+           [this](double x, double notches) { chart_.Wheel(x, notches); });
+    OnUser(gestures_, &ChartGestures::Marked,
+           [this](double x1, double x2) { chart_.Band(x1, x2); });
+    OnUser(gestures_, &ChartGestures::Panned,
+           [this](double grabbed, double x) { chart_.Pan(grabbed, x); });
     OnUser(gestures_, &ChartGestures::DoubleClicked, [this] { chart_.DblClick(); });
     OnUser(gestures_, &ChartGestures::PointedAt, [this](double x) { chart_.Hover(x); });
     OnUser(gestures_, &ChartGestures::PointerLeft, [this] { chart_.HoverEnd(); });

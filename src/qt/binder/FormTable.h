@@ -7,7 +7,8 @@ class QWidget;
 
 namespace tarnview {
 
-/// The windows of forms/*.ui, by the class of the form that each shows. The build makes this table from the folder.
+/// The windows of forms/*.ui, by the class of the form that each shows. The build makes this table
+/// from the folder.
 struct FormRow {
   const char* name;  ///< "frmGoto"
   QWidget* (*make)(QWidget* parent);

@@ -13,7 +13,8 @@ namespace {
 /// Faint enough for the texts in front to be read.
 constexpr double kOpacity = 0.4;
 
-/// Read as every file is, under a name of any bytes, and never from a pipe that nobody fills. None for what is none.
+/// Read as every file is, under a name of any bytes, and never from a pipe that nobody fills. None
+/// for what is none.
 QPixmap PictureIn(const std::string& path) {
   QPixmap picture;
   if (const auto bytes = RealFileSystem().Read(path)) {
@@ -43,7 +44,8 @@ bool FrameAdapter::eventFilter(QObject*, QEvent* event) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.setOpacity(kOpacity);
   const QSize size = picture_.size().scaled(view_.size(), Qt::KeepAspectRatio);
-  painter.drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, view_.rect()), picture_);
+  painter.drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, view_.rect()),
+                     picture_);
   return false;
 }
 

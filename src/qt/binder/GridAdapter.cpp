@@ -11,9 +11,11 @@ GridAdapter::GridAdapter(Grid& grid, GridWidget& view, Binder& binder)
   view.SetGrid(&grid);
   OnUser(view, &GridWidget::Clicked, [this](GridPlace cell) { grid_.UserClicks(cell); });
   OnUser(view, &GridWidget::Extended, [this](GridPlace cell) { grid_.UserExtends(cell); });
-  OnUser(view, &GridWidget::DoubleClicked, [this](GridPlace cell) { grid_.UserDoubleClicks(cell); });
+  OnUser(view, &GridWidget::DoubleClicked,
+         [this](GridPlace cell) { grid_.UserDoubleClicks(cell); });
   OnUser(view, &GridWidget::RightClicked, [this](GridPlace cell) { grid_.UserRightClicks(cell); });
-  OnUser(view, &GridWidget::FieldEdited, [this](const QString& text) { grid_.SetEditText(FromQt(text)); });
+  OnUser(view, &GridWidget::FieldEdited,
+         [this](const QString& text) { grid_.SetEditText(FromQt(text)); });
   OnUser(view, &GridWidget::Stepped, [this](int by) { grid_.StepEdit(by); });
   OnUser(view, &GridWidget::Typed, [this](const QString& text) {
     if (!grid_.BeginEdit("")) return;

@@ -11,7 +11,8 @@
 namespace tarnview {
 namespace {
 
-/// Raised and lowered, told apart by every kind of eye (Okabe and Ito, 2008), on a light and on a dark desktop.
+/// Raised and lowered, told apart by every kind of eye (Okabe and Ito, 2008), on a light and on a
+/// dark desktop.
 struct MarkColours {
   QRgb onLight, onDark;
 };
@@ -29,11 +30,16 @@ constexpr double kBlackReadsBetter = 0.179;
 bool IsDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
 
 double Luminance(const QColor& colour) {
-  const auto light = [](double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
-  return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) + 0.0722 * light(colour.blueF());
+  const auto light = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) +
+         0.0722 * light(colour.blueF());
 }
 
-QColor Of(const MarkColours& colours, bool dark) { return QColor(dark ? colours.onDark : colours.onLight); }
+QColor Of(const MarkColours& colours, bool dark) {
+  return QColor(dark ? colours.onDark : colours.onLight);
+}
 
 const MarkColours* ColoursOf(GridCell::Mark mark) {
   switch (mark) {
@@ -58,7 +64,8 @@ void GridPainter::Text(const QRect& place, const std::string& text, const QColor
 
 void GridPainter::Heading(const QRect& place, const std::string& text, bool lit) const {
   const QColor face = palette_.color(QPalette::Button);
-  painter_.fillRect(place, lit ? Mix(face, palette_.color(QPalette::Highlight), kSelectedTint) : face);
+  painter_.fillRect(place,
+                    lit ? Mix(face, palette_.color(QPalette::Highlight), kSelectedTint) : face);
   Text(place, text, palette_.color(QPalette::ButtonText));
 }
 
@@ -69,11 +76,14 @@ QColor GridPainter::BackOf(const GridCell& cell) const {
   return mark ? Mix(base, Of(*mark, IsDark(base)), kMarkedTint) : base;
 }
 
-/// A text that would vanish on what is behind it is drawn in black or white; red on a dark desktop is lighter.
+/// A text that would vanish on what is behind it is drawn in black or white; red on a dark desktop
+/// is lighter.
 QColor GridPainter::TextOf(const GridCell& cell, const QColor& back) const {
-  const QColor wanted = cell.colour == kDesktopColour ? palette_.color(QPalette::Text) : ColourToQt(cell.colour);
+  const QColor wanted =
+      cell.colour == kDesktopColour ? palette_.color(QPalette::Text) : ColourToQt(cell.colour);
   if (wanted.hsvSaturation() > 128) return IsDark(back) ? Mix(wanted, Qt::white, kLighter) : wanted;
-  if (cell.backColour == kDesktopColour && std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable)
+  if (cell.backColour == kDesktopColour &&
+      std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable)
     return wanted;
   return Luminance(back) < kBlackReadsBetter ? Qt::white : Qt::black;
 }
@@ -85,7 +95,8 @@ void GridPainter::Cell(const QRect& place, const GridCell& cell, bool selected) 
     return;
   }
   QColor back = BackOf(cell);
-  const QColor light = palette_.color(active_ ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
+  const QColor light =
+      palette_.color(active_ ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
   if (selected) back = Mix(back, light, active_ ? kSelectedTint : kSelectedTint / 2);
   painter_.fillRect(place, back);
   Mark(place, cell.mark);

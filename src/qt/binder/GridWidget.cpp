@@ -63,13 +63,16 @@ void GridWidget::Measure() {
 
 QSize GridWidget::sizeHint() const {
   if (!grid_) return {};
-  return {headingWidth_ + cellWidth_ * std::max(grid_->Columns() - 1, 0) + 1, rowHeight_ * grid_->Rows() + 1};
+  return {headingWidth_ + cellWidth_ * std::max(grid_->Columns() - 1, 0) + 1,
+          rowHeight_ * grid_->Rows() + 1};
 }
 
 QRect GridWidget::RectOf(GridPlace cell) const {
   const int columns = std::max(grid_->Columns() - 1, 1), rows = std::max(grid_->Rows(), 1);
   const int right = width() - 1, bottom = std::min(height() - 1, rows * rowHeight_ * 3 / 2);
-  const auto x = [&](int column) { return headingWidth_ + (right - headingWidth_) * column / columns; };
+  const auto x = [&](int column) {
+    return headingWidth_ + (right - headingWidth_) * column / columns;
+  };
   const auto y = [&](int row) { return bottom * row / rows; };
   const int left = cell.column == 0 ? 0 : x(cell.column - 1);
   // One pixel at the right and at the foot is the line between.
@@ -89,7 +92,8 @@ void GridWidget::paintEvent(QPaintEvent*) {
   const GridPainter cells(painter, palette(), hasFocus() || field_->hasFocus());
   const GridRange range = grid_->Selection();
   const QRect last = RectOf({grid_->Rows() - 1, grid_->Columns() - 1});
-  painter.fillRect(QRect(QPoint(0, 0), last.bottomRight() + QPoint(1, 1)), palette().color(QPalette::Mid));
+  painter.fillRect(QRect(QPoint(0, 0), last.bottomRight() + QPoint(1, 1)),
+                   palette().color(QPalette::Mid));
   for (int row = 0; row < grid_->Rows(); ++row)
     for (int column = 0; column < grid_->Columns(); ++column) {
       const GridPlace at{row, column};
@@ -104,7 +108,9 @@ void GridWidget::paintEvent(QPaintEvent*) {
   if (grid_->Current().row > 0) cells.Current(RectOf(grid_->Current()));
   if (const auto& ring = grid_->Ring()) {
     const QRect first = RectOf({1, 1}), next = RectOf({grid_->Rows() - 1, grid_->Columns() - 1});
-    const auto between = [](double from, double to, double share) { return from + (to - from) * share; };
+    const auto between = [](double from, double to, double share) {
+      return from + (to - from) * share;
+    };
     const double x = (ring->column - 1) / std::max(grid_->Columns() - 2, 1);
     const double y = (ring->row - 1) / std::max(grid_->Rows() - 2, 1);
     const QPointF from = QRectF(first).center(), to = QRectF(next).center();
@@ -133,7 +139,8 @@ void GridWidget::ShowField(bool wholeMarked) {
   if (wholeMarked) field_->selectAll();
 }
 
-/// Over its cell, and wide enough for what may be typed; the arrows stand at its right, at the edge at its left.
+/// Over its cell, and wide enough for what may be typed; the arrows stand at its right, at the edge
+/// at its left.
 void GridWidget::PlaceField() {
   if (!grid_->IsEditing()) return;
   const QRect cell = RectOf(grid_->Current());
@@ -146,7 +153,8 @@ void GridWidget::PlaceField() {
   field_->setGeometry(place);
   QRect arrows(0, 0, arrows_->sizeHint().width(), height);
   const bool fits = place.right() + arrows.width() < width();
-  arrows.moveTopLeft(fits ? place.topRight() + QPoint(1, 0) : place.topLeft() - QPoint(arrows.width(), 0));
+  arrows.moveTopLeft(fits ? place.topRight() + QPoint(1, 0)
+                          : place.topLeft() - QPoint(arrows.width(), 0));
   arrows_->setGeometry(arrows);
 }
 
@@ -180,7 +188,8 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void GridWidget::mouseMoveEvent(QMouseEvent* event) {
-  if (grid_ && event->buttons().testFlag(Qt::LeftButton) && !grid_->IsEditing()) emit Extended(PlaceAt(event->pos()));
+  if (grid_ && event->buttons().testFlag(Qt::LeftButton) && !grid_->IsEditing())
+    emit Extended(PlaceAt(event->pos()));
 }
 
 void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -189,12 +198,14 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
   if (!grid_) return;
-  emit RightClicked(event->reason() == QContextMenuEvent::Keyboard ? grid_->Current() : PlaceAt(event->pos()));
+  emit RightClicked(event->reason() == QContextMenuEvent::Keyboard ? grid_->Current()
+                                                                   : PlaceAt(event->pos()));
 }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
   const QString text = event->text();
-  const bool steers = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  const bool steers =
+      event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
   if (grid_ && !steers && !text.isEmpty() && text[0].isPrint())
     emit Typed(text);
   else

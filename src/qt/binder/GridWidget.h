@@ -21,7 +21,8 @@ class GridWidget : public QWidget {
   void SetGrid(const Grid* grid);
   /// Texts, colours or the size have changed.
   void ContentChanged();
-  /// Brings the field of the edited cell up to date; `wholeMarked`: a field that opens has its text marked.
+  /// Brings the field of the edited cell up to date; `wholeMarked`: a field that opens has its text
+  /// marked.
   void ShowField(bool wholeMarked);
 
   QSize sizeHint() const override;

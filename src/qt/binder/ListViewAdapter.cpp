@@ -12,12 +12,15 @@ namespace tarnview {
 namespace {
 
 bool AllNumbers(const std::vector<ListView::Column>& columns) {
-  return std::all_of(columns.begin(), columns.end(), [](const auto& column) { return column.rightAligned; });
+  return std::all_of(columns.begin(), columns.end(),
+                     [](const auto& column) { return column.rightAligned; });
 }
 
 QIcon IconOf(const ListView::Row& row, const QWidget& list, bool chips) {
   // In a list of chips a row without one keeps its place, so that the texts stand below each other.
-  if (chips) return ColourChip(row.colour >= 0 ? ColourToQt(row.colour) : QColor(), list.fontMetrics().ascent());
+  if (chips)
+    return ColourChip(row.colour >= 0 ? ColourToQt(row.colour) : QColor(),
+                      list.fontMetrics().ascent());
   if (row.icon == 1) return TintedIcon("shown");
   if (row.icon == 2) return TintedIcon("hidden");
   return QIcon();
@@ -48,7 +51,8 @@ void ListViewAdapter::SetUpColumns() {
   header.setStretchLastSection(true);
   const bool even = AllNumbers(columns);
   header.setSectionResizeMode(even ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
-  // Several columns of numbers stand together at the right, and the names before them take the room.
+  // Several columns of numbers stand together at the right, and the names before them take the
+  // room.
   if (columns.size() > 2 && columns.back().rightAligned && !even) {
     header.setStretchLastSection(false);
     header.setSectionResizeMode(0, QHeaderView::Stretch);
@@ -100,7 +104,8 @@ void ListViewAdapter::ShowContent() {
     for (int row = 1; row <= list_.Count(); ++row) items << new QTreeWidgetItem;
     view_.addTopLevelItems(items);
   }
-  chips_ = std::any_of(list_.Rows().begin(), list_.Rows().end(), [](const auto& row) { return row.colour >= 0; });
+  chips_ = std::any_of(list_.Rows().begin(), list_.Rows().end(),
+                       [](const auto& row) { return row.colour >= 0; });
   for (int row = 1; row <= list_.Count(); ++row) ShowRow(row);
   ShowSelection();
 }
@@ -111,7 +116,8 @@ void ListViewAdapter::ShowRow(int number) {
   for (int i = 0; i < static_cast<int>(row.texts.size()); ++i) {
     const QString text = ToQt(row.texts[static_cast<std::size_t>(i)]);
     if (item.text(i) != text) item.setText(i, text);
-    if (list_.Columns()[static_cast<std::size_t>(i)].rightAligned && !item.data(i, Qt::TextAlignmentRole).isValid()) {
+    if (list_.Columns()[static_cast<std::size_t>(i)].rightAligned &&
+        !item.data(i, Qt::TextAlignmentRole).isValid()) {
       item.setTextAlignment(i, Qt::AlignRight | Qt::AlignVCenter);
       item.setFont(i, digits_);
     }
@@ -128,7 +134,8 @@ void ListViewAdapter::ShowRow(int number) {
 }
 
 void ListViewAdapter::ShowSelection() {
-  QTreeWidgetItem* wanted = list_.SelectedRow() > 0 ? view_.topLevelItem(list_.SelectedRow() - 1) : nullptr;
+  QTreeWidgetItem* wanted =
+      list_.SelectedRow() > 0 ? view_.topLevelItem(list_.SelectedRow() - 1) : nullptr;
   if (wanted == view_.currentItem()) return;
   const QSignalBlocker quiet(view_);
   view_.setCurrentItem(wanted);

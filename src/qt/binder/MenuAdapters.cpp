@@ -7,7 +7,8 @@ namespace tarnview {
 MenuActionAdapter::MenuActionAdapter(MenuItem& item, QAction& view, Binder& binder)
     : Adapter(item, &view, binder), item_(item), view_(view) {
   // One action alone may own a shortcut.
-  if (!IsSecondView() && !item.Shortcut.empty()) view.setShortcut(QKeySequence(ToQt(item.Shortcut)));
+  if (!IsSecondView() && !item.Shortcut.empty())
+    view.setShortcut(QKeySequence(ToQt(item.Shortcut)));
   OnUser(view, &QAction::triggered, [this] {
     // The toolkit has ticked a checkable entry by itself; the window decides.
     MarkDirty(What::Content);

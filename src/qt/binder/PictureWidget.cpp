@@ -33,16 +33,20 @@ QSize PictureWidget::sizeHint() const {
 void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), backColour_ < 0 ? palette().base() : QBrush(ColourToQt(backColour_)));
-  // The colours between button face and shadow do not show on every desktop's ground, light or dark; this does.
+  // The colours between button face and shadow do not show on every desktop's ground, light or
+  // dark; this does.
   QColor faint = palette().color(QPalette::Text);
   faint.setAlphaF(0.35F);
   painter.setPen(faint);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(1 / TwipsPerPixel(), 1 / TwipsPerPixel());
-  const auto pen = [&](const QColor& colour, double pixels) { return QPen(colour, pixels * TwipsPerPixel()); };
+  const auto pen = [&](const QColor& colour, double pixels) {
+    return QPen(colour, pixels * TwipsPerPixel());
+  };
   painter.setPen(pen(faint, 1));
-  for (const Drawing::Line& line : drawing_.lines) painter.drawLine(line.x1, line.y1, line.x2, line.y2);
+  for (const Drawing::Line& line : drawing_.lines)
+    painter.drawLine(line.x1, line.y1, line.x2, line.y2);
   for (const Drawing::Stroke& stroke : drawing_.strokes) {
     QPen drawn = PenOf(stroke.pen);
     drawn.setWidthF(drawn.widthF() * TwipsPerPixel());

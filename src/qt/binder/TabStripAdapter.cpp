@@ -19,7 +19,8 @@ int TabStripAdapter::TabOf(int page) const {
   if (page < 0) return 0;
   const std::string name = view_.widget(page)->objectName().toStdString();
   for (std::size_t i = 0; i < tabs_.Tabs().size(); ++i)
-    if (const Frame* frame = tabs_.Tabs()[i].page; frame && ViewName(*frame) == name) return static_cast<int>(i) + 1;
+    if (const Frame* frame = tabs_.Tabs()[i].page; frame && ViewName(*frame) == name)
+      return static_cast<int>(i) + 1;
   return 0;
 }
 

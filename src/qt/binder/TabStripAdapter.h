@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// The pages of the widget are known by their names: a tab without its page in the strip is not shown.
+/// The pages of the widget are known by their names: a tab without its page in the strip is not
+/// shown.
 class TabStripAdapter : public Adapter {
  public:
   TabStripAdapter(TabStrip& tabs, QTabWidget& view, Binder& binder);

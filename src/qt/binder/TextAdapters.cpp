@@ -32,8 +32,9 @@ void GroupBoxAdapter::ShowContent() { view_.setTitle(ToQt(frame_.Caption)); }
 
 LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
-  OnUser(view, &QLineEdit::textEdited,
-         [this](const QString& text) { box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text); });
+  OnUser(view, &QLineEdit::textEdited, [this](const QString& text) {
+    box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text);
+  });
 }
 
 void LineEditAdapter::ShowContent() {
@@ -45,7 +46,8 @@ void LineEditAdapter::ShowContent() {
 TextEditAdapter::TextEditAdapter(TextBox& box, QPlainTextEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
   view.setTabChangesFocus(true);
-  OnUser(view, &QPlainTextEdit::textChanged, [this] { box_.Text = FromQt(view_.toPlainText().replace("\n", "\r\n")); });
+  OnUser(view, &QPlainTextEdit::textChanged,
+         [this] { box_.Text = FromQt(view_.toPlainText().replace("\n", "\r\n")); });
 }
 
 void TextEditAdapter::ShowContent() {
@@ -64,7 +66,8 @@ ComboBoxAdapter::ComboBoxAdapter(ComboBox& box, QComboBox& view, Binder& binder)
     box_.SetListIndex(entry);
   });
   if (box.Editable)
-    OnUser(view, &QComboBox::editTextChanged, [this](const QString& text) { box_.Text = FromQt(text); });
+    OnUser(view, &QComboBox::editTextChanged,
+           [this](const QString& text) { box_.Text = FromQt(text); });
 }
 
 void ComboBoxAdapter::ShowContent() {

@@ -4,7 +4,8 @@
 
 namespace tarnview {
 
-/// Two small arrow buttons, one above the other, as tall as the field beside them. They repeat while held.
+/// Two small arrow buttons, one above the other, as tall as the field beside them. They repeat
+/// while held.
 class UpDownWidget : public QWidget {
   Q_OBJECT
  public:

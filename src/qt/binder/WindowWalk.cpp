@@ -18,7 +18,8 @@ std::vector<std::string> WindowFaults(const Form& form, const QWidget& window) {
   std::set<std::string> names;
   for (const Control* control : form.Controls()) {
     names.insert(ViewName(*control));
-    if (!dynamic_cast<const Timer*>(control) && !window.findChild<QObject*>(QString::fromStdString(ViewName(*control))))
+    if (!dynamic_cast<const Timer*>(control) &&
+        !window.findChild<QObject*>(QString::fromStdString(ViewName(*control))))
       faults.push_back(form.name + ": nothing shows " + control->FullName());
   }
   for (const QObject* child : window.findChildren<QObject*>()) {

@@ -10,7 +10,8 @@ namespace {
 /// More divisions than any screen has pixels are no axis.
 constexpr int kMostDivisions = 1000;
 
-/// Every how many divisions a number fits. One that divides the axis evenly, if any will do, labels both of its ends.
+/// Every how many divisions a number fits. One that divides the axis evenly, if any will do, labels
+/// both of its ends.
 int StepOf(int divisions, double length, double textSize) {
   const double each = std::max(length / divisions, 1e-6);
   const int least = std::clamp(static_cast<int>(std::ceil(textSize / each)), 1, divisions);
@@ -23,12 +24,14 @@ int StepOf(int divisions, double length, double textSize) {
 
 std::string FormatNumber(double number, const std::string& format) {
   const auto point = format.find('.');
-  const int places =
-      point == std::string::npos ? 0 : static_cast<int>(std::min<std::size_t>(format.size() - point - 1, 15));
+  const int places = point == std::string::npos
+                         ? 0
+                         : static_cast<int>(std::min<std::size_t>(format.size() - point - 1, 15));
   char text[400];
   std::snprintf(text, sizeof text, "%.*f", places, number);
   const std::string shown = text;
-  return shown.find_first_not_of("-0.") == std::string::npos && shown[0] == '-' ? shown.substr(1) : shown;
+  return shown.find_first_not_of("-0.") == std::string::npos && shown[0] == '-' ? shown.substr(1)
+                                                                                : shown;
 }
 
 std::vector<AxisNumber> AxisNumbers(const ChartAxis& axis, double length, double textSize) {

@@ -19,11 +19,13 @@ int Distance(const QColor& a, const QColor& b) { return std::abs(qGray(a.rgb()) 
 
 QColor Mix(const QColor& from, const QColor& to, double share) {
   const auto part = [&](int a, int b) { return static_cast<int>(a + (b - a) * share); };
-  return QColor(part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
+  return QColor(part(from.red(), to.red()), part(from.green(), to.green()),
+                part(from.blue(), to.blue()));
 }
 
 PaintedColours ToPaint(const ChartColours& colours, const QPalette& palette) {
-  PaintedColours painted{ColourToQt(colours.backdrop), ColourToQt(colours.text), ColourToQt(colours.grid)};
+  PaintedColours painted{ColourToQt(colours.backdrop), ColourToQt(colours.text),
+                         ColourToQt(colours.grid)};
   if (colours.systemBackdrop) {
     painted.backdrop = palette.color(QPalette::Active, QPalette::Button);
     // On a dark desktop the button face is dark, and black would vanish on it.
@@ -31,7 +33,8 @@ PaintedColours ToPaint(const ChartColours& colours, const QPalette& palette) {
       painted.text = painted.grid = palette.color(QPalette::Active, QPalette::ButtonText);
   }
   const int distance = std::max(Distance(painted.backdrop, painted.grid), 1);
-  painted.grid = Mix(painted.backdrop, painted.grid, std::min(1.0, static_cast<double>(kGridContrast) / distance));
+  painted.grid = Mix(painted.backdrop, painted.grid,
+                     std::min(1.0, static_cast<double>(kGridContrast) / distance));
   return painted;
 }
 

@@ -63,7 +63,9 @@ double ChartGestures::XAt(double pixel) const {
   return chart_.xAxis->pixelToCoord(std::clamp<double>(pixel, plot.left(), plot.right()));
 }
 
-bool ChartGestures::OnPlot(QPointF at) const { return chart_.axisRect()->rect().contains(at.toPoint()); }
+bool ChartGestures::OnPlot(QPointF at) const {
+  return chart_.axisRect()->rect().contains(at.toPoint());
+}
 
 bool ChartGestures::eventFilter(QObject* receiver, QEvent* event) {
   // While the chart ends, its base still sends events, and what is this class's own is gone.
@@ -166,7 +168,8 @@ void ChartGestures::Later() {
   QTimer::singleShot(0, this, &ChartGestures::WorkOff);
 }
 
-/// A draw lets events run, so that this may be called while it is at work; what has come then is worked off after it.
+/// A draw lets events run, so that this may be called while it is at work; what has come then is
+/// worked off after it.
 void ChartGestures::WorkOff() {
   waiting_ = false;
   if (working_) return;

@@ -13,8 +13,8 @@ namespace tarnview {
 
 class ChartWidget;
 
-/// The mouse on a chart, told in the units of the X axis. What comes faster than it is worked off is taken together:
-/// of a wheel the sum counts, of a drag and of the pointer the newest place.
+/// The mouse on a chart, told in the units of the X axis. What comes faster than it is worked off
+/// is taken together: of a wheel the sum counts, of a drag and of the pointer the newest place.
 class ChartGestures : public QObject {
   Q_OBJECT
  public:

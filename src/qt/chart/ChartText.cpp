@@ -10,7 +10,8 @@ namespace {
 
 QString From(const ChartAxis& axis) {
   return QString("from %1 to %2")
-      .arg(ToQt(FormatNumber(axis.min, axis.format)).trimmed(), ToQt(FormatNumber(axis.max, axis.format)).trimmed());
+      .arg(ToQt(FormatNumber(axis.min, axis.format)).trimmed(),
+           ToQt(FormatNumber(axis.max, axis.format)).trimmed());
 }
 
 QString TextOf(const ChartDescription& chart, const Curves& curves) {
@@ -24,7 +25,8 @@ QString TextOf(const ChartDescription& chart, const PointCloud& cloud) {
   QString text = QString("%1 points: %2 %3, over %4 %5")
                      .arg(cloud.x.size())
                      .arg(ToQt(chart.y.title), From(chart.y), ToQt(chart.x.title), From(chart.x));
-  if (!cloud.tint.empty()) text += ", coloured by " + ToQt(cloud.tintAxis.title) + " " + From(cloud.tintAxis);
+  if (!cloud.tint.empty())
+    text += ", coloured by " + ToQt(cloud.tintAxis.title) + " " + From(cloud.tintAxis);
   return text + ".";
 }
 
@@ -32,7 +34,8 @@ QString TextOf(const ChartDescription&, const Surface& surface) {
   return QString("A surface of %1 rows and %2 columns, %3: %4 over %5, height %6.")
       .arg(surface.rows.size())
       .arg(surface.columns.size())
-      .arg(ToQt(surface.title), ToQt(surface.rowTitle), ToQt(surface.columnTitle), From(surface.height));
+      .arg(ToQt(surface.title), ToQt(surface.rowTitle), ToQt(surface.columnTitle),
+           From(surface.height));
 }
 
 }  // namespace

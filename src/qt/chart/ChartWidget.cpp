@@ -165,7 +165,8 @@ void ChartWidget::Fit(const QRect& viewport) {
   const int columns = std::max(axisRect()->width(), 1);
   for (std::size_t i = 0; i < curves_.size(); ++i) {
     const ChartSeries& series = chart_.Series()[i];
-    curves_[i]->SetLine(Decimate(series.x, series.y, xAxis->range().lower, xAxis->range().upper, columns));
+    curves_[i]->SetLine(
+        Decimate(series.x, series.y, xAxis->range().lower, xAxis->range().upper, columns));
   }
   ShowMark();
 }
@@ -214,7 +215,8 @@ void ChartWidget::FitLegend() {
     legend->clearItems();
     for (CurveLine* curve : curves_) curve->addToLegend(legend);
   }
-  // An item clips its text to itself, and what hangs below the line needs a little more than the line's height.
+  // An item clips its text to itself, and what hangs below the line needs a little more than the
+  // line's height.
   for (int i = 0; i < legend->itemCount(); ++i)
     if (auto* item = legend->item(i)) item->setMargins(QMargins(0, 0, 0, legend->rowSpacing()));
 }
@@ -235,12 +237,15 @@ std::optional<QPointF> ChartWidget::MarkedPoint() const {
   if (surface_) return std::nullopt;
   const auto place = static_cast<std::size_t>(selectedPlace_);
   const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
-  if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= (chart_.Cloud() ? 1 : chart_.Series().size()))
+  if (selectedPlace_ < 0 || selectedPoint_ < 1 ||
+      place >= (chart_.Cloud() ? 1 : chart_.Series().size()))
     return std::nullopt;
   const auto& x = chart_.Cloud() ? chart_.Cloud()->x : chart_.Series()[place].x;
   const auto& y = chart_.Cloud() ? chart_.Cloud()->y : chart_.Series()[place].y;
-  if (at >= std::min(x.size(), y.size()) || !std::isfinite(x[at]) || !std::isfinite(y[at])) return std::nullopt;
-  if (cloud_ && !(xAxis->range().contains(x[at]) && yAxis->range().contains(y[at]))) return std::nullopt;
+  if (at >= std::min(x.size(), y.size()) || !std::isfinite(x[at]) || !std::isfinite(y[at]))
+    return std::nullopt;
+  if (cloud_ && !(xAxis->range().contains(x[at]) && yAxis->range().contains(y[at])))
+    return std::nullopt;
   return QPointF(x[at], y[at]);
 }
 
@@ -258,7 +263,9 @@ void ChartWidget::ShowMark() {
   ring_->position->setCoords(*at);
   ring_->setClipToAxisRect(!cloud_);
   // Of a cloud, the mark itself is seen within the ring.
-  ring_->setBrush(cloud_ ? QBrush() : ColourToQt(chart_.Series()[static_cast<std::size_t>(selectedPlace_)].pen.colour));
+  ring_->setBrush(
+      cloud_ ? QBrush()
+             : ColourToQt(chart_.Series()[static_cast<std::size_t>(selectedPlace_)].pen.colour));
 }
 
 void ChartWidget::Paint(QCPPainter& painter, int width, int height) {

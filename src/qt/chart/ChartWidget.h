@@ -12,8 +12,8 @@
 
 namespace tarnview {
 
-/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a cloud has place 0. Of
-/// a surface, place is the row from 0 and point the column from 1.
+/// Draws a chart's description and nothing else. Places of curves count from 0, points from 1; a
+/// cloud has place 0. Of a surface, place is the row from 0 and point the column from 1.
 class ChartWidget : public QCustomPlot {
   Q_OBJECT
  public:
@@ -23,7 +23,8 @@ class ChartWidget : public QCustomPlot {
   QSize minimumSizeHint() const override { return {200, 150}; }
 
   void SetDescription(const ChartDescription& description);
-  /// Marks a point with a ring and a line through all curves; a place or point that is not there takes the mark away.
+  /// Marks a point with a ring and a line through all curves; a place or point that is not there
+  /// takes the mark away.
   void Select(int place, int point);
   bool ShowsSurface() const { return surface_ != nullptr; }
   /// Draws what lies over the curves anew, and the curves not.

@@ -8,7 +8,8 @@
 namespace tarnview {
 namespace {
 
-/// The share of a segment within the rectangle, by the four sides one after the other (Liang and Barsky, 1984).
+/// The share of a segment within the rectangle, by the four sides one after the other (Liang and
+/// Barsky, 1984).
 std::optional<QLineF> ClipSegment(const QLineF& segment, const QRectF& to) {
   double enters = 0, leaves = 1;
   const std::array<std::array<double, 2>, 4> sides{{{-segment.dx(), segment.x1() - to.left()},
@@ -31,7 +32,8 @@ std::vector<QPolygonF> ClipLine(const QPolygonF& line, const QRectF& to) {
   for (qsizetype i = 0; i + 1 < line.size(); ++i) {
     const auto inside = ClipSegment(QLineF(line[i], line[i + 1]), to);
     if (!inside) continue;
-    if (parts.empty() || parts.back().last() != inside->p1()) parts.push_back(QPolygonF{inside->p1()});
+    if (parts.empty() || parts.back().last() != inside->p1())
+      parts.push_back(QPolygonF{inside->p1()});
     parts.back() << inside->p2();
   }
   return parts;

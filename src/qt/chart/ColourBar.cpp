@@ -39,7 +39,8 @@ void ColourBar::Show(bool shown, const ChartAxis& axis) {
     plot_.plotLayout()->simplify();
     delete group;
   }
-  if (scale_) scale_->setDataRange(QCPRange(axis.min, axis.max > axis.min ? axis.max : axis.min + 1));
+  if (scale_)
+    scale_->setDataRange(QCPRange(axis.min, axis.max > axis.min ? axis.max : axis.min + 1));
 }
 
 void ColourBar::SetWidth(int pixels) {

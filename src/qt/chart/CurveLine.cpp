@@ -8,7 +8,8 @@
 namespace tarnview {
 namespace {
 
-/// Points that go to the painter at a time on screens and pixel pictures: measured, more points cost more for each.
+/// Points that go to the painter at a time on screens and pixel pictures: measured, more points
+/// cost more for each.
 constexpr qsizetype kPiece = 6;
 /// Points for each pixel column from which on a curve is a band.
 constexpr double kDense = 1.5;
@@ -34,9 +35,11 @@ void CurveLine::draw(QCPPainter* painter) {
   applyDefaultAntialiasingHint(painter);
   painter->setPen(mPen);
   painter->setBrush(Qt::NoBrush);
-  // A band of lines on every pixel column looks the same either way, and smoothing it takes most of the time.
+  // A band of lines on every pixel column looks the same either way, and smoothing it takes most of
+  // the time.
   const bool vectors = painter->modes().testFlag(QCPPainter::pmVectorized);
-  if (!vectors && static_cast<double>(line_.x.size()) > kDense * clipRect().width()) painter->setAntialiasing(false);
+  if (!vectors && static_cast<double>(line_.x.size()) > kDense * clipRect().width())
+    painter->setAntialiasing(false);
   QPolygonF run;
   for (std::size_t i = 0; i < line_.x.size(); ++i) {
     // A value that is not there leaves a gap.

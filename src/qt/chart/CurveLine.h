@@ -6,8 +6,8 @@
 
 namespace tarnview {
 
-/// A polyline over two axes. The library's own curve hands the painter one path of thousands of wide, overlapping
-/// segments, which takes seconds; this one hands it short pieces.
+/// A polyline over two axes. The library's own curve hands the painter one path of thousands of
+/// wide, overlapping segments, which takes seconds; this one hands it short pieces.
 class CurveLine : public QCPCurve {
  public:
   CurveLine(QCPAxis* x, QCPAxis* y) : QCPCurve(x, y) {}

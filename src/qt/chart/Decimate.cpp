@@ -24,11 +24,14 @@ void Add(const Run& run, const std::vector<double>& x, const std::vector<double>
 
 }  // namespace
 
-Polyline Decimate(const std::vector<double>& x, const std::vector<double>& y, double min, double max, int columns) {
+Polyline Decimate(const std::vector<double>& x, const std::vector<double>& y, double min,
+                  double max, int columns) {
   const std::size_t count = std::min(x.size(), y.size());
   if (columns < 1 || !(max > min) || count <= 2 * static_cast<std::size_t>(columns)) return {x, y};
   const double perColumn = columns / (max - min);
-  const auto columnOf = [&](double at) { return std::clamp(std::floor((at - min) * perColumn), -1.0, columns + 0.0); };
+  const auto columnOf = [&](double at) {
+    return std::clamp(std::floor((at - min) * perColumn), -1.0, columns + 0.0);
+  };
 
   Polyline thin;
   Run run{0, 0, 0, 0};

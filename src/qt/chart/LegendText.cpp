@@ -18,7 +18,8 @@ QString LegendText(const QString& name) {
   QStringList lines;
   for (const QString& part : name.split(' ')) {
     const QString word = Shortened(part);
-    const bool fits = !lines.empty() && !word.startsWith('(') && lines.back().size() + 1 + word.size() <= kLongestLine;
+    const bool fits = !lines.empty() && !word.startsWith('(') &&
+                      lines.back().size() + 1 + word.size() <= kLongestLine;
     if (fits)
       lines.back() += ' ' + word;
     else

@@ -6,7 +6,8 @@
 namespace tarnview {
 namespace {
 
-/// One premultiplied pixel over another (Porter and Duff, 1984); the two halves of a word are worked on together.
+/// One premultiplied pixel over another (Porter and Duff, 1984); the two halves of a word are
+/// worked on together.
 QRgb Over(QRgb above, QRgb below) {
   const unsigned rest = 255 - qAlpha(above);
   const auto share = [rest](QRgb pair) {
@@ -59,7 +60,8 @@ const QImage& MarkSprites::SpriteOf(int shade) {
 }
 
 void MarkSprites::Stamp(const std::vector<PlacedPoint>& points, QImage& onto) {
-  for (const PlacedPoint& one : points) StampOne(SpriteOf(one.shade), one.x - reach_, one.y - reach_, onto);
+  for (const PlacedPoint& one : points)
+    StampOne(SpriteOf(one.shade), one.x - reach_, one.y - reach_, onto);
 }
 
 }  // namespace tarnview

@@ -16,7 +16,8 @@ class MarkSprites {
 
   /// Pixels from a mark's own to the edge of its sprite.
   int Reach() const { return reach_; }
-  /// Lays the marks over an image (ARGB32, premultiplied) in their order; what falls outside of it is cut off.
+  /// Lays the marks over an image (ARGB32, premultiplied) in their order; what falls outside of it
+  /// is cut off.
   void Stamp(const std::vector<PlacedPoint>& points, QImage& onto);
 
  private:

@@ -11,8 +11,8 @@ namespace tarnview {
 namespace {
 
 constexpr int kSizes = 10;
-/// Diameters of the circle around a mark, in pixels. A disc in it measures 2.5, the least that is seen well, to 13.3:
-/// ten times 20 twips at 96 pixels to an inch.
+/// Diameters of the circle around a mark, in pixels. A disc in it measures 2.5, the least that is
+/// seen well, to 13.3: ten times 20 twips at 96 pixels to an inch.
 constexpr double kSmallest = 2.8;
 constexpr double kLargest = 15;
 /// A disc and a square fill the eye more than a star of their height.
@@ -48,13 +48,27 @@ QPainterPath Dash(double r, double b) { return Polygon({{-r, -b}, {r, -b}, {r, b
 
 QPainterPath Diamond(double r, double) { return Polygon({{0, -r}, {r, 0}, {0, r}, {-r, 0}}); }
 
-QPainterPath UpTriangle(double r, double) { return Polygon({{0, -r}, {0.87 * r, 0.5 * r}, {-0.87 * r, 0.5 * r}}); }
+QPainterPath UpTriangle(double r, double) {
+  return Polygon({{0, -r}, {0.87 * r, 0.5 * r}, {-0.87 * r, 0.5 * r}});
+}
 
-QPainterPath DownTriangle(double r, double b) { return QTransform::fromScale(1, -1).map(UpTriangle(r, b)); }
+QPainterPath DownTriangle(double r, double b) {
+  return QTransform::fromScale(1, -1).map(UpTriangle(r, b));
+}
 
 QPainterPath Plus(double r, double b) {
-  return Polygon(
-      {{-b, -r}, {b, -r}, {b, -b}, {r, -b}, {r, b}, {b, b}, {b, r}, {-b, r}, {-b, b}, {-r, b}, {-r, -b}, {-b, -b}});
+  return Polygon({{-b, -r},
+                  {b, -r},
+                  {b, -b},
+                  {r, -b},
+                  {r, b},
+                  {b, b},
+                  {b, r},
+                  {-b, r},
+                  {-b, b},
+                  {-r, b},
+                  {-r, -b},
+                  {-b, -b}});
 }
 
 QPainterPath Cross(double r, double b) { return QTransform().rotate(45).map(Plus(r, b)); }
@@ -75,8 +89,8 @@ QPainterPath Star(double r, double) {
 }
 
 /// In the order of PointShape.
-constexpr QPainterPath (*kOutlines[])(double r, double b) = {Disc, Disc,   Dash, Diamond,    DownTriangle,
-                                                             Plus, Square, Star, UpTriangle, Cross};
+constexpr QPainterPath (*kOutlines[])(double r, double b) = {
+    Disc, Disc, Dash, Diamond, DownTriangle, Plus, Square, Star, UpTriangle, Cross};
 
 QPainterPath OutlineOf(PointShape shape, double diameter) {
   const auto last = static_cast<int>(std::size(kOutlines)) - 1;
@@ -86,15 +100,18 @@ QPainterPath OutlineOf(PointShape shape, double diameter) {
 
 }  // namespace
 
-Marker::Marker(PointShape shape, int size) : diameter_(DiameterOf(size)), outline_(OutlineOf(shape, diameter_)) {
+Marker::Marker(PointShape shape, int size)
+    : diameter_(DiameterOf(size)), outline_(OutlineOf(shape, diameter_)) {
   outline_.setFillRule(Qt::WindingFill);
   const double away = -0.13 * diameter_, radius = 0.15 * diameter_;
-  if (shape == PointShape::Ball && diameter_ >= kLeastGleam) gleam_.addEllipse(QPointF(away, away), radius, radius);
+  if (shape == PointShape::Ball && diameter_ >= kLeastGleam)
+    gleam_.addEllipse(QPointF(away, away), radius, radius);
 }
 
 void Marker::Draw(QPainter& painter, const QPointF& at, const QColor& colour) const {
   painter.fillPath(outline_.translated(at), colour);
-  if (!gleam_.isEmpty()) painter.fillPath(gleam_.translated(at), Mix(colour, Qt::white, kGleamLight));
+  if (!gleam_.isEmpty())
+    painter.fillPath(gleam_.translated(at), Mix(colour, Qt::white, kGleamLight));
 }
 
 }  // namespace tarnview

@@ -12,7 +12,8 @@ struct PointOfCurve {
   int point = 0;  ///< from 1
 };
 
-/// The point that lies nearest by `distance(x, y)`; of equally near ones the first. Nothing for a chart without points.
+/// The point that lies nearest by `distance(x, y)`; of equally near ones the first. Nothing for a
+/// chart without points.
 std::optional<PointOfCurve> NearestPoint(const ChartDescription& chart,
                                          const std::function<double(double, double)>& distance);
 

@@ -20,7 +20,8 @@ constexpr const char* kNotWritten =
     "The file cannot be written: its folder is missing or closed to writing, or the disk is full.";
 
 struct Picture {
-  Picture(const ChartDescription& description, int itsWidth, int itsHeight) : width(itsWidth), height(itsHeight) {
+  Picture(const ChartDescription& description, int itsWidth, int itsHeight)
+      : width(itsWidth), height(itsHeight) {
     chart.resize(width, height);
     chart.SetDescription(description);
   }
@@ -73,12 +74,13 @@ constexpr Format kFormats[] = {{".png", DrawPng}, {".svg", DrawSvgTo}, {".pdf", 
 
 }  // namespace
 
-bool DrawPicture(FileSystem& files, const ChartDescription& chart, const std::string& path, int width, int height,
-                 std::string& error) {
+bool DrawPicture(FileSystem& files, const ChartDescription& chart, const std::string& path,
+                 int width, int height, std::string& error) {
   const QString name = PathToQt(path);
-  const auto format = std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format& one) {
-    return name.endsWith(QLatin1String(one.ending), Qt::CaseInsensitive);
-  });
+  const auto format =
+      std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format& one) {
+        return name.endsWith(QLatin1String(one.ending), Qt::CaseInsensitive);
+      });
   if (format == std::end(kFormats)) {
     error = "A picture's name ends in .png, .svg or .pdf.";
     return false;
@@ -99,7 +101,8 @@ bool DrawPicture(FileSystem& files, const ChartDescription& chart, const std::st
   return false;
 }
 
-bool DrawPicture(const ChartDescription& chart, const std::string& path, int width, int height, std::string& error) {
+bool DrawPicture(const ChartDescription& chart, const std::string& path, int width, int height,
+                 std::string& error) {
   RealFileSystem files;
   return DrawPicture(files, chart, path, width, height, error);
 }

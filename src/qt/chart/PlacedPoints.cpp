@@ -5,7 +5,8 @@
 namespace tarnview {
 namespace {
 
-/// Beyond so many cells (a screen has 4 to 9 million pixels), several pixels share one: memory stays below 150 MB.
+/// Beyond so many cells (a screen has 4 to 9 million pixels), several pixels share one: memory
+/// stays below 150 MB.
 constexpr std::size_t kMostCells = std::size_t{1} << 25;
 
 /// The pixels of a grid, numbered row by row.
@@ -18,7 +19,9 @@ class Cells {
   int Side() const { return side_; }
   int Columns() const { return std::max(grid_.inside.width(), 0) / side_ + 1; }
   int Rows() const { return std::max(grid_.inside.height(), 0) / side_ + 1; }
-  std::size_t Number() const { return static_cast<std::size_t>(Columns()) * static_cast<std::size_t>(Rows()); }
+  std::size_t Number() const {
+    return static_cast<std::size_t>(Columns()) * static_cast<std::size_t>(Rows());
+  }
   int ColumnOf(int x) const { return (x - grid_.inside.left()) / side_; }
   int RowOf(int y) const { return (y - grid_.inside.top()) / side_; }
 
@@ -45,7 +48,8 @@ std::vector<PlacedPoint> PlacePoints(const PointCloud& cloud, const PixelGrid& g
   const Cells cells(grid);
   const auto columns = static_cast<std::size_t>(cells.Columns());
   const auto cellOf = [&](int x, int y) {
-    return static_cast<std::size_t>(cells.RowOf(y)) * columns + static_cast<std::size_t>(cells.ColumnOf(x));
+    return static_cast<std::size_t>(cells.RowOf(y)) * columns +
+           static_cast<std::size_t>(cells.ColumnOf(x));
   };
   std::vector<int> last(cells.Number(), -1);
   cells.ForEach(cloud, [&](int point, int x, int y) { last[cellOf(x, y)] = point; });
@@ -56,11 +60,12 @@ std::vector<PlacedPoint> PlacePoints(const PointCloud& cloud, const PixelGrid& g
   return placed;
 }
 
-std::vector<int> CountAround(const PointCloud& cloud, const PixelGrid& grid, const std::vector<PlacedPoint>& placed,
-                             int reach) {
+std::vector<int> CountAround(const PointCloud& cloud, const PixelGrid& grid,
+                             const std::vector<PlacedPoint>& placed, int reach) {
   const Cells cells(grid);
   const int columns = cells.Columns(), rows = cells.Rows();
-  // Sums over all cells above and left (Crow, 1984), so that a box costs four look-ups whatever its size.
+  // Sums over all cells above and left (Crow, 1984), so that a box costs four look-ups whatever its
+  // size.
   const auto width = static_cast<std::size_t>(columns) + 1;
   std::vector<int> sums(width * (static_cast<std::size_t>(rows) + 1));
   const auto at = [&](int column, int row) -> int& {

@@ -32,11 +32,13 @@ struct PlacedPoint {
   int shade = 0;  ///< of a list of colours
 };
 
-/// The last point of each pixel that has any, in the order of the cloud: no more than the picture has pixels.
+/// The last point of each pixel that has any, in the order of the cloud: no more than the picture
+/// has pixels.
 std::vector<PlacedPoint> PlacePoints(const PointCloud& cloud, const PixelGrid& grid);
 
-/// For each of `placed`, how many points of the whole cloud fall within `reach` pixels to each side of it; at least 1.
-std::vector<int> CountAround(const PointCloud& cloud, const PixelGrid& grid, const std::vector<PlacedPoint>& placed,
-                             int reach);
+/// For each of `placed`, how many points of the whole cloud fall within `reach` pixels to each side
+/// of it; at least 1.
+std::vector<int> CountAround(const PointCloud& cloud, const PixelGrid& grid,
+                             const std::vector<PlacedPoint>& placed, int reach);
 
 }  // namespace tarnview

@@ -9,16 +9,21 @@
 namespace tarnview {
 namespace {
 
-/// A mark takes up to 600 bytes of an SVG: above so many, the cloud of a file or a page is one image within it.
+/// A mark takes up to 600 bytes of an SVG: above so many, the cloud of a file or a page is one
+/// image within it.
 constexpr std::size_t kMostSeparateMarks = 6000;
 /// Pixels of that image to one of 1/96 inch: 192 to an inch, the sharpness of a fine screen.
 constexpr double kImageScale = 2;
 /// Four bytes each, so that the largest picture does not double its memory.
 constexpr double kMostImagePixels = 1 << 26;
 
-bool operator==(const PixelLine& a, const PixelLine& b) { return a.offset == b.offset && a.scale == b.scale; }
+bool operator==(const PixelLine& a, const PixelLine& b) {
+  return a.offset == b.offset && a.scale == b.scale;
+}
 
-bool Same(const PixelGrid& a, const PixelGrid& b) { return a.x == b.x && a.y == b.y && a.inside == b.inside; }
+bool Same(const PixelGrid& a, const PixelGrid& b) {
+  return a.x == b.x && a.y == b.y && a.inside == b.inside;
+}
 
 /// Where colours tell something, a ball's gleam would be a false one.
 PointShape ShapeOf(const PointCloud& cloud) {
@@ -60,13 +65,16 @@ QRect PointCloudPlot::clipRect() const {
 }
 
 PixelGrid PointCloudPlot::GridOf(double scale, const QPoint& origin) const {
-  const PixelLine x = LineOf(*mKeyAxis, scale, origin.x()), y = LineOf(*mValueAxis, scale, origin.y());
-  const auto pixel = [](const PixelLine& line, double value) { return static_cast<int>(line.PixelOf(value)); };
+  const PixelLine x = LineOf(*mKeyAxis, scale, origin.x()),
+                  y = LineOf(*mValueAxis, scale, origin.y());
+  const auto pixel = [](const PixelLine& line, double value) {
+    return static_cast<int>(line.PixelOf(value));
+  };
   // Both ends of an axis are pixels of it, so there is one more than it is long; Y grows upwards.
   const QCPRange across = mKeyAxis->range(), up = mValueAxis->range();
-  return {
-      x, y,
-      QRect(QPoint(pixel(x, across.lower), pixel(y, up.upper)), QPoint(pixel(x, across.upper), pixel(y, up.lower)))};
+  return {x, y,
+          QRect(QPoint(pixel(x, across.lower), pixel(y, up.upper)),
+                QPoint(pixel(x, across.upper), pixel(y, up.lower)))};
 }
 
 std::optional<int> PointCloudPlot::PointAt(const QPointF& pixel) {
@@ -102,9 +110,11 @@ bool PointCloudPlot::DrawAsImage(QCPPainter& painter, double scale) const {
   const QRect room = clipRect();
   const QPoint origin(static_cast<int>(std::floor(room.left() * scale)),
                       static_cast<int>(std::floor(room.top() * scale)));
-  const double width = std::ceil(room.width() * scale) + 1, height = std::ceil(room.height() * scale) + 1;
+  const double width = std::ceil(room.width() * scale) + 1,
+               height = std::ceil(room.height() * scale) + 1;
   if (width < 1 || height < 1 || width * height > kMostImagePixels) return false;
-  QImage image(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied);
+  QImage image(static_cast<int>(width), static_cast<int>(height),
+               QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return false;
   image.fill(0);
   const PixelGrid grid = GridOf(scale, origin);
@@ -114,8 +124,9 @@ bool PointCloudPlot::DrawAsImage(QCPPainter& painter, double scale) const {
   painter.setAntialiasing(false);
   // Painters of vectors count at the pixels' middles, those of screens at their corners.
   const double shift = painter.modes().testFlag(QCPPainter::pmVectorized) ? -0.5 : 0;
-  painter.drawImage(QRectF(origin.x() / scale + shift, origin.y() / scale + shift, width / scale, height / scale),
-                    image);
+  painter.drawImage(
+      QRectF(origin.x() / scale + shift, origin.y() / scale + shift, width / scale, height / scale),
+      image);
   return true;
 }
 

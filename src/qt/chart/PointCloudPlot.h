@@ -10,7 +10,8 @@
 
 namespace tarnview {
 
-/// A mark for each point over two axes. What it costs is bounded by the pixels that there are, not by the points.
+/// A mark for each point over two axes. What it costs is bounded by the pixels that there are, not
+/// by the points.
 class PointCloudPlot : public QCPAbstractPlottable {
  public:
   /// The cloud stays the caller's and must stay as it is while this is shown.
@@ -35,7 +36,8 @@ class PointCloudPlot : public QCPAbstractPlottable {
   /// The axes on pixels that are `scale` to one of the painter's and counted from `origin`.
   PixelGrid GridOf(double scale, const QPoint& origin = {}) const;
   int ReachOfMark(double scale) const;
-  void DrawEach(QCPPainter& painter, const std::vector<PlacedPoint>& placed, const std::vector<QColor>& shades) const;
+  void DrawEach(QCPPainter& painter, const std::vector<PlacedPoint>& placed,
+                const std::vector<QColor>& shades) const;
   bool DrawAsImage(QCPPainter& painter, double scale) const;
 
   const PointCloud& cloud_;

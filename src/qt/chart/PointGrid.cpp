@@ -17,12 +17,14 @@ PointGrid::PointGrid(std::vector<PlacedPoint> points, const QRect& inside)
   for (const PlacedPoint& one : points) ++starts_[squareOf(one)];
   for (std::size_t i = 1; i < starts_.size(); ++i) starts_[i] += starts_[i - 1];
   // So far where each square ends; filled from behind, it sinks to where the square begins.
-  for (auto one = points.rbegin(); one != points.rend(); ++one) points_[--starts_[squareOf(*one)]] = *one;
+  for (auto one = points.rbegin(); one != points.rend(); ++one)
+    points_[--starts_[squareOf(*one)]] = *one;
   starts_.push_back(points_.size());
 }
 
 std::size_t PointGrid::SquareOf(int column, int row) const {
-  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column);
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+         static_cast<std::size_t>(column);
 }
 
 std::optional<int> PointGrid::Nearest(double x, double y) const {

@@ -7,7 +7,8 @@
 
 namespace tarnview {
 
-/// Finds the point under the pointer among those that are drawn, by looking at the squares around it alone.
+/// Finds the point under the pointer among those that are drawn, by looking at the squares around
+/// it alone.
 class PointGrid {
  public:
   /// How far from a point, in pixels, the pointer still means it.
@@ -24,7 +25,8 @@ class PointGrid {
   QRect inside_;
   int columns_;
   int rows_;
-  std::vector<std::size_t> starts_;  ///< where the points of each square begin, row by row, and the end of all
+  std::vector<std::size_t>
+      starts_;  ///< where the points of each square begin, row by row, and the end of all
   std::vector<PlacedPoint> points_;  ///< square by square
 };
 

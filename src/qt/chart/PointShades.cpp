@@ -12,12 +12,15 @@ namespace {
 /// More shades than an eye tells apart; fewer would make steps.
 constexpr int kShades = 64;
 
-int ShadeOf(double share) { return static_cast<int>(std::lrint(std::clamp(share, 0.0, 1.0) * (kShades - 1))); }
+int ShadeOf(double share) {
+  return static_cast<int>(std::lrint(std::clamp(share, 0.0, 1.0) * (kShades - 1)));
+}
 
 template <class ColourAt>
 std::vector<QColor> Scale(ColourAt colourAt) {
   std::vector<QColor> colours;
-  for (int i = 0; i < kShades; ++i) colours.push_back(colourAt(static_cast<double>(i) / (kShades - 1)));
+  for (int i = 0; i < kShades; ++i)
+    colours.push_back(colourAt(static_cast<double>(i) / (kShades - 1)));
   return colours;
 }
 
@@ -36,20 +39,22 @@ std::vector<QColor> ShadeByTint(std::vector<PlacedPoint>& placed, const PointClo
   return shades;
 }
 
-/// From a tint of the backdrop through the mark's own colour towards the colour of texts, which the backdrop contrasts
-/// most with: so it works on every backdrop.
+/// From a tint of the backdrop through the mark's own colour towards the colour of texts, which the
+/// backdrop contrasts most with: so it works on every backdrop.
 QColor DensityColour(double share, const QColor& own, const PaintedColours& colours) {
   constexpr double kFaintest = 0.45, kOwn = 0.55, kDeepest = 0.6;
   return share < kOwn ? Mix(colours.backdrop, own, kFaintest + (1 - kFaintest) * share / kOwn)
                       : Mix(own, colours.text, kDeepest * (share - kOwn) / (1 - kOwn));
 }
 
-std::vector<QColor> ShadeByDensity(std::vector<PlacedPoint>& placed, const PointCloud& cloud, const PixelGrid& grid,
-                                   int reach, const PaintedColours& colours) {
+std::vector<QColor> ShadeByDensity(std::vector<PlacedPoint>& placed, const PointCloud& cloud,
+                                   const PixelGrid& grid, int reach,
+                                   const PaintedColours& colours) {
   const std::vector<int> counts = CountAround(cloud, grid, placed, reach);
   const int most = counts.empty() ? 1 : *std::max_element(counts.begin(), counts.end());
   const double whole = std::log(std::max(most, 2));
-  for (std::size_t i = 0; i < placed.size(); ++i) placed[i].shade = ShadeOf(std::log(counts[i]) / whole);
+  for (std::size_t i = 0; i < placed.size(); ++i)
+    placed[i].shade = ShadeOf(std::log(counts[i]) / whole);
   std::stable_sort(placed.begin(), placed.end(),
                    [](const PlacedPoint& a, const PlacedPoint& b) { return a.shade < b.shade; });
   const QColor own = ColourToQt(cloud.colour);
@@ -62,11 +67,12 @@ QColor HeatColour(double share) {
   constexpr auto kLast = kHeatColours.size() - 1;
   const double at = std::clamp(share, 0.0, 1.0) * static_cast<double>(kLast);
   const auto stop = std::min(static_cast<std::size_t>(at), kLast - 1);
-  return Mix(ColourToQt(kHeatColours[stop]), ColourToQt(kHeatColours[stop + 1]), at - static_cast<double>(stop));
+  return Mix(ColourToQt(kHeatColours[stop]), ColourToQt(kHeatColours[stop + 1]),
+             at - static_cast<double>(stop));
 }
 
-std::vector<QColor> Shade(std::vector<PlacedPoint>& placed, const PointCloud& cloud, const PixelGrid& grid, int reach,
-                          const PaintedColours& colours) {
+std::vector<QColor> Shade(std::vector<PlacedPoint>& placed, const PointCloud& cloud,
+                          const PixelGrid& grid, int reach, const PaintedColours& colours) {
   if (!cloud.tint.empty()) return ShadeByTint(placed, cloud, colours);
   if (cloud.density) return ShadeByDensity(placed, cloud, grid, reach, colours);
   return {ColourToQt(cloud.colour)};

@@ -10,8 +10,8 @@ namespace tarnview {
 
 class ChartWidget;
 
-/// The mouse on a chart that shows a surface: a drag turns it, the wheel brings it nearer, a click picks a cell. What
-/// comes faster than it is drawn is taken together.
+/// The mouse on a chart that shows a surface: a drag turns it, the wheel brings it nearer, a click
+/// picks a cell. What comes faster than it is drawn is taken together.
 class SurfaceGestures : public QObject {
   Q_OBJECT
  public:

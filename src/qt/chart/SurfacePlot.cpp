@@ -23,7 +23,8 @@ constexpr double kReach = 1.5;
 
 }  // namespace
 
-SurfacePlot::SurfacePlot(QCustomPlot& plot, const Surface& surface) : QCPLayerable(&plot, "main"), surface_(surface) {}
+SurfacePlot::SurfacePlot(QCustomPlot& plot, const Surface& surface)
+    : QCPLayerable(&plot, "main"), surface_(surface) {}
 
 void SurfacePlot::SetFonts(const QFont& texts, const QFont& digits) {
   texts_ = texts;
@@ -37,14 +38,16 @@ SceneRoom SurfacePlot::Room() const {
   const QFontMetricsF metrics(digits_);
   const QRect viewport = parentPlot()->viewport();
   const double line = metrics.height();
-  return {static_cast<double>(viewport.width()), static_cast<double>(viewport.height()), kTitleRoom * line, line,
+  return {static_cast<double>(viewport.width()), static_cast<double>(viewport.height()),
+          kTitleRoom * line, line,
           [metrics](const std::string& text) { return metrics.horizontalAdvance(ToQt(text)); }};
 }
 
 std::optional<std::pair<int, int>> SurfacePlot::CellAt(const QPointF& pixel) const {
   const SceneRoom room = Room();
   const auto columns = static_cast<int>(surface_.columns.size());
-  return tarnview::CellAt(MakeScene(surface_, room), columns, {pixel.x(), pixel.y()}, kReach * room.line);
+  return tarnview::CellAt(MakeScene(surface_, room), columns, {pixel.x(), pixel.y()},
+                          kReach * room.line);
 }
 
 void SurfacePlot::draw(QCPPainter* painter) {
@@ -62,7 +65,8 @@ void SurfacePlot::DrawTitles(QCPPainter& painter) const {
   painter.setFont(title_);
   painter.drawText(QRectF(0, line * 0.4, width, line * 1.4), Qt::AlignCenter, ToQt(surface_.title));
   painter.setFont(texts_);
-  painter.drawText(QRectF(0, line * 1.7, width, line * 1.2), Qt::AlignCenter, ToQt(surface_.subtitle));
+  painter.drawText(QRectF(0, line * 1.7, width, line * 1.2), Qt::AlignCenter,
+                   ToQt(surface_.subtitle));
 }
 
 void SurfacePlot::DrawLines(QCPPainter& painter, const SurfaceScene& scene) const {
@@ -90,7 +94,8 @@ void SurfacePlot::DrawFaces(QCPPainter& painter, const SurfaceScene& scene) cons
     std::array<QPointF, 4> corners;
     std::transform(face.corners.begin(), face.corners.end(), corners.begin(), ToPoint);
     const QColor colour = ColourOf(face);
-    // Viewers of files smooth each edge by itself: a line of its own colour closes the seam to the next face.
+    // Viewers of files smooth each edge by itself: a line of its own colour closes the seam to the
+    // next face.
     painter.setPen(vectors ? QPen(colour, 1) : QPen(Qt::NoPen));
     painter.setBrush(colour);
     painter.setAntialiasing(vectors);

@@ -21,7 +21,9 @@ class SurfacePlot : public QCPLayerable {
   void DrawMark(QCPPainter& painter, int row, int column) const;
 
  protected:
-  void applyDefaultAntialiasingHint(QCPPainter* painter) const override { painter->setAntialiasing(true); }
+  void applyDefaultAntialiasingHint(QCPPainter* painter) const override {
+    painter->setAntialiasing(true);
+  }
   void draw(QCPPainter* painter) override;
 
  private:
@@ -46,7 +48,9 @@ class SurfaceMark : public QCPLayerable {
   void Select(int row, int column);
 
  protected:
-  void applyDefaultAntialiasingHint(QCPPainter* painter) const override { painter->setAntialiasing(true); }
+  void applyDefaultAntialiasingHint(QCPPainter* painter) const override {
+    painter->setAntialiasing(true);
+  }
   void draw(QCPPainter* painter) override { surface_.DrawMark(*painter, row_, column_); }
 
  private:

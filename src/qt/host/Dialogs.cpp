@@ -72,7 +72,8 @@ bool ChooseFile(Dialog& dialog, QWidget* parent) {
   box.setOption(QFileDialog::ShowDirsOnly, folder);
   if (!filters.isEmpty()) {
     box.setNameFilters(filters);
-    box.selectNameFilter(filters[std::clamp(dialog.filterIndex - 1, 0, static_cast<int>(filters.size()) - 1)]);
+    box.selectNameFilter(
+        filters[std::clamp(dialog.filterIndex - 1, 0, static_cast<int>(filters.size()) - 1)]);
   }
   const auto complete = [&] {
     if (save) box.setDefaultSuffix(EndingOf(box.selectedNameFilter()));
@@ -88,12 +89,14 @@ bool ChooseFile(Dialog& dialog, QWidget* parent) {
 }
 
 bool ChooseColour(Dialog& dialog, QWidget* parent) {
-  const QColor colour = QColorDialog::getColor(ColourToQt(dialog.colour), parent, ToQt(dialog.title));
+  const QColor colour =
+      QColorDialog::getColor(ColourToQt(dialog.colour), parent, ToQt(dialog.title));
   if (colour.isValid()) dialog.colour = ColourFromQt(colour);
   return colour.isValid();
 }
 
-/// Characters of a word without a gap: a line of a file that is a box's text may have no blank at all.
+/// Characters of a word without a gap: a line of a file that is a box's text may have no blank at
+/// all.
 constexpr qsizetype kLongestWord = 60;
 
 QString WithGaps(const QString& text) {
@@ -104,7 +107,9 @@ QString WithGaps(const QString& text) {
 /// Cuts the text until the box and its buttons have room on the screen.
 void FitText(QMessageBox& box) {
   const QSize most = box.screen()->availableSize() * 3 / 4;
-  const auto fits = [&] { return box.sizeHint().height() <= most.height() && box.sizeHint().width() <= most.width(); };
+  const auto fits = [&] {
+    return box.sizeHint().height() <= most.height() && box.sizeHint().width() <= most.width();
+  };
   for (QString text = box.text(); !fits() && !text.isEmpty();) {
     text.truncate(text.size() * 3 / 4);
     box.setText(text + "...");
@@ -114,8 +119,10 @@ void FitText(QMessageBox& box) {
 }  // namespace
 
 Reply AskInBox(const Box& box, QWidget* parent) {
-  const QString text = ShownToQt(box.TextWithin(kMostDetailsInBox)).replace("\r\n", "\n").replace("\r", "\n");
-  QMessageBox shown(IconOf(box.style), CaptionToQt(box.title), WithGaps(text), ButtonsOf(box.style), parent);
+  const QString text =
+      ShownToQt(box.TextWithin(kMostDetailsInBox)).replace("\r\n", "\n").replace("\r", "\n");
+  QMessageBox shown(IconOf(box.style), CaptionToQt(box.title), WithGaps(text), ButtonsOf(box.style),
+                    parent);
   shown.setTextFormat(Qt::PlainText);
   FitText(shown);
   for (const Answered& row : kAnswers)

@@ -73,7 +73,10 @@ bool KeepsEnter(const QWidget* widget) {
 }  // namespace
 
 FormWindow::FormWindow(Form& form, QWidget* parent, std::function<void(Form&)> cameToFront)
-    : form_(form), window_(&MakeWindowOf(form, parent)), binder_(form, *window_), cameToFront_(std::move(cameToFront)) {
+    : form_(form),
+      window_(&MakeWindowOf(form, parent)),
+      binder_(form, *window_),
+      cameToFront_(std::move(cameToFront)) {
   window_->setAcceptDrops(true);
   form_.Watcher = [this] { ShowCaption(); };
   ShowCaption();
@@ -111,7 +114,8 @@ void FormWindow::RunWhenFree(const char* procedure, std::function<void()> event)
 
 void FormWindow::ShowCaption() {
   const std::string& subtitle = form_.Subtitle;
-  window_->setWindowTitle(CaptionToQt(subtitle.empty() ? form_.Caption() : form_.Caption() + " - " + subtitle));
+  window_->setWindowTitle(
+      CaptionToQt(subtitle.empty() ? form_.Caption() : form_.Caption() + " - " + subtitle));
   if (form_.Pointer == MousePointer::Hourglass)
     window_->setCursor(Qt::WaitCursor);
   else
@@ -124,7 +128,8 @@ void FormWindow::Raise(bool modal) {
   if (modal) window_->setWindowModality(Qt::ApplicationModal);
   const bool opens = !window_->isVisible();
   window_->show();
-  if (auto* field = qobject_cast<QLineEdit*>(window_->focusWidget()); field && opens) field->selectAll();
+  if (auto* field = qobject_cast<QLineEdit*>(window_->focusWidget()); field && opens)
+    field->selectAll();
   window_->raise();
   window_->activateWindow();
 }
@@ -136,7 +141,8 @@ bool FormWindow::eventFilter(QObject* receiver, QEvent* event) {
     case QEvent::KeyRelease:
       return Receives(receiver) && KeyUp(static_cast<QKeyEvent&>(*event));
     case QEvent::FocusIn:
-      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_) TakeFocus(*widget);
+      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_)
+        TakeFocus(*widget);
       return false;
     default:
       return receiver == window_ && WindowEvent(*event);
@@ -175,7 +181,8 @@ bool FormWindow::IsHeldUp() const {
   return modal && modal != window_;
 }
 
-/// A file that comes while a dialog is open is refused: nothing may be loaded behind the dialog's back.
+/// A file that comes while a dialog is open is refused: nothing may be loaded behind the dialog's
+/// back.
 bool FormWindow::DragOrDrop(QDropEvent& event) {
   const std::string path = DraggedFile(*event.mimeData());
   if (path.empty() || IsHeldUp()) {
@@ -186,7 +193,8 @@ bool FormWindow::DragOrDrop(QDropEvent& event) {
   // Opened after the drop is over, so that the window dragged from does not wait for a long load.
   if (event.type() == QEvent::Drop)
     QMetaObject::invokeMethod(
-        this, [this, path] { RunWhenFree("DropFile", [this, path] { form_.DropFile(path); }); }, Qt::QueuedConnection);
+        this, [this, path] { RunWhenFree("DropFile", [this, path] { form_.DropFile(path); }); },
+        Qt::QueuedConnection);
   return true;
 }
 
@@ -204,7 +212,8 @@ void FormWindow::NoteWhereItIs() {
 }
 
 bool FormWindow::Receives(QObject* receiver) const {
-  // A key that nobody takes travels up through the parents; the window sees it once, before the first of them.
+  // A key that nobody takes travels up through the parents; the window sees it once, before the
+  // first of them.
   QWidget* first = window_->focusWidget() ? window_->focusWidget() : window_.data();
   return receiver == first && !IsHeldUp();
 }
@@ -235,7 +244,8 @@ void FormWindow::DrainRepeats() {
 bool FormWindow::EnterOrEscape(const KeyPress& key) {
   if (!key.Plain() || (key.key != "Enter" && key.key != "Escape")) return false;
   if (key.key == "Escape") {
-    // A window without such a button takes the close box's way; the main window does not close on a stray key.
+    // A window without such a button takes the close box's way; the main window does not close on a
+    // stray key.
     if (CommandButton* button = form_.CancelButton)
       Run("Escape", [button] { button->Press(); });
     else if (window_->inherits("QDialog"))
@@ -245,7 +255,8 @@ bool FormWindow::EnterOrEscape(const KeyPress& key) {
   QWidget* focus = window_->focusWidget();
   if (KeepsEnter(focus)) return false;
   auto* focused = dynamic_cast<CommandButton*>(focus ? binder_.ControlOf(focus) : nullptr);
-  if (CommandButton* button = focused ? focused : form_.DefaultButton) Run("Enter", [button] { button->Press(); });
+  if (CommandButton* button = focused ? focused : form_.DefaultButton)
+    Run("Enter", [button] { button->Press(); });
   return true;
 }
 

@@ -16,10 +16,12 @@ namespace tarnview {
 
 class Form;
 
-/// A form and the window that shows it: caption, pointer, place, keys, focus, dropped files, the close box.
+/// A form and the window that shows it: caption, pointer, place, keys, focus, dropped files, the
+/// close box.
 class FormWindow : public QObject {
  public:
-  /// `cameToFront` is called when the desktop activates the window. The form must have a file in forms/.
+  /// `cameToFront` is called when the desktop activates the window. The form must have a file in
+  /// forms/.
   FormWindow(Form& form, QWidget* parent, std::function<void(Form&)> cameToFront);
   ~FormWindow() override;
 
@@ -34,7 +36,8 @@ class FormWindow : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  /// Runs what the user does, as an event with an end for its errors; nothing once the window is gone.
+  /// Runs what the user does, as an event with an end for its errors; nothing once the window is
+  /// gone.
   void Run(const char* procedure, std::function<void()> event);
   void RunWhenFree(const char* procedure, std::function<void()> event);
   std::function<void()> WhileHere(std::function<void()> event);

@@ -30,7 +30,8 @@ int HeightOf(const QWidget& part, int rows) {
 /// A part whose content is not on show takes no room anyway.
 bool IsEmpty(const QWidget& part) {
   const auto children = part.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-  return std::all_of(children.begin(), children.end(), [](const QWidget* child) { return child->isHidden(); });
+  return std::all_of(children.begin(), children.end(),
+                     [](const QWidget* child) { return child->isHidden(); });
 }
 
 }  // namespace
@@ -51,7 +52,8 @@ GiveWay::GiveWay(QSplitter& column) : QObject(&column), column_(column) {
 }
 
 bool GiveWay::eventFilter(QObject* receiver, QEvent* event) {
-  const bool sized = receiver == &column_ && (event->type() == QEvent::Resize || event->type() == QEvent::Show);
+  const bool sized =
+      receiver == &column_ && (event->type() == QEvent::Resize || event->type() == QEvent::Show);
   // What a part holds comes and goes with the log.
   const bool changed = receiver != &column_ && event->type() == QEvent::LayoutRequest;
   if (sized || changed) Fit();

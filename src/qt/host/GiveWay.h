@@ -9,9 +9,9 @@ class QWidget;
 
 namespace tarnview {
 
-/// Lets parts of a column go where it is too low for all of them, so that a small screen keeps what is needed most: a
-/// splitter names them in its property "givesWay", in the order in which they go ("zonePlace presetPlace"). Each comes
-/// back when there is room.
+/// Lets parts of a column go where it is too low for all of them, so that a small screen keeps what
+/// is needed most: a splitter names them in its property "givesWay", in the order in which they go
+/// ("zonePlace presetPlace"). Each comes back when there is room.
 class GiveWay : public QObject {
  public:
   explicit GiveWay(QSplitter& column);
@@ -27,7 +27,8 @@ class GiveWay : public QObject {
   std::vector<QPointer<QWidget>> order_;
 };
 
-/// A part that is taller than a small screen and bears the property "scrolls" gets a scroll bar where it must.
+/// A part that is taller than a small screen and bears the property "scrolls" gets a scroll bar
+/// where it must.
 void LetScrollIn(QWidget& window);
 
 /// Every splitter of a window that names parts to give way.

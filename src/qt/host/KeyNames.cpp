@@ -24,8 +24,8 @@ std::optional<std::string> NameOf(int key) {
   if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9))
     return std::string(1, static_cast<char>(key));
   if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return "F" + std::to_string(key - Qt::Key_F1 + 1);
-  const auto row =
-      std::find_if(std::begin(kNames), std::end(kNames), [key](const Name& one) { return one.key == key; });
+  const auto row = std::find_if(std::begin(kNames), std::end(kNames),
+                                [key](const Name& one) { return one.key == key; });
   if (row == std::end(kNames)) return std::nullopt;
   return row->name;
 }
@@ -35,7 +35,9 @@ std::optional<std::string> NameOf(int key) {
 std::optional<KeyPress> ToKeyPress(const QKeyEvent& event) {
   const auto name = NameOf(event.key());
   if (!name) return std::nullopt;
-  const auto held = [&](Qt::KeyboardModifier modifier) { return event.modifiers().testFlag(modifier); };
+  const auto held = [&](Qt::KeyboardModifier modifier) {
+    return event.modifiers().testFlag(modifier);
+  };
   return KeyPress{*name, held(Qt::ShiftModifier), held(Qt::ControlModifier), held(Qt::AltModifier)};
 }
 

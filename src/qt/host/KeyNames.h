@@ -8,7 +8,8 @@ class QKeyEvent;
 
 namespace tarnview {
 
-/// The key by its name in the program; nothing for one that has none there (a lone modifier, a dead key).
+/// The key by its name in the program; nothing for one that has none there (a lone modifier, a dead
+/// key).
 std::optional<KeyPress> ToKeyPress(const QKeyEvent& event);
 
 }  // namespace tarnview

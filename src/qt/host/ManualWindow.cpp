@@ -20,7 +20,8 @@ namespace {
 
 constexpr const char* kContents = "Contents.htm";
 constexpr const char* kInstructions = "Instructions.htm";
-/// Pages are known by names of this kind, in which no character of the folder's path can be taken for another thing.
+/// Pages are known by names of this kind, in which no character of the folder's path can be taken
+/// for another thing.
 constexpr const char* kScheme = "manual";
 
 /// Lines of text high, characters wide: what a page of the manual fills well.
@@ -78,7 +79,8 @@ void ManualPage::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && !source().isEmpty()) reload();
 }
 
-ManualWindow::ManualWindow() : contents_(new ManualPage), instructions_(new ManualPage), find_(new QLineEdit) {
+ManualWindow::ManualWindow()
+    : contents_(new ManualPage), instructions_(new ManualPage), find_(new QLineEdit) {
   setObjectName("manual");
   setWindowTitle(tr("Tarnview Instructions"));
   setWindowIcon(ProgramIcon());
@@ -109,12 +111,14 @@ ManualWindow::ManualWindow() : contents_(new ManualPage), instructions_(new Manu
   const int line = fontMetrics().height(), character = fontMetrics().averageCharWidth();
   const int left = kContentsCharacters * character;
   halves->setSizes({left, kCharacters * character});
-  resize(QSize(left + kCharacters * character, kLines * line).boundedTo(screen()->availableSize() * 9 / 10));
+  resize(QSize(left + kCharacters * character, kLines * line)
+             .boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 QLayout* ManualWindow::MakeTools() {
   auto* row = new QHBoxLayout;
-  const auto add = [&](Qt::ArrowType arrow, const QString& says, const QKeySequence& keys, auto does) {
+  const auto add = [&](Qt::ArrowType arrow, const QString& says, const QKeySequence& keys,
+                       auto does) {
     auto* button = new QToolButton;
     button->setArrowType(arrow);
     button->setToolTip(says + " (" + keys.toString(QKeySequence::NativeText) + ")");
@@ -125,8 +129,10 @@ QLayout* ManualWindow::MakeTools() {
     row->addWidget(button);
     return button;
   };
-  auto* back = add(Qt::LeftArrow, tr("Back"), Qt::ALT | Qt::Key_Left, [this] { instructions_->backward(); });
-  auto* forward = add(Qt::RightArrow, tr("Forward"), Qt::ALT | Qt::Key_Right, [this] { instructions_->forward(); });
+  auto* back =
+      add(Qt::LeftArrow, tr("Back"), Qt::ALT | Qt::Key_Left, [this] { instructions_->backward(); });
+  auto* forward = add(Qt::RightArrow, tr("Forward"), Qt::ALT | Qt::Key_Right,
+                      [this] { instructions_->forward(); });
   back->setEnabled(false);
   forward->setEnabled(false);
   connect(instructions_, &QTextBrowser::backwardAvailable, back, &QToolButton::setEnabled);
@@ -147,7 +153,8 @@ QLayout* ManualWindow::MakeTools() {
 }
 
 void ManualWindow::Find(bool backward) {
-  const auto way = backward ? QTextDocument::FindFlags(QTextDocument::FindBackward) : QTextDocument::FindFlags();
+  const auto way =
+      backward ? QTextDocument::FindFlags(QTextDocument::FindBackward) : QTextDocument::FindFlags();
   if (find_->text().isEmpty() || instructions_->find(find_->text(), way)) return;
   // Once more from the other end.
   instructions_->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);

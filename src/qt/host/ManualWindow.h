@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace tarnview {
 
-/// One page of the manual. What it names (pictures, its style, other pages) lies in the manual's folder, whatever
-/// characters that folder's path is made of; nothing from elsewhere is loaded.
+/// One page of the manual. What it names (pictures, its style, other pages) lies in the manual's
+/// folder, whatever characters that folder's path is made of; nothing from elsewhere is loaded.
 class ManualPage : public QTextBrowser {
  public:
   explicit ManualPage(QWidget* parent = nullptr) : QTextBrowser(parent) {}
@@ -30,14 +30,14 @@ class ManualPage : public QTextBrowser {
   std::string folder_;
 };
 
-/// The manual in a window of its own, so that help needs no other program: the contents at the left, the instructions
-/// at the right, with a way back and a search.
+/// The manual in a window of its own, so that help needs no other program: the contents at the
+/// left, the instructions at the right, with a way back and a search.
 class ManualWindow : public QWidget {
  public:
   ManualWindow();
 
-  /// Opens the manual of a folder at a topic and comes to the front; false if the manual is not there. `owner`: the
-  /// modal window before which it must be usable, or none.
+  /// Opens the manual of a folder at a topic and comes to the front; false if the manual is not
+  /// there. `owner`: the modal window before which it must be usable, or none.
   bool ShowTopic(const std::string& folder, const std::string& topic, QWidget* owner);
 
   const ManualPage& Instructions() const { return *instructions_; }

@@ -14,7 +14,8 @@ namespace tarnview {
 namespace {
 
 constexpr double kTwipsPerInch = 1440, kTwipsPerPoint = 20;
-/// A chart's pixel on paper: 120 to the inch, which makes the texts of a desktop's chart about 8 points high.
+/// A chart's pixel on paper: 120 to the inch, which makes the texts of a desktop's chart about 8
+/// points high.
 constexpr double kTwipsPerPixel = kTwipsPerInch / 120;
 
 /// Paper is light whatever the desktop is: what stands for the desktop's button face on it.
@@ -45,7 +46,9 @@ double PaperPage::TextWidth(const std::string& text, int points) const {
   return QFontMetricsF(FontOf(points)).horizontalAdvance(ShownToQt(text));
 }
 
-double PaperPage::LineHeight(int points) const { return QFontMetricsF(FontOf(points)).lineSpacing(); }
+double PaperPage::LineHeight(int points) const {
+  return QFontMetricsF(FontOf(points)).lineSpacing();
+}
 
 double PaperPage::ShapeOf(const Chart& chart) const {
   const QSize size = sizeOf_(chart).expandedTo(QSize(1, 1));

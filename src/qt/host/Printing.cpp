@@ -20,7 +20,8 @@ constexpr QSize kToolsAndPage(960, 720);
 
 /// The file or the printer that did not print.
 std::string Refusal(const QPrinter& printer) {
-  if (!printer.outputFileName().isEmpty()) return "Cannot write " + PathFromQt(printer.outputFileName());
+  if (!printer.outputFileName().isEmpty())
+    return "Cannot write " + PathFromQt(printer.outputFileName());
   if (printer.printerName().isEmpty()) return "No printer is installed.";
   return "The printer does not answer: " + FromQt(printer.printerName());
 }
@@ -35,11 +36,13 @@ bool Fill(const PrintJob& job, QPagedPaintDevice& paper, const SizeOfChart& size
 
 /// What the preview asks for is drawn on its own pages, though the printer names a file.
 bool GoesToFile(const QPrinter& printer) {
-  return !printer.outputFileName().isEmpty() && printer.paintEngine()->type() != QPaintEngine::Picture;
+  return !printer.outputFileName().isEmpty() &&
+         printer.paintEngine()->type() != QPaintEngine::Picture;
 }
 
 /// The toolkit's own printing into a file tells nothing of a disk that is full at the end.
-bool FillFile(FileSystem& files, const PrintJob& job, const QPrinter& printer, const SizeOfChart& sizeOf) {
+bool FillFile(FileSystem& files, const PrintJob& job, const QPrinter& printer,
+              const SizeOfChart& sizeOf) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -47,15 +50,17 @@ bool FillFile(FileSystem& files, const PrintJob& job, const QPrinter& printer, c
   pdf.setTitle(printer.docName());
   pdf.setResolution(printer.resolution());
   pdf.setPageLayout(printer.pageLayout());
-  return Fill(job, pdf, sizeOf) && files.Write(PathFromQt(printer.outputFileName()), bytes.toStdString());
+  return Fill(job, pdf, sizeOf) &&
+         files.Write(PathFromQt(printer.outputFileName()), bytes.toStdString());
 }
 
 }  // namespace
 
 bool DrawPage(FileSystem& files, const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf,
               std::string& error) {
-  const bool drawn = GoesToFile(printer) ? FillFile(files, job, printer, sizeOf)
-                                         : Fill(job, printer, sizeOf) && printer.printerState() != QPrinter::Error;
+  const bool drawn = GoesToFile(printer)
+                         ? FillFile(files, job, printer, sizeOf)
+                         : Fill(job, printer, sizeOf) && printer.printerState() != QPrinter::Error;
   if (!drawn) error = Refusal(printer);
   return drawn;
 }

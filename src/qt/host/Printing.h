@@ -12,7 +12,8 @@ class QWidget;
 
 namespace tarnview {
 
-/// The printer, with what was chosen in its dialog last: printer, paper and orientation stay for the next page.
+/// The printer, with what was chosen in its dialog last: printer, paper and orientation stay for
+/// the next page.
 class Printing {
  public:
   explicit Printing(SizeOfChart sizeOf);
@@ -30,7 +31,9 @@ class Printing {
   std::unique_ptr<QPrinter> printer_;
 };
 
-/// Draws the page on a printer that was chosen, or into the file that was chosen in its place. False: `error` says why.
-bool DrawPage(FileSystem& files, const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf, std::string& error);
+/// Draws the page on a printer that was chosen, or into the file that was chosen in its place.
+/// False: `error` says why.
+bool DrawPage(FileSystem& files, const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf,
+              std::string& error);
 
 }  // namespace tarnview

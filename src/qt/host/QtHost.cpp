@@ -20,7 +20,8 @@
 namespace tarnview {
 namespace {
 
-/// Milliseconds between two repaints of a long loop: quicker, the eye sees no more and the loop loses time.
+/// Milliseconds between two repaints of a long loop: quicker, the eye sees no more and the loop
+/// loses time.
 constexpr int kRepaintEvery = 30;
 /// Of a chart that no window shows.
 constexpr QSize kPictureSize(1400, 800);
@@ -57,14 +58,15 @@ bool QtHost::Choose(Dialog& dialog) {
 }
 
 FormWindow* QtHost::WindowOf(const Form& form) const {
-  const auto found =
-      std::find_if(windows_.begin(), windows_.end(), [&](const auto& one) { return &one->form() == &form; });
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](const auto& one) { return &one->form() == &form; });
   return found == windows_.end() ? nullptr : found->get();
 }
 
 QWidget* QtHost::OwnerOfDialog() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  // The window that the user is in: raised with its owner, a dialog of another would bring that one over it.
+  // The window that the user is in: raised with its owner, a dialog of another would bring that one
+  // over it.
   const FormWindow* front = front_ ? WindowOf(*front_) : nullptr;
   if (front && front->window().isVisible() && !IsSplash(front->window())) return &front->window();
   return MainWindow();
@@ -80,8 +82,9 @@ QWidget* QtHost::MainWindow() const {
 void QtHost::Show(Form& form, bool modal) {
   FormWindow* window = WindowOf(form);
   if (!window) {
-    windows_.push_back(std::make_unique<FormWindow>(form, modal ? OwnerOfDialog() : MainWindow(),
-                                                    [this](Form& inFront) { CameToFront(inFront); }));
+    windows_.push_back(
+        std::make_unique<FormWindow>(form, modal ? OwnerOfDialog() : MainWindow(),
+                                     [this](Form& inFront) { CameToFront(inFront); }));
     window = windows_.back().get();
   }
   window->Raise(modal);
@@ -105,14 +108,15 @@ void QtHost::RunModal(Form& form) {
 }
 
 void QtHost::Hide(Form& form) {
-  const auto found =
-      std::find_if(windows_.begin(), windows_.end(), [&](const auto& one) { return &one->form() == &form; });
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](const auto& one) { return &one->form() == &form; });
   if (found == windows_.end()) return;
   (*found)->LetGo();
   FreeManual((*found)->window());
   windows_.erase(found);
   if (front_ == &form) front_ = nullptr;
-  const auto modal = std::find_if(loops_.begin(), loops_.end(), [&](const auto& one) { return one.form == &form; });
+  const auto modal = std::find_if(loops_.begin(), loops_.end(),
+                                  [&](const auto& one) { return one.form == &form; });
   if (modal != loops_.end()) {
     modal->loop->quit();
     loops_.erase(modal);
@@ -125,12 +129,14 @@ void QtHost::PopupMenu(MenuItem& menu) {
   if (!window) return;
   window->binder().Flush();
   const UserEvents::Pause pause(events);
-  if (auto* shown = qobject_cast<QMenu*>(window->binder().ViewOf(menu))) shown->exec(QCursor::pos());
+  if (auto* shown = qobject_cast<QMenu*>(window->binder().ViewOf(menu)))
+    shown->exec(QCursor::pos());
 }
 
 void QtHost::DoEvents() {
   FlushAll();
-  QCoreApplication::processEvents(events.Busy() ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
+  QCoreApplication::processEvents(events.Busy() ? QEventLoop::ExcludeUserInputEvents
+                                                : QEventLoop::AllEvents);
 }
 
 void QtHost::Repaint(Form&) {
@@ -147,7 +153,9 @@ std::unique_ptr<Waiting> QtHost::Wait(const std::string& program) {
   return std::make_unique<WaitingBox>(ToQt(program), OwnerOfDialog());
 }
 
-void QtHost::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
+void QtHost::SetClipboardText(const std::string& text) {
+  QApplication::clipboard()->setText(ToQt(text));
+}
 
 std::string QtHost::ClipboardText() { return FromQt(QApplication::clipboard()->text()); }
 

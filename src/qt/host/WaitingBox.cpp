@@ -36,7 +36,8 @@ WaitingBox::WaitingBox(const QString& program, QWidget* parent)
 void WaitingBox::ShowTime() {
   const qint64 seconds = since_.elapsed() / 1000;
   const QString time = QString("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QChar('0'));
-  if (const QString text = program_ + " is running: " + time; text != text_->text()) text_->setText(text);
+  if (const QString text = program_ + " is running: " + time; text != text_->text())
+    text_->setText(text);
 }
 
 bool WaitingBox::GoOn() {

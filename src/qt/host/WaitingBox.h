@@ -9,8 +9,8 @@ class QLabel;
 
 namespace tarnview {
 
-/// The box over all windows while an outside program runs. Only its button ends it: a key or its frame might be hit by
-/// chance while an ECU is written to.
+/// The box over all windows while an outside program runs. Only its button ends it: a key or its
+/// frame might be hit by chance while an ECU is written to.
 class WaitingBox : public QDialog, public Waiting {
   Q_OBJECT
  public:

@@ -24,7 +24,8 @@ bool CanBeHeld(const QRect& window, const QList<QRect>& screens) {
   const QRect caption(window.left(), window.top() - kCaptionHeight, window.width(), kCaptionHeight);
   return std::any_of(screens.begin(), screens.end(), [&](const QRect& screen) {
     const QRect seen = caption & screen;
-    return seen.width() >= std::min(kCaptionHold, window.width()) && seen.height() >= kCaptionHeight / 2;
+    return seen.width() >= std::min(kCaptionHold, window.width()) &&
+           seen.height() >= kCaptionHeight / 2;
   });
 }
 
@@ -41,9 +42,9 @@ int Distance(const QRect& a, const QRect& b) { return (a.center() - b.center()).
 
 QRect FitOnScreens(const QRect& wanted, const QList<QRect>& screens) {
   if (screens.isEmpty() || (CanBeHeld(wanted, screens) && FitsInto(wanted, screens))) return wanted;
-  const QRect nearest = *std::min_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
-    return Distance(a, wanted) < Distance(b, wanted);
-  });
+  const QRect nearest = *std::min_element(
+      screens.begin(), screens.end(),
+      [&](const QRect& a, const QRect& b) { return Distance(a, wanted) < Distance(b, wanted); });
   const QRect room = nearest.adjusted(0, kCaptionHeight, 0, 0);
   QRect placed(wanted.topLeft(), wanted.size().boundedTo(room.size()));
   placed.moveLeft(std::clamp(placed.left(), room.left(), room.right() + 1 - placed.width()));
@@ -55,7 +56,8 @@ void TakePlacement(const Form& form, QWidget& window) {
   if (form.Width <= 0) return;
   QList<QRect> screens;
   for (const QScreen* screen : QGuiApplication::screens()) screens << screen->availableGeometry();
-  const QRect wanted(ToPixels(form.Left), ToPixels(form.Top), ToPixels(form.Width), ToPixels(form.Height));
+  const QRect wanted(ToPixels(form.Left), ToPixels(form.Top), ToPixels(form.Width),
+                     ToPixels(form.Height));
   window.setGeometry(FitOnScreens(wanted, screens));
   if (form.WindowState == kMaximized) window.setWindowState(Qt::WindowMaximized);
 }
@@ -71,12 +73,14 @@ void NotePlacement(const QWidget& window, Form& form) {
   form.Height = place.height() * kTwipsPerPixel;
 }
 
-// "mainSplitter=310,690 listSplitter=400,200,0": pixels, which the toolkit takes as shares where the room is another.
+// "mainSplitter=310,690 listSplitter=400,200,0": pixels, which the toolkit takes as shares where
+// the room is another.
 void TakeDividers(const Form& form, QWidget& window) {
   for (const QString& word : QString::fromStdString(form.Dividers).split(' ', Qt::SkipEmptyParts)) {
     auto* splitter = window.findChild<QSplitter*>(word.section('=', 0, 0));
     QList<int> sizes;
-    for (const QString& size : word.section('=', 1).split(',')) sizes << std::clamp(size.toInt(), 0, kFarAway);
+    for (const QString& size : word.section('=', 1).split(','))
+      sizes << std::clamp(size.toInt(), 0, kFarAway);
     if (splitter && sizes.size() == splitter->count()) splitter->setSizes(sizes);
   }
 }

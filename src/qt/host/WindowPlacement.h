@@ -14,12 +14,14 @@ void TakePlacement(const Form& form, QWidget& window);
 /// Notes in the form where the window stands; a maximized one keeps the place that it goes back to.
 void NotePlacement(const QWidget& window, Form& form);
 
-/// Puts the bars between a window's parts where its form says, and notes in the form where they stand.
+/// Puts the bars between a window's parts where its form says, and notes in the form where they
+/// stand.
 void TakeDividers(const Form& form, QWidget& window);
 void NoteDividers(const QWidget& window, Form& form);
 
-/// A place that can be seen and taken hold of: `wanted` itself where enough of its caption lies on a screen and it is
-/// no larger than the desktop, else moved onto the nearest of the screens and made no larger than that.
+/// A place that can be seen and taken hold of: `wanted` itself where enough of its caption lies on
+/// a screen and it is no larger than the desktop, else moved onto the nearest of the screens and
+/// made no larger than that.
 QRect FitOnScreens(const QRect& wanted, const QList<QRect>& screens);
 
 }  // namespace tarnview

@@ -33,8 +33,8 @@ void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
 
 }  // namespace
 
-void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                                 const QWidget* widget) const {
+void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
   const bool checkBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
   if (checkBox && IsDark(option->palette) && baseStyle()->name() == QLatin1String("fusion"))
     DrawCheckBox(*option, *painter);
@@ -42,8 +42,8 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
-void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
-                                      const QWidget* widget) const {
+void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
   const auto* box = control == CC_ComboBox ? qobject_cast<const QComboBox*>(widget) : nullptr;
   if (!box || !box->isEditable() || box->count() > 0)
     return QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -62,7 +62,8 @@ QIcon ColourChip(const QColor& colour, int size) {
     painter.setPen(QPen(QColor(128, 128, 128), 1));
     painter.setBrush(colour);
     painter.drawRoundedRect(QRectF(1.5, 1.5, size - 3, size - 3), 2, 2);
-    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected, QIcon::Disabled}) icon.addPixmap(picture, mode);
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected, QIcon::Disabled})
+      icon.addPixmap(picture, mode);
   }
   return icon;
 }

@@ -10,7 +10,8 @@ namespace tarnview {
 QIcon TintedIcon(const QString& name);
 /// The program's own icon.
 QIcon ProgramIcon();
-/// A patch of a curve's colour for a list; `size` in pixels. No colour: an empty place of that size.
+/// A patch of a curve's colour for a list; `size` in pixels. No colour: an empty place of that
+/// size.
 QIcon ColourChip(const QColor& colour, int size);
 
 }  // namespace tarnview

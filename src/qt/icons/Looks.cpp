@@ -16,7 +16,8 @@ namespace {
 template <class Kind>
 void SetIconsOf(QWidget& window) {
   for (Kind* one : window.findChildren<Kind*>())
-    if (const auto name = one->property("picture").toString(); !name.isEmpty()) one->setIcon(TintedIcon(name));
+    if (const auto name = one->property("picture").toString(); !name.isEmpty())
+      one->setIcon(TintedIcon(name));
 }
 
 void SetLabel(QLabel& label) {

@@ -11,7 +11,8 @@ namespace {
 /// As long as an installed definition's: the widest that the window must hold.
 DefinitionDetails Definition(bool filled) {
   if (!filled) return {};
-  return {"Hydra Nemesis", "1.4", "Built-in definition for logs of the Hydra Nemesis software, in metric units"};
+  return {"Hydra Nemesis", "1.4",
+          "Built-in definition for logs of the Hydra Nemesis software, in metric units"};
 }
 
 /// In the manner of a logger with a preamble, semicolons and decimal commas.
@@ -19,8 +20,10 @@ constexpr const char* kStrangeLog =
     "Made up logger 2.1;drive of 24.11.2026\n\n"
     "Zeit;Motordrehzahl;Ladedruck;Lambda 1;Drosselklappe;Gang;Status\n"
     "s;1/min;mbar;;%;;\n"
-    "0,00;2103;1012;0,99;12,5;3;Teillast\n0,05;2120;1030;0,99;14,0;3;Teillast\n0,10;2164;1105;0,98;41,5;3;Teillast\n"
-    "0,15;2240;1298;0,91;88,0;3;Volllast\n0,20;2331;1504;0,86;100,0;3;Volllast\n0,25;2420;1688;0,84;100,0;3;Volllast\n";
+    "0,00;2103;1012;0,99;12,5;3;Teillast\n0,05;2120;1030;0,99;14,0;3;Teillast\n0,10;2164;1105;0,98;"
+    "41,5;3;Teillast\n"
+    "0,15;2240;1298;0,91;88,0;3;Volllast\n0,20;2331;1504;0,86;100,0;3;Volllast\n0,25;2420;1688;0,"
+    "84;100,0;3;Volllast\n";
 
 }  // namespace
 
@@ -61,9 +64,11 @@ AllWindows::~AllWindows() {
 
 void AllWindows::Fill() {
   message_.MessageText(
-      "The log holds columns that the definition does not know.\r\n\r\nTheir names are in Universal Load Unknown "
+      "The log holds columns that the definition does not know.\r\n\r\nTheir names are in "
+      "Universal Load Unknown "
       "Columns.txt.");
-  for (const auto& [from, to] : {std::pair{120, 480}, std::pair{1912, 2203}, std::pair{30217, 31044}})
+  for (const auto& [from, to] :
+       {std::pair{120, 480}, std::pair{1912, 2203}, std::pair{30217, 31044}})
     tagList_.Add(from, to);
 }
 
@@ -72,32 +77,38 @@ void AllWindows::MakeGraphWindows() {
   Host& host = program_.MainWindow().host;
   const clsLogFamilies& families = globals.kinds.gcolLogFamilies;
   clsSampleGraphPresets presets;
-  for (const char* name : {"Overview", "A/F Investigation", "Knock Investigation", "Power Graphing"}) {
+  for (const char* name :
+       {"Overview", "A/F Investigation", "Knock Investigation", "Power Graphing"}) {
     clsSampleGraphPreset& preset = presets.AddDirect(clsSampleGraphPresets::BlankPreset());
     preset.strName = name;
     preset.lngLogFamily = 1;
     preset.colDataItems = globals.settings.gcolCheckedDataItems;
   }
   if (globals.log.gblnSamplesLoaded)
-    goto_ = std::make_unique<frmGoto>(host, globals.log, program_.MainWindow().Selected().lngHighlightSample(), true);
+    goto_ = std::make_unique<frmGoto>(host, globals.log,
+                                      program_.MainWindow().Selected().lngHighlightSample(), true);
   else
     goto_ = std::make_unique<frmGoto>(host, oneSample_, 1, false);
   newPreset_ = std::make_unique<frmNewPresetName>(host, messages_, clsSampleGraphPresets::NEW_NAME);
-  presetList_ = std::make_unique<MaintainedCollection<clsSampleGraphPresets>>(presets, [](auto&) { return false; });
+  presetList_ = std::make_unique<MaintainedCollection<clsSampleGraphPresets>>(
+      presets, [](auto&) { return false; });
   maint_ = std::make_unique<frmMaint>(
-      host, *presetList_, frmMaint::Texts{"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
+      host, *presetList_,
+      frmMaint::Texts{"Preset Sample Graph Editor", "&Preset Graphs", "PresetSampleGraphEditor"},
       families, 1, messages_);
   presetDetails_ = std::make_unique<frmPresetSampleDetails>(
       host,
-      PresetSurroundings{families, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory, files_, clock_,
-                         errors_, messages_},
+      PresetSurroundings{families, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory,
+                         files_, clock_, errors_, messages_},
       presets.Item(1));
-  definitionFiles_ =
-      std::make_unique<DefinitionFiles>(files_, messages_.Teller(), errors_, globals.catalogue.gcolFixedDataItems);
-  firstRun_ = std::make_unique<frmFindINIFile>(host, globals.kinds.gcolFileTypes, std::vector<DefinitionChoice>{},
-                                               *definitionFiles_, messages_);
-  logDescription_ = std::make_unique<frmLogDescription>(host, globals.log.gblnSamplesLoaded ? kStrangeLog : "",
-                                                        "strange.csv", titles_, globals.catalogue.gcolFixedDataItems);
+  definitionFiles_ = std::make_unique<DefinitionFiles>(files_, messages_.Teller(), errors_,
+                                                       globals.catalogue.gcolFixedDataItems);
+  firstRun_ = std::make_unique<frmFindINIFile>(host, globals.kinds.gcolFileTypes,
+                                               std::vector<DefinitionChoice>{}, *definitionFiles_,
+                                               messages_);
+  logDescription_ = std::make_unique<frmLogDescription>(
+      host, globals.log.gblnSamplesLoaded ? kStrangeLog : "", "strange.csv", titles_,
+      globals.catalogue.gcolFixedDataItems);
 }
 
 void AllWindows::MakeScatterDetails(bool filled) {
@@ -120,15 +131,16 @@ void AllWindows::MakeScatterDetails(bool filled) {
   }
   scatterDetails_ = std::make_unique<frmPresetScatterDetails>(
       host,
-      PresetSurroundings{globals.kinds.gcolLogFamilies, globals.catalogue, globals.settings.gstrDefaultWorkingDirectory,
-                         files_, clock_, errors_, messages_},
+      PresetSurroundings{globals.kinds.gcolLogFamilies, globals.catalogue,
+                         globals.settings.gstrDefaultWorkingDirectory, files_, clock_, errors_,
+                         messages_},
       preset);
   filter_ = std::make_unique<frmScatterFilter>(host, globals.catalogue, messages_);
   filter_->SetScatterFilter(filter, 1, true);
 }
 
-/// One as it opens; with a log also few points, all points shaded where they fall together, and all coloured by a third
-/// item, with one selected.
+/// One as it opens; with a log also few points, all points shaded where they fall together, and all
+/// coloured by a third item, with one selected.
 void AllWindows::MakeScatterGraphs() {
   frmDataLogViewer& main = program_.MainWindow();
   scatterGraphs_.push_back(&main.Scatter().OpenScatterGraph());
@@ -154,7 +166,8 @@ void AllWindows::MakeScatterGraphs() {
     window.Style().Show(graph.style);
     window.mnuViewDensity.Checked = graph.density;
     window.DrawScatter(true);
-    if (graph.colourBy > 0 && window.chScatterGraph.Data().Cloud()) window.chScatterGraph.SelectPoint(1, 1);
+    if (graph.colourBy > 0 && window.chScatterGraph.Data().Cloud())
+      window.chScatterGraph.SelectPoint(1, 1);
     scatterGraphs_.push_back(&window);
   }
 }
@@ -163,10 +176,13 @@ void AllWindows::MakeEcuWindows(bool filled) {
   Settings& settings = program_.Global().settings;
   Host& host = program_.MainWindow().host;
   const EcuWorld world{host, settings, files_, clock_, programs_, messages_};
-  const std::vector<std::string> recent{"/home/driver/Logs/2026-11-24a.txt", "/home/driver/Logs/turbo.map"};
+  const std::vector<std::string> recent{"/home/driver/Logs/2026-11-24a.txt",
+                                        "/home/driver/Logs/turbo.map"};
   ecuWindows_.push_back(std::make_unique<frmNewDownload>(
-      world, NewFile{NewFileType::DataLog, filled ? "2026-11-24a" : "", settings.gblnRetainBinary}));
-  auto upload = std::make_unique<frmUpload>(world, ComparisonChoices{filled ? recent : std::vector<std::string>(), ""});
+      world,
+      NewFile{NewFileType::DataLog, filled ? "2026-11-24a" : "", settings.gblnRetainBinary}));
+  auto upload = std::make_unique<frmUpload>(
+      world, ComparisonChoices{filled ? recent : std::vector<std::string>(), ""});
   if (filled) upload->chkOption(2).Value = true;
   ecuWindows_.push_back(std::move(upload));
   ecuWindows_.push_back(std::make_unique<frmUploadConf>(host, settings));
@@ -177,15 +193,16 @@ void AllWindows::MakeOptions(bool filled) {
   const Globals& globals = program_.Global();
   const Catalogue& catalogue = globals.catalogue;
   for (int page = 1; page <= (filled ? 4 : 1); ++page) {
-    OptionsDraft draft{globals.settings,
-                       globals.gclsDataLogDefinition,
-                       {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
-                        catalogue.gcolUniversalDataItems.Duplicate()},
-                       globals.kinds};
+    OptionsDraft draft{
+        globals.settings,
+        globals.gclsDataLogDefinition,
+        {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
+         catalogue.gcolUniversalDataItems.Duplicate()},
+        globals.kinds};
     draft.settings.gblnSAECorrection = filled;
-    options_.push_back(std::make_unique<frmOptions>(program_.MainWindow().host,
-                                                    frmOptions::Surroundings{files_, errors_, messages_},
-                                                    std::move(draft), kFMLinkLog));
+    options_.push_back(std::make_unique<frmOptions>(
+        program_.MainWindow().host, frmOptions::Surroundings{files_, errors_, messages_},
+        std::move(draft), kFMLinkLog));
     options_.back()->tabOptions.Select(page);
   }
 }
@@ -211,7 +228,8 @@ void AllWindows::MakeGridGraphs() {
         request.table.Text(row, column) = std::to_string(loaded.zones[cell]);
       }
     gridGraphs_.push_back(std::make_unique<frmGridGraph>(
-        program_.MainWindow().host, frmGridGraph::Surroundings{angles, errors_, messages_}, request));
+        program_.MainWindow().host, frmGridGraph::Surroundings{angles, errors_, messages_},
+        request));
     if (program_.Global().log.gblnZonesLoaded) gridGraphs_.back()->chGridGraph.SelectPoint(3, 7);
   }
 }
@@ -227,8 +245,8 @@ void AllWindows::MakeZoneWindows() {
   parameters.fileName = globals.log.gstrCurrentFileTitle;
   parameters.mayUpload = true;
   const clsLogDataItem& volts = globals.catalogue.gcolFixedDataItems.Item(ItemOf(kAuxNF));
-  const frmZoneData::Surroundings around{globals.settings, globals.gcolBenchmarks, globals.tables, volts, errors_,
-                                         messages_};
+  const frmZoneData::Surroundings around{
+      globals.settings, globals.gcolBenchmarks, globals.tables, volts, errors_, messages_};
   const int tabs = globals.log.gblnZonesLoaded ? 4 : 1;
   for (int tab = 1; tab <= tabs; ++tab) {
     auto editor = std::make_unique<frmZoneData>(host, around, parameters);
@@ -240,7 +258,8 @@ void AllWindows::MakeZoneWindows() {
   zoneWindows_.push_back(std::make_unique<frmCopyBench>(host, date, date, false));
   zoneWindows_.push_back(std::make_unique<frmBenchmarkDetails>(
       host,
-      frmBenchmarkDetails::Surroundings{globals.kinds.gcolFileTypes, globals.settings, files_, clock_, messages_,
+      frmBenchmarkDetails::Surroundings{globals.kinds.gcolFileTypes, globals.settings, files_,
+                                        clock_, messages_,
                                         [](ZoneMap&, const std::string&) { return false; }},
       globals.gcolBenchmarks.Item(1)));
   auto loading = std::make_unique<frmLoadBenchmark>(host, files_, globals.settings, messages_);

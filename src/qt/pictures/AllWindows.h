@@ -27,12 +27,14 @@
 
 namespace tarnview {
 
-/// One of each window, for those who look at all of them: the walk over their controls, the pictures.
+/// One of each window, for those who look at all of them: the walk over their controls, the
+/// pictures.
 class AllWindows {
  public:
-  /// Loads them; with a log, the main window draws it, and the others hold something to show. Without a settings file
-  /// every setting has its default, and none is ever written.
-  explicit AllWindows(Host& host, const std::string& log = "", const std::string& settingsFile = "");
+  /// Loads them; with a log, the main window draws it, and the others hold something to show.
+  /// Without a settings file every setting has its default, and none is ever written.
+  explicit AllWindows(Host& host, const std::string& log = "",
+                      const std::string& settingsFile = "");
   ~AllWindows();
 
   std::vector<Form*> Forms();

@@ -20,8 +20,8 @@ SpeedGraphInput SomeSpeeds(bool filled) {
 
 }  // namespace
 
-PowerPictures::PowerPictures(Program& program, Clock& clock, FileSystem& files, ErrorLog& errors, Messages& messages,
-                             const std::string& log)
+PowerPictures::PowerPictures(Program& program, Clock& clock, FileSystem& files, ErrorLog& errors,
+                             Messages& messages, const std::string& log)
     : program_(program) {
   Host& host = program_.MainWindow().host;
   const bool filled = !log.empty();
@@ -36,12 +36,17 @@ PowerPictures::PowerPictures(Program& program, Clock& clock, FileSystem& files, 
     }
   }
   speedGraph_ = std::make_unique<frmSpeedGraph>(
-      host, frmSpeedGraph::Surroundings{program_.Global().settings, errors, messages}, SomeSpeeds(filled), [](int) {});
-  comments_ = std::make_unique<frmPowerBenchComments>(host, filled ? "After the larger injectors" : "");
+      host, frmSpeedGraph::Surroundings{program_.Global().settings, errors, messages},
+      SomeSpeeds(filled), [](int) {});
+  comments_ =
+      std::make_unique<frmPowerBenchComments>(host, filled ? "After the larger injectors" : "");
   const auto bytes = files.Read(saved);
-  details_ = std::make_unique<frmPowerBenchDetails>(host, bytes ? ReadPowerFile(*bytes) : PowerFile());
+  details_ =
+      std::make_unique<frmPowerBenchDetails>(host, bytes ? ReadPowerFile(*bytes) : PowerFile());
   car_ = std::make_unique<frmCarDefinitionDetails>(
-      host, frmCarDefinitionDetails::Surroundings{workingDirectory_, files, clock, errors, messages}, clsCarDef());
+      host,
+      frmCarDefinitionDetails::Surroundings{workingDirectory_, files, clock, errors, messages},
+      clsCarDef());
 }
 
 frmPowerGraph& PowerPictures::OpenRun(const FoundRun& run) {

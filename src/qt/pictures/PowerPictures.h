@@ -15,10 +15,10 @@ namespace tarnview {
 /// The windows of power graphs, for those who look at all windows.
 class PowerPictures {
  public:
-  /// With a log that is open in the program, its runs are drawn, and the saved graph beside the log (".pow" in place of
-  /// its ending) is the benchmark of the second.
-  PowerPictures(Program& program, Clock& clock, FileSystem& files, ErrorLog& errors, Messages& messages,
-                const std::string& log);
+  /// With a log that is open in the program, its runs are drawn, and the saved graph beside the log
+  /// (".pow" in place of its ending) is the benchmark of the second.
+  PowerPictures(Program& program, Clock& clock, FileSystem& files, ErrorLog& errors,
+                Messages& messages, const std::string& log);
 
   std::vector<Form*> Forms();
 
