@@ -25,8 +25,10 @@ SurfaceGestures::SurfaceGestures(ChartWidget& chart) : QObject(&chart), chart_(c
   chart.installEventFilter(this);
 }
 
-bool SurfaceGestures::eventFilter(QObject*, QEvent* event) {
-  if (!chart_.ShowsSurface()) return false;
+bool SurfaceGestures::eventFilter(QObject* receiver, QEvent* event) {
+  // While the chart ends, its base still sends events, and what is this class's own is gone.
+  const bool ends = qobject_cast<ChartWidget*>(receiver) == nullptr;
+  if (ends || !chart_.ShowsSurface()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       return Press(static_cast<QMouseEvent&>(*event));
