@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -5,8 +7,10 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/LogSession.h"
+#include "zoneeditor/LogOnMap.h"
 #include "zones/ChipIdentity.h"
 #include "zones/MapFile.h"
+#include "zones/ZoneGrid.h"
 #include "zones/ZoneNames.h"
 #include "zones/ZoneSheet.h"
 
@@ -15,7 +19,7 @@ namespace {
 
 struct ZonesOptions {
   LogOptions file;
-  std::string compareWith, mapToWrite;
+  std::string compareWith, mapToWrite, grid;
   bool json = false;
 };
 
@@ -121,7 +125,47 @@ int Compare(const ZonesOptions& options, const ZoneMap& here) {
   return kDone;
 }
 
+struct ShowName {
+  const char* name;
+  GridShow show;
+};
+constexpr ShowName kShows[] = {
+    {"visits", GridShow::Visits}, {"error", GridShow::Error}, {"knock", GridShow::Knock}};
+
+Json GridJson(const OpenLog& log, const LogOnMap& drive, GridShow show) {
+  Json rows = Json::array(), columns = Json::array(), count = Json::array(), value = Json::array();
+  for (int column = 1; column <= kGridColumns; ++column)
+    columns.push_back(ZoneColumnHeading(column - 1));
+  for (int row = 1; row <= kGridRows; ++row) {
+    rows.push_back(ZoneRowHeading(log.zones.gblnZoneLayout6, row));
+    Json counts = Json::array(), values = Json::array();
+    for (int column = 1; column <= kGridColumns; ++column) {
+      const auto told = drive.Value(show, row, column);
+      counts.push_back(drive.At(row, column).samples);
+      values.push_back(told ? ToJson(*told) : Json());
+    }
+    count.push_back(std::move(counts));
+    value.push_back(std::move(values));
+  }
+  return {{"rows", rows}, {"columns", columns}, {"count", count}, {"value", value}};
+}
+
+/// What the drive of a log says of each cell.
+int GridOfLog(const ZonesOptions& options) {
+  LogSession session(options.file);
+  if (!session.Open() || !session.Log().gblnSamplesLoaded) return kFailed;
+  session.EnterRange();
+  const OpenLog& log = session.Log();
+  const DrivenRange range =
+      RangeOfSamples(log, session.Window().PlotFrom(), session.Window().PlotTo());
+  const auto* shown = std::find_if(std::begin(kShows), std::end(kShows),
+                                   [&](const ShowName& one) { return options.grid == one.name; });
+  Print(GridJson(log, ReadLogOnMap(log, range), shown->show));
+  return kDone;
+}
+
 int Zones(const ZonesOptions& options) {
+  if (!options.grid.empty()) return GridOfLog(options);
   const auto map = ZonesOf(options.file);
   if (!map) return kFailed;
   if (!options.mapToWrite.empty()) {
@@ -141,7 +185,9 @@ int Zones(const ZonesOptions& options) {
 void AddZonesCommand(CLI::App& program, int& status) {
   CLI::App* command = program.add_subcommand(
       "zones", "Tells, compares or writes the zone settings of a map or a log");
-  command->footer("Example:\n  tarnview-cli zones run.txt --to run.map");
+  command->footer(
+      "Example:\n  tarnview-cli zones run.txt --to run.map\n"
+      "  tarnview-cli zones run.txt --grid error");
   auto options = std::make_shared<ZonesOptions>();
   command->add_option("FILE", options->file.log, "A MAP file, or a log with zones")->required();
   command
@@ -155,6 +201,11 @@ void AddZonesCommand(CLI::App& program, int& status) {
   command->add_flag("--json", options->json, "Every value as the zone editor shows it");
   command->add_option("--compare", options->compareWith, "The differences to this map or log");
   command->add_option("--to", options->mapToWrite, "Write a MAP file");
+  command
+      ->add_option("--grid", options->grid,
+                   "What the drive says of each cell: visits, error (air/fuel, per cent off its "
+                   "target) or knock")
+      ->check(CLI::IsMember({"visits", "error", "knock"}));
   command->callback([options, &status] { status = Zones(*options); });
 }
 

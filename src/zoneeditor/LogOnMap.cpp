@@ -6,6 +6,7 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
+#include "model/LocateSample.h"
 #include "zones/RowsAround.h"
 #include "zones/ZoneEdits.h"
 
@@ -50,10 +51,12 @@ class Rows {
   std::vector<char> known_;
 };
 
-/// Where the air/fuel ratio was measured: a wide band sensor stands at the auxiliary input.
+/// The ratio that the targets are of. A wide band sensor stands at the auxiliary input, which may
+/// measure anything where the ECU tunes by the narrow band one.
 std::span<const std::int32_t> AirFuel(const OpenLog& log) {
   const auto wideBand = log.glngDataLog.Column(kAuxCF);
-  return wideBand.empty() ? log.glngDataLog.Column(kAF) : wideBand;
+  const bool tunesByIt = SensorText(MapOf(log.zones)) != "NB";
+  return tunesByIt && !wideBand.empty() ? wideBand : log.glngDataLog.Column(kAF);
 }
 
 std::int32_t CellOf(std::span<const std::int32_t> column, int index) {
@@ -96,13 +99,23 @@ PlaceOnMap PlaceOf(const OpenLog& log, int index) {
   return {RowOf(kPa, log.zones.gblnZoneLayout6), ColumnOf(log.glngDataLog(kRPM, index))};
 }
 
-LogOnMap ReadLogOnMap(const OpenLog& log, int first, int last) {
+DrivenRange RangeOfSamples(const OpenLog& log, std::int64_t from, std::int64_t to) {
+  if (log.glngDataLog.Rows() == 0) return {};
+  const std::int64_t begin = log.glngFirstSampleTime, end = log.glngLastSampleTime;
+  const auto indexOf = [&](std::int64_t sample) {
+    const auto wanted = static_cast<std::int32_t>(std::clamp(sample, begin, std::max(begin, end)));
+    return LocateSample(log, wanted - log.glngFirstSampleTime, wanted);
+  };
+  return {indexOf(from), indexOf(to)};
+}
+
+LogOnMap ReadLogOnMap(const OpenLog& log, DrivenRange range) {
   LogOnMap drive;
   Rows rows(log);
   const SampleStore& store = log.glngDataLog;
   const auto RPM = store.Column(kRPM), MAP = store.Column(kMAP), knock = store.Column(kKnock);
   const auto airFuel = AirFuel(log), target = store.Column(kAFTgt);
-  for (int i = std::max(first, 0); i <= std::min(last, store.Rows() - 1); ++i) {
+  for (int i = std::max(range.first, 0); i <= std::min(range.last, store.Rows() - 1); ++i) {
     const auto row = static_cast<std::size_t>(rows(CellOf(MAP, i)) - 1);
     const auto column = static_cast<std::size_t>(Nearest(ColumnOf(CellOf(RPM, i))) - 1);
     CellFacts& cell = drive.cells[row][column];
@@ -116,9 +129,9 @@ LogOnMap ReadLogOnMap(const OpenLog& log, int first, int last) {
   return drive;
 }
 
-int NextInCell(const OpenLog& log, int first, int last, int row, int column, int after) {
-  first = std::max(first, 0);
-  last = std::min(last, log.glngDataLog.Rows() - 1);
+int NextInCell(const OpenLog& log, DrivenRange range, int row, int column, int after) {
+  const int first = std::max(range.first, 0);
+  const int last = std::min(range.last, log.glngDataLog.Rows() - 1);
   const int count = last - first + 1;
   const int start = after >= first && after <= last ? after - first + 1 : 0;
   for (int i = 0; i < count; ++i) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -49,11 +50,20 @@ struct PlaceOnMap {
 };
 PlaceOnMap PlaceOf(const OpenLog& log, int index);
 
-/// The samples of a range of store indices, both ends in it; indices beyond the log are left out.
-LogOnMap ReadLogOnMap(const OpenLog& log, int first, int last);
+/// Store indices of the first and last sample; those beyond the log are left out.
+struct DrivenRange {
+  int first = 0;
+  int last = -1;
+  friend bool operator==(const DrivenRange&, const DrivenRange&) = default;
+};
+/// A range of `Sample` values; one that goes beyond the log ends there.
+DrivenRange RangeOfSamples(const OpenLog& log, std::int64_t from, std::int64_t to);
+inline DrivenRange WholeLog(const OpenLog& log) { return {0, log.glngDataLog.Rows() - 1}; }
+
+LogOnMap ReadLogOnMap(const OpenLog& log, DrivenRange range);
 
 /// The next sample in a cell behind a store index, after the last one the first again; -1 for none.
-int NextInCell(const OpenLog& log, int first, int last, int row, int column, int after);
+int NextInCell(const OpenLog& log, DrivenRange range, int row, int column, int after);
 
 /// Changes of the fuel zones that would bring each cell's mean error to nothing, in zone units.
 struct FuelProposal {

@@ -56,6 +56,22 @@ TEST(CommandLineProgram, AFailedLoadTellsWhy) {
   EXPECT_EQ(RunCli({"table", Example("none.txt")}).status, kFailed);
 }
 
+TEST(CommandLineProgram, ZonesTellWhatADriveSaysOfThem) {
+  const Ran ran = RunCli({"zones", Example("turbo.txt"), "--grid", "visits", "--json"});
+  EXPECT_EQ(ran.status, kDone);
+  const Json told = Json::parse(ran.out);
+  EXPECT_EQ(told["rows"][5], "220 kPa 600");
+  EXPECT_EQ(told["columns"][15], "75");
+  EXPECT_EQ(told["count"][3][10], 18);
+  EXPECT_EQ(told["value"][3][10], 18);
+  EXPECT_EQ(told["count"][3][11], 8);
+  EXPECT_EQ(told["value"][3][11], Json()) << "too few to say anything";
+  const auto knock = RunCli({"zones", Example("turbo.txt"), "--grid", "knock"});
+  EXPECT_EQ(Json::parse(knock.out)["value"][3][10], 75);
+  EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "heat"}).status, kWrongCommandLine);
+  EXPECT_EQ(RunCli({"zones", Example("utec.csv"), "--grid", "knock"}).status, kFailed);
+}
+
 TEST(CommandLineProgram, TablePrintsARangeOfItems) {
   EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63,1", "--from", "2", "--to", "4"}).out,
             "Sample,Secs\n2,0.164\n3,0.246\n4,0.328\n");

@@ -28,7 +28,7 @@ class LogOnMapTest : public testing::Test {
       log.glngDataLog.Set(kKnock, row, i == 1 ? knock : 1);
     }
   }
-  LogOnMap Read() const { return ReadLogOnMap(log, 0, log.glngDataLog.Rows() - 1); }
+  LogOnMap Read() const { return ReadLogOnMap(log, WholeLog(log)); }
   /// "row,column" of each cell with samples.
   std::string Cells() const {
     const LogOnMap drive = Read();
@@ -89,10 +89,27 @@ TEST_F(LogOnMapTest, FewSamplesSayNothingAndNeverZero) {
   EXPECT_EQ(texts(11), "|14||1|14 samples, knock up to 1") << "nine of them have a ratio";
 }
 
-TEST_F(LogOnMapTest, AWideBandSensorIsBelievedWhereThereIsOne) {
-  Drive(10, 2000, 300, 20000, 14000);
+TEST_F(LogOnMapTest, TheSensorThatTheEcuTunesByIsBelieved) {
+  Drive(10, 2000, 300, 15400, 14000);
+  log.zones.chip = {1.8, MakeDate(2004, 5, 8), 3};
+  const auto error = [&](int flags) {
+    log.zones.zones[5] = static_cast<std::int16_t>(flags);
+    return Read().Text(GridShow::Error, 1, 5);
+  };
+  EXPECT_EQ(error(16), "+10.0") << "no wide band sensor was logged";
   for (int row = 0; row < 10; ++row) log.glngDataLog.Set(kAuxCF, row, 14700);
-  EXPECT_EQ(Read().Text(GridShow::Error, 1, 5), "+5.0");
+  EXPECT_EQ(error(0) + error(16) + error(24), "+10.0+5.0+5.0");
+}
+
+TEST_F(LogOnMapTest, ARangeOfSampleNumbersEndsWithTheLog) {
+  EXPECT_EQ(RangeOfSamples(log, 1, 9), DrivenRange());
+  Drive(10, 2000, 300);
+  for (int row = 0; row < 10; ++row) log.glngDataLog.Set(kSample, row, row + 5);
+  log.glngLastSample = 9;
+  log.glngFirstSampleTime = 5;
+  log.glngLastSampleTime = 14;
+  EXPECT_EQ(RangeOfSamples(log, 6, 8), (DrivenRange{1, 3}));
+  EXPECT_EQ(RangeOfSamples(log, -99, std::int64_t{1} << 40), WholeLog(log));
 }
 
 TEST_F(LogOnMapTest, TheNextSampleInACellGoesRound) {
@@ -105,9 +122,9 @@ TEST_F(LogOnMapTest, TheNextSampleInACellGoesRound) {
                 {1, 3, -1, 1}, {1, 3, 1, 1},  {0, 99, 4, 0}, {-5, 0, 0, 0},
                 {2, 3, 2, -1}, {3, 2, 0, -1}, {0, 4, 99, 0}};
   for (const auto& step : kSteps)
-    EXPECT_EQ(NextInCell(log, step.first, step.last, 1, 3, step.after), step.next) << step.after;
-  EXPECT_EQ(ReadLogOnMap(log, 1, 2).At(1, 3).samples, 1);
-  EXPECT_EQ(ReadLogOnMap(log, -9, 99).At(1, 3).samples, 3);
+    EXPECT_EQ(NextInCell(log, {step.first, step.last}, 1, 3, step.after), step.next) << step.after;
+  EXPECT_EQ(ReadLogOnMap(log, {1, 2}).At(1, 3).samples, 1);
+  EXPECT_EQ(ReadLogOnMap(log, {-9, 99}).At(1, 3).samples, 3);
 }
 
 TEST_F(LogOnMapTest, LeanCellsAreProposedMoreFuelInSmallSteps) {
