@@ -41,7 +41,8 @@ IniTable ReadINIFileToArray(std::string_view text) {
     const auto equals = line.find('=');
     std::string value(equals == std::string_view::npos ? std::string_view()
                                                        : line.substr(equals + 1));
-    std::replace(value.begin(), value.end(), '\r', ' ');  // as it would be written
+    const auto unwritable = [](char c) { return c == '\r' || c == '\0'; };
+    std::replace_if(value.begin(), value.end(), unwritable, ' ');  // as it would be written
     table.Add({section, std::string(line.substr(0, equals)), std::string(Trim(value))});
   }
   return table;

@@ -51,6 +51,7 @@ TEST(SampleGraphPresetFile, ReadsWhatItFinds) {
   EXPECT_EQ(read("Graph 2 Name=a\nGraph 1 name=b").strName, "");
   EXPECT_EQ(read("Graph 1 Graph Max=\nGraph 1 Name=a=b").lngGraphMax, 0);
   EXPECT_EQ(read("Graph 1 Name").strName, "");
+  EXPECT_EQ(read("Graph 1 Name=a" + std::string(2, '\0')).strName, "a");
   EXPECT_FALSE(read("Graph 1 Fix Graph Max=y").blnFixGraphMax);
   EXPECT_EQ(read("Graph 1 Data Items=3, 5,3,999").colDataItems, (Items{3, 5, 999}));
   EXPECT_EQ(read("Graph 1 Data Items=").colDataItems, (Items{}));
