@@ -64,6 +64,36 @@ bool Agrees(const clsDataLog& definition, const LogShape& shape) {
   return true;
 }
 
+/// The seconds from line to line that a definition makes of the log's clock are those of the shape.
+/// Where nothing tells the clock's unit, any that a logger may have are right.
+bool ClockAgrees(const clsDataLog& definition, const LogShape& shape) {
+  if (!shape.HasClock()) return true;
+  const ShapeColumn& clock = shape.columns[static_cast<std::size_t>(shape.time.column)];
+  const bool texts = shape.time.form >= TimeForm::Clock;
+  for (const clsDataLogColumn& column : definition.objColumns) {
+    if (column.lngDataItemID != ItemOf(kSecs) ||
+        !SameIgnoringCase(clock.header, column.strColumnTitle))
+      continue;
+    if (!definition.strTimeForm.empty())
+      return TimeFormOfName(definition.strTimeForm) == shape.time.form;
+    if (texts || column.lngConversionType == kDateAndTime)
+      return texts && column.lngConversionType == kDateAndTime;
+    const double stamp = shape.time.step / SecondsOf(shape.time.form);
+    const double step = ValueBy(column, stamp) - ValueBy(column, 0);
+    if (!IsUnit(clock.unit)) return IsPlausibleStep(step);
+    return std::fabs(step - shape.time.step) <= shape.time.step * 0.03;
+  }
+  return true;
+}
+
+/// The program's own files are text, too.
+bool IsOwnKind(const std::string& path) {
+  constexpr std::string_view kOwn[] = {"pow", "car", "sam", "sca", "map"};
+  return std::any_of(std::begin(kOwn), std::end(kOwn), [&](std::string_view own) {
+    return SameIgnoringCase(GetExtension(path), own);
+  });
+}
+
 }  // namespace
 
 const TitleDictionary& LogRoads::Titles() {
@@ -102,6 +132,7 @@ LoadOutcome LogRoads::TryAs(std::string_view bytes, int fileType, const clsDataL
 }
 
 std::optional<LogRoad> LogRoads::ByContent(std::string_view bytes, const std::string& path) {
+  if (IsOwnKind(path)) return std::nullopt;
   const std::string_view head = HeadOf(bytes);
   LogRoad fixed;
   fixed.fileType = FileTypeByMarks(head);
@@ -124,6 +155,7 @@ std::optional<LogRoad> LogRoads::ByDefinitions(std::string_view head, const LogS
       LogRoad road;
       road.definition = ReadDefinition(definitions + name);
       if (!road.definition || !Agrees(*road.definition, shape) ||
+          !ClockAgrees(*road.definition, shape) ||
           !TryAs(head, kUniversalLog, *road.definition, road).loaded)
         continue;
       road.takenAs = "Universal: " + road.definition->strName;

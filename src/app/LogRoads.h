@@ -34,7 +34,7 @@ class LogRoads {
   LoadOutcome TryAs(std::string_view bytes, int fileType, const clsDataLog& definition,
                     LogRoad& road) const;
   /// By the marks of the fixed layouts, by the definitions at hand, by its shape, in this order.
-  /// Nothing: it is no log.
+  /// Nothing: it is no log, or the path is one of the program's own kinds.
   std::optional<LogRoad> ByContent(std::string_view bytes, const std::string& path);
 
   /// The titles of the field, read from the program's folder of data when first asked for.

@@ -153,10 +153,6 @@ bool Rises(Candidate& candidate) {
   return stamps.size() >= 3 && candidate.distinct >= 1 && falls * 50 <= stamps.size();
 }
 
-bool IsPlausible(double seconds) {
-  return seconds >= kLeastStep * 0.999 && seconds <= kMostStep * 1.001;
-}
-
 /// Numbers about 1.5 thousand million are seconds since 1970, a thousand times that milliseconds.
 TimeForm UnixForm(double value) {
   if (value > 9e8 && value < 2.3e9) return TimeForm::Unix;
@@ -173,7 +169,7 @@ TimeForm PlausibleForm(double step) {
        {TimeForm::Seconds, TimeForm::Milliseconds, TimeForm::Microseconds, TimeForm::Days}) {
     const double seconds = step * SecondsOf(form);
     const double far = std::fabs(std::log10(seconds / 0.1));
-    if (!IsPlausible(seconds) || far >= least) continue;
+    if (!IsPlausibleStep(seconds) || far >= least) continue;
     best = form;
     least = far;
   }
@@ -204,11 +200,10 @@ std::vector<Candidate> Candidates(const std::vector<ShapeColumn>& columns, const
     const bool timed = column.content == ColumnContent::Time;
     Candidate candidate{static_cast<int>(at), {}, false, 0, NameWorth(column)};
     const Unit* unit = FindUnit(column.unit);
-    const bool otherUnit = unit && unit->quantity != Quantity::Time;
-    if (otherUnit ||
-        (candidate.worth <= 0 && !timed && (at > 0 || !column.title.starts_with("Column "))))
-      continue;
+    if (unit && unit->quantity != Quantity::Time) continue;
     if (unit) candidate.worth += 3;
+    if (candidate.worth <= 0 && !timed && (at > 0 || !column.title.starts_with("Column ")))
+      continue;
     candidate.worth -= timed * 2;
     candidate.stamps = ReadStamps(column, table, decimalSign, candidate.dates);
     if (Rises(candidate)) found.push_back(std::move(candidate));
@@ -240,6 +235,10 @@ TimeForm TimeFormOfName(std::string_view name) {
 
 double SecondsOf(TimeForm form) { return RowOf(form).seconds; }
 
+bool IsPlausibleStep(double seconds) {
+  return seconds >= kLeastStep * 0.999 && seconds <= kMostStep * 1.001;
+}
+
 TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable& table,
                       char decimalSign) {
   TimeBase base;
@@ -259,7 +258,7 @@ TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable&
   }
   base.column = best->column;
   base.step = step * SecondsOf(base.form);
-  base.score = (IsPlausible(base.step) ? 80 : 50) + std::min(best->worth, 20);
+  base.score = (IsPlausibleStep(base.step) ? 80 : 50) + std::min(best->worth, 20);
   base.why = "\"" + column.title + "\" rises; " + std::string(RowOf(base.form).words) +
              (why.empty() ? "" : ": " + why);
   return base;

@@ -30,6 +30,9 @@ TimeForm TimeFormOfName(std::string_view name);
 /// Seconds of one unit of a form of numbers; 1 for texts.
 double SecondsOf(TimeForm form);
 
+/// Seconds between lines that a logger may have: 1 ms to 10 s.
+bool IsPlausibleStep(double seconds);
+
 /// Where the time of a log's lines stands.
 struct TimeBase {
   int column = -1;  ///< of the columns; -1: no clock

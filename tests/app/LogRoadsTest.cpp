@@ -1,6 +1,8 @@
 // Files whose kind is not sure: what they look like, the question, and what becomes of the log that
 // is open.
 
+#include <algorithm>
+
 #include "app/LogRoads.h"
 #include "support/ProgramFixture.h"
 
@@ -97,6 +99,47 @@ TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
     Main().OpenByContent("/run.csv");
     EXPECT_EQ(program->Global().takenAs, taken);
     EXPECT_NEAR(Log().gcolDataItems->Item(23).GetRawData(Log().glngDataLog(22, 3)), 83.9, 0.05);
+  }
+}
+
+TEST_F(Roads, ADefinitionWhoseClockReadsOtherwiseIsPassedOver) {
+  const struct {
+    const char* head;
+    const char* stamps[3];
+    const char* taken;
+  } kRows[] = {
+      {"Time,CLT\n", {"0", "1", "2"}, "Universal: Mine"},
+      {"Time,CLT\n", {"0", "50", "100"}, "Universal: by its shape"},
+      {"Time,CLT\nms,C\n", {"0", "5", "10"}, "Universal: by its shape"},
+      {"Time,CLT\ns,C\n", {"0", "50", "100"}, "Universal: Mine"},
+      {"Time,CLT\n", {"10:00:01", "10:00:02", "10:00:03"}, "Universal: by its shape"},
+  };
+  for (const auto& row : kRows) {
+    const std::string head = row.head;
+    const auto lines = std::to_string(std::count(head.begin(), head.end(), '\n'));
+    files.files["/data/Universal Data Log Formats/Mine.txt"] =
+        "[DATALOGDEFINITION]\nNAME=Mine\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=44\n"
+        "DATALINESBEFORE=" +
+        lines +
+        "\n[COLUMN]\nNAME=Secs\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES=3\nCOLUMNTITLE=Time\n"
+        "DATAITEMID=63\n[COLUMN]\nNAME=C\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES=1\n"
+        "COLUMNTITLE=CLT\nDATAITEMID=23\n\n";
+    files.files["/run.csv"] = head;
+    for (const char* stamp : row.stamps) files.files["/run.csv"] += std::string(stamp) + ",80\n";
+    Start();
+    program->Global().dataFolder = "/data/";
+    Main().OpenByContent("/run.csv");
+    EXPECT_EQ(program->Global().takenAs, row.taken) << head << row.stamps[1];
+  }
+}
+
+TEST_F(Roads, TheProgramsOwnFilesAreNoLogs) {
+  for (const char* path : {"/run.pow", "/run.CAR", "/run.sam", "/run.sca", "/run.map"}) {
+    files.files[path] = kStrange;
+    Start();
+    host.messages.clear();
+    EXPECT_FALSE(Main().OpenByContent(path)) << path;
+    EXPECT_FALSE(host.messages.empty()) << path;
   }
 }
 
