@@ -43,7 +43,7 @@ bool AnyQuoted(const std::vector<std::string_view>& lines, char delimiter) {
 /// Which sign the numbers of the fields have for the point. Where the comma cuts fields it is none,
 /// quoted ones aside.
 char DecimalSignOf(const std::vector<std::string_view>& lines, FieldForm form) {
-  int commas = 0, points = 0;
+  int commas = 0, points = 0, either = 0;
   for (const std::string_view line : lines) {
     for (const std::string_view field : SplitShapeLine(line, form)) {
       if (field.find(',') == std::string_view::npos) {
@@ -52,9 +52,12 @@ char DecimalSignOf(const std::vector<std::string_view>& lines, FieldForm form) {
       }
       const bool grouped = ReadShapeNumber(field, '.').has_value();  // "2,000" may be both
       commas += !grouped && ReadShapeNumber(field, ',');
-      points += grouped && field.find('.') != std::string_view::npos;
+      const bool pointed = grouped && field.find('.') != std::string_view::npos;
+      points += pointed;
+      either += grouped && !pointed;
     }
   }
+  if (points == 0 && either > 0 && form.delimiter != ',') return ',';
   return commas > points ? ',' : '.';
 }
 

@@ -91,9 +91,23 @@ class Reader {
       column.unit = TakeUnit(column.title);
       if (at < shape_.rows.units.size() && !shape_.rows.units[at].empty())
         column.unit = shape_.rows.units[at];
+      TakeUnitWord(column);
       if (column.title.empty()) column.title = "Column " + std::to_string(at + 1);
       shape_.columns.push_back(std::move(column));
     }
+  }
+
+  /// "Boost kPa", "ECT_C": the last word is the unit of what is known without it, but not with it.
+  void TakeUnitWord(ShapeColumn& column) const {
+    constexpr int kSure = 90;
+    const auto sign = column.title.find_last_of(" _");
+    if (!column.unit.empty() || sign == std::string::npos) return;
+    const std::string rest = column.title.substr(0, sign), unit = column.title.substr(sign + 1);
+    if (!IsUnit(unit) || dictionary_.Find(column.title).score >= kSure ||
+        dictionary_.Find(rest).score < kSure)
+      return;
+    column.title = rest;
+    column.unit = unit;
   }
 
   std::vector<std::string> ChannelTitles() {

@@ -1,8 +1,13 @@
 #include "universal/PlainLog.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdio>
 #include <cstring>
+#include <optional>
 
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "fields/ByteMarks.h"
 #include "fields/WideSteps.h"
 #include "universal/TextEncoding.h"
@@ -104,6 +109,92 @@ void JoinRuns(std::string_view text, char delimiter, std::string& out) {
   out.resize(static_cast<std::size_t>(to - out.data()));
 }
 
+/// The number with a sign of groups at `at`: three digits behind it and none more, up to three in
+/// front that do not begin with 0. A clock's fraction ("01.250") and a date are none.
+bool IsGroupPoint(std::string_view text, std::size_t at) {
+  const auto digit = [&](std::size_t place) { return place < text.size() && IsDigit(text[place]); };
+  for (std::size_t behind = 1; behind <= 3; ++behind)
+    if (!digit(at + behind)) return false;
+  std::size_t first = at;
+  while (first > 0 && IsDigit(text[first - 1])) --first;
+  const std::size_t digits = at - first;
+  const bool within = first > 0 && (text[first - 1] == '.' || text[first - 1] == ':');
+  return !digit(at + 4) && digits >= 1 && digits <= 3 && text[first] != '0' &&
+         (!within || (text[first - 1] == '.' && digits == 3 && IsGroupPoint(text, first - 1)));
+}
+
+/// "1.234,5" becomes "1234,5".
+void DropGroups(std::string_view text, std::string& out) {
+  std::size_t from = 0;
+  for (auto at = text.find('.'); at != std::string_view::npos; at = text.find('.', at + 1)) {
+    if (!IsGroupPoint(text, at)) continue;
+    out.append(text, from, at - from);
+    from = at + 1;
+  }
+  out.append(text, from);
+}
+
+/// A number that ends in an exponent.
+struct ScientificNumber {
+  std::size_t begin = 0, end = 0;
+  double value = 0;
+};
+
+/// The number whose exponent's letter stands at `at`; nothing for a letter of a word.
+std::optional<ScientificNumber> NumberAround(std::string_view text, std::size_t at) {
+  const auto isPart = [](char c) { return IsDigit(c) || c == '.' || c == '-' || c == '+'; };
+  ScientificNumber number{at, at + 1, 0};
+  while (number.begin > 0 && isPart(text[number.begin - 1])) --number.begin;
+  while (number.end < text.size() && isPart(text[number.end])) ++number.end;
+  if (number.begin == at || (number.begin > 0 && IsLetter(text[number.begin - 1])) ||
+      (number.end < text.size() && IsLetter(text[number.end])))
+    return std::nullopt;
+  const std::string_view digits = text.substr(number.begin, number.end - number.begin);
+  if (!IsNumeric(digits)) return std::nullopt;
+  number.value = StringToDouble(digits);
+  return number;
+}
+
+/// "1.5e-02" becomes "0.015000000": fields are read to their first letter.
+class ExponentWriter {
+ public:
+  explicit ExponentWriter(std::string_view text) : text_(text) {}
+
+  /// False where the text holds none.
+  bool Run() {
+    std::size_t at = 0;
+    for (; at + kMarkedBytes <= text_.size(); at += kMarkedBytes) {
+      const char* const bytes = text_.data() + at;
+      for (std::uint64_t marks = MarksOf(bytes, 'e') | MarksOf(bytes, 'E'); marks;
+           marks &= marks - 1)
+        TakeLetter(at + static_cast<std::size_t>(std::countr_zero(marks)));
+    }
+    for (; at < text_.size(); ++at)
+      if (text_[at] == 'e' || text_[at] == 'E') TakeLetter(at);
+    if (from_ > 0) out_.append(text_, from_);
+    return from_ > 0;
+  }
+
+  std::string Take() { return std::move(out_); }
+
+ private:
+  void TakeLetter(std::size_t at) {
+    constexpr double kMost = 1e15;
+    if (at <= from_ || (!IsDigit(text_[at - 1]) && text_[at - 1] != '.')) return;
+    const auto number = NumberAround(text_, at);
+    if (!number || std::fabs(number->value) > kMost) return;
+    out_.append(text_, from_, number->begin - from_);
+    char written[40];
+    const int length = std::snprintf(written, sizeof written, "%.9f", number->value);
+    out_.append(written, static_cast<std::size_t>(length));
+    from_ = number->end;
+  }
+
+  const std::string_view text_;
+  std::string out_;
+  std::size_t from_ = 0;  ///< the next to be copied
+};
+
 /// Lines that a carriage return alone ends.
 bool HasLinesOfReturns(std::string_view text) {
   const std::string_view head = text.substr(0, 1 << 16);
@@ -140,11 +231,14 @@ std::string_view PlainLog(std::string_view bytes, const clsDataLog& definition,
     });
   if (definition.blnQuoted)
     rewrite([&](std::string& out) { QuoteTaker(text, delimiter, decimalComma, out).Run(); });
-  if (decimalComma && delimiter != ',')
+  if (decimalComma && delimiter != ',') {
+    rewrite([&](std::string& out) { DropGroups(text, out); });
     rewrite([&](std::string& out) {
       out.resize(text.size());
       PointForComma(text.data(), out.data(), text.size());
     });
+  }
+  if (ExponentWriter writer(text); writer.Run()) text = storage = writer.Take();
   if (definition.blnDelimiterRuns)
     rewrite([&](std::string& out) { JoinRuns(text, delimiter, out); });
   return text;

@@ -60,7 +60,7 @@ std::string_view Bare(std::string_view field, bool quoted) {
 /// Digits in groups of three behind the first, set off by `sign`: "1,234,567".
 bool Grouped(std::string_view whole, char sign) {
   const auto first = whole.find(sign);
-  if (first == 0 || first > 3) return false;
+  if (first == 0 || first > 3 || whole[0] == '0') return false;
   for (std::size_t at = first; at < whole.size(); at += 4) {
     if (whole[at] != sign || whole.size() - at < 4) return false;
     if (!std::all_of(whole.begin() + static_cast<std::ptrdiff_t>(at) + 1,

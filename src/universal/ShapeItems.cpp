@@ -63,6 +63,14 @@ struct Match {
   std::string why;
 };
 
+/// Of a pressure of the manifold, where the log tells none: no engine has 5 bar, and hardly one
+/// less than 5 kPa.
+std::string PressureUnitByValues(const std::string& assumed, const ShapeColumn& column) {
+  if (column.highest > 500) return "hPa";
+  if (assumed == "psi" && column.highest > 75) return "kPa";
+  return assumed == "kPa" && column.highest < 5 ? "bar" : assumed;
+}
+
 /// The unit of the values, where the log tells none: lambda is about 1, an air/fuel ratio about 15;
 /// no coolant is at more than 130 degrees C.
 std::string UnitByValues(const std::string& assumed, const ShapeColumn& column) {
@@ -70,7 +78,7 @@ std::string UnitByValues(const std::string& assumed, const ShapeColumn& column) 
   if (!unit) return assumed;
   if (unit->quantity == Quantity::AirFuel) return column.median < 3 ? "lambda" : "AFR";
   if (unit->quantity == Quantity::Temperature && column.highest > 130) return "F";
-  if (unit->quantity == Quantity::Pressure && assumed == "kPa" && column.highest < 5) return "bar";
+  if (unit->quantity == Quantity::Pressure) return PressureUnitByValues(assumed, column);
   return assumed;
 }
 

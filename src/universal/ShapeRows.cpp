@@ -97,6 +97,19 @@ std::vector<int> RowsAbove(const std::vector<std::string_view>& lines, int dataL
   return rows;
 }
 
+int CountFilled(const std::vector<std::string>& fields) {
+  return static_cast<int>(std::count_if(fields.begin(), fields.end(),
+                                        [](const auto& field) { return !field.empty(); }));
+}
+
+/// A row above another one is the titles if it names nearly as many columns, where a row of groups
+/// names fewer; above units any is.
+bool NamesMore(const std::vector<std::string>& above, const std::vector<std::string>& below) {
+  constexpr double kNearly = 0.85;
+  if (IsUnitsRow(above)) return false;
+  return IsUnitsRow(below) || CountFilled(above) >= kNearly * CountFilled(below);
+}
+
 /// Of those rows the topmost that may be titles, unless a line of comment.
 int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<int>& rows,
                 const FieldFormGuess& guess) {
@@ -104,7 +117,9 @@ int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<in
   for (const int row : rows) {
     const std::string_view line = lines[static_cast<std::size_t>(row)];
     if (!MayBeTitles(line, guess) || (found >= 0 && line.starts_with('#'))) continue;
-    if (found < 0 || !IsUnitsRow(TitlesOf(line, guess))) found = row;
+    if (found < 0 ||
+        NamesMore(TitlesOf(line, guess), TitlesOf(lines[static_cast<std::size_t>(found)], guess)))
+      found = row;
   }
   return found;
 }

@@ -13,7 +13,7 @@ namespace {
 // = 1.609344 km.
 // clang-format off
 constexpr Unit kUnits[] = {
-    {"s",      Quantity::Time, 1, 0,              " sec secs second seconds sek sekunden "},
+    {"s",      Quantity::Time, 1, 0,              " sec secs second seconds sek sekunden stamp "},
     {"ms",     Quantity::Time, 0.001, 0,          " msec msecs millis milliseconds millisecond millisekunden "},
     {"us",     Quantity::Time, 0.000001, 0,       " \xB5s usec micros microseconds "},
     {"min",    Quantity::Time, 60, 0,             " mins minutes minute minuten "},
@@ -68,7 +68,9 @@ std::string Simple(std::string_view text) {
       simple += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
   if (simple.size() >= 2 && (simple.front() == '[' || simple.front() == '('))
     simple = simple.substr(1, simple.size() - 2);
-  if (simple.size() == 2 && (simple[0] == '\xB0' || simple[0] == '\xBA')) simple.erase(0, 1);
+  constexpr std::string_view kDegreeSigns = "\xB0\xBA*.?";  // the last ones stand in for it
+  if (simple.size() == 2 && kDegreeSigns.find(simple[0]) != std::string_view::npos)
+    simple.erase(0, 1);
   return simple;
 }
 

@@ -50,6 +50,8 @@ TEST(FormedLog, EachKeyByItself) {
       {"NOVALUETEXTS=x\nTIMEFORM=SECONDS\n", "Time,A\n1,9\n2\n3,-2147483617\n", "9 9~ 9~"},
       {"NOVALUETEXTS=a long text\n", "Time,A\n1,9\n2,A long text\n3,1\n", "9 9~ 1"},
       {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", "Time;A\n1;7,6\n2;8,4\n3;9\n", "8 8 9"},
+      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", "Time;A\n1;1.234,6\n2;1.234.567\n3;01.250\n4;22.8.202\n", "1235 1234567 1 23"},
+      {"TIMEFORM=SECONDS\n", "Time,A\n1,9.26e+02\n2.0E0,12E-1\n3,1.5E\n4,7e1x\n5,2e30\n", "926 1 2 7 2"},
       {"QUOTED=Y\n", "\"Time\",\"A\"\n\"1\",\"2,000\"\n\"2\",\"7\"\n3,8\n", "2000 7 8"},
       {"QUOTED=Y\nDECIMALSIGN=,\n", "Time,A\n\"1\",\"1.234,6\"\n2,\"7,4\"\n3,8\n", "1235 7 8"},
       {"QUOTED=Y\n", "Time,A\n\"1,\"7\"\n\"2\",\"8\"\n3,9\n", "8 9"},

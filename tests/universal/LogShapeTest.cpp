@@ -144,6 +144,12 @@ TEST(LogShape, PressuresAreToldApartByTheirValues) {
       {"Boost (kPa)", "0", "110", "37 Boost [psi] x0.145+0"},
       {"Ladedruck (hPa)", "950", "2100", "5 MAP [kPa] x0.1+0"},
       {"MAP", "0.35", "1.8", "5 MAP [kPa] x100+0"},
+      {"MAP", "350", "1800", "5 MAP [kPa] x0.1+0"},
+      {"Ladedruck", "-0.4", "0.8", "37 Boost [psi] x14.5038+0"},
+      {"Boost kPa", "0", "110", "37 Boost [psi] x0.145+0"},
+      {"Intake_Pressure_PSI", "5", "30", "5 MAP [kPa] x6.8948+0"},
+      {"Knock Count", "0", "3", "30 Knock C"},
+      {"Coolant (*C)", "80", "90", "23 C Temp [C]"},
       {"AFR", "0.8", "1.1", "36 A/F [AFR] x14.7+0"},
       {"Lambda", "11.5", "14.7", "36 A/F [AFR]"},
       {"CLT", "170", "190", "23 C Temp [C] x0.5556+-17.78"},
@@ -155,6 +161,27 @@ TEST(LogShape, PressuresAreToldApartByTheirValues) {
                              row.second + "\n0.2," + row.second + "\n0.3," + row.first + "\n";
     EXPECT_EQ(PrintedItem(ShapeOf(text).items.at(1)), row.item);
   }
+}
+
+TEST(LogShape, RowsOfTitlesAndTheDecimalSignAreToldApart) {
+  const std::pair<const char*, const char*> kRows[] = {
+      {"Engine,,Temps\nTime (s),RPM,CLT (C)\n",
+       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
+       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
+      {"s,rpm,C\nTime,RPM,CLT\n",
+       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
+       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
+  };
+  for (const auto& [head, printed] : kRows)
+    EXPECT_EQ(Printed(ShapeOf(std::string(head) + "0,900,80\n1,950,81\n2,980,82\n3,990,83\n")),
+              printed);
+  EXPECT_EQ(Printed(ShapeOf(",Group A:,'003,\n,Clock,Load,Boost\n,TIME,,\nMarker,STAMP, %, mbar\n"
+                            ",0,40,800\n,1,50,900\n,2,55,1100\n,3,60,1200\n")),
+            "UTF-8 comma . titles 2 units 4 data 5\ntime 1 SECONDS 1 rate 0\n"
+            "| 101 Column 1 [Marker] | 63 Secs [s] | 102 Load [%] | 5 MAP [kPa] x0.1+0\n");
+  EXPECT_EQ(ShapeOf("t;Lambda\n0;0,980\n1;1,012\n2;1,100\n").form.decimalSign, ',');
+  EXPECT_EQ(ShapeOf("t;RPM\n0;1,980\n1;1,012\n2;1,100\n").form.decimalSign, ',');
+  EXPECT_EQ(ShapeOf("t;RPM\n0.1;1,980\n0.2;1,012\n0.3;1,100\n").form.decimalSign, '.');
 }
 
 TEST(LogShape, WhatAUserSettlesStands) {
