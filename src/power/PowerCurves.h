@@ -34,7 +34,8 @@ PowerPeaks PeaksOf(const std::vector<PowerPoint>& points);
 struct PowerCurves {
   bool imperial = true;
   std::vector<PowerPoint> points;
-  std::vector<SpeedPoint> speed;  ///< for each point; metres per second
+  /// For each point, in metres per second, and of a last sample without a point.
+  std::vector<SpeedPoint> speed;
   PowerPeaks peaks;
   bool failed = false;
   std::string

@@ -78,9 +78,10 @@ PowerPoint PointOf(double watts, double rpm, bool imperial) {
   return {rpm, watts / 1000, newtonMetres};
 }
 
-/// A sample that stands still, or no later than the one before, gives no point, and the next
-/// interval starts from it. The time of a point is its number times the latest interval, not the
-/// sum of the intervals: kept on purpose.
+/// A sample behind one that stands still, or no later than it, gives no point, and the next
+/// interval starts from it; its speed stands until the next sample's takes the place, so that of a
+/// last one stays. The time of a point is its number times the latest interval, not the sum of the
+/// intervals: kept on purpose.
 void TakePoints(const PowerRun& run, PowerCurves& curves) {
   const Constants constants = ConstantsOf(run);
   for (std::size_t i = 1; i < run.samples.size(); ++i) {
@@ -88,9 +89,10 @@ void TakePoints(const PowerRun& run, PowerCurves& curves) {
     const double dt = now.seconds - before.seconds;
     const double speed = now.rpm * constants.speedPerRpm,
                  previous = before.rpm * constants.speedPerRpm;
+    curves.speed.resize(curves.points.size());
+    curves.speed.push_back({static_cast<double>(curves.points.size()) * dt, speed});
     if (previous <= 0 || dt <= 0) continue;
     const double watts = PowerOf(constants, speed, previous, dt);
-    curves.speed.push_back({static_cast<double>(curves.points.size()) * dt, speed});
     curves.points.push_back(PointOf(watts, (now.rpm + before.rpm) / 2, run.imperial));
   }
 }
@@ -99,7 +101,9 @@ bool AllFinite(const PowerCurves& curves) {
   const auto finite = [](const PowerPoint& p) {
     return std::isfinite(p.rpm) && std::isfinite(p.power) && std::isfinite(p.torque);
   };
+  const auto known = [](const SpeedPoint& p) { return std::isfinite(p.speed + p.seconds); };
   return std::all_of(curves.points.begin(), curves.points.end(), finite) &&
+         std::all_of(curves.speed.begin(), curves.speed.end(), known) &&
          std::isfinite(curves.peaks.topSpeed.value_or(0));
 }
 

@@ -26,10 +26,12 @@ std::string Line(std::initializer_list<std::pair<double, int>> numbers) {
 std::string Printed(const PowerCurves& curves) {
   if (curves.failed) return "failed: " + curves.fault;
   std::string text;
-  for (std::size_t i = 0; i < curves.points.size(); ++i) {
-    const PowerPoint& p = curves.points[i];
+  for (std::size_t i = 0; i < curves.speed.size(); ++i) {
     const SpeedPoint& s = curves.speed[i];
-    text += Line({{p.rpm, 1}, {p.power, 2}, {p.torque, 2}, {s.seconds, 2}, {s.speed, 3}}) + "\n";
+    const std::string speed = Line({{s.seconds, 2}, {s.speed, 3}}) + "\n";
+    if (i == curves.points.size()) return text + "no point " + speed;
+    const PowerPoint& p = curves.points[i];
+    text += Line({{p.rpm, 1}, {p.power, 2}, {p.torque, 2}}) + " " + speed;
   }
   const PowerPeaks& k = curves.peaks;
   return text + "peaks " +
@@ -78,6 +80,13 @@ TEST(PowerRun, EachIntervalGivesAPointThatIsNotClamped) {
             "2545.0 201.97 416.80 0.60 19.105\n2630.0 186.42 372.29 0.70 19.695\n2655.0 -63.01 "
             "-124.65 0.80 19.474\n"
             "peaks 201.97 2545.0 416.80 2545.0 2655.0 top 145.4");
+}
+
+TEST(PowerRun, OnlyALastSampleWithoutAPointKeepsItsSpeed) {
+  const std::vector<RunSample> samples{{0, 2000}, {.1, 2060}, {.1, 2100}, {.2, 2130}, {.2, 2150}};
+  EXPECT_EQ(Printed(CurvesOf(RunOf(samples, 3, 0))),
+            "2030.0 107.28 277.56 0.00 15.195\n2115.0 57.39 142.52 0.10 15.712\n"
+            "no point 0.00 15.859\n");
 }
 
 TEST(PowerRun, CurvesAreSmoothedAndTheirPeaksTakenBehindIt) {
