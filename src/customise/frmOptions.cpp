@@ -138,12 +138,9 @@ bool frmOptions::LoadDataLogDefinitionLocal() {
                                        .LoadDataLogDefinition(path);
   if (!definition) return false;
   if (!path.empty()) around_.messages.ShowMessage(Message::DefinitionLoaded);
-  // What the user did to its items since stays, where the same file is read again.
-  const bool again = path == loadedDefinition_ && path != Opened(DefinitionFile);
   draft_.definition = std::move(*definition);
   loadedDefinition_ = path;
   UpdateGenericDescriptions();
-  if (again) return true;
   draft_.catalogue.gcolUniversalDataItems = GenerateLogDataItemsGeneric(draft_.definition, fixed);
   items_.ShowFamily(kUniversalLogFamily);
   items_.CheckAll(true);
@@ -151,13 +148,12 @@ bool frmOptions::LoadDataLogDefinitionLocal() {
 }
 
 /// In their order; the first that is refused has the focus. A path that the user left alone may be
-/// as bad as it was.
+/// as bad as it was, and a definition that was loaded already is not read again.
 bool frmOptions::ValidatePaths() {
   for (int index = 0; index < kPathCount; ++index) {
     const std::string& text = txtPath(index).Text();
-    const bool changed =
-        text != Opened(index) || (index == DefinitionFile && text != loadedDefinition_);
-    if (!changed || ValidatePath(index)) continue;
+    const std::string& known = index == DefinitionFile ? loadedDefinition_ : Opened(index);
+    if (text == known || ValidatePath(index)) continue;
     tabOptions.Select(kPageOfPath[index]);
     txtPath(index).SetFocus();
     return false;
