@@ -11,21 +11,6 @@ namespace {
 constexpr Colour kConvertedColour = 0xE0E0E0, kNegativeColour = 255;
 constexpr int kConvertedRow = 2;
 
-/// Between two of the heat colours, byte by byte.
-Colour HeatColour(double share) {
-  const double at = std::clamp(share, 0.0, 1.0) * (kHeatColours.size() - 1);
-  const auto low = std::min(static_cast<std::size_t>(at), kHeatColours.size() - 2);
-  const double part = at - static_cast<double>(low);
-  Colour mixed = 0;
-  for (const int shift : {0, 8, 16}) {
-    const auto byte = [&](Colour colour) { return static_cast<double>((colour >> shift) & 0xff); };
-    const double value =
-        byte(kHeatColours[low]) + part * (byte(kHeatColours[low + 1]) - byte(kHeatColours[low]));
-    mixed |= static_cast<Colour>(value + 0.5) << shift;
-  }
-  return mixed;
-}
-
 std::string Signed(int number) { return (number > 0 ? "+" : "") + std::to_string(number); }
 
 }  // namespace
@@ -106,7 +91,7 @@ GridCell ZoneGrids::ValueCell(SheetGrid grid, int zone) const {
   if (heat_ && IsZoneGrid(grid)) {
     const ZoneRange range = FieldRange(sheet, zone);
     cell.backColour =
-        HeatColour(static_cast<double>(now - range.low) / std::max(1, range.high - range.low));
+        HeatColourOf(static_cast<double>(now - range.low) / std::max(1, range.high - range.low));
   }
   return cell;
 }

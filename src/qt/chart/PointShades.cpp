@@ -63,13 +63,7 @@ std::vector<QColor> ShadeByDensity(std::vector<PlacedPoint>& placed, const Point
 
 }  // namespace
 
-QColor HeatColour(double share) {
-  constexpr auto kLast = kHeatColours.size() - 1;
-  const double at = std::clamp(share, 0.0, 1.0) * static_cast<double>(kLast);
-  const auto stop = std::min(static_cast<std::size_t>(at), kLast - 1);
-  return Mix(ColourToQt(kHeatColours[stop]), ColourToQt(kHeatColours[stop + 1]),
-             at - static_cast<double>(stop));
-}
+QColor HeatColour(double share) { return ColourToQt(HeatColourOf(share)); }
 
 std::vector<QColor> Shade(std::vector<PlacedPoint>& placed, const PointCloud& cloud,
                           const PixelGrid& grid, int reach, const PaintedColours& colours) {
