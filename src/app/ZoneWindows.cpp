@@ -37,6 +37,7 @@ void ZoneWindows::EditZones(const EditJournal* resumed) {
     WriteJournal(journal);
   };
   around.upload = Upload;
+  if (log.gblnSamplesLoaded) around.drive = &drive_;
   frmZoneData window(services_.host, around, parameters);
   if (resumed) window.Resume(resumed->history);
   window.ShowModal();

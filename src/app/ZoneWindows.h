@@ -23,6 +23,11 @@ class ZoneWindows {
     virtual bool LoadDataFile(const std::string& path, int fileType) = 0;
     /// The zones of the open file were changed.
     virtual void ZonesEdited() = 0;
+    /// The plot range as store indices.
+    virtual DrivenRange PlottedIndices() const = 0;
+    /// Store index of the sample that is selected in the graph; -1 for none.
+    virtual int SelectedIndex() const = 0;
+    virtual void SelectIndex(int index) = 0;
   };
   ZoneWindows(MainWindowControls& controls, Globals& globals, Services& services,
               SampleGraphWindow& mainWindow)
@@ -57,6 +62,17 @@ class ZoneWindows {
   Globals& globals_;
   Services& services_;
   SampleGraphWindow& mainWindow_;
+  struct OpenDrive : DriveGrids::Drive {
+    OpenDrive(const OpenLog& itsLog, SampleGraphWindow& itsWindow)
+        : log(itsLog), window(itsWindow) {}
+    const OpenLog& Log() const override { return log; }
+    DrivenRange PlotRange() const override { return window.PlottedIndices(); }
+    int CurrentSample() const override { return window.SelectedIndex(); }
+    void SelectSample(int index) override { window.SelectIndex(index); }
+    const OpenLog& log;
+    SampleGraphWindow& window;
+  };
+  OpenDrive drive_{globals_.log, mainWindow_};
 };
 
 }  // namespace tarnview

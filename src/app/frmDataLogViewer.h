@@ -163,6 +163,9 @@ class frmDataLogViewer : public MainWindowControls,
 
   // What the parts ask for.
   void ZonesEdited() override { FileRenamed(); }
+  DrivenRange PlottedIndices() const override;
+  int SelectedIndex() const override;
+  void SelectIndex(int index) override;
   void SetUpScrollBar() override { scrolling_.SetUp(); }
   void GraphDrawn() override { commands_.Update(); }
   void SampleShown(std::int32_t index) override;

@@ -41,6 +41,28 @@ void frmDataLogViewer::ShowPoint(std::int32_t sample) {
   ShowAround(sample, true);
 }
 
+DrivenRange frmDataLogViewer::PlottedIndices() const {
+  return RangeOfSamples(log_, range_.From(), range_.To());
+}
+
+int frmDataLogViewer::SelectedIndex() const {
+  const std::int32_t sample = selection_.lngHighlightSample();
+  return sample > 0 ? RangeOfSamples(log_, sample, sample).first : -1;
+}
+
+/// A thinned graph marks its nearest point; list, status bar and highlight have the sample itself.
+void frmDataLogViewer::SelectIndex(int index) {
+  const std::int32_t sample = log_.Sample(index);
+  selection_.Highlight(sample);
+  if (graph_.Drawn() && (sample < range_.From() || sample > range_.To()))
+    ShowAround(sample, false);
+  else if (graph_.Drawn())
+    graph_.SelectAgain();
+  selection_.Highlight(sample);
+  highlight_.LookAt(index);
+  SampleShown(index);
+}
+
 void frmDataLogViewer::mnuFileExport_Click() {
   if (export_.gstrExportPathFile.empty())
     export_.gstrExportPathFile = GetExportPathFile(log_.gstrCurrentFile);

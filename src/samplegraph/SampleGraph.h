@@ -67,6 +67,8 @@ class SampleGraph {
   void ApplyFixedGraphMax();
   /// The table row that shows a sample, walked to from an estimate.
   std::int32_t FindChartRowForSample(std::int32_t lngSample, double estimate) const;
+  /// Selects the point of the highlighted sample; without one, the middle.
+  void SelectAgain();
   /// Chart away, picture back; nothing drawn, nothing selected.
   void Clear();
 
@@ -77,7 +79,6 @@ class SampleGraph {
   void CountLogLines();
   void Build();
   ChartDescription Describe() const;
-  void SelectAgain();
   int PlaceOf(int item) const;
   void chkFixY_Click();
   void StepYMax(int by);

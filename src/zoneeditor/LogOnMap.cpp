@@ -142,6 +142,13 @@ int NextInCell(const OpenLog& log, DrivenRange range, int row, int column, int a
   return -1;
 }
 
+int FuelProposal::Cells() const {
+  int cells = 0;
+  for (const auto& row : changes)
+    cells += kGridColumns - static_cast<int>(std::count(row.begin(), row.end(), 0));
+  return cells;
+}
+
 FuelProposal Propose(const LogOnMap& drive, const ZoneSheet& sheet) {
   FuelProposal proposal;
   for (int row = 1; row <= kGridRows; ++row)

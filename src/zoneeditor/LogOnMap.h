@@ -74,6 +74,8 @@ struct FuelProposal {
   int At(int row, int column) const {
     return changes[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column - 1)];
   }
+  /// How many cells are changed.
+  int Cells() const;
 };
 /// A lean cell gets more fuel, a rich one less. Blacked-out cells get nothing.
 FuelProposal Propose(const LogOnMap& drive, const ZoneSheet& sheet);

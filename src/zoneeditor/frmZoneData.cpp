@@ -37,6 +37,7 @@ frmZoneData::frmZoneData(Host& itsHost, const Surroundings& surroundings,
       comparison_(parameters_.comparison, around_.benchmarks),
       radBoost(*this, "radBoost", {kBoostTargetsUnit, kWastegateUnit},
                std::string("fraBoostTargets"), std::string()),
+      Driven(*this, *this, Grids, around_.drive),
       commands_(around_.errors, "frmZoneData") {
   CancelButton = &cmdCancel;
   radBoost(kBoostTargetsUnit).Caption = std::string("Boost Targets");
@@ -93,10 +94,14 @@ void frmZoneData::BindControls() {
     grid->SelectionChanged = [this] { commands_.Update(); };
     grid->GotFocus = [this] { commands_.Update(); };
   }
+  for (Grid* grid : {&Driven.grdDrive(0), &Driven.grdDrive(1), &Driven.grdProposal})
+    grid->GotFocus = [this] { commands_.Update(); };
+  Driven.Changed = [this] { commands_.Update(); };
 }
 
 void frmZoneData::Form_Load() {
   Grids.LayOut(ReadOnly());
+  Driven.LayOut(ReadOnly());
   SetUpComparison();
   const bool boost = !Sheet().normallyAspirated && !ReadOnly();
   fraBoost.Enabled = fraBoostTargets.Enabled = boost;
@@ -131,6 +136,7 @@ void frmZoneData::ShowSheet() {
   Fields.Show(Sheet(), ReadOnly());
   radBoost(Sheet().boostTargets ? kBoostTargetsUnit : kWastegateUnit).Value = true;
   Grids.Show();
+  Driven.Show();
   ShowSteps();
   showing_ = false;
   commands_.Update();
@@ -213,6 +219,7 @@ void frmZoneData::cmdDetails_Click() {
   parameters.fileName = cboBenchmark.Text() + (comparison_.IsBenchmark() ? " (benchmark)" : "");
   Surroundings around = around_;
   around.stepped = nullptr;
+  around.drive = nullptr;
   frmZoneData(host, around, std::move(parameters)).ShowModal();
 }
 

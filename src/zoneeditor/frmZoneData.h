@@ -20,6 +20,7 @@
 #include "ui/MenuItem.h"
 #include "ui/OptionButton.h"
 #include "ui/TabStrip.h"
+#include "zoneeditor/DriveGrids.h"
 #include "zoneeditor/GeneralFields.h"
 #include "zoneeditor/GridGraphTable.h"
 #include "zoneeditor/ZoneComparison.h"
@@ -50,6 +51,8 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
     Messages& messages;
     /// Sends a sheet to the ECU; `source` is the map that was opened. Empty: there is no upload.
     std::function<void(const ZoneSheet& sheet, const ZoneMap& source)> upload = {};
+    /// The drive that the grids can show; nullptr for none.
+    DriveGrids::Drive* drive = nullptr;
     /// After each step, undo and redo.
     std::function<void(const EditHistory& history)> stepped = {};
   };
@@ -79,6 +82,7 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   ControlArray<Frame> fraData{*this, "fraData", UpTo(6), std::string()};
   ZoneGrids Grids{*this, *this, comparison_, *this};
   ControlArray<CommandButton> cmdGraph{*this, "cmdGraph", UpTo(6), std::string("&Graph...")};
+  DriveGrids Driven;
   Label lblSteps{*this, "lblSteps", "&Steps"};
   ComboBox cboSteps{*this, "cboSteps"};
   Label lblStatus{*this, "lblStatus"};
@@ -137,6 +141,7 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   void BindControls();
   std::vector<Command> EditCommands();
   std::vector<Command> GridCommands();
+  std::vector<Command> DriveCommands();
   std::vector<Command> ButtonCommands();
   void ShowSheet();
   void ShowSteps();
@@ -144,6 +149,7 @@ class frmZoneData : public Form, private SheetKeeper, private ZoneGrids::Window 
   bool UploadFits() const;
 
   void GridRightClicked(SheetGrid grid);
+  const Grid* FocusedGrid() const;
   void CopyCells(bool headings);
   void StepCells(int by);
   void cboBenchmark_Click();

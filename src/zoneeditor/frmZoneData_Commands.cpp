@@ -14,13 +14,13 @@ constexpr int kLargeStep = 10;
 
 void frmZoneData::BindCommands() {
   std::vector<Command> rows = EditCommands();
-  for (auto&& part : {GridCommands(), ButtonCommands()})
+  for (auto&& part : {GridCommands(), DriveCommands(), ButtonCommands()})
     rows.insert(rows.end(), part.begin(), part.end());
   commands_.Bind(std::move(rows));
 }
 
 std::vector<Command> frmZoneData::EditCommands() {
-  const auto focused = [this] { return Grids.Focused(ActiveControl()).has_value(); };
+  const auto focused = [this] { return FocusedGrid() != nullptr; };
   const auto editable = [this] { return Grids.Editable(ActiveControl()).has_value(); };
   const auto onGrid = [this](void (ZoneGrids::*edit)(SheetGrid)) {
     return [this, edit] {
@@ -61,6 +61,17 @@ std::vector<Command> frmZoneData::GridCommands() {
        [this] { Grids.CopyToDatalog(popupGrid_, cboBenchmark.Text()); }, compares},
       {&mnuCopyOffset, "mnuCopyOffset_Click", [this] { Grids.ApplyDifference(popupGrid_); },
        compares},
+  };
+}
+
+std::vector<Command> frmZoneData::DriveCommands() {
+  return {
+      {&Driven.cmdNextInCell, "cmdNextInCell_Click", [this] { Driven.NextInCell(); },
+       [this] { return Driven.HasDrive() && Driven.HasCell(); }},
+      {&Driven.cmdPropose, "cmdPropose_Click", [this] { Driven.Propose(); },
+       [this] { return Driven.HasDrive(); }},
+      {&Driven.cmdApplyProposal, "cmdApplyProposal_Click", [this] { Driven.ApplyProposal(); },
+       [this] { return Driven.HasProposal(); }},
   };
 }
 
@@ -138,11 +149,14 @@ void frmZoneData::mnuApplyOffset_Click() {
   if (window.Accepted()) Grids.ApplyOffset(popupGrid_, window.Offset());
 }
 
+const Grid* frmZoneData::FocusedGrid() const {
+  if (const auto grid = Grids.Focused(ActiveControl())) return &Grids.At(*grid);
+  return Driven.Focused(ActiveControl());
+}
+
 void frmZoneData::CopyCells(bool headings) {
-  const auto grid = Grids.Focused(ActiveControl());
-  if (!grid) return;
-  const Grid& cells = Grids.At(*grid);
-  host.SetClipboardText(TextOf(cells, cells.Selection(), headings));
+  if (const Grid* cells = FocusedGrid())
+    host.SetClipboardText(TextOf(*cells, cells->Selection(), headings));
 }
 
 void frmZoneData::StepCells(int by) {

@@ -1,3 +1,4 @@
+#include "support/FMLinkLogBuilder.h"
 #include "support/ProgramFixture.h"
 #include "zoneeditor/frmZoneData.h"
 
@@ -59,6 +60,34 @@ TEST_F(ZoneWindowsTest, WhatIsAcceptedIsTakenOver) {
   host.work = [](Form& form) { form.Find("cmdOK")->Do({"click", {}}); };
   Main().mnuModulesZoneData.Do({"click", {}});
   EXPECT_FALSE(Log().gblnZonesDirty);
+}
+
+TEST_F(ZoneWindowsTest, ACellGoesThroughItsSamplesInTheGraph) {
+  const auto shape = [](SmallSample& one) { one.rpm = one.sample > 20 ? 2000 : 1000; };
+  files.files["/car/a.txt"] = SmallLog(60, shape) + JoinLines(ZoneSectionLines(CountingZoneRows()));
+  StartKeeping("/car/a.txt");
+  Main().PlotRangeFrom.Do({"type", {"25"}});
+  Main().PlotRangeTo.Do({"type", {"40"}});
+  Main().cmdDrawGraph.Press();
+  std::string told;
+  const auto tell = [&](const Form& editor) {
+    const auto ring = dynamic_cast<const frmZoneData&>(editor).Grids.At(SheetGrid::Fuel).Ring();
+    told += std::to_string(Main().Selected().lngHighlightSample()) + " " +
+            std::to_string(static_cast<int>(ring->column * 10)) + " in " +
+            std::to_string(Main().PlotFrom()) + "-" + std::to_string(Main().PlotTo()) + "\n";
+  };
+  host.work = [&](Form& editor) {
+    editor.Find("cboShowOnGrid")->Do({"choose", {"Visits"}});
+    editor.Find("grdDrive", 0)->Do({"cell", {"2", "5"}});
+    tell(editor);
+    editor.Find("cmdNextInCell")->Do({"click", {}});
+    tell(editor);
+    editor.Find("chkWholeLog")->Do({"click", {}});
+    editor.Find("grdDrive", 1)->Do({"cell", {"2", "3"}});
+    tell(editor);
+  };
+  Main().mnuModulesZoneData.Do({"click", {}});
+  EXPECT_EQ(told, "25 45 in 25-40\n26 45 in 25-40\n1 25 in 1-8\n");
 }
 
 TEST_F(ZoneWindowsTest, EditsThatACrashCutOffAreOfferedOnce) {

@@ -33,6 +33,16 @@ struct AllWindows::NoMainWindow : frmDataTags::MainWindow {
   void TagsChanged() override {}
 };
 
+/// With a point in the middle of the log.
+struct AllWindows::WholeDrive : DriveGrids::Drive {
+  explicit WholeDrive(const OpenLog& itsLog) : log(itsLog) {}
+  const OpenLog& Log() const override { return log; }
+  DrivenRange PlotRange() const override { return WholeLog(log); }
+  int CurrentSample() const override { return log.glngDataLog.Rows() / 2; }
+  void SelectSample(int) override {}
+  const OpenLog& log;
+};
+
 AllWindows::AllWindows(Host& host, const std::string& log, const std::string& settingsFile)
     : messages_(host, [](int) { return std::string(); }),
       programs_(processes_, host),
@@ -245,13 +255,27 @@ void AllWindows::MakeZoneWindows() {
   parameters.fileName = globals.log.gstrCurrentFileTitle;
   parameters.mayUpload = true;
   const clsLogDataItem& volts = globals.catalogue.gcolFixedDataItems.Item(ItemOf(kAuxNF));
-  const frmZoneData::Surroundings around{
+  frmZoneData::Surroundings around{
       globals.settings, globals.gcolBenchmarks, globals.tables, volts, errors_, messages_};
-  const int tabs = globals.log.gblnZonesLoaded ? 4 : 1;
-  for (int tab = 1; tab <= tabs; ++tab) {
+  const auto open = [&](int tab) -> frmZoneData& {
     auto editor = std::make_unique<frmZoneData>(host, around, parameters);
     editor->tabZoneData2.Select(tab);
     zoneWindows_.push_back(std::move(editor));
+    return static_cast<frmZoneData&>(*zoneWindows_.back());
+  };
+  constexpr int kGeneral = 1, kFuel = 2, kTabs = 4;
+  for (int tab = kGeneral; tab <= (globals.log.gblnZonesLoaded ? kTabs : kGeneral); ++tab)
+    open(tab);
+  if (globals.log.gblnSamplesLoaded) {
+    drive_ = std::make_unique<WholeDrive>(globals.log);
+    around.drive = drive_.get();
+    for (int tab = kFuel; tab < kTabs; ++tab) {
+      frmZoneData& editor = open(tab);
+      editor.Show();
+      editor.Driven.cboShowOnGrid.SetListIndex(
+          static_cast<int>(tab == kFuel ? GridShow::Error : GridShow::Knock));
+      editor.Driven.Propose();
+    }
   }
   zoneWindows_.push_back(std::make_unique<frmOffset>(host));
   const Date date = parameters.map.chip.datChipDate;

@@ -43,6 +43,7 @@ class AllWindows {
 
  private:
   struct NoMainWindow;
+  struct WholeDrive;
 
   void Fill();
   void MakeGraphWindows();
@@ -78,6 +79,7 @@ class AllWindows {
   std::vector<Form*> scatterGraphs_;  ///< the main window's
   std::unique_ptr<PowerPictures> power_;
   std::vector<std::unique_ptr<frmGridGraph>> gridGraphs_;
+  std::unique_ptr<WholeDrive> drive_;
   std::vector<std::unique_ptr<Form>> zoneWindows_;
   std::unique_ptr<DefinitionFiles> definitionFiles_;
   std::unique_ptr<frmFindINIFile> firstRun_;
