@@ -5,6 +5,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "base/TextFile.h"
+#include "desk/SaveDialog.h"
 #include "zones/MapFile.h"
 
 namespace tarnview {
@@ -37,8 +38,12 @@ bool MapSaving::MaySaveAs() const {
 }
 
 bool MapSaving::Save() {
+  if (!MaySaveTo(services_.host, ToOpenFile())) return SaveAs();
+  return MayOverwrite() && Write();
+}
+
+bool MapSaving::Write() {
   OpenLog& log = globals_.log;
-  if (!MayOverwrite()) return false;
   const std::string text = MapText(MapOf(log.zones), services_.clock.Now());
   failed_ = !services_.files.Write(log.gstrCurrentFile, text);
   if (failed_) {
@@ -65,21 +70,26 @@ bool MapSaving::MayOverwrite() {
          Reply::Yes;
 }
 
+/// A map goes over its own file; the log that zones came from does not.
+Dialog MapSaving::ToOpenFile() const {
+  Dialog dialog;
+  dialog.ofOpenFile = globals_.log.gintCurrentFileType == kMAPFile;
+  dialog.path = globals_.log.gstrCurrentFile;
+  return dialog;
+}
+
 bool MapSaving::SaveAs() {
   OpenLog& log = globals_.log;
-  Dialog dialog;
-  dialog.kind = DialogKind::Save;
+  Dialog dialog = ToOpenFile();
   dialog.title = "Save As";
   dialog.filter = globals_.kinds.gcolFileTypes.Item(kMAPFile).CommonDialogFilter();
   dialog.initialPath = log.gstrCurrentFile;
   dialog.path = WithoutExtension(log.gstrCurrentFileTitle) + ".map";
-  if (!services_.host.Choose(dialog)) return false;
+  if (!ChooseFileToSave(services_.host, dialog)) return false;
   log.gstrCurrentFile = dialog.path;
   log.gstrCurrentFileTitle = FileTitle(dialog.path);
   log.gintCurrentFileType = kMAPFile;
-  // The dialog has asked already where the file was there.
-  if (const auto bytes = ReadText(services_.files, dialog.path)) bytesOnDisk_ = MarkOf(*bytes);
-  return Save();
+  return Write();  // the dialog has asked already where the file was there
 }
 
 bool MapSaving::SaveChangesPrompt() {

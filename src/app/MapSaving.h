@@ -7,6 +7,7 @@
 #include "app/Globals.h"
 #include "app/RecentFiles.h"
 #include "desk/StatusArea.h"
+#include "ui/Host.h"
 
 namespace tarnview {
 
@@ -29,7 +30,9 @@ class MapSaving {
   bool SaveChangesPrompt();
 
  private:
+  Dialog ToOpenFile() const;
   bool MayOverwrite();
+  bool Write();
 
   Globals& globals_;
   Services& services_;

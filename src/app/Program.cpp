@@ -50,10 +50,10 @@ void Program::EventFailed(const std::string& module, const std::string& procedur
   if (raised.number == kOutOfMemory) messages_.Tell(kShortOfMemory, kBoxExclamation);
 }
 
-std::string Program::WhyNotSave(const std::string& path) const {
-  if (files_.SameFile(path, globals_.log.gstrCurrentFile))
+std::string Program::WhyNotSave(const Dialog& chosen) const {
+  if (!chosen.ofOpenFile && files_.SameFile(chosen.path, globals_.log.gstrCurrentFile))
     return "The log that is open is never written over:";
-  return files_.MayReplace(path) ? "" : "This file is write-protected:";
+  return files_.MayReplace(chosen.path) ? "" : "This file is write-protected:";
 }
 
 void Program::FindInstallINIFile() {
@@ -66,7 +66,7 @@ void Program::FindInstallINIFile() {
 void Program::Start(const std::string& commandLine, bool splash) {
   errors_.ResetErrorLog();
   if (!folders_.program.empty()) files_.ClearLeftovers(folders_.program);
-  host_.WhyNotSave = [this](const std::string& path) { return WhyNotSave(path); };
+  host_.WhyNotSave = [this](const Dialog& chosen) { return WhyNotSave(chosen); };
   host_.events.Failed = [this](const std::string& module, const std::string& procedure,
                                const std::exception& error) {
     EventFailed(module, procedure, error);

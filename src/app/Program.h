@@ -48,7 +48,7 @@ class Program {
 
  private:
   bool HasINIFile();
-  std::string WhyNotSave(const std::string& path) const;
+  std::string WhyNotSave(const Dialog& chosen) const;
   void FindInstallINIFile();
   void FindDefinition();
   void TellFolderTroubles();

@@ -4,14 +4,19 @@
 
 namespace tarnview {
 
+bool MaySaveTo(Host& host, const Dialog& chosen) {
+  const std::string why = host.WhyNotSave ? host.WhyNotSave(chosen) : "";
+  if (why.empty()) return true;
+  host.Ask({0, why + "\r\n" + chosen.path + "\r\n\r\nPlease choose another name.", kBoxExclamation,
+            kApplicationTitle});
+  return false;
+}
+
 bool ChooseFileToSave(Host& host, Dialog& dialog, const std::function<void(Dialog&)>& complete) {
   dialog.kind = DialogKind::Save;
   while (host.Choose(dialog)) {
     if (complete) complete(dialog);
-    const std::string why = host.WhyNotSave ? host.WhyNotSave(dialog.path) : "";
-    if (why.empty()) return true;
-    host.Ask({0, why + "\r\n" + dialog.path + "\r\n\r\nPlease choose another name.",
-              kBoxExclamation, kApplicationTitle});
+    if (MaySaveTo(host, dialog)) return true;
     dialog.initialPath = dialog.path;
   }
   return false;

@@ -7,6 +7,9 @@
 
 namespace tarnview {
 
+/// Whether a file may be written over; if not, the user has been told why.
+bool MaySaveTo(Host& host, const Dialog& chosen);
+
 /// Asks where to save until it is a file that may be written over: not the log that is open, nor
 /// one that its owner protects. What is wrong with a choice is told, and the dialog comes again.
 /// `complete` may add to the chosen path. False: the user cancelled.

@@ -1,9 +1,14 @@
 #include "ecu/Overwrite.h"
 
+#include "desk/SaveDialog.h"
+
 namespace tarnview {
 
 bool MayWrite(const EcuWorld& world, const std::string& path) {
   if (!world.files.FileExists(path)) return true;
+  Dialog chosen;
+  chosen.path = path;
+  if (!MaySaveTo(world.host, chosen)) return false;
   return world.messages.Tell("File already exists.  Overwrite?", kBoxYesNo + kBoxQuestion) ==
          Reply::Yes;
 }

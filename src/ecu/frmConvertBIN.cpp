@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "desk/SaveDialog.h"
 #include "ecu/Conversion.h"
 #include "ecu/EcuFiles.h"
 #include "ecu/NewFileNames.h"
@@ -16,14 +17,12 @@ struct PathRow {
   const char* caption;
   const char* toolTip;
   const char* filter;
-  DialogKind dialog;
 };
 
 constexpr PathRow kPaths[] = {
-    {"&Binary File", "Path and File Name of Binary File", "Source files (*.bin; *.dat)|*.bin;*.dat",
-     DialogKind::Open},
-    {"&New Data Log", "Path and File Name of New Data Log", "Data Log files (*.txt)|*.txt",
-     DialogKind::Save},
+    {"&Binary File", "Path and File Name of Binary File",
+     "Source files (*.bin; *.dat)|*.bin;*.dat"},
+    {"&New Data Log", "Path and File Name of New Data Log", "Data Log files (*.txt)|*.txt"},
 };
 
 std::string StartFolder(const Settings& settings, const std::string& currentFile) {
@@ -82,12 +81,12 @@ bool frmConvertBIN::ValidatePath(Path path) {
 
 void frmConvertBIN::cmdBrowse_Click(Path path) {
   Dialog dialog;
-  dialog.kind = kPaths[path].dialog;
   dialog.title = path == Source ? "Open" : "Save As";
   dialog.filter = kPaths[path].filter;
   dialog.initialPath = txtPath(path).Text();
   dialog.path = FileTitle(txtPath(path).Text());
-  if (host.Choose(dialog)) txtPath(path).Text = dialog.path;
+  const bool chosen = path == Target ? ChooseFileToSave(host, dialog) : host.Choose(dialog);
+  if (chosen) txtPath(path).Text = dialog.path;
 }
 
 void frmConvertBIN::cmdOK_Click() {

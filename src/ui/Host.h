@@ -63,6 +63,7 @@ struct Dialog {
   std::string initialPath;  ///< folder, or a file whose folder is meant
   std::string path;         ///< file name to start with; the chosen path
   long colour = 0;          ///< 0xBBGGRR
+  bool ofOpenFile = false;  ///< saves the file that is open, which it may then go over
 };
 
 /// One page for the printer.
@@ -90,8 +91,9 @@ class Host {
 
   /// What the user does goes through here; boxes, dialogs and modal windows pause it.
   UserEvents events;
-  /// In words, why nothing may be saved into a file; "" where it may. Set once by the program.
-  std::function<std::string(const std::string& path)> WhyNotSave;
+  /// In words, why nothing may be saved into the file that a dialog chose; "" where it may. Set
+  /// once by the program.
+  std::function<std::string(const Dialog& chosen)> WhyNotSave;
 
   /// Shows the manual that lies in a folder, in a window of the desktop's own; false where there is
   /// none.

@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "desk/SaveDialog.h"
 #include "zoneeditor/frmLoadBenchmark.h"
 #include "zones/MapFile.h"
 
@@ -79,7 +80,7 @@ void frmBenchmarkDetails::cmdSave_Click() {
   dialog.filter = around_.types.Item(kMAPFile).CommonDialogFilter();
   dialog.initialPath = benchmark_.File;
   dialog.path = WithoutExtension(FileTitle(benchmark_.File)) + ".map";
-  if (!host.Choose(dialog)) return;
+  if (!ChooseFileToSave(host, dialog)) return;
   if (!WriteMapFile(around_.files, dialog.path, MapOf(benchmark_), around_.clock.Now()))
     around_.messages.ShowMessage(Message::SomethingWentWrong);
 }

@@ -86,6 +86,37 @@ TEST_F(MapSavingTest, SaveAs) {
   EXPECT_TRUE(files.files.contains("/car/b.map"));
 }
 
+TEST_F(MapSavingTest, AProtectedMapIsSavedUnderAnotherName) {
+  Open();
+  Dirty();
+  files.readOnly = {"/car/a.map"};
+  host.answers = {{}, {Answer::Kind::File, "/car/a.map"}, {}, {Answer::Kind::File, "/car/b.map"}};
+  Main().mnuFileSave.Do({"click", {}});
+  const std::string refused =
+      "48 This file is write-protected:\r\n/car/a.map\r\n\r\nPlease choose another name.\n";
+  EXPECT_EQ(Texts(), refused + refused);
+  EXPECT_EQ(files.files["/car/a.map"], Map());
+  EXPECT_EQ(Log().gstrCurrentFile, "/car/b.map");
+  EXPECT_TRUE(files.files.contains("/car/b.map"));
+}
+
+TEST_F(MapSavingTest, TheLogThatZonesCameFromIsNoPlaceForThem) {
+  const std::string log = SmallLog(20);
+  files.files["/car/run.map"] = log;
+  Start("/car/run.map|1");
+  ASSERT_TRUE(Log().gblnSamplesLoaded);
+  host.messages.clear();
+  program->Global().log.gblnZonesLoaded = true;
+  Dirty();
+  // "Yes, save", the refusal, and a name of its own.
+  host.answers = {{Answer::Kind::Yes}, {}, {Answer::Kind::File, "/car/zones.map"}};
+  EXPECT_TRUE(Main().SaveChangesPrompt());
+  ASSERT_EQ(host.messages.size(), 2u);
+  EXPECT_TRUE(host.messages[1].text.starts_with("The log that is open is never written over:"));
+  EXPECT_EQ(files.files["/car/run.map"], log);
+  EXPECT_TRUE(files.files.contains("/car/zones.map"));
+}
+
 TEST_F(MapSavingTest, EditedZonesAreAskedFor) {
   const struct {
     Answer::Kind answer;

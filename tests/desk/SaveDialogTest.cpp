@@ -8,8 +8,8 @@ namespace {
 
 TEST(SaveDialog, ComesAgainUntilTheFileMayBeWritten) {
   RecordingHost host;
-  host.WhyNotSave = [](const std::string& path) {
-    return path == "/log.txt" ? "Not this one:" : "";
+  host.WhyNotSave = [](const Dialog& chosen) {
+    return chosen.path == "/log.txt" ? "Not this one:" : "";
   };
   host.answers = {{Answer::Kind::File, "/log"}, {}, {Answer::Kind::File, "/other"}};
   Dialog dialog;

@@ -75,6 +75,24 @@ TEST_F(ConvertBIN, ConvertsAndRemembersTheSource) {
   EXPECT_EQ(settings.gstrLastConvertedBinary, "/logs/run.bin");
 }
 
+TEST_F(ConvertBIN, NeverGoesOverTheOpenLog) {
+  files.files["/logs/run.txt"] = "open";
+  host.WhyNotSave = [](const Dialog& chosen) {
+    return chosen.path == "/logs/run.txt" ? "Open:" : "";
+  };
+  frmConvertBIN window(world, "");
+  window.Show();
+  Act(window, good + "click cmdOK");
+  const std::string refused =
+      "box Open:\r\n/logs/run.txt\r\n\r\nPlease choose another name. [48]\n";
+  EXPECT_EQ(Told(), refused);
+  EXPECT_EQ(files.files["/logs/run.txt"], "open");
+  host.answers = {{Answer::Kind::File, "/logs/run.txt"}, {}, {Answer::Kind::File, "/logs/b.txt"}};
+  Act(window, "click cmdBrowse(1)");
+  EXPECT_EQ(Told(), refused);
+  EXPECT_EQ(window.txtPath(1).Text(), "/logs/b.txt");
+}
+
 TEST_F(ConvertBIN, KeepsWhatItCannotReplace) {
   files.files["/logs/run.txt"] = "before";
   files.files["/mdos/miatatmp.txt"] = "left over";
