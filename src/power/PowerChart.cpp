@@ -14,7 +14,8 @@ constexpr Colour kPowerColour = 0x0000FF, kTorqueColour = 0xFF0000;
 constexpr int kSolid = 1, kDashed = 3, kWide = 30, kNarrow = 20;
 constexpr const char* kWholeNumbers = "#######0";
 
-std::string At(double rpm) { return " @ " + FixedText(rpm, 0) + " rpm"; }
+std::string RpmText(double rpm) { return FixedText(rpm, 0) + " rpm"; }
+std::string At(double rpm) { return " @ " + RpmText(rpm); }
 
 ChartSeries SeriesOf(const std::vector<PowerPoint>& points, double PowerPoint::*value,
                      std::string name, const Pen& pen) {
@@ -45,6 +46,25 @@ double Highest(const std::vector<ChartSeries>& series) {
   return highest;
 }
 
+std::string PowerText(double power, bool imperial) {
+  return FixedText(power, 1) + (imperial ? " hp" : " kW");
+}
+
+std::string TorqueText(double torque, bool imperial) {
+  return FixedText(torque, 1) + (imperial ? " lbft" : " Nm");
+}
+
+/// Each peak on its own curve; a curve that never rises above 0 has none.
+std::vector<ChartMark> PeakMarks(const PowerPeaks& peaks, bool imperial) {
+  std::vector<ChartMark> marks;
+  if (peaks.power > 0)
+    marks.push_back({peaks.powerRpm, peaks.power, PowerText(peaks.power, imperial), kPowerColour});
+  if (peaks.torque > 0)
+    marks.push_back(
+        {peaks.torqueRpm, peaks.torque, TorqueText(peaks.torque, imperial), kTorqueColour});
+  return marks;
+}
+
 Object FactsOf(const PowerCurves& run, double maxRpm) {
   const PowerPeaks& peaks = run.peaks;
   Object facts{{"power", peaks.power},         {"power_rpm", peaks.powerRpm},
@@ -58,16 +78,25 @@ Object FactsOf(const PowerCurves& run, double maxRpm) {
 }  // namespace
 
 std::string PowerLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial) {
-  std::string text = whose + " Power (" + FixedText(peaks.power, 1) + (imperial ? " hp" : " kW") +
-                     At(peaks.powerRpm);
+  std::string text = whose + " Power (" + PowerText(peaks.power, imperial) + At(peaks.powerRpm);
   if (peaks.topSpeed)
     text += ", Vmax " + NumberText(*peaks.topSpeed) + (imperial ? " mph" : " kmh");
   return text + ")";
 }
 
 std::string TorqueLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial) {
-  return whose + " Torque (" + FixedText(peaks.torque, 1) + (imperial ? " lbft" : " Nm") +
-         At(peaks.torqueRpm) + ")";
+  return whose + " Torque (" + TorqueText(peaks.torque, imperial) + At(peaks.torqueRpm) + ")";
+}
+
+std::string ReadingText(const PowerPoint& point, bool imperial) {
+  return RpmText(point.rpm) + ": " + PowerText(point.power, imperial) + ", " +
+         TorqueText(point.torque, imperial);
+}
+
+std::vector<ChartMark> ReadingMarks(const PowerPoint& point, bool imperial) {
+  return {{point.rpm, point.power, PowerText(point.power, imperial), kPowerColour},
+          {point.rpm, point.torque, TorqueText(point.torque, imperial), kTorqueColour},
+          {point.rpm, 0, RpmText(point.rpm), 0, /*ring=*/false}};
 }
 
 ChartAxis RpmAxis(double maxRpm) {
@@ -75,7 +104,9 @@ ChartAxis RpmAxis(double maxRpm) {
   double end = 10000;
   if (maxRpm <= 8999) end = 9000;
   if (maxRpm <= 7999) end = 8000;
-  return {kFirst, end, static_cast<int>((end - kFirst) / 1000), kWholeNumbers, "RPM"};
+  constexpr int kMinorDivisions = 2;
+  return {kFirst,        end,   static_cast<int>((end - kFirst) / 1000),
+          kWholeNumbers, "RPM", kMinorDivisions};
 }
 
 ChartAxis PowerAxis(double highest) {
@@ -103,6 +134,7 @@ ChartDescription PowerChart(const PowerCurves& run,
   chart.x = RpmAxis(maxRpm);
   chart.y = PowerAxis(Highest(series));
   chart.kind = Curves{std::move(series)};
+  chart.marks = PeakMarks(run.peaks, run.imperial);
   chart.facts = FactsOf(run, maxRpm);
   return chart;
 }

@@ -167,7 +167,6 @@ void frmPowerGraph::Draw(const SampleRange& range) {
   staPowerGraph.SetPanel(kWarningPanel, RunWarning(run.samples));
   drawn_ = DrawnRun{std::move(run), std::move(curves), range, around_.log.gstrCurrentFile,
                     txtCorrFactor.Text};
-  MarkPeak();
   SetCaption();
   status_.Say("Graph draw complete");
 }
@@ -188,15 +187,6 @@ void frmPowerGraph::ShowGraph(const PowerCurves& curves,
   chPowerGraph.SetData(std::move(chart));
   fraPicture.Visible = false;
   chPowerGraph.Visible = true;
-}
-
-/// A ring on the power's peak, with a line through the torque.
-void frmPowerGraph::MarkPeak() {
-  const auto& points = drawn_->curves.points;
-  const double peak = drawn_->curves.peaks.power;
-  const auto at = std::find_if(points.begin(), points.end(),
-                               [peak](const PowerPoint& p) { return p.power == peak; });
-  if (at != points.end()) chPowerGraph.SelectPoint(1, static_cast<int>(at - points.begin()) + 1);
 }
 
 void frmPowerGraph::FindTheRuns() {
@@ -223,15 +213,14 @@ std::optional<double> frmPowerGraph::ShowReadingAt(double rpm) {
         return std::fabs(a.rpm - rpm) < std::fabs(b.rpm - rpm);
       });
   const bool imperial = drawn_->curves.imperial;
-  staPowerGraph.SetPanel(kReadingPanel,
-                         FixedText(nearest->rpm, 0) + " rpm: " + FixedText(nearest->power, 1) +
-                             (imperial ? " hp, " : " kW, ") + FixedText(nearest->torque, 1) +
-                             (imperial ? " lbft" : " Nm"));
+  staPowerGraph.SetPanel(kReadingPanel, ReadingText(*nearest, imperial));
+  chPowerGraph.Labels = ReadingMarks(*nearest, imperial);
   return nearest->rpm;
 }
 
 void frmPowerGraph::HideReading() {
   chPowerGraph.HairLine = std::nullopt;
+  chPowerGraph.Labels = std::vector<ChartMark>();
   staPowerGraph.SetPanel(kReadingPanel, "");
 }
 

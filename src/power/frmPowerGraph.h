@@ -98,7 +98,6 @@ class frmPowerGraph : public PowerGraphControls {
   void TellFault(const std::string& fault);
   void ShowGraph(const PowerCurves& curves, const std::optional<ShownBenchmark>& benchmark);
   void FindTheRuns();
-  void MarkPeak();
   /// The curves of the run at the point nearest to an engine speed, side by side; where that point
   /// is.
   std::optional<double> ShowReadingAt(double rpm);

@@ -6,6 +6,7 @@ void Chart::SetData(ChartDescription data) {
   data_ = std::move(data);
   series_ = point_ = 0;
   HairLine = std::nullopt;
+  Labels = std::vector<ChartMark>();
   Changed(What::Content);
 }
 
@@ -35,6 +36,7 @@ void Chart::Describe(Object& facts) const {
 Object Chart::FullDescription() const {
   Object facts = tarnview::Describe(data_);
   facts.emplace_back("selected", List{series_, point_});
+  if (!Labels().empty()) facts.emplace_back("labels", tarnview::Describe(Labels()));
   return facts;
 }
 

@@ -29,6 +29,9 @@ class Chart : public Control {
   /// Where a thin line runs through the graph, beside the selected point's own.
   Property<std::optional<double>> HairLine = Shown(std::optional<double>(), What::Selection);
 
+  /// What stands where that line meets the curves.
+  Property<std::vector<ChartMark>> Labels = Shown(std::vector<ChartMark>(), What::Selection);
+
   void SetData(ChartDescription data);
   const ChartDescription& Data() const { return data_; }
   /// Looks at a surface from elsewhere; what is selected stays so. Of another chart, nothing.

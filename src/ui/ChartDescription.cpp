@@ -63,11 +63,19 @@ const std::vector<ChartSeries>& ChartDescription::Series() const {
   return curves ? curves->series : kNone;
 }
 
+List Describe(const std::vector<ChartMark>& marks) {
+  List list;
+  for (const ChartMark& mark : marks)
+    list.emplace_back(Object{{"x", mark.x}, {"y", mark.y}, {"text", mark.text}});
+  return list;
+}
+
 Object Describe(const ChartDescription& chart) {
   Object facts = chart.facts;
   Object more = std::visit([&](const auto& kind) { return DescribeKind(kind, chart); }, chart.kind);
   facts.insert(facts.end(), std::make_move_iterator(more.begin()),
                std::make_move_iterator(more.end()));
+  if (!chart.marks.empty()) facts.emplace_back("marks", Describe(chart.marks));
   return facts;
 }
 

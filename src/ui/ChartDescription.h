@@ -65,6 +65,16 @@ struct PointCloud {
   bool density = false;  ///< without `tint`: marks that fall together are shaded by their number
 };
 
+/// A point with what it says, over the curves: "141.2 hp".
+struct ChartMark {
+  double x = 0;
+  double y = 0;
+  std::string text;
+  Colour colour = 0;
+  bool ring = true;  ///< without, the text alone
+  friend bool operator==(const ChartMark&, const ChartMark&) = default;
+};
+
 /// The colours of a chart: what lies behind it, its lines and texts, its grid.
 struct ChartColours {
   bool systemBackdrop = false;  ///< the desktop's button face stands behind the chart
@@ -79,6 +89,7 @@ struct ChartDescription {
   std::variant<Curves, PointCloud, Surface> kind;
   ChartAxis x;  ///< a surface has axes of its own
   ChartAxis y;
+  std::vector<ChartMark> marks;  ///< of curves, those that everybody looks for: the peaks
   ChartColours colours;
   /// What else the drawer knows about the picture (range, step, rows): told with the chart, not
   /// drawn.
@@ -90,6 +101,8 @@ struct ChartDescription {
   const std::vector<ChartSeries>& Series() const;
 };
 
+/// `[{"x": 6480, "y": 141.2, "text": "141.2 hp"}]`
+List Describe(const std::vector<ChartMark>& marks);
 /// The chart as a tree of facts; `facts` come first.
 Object Describe(const ChartDescription& chart);
 

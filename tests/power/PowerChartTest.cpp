@@ -7,7 +7,8 @@ namespace tarnview {
 namespace {
 
 std::string Axis(const ChartAxis& axis) {
-  return NumberText(axis.min) + "-" + NumberText(axis.max) + "/" + std::to_string(axis.divisions);
+  return NumberText(axis.min) + "-" + NumberText(axis.max) + "/" + std::to_string(axis.divisions) +
+         (axis.minorDivisions == 2 ? " halved" : "");
 }
 
 TEST(PowerChart, LegendsNamePeaksAndTopSpeed) {
@@ -23,9 +24,9 @@ TEST(PowerChart, LegendsNamePeaksAndTopSpeed) {
 }
 
 TEST(PowerChart, AxesEndAtRoundNumbers) {
-  const std::pair<double, const char*> kRpm[] = {{0, "1000-8000/7"},      {7999, "1000-8000/7"},
-                                                 {7999.5, "1000-9000/8"}, {8999, "1000-9000/8"},
-                                                 {9000, "1000-10000/9"},  {14000, "1000-10000/9"}};
+  const std::pair<double, const char*> kRpm[] = {
+      {0, "1000-8000/7 halved"},    {7999, "1000-8000/7 halved"},  {7999.5, "1000-9000/8 halved"},
+      {8999, "1000-9000/8 halved"}, {9000, "1000-10000/9 halved"}, {14000, "1000-10000/9 halved"}};
   for (const auto& [rpm, axis] : kRpm) EXPECT_EQ(Axis(RpmAxis(rpm)), axis) << rpm;
   const std::pair<double, const char*> kPower[] = {
       {-5, "0-20/1"},    {0, "0-20/1"},      {19.9, "0-20/1"},   {20, "0-40/2"},
@@ -41,7 +42,7 @@ TEST(PowerChart, ABenchmarkAddsItsPairAndCountsForTheAxes) {
   run.peaks.topSpeed = 110.5;
   ChartDescription chart = PowerChart(run, std::nullopt);
   EXPECT_EQ(chart.Series().size(), 2u);
-  EXPECT_EQ(Axis(chart.x) + " " + Axis(chart.y), "1000-8000/7 0-140/7");
+  EXPECT_EQ(Axis(chart.x) + " " + Axis(chart.y), "1000-8000/7 halved 0-140/7");
   ShownBenchmark benchmark;
   benchmark.points = {{8500, 310, 200}};
   benchmark.peaks = PeaksOf(benchmark.points);
@@ -49,7 +50,25 @@ TEST(PowerChart, ABenchmarkAddsItsPairAndCountsForTheAxes) {
   ASSERT_EQ(chart.Series().size(), 4u);
   EXPECT_EQ(chart.Series()[3].y, (std::vector<double>{200}));
   EXPECT_EQ(chart.Series()[2].x, (std::vector<double>{8500}));
-  EXPECT_EQ(Axis(chart.x) + " " + Axis(chart.y), "1000-9000/8 0-350/7");
+  EXPECT_EQ(Axis(chart.x) + " " + Axis(chart.y), "1000-9000/8 halved 0-350/7");
+}
+
+TEST(PowerChart, EachPeakIsMarkedOnItsOwnCurve) {
+  PowerCurves run;
+  run.points = {{3000, 90, 110}, {4000, 120, 100}, {5000, -1, -1}};
+  run.peaks = PeaksOf(run.points);
+  run.peaks.topSpeed = 110.5;
+  const ChartMark power{4000, 120, "120.0 hp", 0x0000FF}, torque{3000, 110, "110.0 lbft", 0xFF0000};
+  EXPECT_EQ(PowerChart(run, std::nullopt).marks, (std::vector{power, torque}));
+  run.imperial = false;
+  run.peaks.power = 0;
+  EXPECT_EQ(PowerChart(run, std::nullopt).marks,
+            (std::vector<ChartMark>{{3000, 110, "110.0 Nm", 0xFF0000}}));
+  EXPECT_EQ(ReadingText(run.points[0], false), "3000 rpm: 90.0 kW, 110.0 Nm");
+  const ChartMark rpm{3000, 0, "3000 rpm", 0, false};
+  EXPECT_EQ(ReadingMarks(run.points[0], false),
+            (std::vector<ChartMark>{
+                {3000, 90, "90.0 kW", 0x0000FF}, {3000, 110, "110.0 Nm", 0xFF0000}, rpm}));
 }
 
 }  // namespace

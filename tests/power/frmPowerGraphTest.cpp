@@ -28,6 +28,11 @@ class PowerGraphTest : public PowerWindowsTest {
     cars.AddDirect(metric);
     files.files["/b/stock.pow"] = kSaved;
   }
+  static std::string Told(const std::vector<ChartMark>& marks) {
+    std::string told;
+    for (const ChartMark& mark : marks) told += FixedText(mark.x, 0) + ": " + mark.text + ", ";
+    return told;
+  }
   void LoadSaved(const std::string& path = "/b/stock.pow") {
     host.answers.push_back({Answer::Kind::File, path});
     window->mnuFileOpen.Do({"click", {}});
@@ -96,13 +101,14 @@ TEST_F(PowerGraphTest, DrawsCurvesWithLegendsAxesAndFacts) {
   EXPECT_EQ(Panel(1), "Graph draw complete");
   EXPECT_EQ(Panel(4), "");
   EXPECT_TRUE(window->mnuFileSave.Enabled());
-  EXPECT_EQ(window->chPowerGraph.SelectedSeries(), 1);
-  EXPECT_EQ(window->chPowerGraph.SelectedPoint(), 100);
-  EXPECT_EQ(Panel(3), "3990 rpm: 85.1 hp, 114.2 lbft");
+  EXPECT_EQ(Told(chart.marks), "3990: 85.1 hp, 3990: 114.2 lbft, ");
   window->chPowerGraph.Do({"hover", {"2051"}});
   EXPECT_EQ(Panel(3), "2050 rpm: 38.9 hp, 97.2 lbft");
+  EXPECT_EQ(Told(window->chPowerGraph.Labels()),
+            "2050: 38.9 hp, 2050: 97.2 lbft, 2050: 2050 rpm, ");
   window->chPowerGraph.Do({"hover", {}});
   EXPECT_EQ(Panel(3), "");
+  EXPECT_TRUE(window->chPowerGraph.Labels().empty());
   Draw("100", "105");
   EXPECT_EQ(Boxes(), (Ids{26}));
   EXPECT_EQ(window->chPowerGraph.Data().Series().size(), 2u) << "the old graph stays";

@@ -41,6 +41,7 @@ class ChartAdapter : public Adapter {
   }
   void ShowSelection() override {
     view_.Select(PlaceOf(chart_.SelectedSeries()), chart_.SelectedPoint());
+    view_.ShowLabels(chart_.Labels);
     gestures_.ShowHairLine(chart_.HairLine);
   }
 

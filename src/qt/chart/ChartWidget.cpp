@@ -14,8 +14,6 @@
 #include "qt/chart/NearestPoint.h"
 
 namespace tarnview {
-namespace {}  // namespace
-
 ChartWidget::ChartWidget(QWidget* parent) : QCustomPlot(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setAntialiasedElements(QCP::aePlottables | QCP::aeLegendItems);
@@ -23,6 +21,7 @@ ChartWidget::ChartWidget(QWidget* parent) : QCustomPlot(parent) {
     axis->setTicker(QSharedPointer<QCPAxisTickerText>::create());
     axis->setSubTicks(false);
     axis->setTickLength(0, 4);
+    axis->setSubTickLength(0, 2);
     axis->grid()->setZeroLinePen(Qt::NoPen);
   }
   MakeLegendColumn();
@@ -57,6 +56,8 @@ void ChartWidget::MakeMark() {
     item->setLayer("overlay");
     item->setVisible(false);
   }
+  marks_ = new MarkLabels(*this, "legend", MarkLabels::Beside::Above);
+  pointed_ = new MarkLabels(*this, "overlay", MarkLabels::Beside::Right);
   line_->setAntialiased(false);
   across_->setAntialiased(false);
 }
@@ -69,6 +70,8 @@ void ChartWidget::SetDescription(const ChartDescription& description) {
   MakeCurves();
   MakeCloud();
   MakeSurface();
+  marks_->SetMarks(chart_.marks);
+  pointed_->SetMarks({});
   xAxis->setRange(chart_.x.min, chart_.x.max > chart_.x.min ? chart_.x.max : chart_.x.min + 1);
   yAxis->setRange(chart_.y.min, chart_.y.max > chart_.y.min ? chart_.y.max : chart_.y.min + 1);
   ApplyColours();
@@ -121,6 +124,7 @@ void ChartWidget::ApplyColours() {
   legend->setTextColor(colours.text);
   if (cloud_) cloud_->SetColours(colours);
   if (surface_) surface_->SetColours(colours);
+  for (MarkLabels* marks : {marks_, pointed_}) marks->SetColours(colours);
   // Two lines that cross on a mark would hide it.
   const QColor lines = cloud_ ? Mix(colours.backdrop, colours.text, 0.5) : colours.text;
   for (QCPItemStraightLine* line : {line_, across_}) line->setPen(QPen(lines, 1));
@@ -142,6 +146,7 @@ void ChartWidget::ApplyFonts() {
   }
   bar_.SetWidth(line);
   if (surface_) surface_->SetFonts(font, digits);
+  for (MarkLabels* marks : {marks_, pointed_}) marks->SetFont(digits);
   legend->setFont(font);
   legend->setIconSize(line * 3 / 2, line);
   legend->setIconTextPadding(line / 2);
@@ -188,15 +193,19 @@ void ChartWidget::FitNumbers() {
                     metrics.horizontalAdvance(ToQt(FormatNumber(axis.max, axis.format))));
   };
   const double width = widest(chart_.x);
-  const auto show = [](QCPAxis& axis, const std::vector<AxisNumber>& numbers) {
+  const auto show = [](QCPAxis& axis, const ChartAxis& told,
+                       const std::vector<AxisNumber>& numbers) {
     auto ticker = qSharedPointerCast<QCPAxisTickerText>(axis.ticker());
     ticker->clear();
     for (const AxisNumber& number : numbers) ticker->addTick(number.at, ToQt(number.text));
+    ticker->setSubTickCount(told.minorDivisions - 1);
+    axis.setSubTicks(told.minorDivisions > 1);
   };
-  show(*xAxis, AxisNumbers(chart_.x, axisRect()->width(), width + metrics.height()));
-  show(*yAxis, AxisNumbers(chart_.y, axisRect()->height(), metrics.height() * 1.25));
+  show(*xAxis, chart_.x, AxisNumbers(chart_.x, axisRect()->width(), width + metrics.height()));
+  show(*yAxis, chart_.y, AxisNumbers(chart_.y, axisRect()->height(), metrics.height() * 1.25));
   if (QCPAxis* axis = bar_.Axis())
-    show(*axis, AxisNumbers(chart_.Cloud()->tintAxis, bar_.Length(), metrics.height() * 1.25));
+    show(*axis, chart_.Cloud()->tintAxis,
+         AxisNumbers(chart_.Cloud()->tintAxis, bar_.Length(), metrics.height() * 1.25));
   // Half of the outermost numbers stands beyond the ends of the axes.
   const int half = static_cast<int>(std::ceil(width / 2));
   const int above = static_cast<int>(std::ceil(metrics.height()));

@@ -6,6 +6,7 @@
 
 #include "qt/chart/ColourBar.h"
 #include "qt/chart/CurveLine.h"
+#include "qt/chart/MarkLabels.h"
 #include "qt/chart/PointCloudPlot.h"
 #include "qt/chart/SurfacePlot.h"
 #include "ui/ChartDescription.h"
@@ -27,6 +28,8 @@ class ChartWidget : public QCustomPlot {
   /// takes the mark away.
   void Select(int place, int point);
   bool ShowsSurface() const { return surface_ != nullptr; }
+  /// Labels where the pointer's line meets the curves; shown with the next RedrawMarks.
+  void ShowLabels(std::vector<ChartMark> labels) { pointed_->SetMarks(std::move(labels)); }
   /// Draws what lies over the curves anew, and the curves not.
   void RedrawMarks();
   /// Tells the point nearest to a pixel as clicked on; of a cloud, if it is near.
@@ -71,6 +74,8 @@ class ChartWidget : public QCustomPlot {
   QCPItemStraightLine* line_ = nullptr;
   QCPItemStraightLine* across_ = nullptr;  ///< the other line of a cloud's mark
   QCPItemTracer* ring_ = nullptr;
+  MarkLabels* marks_ = nullptr;    ///< of the description
+  MarkLabels* pointed_ = nullptr;  ///< at the pointer
   int selectedPlace_ = -1;
   int selectedPoint_ = 0;
   bool drawn_ = false;  ///< the description that is shown now
