@@ -122,6 +122,19 @@ Json RunsJson(const OpenLog& log) {
   return {{"runs", runs}};
 }
 
+/// What the chart receives, then the peaks and speeds, then the messages.
+Json ChartJson(const ChartDescription& chart, const std::vector<Box>& messages) {
+  Json out = ToJson(Describe(chart));
+  for (const char* key : {"peaks", "speed"}) {
+    if (!out.contains(key)) continue;
+    Json fact = std::move(out[key]);
+    out.erase(key);
+    out[key] = std::move(fact);
+  }
+  out["messages"] = MessagesJson(messages);
+  return out;
+}
+
 int DrawPower(LogSession& session, const PowerOptions& options) {
   if (!options.carFile.empty() && !LoadCar(session, options.carFile)) return kFailed;
   frmPowerGraph& window = session.Window().Power().Open();
@@ -131,11 +144,7 @@ int DrawPower(LogSession& session, const PowerOptions& options) {
   const std::string& warning = window.staPowerGraph.Panel(kWarningPanel);
   if (!warning.empty()) std::fprintf(stderr, "tarnview-cli: %s\n", warning.c_str());
   const ChartDescription& chart = window.chPowerGraph.Data();
-  if (options.json) {
-    Json out = ToJson(Describe(chart));
-    out["messages"] = MessagesJson(session.Host().messages);
-    Print(out);
-  }
+  if (options.json) Print(ChartJson(chart, session.Host().messages));
   if (!filled || !window.Drawn()) return kFailed;
   return Save(session, window, options) && DrawPicture(chart, options.picture) ? kDone : kFailed;
 }
