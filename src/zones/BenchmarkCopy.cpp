@@ -223,8 +223,11 @@ class Copy {
     const auto types = AutoTuneTypes(Sheet().chip);
     if (std::find(types.begin(), types.end(), type) != types.end())
       Sheet() = WithAutoTuneType(std::move(Sheet()), type);
+    // EGR and wide band exclude each other, so that the sensor comes with its EGR; it is EGR's own
+    // bit here, whatever "Miscellaneous" took for it.
+    for (const Tick tick : {Tick::EGR, Tick::MixtureFuel})
+      Sheet() = WithTick(std::move(Sheet()), tick, ReadTick(tick, source_.zones, chip));
     Sheet() = WithSensor(std::move(Sheet()), SensorText(source_));
-    Sheet() = WithTick(std::move(Sheet()), Tick::MixtureFuel, SourceTick(Tick::MixtureFuel));
     for (int row = 0; row < kGridRows; ++row) CopyZone(zone::kFirstTarget + row);
   }
 
