@@ -144,9 +144,14 @@ void frmZoneData::ShowSheet() {
 
 /// What was done from the top down; the chosen entry is where the editor stands.
 void frmZoneData::ShowSteps() {
-  std::vector<std::string> names{"As opened"};
-  for (const EditHistory::Step& step : history_.Steps()) names.push_back(step.name);
-  cboSteps.SetList(std::move(names));
+  const std::vector<EditHistory::Step>& steps = history_.Steps();
+  const auto& listed = cboSteps.Entries();
+  // A step changes the list at its end alone; to undo and redo changes nothing in it.
+  if (listed.size() != steps.size() + 1 || (!steps.empty() && listed.back() != steps.back().name)) {
+    std::vector<std::string> names{"As opened"};
+    for (const EditHistory::Step& step : steps) names.push_back(step.name);
+    cboSteps.SetList(std::move(names));
+  }
   cboSteps.SetListIndex(static_cast<int>(history_.Done()));
   mnuEditUndo.Caption = history_.CanUndo() ? "&Undo " + history_.UndoName() : "&Undo";
   mnuEditRedo.Caption = history_.CanRedo() ? "&Redo " + history_.RedoName() : "&Redo";
