@@ -1,12 +1,11 @@
 #include "app/Customising.h"
 
+#include "app/DefinitionInUse.h"
 #include "customise/OfferDefinitionPresets.h"
 #include "desk/Placement.h"
 #include "model/ItemDisplaySettings.h"
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "scatter/frmPresetScatterDetails.h"
-#include "universal/GenericDescriptions.h"
-#include "universal/UniversalDataItems.h"
 
 namespace tarnview {
 
@@ -67,15 +66,10 @@ bool Customising::MayChangeDefinition() {
 }
 
 void Customising::TakeDefinition(const OptionsDraft& draft) {
-  globals_.definitionOfSettings.reset();  // the one that it kept is no longer the settings'
-  globals_.gclsDataLogDefinition = draft.definition;
+  DefinitionInUse(globals_, services_).Take(draft.definition);
   globals_.missingDefinitionFile.clear();
   OfferDefinitionPresets(draft.definition, globals_.gcolSampleGraphPresets,
                          globals_.gcolScatterGraphPresets, services_.messages);
-  SetGenericDataLogDescriptions(globals_.kinds, draft.definition);
-  Catalogue& catalogue = globals_.catalogue;
-  catalogue.gcolUniversalDataItems =
-      GenerateLogDataItemsGeneric(draft.definition, catalogue.gcolFixedDataItems);
 }
 
 /// Shows the details window of a preset; true on OK, with what the user made of it.

@@ -1,47 +1,58 @@
-// The main window's side of Universal logs: their definition, and what a load of one tells.
+#include "app/DefinitionInUse.h"
 
-#include "app/frmDataLogViewer.h"
+#include <utility>
+
+#include "model/ItemDisplaySettings.h"
 #include "universal/DefinitionFiles.h"
-#include "universal/DefinitionPresets.h"
 #include "universal/GenericDescriptions.h"
 #include "universal/UniversalDataItems.h"
-#include "universal/UnknownColumns.h"
 
 namespace tarnview {
-void frmDataLogViewer::LoadDataLogDefinitionLocal(bool addPresets) {
+
+void DefinitionInUse::LoadDataLogDefinitionLocal() {
+  DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors,
+                        globals_.catalogue.gcolFixedDataItems);
+  Take(files.LoadDataLogDefinitionWrapper(globals_.settings.gstrGenericDefinitionFile));
+}
+
+void DefinitionInUse::Take(clsDataLog definition) {
+  globals_.definitionOfSettings.reset();  // the one that it kept is no longer the settings'
+  globals_.gclsDataLogDefinition = std::move(definition);
+  SetGenericDataLogDescriptions(globals_.kinds, globals_.gclsDataLogDefinition);
+  Catalogue& catalogue = globals_.catalogue;
+  catalogue.gcolUniversalDataItems =
+      GenerateLogDataItemsGeneric(globals_.gclsDataLogDefinition, catalogue.gcolFixedDataItems);
+}
+
+const clsLogDataItems& DefinitionInUse::ItemsOf(int fileType) const {
+  const Catalogue& catalogue = globals_.catalogue;
+  if (fileType == kUniversalLog) return catalogue.gcolUniversalDataItems;
+  return catalogue.gcolFixedDataItems;
+}
+
+const clsDataLog& DefinitionInUse::SettingsDefinition() const {
+  if (IsOfLog()) return globals_.definitionOfSettings->definition;
+  return globals_.gclsDataLogDefinition;
+}
+
+/// How items are drawn stays the user's own.
+void DefinitionInUse::UseDefinitionOfLog(clsDataLog definition) {
+  clsLogDataItems& items = globals_.catalogue.gcolUniversalDataItems;
+  globals_.log.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  if (!IsOfLog())
+    globals_.definitionOfSettings =
+        Globals::KeptDefinition{std::move(globals_.gclsDataLogDefinition), std::move(items)};
+  items = GenerateLogDataItemsGeneric(definition, globals_.catalogue.gcolFixedDataItems);
+  CopyItemDisplay(globals_.definitionOfSettings->items, items);
+  globals_.gclsDataLogDefinition = std::move(definition);
+}
+
+void DefinitionInUse::UseDefinitionOfSettings() {
+  if (!IsOfLog()) return;
+  globals_.log.Clear(globals_.catalogue.gcolFixedDataItems, 0);
+  globals_.gclsDataLogDefinition = std::move(globals_.definitionOfSettings->definition);
+  globals_.catalogue.gcolUniversalDataItems = std::move(globals_.definitionOfSettings->items);
   globals_.definitionOfSettings.reset();
-  const clsLogDataItems& catalogue = globals_.catalogue.gcolFixedDataItems;
-  DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors, catalogue);
-  clsDataLog& definition = globals_.gclsDataLogDefinition;
-  definition = files.LoadDataLogDefinitionWrapper(globals_.settings.gstrGenericDefinitionFile);
-  globals_.catalogue.gcolUniversalDataItems = GenerateLogDataItemsGeneric(definition, catalogue);
-  SetGenericDataLogDescriptions(globals_.kinds, definition);
-  if (addPresets)
-    AddDefinitionPresets(definition, globals_.gcolSampleGraphPresets,
-                         globals_.gcolScatterGraphPresets);
-}
-
-const clsLogDataItems& frmDataLogViewer::ItemsOf(int fileType) const {
-  return fileType == kUniversalLog ? globals_.catalogue.gcolUniversalDataItems
-                                   : globals_.catalogue.gcolFixedDataItems;
-}
-
-/// Writes the report of unknown columns, which the message about a log with no known one offers to
-/// open, and logs the faults.
-void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome& outcome) {
-  std::string report;
-  if (!outcome.unknownColumns.empty() && !globals_.gstrProgramFolder.empty())
-    report = WriteUnknownUniversalColumns(
-        services_.files, services_.clock.Now(), globals_.gstrProgramFolder,
-        globals_.settings.gstrGenericDefinitionFile, path, outcome.unknownColumns);
-  if (outcome.loaded) return;
-  for (LoadMessage& message : outcome.messages) {
-    services_.errors.LogError("modUniversal", "LoadGenericDataLog",
-                              RuntimeError(-static_cast<int>(message.id), message.extra), false);
-    if (message.id != Message::NoColumnsRecognised || report.empty()) continue;
-    message.extra += "\r\n\r\nThe columns are listed in the report:\r\n" + report;
-    message.report = report;
-  }
 }
 
 }  // namespace tarnview

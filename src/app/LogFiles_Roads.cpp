@@ -4,9 +4,7 @@
 #include "app/frmDataLogViewer.h"
 #include "base/Paths.h"
 #include "customise/frmLogDescription.h"
-#include "model/ItemDisplaySettings.h"
 #include "universal/DefinitionWriter.h"
-#include "universal/UniversalDataItems.h"
 
 namespace tarnview {
 namespace {
@@ -33,7 +31,8 @@ bool frmDataLogViewer::OpenFile(const std::string& path, int fileType) {
                                    path, globals_.settings.gintDefaultFileType)
                              : fileType;
   LogRoad asWanted;
-  const LoadOutcome trial = roads_.TryAs(*bytes, wanted, SettingsDefinition(), asWanted);
+  const LoadOutcome trial =
+      roads_.TryAs(*bytes, wanted, definition_.SettingsDefinition(), asWanted);
   if (trial.loaded && (!guessed || asWanted.KnowsHalf())) return LoadDataFile(path, wanted);
   const auto road = roads_.ByContent(*bytes, path);
   const bool better = road && (!trial.loaded || road->known > asWanted.known);
@@ -54,9 +53,9 @@ bool frmDataLogViewer::OpenByContent(const std::string& path) {
 bool frmDataLogViewer::LoadAs(const std::string& path, LogRoad road) {
   HideForLoad();  // the items of the log that is open go with its definition
   if (road.definition)
-    UseDefinitionOfLog(std::move(*road.definition));
+    definition_.UseDefinitionOfLog(std::move(*road.definition));
   else
-    UseDefinitionOfSettings();
+    definition_.UseDefinitionOfSettings();
   globals_.takenAs = road.takenAs;
   if (!LoadNow(path, road.fileType)) return false;
   status_.Say("Loading complete: " + road.takenAs +
@@ -128,32 +127,6 @@ bool frmDataLogViewer::TellNothingLoads(const std::string& path, const LoadOutco
   services_.messages.ShowMessage(Message::TooFewRecords);
   status_.Say("Loading failed");
   return false;
-}
-
-const clsDataLog& frmDataLogViewer::SettingsDefinition() const {
-  return globals_.definitionOfSettings ? globals_.definitionOfSettings->definition
-                                       : globals_.gclsDataLogDefinition;
-}
-
-/// How items are drawn stays the user's own.
-void frmDataLogViewer::UseDefinitionOfLog(clsDataLog definition) {
-  clsLogDataItems& items = globals_.catalogue.gcolUniversalDataItems;
-  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
-  if (!globals_.definitionOfSettings)
-    globals_.definitionOfSettings =
-        Globals::KeptDefinition{std::move(globals_.gclsDataLogDefinition), std::move(items)};
-  items = GenerateLogDataItemsGeneric(definition, globals_.catalogue.gcolFixedDataItems);
-  CopyItemDisplay(globals_.definitionOfSettings->items, items);
-  globals_.gclsDataLogDefinition = std::move(definition);
-}
-
-void frmDataLogViewer::UseDefinitionOfSettings() {
-  if (!globals_.definitionOfSettings) return;
-  HideForLoad();
-  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);  // its items go
-  globals_.gclsDataLogDefinition = std::move(globals_.definitionOfSettings->definition);
-  globals_.catalogue.gcolUniversalDataItems = std::move(globals_.definitionOfSettings->items);
-  globals_.definitionOfSettings.reset();
 }
 
 }  // namespace tarnview

@@ -55,7 +55,8 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
 }
 
 void frmDataLogViewer::Form_Load() {
-  if (globals_.catalogue.gcolUniversalDataItems.Count() == 0) LoadDataLogDefinitionLocal(false);
+  if (globals_.catalogue.gcolUniversalDataItems.Count() == 0)
+    definition_.LoadDataLogDefinitionLocal();
   settingsFile_.LoadPresets();
   JoinDefinitionPresets();
   TakeSettings();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/Customising.h"
+#include "app/DefinitionInUse.h"
 #include "app/EcuCommands.h"
 #include "app/Globals.h"
 #include "app/LogRoads.h"
@@ -67,10 +68,6 @@ class frmDataLogViewer : public MainWindowControls,
   /// False: the user does not want to lose edited zones.
   bool SaveChangesPrompt() override { return saving_.SaveChangesPrompt(); }
 
-  /// Loads the definition of Universal logs that the settings name, else the built-in one.
-  /// `addPresets`: its presets join the user's.
-  void LoadDataLogDefinitionLocal(bool addPresets);
-
   /// Writes the settings file, where one is kept, with what the window shows now. False: the user
   /// was told.
   bool WriteINIFile() override;
@@ -121,11 +118,7 @@ class frmDataLogViewer : public MainWindowControls,
   Agreed AgreesTo(const LogRoad& road, const std::string& path, int chosenType);
   bool TellNothingLoads(const std::string& path, const LoadOutcome& outcome);
   void TellMessages(const LoadOutcome& outcome);
-  const clsDataLog& SettingsDefinition() const;
-  void UseDefinitionOfLog(clsDataLog definition);
-  void UseDefinitionOfSettings();
   void LoadConversionFiles();
-  const clsLogDataItems& ItemsOf(int fileType) const;
   void TellUniversalOutcome(const std::string& path, LoadOutcome& outcome);
   void HideForLoad();
   void LoadDatalogFileSuccess(int fileType);
@@ -208,6 +201,7 @@ class frmDataLogViewer : public MainWindowControls,
   ZoneInfluencePanel zoneInfluence_;
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
   MapSaving saving_{globals_, services_, status_, recent_, [this] { FileRenamed(); }};
+  DefinitionInUse definition_{globals_, services_};
   LogRoads roads_;
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;

@@ -9,6 +9,7 @@
 #include "base/Paths.h"
 #include "base/TextFile.h"
 #include "samplegraph/GraphScale.h"
+#include "universal/UnknownColumns.h"
 #include "zones/MapFile.h"
 
 namespace tarnview {
@@ -70,7 +71,8 @@ bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, 
 }
 
 bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
-  UseDefinitionOfSettings();
+  if (definition_.IsOfLog()) HideForLoad();
+  definition_.UseDefinitionOfSettings();
   globals_.takenAs.clear();
   return LoadNow(path, fileType);
 }
@@ -102,7 +104,7 @@ bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
 }
 
 bool frmDataLogViewer::Load(const std::string& path, int fileType) {
-  const clsLogDataItems& items = ItemsOf(fileType);
+  const clsLogDataItems& items = definition_.ItemsOf(fileType);
   log_.Clear(items, 0);
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) {
@@ -130,6 +132,24 @@ bool frmDataLogViewer::Load(const std::string& path, int fileType) {
   if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
   TellMessages(outcome);
   return outcome.loaded;
+}
+
+/// Writes the report of unknown columns, which the message about a log with no known one offers to
+/// open, and logs the faults.
+void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome& outcome) {
+  std::string report;
+  if (!outcome.unknownColumns.empty() && !globals_.gstrProgramFolder.empty())
+    report = WriteUnknownUniversalColumns(
+        services_.files, services_.clock.Now(), globals_.gstrProgramFolder,
+        globals_.settings.gstrGenericDefinitionFile, path, outcome.unknownColumns);
+  if (outcome.loaded) return;
+  for (LoadMessage& message : outcome.messages) {
+    services_.errors.LogError("modUniversal", "LoadGenericDataLog",
+                              RuntimeError(-static_cast<int>(message.id), message.extra), false);
+    if (message.id != Message::NoColumnsRecognised || report.empty()) continue;
+    message.extra += "\r\n\r\nThe columns are listed in the report:\r\n" + report;
+    message.report = report;
+  }
 }
 
 void frmDataLogViewer::TellMessages(const LoadOutcome& outcome) {

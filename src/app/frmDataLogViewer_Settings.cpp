@@ -30,7 +30,7 @@ void frmDataLogViewer::TakeSettings() {
     recent_.AddRecentlyUsedFile(path, known);
   }
   details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType,
-                                          ItemsOf(settings.gintDefaultFileType));
+                                          definition_.ItemsOf(settings.gintDefaultFileType));
   details_.SetCheckedItems(settings.gcolCheckedDataItems);
   chkShowCheckedOnly.Value = settings.gblnShowCheckedOnly;
 }
@@ -76,7 +76,7 @@ void frmDataLogViewer::OptionsChanged() {
   const Settings& settings = globals_.settings;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
   fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
-  details_.SetUpSampleGraphSampleListView(PresetFileType(), ItemsOf(PresetFileType()));
+  details_.SetUpSampleGraphSampleListView(PresetFileType(), definition_.ItemsOf(PresetFileType()));
   if (log_.gblnSamplesLoaded) {
     SetDataLogViewerCaption();
     details_.ShowHighlighted();

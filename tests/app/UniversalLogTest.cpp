@@ -75,15 +75,5 @@ TEST_F(UniversalLogs, ADefinitionThatIsMissingOrBadIsToldAndTheBuiltInOneServes)
   }
 }
 
-TEST_F(UniversalLogs, ADefinitionMayBringItsPresets) {
-  Start();
-  const Globals& globals = program->Global();
-  const int samples = globals.gcolSampleGraphPresets.Count(),
-            scatters = globals.gcolScatterGraphPresets.Count();
-  Main().LoadDataLogDefinitionLocal(true);
-  EXPECT_EQ(globals.gcolSampleGraphPresets.Count(), samples + 6);
-  EXPECT_EQ(globals.gcolScatterGraphPresets.Count(), scatters + 12);
-}
-
 }  // namespace
 }  // namespace tarnview
