@@ -121,9 +121,7 @@ bool frmDataLogViewer::DescribeLog(const std::string& path) {
 
 /// The log that is open stays.
 bool frmDataLogViewer::TellNothingLoads(const std::string& path, const LoadOutcome& outcome) {
-  LoadOutcome told = outcome;
-  TellUniversalOutcome(path, told);
-  TellMessages(told);
+  loading_.TellUniversalOutcome(path, outcome);
   services_.messages.ShowMessage(Message::TooFewRecords);
   status_.Say("Loading failed");
   return false;

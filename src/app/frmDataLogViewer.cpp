@@ -4,7 +4,6 @@
 #include "app/SystemInformation.h"
 #include "app/frmAbout.h"
 #include "desk/Placement.h"
-#include "model/ConversionFiles.h"
 
 namespace tarnview {
 frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile)
@@ -69,14 +68,8 @@ void frmDataLogViewer::Form_Load() {
 
 void frmDataLogViewer::Form_Activate() {
   if (!globals_.gblnStarting) return;
-  LoadConversionFiles();
+  loading_.LoadConversionFiles();
   globals_.gblnStarting = false;
-}
-
-void frmDataLogViewer::LoadConversionFiles() {
-  ConversionFiles files(services_.files, services_.messages.Teller(), services_.errors);
-  files.LoadAuxInputConvFile(globals_.tables, globals_.settings.gstrAuxInputConversionFile);
-  files.LoadO2ConvFile(globals_.tables, globals_.settings.gstrO2InputConversionFile);
 }
 
 void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {

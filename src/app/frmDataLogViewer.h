@@ -7,6 +7,7 @@
 #include "app/DefinitionInUse.h"
 #include "app/EcuCommands.h"
 #include "app/Globals.h"
+#include "app/LogLoading.h"
 #include "app/LogRoads.h"
 #include "app/MainWindowControls.h"
 #include "app/MapSaving.h"
@@ -19,7 +20,6 @@
 #include "desk/ChartOutput.h"
 #include "desk/Commands.h"
 #include "desk/StatusArea.h"
-#include "loaders/LoadContext.h"
 #include "samplegraph/GraphMouse.h"
 #include "samplegraph/LogExport.h"
 #include "samplegraph/PlotRange.h"
@@ -111,15 +111,10 @@ class frmDataLogViewer : public MainWindowControls,
   void mnuFileNewLogDescription_Click();
   bool DescribeLog(const std::string& path);
   bool LoadNow(const std::string& path, int fileType);
-  bool Load(const std::string& path, int fileType);
-  void TellNotRead(const std::string& path, bool read);
   bool LoadAs(const std::string& path, LogRoad road);
   enum class Agreed { No, Yes, Otherwise };  ///< the last: the user wants to describe the log
   Agreed AgreesTo(const LogRoad& road, const std::string& path, int chosenType);
   bool TellNothingLoads(const std::string& path, const LoadOutcome& outcome);
-  void TellMessages(const LoadOutcome& outcome);
-  void LoadConversionFiles();
-  void TellUniversalOutcome(const std::string& path, LoadOutcome& outcome);
   void HideForLoad();
   void LoadDatalogFileSuccess(int fileType);
   void SetFirstRange();
@@ -202,6 +197,7 @@ class frmDataLogViewer : public MainWindowControls,
   RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
   MapSaving saving_{globals_, services_, status_, recent_, [this] { FileRenamed(); }};
   DefinitionInUse definition_{globals_, services_};
+  LogLoading loading_{globals_, services_, status_, definition_, saving_};
   LogRoads roads_;
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;

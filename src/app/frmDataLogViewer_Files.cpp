@@ -2,14 +2,10 @@
 // up.
 
 #include <algorithm>
-#include <new>
 
-#include "app/Loaders.h"
 #include "app/frmDataLogViewer.h"
 #include "base/Paths.h"
-#include "base/TextFile.h"
 #include "samplegraph/GraphScale.h"
-#include "universal/UnknownColumns.h"
 #include "zones/MapFile.h"
 
 namespace tarnview {
@@ -17,25 +13,6 @@ namespace {
 
 /// In the error log.
 constexpr long kLoadingFailed = -static_cast<long>(Message::TooFewRecords);
-
-/// A loader's progress in the status bar.
-class StatusProgress : public LoadProgress {
- public:
-  explicit StatusProgress(StatusArea& status) : status_(status) {}
-  void Stage(std::string_view text, long expectedRows) override {
-    status_.Say(std::string(text));
-    if (expectedRows <= 0) return;
-    expected_ = expectedRows;
-    status_.ShowProgressInStatusBar(expectedRows);
-  }
-  void Line(long line) override {
-    status_.Progress("Loading line " + std::to_string(line), std::min(line, expected_));
-  }
-
- private:
-  StatusArea& status_;
-  long expected_ = 0;
-};
 
 }  // namespace
 
@@ -86,7 +63,7 @@ bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
   log_.gstrCurrentFile = path;
   log_.gstrCurrentFileTitle = FileTitle(path);
   log_.gintCurrentFileType = fileType;
-  const bool loaded = Load(path, fileType);
+  const bool loaded = loading_.Load(path, fileType);
   status_.HideProgress();
   if (loaded) {
     recent_.AddRecentlyUsedFile(path, fileType);
@@ -101,79 +78,6 @@ bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
                               RuntimeError(kLoadingFailed, "Loading failed: " + path), false);
   }
   return loaded;
-}
-
-bool frmDataLogViewer::Load(const std::string& path, int fileType) {
-  const clsLogDataItems& items = definition_.ItemsOf(fileType);
-  log_.Clear(items, 0);
-  const LoaderRow* loader = LoaderFor(fileType);
-  if (!loader) {
-    services_.messages.ShowMessage(Message::OddKindOfFile);
-    return false;
-  }
-  const auto bytes = ReadText(services_.files, path);
-  if (!bytes || !HasLines(*bytes)) {
-    TellNotRead(path, bytes.has_value());
-    return false;
-  }
-  saving_.FileOpened(*bytes);
-  LoadConversionFiles();
-  StatusProgress progress(status_);
-  LoadOutcome outcome;
-  try {
-    outcome = loader->load(*bytes, {log_, items, globals_.settings, globals_.tables, progress},
-                           globals_.gclsDataLogDefinition);
-  } catch (const std::bad_alloc&) {
-    log_.Clear(items, 0);
-    services_.messages.Tell(kShortOfMemory, kBoxExclamation);
-    return false;
-  }
-  if (!outcome.error.empty()) services_.messages.Tell(outcome.error, kBoxExclamation);
-  if (fileType == kUniversalLog) TellUniversalOutcome(path, outcome);
-  TellMessages(outcome);
-  return outcome.loaded;
-}
-
-/// Writes the report of unknown columns, which the message about a log with no known one offers to
-/// open, and logs the faults.
-void frmDataLogViewer::TellUniversalOutcome(const std::string& path, LoadOutcome& outcome) {
-  std::string report;
-  if (!outcome.unknownColumns.empty() && !globals_.gstrProgramFolder.empty())
-    report = WriteUnknownUniversalColumns(
-        services_.files, services_.clock.Now(), globals_.gstrProgramFolder,
-        globals_.settings.gstrGenericDefinitionFile, path, outcome.unknownColumns);
-  if (outcome.loaded) return;
-  for (LoadMessage& message : outcome.messages) {
-    services_.errors.LogError("modUniversal", "LoadGenericDataLog",
-                              RuntimeError(-static_cast<int>(message.id), message.extra), false);
-    if (message.id != Message::NoColumnsRecognised || report.empty()) continue;
-    message.extra += "\r\n\r\nThe columns are listed in the report:\r\n" + report;
-    message.report = report;
-  }
-}
-
-void frmDataLogViewer::TellMessages(const LoadOutcome& outcome) {
-  for (const LoadMessage& message : outcome.messages) {
-    if (message.report.empty())
-      services_.messages.ShowMessage(message.id, false, message.extra);
-    else
-      services_.messages.ShowMessageWithOffer(
-          message.id, message.extra, "&Open Report",
-          [&programs = services_.programs, report = message.report] {
-            programs.ShellOpen(report);
-          });
-  }
-}
-
-/// A file that is just not there needs no reason.
-void frmDataLogViewer::TellNotRead(const std::string& path, bool read) {
-  if (log_.gintCurrentFileType == kMAPFile && !read) {
-    services_.messages.Tell(UnreadFileError(services_.files, path), kBoxExclamation);
-    return services_.messages.ShowMessage(Message::NotAMapFile);
-  }
-  std::string why = read ? "It has a line of more than 16 MB." : services_.files.WhyNotRead(path);
-  if (why != kTooLargeToRead && why != kNoMemoryToRead && !read) why.clear();
-  services_.messages.ShowMessage(Message::FileNotLoaded, false, why);
 }
 
 void frmDataLogViewer::HideForLoad() {
