@@ -19,6 +19,9 @@ struct MarkColours {
 constexpr MarkColours kRaised{0xFFD55E00, 0xFFE69F00};
 constexpr MarkColours kLowered{0xFF0072B2, 0xFF56B4E9};
 
+/// Behind what is worked out and not entered; it would glare on a dark desktop.
+constexpr Colour kGrey = 0xE0E0E0;
+
 /// Of 255: below, a text is hard to read.
 constexpr int kReadable = 90;
 constexpr double kMarkedTint = 0.18;
@@ -70,6 +73,8 @@ void GridPainter::Heading(const QRect& place, const std::string& text, bool lit)
 }
 
 QColor GridPainter::BackOf(const GridCell& cell) const {
+  if (cell.backColour == kGrey && IsDark(palette_.color(QPalette::Base)))
+    return palette_.color(QPalette::Button);
   if (cell.backColour != kDesktopColour) return ColourToQt(cell.backColour);
   const QColor base = palette_.color(cell.locked ? QPalette::Button : QPalette::Base);
   const MarkColours* mark = ColoursOf(cell.mark);

@@ -54,9 +54,8 @@ void GridWidget::Measure() {
       widest = std::max(widest, metrics.horizontalAdvance(ToQt(grid_->Text(row, column))));
     }
   const QSize before = sizeHint();
-  const int room = metrics.height() * 2 / 3;
-  headingWidth_ = heading + room;
-  cellWidth_ = cell + room;
+  headingWidth_ = heading + metrics.height() * 2 / 3;
+  cellWidth_ = cell + metrics.height() / 2;
   rowHeight_ = metrics.height() * 3 / 2;
   if (before != sizeHint()) updateGeometry();
 }

@@ -49,11 +49,11 @@ void ListViewAdapter::SetUpColumns() {
   QHeaderView& header = *view_.header();
   header.setSectionsClickable(true);
   header.setStretchLastSection(true);
-  const bool even = AllNumbers(columns);
+  const bool even = columns.size() <= 2 && AllNumbers(columns);
   header.setSectionResizeMode(even ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
   // Several columns of numbers stand together at the right, and the names before them take the
   // room.
-  if (columns.size() > 2 && columns.back().rightAligned && !even) {
+  if (columns.size() > 2 && columns.back().rightAligned) {
     header.setStretchLastSection(false);
     header.setSectionResizeMode(0, QHeaderView::Stretch);
   }

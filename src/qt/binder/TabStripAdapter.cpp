@@ -31,7 +31,11 @@ void TabStripAdapter::ShowContent() {
     view_.setTabVisible(page, tab > 0);
     if (tab == 0) continue;
     view_.setTabText(page, ToQt(tabs_.Tabs()[static_cast<std::size_t>(tab - 1)].caption));
-    if (tab == tabs_.Selected()) view_.setCurrentIndex(page);
+    if (tab != tabs_.Selected()) continue;
+    view_.setCurrentIndex(page);
+    // Where its frame was shown first, the strip's own layout has missed it.
+    QWidget& shown = *view_.widget(page);
+    shown.setGeometry(shown.parentWidget()->rect());
   }
 }
 

@@ -1,6 +1,7 @@
 #include "qt/binder/TextAdapters.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "qt/Text.h"
 
@@ -19,6 +20,25 @@ void ShowReadOnly(QLineEdit& view, bool readOnly) {
   view.setPalette(palette);
 }
 
+/// A layout in need would cut the numbers of a narrow field: it keeps room for its property
+/// "widest", or for any number of four digits.
+void KeepRoom(QLineEdit& view) {
+  if (!view.alignment().testFlag(Qt::AlignRight)) return;
+  const QVariant widest = view.property("widest");
+  const QString text = widest.isValid() ? widest.toString() : "-0000";
+  const QFontMetrics metrics(view.fontMetrics());
+  const int frame = view.minimumSizeHint().width() - metrics.maxWidth();
+  view.setMinimumWidth(std::max(view.minimumWidth(), metrics.horizontalAdvance(text) + frame));
+}
+
+/// The letter with the line below is drawn apart from its neighbour: a pair such as "To", which
+/// would otherwise move together, takes more room than the toolkit reckons with.
+int WidthWithMnemonic(const QLabel& view, QString text) {
+  QFont apart = view.font();
+  apart.setKerning(false);
+  return QFontMetrics(apart).horizontalAdvance(text.remove('&')) + 2 * view.margin();
+}
+
 }  // namespace
 
 LabelAdapter::LabelAdapter(Label& label, QLabel& view, Binder& binder)
@@ -26,12 +46,17 @@ LabelAdapter::LabelAdapter(Label& label, QLabel& view, Binder& binder)
   view.setTextFormat(Qt::PlainText);
 }
 
-void LabelAdapter::ShowContent() { view_.setText(Lines(ShownToQt(label_.Caption))); }
+void LabelAdapter::ShowContent() {
+  const QString text = Lines(ShownToQt(label_.Caption));
+  view_.setText(text);
+  if (view_.buddy() && !view_.wordWrap()) view_.setMinimumWidth(WidthWithMnemonic(view_, text));
+}
 
 void GroupBoxAdapter::ShowContent() { view_.setTitle(ToQt(frame_.Caption)); }
 
 LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
+  KeepRoom(view);
   OnUser(view, &QLineEdit::textEdited, [this](const QString& text) {
     box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text);
   });

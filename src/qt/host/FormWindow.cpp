@@ -40,6 +40,14 @@ void MakeRoomForTexts(QWidget& window) {
   if (height > window.height()) window.resize(window.width(), height);
 }
 
+/// On a wide screen labels would stand far from their fields: a part with the property
+/// "mostLetters" grows no wider than so many.
+void HoldWidths(QWidget& window) {
+  for (QWidget* part : window.findChildren<QWidget*>())
+    if (const int letters = part->property("mostLetters").toInt(); letters > 0)
+      part->setMaximumWidth(letters * part->fontMetrics().averageCharWidth());
+}
+
 QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
   QWidget* window = MakeWindow(form.name, parent);
   if (!window) qFatal("forms/%s.ui is missing", form.name.c_str());
@@ -48,6 +56,7 @@ QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
   SetLooks(*window);
   SizeMainWindow(*window);
   LetScrollIn(*window);
+  HoldWidths(*window);
   GiveWayIn(*window);
   TakePlacement(form, *window);
   TakeDividers(form, *window);
