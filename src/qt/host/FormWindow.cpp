@@ -12,6 +12,7 @@
 #include <QSplitter>
 #include <QUrl>
 #include <QVariant>
+#include <algorithm>
 #include <utility>
 
 #include "qt/Text.h"
@@ -46,6 +47,18 @@ void HoldWidths(QWidget& window) {
   for (QWidget* part : window.findChildren<QWidget*>())
     if (const int letters = part->property("mostLetters").toInt(); letters > 0)
       part->setMaximumWidth(letters * part->fontMetrics().averageCharWidth());
+}
+
+/// A part scrolls on a low screen alone: on others the window opens at the height that shows all.
+void MakeRoomForParts(QWidget& window) {
+  if (window.inherits("QMainWindow") || !window.layout() || window.isVisible()) return;
+  const auto parts = window.findChildren<QWidget*>();
+  const bool scrolls = std::any_of(parts.begin(), parts.end(), [](const QWidget* part) {
+    return part->property("scrolls").toBool();
+  });
+  const int height = std::min(window.layout()->sizeHint().height(),
+                              window.screen()->availableSize().height() * 9 / 10);
+  if (scrolls && height > window.height()) window.resize(window.width(), height);
 }
 
 QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
@@ -134,6 +147,7 @@ void FormWindow::ShowCaption() {
 void FormWindow::Raise(bool modal) {
   binder_.Flush();
   MakeRoomForTexts(*window_);
+  MakeRoomForParts(*window_);
   if (modal) window_->setWindowModality(Qt::ApplicationModal);
   const bool opens = !window_->isVisible();
   window_->show();
