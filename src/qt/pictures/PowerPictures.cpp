@@ -18,6 +18,9 @@ SpeedGraphInput SomeSpeeds(bool filled) {
   return input;
 }
 
+/// In which the example's saved graph was driven.
+constexpr int kThirdGear = 2;
+
 }  // namespace
 
 PowerPictures::PowerPictures(Program& program, Clock& clock, FileSystem& files, ErrorLog& errors,
@@ -55,6 +58,7 @@ frmPowerGraph& PowerPictures::OpenRun(const FoundRun& run) {
   graph.cmdFindRuns.Press();
   graph.txtPlotRangeFrom.Text = std::to_string(run.from);
   graph.txtPlotRangeTo.Text = std::to_string(run.to);
+  graph.cboGear.SetListIndex(kThirdGear);
   graph.cmdDrawGraph.Press();
   return graph;
 }
