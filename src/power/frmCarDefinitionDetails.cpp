@@ -205,6 +205,8 @@ bool frmCarDefinitionDetails::Changed() {
 }
 
 void frmCarDefinitionDetails::cmdOK_Click() {
+  // Enter leaves the caret in its field, whose number may be out of bounds.
+  SetFocus(nullptr);
   car_ = CarOf(FieldsNow());
   Accept();
 }

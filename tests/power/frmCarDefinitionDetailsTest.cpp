@@ -63,6 +63,15 @@ TEST_F(CarDetails, ShowsACarAndGivesItBackOnOK) {
   EXPECT_EQ(Questions(), "");
 }
 
+TEST_F(CarDetails, EnterLeavesTheFieldFirst) {
+  Open();
+  window->optAeroCD.Do({"click", {}});
+  window->txtCD.SetFocus();
+  window->txtCD.Text = std::string("5");
+  window->cmdOK.Press();
+  EXPECT_EQ(window->ColItem().dblCD, 0.99);
+}
+
 TEST_F(CarDetails, ASizeThatNoTyreListHasIsKept) {
   clsCarDef car;
   car.lngTyreWidth = 187;
