@@ -53,7 +53,10 @@ void frmZoneData::SetUpTabs() {
   std::vector<TabStrip::Tab> tabs;
   for (std::size_t tab = 0; tab < std::size(kTabs); ++tab) {
     const bool empty = pages[tab] == &fraNotesTab && ReadOnly() && parameters_.map.strNotes.empty();
-    if (!empty) tabs.push_back({kTabs[tab].caption, pages[tab]});
+    if (empty)
+      pages[tab]->Visible = false;
+    else
+      tabs.push_back({kTabs[tab].caption, pages[tab]});
   }
   tabZoneData2.SetTabs(std::move(tabs));
 }

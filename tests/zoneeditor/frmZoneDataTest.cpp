@@ -305,6 +305,7 @@ TEST_F(frmZoneDataTest, CopyAndDetailsOfTheComparison) {
            std::to_string(details.tabZoneData2.Tabs().size());
     EXPECT_FALSE(details.Find("txtZone", 6)->Enabled);
     EXPECT_FALSE(details.cmdOK.Visible);
+    EXPECT_FALSE(details.fraNotesTab.Visible) << "without notes";
     EXPECT_FALSE(details.Grids.At(SheetGrid::FuelBenchmark).Enabled);
     EXPECT_FALSE(details.Grids.At(SheetGrid::Fuel).BeginEdit("1"));
   };
