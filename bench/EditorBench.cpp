@@ -77,9 +77,12 @@ int Main(int argc, char** argv) {
   const LogFile log("fmlink300000", SyntheticFMLinkLog(300000));
   Window window(log.Path());
   if (!window.loaded) return 1;
-  for (const auto& [name, run] :
-       {std::pair{"Open_300000", Open}, {"ShowOnGrid_300000", ShowOnGrid}})
-    benchmark::RegisterBenchmark(name, [&window, run = run](benchmark::State& state) {
+  const struct {
+    const char* name;
+    void (*run)(benchmark::State& state, Window& window);
+  } kRows[] = {{"Open_300000", Open}, {"ShowOnGrid_300000", ShowOnGrid}};
+  for (const auto& row : kRows)
+    benchmark::RegisterBenchmark(row.name, [&window, run = row.run](benchmark::State& state) {
       run(state, window);
     })->Unit(benchmark::kMillisecond);
   Reporter reporter;

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "base/FileSystem.h"
+#include "model/Catalogue.h"
 
 namespace tarnview::bench {
 namespace {
