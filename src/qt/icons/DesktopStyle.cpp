@@ -9,18 +9,36 @@ namespace {
 
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
-void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
-  const QPalette& palette = option.palette;
-  const QColor ink = palette.color(QPalette::Text);
-  QColor rim = ink;
+/// The square of an indicator, with pen and brush set for its rim and what it holds.
+QRectF BeginIndicator(const QStyleOption& option, QPainter& painter) {
+  QColor rim = option.palette.color(QPalette::Text);
   rim.setAlphaF(0.5f);
   const qreal side = qMin(option.rect.width(), option.rect.height()) - 2.0;
   QRectF box(0, 0, side, side);
   box.moveCenter(QRectF(option.rect).center());
-  painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(rim, 1));
-  painter.setBrush(palette.color(QPalette::Base));
+  painter.setBrush(option.palette.color(QPalette::Base));
+  return box;
+}
+
+void DrawRadioButton(const QStyleOption& option, QPainter& painter) {
+  painter.save();
+  const QRectF circle = BeginIndicator(option, painter);
+  painter.drawEllipse(circle);
+  if (option.state & QStyle::State_On) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(QPalette::Text));
+    painter.drawEllipse(circle.center(), circle.width() / 4, circle.width() / 4);
+  }
+  painter.restore();
+}
+
+void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
+  const QColor ink = option.palette.color(QPalette::Text);
+  painter.save();
+  const QRectF box = BeginIndicator(option, painter);
+  const qreal side = box.width();
   painter.drawRoundedRect(box, 2, 2);
   painter.setPen(QPen(ink, side / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const auto at = [&](qreal x, qreal y) { return box.topLeft() + QPointF(x, y) * side; };
@@ -36,8 +54,11 @@ void DrawCheckBox(const QStyleOption& option, QPainter& painter) {
 void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
   const bool checkBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
-  if (checkBox && IsDark(option->palette) && baseStyle()->name() == QLatin1String("fusion"))
+  const bool ours = IsDark(option->palette) && baseStyle()->name() == QLatin1String("fusion");
+  if (ours && checkBox)
     DrawCheckBox(*option, *painter);
+  else if (ours && element == PE_IndicatorRadioButton)
+    DrawRadioButton(*option, *painter);
   else
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }

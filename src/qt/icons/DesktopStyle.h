@@ -5,8 +5,8 @@
 namespace tarnview {
 
 /// The desktop's style, fit for a dark palette too, where the toolkit's own style draws the rim of
-/// a check box as dark as what lies behind it, and grey texts twice. A box with nothing to drop
-/// down looks like a plain field.
+/// a check box and an option button as dark as what lies behind it, and grey texts twice. A box
+/// with nothing to drop down looks like a plain field.
 class DesktopStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
