@@ -82,10 +82,11 @@ QColor GridPainter::BackOf(const GridCell& cell) const {
 }
 
 /// A text that would vanish on what is behind it is drawn in black or white; red on a dark desktop
-/// is lighter.
+/// is lighter; what cannot be used now is grey.
 QColor GridPainter::TextOf(const GridCell& cell, const QColor& back) const {
   const QColor wanted =
       cell.colour == kDesktopColour ? palette_.color(QPalette::Text) : ColourToQt(cell.colour);
+  if (palette_.currentColorGroup() == QPalette::Disabled) return palette_.color(QPalette::Text);
   if (wanted.hsvSaturation() > 128) return IsDark(back) ? Mix(wanted, Qt::white, kLighter) : wanted;
   if (cell.backColour == kDesktopColour &&
       std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable)
