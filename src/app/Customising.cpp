@@ -30,10 +30,8 @@ void Customising::mnuCustomiseOptions_Click() {
       {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
        catalogue.gcolUniversalDataItems.Duplicate()},
       globals_.kinds};
-  const int fileType = globals_.log.gintCurrentFileType > 0 ? globals_.log.gintCurrentFileType
-                                                            : globals_.settings.gintDefaultFileType;
   frmOptions window(services_.host, {services_.files, services_.errors, services_.messages},
-                    std::move(draft), fileType);
+                    std::move(draft), globals_.UsualFileType());
   window.ShowModal();
   if (window.Accepted()) TakeOptions(window);
 }

@@ -7,13 +7,13 @@
 namespace tarnview {
 
 EcuCommands::EcuCommands(MainWindowControls& controls, Globals& globals, Services& services,
-                         const RecentFiles& recent, MainWindow& mainWindow)
-    : controls_(controls),
-      globals_(globals),
-      recent_(recent),
-      mainWindow_(mainWindow),
-      world_{services.host,  globals.settings,  services.files,
-             services.clock, services.programs, services.messages} {}
+                         LogFiles& logFiles)
+    : controls_(controls), globals_(globals), logFiles_(logFiles), world_{services.host,
+                                                                          globals.settings,
+                                                                          services.files,
+                                                                          services.clock,
+                                                                          services.programs,
+                                                                          services.messages} {}
 
 std::vector<Command> EcuCommands::Rows() {
   return {
@@ -39,7 +39,7 @@ void EcuCommands::mnuToolsConvert_Click() {
     return;
   }
   world_.host.DoEvents();
-  if (mainWindow_.SaveChangesPrompt()) mainWindow_.LoadDataFile(window.TargetPath(), kFMLinkLog);
+  if (logFiles_.SaveChangesPrompt()) logFiles_.LoadDataFile(window.TargetPath(), kFMLinkLog);
 }
 
 ComparisonChoices EcuCommands::ChoicesForComparison() {
@@ -47,8 +47,9 @@ ComparisonChoices EcuCommands::ChoicesForComparison() {
   ComparisonChoices choices;
   choices.filter =
       types.Item(kFMLinkLog).CommonDialogFilter() + "|" + types.Item(kMAPFile).CommonDialogFilter();
-  for (int index = 0; index < recent_.Count(); ++index) {
-    const auto [fileType, path] = recent_.At(index);
+  const RecentFiles& recent = logFiles_.Recent();
+  for (int index = 0; index < recent.Count(); ++index) {
+    const auto [fileType, path] = recent.At(index);
     if (fileType == kFMLinkLog || fileType == kMAPFile) choices.recentFiles.push_back(path);
   }
   return choices;

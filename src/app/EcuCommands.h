@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "app/Globals.h"
+#include "app/LogFiles.h"
 #include "app/MainWindowControls.h"
-#include "app/RecentFiles.h"
 #include "desk/Commands.h"
 #include "ecu/Capture.h"
 #include "ecu/Upload.h"
@@ -18,9 +18,8 @@ namespace tarnview {
 /// that the zone editor asks for.
 class EcuCommands : private Upload::Editor {
  public:
-  using MainWindow = Capture::MainWindow;
   EcuCommands(MainWindowControls& controls, Globals& globals, Services& services,
-              const RecentFiles& recent, MainWindow& mainWindow);
+              LogFiles& logFiles);
 
   /// Loads the zones of a log or MAP file, and tells what goes wrong; nothing then.
   using LoadZones = std::function<std::optional<ZoneMap>(const std::string& path)>;
@@ -39,11 +38,10 @@ class EcuCommands : private Upload::Editor {
 
   MainWindowControls& controls_;
   Globals& globals_;
-  const RecentFiles& recent_;
-  MainWindow& mainWindow_;
+  LogFiles& logFiles_;
   LoadZones loadComparison_;
   EcuWorld world_;
-  Capture capture_{world_, mainWindow_};
+  Capture capture_{world_, logFiles_};
   Upload upload_{world_, *this};
 };
 

@@ -45,7 +45,12 @@ struct Globals {
   std::string gstrINIFile;            ///< full path of Tarnview.ini; empty: no settings file
   std::string gstrInstallINIFile;     ///< Tarnview_Install.ini beside it, else in the data folder
   std::string
-      gstrINIFileToWrite;     ///< where the settings are kept; empty: nowhere (the command line)
+      gstrINIFileToWrite;  ///< where the settings are kept; empty: nowhere (the command line)
+  /// Of the open log; before a first one, the type that the user opens most.
+  int UsualFileType() const {
+    return log.gintCurrentFileType > 0 ? log.gintCurrentFileType : settings.gintDefaultFileType;
+  }
+
   bool gblnStarting = false;  ///< until the first activation of the main window is over
 };
 

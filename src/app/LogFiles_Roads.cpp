@@ -1,7 +1,7 @@
-// The main window's road of a file whose kind is not sure: what it looks like, one question, and
-// the definition that it brings along.
+// The road of a file whose kind is not sure: what it looks like, one question, and the definition
+// that it brings along.
 
-#include "app/frmDataLogViewer.h"
+#include "app/LogFiles.h"
 #include "base/Paths.h"
 #include "customise/frmLogDescription.h"
 #include "universal/DefinitionWriter.h"
@@ -23,13 +23,11 @@ std::string ColumnsOf(const LogRoad& road) {
 
 }  // namespace
 
-bool frmDataLogViewer::OpenFile(const std::string& path, int fileType) {
+bool LogFiles::OpenFile(const std::string& path, int fileType) {
   const auto bytes = services_.files.Read(path);
   if (!bytes) return LoadDataFile(path, fileType);  // which says why
   const bool guessed = fileType == kUnknownFile;
-  const int wanted = guessed ? globals_.kinds.gcolFileTypes.GuessFileType(
-                                   path, globals_.settings.gintDefaultFileType)
-                             : fileType;
+  const int wanted = guessed ? Guessed(path) : fileType;
   LogRoad asWanted;
   const LoadOutcome trial =
       roads_.TryAs(*bytes, wanted, definition_.SettingsDefinition(), asWanted);
@@ -44,14 +42,14 @@ bool frmDataLogViewer::OpenFile(const std::string& path, int fileType) {
   return better ? false : TellNothingLoads(path, trial);
 }
 
-bool frmDataLogViewer::OpenByContent(const std::string& path) {
+bool LogFiles::OpenByContent(const std::string& path) {
   const auto bytes = services_.files.Read(path);
   auto road = bytes ? roads_.ByContent(*bytes, path) : std::nullopt;
   return road ? LoadAs(path, std::move(*road)) : LoadDataFile(path, kUnknownFile);
 }
 
-bool frmDataLogViewer::LoadAs(const std::string& path, LogRoad road) {
-  HideForLoad();  // the items of the log that is open go with its definition
+bool LogFiles::LoadAs(const std::string& path, LogRoad road) {
+  mainWindow_.HideForLoad();  // the items of the log that is open go with its definition
   if (road.definition)
     definition_.UseDefinitionOfLog(std::move(*road.definition));
   else
@@ -63,8 +61,7 @@ bool frmDataLogViewer::LoadAs(const std::string& path, LogRoad road) {
   return true;
 }
 
-frmDataLogViewer::Agreed frmDataLogViewer::AgreesTo(const LogRoad& road, const std::string& path,
-                                                    int chosenType) {
+LogFiles::Agreed LogFiles::AgreesTo(const LogRoad& road, const std::string& path, int chosenType) {
   std::string text;
   if (chosenType != kUnknownFile) {
     const clsFileType& type = globals_.kinds.gcolFileTypes.Item(chosenType);
@@ -75,52 +72,50 @@ frmDataLogViewer::Agreed frmDataLogViewer::AgreesTo(const LogRoad& road, const s
   const Box box{0, text, kBoxYesNo | kBoxQuestion, kApplicationTitle, "&Describe...", [&describe] {
                   describe = true;
                 }};
-  const bool yes = host.Ask(box) == Reply::Yes;
+  const bool yes = services_.host.Ask(box) == Reply::Yes;
   if (describe) return Agreed::Otherwise;
   return yes ? Agreed::Yes : Agreed::No;
 }
 
-void frmDataLogViewer::mnuFileNewLogDescription_Click() {
+void LogFiles::mnuFileNewLogDescription_Click() {
   if (!SaveChangesPrompt()) return;
-  Dialog dialog;
-  dialog.title = "Open";
+  Dialog dialog = OpenDialog();
   dialog.filter = "All Files (*.*)|*.*";
-  dialog.initialPath = log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory
-                                                    : log_.gstrCurrentFile;
-  dialog.path = log_.gstrCurrentFileTitle;
-  if (host.Choose(dialog)) DescribeLog(dialog.path);
+  if (services_.host.Choose(dialog)) DescribeLog(dialog.path);
 }
 
-/// The definition that is made is kept where the next look at a file finds it.
-bool frmDataLogViewer::DescribeLog(const std::string& path) {
+bool LogFiles::DescribeLog(const std::string& path) {
   auto bytes = services_.files.Read(path);
   if (!bytes) {
     services_.messages.ShowMessage(Message::FileNotLoaded);
     return false;
   }
-  frmLogDescription window(host, std::move(*bytes), path, roads_.Titles(),
+  frmLogDescription window(services_.host, std::move(*bytes), path, roads_.Titles(),
                            globals_.catalogue.gcolFixedDataItems);
   window.ShowModal();
   if (!window.Accepted()) return false;
   clsDataLog definition = window.Definition();
-  if (!globals_.gstrProgramFolder.empty()) {
-    const std::string folder =
-        AddBackslash(globals_.gstrProgramFolder + "Universal Data Log Formats");
-    services_.files.MakeFolder(folder);
-    if (!services_.files.Write(folder + FileTitle(definition.strName) + ".txt",
-                               DefinitionFileText(definition)))
-      services_.messages.ShowMessage(Message::SettingsNotWritten);
-  }
-  const std::string name = "Universal: " + definition.strName;
+  KeepDefinition(definition);
   LogRoad road;
   road.fileType = kUniversalLog;
-  road.takenAs = name;
+  road.takenAs = "Universal: " + definition.strName;
   road.definition = std::move(definition);
   return LoadAs(path, std::move(road));
 }
 
+/// Where the next look at a file finds it.
+void LogFiles::KeepDefinition(const clsDataLog& definition) {
+  if (globals_.gstrProgramFolder.empty()) return;
+  const std::string folder =
+      AddBackslash(globals_.gstrProgramFolder + "Universal Data Log Formats");
+  services_.files.MakeFolder(folder);
+  if (!services_.files.Write(folder + FileTitle(definition.strName) + ".txt",
+                             DefinitionFileText(definition)))
+    services_.messages.ShowMessage(Message::SettingsNotWritten);
+}
+
 /// The log that is open stays.
-bool frmDataLogViewer::TellNothingLoads(const std::string& path, const LoadOutcome& outcome) {
+bool LogFiles::TellNothingLoads(const std::string& path, const LoadOutcome& outcome) {
   loading_.TellUniversalOutcome(path, outcome);
   services_.messages.ShowMessage(Message::TooFewRecords);
   status_.Say("Loading failed");

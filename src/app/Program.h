@@ -45,6 +45,7 @@ class Program {
   Globals& Global() { return globals_; }
   const Globals& Global() const { return globals_; }
   frmDataLogViewer& MainWindow() { return *main_; }
+  void TellMessage(Message id) { messages_.ShowMessage(id); }
 
  private:
   bool HasINIFile();

@@ -1,6 +1,5 @@
 #include "app/frmDataLogViewer.h"
 
-#include "app/CommandLine.h"
 #include "app/SystemInformation.h"
 #include "app/frmAbout.h"
 #include "desk/Placement.h"
@@ -31,11 +30,10 @@ frmDataLogViewer::frmDataLogViewer(Globals& globals, Services& services, Setting
       output_(services.host, services.messages, services.errors),
       zoneInfluence_({fraZoneInfl, lblZoneInfl, picZoneInfl, mnuViewZoneInfl, cmdDrawGraph},
                      selection_, log_),
-      roads_(globals, services.files),
       tags_(services.host, log_.gcolLogTags, *this),
       scatter_(*this, globals, services, range_, status_, *this),
       power_(*this, globals, services, range_, *this),
-      ecu_(*this, globals, services, recent_, *this),
+      ecu_(*this, globals, services, logFiles_),
       zones_(*this, globals, services, *this),
       customising_(*this, globals, services, power_, zones_, *this),
       commands_(services.errors, "frmDataLogViewer") {
@@ -59,7 +57,7 @@ void frmDataLogViewer::Form_Load() {
   settingsFile_.LoadPresets();
   JoinDefinitionPresets();
   TakeSettings();
-  presets_.PopulatePresetGraphs(false, PresetFileType());
+  presets_.PopulatePresetGraphs(false, globals_.UsualFileType());
   zoneInfluence_.DisplayZoneInfluence();
   HideForLoad();
   GatherSettings();
@@ -68,20 +66,12 @@ void frmDataLogViewer::Form_Load() {
 
 void frmDataLogViewer::Form_Activate() {
   if (!globals_.gblnStarting) return;
-  loading_.LoadConversionFiles();
+  logFiles_.LoadConversionFiles();
   globals_.gblnStarting = false;
 }
 
 void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
-  const CommandLineFile file = ParseCommandLine(commandLine);
-  if (file.path.empty()) return;
-  const clsFileTypes& types = globals_.kinds.gcolFileTypes;
-  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType) : kUnknownFile;
-  if (!services_.files.FileExists(file.path)) {
-    services_.messages.ShowMessage(Message::FileNotLoaded);
-    return;
-  }
-  if (!OpenRecentlyUsedFile(0, file.path, fileType) || !cmdDrawGraph.Enabled) return;
+  if (!logFiles_.OpenFromCommandLine(commandLine) || !cmdDrawGraph.Enabled) return;
   chkQuickGraph.Value = true;
   DrawGraph();
 }
@@ -89,7 +79,7 @@ void frmDataLogViewer::OpenFromCommandLine(const std::string& commandLine) {
 bool frmDataLogViewer::DropFile(const std::string& path) {
   if (services_.files.FolderExists(path)) return false;
   return TrapEvent(services_.errors, "frmDataLogViewer", "DropFile", [&] {
-    if (SaveChangesPrompt()) OpenFile(path, kUnknownFile);
+    if (logFiles_.SaveChangesPrompt()) logFiles_.OpenFile(path, kUnknownFile);
   });
 }
 

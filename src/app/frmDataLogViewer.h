@@ -7,12 +7,9 @@
 #include "app/DefinitionInUse.h"
 #include "app/EcuCommands.h"
 #include "app/Globals.h"
-#include "app/LogLoading.h"
-#include "app/LogRoads.h"
+#include "app/LogFiles.h"
 #include "app/MainWindowControls.h"
-#include "app/MapSaving.h"
 #include "app/PowerWindows.h"
-#include "app/RecentFiles.h"
 #include "app/ScatterWindows.h"
 #include "app/SettingsFile.h"
 #include "app/ZoneWindows.h"
@@ -35,9 +32,9 @@
 
 namespace tarnview {
 
-/// The main window: it puts the parts of the Sample Graph together, opens files, and carries the
-/// menus.
+/// The main window: it puts the parts of the Sample Graph together and carries the menus.
 class frmDataLogViewer : public MainWindowControls,
+                         private LogFiles::SampleGraphWindow,
                          private SampleGraph::MainWindow,
                          private PointHighlight::MainWindow,
                          private Scrolling::MainWindow,
@@ -47,26 +44,16 @@ class frmDataLogViewer : public MainWindowControls,
                          private frmDataTags::MainWindow,
                          private ScatterWindows::SampleGraphWindow,
                          private PowerWindows::SampleGraphWindow,
-                         private EcuCommands::MainWindow,
                          private Customising::MainWindow,
                          private ZoneWindows::SampleGraphWindow {
  public:
   frmDataLogViewer(Globals& globals, Services& services, SettingsFile& settingsFile);
 
-  /// Opens a file; type 0 is guessed. False: nothing was loaded, and the user was told why.
-  bool LoadDataFile(const std::string& path, int fileType) override;
-  /// Opens a file as the user does: what does not load as `fileType` (0: guessed) is looked at, and
-  /// opened as what it looks like after a question. Where the kind was guessed and nothing loads,
-  /// the open log stays.
-  bool OpenFile(const std::string& path, int fileType);
-  /// Opens a file as what its content is, with no question; what is no log as its extension says.
-  bool OpenByContent(const std::string& path);
-  /// Opens an entry of the recent list; a `path` is entered first, on top.
-  bool OpenRecentlyUsedFile(int index, const std::string& path = "", int fileType = 0);
+  bool LoadDataFile(const std::string& path, int fileType) override {
+    return logFiles_.LoadDataFile(path, fileType);
+  }
   /// What a start with a file on the command line does: opens it and draws.
   void OpenFromCommandLine(const std::string& commandLine);
-  /// False: the user does not want to lose edited zones.
-  bool SaveChangesPrompt() override { return saving_.SaveChangesPrompt(); }
 
   /// Writes the settings file, where one is kept, with what the window shows now. False: the user
   /// was told.
@@ -75,10 +62,10 @@ class frmDataLogViewer : public MainWindowControls,
   /// The last export since a log was opened wrote its file.
   bool Exported() const { return exported_; }
   void DrawGraph() { graph_.DrawGraphChecked(); }
-  void TellMessage(Message id) { services_.messages.ShowMessage(id); }
   /// The plot range, as `Sample` values; 0 with no log.
   std::int64_t PlotFrom() const { return range_.From(); }
   std::int64_t PlotTo() const { return range_.To(); }
+  LogFiles& Files() { return logFiles_; }
   SampleDetails& Details() { return details_; }
   PresetGraphs& Presets() { return presets_; }
   ScatterWindows& Scatter() { return scatter_; }
@@ -88,14 +75,13 @@ class frmDataLogViewer : public MainWindowControls,
   Selection& Selected() { return selection_; }
   /// The next draw builds the graph in any case.
   void ForceRedraw() { redraw_.Force(); }
-  const RecentFiles& Recent() const { return recent_; }
 
   bool DropFile(const std::string& path) override;
   void Form_Activate() override;
 
  protected:
   void Form_Load() override;
-  bool Form_QueryUnload() override { return SaveChangesPrompt(); }
+  bool Form_QueryUnload() override { return logFiles_.SaveChangesPrompt(); }
   void Form_Unload() override;
   bool Form_KeyDown(const KeyPress& key) override;
   bool Form_KeyUp(const KeyPress& key) override;
@@ -106,22 +92,15 @@ class frmDataLogViewer : public MainWindowControls,
   void GatherSettings();
   void JoinDefinitionPresets();
 
-  // Opening a file.
-  void mnuFileOpen_Click();
-  void mnuFileNewLogDescription_Click();
-  bool DescribeLog(const std::string& path);
-  bool LoadNow(const std::string& path, int fileType);
-  bool LoadAs(const std::string& path, LogRoad road);
-  enum class Agreed { No, Yes, Otherwise };  ///< the last: the user wants to describe the log
-  Agreed AgreesTo(const LogRoad& road, const std::string& path, int chosenType);
-  bool TellNothingLoads(const std::string& path, const LoadOutcome& outcome);
-  void HideForLoad();
-  void LoadDatalogFileSuccess(int fileType);
+  // What a load clears and sets up.
+  void HideForLoad() override;
+  void LoadDatalogFileSuccess(int fileType) override;
+  void DrawAfterOpening(int fileType) override;
   void SetFirstRange();
   void SetDataLogViewerCaption();
   bool CanShowDataTags() const;
   void ShowDataTags();
-  void FileRenamed();
+  void FileRenamed() override;
   void RefreshDataTags();
 
   // The graph's windows, panel and files.
@@ -132,7 +111,6 @@ class frmDataLogViewer : public MainWindowControls,
   void mnuViewZoneInfl_Click();
   void DisplayZoneInfluence();
   bool IsLinkLog() const;
-  int PresetFileType() const;
 
   // Commands.
   std::vector<Command> FileCommands();
@@ -168,9 +146,7 @@ class frmDataLogViewer : public MainWindowControls,
   void TagsChanged() override { commands_.Update(); }
   void ShowPoint(std::int32_t sample) override;
   void PlotRun(const SampleRange& range, std::int32_t sample) override;
-  void CloseDataLogFile() override;
-  bool SaveMapFile(const std::string& path) override;
-  void Say(const std::string& status) override { status_.Say(status); }
+  void CloseDataLogFile() override { logFiles_.CloseDataLogFile(); }
   void ListsChanged() override;
   void OptionsChanged() override;
 
@@ -194,11 +170,8 @@ class frmDataLogViewer : public MainWindowControls,
   LogExport export_;
   ChartOutput output_;
   ZoneInfluencePanel zoneInfluence_;
-  RecentFiles recent_{mnuRecentlyUsed, mnuSepRecentlyUsed};
-  MapSaving saving_{globals_, services_, status_, recent_, [this] { FileRenamed(); }};
   DefinitionInUse definition_{globals_, services_};
-  LogLoading loading_{globals_, services_, status_, definition_, saving_};
-  LogRoads roads_;
+  LogFiles logFiles_{*this, globals_, services_, status_, *this};
   frmDataTags tags_;
   FormCollection<frmNonModalMessage> nonModalMessages_;
   ScatterWindows scatter_;

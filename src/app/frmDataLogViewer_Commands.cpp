@@ -15,10 +15,6 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
   return {
       // clang-format off
-      {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
-      {&mnuFileSave, "mnuFileSave_Click", [this] { saving_.Save(); }, [this] { return saving_.MaySave(); }},
-      {&mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { saving_.SaveAs(); }, [this] { return saving_.MaySaveAs(); }},
-      {&mnuFileNewLogDescription, "mnuFileNewLogDescription_Click", [this] { mnuFileNewLogDescription_Click(); }, {}},
       {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
       {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
@@ -116,14 +112,9 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 void frmDataLogViewer::BindCommands() {
   std::vector<Command> rows = FileCommands();
   for (auto&& part :
-       {ViewCommands(), ScrollCommands(), GraphMenuCommands(), OutputCommands(), scatter_.Rows(),
-        power_.Rows(), ecu_.Rows(), customising_.Rows(), zones_.Rows()})
+       {logFiles_.Rows(), ViewCommands(), ScrollCommands(), GraphMenuCommands(), OutputCommands(),
+        scatter_.Rows(), power_.Rows(), ecu_.Rows(), customising_.Rows(), zones_.Rows()})
     rows.insert(rows.end(), part.begin(), part.end());
-  for (const auto& item : mnuRecentlyUsed)
-    rows.push_back({item.get(),
-                    "mnuRecentlyUsed_Click",
-                    [this, index = item->index] { OpenRecentlyUsedFile(index); },
-                    {}});
   commands_.Bind(std::move(rows));
 
   chSampleGraph.RightClick = [this] {

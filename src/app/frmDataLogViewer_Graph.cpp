@@ -78,16 +78,10 @@ void frmDataLogViewer::mnuEditNewPreset_Click() {
   frmNewPresetName window(host, services_.messages, clsSampleGraphPresets::NEW_NAME);
   window.ShowModal();
   if (!window.Accepted()) return;
-  presets_.AddPreset(window.strName(), PresetFileType());
+  presets_.AddPreset(window.strName(), globals_.UsualFileType());
   WriteINIFile();
-  presets_.PopulatePresetGraphs(true, PresetFileType());
+  presets_.PopulatePresetGraphs(true, globals_.UsualFileType());
   commands_.Update();
-}
-
-/// Before a first log, presets are those of the file type that the user opens most.
-int frmDataLogViewer::PresetFileType() const {
-  return log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
-                                      : globals_.settings.gintDefaultFileType;
 }
 
 void frmDataLogViewer::mnuViewZoneInfl_Click() {

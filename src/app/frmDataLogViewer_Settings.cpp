@@ -22,13 +22,7 @@ void frmDataLogViewer::TakeSettings() {
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
   const std::string& picture = settings.gstrAlternativeBackgroundPicture;
   fraPicture.BackgroundPicture = services_.files.IsFile(picture) ? picture : std::string();
-  for (auto entry = settings.recentFiles.rbegin(); entry != settings.recentFiles.rend(); ++entry) {
-    const auto [fileType, path] = RecentFiles::ParseTag(*entry);
-    const int known = fileType == 0 ? globals_.kinds.gcolFileTypes.GuessFileType(
-                                          path, settings.gintDefaultFileType)
-                                    : fileType;
-    recent_.AddRecentlyUsedFile(path, known);
-  }
+  logFiles_.TakeRecentFiles();
   details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType,
                                           definition_.ItemsOf(settings.gintDefaultFileType));
   details_.SetCheckedItems(settings.gcolCheckedDataItems);
@@ -50,7 +44,7 @@ void frmDataLogViewer::GatherSettings() {
   settings.gintGraphYMax = kGraphYMaxLimits.Hold(StringToLong(txtYMax.Text()));
   settings.gblnShowCheckedOnly = chkShowCheckedOnly.Value;
   settings.gblnScatterGraphAutoDraw = mnuFileDrawScatter.Checked;
-  settings.recentFiles = recent_.Tags();
+  settings.recentFiles = logFiles_.Recent().Tags();
   settings.gcolCheckedDataItems = details_.CheckedItems();
   const clsLogDataItems& items = globals_.catalogue.gcolFixedDataItems;
   std::stable_sort(settings.gcolCheckedDataItems.begin(), settings.gcolCheckedDataItems.end(),
@@ -65,7 +59,7 @@ bool frmDataLogViewer::WriteINIFile() {
 }
 
 void frmDataLogViewer::ListsChanged() {
-  presets_.PopulatePresetGraphs(false, PresetFileType());
+  presets_.PopulatePresetGraphs(false, globals_.UsualFileType());
   scatter_.UpdatePresets();
   commands_.Update();
 }
@@ -76,7 +70,8 @@ void frmDataLogViewer::OptionsChanged() {
   const Settings& settings = globals_.settings;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
   fraPicture.BackgroundPicture = settings.gstrAlternativeBackgroundPicture;
-  details_.SetUpSampleGraphSampleListView(PresetFileType(), definition_.ItemsOf(PresetFileType()));
+  details_.SetUpSampleGraphSampleListView(globals_.UsualFileType(),
+                                          definition_.ItemsOf(globals_.UsualFileType()));
   if (log_.gblnSamplesLoaded) {
     SetDataLogViewerCaption();
     details_.ShowHighlighted();

@@ -62,10 +62,10 @@ LogSession::LogSession(const LogOptions& options)
 
 bool LogSession::Open() {
   if (files_.FileExists(options_.log)) {
-    if (options_.fileType == "auto") return Window().OpenByContent(options_.log);
+    if (options_.fileType == "auto") return Window().Files().OpenByContent(options_.log);
     return Window().LoadDataFile(options_.log, StringToLong(options_.fileType));
   }
-  Window().TellMessage(Message::FileNotLoaded);
+  TellMessage(Message::FileNotLoaded);
   return false;
 }
 

@@ -41,6 +41,7 @@ class LogSession {
   bool HasRange() const { return options_.from || options_.to; }
 
   frmDataLogViewer& Window() { return program_.MainWindow(); }
+  void TellMessage(Message id) { program_.TellMessage(id); }
   Globals& Global() { return program_.Global(); }
   const OpenLog& Log() { return program_.Global().log; }
   ConsoleHost& Host() { return host_; }

@@ -46,15 +46,15 @@ class DryRun {
     if (!map) return kFailed;
     const ZonesToUpload form = ZonesOfSheet(OpenSheet(*map), *map, settings);
     if (form.dblEngineSize != settings.gdblDefaultEngineSize) {
-      program_.MainWindow().TellMessage(Message::OtherEngineSize);
+      program_.TellMessage(Message::OtherEngineSize);
       return kFailed;
     }
     const UploadOptions upload = Chosen();
     const Comparison comparison =
         upload.blnChangesOnly ? Compared(upload.strComparisonFile) : Comparison{};
-    if (comparison.fault) program_.MainWindow().TellMessage(*comparison.fault);
+    if (comparison.fault) program_.TellMessage(*comparison.fault);
     if (!AirZonesFit(form.datChipDate, settings.gdatDefaultChipDate))
-      program_.MainWindow().TellMessage(Message::AirTempNotUploaded);
+      program_.TellMessage(Message::AirTempNotUploaded);
     const std::string text = MapText(MapToSend(settings, form, comparison), clock_.Now());
     std::printf("%s%s\n", ToUtf8(text).c_str(),
                 ShownAsUtf8(UploadCall(settings, upload).Text()).c_str());
@@ -75,9 +75,9 @@ class DryRun {
   std::optional<ZoneMap> ReadMap(const std::string& path) {
     const MapReading reading = ReadMapFile(files_, path, program_.Global().settings, false);
     if (!reading.error.empty()) host_.Ask({0, reading.error, kBoxExclamation, ""});
-    for (const Message message : reading.messages) program_.MainWindow().TellMessage(message);
+    for (const Message message : reading.messages) program_.TellMessage(message);
     if (reading.read) return reading.map;
-    program_.MainWindow().TellMessage(Message::NotAMapFile);
+    program_.TellMessage(Message::NotAMapFile);
     return std::nullopt;
   }
 

@@ -28,7 +28,7 @@ std::optional<ZoneMap> ZonesOf(const LogOptions& options) {
   LogSession session(options);
   if (!session.Open()) return std::nullopt;
   if (session.Log().gblnZonesLoaded) return MapOf(session.Log().zones);
-  session.Window().TellMessage(Message::ZonesNotLoaded);
+  session.TellMessage(Message::ZonesNotLoaded);
   return std::nullopt;
 }
 
@@ -171,7 +171,7 @@ int Zones(const ZonesOptions& options) {
   if (!options.mapToWrite.empty()) {
     RealFileSystem files;
     if (!WriteMapFile(files, options.mapToWrite, *map, RealClock().Now())) {
-      LogSession(options.file).Window().TellMessage(Message::SomethingWentWrong);
+      LogSession(options.file).TellMessage(Message::SomethingWentWrong);
       return kFailed;
     }
   }

@@ -37,14 +37,14 @@ TEST_F(Roads, WhoeverChoseAnotherTypeIsToldSo) {
   files.files["/run.csv"] = SmallLog(5);
   Start();
   host.messages.clear();
-  EXPECT_TRUE(Main().OpenFile("/run.csv", kLinkPlusLog));
+  EXPECT_TRUE(Main().Files().OpenFile("/run.csv", kLinkPlusLog));
   EXPECT_EQ(host.messages[0].text,
             "run.csv does not load as LinkPlus Data Log.\r\n"
             "This looks like a log of the kind FM Link Data Log. Open it so?");
   EXPECT_EQ(Log().gintCurrentFileType, kFMLinkLog);
   host.messages.clear();
   host.answers.push_back({Answer::Kind::No});
-  EXPECT_FALSE(Main().OpenFile("/run.csv", kLinkPlusLog));  // as ever
+  EXPECT_FALSE(Main().Files().OpenFile("/run.csv", kLinkPlusLog));  // as ever
   EXPECT_EQ(MessageIds(), (std::vector<int>{0, 53, 12}));
 }
 
@@ -53,12 +53,12 @@ TEST_F(Roads, TheOpenLogStaysWhereTheKindWasOnlyGuessed) {
   files.files["/run.csv"] = kStrange;
   files.files["/notes.txt"] = "nothing\r\nof a log\r\n";
   Start();
-  ASSERT_TRUE(Main().OpenFile("/good.txt", kUnknownFile));
+  ASSERT_TRUE(Main().Files().OpenFile("/good.txt", kUnknownFile));
   host.answers.push_back({Answer::Kind::No});
-  Main().OpenFile("/run.csv", kUnknownFile);
+  Main().Files().OpenFile("/run.csv", kUnknownFile);
   EXPECT_EQ(Main().Caption(), "Tarnview - good.txt (FM Link Data Log)");
   host.messages.clear();
-  EXPECT_FALSE(Main().OpenFile("/notes.txt", kUnknownFile));
+  EXPECT_FALSE(Main().Files().OpenFile("/notes.txt", kUnknownFile));
   EXPECT_EQ(MessageIds().back(), 12);
   EXPECT_EQ(Main().Caption(), "Tarnview - good.txt (FM Link Data Log)");
   EXPECT_EQ(Log().glngDataLog.Rows(), 5);
@@ -69,7 +69,7 @@ TEST_F(Roads, TheDefinitionOfTheSettingsIsBackForTheNextLog) {
   files.files["/run.csv"] = kStrange;
   files.files["/hydra.csv"] = "timestamp,Engine Speed (RPM)\n0,1000\n100,2000\n200,3000\n";
   Start();
-  ASSERT_TRUE(Main().OpenByContent("/run.csv"));
+  ASSERT_TRUE(Main().Files().OpenByContent("/run.csv"));
   const std::string settings = program->Global().gclsDataLogDefinition.strName;
   ASSERT_TRUE(Main().LoadDataFile("/hydra.csv", kUniversalLog));
   EXPECT_EQ(settings, "run.csv");
@@ -96,7 +96,7 @@ TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
     files.files["/run.csv"] = log;
     Start();
     program->Global().dataFolder = "/data/";
-    Main().OpenByContent("/run.csv");
+    Main().Files().OpenByContent("/run.csv");
     EXPECT_EQ(program->Global().takenAs, taken);
     EXPECT_NEAR(Log().gcolDataItems->Item(23).GetRawData(Log().glngDataLog(22, 3)), 83.9, 0.05);
   }
@@ -128,7 +128,7 @@ TEST_F(Roads, ADefinitionWhoseClockReadsOtherwiseIsPassedOver) {
     for (const char* stamp : row.stamps) files.files["/run.csv"] += std::string(stamp) + ",80\n";
     Start();
     program->Global().dataFolder = "/data/";
-    Main().OpenByContent("/run.csv");
+    Main().Files().OpenByContent("/run.csv");
     EXPECT_EQ(program->Global().takenAs, row.taken) << head << row.stamps[1];
   }
 }
@@ -138,7 +138,7 @@ TEST_F(Roads, TheProgramsOwnFilesAreNoLogs) {
     files.files[path] = kStrange;
     Start();
     host.messages.clear();
-    EXPECT_FALSE(Main().OpenByContent(path)) << path;
+    EXPECT_FALSE(Main().Files().OpenByContent(path)) << path;
     EXPECT_FALSE(host.messages.empty()) << path;
   }
 }

@@ -82,7 +82,7 @@ TEST_F(MapSavingTest, SaveAs) {
   host.answers = {{Answer::Kind::File, "/car/b.map"}};
   Main().mnuFileSaveAs.Do({"click", {}});
   EXPECT_EQ(Main().Caption(), "Tarnview - b.map (FM Link MAP File)");
-  EXPECT_EQ(Main().Recent().At(0).path, "/car/b.map");
+  EXPECT_EQ(Main().Files().Recent().At(0).path, "/car/b.map");
   EXPECT_TRUE(files.files.contains("/car/b.map"));
 }
 
@@ -110,7 +110,7 @@ TEST_F(MapSavingTest, TheLogThatZonesCameFromIsNoPlaceForThem) {
   Dirty();
   // "Yes, save", the refusal, and a name of its own.
   host.answers = {{Answer::Kind::Yes}, {}, {Answer::Kind::File, "/car/zones.map"}};
-  EXPECT_TRUE(Main().SaveChangesPrompt());
+  EXPECT_TRUE(Main().Files().SaveChangesPrompt());
   ASSERT_EQ(host.messages.size(), 2u);
   EXPECT_TRUE(host.messages[1].text.starts_with("The log that is open is never written over:"));
   EXPECT_EQ(files.files["/car/run.map"], log);
@@ -126,10 +126,10 @@ TEST_F(MapSavingTest, EditedZonesAreAskedFor) {
                {Answer::Kind::Cancel, false, false}};
   for (const auto& c : cases) {
     Open();
-    EXPECT_TRUE(Main().SaveChangesPrompt());
+    EXPECT_TRUE(Main().Files().SaveChangesPrompt());
     Dirty();
     host.answers = {{c.answer}};
-    EXPECT_EQ(Main().SaveChangesPrompt(), c.goesOn);
+    EXPECT_EQ(Main().Files().SaveChangesPrompt(), c.goesOn);
     EXPECT_EQ(Texts(), "51 Do you want to save the changes made to a.map?\n");
     EXPECT_EQ(files.files["/car/a.map"] != Map(), c.written);
   }

@@ -1,84 +1,11 @@
-// The main window's road of one file: choosing it, loading it, what a load clears and what it sets
-// up.
+// What a load clears in the main window, and what it sets up.
 
 #include <algorithm>
 
 #include "app/frmDataLogViewer.h"
-#include "base/Paths.h"
 #include "samplegraph/GraphScale.h"
-#include "zones/MapFile.h"
 
 namespace tarnview {
-namespace {
-
-/// In the error log.
-constexpr long kLoadingFailed = -static_cast<long>(Message::TooFewRecords);
-
-}  // namespace
-
-void frmDataLogViewer::mnuFileOpen_Click() {
-  if (!SaveChangesPrompt()) return;
-  const clsFileTypes& types = globals_.kinds.gcolFileTypes;
-  Dialog dialog;
-  dialog.title = "Open";
-  dialog.filter = types.CommonDialogFilter();
-  dialog.filterIndex =
-      types.SequenceFromID(log_.gintCurrentFileType > 0 ? log_.gintCurrentFileType
-                                                        : globals_.settings.gintDefaultFileType);
-  dialog.initialPath = log_.gstrCurrentFile.empty() ? globals_.settings.gstrDefaultWorkingDirectory
-                                                    : log_.gstrCurrentFile;
-  dialog.path = log_.gstrCurrentFileTitle;
-  if (!host.Choose(dialog)) return;
-  host.DoEvents();
-  OpenFile(dialog.path, types.IDFromSequence(dialog.filterIndex));
-}
-
-bool frmDataLogViewer::OpenRecentlyUsedFile(int index, const std::string& path, int fileType) {
-  if (!SaveChangesPrompt()) return false;
-  if (!path.empty()) recent_.AddRecentlyUsedFile(path, fileType);
-  if (index >= recent_.Count()) return false;
-  const RecentFiles::Entry entry = recent_.At(index);
-  bool loaded = false;
-  if (services_.files.FileExists(entry.path))
-    loaded = OpenFile(entry.path, entry.fileType);
-  else
-    services_.messages.ShowMessage(Message::FileNotLoaded);
-  recent_.Rewrite();
-  return loaded;
-}
-
-bool frmDataLogViewer::LoadDataFile(const std::string& path, int fileType) {
-  if (definition_.IsOfLog()) HideForLoad();
-  definition_.UseDefinitionOfSettings();
-  globals_.takenAs.clear();
-  return LoadNow(path, fileType);
-}
-
-bool frmDataLogViewer::LoadNow(const std::string& path, int fileType) {
-  const AtWork work(*this, status_);
-  HideForLoad();
-  if (fileType == kUnknownFile)
-    fileType =
-        globals_.kinds.gcolFileTypes.GuessFileType(path, globals_.settings.gintDefaultFileType);
-  log_.gstrCurrentFile = path;
-  log_.gstrCurrentFileTitle = FileTitle(path);
-  log_.gintCurrentFileType = fileType;
-  const bool loaded = loading_.Load(path, fileType);
-  status_.HideProgress();
-  if (loaded) {
-    recent_.AddRecentlyUsedFile(path, fileType);
-    LoadDatalogFileSuccess(fileType);
-    status_.Say("Loading complete");
-    if (globals_.settings.beyond.drawAfterOpening && graph_.AnyChecked()) DrawGraph();
-    if (fileType != kMAPFile) scatter_.DrawAutoScatterGraphs();
-  } else {
-    services_.messages.ShowMessage(Message::TooFewRecords);
-    status_.Say("Loading failed");
-    services_.errors.LogError(name, "LoadDataFile",
-                              RuntimeError(kLoadingFailed, "Loading failed: " + path), false);
-  }
-  return loaded;
-}
 
 void frmDataLogViewer::HideForLoad() {
   exported_ = false;
@@ -104,20 +31,6 @@ void frmDataLogViewer::HideForLoad() {
   host.DoEvents();
 }
 
-void frmDataLogViewer::CloseDataLogFile() {
-  HideForLoad();
-  log_.Clear(globals_.catalogue.gcolFixedDataItems, 0);
-  log_.gstrCurrentFile.clear();
-  log_.gstrCurrentFileTitle.clear();
-  log_.gintCurrentFileType = kUnknownFile;
-  log_.gblnZonesDirty = false;
-  commands_.Update();
-}
-
-bool frmDataLogViewer::SaveMapFile(const std::string& path) {
-  return WriteMapFile(services_.files, path, MapOf(log_.zones), services_.clock.Now());
-}
-
 void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
   details_.SetUpSampleGraphSampleListView(fileType, *log_.gcolDataItems);
   if (log_.gblnSamplesLoaded) {
@@ -141,6 +54,11 @@ void frmDataLogViewer::LoadDatalogFileSuccess(int fileType) {
   RefreshDataTags();
   scatter_.RefreshDataItems();
   power_.LogIsOpen();
+}
+
+void frmDataLogViewer::DrawAfterOpening(int fileType) {
+  if (globals_.settings.beyond.drawAfterOpening && graph_.AnyChecked()) DrawGraph();
+  if (fileType != kMAPFile) scatter_.DrawAutoScatterGraphs();
 }
 
 void frmDataLogViewer::SetFirstRange() {
