@@ -11,6 +11,7 @@ ChartDescription Empty() {
   chart.kind = Curves{};
   chart.x = {0, 100, 2, "0", "", 2};
   chart.y = {0, 100, 2, "0"};
+  chart.colours.text = 0x123456;
   return chart;
 }
 
@@ -69,6 +70,7 @@ TEST_F(MarkLabelsTest, TicksStandBetweenTheDivisionsThatSaySo) {
   chart.SetDescription(Empty());
   EXPECT_TRUE(chart.xAxis->subTicks());
   EXPECT_EQ(qSharedPointerCast<QCPAxisTickerText>(chart.xAxis->ticker())->subTickCount(), 1);
+  EXPECT_EQ(chart.xAxis->subTickPen(), chart.xAxis->tickPen());
   EXPECT_FALSE(chart.yAxis->subTicks());
 }
 

@@ -117,6 +117,7 @@ void ChartWidget::ApplyColours() {
     if (!axis) continue;
     axis->setBasePen(QPen(colours.text, 1));
     axis->setTickPen(QPen(colours.text, 1));
+    axis->setSubTickPen(QPen(colours.text, 1));
     axis->setTickLabelColor(colours.text);
     axis->setLabelColor(colours.text);
     axis->grid()->setPen(QPen(colours.grid, 1));
