@@ -135,8 +135,11 @@ void GridPainter::Current(const QRect& place) const {
 void GridPainter::Ring(const QPointF& centre, double radius) const {
   painter_.setRenderHint(QPainter::Antialiasing, true);
   painter_.setBrush(Qt::NoBrush);
-  // A light line under a dark one is seen on every colour.
-  for (const QPen& pen : {QPen(Qt::white, 4), QPen(Qt::black, 2)}) {
+  // A light line under a dark one is seen on every colour; numbers shine through both.
+  QColor light = Qt::white, dark = Qt::black;
+  light.setAlphaF(0.5F);
+  dark.setAlphaF(0.8F);
+  for (const QPen& pen : {QPen(light, 3.5), QPen(dark, 1.5)}) {
     painter_.setPen(pen);
     painter_.drawEllipse(centre, radius, radius);
   }
