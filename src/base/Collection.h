@@ -32,7 +32,8 @@ class Collection {
   const T* Item(std::string_view key) const {
     const auto found = std::find_if(entries_.begin(), entries_.end(),
                                     [&](const Entry& e) { return e.key == key; });
-    return found == entries_.end() ? nullptr : found->item.get();
+    if (found == entries_.end()) return nullptr;
+    return found->item.get();
   }
 
   void Remove(int position) { entries_.erase(entries_.begin() + (position - 1)); }

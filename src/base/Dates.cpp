@@ -47,12 +47,14 @@ std::optional<std::array<std::string_view, 3>> ThreeParts(std::string_view text)
       return std::nullopt;
     }
   }
-  return count == parts.size() ? std::optional(parts) : std::nullopt;
+  if (count == parts.size()) return std::optional(parts);
+  return std::nullopt;
 }
 
 /// -1 where the text is none.
 int NumberOfDigits(std::string_view text, std::size_t most) {
-  return IsDigit(text[0]) && text.size() <= most ? StringToLong(text) : -1;
+  if (IsDigit(text[0]) && text.size() <= most) return StringToLong(text);
+  return -1;
 }
 
 int MonthOf(std::string_view text) {

@@ -80,7 +80,8 @@ bool ReadAll(int file, FileBytes& bytes, std::size_t expected) {
 std::string Resolved(const std::string& path) {
   const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
                                                          &std::free);
-  return real ? real.get() : path;
+  if (real) return real.get();
+  return path;
 }
 
 std::string FolderOf(const std::string& path) {

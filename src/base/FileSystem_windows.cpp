@@ -102,7 +102,8 @@ std::string RealFileSystem::WhyNotRead(const std::string& path) {
   LARGE_INTEGER size;
   if (GetFileType(file()) != FILE_TYPE_DISK || !GetFileSizeEx(file(), &size))
     return "It is not a file.";
-  return size.QuadPart > kMostFileBytes ? kTooLargeToRead : kNoMemoryToRead;
+  if (size.QuadPart > kMostFileBytes) return kTooLargeToRead;
+  return kNoMemoryToRead;
 }
 
 bool RealFileSystem::Write(const std::string& path, std::string_view bytes) {

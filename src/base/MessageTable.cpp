@@ -208,10 +208,11 @@ constexpr QuestionRow kQuestions[] = {
 };
 
 template <class Table, class Id>
-auto* RowOf(const Table& table, Id id) {
+auto RowOf(const Table& table, Id id) -> decltype(&*std::begin(table)) {
   const auto found = std::find_if(std::begin(table), std::end(table),
                                   [id](const auto& row) { return row.id == id; });
-  return found == std::end(table) ? nullptr : &*found;
+  if (found == std::end(table)) return nullptr;
+  return &*found;
 }
 
 }  // namespace
@@ -220,7 +221,8 @@ const MessageRow* FindMessage(Message id) { return RowOf(kMessages, id); }
 
 const char* QuestionText(Question id) {
   const QuestionRow* row = RowOf(kQuestions, id);
-  return row ? row->text : "Do you want to proceed?";
+  if (row) return row->text;
+  return "Do you want to proceed?";
 }
 
 }  // namespace tarnview

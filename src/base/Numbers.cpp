@@ -52,7 +52,8 @@ const char* SkipExponent(const char* at, const char* end) {
   const char* digits = at + 1;
   if (digits != end && (*digits == '-' || *digits == '+')) ++digits;
   const char* behind = SkipDigits(digits, end);
-  return behind == digits ? at : behind;
+  if (behind == digits) return at;
+  return behind;
 }
 
 /// Behind all of a numeric text's number; nullptr if the text is not numeric.
@@ -60,14 +61,16 @@ const char* EndOfNumeric(std::string_view text, const Scan& scan) {
   if (!scan.found) return nullptr;
   const char* end = text.data() + text.size();
   const char* behind = SkipExponent(scan.end, end);
-  return SkipBlanks(behind, end) == end ? behind : nullptr;
+  if (SkipBlanks(behind, end) == end) return behind;
+  return nullptr;
 }
 
 double Convert(const Scan& scan, const char* end) {
   if (!scan.found) return 0;
   double value = 0;
   if (std::from_chars(scan.digits, end, value).ec != std::errc()) return 0;
-  return scan.negative ? -value : value;
+  if (scan.negative) return -value;
+  return value;
 }
 
 /// Scientific notation with the point and the trailing zeros gone: "-123" and the exponent of its
@@ -115,7 +118,8 @@ double PowerOfTen(int places) {
 double RoundPlaces(double value, int places) {
   const double scale = PowerOfTen(places);
   const double scaled = value * scale;
-  return std::isfinite(scaled) ? RoundHalfEven(scaled) / scale : value;
+  if (std::isfinite(scaled)) return RoundHalfEven(scaled) / scale;
+  return value;
 }
 
 std::string NumberText(double value) {

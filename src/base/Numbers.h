@@ -31,14 +31,16 @@ inline double WithoutFraction(double value) {
   return value + kNoFraction - kNoFraction;
 }
 inline double RoundHalfEven(double value) {
-  return std::fabs(value) < 2251799813685248.0 ? WithoutFraction(value) : std::nearbyint(value);
+  if (std::fabs(value) < 2251799813685248.0) return WithoutFraction(value);
+  return std::nearbyint(value);
 }
 /// The nearest whole number; 0 where that does not fit 32 bits or is no number.
 inline std::int32_t RoundToLong(double value) {
   const double rounded = RoundHalfEven(value);
   using Limits = std::numeric_limits<std::int32_t>;
-  return rounded >= Limits::min() && rounded <= Limits::max() ? static_cast<std::int32_t>(rounded)
-                                                              : 0;
+  if (rounded >= Limits::min() && rounded <= Limits::max())
+    return static_cast<std::int32_t>(rounded);
+  return 0;
 }
 /// 10^places; 0 to 15 places.
 double PowerOfTen(int places);
@@ -102,12 +104,14 @@ double ValDoubleSlowly(std::string_view text);
 
 inline double StringToDouble(std::string_view text) {
   double value;
-  return detail::ReadShortNumber(text, value) ? value : detail::StringToDoubleSlowly(text);
+  if (detail::ReadShortNumber(text, value)) return value;
+  return detail::StringToDoubleSlowly(text);
 }
 
 inline double ValDouble(std::string_view text) {
   double value;
-  return detail::ReadShortNumber(text, value) ? value : detail::ValDoubleSlowly(text);
+  if (detail::ReadShortNumber(text, value)) return value;
+  return detail::ValDoubleSlowly(text);
 }
 
 inline std::int32_t StringToLong(std::string_view text) {

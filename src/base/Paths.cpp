@@ -12,15 +12,16 @@ bool IsSeparator(char c) { return kSeparators.find(c) != std::string_view::npos;
 
 std::string_view Title(std::string_view path) {
   const auto separator = path.find_last_of(kSeparators);
-  return separator == std::string_view::npos ? path : path.substr(separator + 1);
+  if (separator == std::string_view::npos) return path;
+  return path.substr(separator + 1);
 }
 
 /// The separator that a path uses, else the platform's own.
 char SeparatorOf(std::string_view path) {
   const auto separator = path.find_last_of(kSeparators);
-  return separator == std::string_view::npos
-             ? static_cast<char>(std::filesystem::path::preferred_separator)
-             : path[separator];
+  if (separator == std::string_view::npos)
+    return static_cast<char>(std::filesystem::path::preferred_separator);
+  return path[separator];
 }
 
 bool IsWithinCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
@@ -42,7 +43,8 @@ std::string_view EndOf(std::string_view text, std::size_t length) {
 std::string GetExtension(std::string_view path) {
   const auto title = Title(path);
   const auto point = title.rfind('.');
-  return point == std::string_view::npos ? "" : std::string(title.substr(point + 1));
+  if (point == std::string_view::npos) return "";
+  return std::string(title.substr(point + 1));
 }
 
 std::string GetParentFolder(std::string_view path) {

@@ -80,7 +80,8 @@ std::optional<int> ExitCodeOf(pid_t process, int options) {
   if (ended < 0) return 0;  // somebody else has taken its status
   // A program that a signal ended has the status that shells give it.
   const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-  return code < 128 ? code : code - 256;
+  if (code < 128) return code;
+  return code - 256;
 }
 
 }  // namespace
@@ -123,7 +124,8 @@ int RealProcesses::Open(const std::string& path) {
       "& exit 0";
   pid_t process = 0;
   if (Start("/bin/sh", {"sh", "-c", kScript, "sh", path}, "", process) != 0) return kNoAssociation;
-  return ExitCodeOf(process, 0) == 0 ? kOpened : kNoAssociation;
+  if (ExitCodeOf(process, 0) == 0) return kOpened;
+  return kNoAssociation;
 }
 
 }  // namespace tarnview

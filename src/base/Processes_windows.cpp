@@ -16,7 +16,8 @@ std::string WordsFor(DWORD error) {
                                       nullptr, error, 0, text, sizeof text, nullptr);
   std::string words(text, length);
   while (!words.empty() && static_cast<unsigned char>(words.back()) <= ' ') words.pop_back();
-  return words.empty() ? "Error " + std::to_string(error) : words;
+  if (words.empty()) return "Error " + std::to_string(error);
+  return words;
 }
 
 bool HasEnded(HANDLE process, DWORD milliseconds) {

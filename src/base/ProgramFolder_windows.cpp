@@ -10,12 +10,14 @@ namespace tarnview {
 std::string ProgramFolder() {
   char path[MAX_PATH];
   const DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
-  return length == 0 || length == MAX_PATH ? "" : GetParentFolder(std::string(path, length));
+  if (length == 0 || length == MAX_PATH) return "";
+  return GetParentFolder(std::string(path, length));
 }
 
 std::string UserFolder() {
   const char* data = std::getenv("APPDATA");
-  return data && *data ? std::string(data) + "\\Tarnview\\" : "";
+  if (data && *data) return std::string(data) + "\\Tarnview\\";
+  return "";
 }
 
 }  // namespace tarnview

@@ -24,22 +24,28 @@ constexpr std::array<std::uint16_t, 32> kHighControls{
 char ByteOf(std::uint32_t code) {
   if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<char>(code);
   const auto found = std::find(kHighControls.begin(), kHighControls.end(), code);
-  return found == kHighControls.end() ? '?'
-                                      : static_cast<char>(0x80 + (found - kHighControls.begin()));
+  if (found == kHighControls.end()) return '?';
+  return static_cast<char>(0x80 + (found - kHighControls.begin()));
 }
 
 constexpr std::uint32_t kIllFormed = 0xFFFD;
+
+/// Of a character of UTF-8, in bytes; 0 for a byte that none begins with.
+std::size_t LengthByLead(unsigned char lead) {
+  constexpr struct {
+    unsigned char below;
+    std::size_t length;
+  } kLeads[] = {{0x80, 1}, {0xC2, 0}, {0xE0, 2}, {0xF0, 3}, {0xF5, 4}};
+  for (const auto& row : kLeads)
+    if (lead < row.below) return row.length;
+  return 0;
+}
 
 /// Takes one character off the front; an ill-formed byte counts as a character that Windows-1252
 /// lacks.
 std::uint32_t TakeCharacter(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text[0]);
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
+  const std::size_t length = LengthByLead(lead);
   if (length == 0 || length > text.size()) {
     text.remove_prefix(1);
     return kIllFormed;
@@ -78,7 +84,8 @@ void AddUtf8(std::string& out, std::uint32_t code) {
 
 std::uint32_t CodeOf(char c) {
   const auto byte = static_cast<unsigned char>(c);
-  return byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80u] : byte;
+  if (byte >= 0x80 && byte < 0xA0) return kHighControls[byte - 0x80u];
+  return byte;
 }
 
 bool IsAscii(std::string_view text) {
@@ -158,7 +165,8 @@ std::string Upper(std::string_view text) {
 }
 
 std::string CaseKey(std::string_view text) {
-  return IsAscii(text) || IsWellFormed(text) ? Upper(text) : UpperUtf8(ToUtf8(text));
+  if (IsAscii(text) || IsWellFormed(text)) return Upper(text);
+  return UpperUtf8(ToUtf8(text));
 }
 
 bool SameIgnoringCase(std::string_view a, std::string_view b) {
@@ -191,7 +199,8 @@ std::string Join(const std::vector<std::string>& parts, std::string_view delimit
 void Sort2DStringArray(std::vector<std::vector<std::string>>& table, std::size_t sortColumn,
                        std::size_t firstRow) {
   const auto cell = [sortColumn](const std::vector<std::string>& row) {
-    return sortColumn < row.size() ? std::string_view(row[sortColumn]) : std::string_view();
+    if (sortColumn < row.size()) return std::string_view(row[sortColumn]);
+    return std::string_view();
   };
   if (firstRow >= table.size()) return;
   std::stable_sort(table.begin() + static_cast<std::ptrdiff_t>(firstRow), table.end(),

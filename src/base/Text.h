@@ -18,7 +18,13 @@ std::string_view StripQuotes(std::string_view text);
 
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 constexpr char AsciiUpper(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  if (c >= 'a' && c <= 'z') return static_cast<char>(c - 'a' + 'A');
+  return c;
+}
+/// The text; `instead` where it is empty.
+inline std::string OrElse(std::string_view text, std::string_view instead) {
+  if (text.empty()) text = instead;
+  return std::string(text);
 }
 /// In the text's own encoding: UTF-8 where all of it reads as such, else Windows-1252.
 std::string Upper(std::string_view text);
