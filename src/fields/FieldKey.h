@@ -32,7 +32,8 @@ inline constexpr FieldKey kHighestBytes[kWordLength + 1] = {0,
 /// Eight characters leave no byte for the length: their first one stands there, and must not look
 /// like it.
 inline FieldKey KeyOfLongField(FieldKey word, std::size_t length) {
-  return length == kWordLength && (word & 0xFF) >= ' ' ? word : kOtherField;
+  if (length == kWordLength && (word & 0xFF) >= ' ') return word;
+  return kOtherField;
 }
 
 }  // namespace detail

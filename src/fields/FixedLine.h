@@ -28,7 +28,8 @@ class FixedLine {
   std::string_view Text(int at, int length) const {
     const auto start = static_cast<std::size_t>(at - 1), wanted = static_cast<std::size_t>(length);
     if (start + wanted <= length_) return {text_ + start, wanted};
-    return start < length_ ? std::string_view(text_ + start, length_ - start) : std::string_view();
+    if (start < length_) return std::string_view(text_ + start, length_ - start);
+    return std::string_view();
   }
   bool Has(int at, std::string_view word) const {
     return Text(at, static_cast<int>(word.size())) == word;
@@ -37,11 +38,13 @@ class FixedLine {
   /// StringToDouble, StringToLong of a field of up to 8 characters.
   double Number(int at, int length) const {
     std::int32_t digits;
-    return OnlyDigits(at, length, digits) ? digits : StringToDouble(Text(at, length));
+    if (OnlyDigits(at, length, digits)) return digits;
+    return StringToDouble(Text(at, length));
   }
   std::int32_t Whole(int at, int length) const {
     std::int32_t digits;
-    return OnlyDigits(at, length, digits) ? digits : StringToLong(Text(at, length));
+    if (OnlyDigits(at, length, digits)) return digits;
+    return StringToLong(Text(at, length));
   }
 
  private:
