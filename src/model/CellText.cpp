@@ -48,9 +48,9 @@ char* CellTexts::Write(Cell& cell, std::int32_t index, char* to) {
   if (cell.item->intType == kListItem) {
     const auto place = static_cast<std::size_t>(stored);
     const auto& texts = cell.item->varDescList;
-    return stored >= 0 && place < texts.size()
-               ? std::copy(texts[place].begin(), texts[place].end(), to)
-               : to;
+    if (stored >= 0 && place < texts.size())
+      return std::copy(texts[place].begin(), texts[place].end(), to);
+    return to;
   }
   if (!cell.known || stored != cell.stored) {
     cell.stored = stored;

@@ -24,7 +24,8 @@ ConversionTable ConversionFiles::LoadConversionTable(const std::string& path,
     return defaults;
   }
   ConversionTable table = ParseConversionTable(*text);
-  return table.empty() ? defaults : table;
+  if (table.empty()) return defaults;
+  return table;
 }
 
 void ConversionFiles::LoadO2ConvFile(ConversionTables& tables, const std::string& path) {

@@ -14,9 +14,13 @@ struct Keyed {
   const ConversionTable& table;
   bool reverse;
 
-  double Key(std::size_t row) const { return reverse ? table[row].second : table[row].first; }
+  double Key(std::size_t row) const {
+    if (reverse) return table[row].second;
+    return table[row].first;
+  }
   std::int32_t Output(std::size_t row) const {
-    return reverse ? table[row].first : table[row].second;
+    if (reverse) return table[row].first;
+    return table[row].second;
   }
 };
 
@@ -102,7 +106,10 @@ std::int32_t TableLookup(std::int32_t value, const ConversionTable& table, bool 
   for (;;) {
     const std::size_t from = row;
     if (row == (up ? last : 0)) return rows.Output(row);
-    row = up ? row + 1 : row - 1;
+    if (up)
+      row = row + 1;
+    else
+      row = row - 1;
     if (rows.Key(row) == value) return rows.Output(row);
     if ((rows.Key(row) < value) != below) return Between(value, rows, from, row, interpolate);
   }
@@ -112,7 +119,8 @@ std::int32_t ReturnClosest(std::int32_t target, std::int32_t a, std::int32_t b) 
   const auto distance = [target](std::int32_t value) {
     return std::abs(std::int64_t{value} - target);
   };
-  return distance(b) < distance(a) ? b : a;
+  if (distance(b) < distance(a)) return b;
+  return a;
 }
 
 std::int32_t MatchAFToO2Limitations(std::int32_t value, const ConversionTable& O2) {
@@ -120,7 +128,8 @@ std::int32_t MatchAFToO2Limitations(std::int32_t value, const ConversionTable& O
 }
 
 double LinearInterpolate(double x1, double x2, double x, double y1, double y2, bool clamp) {
-  double t = x2 > x1 ? (x - x1) / (x2 - x1) : 0;
+  double t = 0;
+  if (x2 > x1) t = (x - x1) / (x2 - x1);
   if (clamp && t > 1) t = 1;
   return y1 + (y2 - y1) * t;
 }

@@ -242,8 +242,8 @@ std::string FileKey(int n) { return "File " + std::to_string(n); }
 int ZoomAmount(int wanted) {
   constexpr auto& amounts = kZoomBoxAmounts;
   if (wanted > amounts.back()) return amounts.back();
-  return std::find(amounts.begin(), amounts.end(), wanted) == amounts.end() ? amounts.front()
-                                                                            : wanted;
+  if (std::find(amounts.begin(), amounts.end(), wanted) == amounts.end()) return amounts.front();
+  return wanted;
 }
 
 void ReadGeneralSettings(const IniTable& table, const IniTable* install, Settings& settings) {

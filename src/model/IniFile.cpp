@@ -26,7 +26,8 @@ void IniTable::Add(IniRow row) {
 
 const std::string* IniTable::Find(std::string_view section, std::string_view key) const {
   const auto found = first_.find(IndexOf(section, key));
-  return found == first_.end() ? nullptr : &rows_[found->second].value;
+  if (found == first_.end()) return nullptr;
+  return &rows_[found->second].value;
 }
 
 IniTable ReadINIFileToArray(std::string_view text) {
@@ -51,7 +52,8 @@ IniTable ReadINIFileToArray(std::string_view text) {
 std::optional<std::string_view> GetINIValue(const IniTable& table, std::string_view section,
                                             std::string_view key) {
   const std::string* value = table.Find(section, key);
-  return value ? std::optional<std::string_view>(*value) : std::nullopt;
+  if (value) return std::optional<std::string_view>(*value);
+  return std::nullopt;
 }
 
 std::string ReadProfileValue(const IniTable& table, std::string_view section,

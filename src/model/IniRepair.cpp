@@ -76,7 +76,8 @@ class Repair {
     if (equals == std::string_view::npos) return std::nullopt;
     const auto key = Key(line.substr(0, equals));
     const auto value = Value(line.substr(equals + 1));
-    return key && value ? std::optional(*key + "=" + *value) : std::nullopt;
+    if (key && value) return std::optional(*key + "=" + *value);
+    return std::nullopt;
   }
 
   std::optional<std::string> Key(std::string_view key) const {

@@ -33,7 +33,8 @@ class SampleStore {
 
   std::int32_t operator()(int column, int row) const {
     const std::int32_t* cells = columns_[static_cast<std::size_t>(column)];
-    return cells ? cells[static_cast<std::size_t>(row)] : 0;
+    if (cells) return cells[static_cast<std::size_t>(row)];
+    return 0;
   }
   void Set(int column, int row, std::int32_t value) {
     auto& cells = columns_[static_cast<std::size_t>(column)];

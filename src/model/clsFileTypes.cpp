@@ -68,7 +68,8 @@ int clsFileTypes::GuessFileType(std::string_view path, int defaultType) const {
   }
   const bool defaultOpens =
       defaultType >= 1 && defaultType <= Count() && Opens(Item(defaultType), extension);
-  return matches > 1 && defaultOpens ? defaultType : last;
+  if (matches > 1 && defaultOpens) return defaultType;
+  return last;
 }
 
 bool clsFileTypes::SaveableFileType(int id) const { return id == kFMLinkLog || id == kMAPFile; }

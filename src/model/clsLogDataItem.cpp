@@ -27,7 +27,10 @@ std::int32_t RoundAsText(double value) {
 
 void clsLogDataItem::SetDisplayDecimalPlaces(int places) {
   places_ = std::clamp(places, 0, detail::kMostExactDigits);
-  mask_ = places_ == 0 ? "0" : "0." + std::string(static_cast<std::size_t>(places_), '0');
+  if (places_ == 0)
+    mask_ = "0";
+  else
+    mask_ = "0." + std::string(static_cast<std::size_t>(places_), '0');
 }
 
 void clsLogDataItem::SetMaxValue(double value) {
@@ -48,12 +51,14 @@ bool clsLogDataItem::InFamily(int family) const {
 std::string clsLogDataItem::GetFormattedData(std::int32_t stored) const {
   if (intType == kListItem) {
     const auto index = static_cast<std::size_t>(stored);
-    return stored >= 0 && index < varDescList.size() ? varDescList[index] : "";
+    if (stored >= 0 && index < varDescList.size()) return varDescList[index];
+    return "";
   }
   const std::int64_t value = std::int64_t{stored} - lngStorageOffset;
   if (value == 0 && !blnDisplayZero) return "";
   if (intType != kScaledItem) return WholeText(value);
-  return dblFactor == 0 ? "" : FixedText(static_cast<double>(value) / dblFactor, places_);
+  if (dblFactor == 0) return "";
+  return FixedText(static_cast<double>(value) / dblFactor, places_);
 }
 
 std::int32_t clsLogDataItem::SetRawData(double value) const {

@@ -68,10 +68,12 @@ class clsLogDataItem {
     if (intType == kListItem) return stored;
     const auto value = static_cast<double>(std::int64_t{stored} - lngStorageOffset);
     const double factor = Factor();
-    return factor == 0 ? 0 : value / factor;
+    if (factor == 0) return 0;
+    return value / factor;
   }
   std::int32_t LeastStored() const {
-    return blnSigned ? std::numeric_limits<std::int32_t>::min() : 0;
+    if (blnSigned) return std::numeric_limits<std::int32_t>::min();
+    return 0;
   }
   /// The stored integer of a value: clamped to the bounds, scaled, rounded half to even, and not
   /// below LeastStored.
