@@ -36,7 +36,8 @@ std::string_view RetrieveAutoTuneType(double, Date chipDate, int chipVersion,
   if (chipDate >= GetL4DisableDate(chipVersion))
     return BitIsSet(zones[zone::kMoreFlags], z800::kL3Alone) ? "L3" : "L3+L4";
   if (chipDate >= GetL4EnableDate(chipVersion)) return "L3+L4";
-  return chipDate >= kFirstL3 ? "L3" : "Lambda";
+  if (chipDate >= kFirstL3) return "L3";
+  return "Lambda";
 }
 
 std::vector<std::string_view> AutoTuneTypes(const ChipIdentity& chip) {

@@ -24,11 +24,13 @@ int MonthIn(std::string_view text) {
 }
 
 std::string_view From(std::string_view text, std::size_t start, std::size_t length) {
-  return start < text.size() ? text.substr(start, length) : std::string_view();
+  if (start < text.size()) return text.substr(start, length);
+  return std::string_view();
 }
 
 std::string_view Last(std::string_view text, std::size_t length) {
-  return text.size() > length ? text.substr(text.size() - length) : text;
+  if (text.size() > length) return text.substr(text.size() - length);
+  return text;
 }
 
 /// The date by position: "18-Sep-2001" and "18-Sep-01" with hyphens, "18Sep2001" without.
@@ -44,11 +46,20 @@ std::optional<Date> DateByPosition(std::string_view text) {
 
 }  // namespace
 
-std::string_view EngineSizeText(double size) { return size == 1.8 ? "1.8" : "1.6"; }
+std::string_view EngineSizeText(double size) {
+  if (size == 1.8) return "1.8";
+  return "1.6";
+}
+
+double EngineSizeIn(std::string_view text) {
+  if (text == "1.8") return 1.8;
+  return 1.6;
+}
 
 int ValidateChipVersion(std::string_view text) {
   const int version = StringToLong(text);
-  return version >= 1 && version < 4 ? version : 2;
+  if (version >= 1 && version < 4) return version;
+  return 2;
 }
 
 Date ParseChipDate(std::string_view text, Date defaultDate) {

@@ -9,6 +9,7 @@ namespace tarnview {
 
 /// "1.8" for exactly 1.8, "1.6" for anything else.
 std::string_view EngineSizeText(double size);
+double EngineSizeIn(std::string_view text);
 constexpr bool IsEngineSize(double size) { return size == 1.6 || size == 1.8; }
 
 /// The number of the text when it is at least 1 and below 4, else 2.

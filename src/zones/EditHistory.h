@@ -40,15 +40,24 @@ class EditHistory {
     if (CanRedo()) GoTo(done_ + 1);
   }
   /// The name of the step that Undo takes back; "" for none.
-  std::string UndoName() const { return CanUndo() ? steps_[done_ - 1].name : ""; }
-  std::string RedoName() const { return CanRedo() ? steps_[done_].name : ""; }
+  std::string UndoName() const {
+    if (CanUndo()) return steps_[done_ - 1].name;
+    return "";
+  }
+  std::string RedoName() const {
+    if (CanRedo()) return steps_[done_].name;
+    return "";
+  }
 
   const std::vector<Step>& Steps() const { return steps_; }
   std::size_t Done() const { return done_; }
   /// So many steps done, up to Steps().size().
   void GoTo(std::size_t done) {
     done_ = done;
-    now_ = done == 0 ? opened_ : steps_[done - 1].after;
+    if (done == 0)
+      now_ = opened_;
+    else
+      now_ = steps_[done - 1].after;
   }
 
  private:

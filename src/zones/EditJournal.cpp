@@ -40,7 +40,10 @@ std::string Unescaped(std::string_view text) {
     if (escape) ++i;
     const auto* row = std::find_if(std::begin(kEscapes), std::end(kEscapes),
                                    [&](const auto& pair) { return pair.second == text[i]; });
-    out += escape && row != std::end(kEscapes) ? row->first : text[i];
+    if (escape && row != std::end(kEscapes))
+      out += row->first;
+    else
+      out += text[i];
   }
   return out;
 }
@@ -86,7 +89,7 @@ bool TakeFacts(const Facts& facts, ZoneSheet& sheet) {
   bool good = true;
   for (int& shown : sheet.shown) good &= TakeNumber(*next++, -kFarthest, kFarthest, shown);
   for (bool& tick : sheet.ticks) tick = *next++ == "1";
-  sheet.chip.dblEngineSize = *next++ == "1.8" ? 1.8 : 1.6;
+  sheet.chip.dblEngineSize = EngineSizeIn(*next++);
   good &= TakeNumber(*next++, 1, kLastDate, sheet.chip.datChipDate);
   good &= TakeNumber(*next++, std::numeric_limits<std::int16_t>::min(),
                      std::numeric_limits<std::int16_t>::max(), sheet.intAtmosphericPressure);
@@ -154,7 +157,7 @@ std::string ChipText(const ZoneMap& map) {
 bool TakeChip(std::string_view line, ZoneMap& map) {
   const std::vector<std::string> words = Split(line, ' ');
   if (words.size() != 4) return false;
-  map.chip.dblEngineSize = words[0] == "1.8" ? 1.8 : 1.6;
+  map.chip.dblEngineSize = EngineSizeIn(words[0]);
   return TakeNumber(words[1], 1, kLastDate, map.chip.datChipDate) &&
          TakeNumber(words[2], 1, 3, map.chip.intChipVersion) &&
          TakeNumber(words[3], std::numeric_limits<std::int16_t>::min(),
@@ -172,7 +175,8 @@ std::string JournalText(const EditJournal& journal) {
                                  Escaped(journal.source.strNotes),
                                  ZonesText(journal.source.zones)};
   Facts before = FactsOf(history.Opened());
-  const std::size_t first = history.Done() > kMostSteps ? history.Done() - kMostSteps : 0;
+  std::size_t first = 0;
+  if (history.Done() > kMostSteps) first = history.Done() - kMostSteps;
   for (std::size_t step = first; step < history.Done(); ++step) {
     Facts after = FactsOf(history.Steps()[step].after);
     lines.push_back(StepLine(history.Steps()[step], before, after));

@@ -141,14 +141,16 @@ int GeneralZone::Force(int shown, const ZoneRange& limits) const {
 }
 
 std::string GeneralZone::Text(int shown) const {
-  return offAt255 && shown == kOffValue ? std::string(kOffText) : std::to_string(shown);
+  if (offAt255 && shown == kOffValue) return std::string(kOffText);
+  return std::to_string(shown);
 }
 
 const GeneralZone* FindGeneralZone(int zone, const ChipIdentity& chip) {
   const auto* found = std::find_if(
       std::begin(kZones), std::end(kZones),
       [&](const GeneralZone& row) { return row.zone == zone && (!row.when || row.when(chip)); });
-  return found == std::end(kZones) ? nullptr : found;
+  if (found == std::end(kZones)) return nullptr;
+  return found;
 }
 
 std::array<const GeneralZone*, 256> GeneralZonesOf(const ChipIdentity& chip) {

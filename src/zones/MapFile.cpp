@@ -27,12 +27,14 @@ std::int16_t ToShort(std::int32_t value) {
 
 /// What stands behind the first `start` characters of a line.
 std::string_view Behind(std::string_view line, std::size_t start) {
-  return line.size() > start ? line.substr(start) : std::string_view();
+  if (line.size() > start) return line.substr(start);
+  return std::string_view();
 }
 
 /// 0, which no line of the file may mean, stays for the defaults.
 int ChipVersion(std::string_view text) {
-  return StringToLong(text) == 0 ? 0 : ValidateChipVersion(text);
+  if (StringToLong(text) == 0) return 0;
+  return ValidateChipVersion(text);
 }
 
 /// Reading, line by line.
@@ -110,7 +112,10 @@ std::string ZoneLine(const ZoneSettings& zones, std::size_t line) {
   std::string text;
   for (std::size_t c = 0; c < kZonesOfLine; ++c) {
     const int value = zones[kZonesOfLine * line + c];
-    text += value >= 0 ? " " + PaddedText(value, 3) : "  -1";
+    if (value >= 0)
+      text += " " + PaddedText(value, 3);
+    else
+      text += "  -1";
   }
   return text;
 }
@@ -121,7 +126,8 @@ constexpr std::size_t kBeforeGap[] = {0, 1, 7, 13};
 
 void AddZones(const ZoneMap& map, std::vector<std::string>& lines) {
   // On 1 March 2001 itself, chips count as old here alone: kept on purpose.
-  const std::size_t count = map.chip.datChipDate > kNewChipDate ? kFewestLines + 1 : kFewestLines;
+  std::size_t count = kFewestLines;
+  if (map.chip.datChipDate > kNewChipDate) count = kFewestLines + 1;
   for (std::size_t line = 0; line < count; ++line) {
     lines.push_back(ZoneLine(map.zones, line));
     if (std::find(std::begin(kBeforeGap), std::end(kBeforeGap), line) != std::end(kBeforeGap))
@@ -149,7 +155,8 @@ MapReading ParseMap(std::string_view bytes, const Settings& settings, bool quiet
 }
 
 std::string UnreadFileError(FileSystem& disk, const std::string& path) {
-  return disk.FileExists(path) ? "75, Path/File access error" : "53, File not found";
+  if (disk.FileExists(path)) return "75, Path/File access error";
+  return "53, File not found";
 }
 
 MapReading ReadMapFile(FileSystem& disk, const std::string& path, const Settings& settings,

@@ -42,7 +42,8 @@ RowsAround RowsOfForty(double kPa) {
 }  // namespace
 
 RowsAround RowsAroundMAP(double kPa, bool sixRows) {
-  return sixRows ? RowsOfSix(kPa) : RowsOfForty(kPa);
+  if (sixRows) return RowsOfSix(kPa);
+  return RowsOfForty(kPa);
 }
 
 }  // namespace tarnview

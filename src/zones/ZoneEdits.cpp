@@ -31,7 +31,8 @@ bool SameRange(const GeneralZone& a, const GeneralZone& b) {
 std::string ChosenType(const std::string& chosen, const std::vector<std::string_view>& types) {
   if (chosen.empty()) return std::string(types.front());
   const bool there = std::find(types.begin(), types.end(), chosen) != types.end();
-  return there ? chosen : "";
+  if (there) return chosen;
+  return "";
 }
 
 /// The sensor lists begin alike, so that a place on a longer one, held to a shorter, is this.
@@ -63,7 +64,10 @@ bool IsBlackedOut(const ZoneSheet& sheet, int zone) {
 ZoneSheet WithField(ZoneSheet sheet, int zone, std::string_view text) {
   const GeneralZone* field = FindGeneralZone(zone, sheet.chip);
   const bool off = field && field->offAt255 && SameIgnoringCase(Trim(text), kOffText);
-  sheet.Shown(zone) = off ? kOffValue : Forced(sheet, zone, StringToLong(text));
+  if (off)
+    sheet.Shown(zone) = kOffValue;
+  else
+    sheet.Shown(zone) = Forced(sheet, zone, StringToLong(text));
   return sheet;
 }
 
@@ -89,7 +93,8 @@ ZoneSheet WithChipDate(ZoneSheet sheet, Date date) {
 
 ZoneSheet WithTick(ZoneSheet sheet, Tick tick, bool on) {
   sheet.Ticked(tick) = on && TickExists(sheet, tick);
-  return tick == Tick::EGR ? WithSensorRules(std::move(sheet)) : sheet;
+  if (tick == Tick::EGR) return WithSensorRules(std::move(sheet));
+  return sheet;
 }
 
 ZoneSheet WithAutoTuneType(ZoneSheet sheet, std::string_view type) {
@@ -100,7 +105,10 @@ ZoneSheet WithAutoTuneType(ZoneSheet sheet, std::string_view type) {
 ZoneSheet WithSensor(ZoneSheet sheet, std::string_view sensor) {
   const auto sensors = O2SensorsOf(sheet);
   const auto found = std::find(sensors.begin(), sensors.end(), sensor);
-  sheet.O2Sensor = found == sensors.end() ? sensors.front() : *found;
+  if (found == sensors.end())
+    sheet.O2Sensor = sensors.front();
+  else
+    sheet.O2Sensor = *found;
   return sheet;
 }
 
@@ -110,7 +118,8 @@ std::string_view SensorText(const ZoneMap& map) {
       GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand),
                   map.chip.intChipVersion, map.chip.datChipDate)
           .text;
-  return text.empty() ? "NB" : text;
+  if (text.empty()) return "NB";
+  return text;
 }
 
 ZoneSheet WithBoostTargets(ZoneSheet sheet, bool boostTargets) {
@@ -182,7 +191,8 @@ ZoneSheet WithNumbers(ZoneSheet sheet, std::span<const int> cells, std::span<con
 
 ZoneSheet WithInterpolation(ZoneSheet sheet, const CellBlock& block) {
   const int columns = block.columns;
-  const int rows = columns > 0 ? static_cast<int>(block.cells.size()) / columns : 0;
+  int rows = 0;
+  if (columns > 0) rows = static_cast<int>(block.cells.size()) / columns;
   if (rows == 0) return sheet;
   const ZoneSheet before = sheet;
   const auto corner = [&](int row, int column) {
@@ -191,8 +201,10 @@ ZoneSheet WithInterpolation(ZoneSheet sheet, const CellBlock& block) {
   };
   ForEachCell(sheet, block.cells, [&](std::size_t i) {
     const int at = static_cast<int>(i);
-    const double down = rows > 1 ? at / columns / (rows - 1.0) : 0;
-    const double along = columns > 1 ? at % columns / (columns - 1.0) : 0;
+    double down = 0;
+    if (rows > 1) down = at / columns / (rows - 1.0);
+    double along = 0;
+    if (columns > 1) along = at % columns / (columns - 1.0);
     const double top = std::lerp(corner(0, 0), corner(0, columns - 1), along);
     const double bottom = std::lerp(corner(rows - 1, 0), corner(rows - 1, columns - 1), along);
     return RoundToLong(std::lerp(top, bottom, down));
@@ -203,7 +215,8 @@ ZoneSheet WithInterpolation(ZoneSheet sheet, const CellBlock& block) {
 ZoneSheet WithSmoothing(ZoneSheet sheet, const CellBlock& block) {
   constexpr int kOwnWeight = 2;
   const int columns = block.columns;
-  const int rows = columns > 0 ? static_cast<int>(block.cells.size()) / columns : 0;
+  int rows = 0;
+  if (columns > 0) rows = static_cast<int>(block.cells.size()) / columns;
   const ZoneSheet before = sheet;
   ForEachCell(sheet, block.cells, [&](std::size_t i) {
     const int row = static_cast<int>(i) / columns, column = static_cast<int>(i) % columns;

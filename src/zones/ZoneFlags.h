@@ -11,7 +11,8 @@ namespace tarnview {
 constexpr bool BitIsSet(int value, int bit) { return ((value >> bit) & 1) != 0; }
 constexpr int SetBit(int value, int bit, bool on) {
   if (BitIsSet(value, bit) == on) return value;
-  return on ? value + (1 << bit) : value - (1 << bit);
+  if (on) return value + (1 << bit);
+  return value - (1 << bit);
 }
 
 /// Zones that the rules name.
@@ -36,7 +37,8 @@ inline constexpr int kSecurity = 0, kTPSIdle = 1, kL3Alone = 2, kKnockLightOrIAT
 
 /// The knock light's bit of z800; it is lit by a clear one.
 constexpr int KnockLightBit(int chipVersion) {
-  return chipVersion == 1 ? z800::kKnockLightOrIATTarget : z800::kKnockLight;
+  if (chipVersion == 1) return z800::kKnockLightOrIATTarget;
+  return z800::kKnockLight;
 }
 
 constexpr bool IsNormallyAspirated(int flags) { return !BitIsSet(flags, z5::kTurboMAP); }

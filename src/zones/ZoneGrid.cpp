@@ -24,12 +24,14 @@ constexpr Row kTurbo[kGridRows] = {{"20 kPa 100", 200, 0, 0},     {"60 kPa 200",
                                    {"180 kPa 500", 1800, 0, 161}, {"220 kPa 600", 2200, 0, 201}};
 
 constexpr const Row (&Rows(bool normallyAspirated))[kGridRows] {
-  return normallyAspirated ? kNormallyAspirated : kTurbo;
+  if (normallyAspirated) return kNormallyAspirated;
+  return kTurbo;
 }
 
 /// Columns below 0 RPM are negative.
 std::int32_t Column(std::int32_t RPM) {
-  return RPM >= 0 ? RPM / kRPMPerColumn : -((kRPMPerColumn - 1 - RPM) / kRPMPerColumn);
+  if (RPM >= 0) return RPM / kRPMPerColumn;
+  return -((kRPMPerColumn - 1 - RPM) / kRPMPerColumn);
 }
 
 }  // namespace
@@ -42,7 +44,8 @@ std::string ZoneColumnHeading(int column) { return PaddedText(column * 5, 2); }
 
 std::int32_t RowMAPfromRow(bool normallyAspirated, int row) {
   if (!normallyAspirated) return (row - 1) * 400 + 200;
-  return row >= 1 && row <= kGridRows ? kNormallyAspirated[row - 1].MAP : 300;
+  if (row >= 1 && row <= kGridRows) return kNormallyAspirated[row - 1].MAP;
+  return 300;
 }
 
 ZoneRows RowAndRowMAPCalc(bool normallyAspirated, std::int32_t MAP) {

@@ -66,10 +66,12 @@ std::string_view RangeOf(const ZoneSheet& sheet, int zone) {
   if (zone >= zone::kFirstBoostTarget && zone < zone::kMoreFlags)
     return sheet.boostTargets ? kBoostTargetRange : kBoostTargetRangePct;
   const bool field = !sheet.normallyAspirated || !IsClosedLoopCell(zone);
-  const GeneralZone* row = field ? FindGeneralZone(zone, sheet.chip) : nullptr;
+  const GeneralZone* row = nullptr;
+  if (field) row = FindGeneralZone(zone, sheet.chip);
   if (row) return row->range;
   if (zone >= kFirstGridZone && zone < ZoneCell(ZoneGrid::Ignition, 0, 0)) return kFuelRange;
-  return zone < ZoneCell(ZoneGrid::Ignition, kGridRows, 0) ? kIgnitionRange : "";
+  if (zone < ZoneCell(ZoneGrid::Ignition, kGridRows, 0)) return kIgnitionRange;
+  return "";
 }
 
 }  // namespace
@@ -128,17 +130,20 @@ ZoneRange FieldRange(const ZoneSheet& sheet, int zone) {
 int Forced(const ZoneSheet& sheet, int zone, int shown) {
   const GeneralZone* field = FindGeneralZone(zone, sheet.chip);
   const ZoneRange range = FieldRange(sheet, zone);
-  return field ? field->Force(shown, range) : std::clamp(shown, range.low, range.high);
+  if (field) return field->Force(shown, range);
+  return std::clamp(shown, range.low, range.high);
 }
 
 std::string FieldText(const ZoneSheet& sheet, int zone) {
   const GeneralZone* field = FindGeneralZone(zone, sheet.chip);
-  return field ? field->Text(sheet.Shown(zone)) : std::to_string(sheet.Shown(zone));
+  if (field) return field->Text(sheet.Shown(zone));
+  return std::to_string(sheet.Shown(zone));
 }
 
 std::string_view FieldLabel(const ZoneSheet& sheet, int zone) {
   const GeneralZone* field = FindGeneralZone(zone, sheet.chip);
-  return field ? field->label : "";
+  if (field) return field->label;
+  return "";
 }
 
 }  // namespace tarnview

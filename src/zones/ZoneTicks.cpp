@@ -45,7 +45,8 @@ O2Sensor SensorOf(int flags, const ChipIdentity& chip) {
 
 std::string_view TickCaption(Tick tick, const ChipIdentity& chip) {
   const Row& row = RowOf(tick);
-  return row.isOther(chip) ? row.otherCaption : row.caption;
+  if (row.isOther(chip)) return row.otherCaption;
+  return row.caption;
 }
 
 bool TickExists(Tick tick, const ChipIdentity& chip, bool boost) {
