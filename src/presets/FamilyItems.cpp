@@ -20,8 +20,8 @@ DataItemList ItemsWith(bool clsLogDataItem::*flag, const Catalogue& catalogue, i
 }  // namespace
 
 const clsLogDataItems& ItemsOfFamily(const Catalogue& catalogue, int lngLogFamily) {
-  return lngLogFamily == kUniversalLogFamily ? catalogue.gcolUniversalDataItems
-                                             : catalogue.gcolFixedDataItems;
+  if (lngLogFamily == kUniversalLogFamily) return catalogue.gcolUniversalDataItems;
+  return catalogue.gcolFixedDataItems;
 }
 
 DataItemList AxisItems(const Catalogue& catalogue, int lngLogFamily) {

@@ -58,7 +58,8 @@ std::int32_t NumberOf(const NamedNumber (&names)[N], std::string_view name,
                       std::int32_t otherwise) {
   const auto found = std::find_if(std::begin(names), std::end(names),
                                   [&](const auto& row) { return row.name == name; });
-  return found == std::end(names) ? otherwise : found->number;
+  if (found == std::end(names)) return otherwise;
+  return found->number;
 }
 
 std::int32_t ItemNamed(std::string_view name) { return NumberOf(kItemNames, name, ItemOf(kRPM)); }
@@ -78,7 +79,10 @@ const IniKey<Scatter> kKeys[] = {
     // clang-format on
 };
 
-double Bound(std::string_view text) { return text.empty() ? kBoundNotSet : StringToDouble(text); }
+double Bound(std::string_view text) {
+  if (text.empty()) return kBoundNotSet;
+  return StringToDouble(text);
+}
 
 /// Adds the filter of that name ("Filter ", "Filter 2 ") unless its type is "None" or not there.
 void ReadFilter(const IniTable& table, const std::string& prefix, const clsLogDataItems& items,

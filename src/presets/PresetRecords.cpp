@@ -44,13 +44,16 @@ const IniKey<Scatter> kScatterKeys[] = {
 };
 
 template <double Filter::*Bound>
-constexpr IniRule<Filter> kBound{
-    [](Filter& filter, std::string_view text) {
-      filter.*Bound = text.empty() ? kBoundNotSet : StringToDouble(text);
-    },
-    [](const Filter& filter) {
-      return filter.*Bound == kBoundNotSet ? std::string() : ShortestText(filter.*Bound);
-    }};
+constexpr IniRule<Filter> kBound{[](Filter& filter, std::string_view text) {
+                                   if (text.empty())
+                                     filter.*Bound = kBoundNotSet;
+                                   else
+                                     filter.*Bound = StringToDouble(text);
+                                 },
+                                 [](const Filter& filter) {
+                                   if (filter.*Bound == kBoundNotSet) return std::string();
+                                   return ShortestText(filter.*Bound);
+                                 }};
 
 constexpr const char* kFilterFrom = "From";
 
@@ -146,7 +149,8 @@ double ValidateFilterFrom(double dblFrom, int lngItem, const clsLogDataItems& ob
   if (lngItem < 1 || lngItem > objItems.Count()) return 0;
   const clsLogDataItem& item = objItems.Item(lngItem);
   const bool inList = dblFrom >= 0 && dblFrom < static_cast<double>(item.varDescList.size());
-  return item.intType == kListItem && !inList ? 0 : dblFrom;
+  if (item.intType == kListItem && !inList) return 0;
+  return dblFrom;
 }
 
 }  // namespace tarnview

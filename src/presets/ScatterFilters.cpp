@@ -10,15 +10,18 @@ namespace {
 /// Where a bound stands in the item's list; -1 for one that is no place in it.
 int ListPlace(double bound, const clsLogDataItem& item) {
   const bool inside = bound >= 0 && bound < static_cast<double>(item.varDescList.size());
-  return inside && bound == RoundToLong(bound) ? RoundToLong(bound) : -1;
+  if (inside && bound == RoundToLong(bound)) return RoundToLong(bound);
+  return -1;
 }
 
 }  // namespace
 
 std::string FilterBoundText(double bound, const clsLogDataItem& item) {
   if (bound == kBoundNotSet) return "";
-  const int place = item.intType == kListItem ? ListPlace(bound, item) : -1;
-  return place < 0 ? NumberText(bound) : item.varDescList[static_cast<std::size_t>(place)];
+  int place = -1;
+  if (item.intType == kListItem) place = ListPlace(bound, item);
+  if (place < 0) return NumberText(bound);
+  return item.varDescList[static_cast<std::size_t>(place)];
 }
 
 std::string FilterPrintString(const clsScatterFilter& objFilter, const clsLogDataItems& objItems) {
