@@ -60,7 +60,8 @@ using LogLine = FixedLine<kLogLineReach>;
 template <Field F>
 std::int32_t WhichMark(char c) {
   if (c == F.first) return 1;
-  return F.second && c == F.second ? 2 : 0;
+  if (F.second && c == F.second) return 2;
+  return 0;
 }
 
 template <Field F, class Line>
@@ -118,7 +119,8 @@ void ReadWastegateOrEGR(const LogLine& line, SampleStore& store, int row) {
 /// Without a throttle sensor, the idle and full throttle switches say where the throttle is.
 std::int32_t TPSOfSwitches(std::int32_t throttle) {
   if (throttle == 1) return 1000;
-  return throttle == 2 ? 10000 : 5000;
+  if (throttle == 2) return 10000;
+  return 5000;
 }
 
 /// At 44: the throttle sensor of a 1.8, else the idle air valve; or, told by a point, the auxiliary
@@ -221,7 +223,8 @@ FMLinkLine KindOfFMLinkLine(std::string_view line) {
   const std::string_view engine = line.substr(1, 3);
   if (IsEngine(engine) || engine == "1.x") return FMLinkLine::Summary;
   const double number = StringToDouble(line.substr(0, 6));
-  return number == 1.6 || number == 1.8 ? FMLinkLine::Summary : FMLinkLine::Unrecognised;
+  if (number == 1.6 || number == 1.8) return FMLinkLine::Summary;
+  return FMLinkLine::Unrecognised;
 }
 
 FMLinkItems::FMLinkItems(const clsLogDataItems& items)

@@ -87,7 +87,8 @@ const Heading* FindHeading(std::string_view text) {
       std::find_if(std::begin(kHeadings), std::end(kHeadings), [text](const Heading& heading) {
         return SameIgnoringCase(text, heading.name) || text == heading.id;
       });
-  return found == std::end(kHeadings) ? nullptr : found;
+  if (found == std::end(kHeadings)) return nullptr;
+  return found;
 }
 
 bool IsHeadingLine(std::string_view line) {
@@ -144,7 +145,8 @@ std::size_t LinkPlusLog::ReadHeading() {
     fields_.push_back(FindHeading(text));
   TextLines behind = lines_;
   const std::size_t length = behind.AtEnd() ? 0 : behind.Next().size();
-  return length > 0 ? length : kUsualLineLength;
+  if (length > 0) return length;
+  return kUsualLineLength;
 }
 
 void LinkPlusLog::ReadSamples(long lineStep) {

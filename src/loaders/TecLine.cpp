@@ -23,7 +23,14 @@ int ScaleOf(TecRule rule) {
 /// Integers may have an exponent, other numbers end in front of it.
 double NumberOf(TecRule rule, std::string_view text) {
   const bool whole = rule == TecRule::Whole || rule == TecRule::WholeFactored;
-  return whole ? StringToDouble(text) : ValDouble(text);
+  if (whole) return StringToDouble(text);
+  return ValDouble(text);
+}
+
+std::int32_t StoredTec(TecRule rule, double value, double factor) {
+  if (rule == TecRule::Correction) return RoundToLong(value * 1000 + 1000);
+  if (rule == TecRule::WholeFactored) return RoundToLong(RoundToLong(value) * factor);
+  return RoundToLong(value * factor);
 }
 
 }  // namespace
@@ -58,12 +65,8 @@ void TecBlock::Convert(const TecField& field, Cells& cells) const {
   const double factor = context_.items.Item(ItemOf(field.column)).Factor();
   BlockOf<double> values;
   numbers_.Values(count_, values);
-  for (std::size_t line = 0; line < count_; ++line) {
-    const double value = values[line];
-    cells[line] = field.rule == TecRule::Correction      ? RoundToLong(value * 1000 + 1000)
-                  : field.rule == TecRule::WholeFactored ? RoundToLong(RoundToLong(value) * factor)
-                                                         : RoundToLong(value * factor);
-  }
+  for (std::size_t line = 0; line < count_; ++line)
+    cells[line] = StoredTec(field.rule, values[line], factor);
 }
 
 void CheckTecHeading(TextLines lines, std::size_t blankAt) {

@@ -69,7 +69,8 @@ const Word* FindWord(std::string_view name, std::string_view subHeading) {
   const auto found = std::find_if(std::begin(kWords), std::end(kWords), [&](const Word& word) {
     return word.name == name && (word.subHeading == kAny || word.subHeading == subHeading);
   });
-  return found == std::end(kWords) ? nullptr : found;
+  if (found == std::end(kWords)) return nullptr;
+  return found;
 }
 
 using Cells = std::vector<std::string>;
@@ -270,7 +271,8 @@ double UTECCSVLog::AirFuelOf(std::string_view text) const {
   if (SameIgnoringCase(text, "W/B")) return 24.5;
   if (text == ">25:1") return 25;
   const double number = StringToDouble(text);
-  return hundredths_.value_or(false) && IsNumeric(text) ? number / 100 : number;
+  if (hundredths_.value_or(false) && IsNumeric(text)) return number / 100;
+  return number;
 }
 
 }  // namespace

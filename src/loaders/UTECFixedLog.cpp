@@ -20,9 +20,9 @@ struct Place {
 };
 std::string_view TextAt(std::string_view line, Place place) {
   const auto start = static_cast<std::size_t>(place.at - 1);
-  return place.length > 0 && start < line.size()
-             ? line.substr(start, static_cast<std::size_t>(place.length))
-             : std::string_view();
+  if (place.length > 0 && start < line.size())
+    return line.substr(start, static_cast<std::size_t>(place.length));
+  return std::string_view();
 }
 
 // The maps that a user runs decide which of six column sets the log has.

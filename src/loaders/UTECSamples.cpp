@@ -30,7 +30,8 @@ int UTECSamples::ScaleOf(UTECRule rule, Column column) const {
     return -1;
   constexpr double kPowersOfTen[] = {1, 10, 100, 1000};
   const auto found = std::find(std::begin(kPowersOfTen), std::end(kPowersOfTen), factor_[column]);
-  return found == std::end(kPowersOfTen) ? -1 : static_cast<int>(found - std::begin(kPowersOfTen));
+  if (found == std::end(kPowersOfTen)) return -1;
+  return static_cast<int>(found - std::begin(kPowersOfTen));
 }
 
 inline std::int32_t UTECSamples::StoredOne(UTECRule rule, Column column, double number) {
