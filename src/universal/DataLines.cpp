@@ -210,7 +210,8 @@ TARNVIEW_WIDE_STEPS void DataLines::StoreValues(const FieldTarget& target, std::
 
 void DataLines::ReadNumbers(std::size_t field) {
   numbers_.Read(block_, field, [&](std::size_t line) {
-    return block_.Fields(line) > field ? ValDouble(block_.Field(line, field)) : 0;
+    if (block_.Fields(line) > field) return ValDouble(block_.Field(line, field));
+    return 0.0;
   });
 }
 
@@ -219,7 +220,8 @@ void DataLines::ReadMoments(std::size_t field, Numbers& moments) {
   ReadColumn(block_, field, moments, [&](std::size_t line) {
     const auto moment =
         block_.Fields(line) > field ? ParseFieldMoment(block_.Field(line, field)) : std::nullopt;
-    return moment ? moment->Since(*firstMoment_) : 0;
+    if (moment) return moment->Since(*firstMoment_);
+    return 0.0;
   });
 }
 

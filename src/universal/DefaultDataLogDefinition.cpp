@@ -108,7 +108,10 @@ clsDataLogColumn ColumnOf(const ColumnRow& row) {
   clsDataLogColumn column;
   column.strName = row.name;
   column.strDescription = row.description;
-  column.strColumnTitle = row.title ? row.title : row.description;
+  if (row.title)
+    column.strColumnTitle = row.title;
+  else
+    column.strColumnTitle = row.description;
   column.lngDataItemID = row.item;
   column.lngType = kNumericColumn;
   column.lngColumnDecimalPlaces = row.places;

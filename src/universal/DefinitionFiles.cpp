@@ -42,7 +42,8 @@ std::optional<clsDataLog> DefinitionFiles::LoadDataLogDefinition(const std::stri
 
 clsDataLog DefinitionFiles::LoadDataLogDefinitionWrapper(const std::string& strFileName) {
   auto definition = strFileName.empty() ? std::nullopt : LoadDataLogDefinition(strFileName);
-  return definition ? std::move(*definition) : DefaultDataLogDefinition();
+  if (definition) return std::move(*definition);
+  return DefaultDataLogDefinition();
 }
 
 std::vector<DefinitionChoice> DefinitionFiles::GenericFileLocation(const std::string& folder) {

@@ -19,7 +19,8 @@ constexpr std::string_view kDefinition = "[DATALOGDEFINITION]", kColumn = "[COLU
 /// is none.
 std::size_t Equals(std::string_view line) {
   const auto at = line.find('=');
-  return at == 0 || at + 1 == line.size() ? std::string_view::npos : at;
+  if (at == 0 || at + 1 == line.size()) return std::string_view::npos;
+  return at;
 }
 
 /// False for a line that is no attribute.
@@ -160,8 +161,10 @@ class Reader {
   /// The value list of the first column of an item, if that is a column of values.
   const clsDataLogColumnValues* ValuesOf(int item) const {
     const auto found = firstColumns_.find(item);
-    const clsDataLogColumn* column = found != firstColumns_.end() ? found->second : nullptr;
-    return column && column->lngType == kValueListColumn ? column->objColumnValues.get() : nullptr;
+    const clsDataLogColumn* column = nullptr;
+    if (found != firstColumns_.end()) column = found->second;
+    if (column && column->lngType == kValueListColumn) return column->objColumnValues.get();
+    return nullptr;
   }
 
   TextLines lines_;

@@ -26,7 +26,10 @@ std::string TextOf(double value) {
   if (text.ends_with('.')) text.pop_back();
   return text;
 }
-std::string TextOf(bool value) { return value ? "Y" : "N"; }
+std::string TextOf(bool value) {
+  if (value) return "Y";
+  return "N";
+}
 std::string TextOf(const Clamped<kPlainNumber, kDateAndTime>& value) {
   return std::to_string(std::int32_t{value});
 }
@@ -100,7 +103,8 @@ std::string DefinitionFileText(const clsDataLog& definition) {
   const clsDataLogColumns& columns = definition.objColumns;
   const bool list =
       columns.Count() > 0 && columns.Item(columns.Count()).objColumnValues->Count() > 0;
-  return list ? out : out + kLineEnd;
+  if (list) return out;
+  return out + kLineEnd;
 }
 
 }  // namespace tarnview

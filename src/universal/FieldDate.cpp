@@ -37,7 +37,8 @@ int MonthOf(std::string_view text, std::string_view form) {
   const auto name = form.find("NNN");
   if (name == std::string_view::npos) return Part(text, form, 'm');
   const auto at = kMonths.find(Upper(text.substr(name, 3)));
-  return at == std::string_view::npos || at % 3 != 0 ? 0 : static_cast<int>(at / 3) + 1;
+  if (at == std::string_view::npos || at % 3 != 0) return 0;
+  return static_cast<int>(at / 3) + 1;
 }
 
 std::optional<Date> ParseDay(std::string_view text) {
@@ -47,7 +48,8 @@ std::optional<Date> ParseDay(std::string_view text) {
               day = Part(text, form, 'd');
     if (month < 1 || month > 12 || day < 1 || year < 100) return std::nullopt;
     const bool inMonth = day <= MakeDate(year, month + 1, 1) - MakeDate(year, month, 1);
-    return inMonth ? std::optional(MakeDate(year, month, day)) : std::nullopt;
+    if (inMonth) return std::optional(MakeDate(year, month, day));
+    return std::nullopt;
   }
   return std::nullopt;
 }

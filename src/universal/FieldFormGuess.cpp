@@ -58,7 +58,8 @@ char DecimalSignOf(const std::vector<std::string_view>& lines, FieldForm form) {
     }
   }
   if (points == 0 && either > 0 && form.delimiter != ',') return ',';
-  return commas > points ? ',' : '.';
+  if (commas > points) return ',';
+  return '.';
 }
 
 /// The number of fields that most lines have, and how many lines those are.
@@ -69,7 +70,8 @@ std::pair<int, int> UsualFields(const std::vector<std::string_view>& lines, cons
   const auto most =
       std::max_element(counts.begin(), counts.end(),
                        [](const auto& a, const auto& b) { return a.second < b.second; });
-  return most == counts.end() ? std::pair<int, int>(0, 0) : std::pair<int, int>(*most);
+  if (most == counts.end()) return std::pair<int, int>(0, 0);
+  return std::pair<int, int>(*most);
 }
 
 double WorthOf(FieldKind kind) {
@@ -86,7 +88,8 @@ double NumericShare(const std::vector<std::string_view>& lines, const FieldForm&
     for (const std::string_view part : parts) worth += WorthOf(KindOfField(part, form.decimalSign));
     fields += usual;
   }
-  return fields == 0 ? 0 : worth / fields;
+  if (fields == 0) return 0;
+  return worth / fields;
 }
 
 FieldFormGuess Judge(const std::vector<std::string_view>& lines, const Delimiter& delimiter,
@@ -96,7 +99,10 @@ FieldFormGuess Judge(const std::vector<std::string_view>& lines, const Delimiter
   const auto [usual, often] = UsualFields(lines, guess.form);
   guess.fields = usual;
   if (usual < 2) return guess;
-  guess.form.decimalSign = decimalSign ? *decimalSign : DecimalSignOf(lines, guess.form);
+  if (decimalSign)
+    guess.form.decimalSign = *decimalSign;
+  else
+    guess.form.decimalSign = DecimalSignOf(lines, guess.form);
   guess.regularity = static_cast<double>(often) / static_cast<double>(lines.size());
   guess.numeric = NumericShare(lines, guess.form, usual);
   guess.score = static_cast<int>(100 * delimiter.trust * guess.regularity * guess.numeric *

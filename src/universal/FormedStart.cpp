@@ -142,7 +142,8 @@ std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fie
 
 std::string_view TitleMarkOf(std::string_view line) {
   const auto end = line.find_first_not_of("#%*>!/ ");
-  return end == std::string_view::npos ? std::string_view() : line.substr(0, end);
+  if (end == std::string_view::npos) return std::string_view();
+  return line.substr(0, end);
 }
 
 }  // namespace tarnview

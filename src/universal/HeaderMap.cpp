@@ -42,7 +42,8 @@ std::int32_t ValueLookup::operator()(std::string_view field) {
   const bool ascii = std::all_of(field.begin(), field.end(),
                                  [](char c) { return static_cast<signed char>(c) >= 0; });
   const auto found = translations_.find(ascii ? capitals_ : CaseKey(field));
-  return found == translations_.end() ? 0 : found->second;
+  if (found == translations_.end()) return 0;
+  return found->second;
 }
 
 FieldTarget::FieldTarget(const clsDataLogColumn& it)

@@ -165,10 +165,11 @@ class Reader {
     if (choices_.timeForm) time.form = *choices_.timeForm;
     if (time.column >= 0 && time.form == TimeForm::None) time.form = TimeForm::Seconds;
     if (time.column < 0) time = {-1, TimeForm::None, 0, 0, time.why};
-    shape_.lineFrequency =
-        time.column >= 0
-            ? 0
-            : choices_.lineFrequency.value_or(RateOfPreamble(text_.head, shape_.rows.dataLine));
+    if (time.column >= 0)
+      shape_.lineFrequency = 0;
+    else
+      shape_.lineFrequency =
+          choices_.lineFrequency.value_or(RateOfPreamble(text_.head, shape_.rows.dataLine));
     Tell("Time: " + time.why);
     if (shape_.lineFrequency > 0) Tell("Time: the log tells its rate");
   }
@@ -192,7 +193,8 @@ class Reader {
   int Score() const {
     if (table_.size() < kFewestLines) return 0;
     const double titles = shape_.rows.titleLine >= 0 || shape_.channelTitles ? 1 : 0;
-    double time = shape_.HasClock() ? shape_.time.score / 100.0 : 0;
+    double time = 0;
+    if (shape_.HasClock()) time = shape_.time.score / 100.0;
     if (shape_.lineFrequency > 0) time = 0.8;
     const double score = 35 * shape_.rows.dataShare + 20 * titles + 25 * time + 20 * guess_.numeric;
     return static_cast<int>(std::min(score, 100.0) * (guess_.form.delimiter == ' ' ? 0.9 : 1));

@@ -11,7 +11,8 @@ constexpr std::size_t Placement(std::size_t count, int before, int after) {
     return position >= 1 && static_cast<std::size_t>(position) <= count;
   };
   if (within(before)) return static_cast<std::size_t>(before - 1);
-  return within(after) ? static_cast<std::size_t>(after) : count;
+  if (within(after)) return static_cast<std::size_t>(after);
+  return count;
 }
 
 }  // namespace tarnview

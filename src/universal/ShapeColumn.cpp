@@ -49,7 +49,8 @@ ColumnContent ContentOf(const Gathering& gathered) {
   if (all == 0) return ColumnContent::Empty;
   if (numbers * 10 >= all * 9) return ColumnContent::Number;
   if (times * 10 >= all * 9) return ColumnContent::Time;
-  return gathered.listable ? ColumnContent::List : ColumnContent::Text;
+  if (gathered.listable) return ColumnContent::List;
+  return ColumnContent::Text;
 }
 
 void TakeNumbers(ShapeColumn& column, std::vector<double>& numbers) {

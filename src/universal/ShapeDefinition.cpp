@@ -34,7 +34,10 @@ void TakeLines(clsDataLog& definition, const LogShape& shape) {
   const ShapeRows& rows = shape.rows;
   definition.lngDataLinesBefore = std::max(rows.dataLine, 0);
   if (rows.titleLine < 0) {
-    definition.strTitlesFrom = shape.channelTitles ? "CHANNELS" : "NONE";
+    if (shape.channelTitles)
+      definition.strTitlesFrom = "CHANNELS";
+    else
+      definition.strTitlesFrom = "NONE";
     return;
   }
   definition.lngColumnHeadersLinesBefore = rows.titleLine;
@@ -61,7 +64,7 @@ clsDataLogColumn ColumnOf(const ShapeColumn& from, const ShapeItem& item, bool c
   clsDataLogColumn column;
   column.strName = item.name;
   column.strDescription = item.description;
-  column.strColumnTitle = from.header.empty() ? from.title : from.header;
+  column.strColumnTitle = OrElse(from.header, from.title);
   column.lngDataItemID = item.item;
   column.lngType = kNumericColumn;
   column.strUnit = item.unit;
@@ -94,7 +97,7 @@ clsDataLog DefinitionOfShape(const LogShape& shape, const std::string& name,
                              const std::string& extension, double linesASecond) {
   clsDataLog definition;
   definition.strName = name;
-  definition.strFileExtension = extension.empty() ? "csv" : extension;
+  definition.strFileExtension = OrElse(extension, "csv");
   definition.strVersion = "1.00";
   definition.strComments = "Made from a log's own text.";
   definition.dblAutoGearSpeedFactor = kMetresPerSecondOfMph;

@@ -142,7 +142,8 @@ FieldKind KindOfField(std::string_view field, char decimalSign) {
   if (field.empty()) return FieldKind::Empty;
   if (IsNoValue(field)) return FieldKind::NoValue;
   if (ReadShapeNumber(field, decimalSign)) return FieldKind::Number;
-  return ReadTimeText(field) ? FieldKind::Time : FieldKind::Text;
+  if (ReadTimeText(field)) return FieldKind::Time;
+  return FieldKind::Text;
 }
 
 }  // namespace tarnview

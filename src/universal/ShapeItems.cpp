@@ -52,7 +52,8 @@ constexpr double kMostStored = 2147483647.0;
 const KeptItem* KeptOf(int item) {
   const auto found = std::find_if(std::begin(kKept), std::end(kKept),
                                   [&](const KeptItem& row) { return row.item == item; });
-  return found == std::end(kKept) ? nullptr : &*found;
+  if (found == std::end(kKept)) return nullptr;
+  return &*found;
 }
 
 /// What a column might be.
@@ -68,7 +69,8 @@ struct Match {
 std::string PressureUnitByValues(const std::string& assumed, const ShapeColumn& column) {
   if (column.highest > 500) return "hPa";
   if (assumed == "psi" && column.highest > 75) return "kPa";
-  return assumed == "kPa" && column.highest < 5 ? "bar" : assumed;
+  if (assumed == "kPa" && column.highest < 5) return "bar";
+  return assumed;
 }
 
 /// The unit of the values, where the log tells none: lambda is about 1, an air/fuel ratio about 15;
@@ -101,7 +103,8 @@ Match MatchOf(const ShapeColumn& column, const TitleDictionary& dictionary,
               const clsLogDataItems& catalogue) {
   Match match;
   const KnownTitle known = dictionary.Find(column.title);
-  const clsLogDataItem* item = known.score > 0 ? catalogue.ByShortName(known.item) : nullptr;
+  const clsLogDataItem* item = nullptr;
+  if (known.score > 0) item = catalogue.ByShortName(known.item);
   if (!item || item->intSeq == ItemOf(kSecs) || column.content != ColumnContent::Number)
     return match;
   const std::string unitText = IsUnit(column.unit) ? column.unit : UnitByValues(known.unit, column);
@@ -170,8 +173,13 @@ ShapeItem OwnItem(const ShapeColumn& column, int number) {
   item.factor = column.scale * large;
   const double lowest = column.lowest * large, highest = column.highest * large;
   const bool thousandths = large < 1 || column.content == ColumnContent::Time;
-  item.places = item.list ? 0 : PlacesOf(lowest, highest, thousandths ? 3 : column.places);
-  item.displayFactor = item.list ? 1 : DisplayFactorOf(lowest, highest);
+  if (item.list) {
+    item.places = 0;
+    item.displayFactor = 1;
+  } else {
+    item.places = PlacesOf(lowest, highest, thousandths ? 3 : column.places);
+    item.displayFactor = DisplayFactorOf(lowest, highest);
+  }
   item.why = "an item of its own";
   return item;
 }
@@ -221,16 +229,18 @@ std::vector<ShapeItem> ChooseItems(const std::vector<ShapeColumn>& columns, cons
 
 std::string_view UnitOfItem(int item) {
   const KeptItem* kept = KeptOf(item);
-  return kept ? kept->unit : "";
+  if (kept) return kept->unit;
+  return "";
 }
 
 int ColourOfOwnItem(int item) {
   // Hues a golden angle apart, dark enough to stand out on white and light enough on black.
   const double hue = std::fmod(item * 0.618034, 1.0) * 6, low = 40, high = 200;
   const double part = low + (high - low) * (1 - std::fabs(std::fmod(hue, 2.0) - 1));
-  const double red = hue < 1 || hue >= 5 ? high : (hue < 2 || hue >= 4 ? part : low);
-  const double green = hue < 1 || (hue >= 3 && hue < 4) ? part : (hue < 3 ? high : low);
-  const double blue = hue < 2 ? low : (hue < 3 || hue >= 5 ? part : high);
+  // Red, green and blue in each sixth of the circle.
+  const double sixths[6][3] = {{high, part, low}, {part, high, low}, {low, high, part},
+                               {low, part, high}, {part, low, high}, {high, low, part}};
+  const auto& [red, green, blue] = sixths[static_cast<int>(hue)];
   return static_cast<int>(blue) << 16 | static_cast<int>(green) << 8 | static_cast<int>(red);
 }
 

@@ -33,9 +33,8 @@ std::vector<std::string> TitlesOf(std::string_view line, const FieldFormGuess& g
   const Fields fields = SplitShapeLine(line, form);
   if (static_cast<int>(fields.size()) <= guess.fields) return {fields.begin(), fields.end()};
   const auto joined = JoinInBrackets(fields, form.delimiter);
-  return static_cast<int>(joined.size()) >= guess.fields
-             ? joined
-             : std::vector<std::string>(fields.begin(), fields.end());
+  if (static_cast<int>(joined.size()) >= guess.fields) return joined;
+  return std::vector<std::string>(fields.begin(), fields.end());
 }
 
 /// A row that may name columns: about as many texts as there are fields, hardly a number among
@@ -152,7 +151,8 @@ double DataShare(const std::vector<std::string_view>& lines, std::size_t from,
     ++all;
     data += IsDataLine(lines[at], guess);
   }
-  return all == 0 ? 0 : static_cast<double>(data) / all;
+  if (all == 0) return 0;
+  return static_cast<double>(data) / all;
 }
 
 }  // namespace
@@ -160,8 +160,14 @@ double DataShare(const std::vector<std::string_view>& lines, std::size_t from,
 void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
                    const FieldFormGuess& guess, int titleLine, int unitsLine) {
   const int count = static_cast<int>(lines.size());
-  rows.titleLine = titleLine < count ? titleLine : -1;
-  rows.unitsLine = unitsLine < count ? unitsLine : -1;
+  if (titleLine < count)
+    rows.titleLine = titleLine;
+  else
+    rows.titleLine = -1;
+  if (unitsLine < count)
+    rows.unitsLine = unitsLine;
+  else
+    rows.unitsLine = -1;
   rows.titles.clear();
   rows.units.clear();
   rows.titleMark.clear();

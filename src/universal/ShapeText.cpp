@@ -8,13 +8,15 @@ namespace {
 /// A line that the cut goes through is no line.
 std::string_view WithoutLastLine(std::string_view text) {
   const auto end = text.find_last_of("\n\r");
-  return end == std::string_view::npos ? text : text.substr(0, end + 1);
+  if (end == std::string_view::npos) return text;
+  return text.substr(0, end + 1);
 }
 
 std::string_view WithoutFirstLine(std::string_view text) {
   const auto end = text.find('\n');
   const auto at = end == std::string_view::npos ? text.find('\r') : end;
-  return at == std::string_view::npos ? std::string_view() : text.substr(at + 1);
+  if (at == std::string_view::npos) return std::string_view();
+  return text.substr(at + 1);
 }
 
 }  // namespace

@@ -32,7 +32,8 @@ std::size_t LengthOfUtf8(char first) {
   if (byte < 0x80) return 1;
   if (byte >= 0xC2 && byte < 0xE0) return 2;
   if (byte >= 0xE0 && byte < 0xF0) return 3;
-  return byte >= 0xF0 && byte < 0xF5 ? 4 : 0;
+  if (byte >= 0xF0 && byte < 0xF5) return 4;
+  return 0;
 }
 
 bool IsUtf8(std::string_view text) {
@@ -133,7 +134,8 @@ std::string PlainBytes(std::string_view text, TextEncoding encoding) {
   if (encoding != TextEncoding::Utf8) return FromUtf16(text, encoding == TextEncoding::Utf16BE);
   const bool ascii = std::none_of(text.begin(), text.end(),
                                   [](char c) { return static_cast<signed char>(c) < 0; });
-  return ascii ? std::string(text) : FromUtf8(text);
+  if (ascii) return std::string(text);
+  return FromUtf8(text);
 }
 
 }  // namespace tarnview

@@ -49,7 +49,8 @@ std::string_view TakeWord(std::string_view& text) {
 int MonthOf(std::string_view word) {
   if (word.size() < 3) return 0;
   const auto at = kMonths.find(Upper(word.substr(0, 3)));
-  return at == std::string_view::npos || at % 3 != 0 ? 0 : static_cast<int>(at / 3) + 1;
+  if (at == std::string_view::npos || at % 3 != 0) return 0;
+  return static_cast<int>(at / 3) + 1;
 }
 
 std::optional<Date> DayOf(int year, int month, int day) {
@@ -88,7 +89,8 @@ std::optional<Date> TakeDay(std::string_view& text) {
   text = rest;
   if (yearFirst) return DayOf(parts[0], parts[1], parts[2]);
   const auto dayFirst = DayOf(parts[2], parts[1], parts[0]);
-  return dayFirst || named ? dayFirst : DayOf(parts[2], parts[0], parts[1]);
+  if (dayFirst || named) return dayFirst;
+  return DayOf(parts[2], parts[0], parts[1]);
 }
 
 /// ".5", ",5" or ":500" behind whole seconds; 0 for none.

@@ -27,7 +27,8 @@ Letter LetterOf(char c) {
   if ((c >= 'A' && c <= 'Z') || (byte >= 0xC0 && byte < 0xDF && byte != 0xD7))
     return Letter::Capital;
   const bool small = (c >= 'a' && c <= 'z') || (byte >= 0xDF && byte != 0xF7);
-  return small ? Letter::Small : Letter::Sign;
+  if (small) return Letter::Small;
+  return Letter::Sign;
 }
 
 char SmallOf(char c) { return LetterOf(c) == Letter::Capital ? static_cast<char>(c + 32) : c; }
@@ -37,7 +38,8 @@ std::string Joined(const std::vector<std::string>& words) { return Join(words, "
 /// The part of a path behind its last sign.
 std::string_view LastOfPath(std::string_view title) {
   const auto sign = title.find_last_of("/:.|\\>");
-  return sign == std::string_view::npos ? std::string_view() : title.substr(sign + 1);
+  if (sign == std::string_view::npos) return std::string_view();
+  return title.substr(sign + 1);
 }
 
 }  // namespace
@@ -65,14 +67,16 @@ TitleDictionary::TitleDictionary(std::string_view text) {
     if (line.starts_with('#') || parts.size() < 2) continue;
     const auto words = WordsOf(parts[0]);
     if (words.empty()) continue;
-    const std::string unit = parts.size() > 2 ? parts[2] : "";
+    std::string unit;
+    if (parts.size() > 2) unit = parts[2];
     entries_[Joined(words)] = {std::string(Trim(parts[1])), std::string(Trim(unit)), 100};
   }
 }
 
 const KnownTitle* TitleDictionary::Exactly(const std::vector<std::string>& words) const {
   const auto found = entries_.find(Joined(words));
-  return found == entries_.end() ? nullptr : &found->second;
+  if (found == entries_.end()) return nullptr;
+  return &found->second;
 }
 
 /// All words; without those of no meaning; without a last "1"; without words in front.

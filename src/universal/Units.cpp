@@ -102,7 +102,8 @@ const Unit* FindUnit(std::string_view text) {
   static const auto units = ByText();
   if (text.empty() || text.size() > 20) return nullptr;
   const auto found = units.find(Simple(text));
-  return found == units.end() ? nullptr : found->second;
+  if (found == units.end()) return nullptr;
+  return found->second;
 }
 
 std::optional<UnitConversion> ConversionOf(const Unit& from, const Unit& to) {

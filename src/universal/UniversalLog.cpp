@@ -154,8 +154,8 @@ class Load {
     const clsLogDataItem& coolant = context_.items.Item(ItemOf(kCTemp));
     if (header.Feeds(ItemOf(kATemp)) && store.Rows() > 0) {
       const auto stored = store.Column(kATemp);
-      const std::int32_t lowest =
-          stored.empty() ? 0 : *std::min_element(stored.begin(), stored.end());
+      std::int32_t lowest = 0;
+      if (!stored.empty()) lowest = *std::min_element(stored.begin(), stored.end());
       log_.glngLowestAirTemp =
           std::min(log_.glngLowestAirTemp, RoundToLong(air.GetRawData(lowest)));
     }
@@ -204,7 +204,8 @@ class Load {
   /// The last that a stored integer holds, for a clock that goes wild.
   static std::int32_t StoredTime(double stored) {
     constexpr auto kMost = std::numeric_limits<std::int32_t>::max();
-    return stored < kMost ? RoundToLong(stored) : kMost;
+    if (stored < kMost) return RoundToLong(stored);
+    return kMost;
   }
 
   void Smooth(const HeaderMap& header) {

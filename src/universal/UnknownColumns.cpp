@@ -28,7 +28,8 @@ std::string WriteUnknownUniversalColumns(FileSystem& files, const Moment& now,
                                  "Unknown Columns:"};
   lines.insert(lines.end(), columns.begin(), columns.end());
   const std::string path = folder + kUnknownColumnsFile;
-  return files.Write(path, LinesText(lines)) ? path : "";
+  if (files.Write(path, LinesText(lines))) return path;
+  return "";
 }
 
 bool CreateNewDataLogDescriptionFile(FileSystem& files, const std::string& folder,

@@ -24,7 +24,8 @@ clsDataLogColumnValues::Entry clsDataLogColumnValues::AddDirect(Entry objValue, 
 
 clsDataLogColumnValues::Entry clsDataLogColumnValues::Item(const std::string& key) const {
   const auto found = keys_.find(key);
-  return found == keys_.end() ? nullptr : found->second;
+  if (found == keys_.end()) return nullptr;
+  return found->second;
 }
 
 void clsDataLogColumnValues::Remove(int position) {
