@@ -77,7 +77,8 @@ std::size_t Chart::PointsOf(int series) const {
     return number <= surface->rows.size() ? surface->columns.size() : 0;
   if (const PointCloud* cloud = data_.Cloud()) return number == 1 ? cloud->x.size() : 0;
   const std::size_t place = (number - 1) / 2;
-  return number % 2 == 1 && place < data_.Series().size() ? data_.Series()[place].x.size() : 0;
+  if (number % 2 == 1 && place < data_.Series().size()) return data_.Series()[place].x.size();
+  return 0;
 }
 
 }  // namespace tarnview

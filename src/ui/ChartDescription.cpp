@@ -60,7 +60,8 @@ Object DescribeKind(const Surface& surface, const ChartDescription&) {
 const std::vector<ChartSeries>& ChartDescription::Series() const {
   static const std::vector<ChartSeries> kNone;
   const auto* curves = std::get_if<Curves>(&kind);
-  return curves ? curves->series : kNone;
+  if (curves) return curves->series;
+  return kNone;
 }
 
 List Describe(const std::vector<ChartMark>& marks) {

@@ -21,7 +21,8 @@ void ComboBox::SetList(std::vector<std::string> entries) {
 int ComboBox::ListIndex() const {
   if (chosen_ < entries_.size() && entries_[chosen_] == Text()) return static_cast<int>(chosen_);
   const auto found = std::find(entries_.begin(), entries_.end(), Text());
-  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+  if (found == entries_.end()) return -1;
+  return static_cast<int>(found - entries_.begin());
 }
 
 void ComboBox::SetListIndex(int entry) {
@@ -29,7 +30,10 @@ void ComboBox::SetListIndex(int entry) {
   const std::string before = Text;
   const int entryBefore = ListIndex();
   chosen_ = static_cast<std::size_t>(std::max(entry, 0));
-  Text = inside ? entries_[chosen_] : std::string();
+  if (inside)
+    Text = entries_[chosen_];
+  else
+    Text = std::string();
   if (Text() != before || ListIndex() != entryBefore) Click();
 }
 

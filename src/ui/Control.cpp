@@ -17,7 +17,8 @@ Control::Control(Form& owner, std::string itsName, int itsIndex)
 Control::~Control() { form.Remove(*this); }
 
 std::string Control::FullName() const {
-  return index < 0 ? name : name + "(" + std::to_string(index) + ")";
+  if (index < 0) return name;
+  return name + "(" + std::to_string(index) + ")";
 }
 
 Object Control::Facts() const {

@@ -31,7 +31,8 @@ Control* Form::Find(std::string_view wanted, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
     return c->name == wanted && c->index == index;
   });
-  return found == controls_.end() ? nullptr : *found;
+  if (found == controls_.end()) return nullptr;
+  return *found;
 }
 
 void Form::SetFocus(Control* control) {

@@ -70,11 +70,12 @@ void ListView::UserSelects(int row) {
 void ListView::UserSorts(int column) {
   sortDown_ = column == sortColumn_ && !sortDown_;
   sortColumn_ = column;
-  const std::string tag = selected_ > 0 ? At(selected_).tag : std::string();
+  std::string tag;
+  if (selected_ > 0) tag = At(selected_).tag;
   const auto cell = static_cast<std::size_t>(column - 1);
   std::stable_sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) {
-    return sortDown_ ? Compare(b.texts[cell], a.texts[cell]) < 0
-                     : Compare(a.texts[cell], b.texts[cell]) < 0;
+    if (sortDown_) return Compare(b.texts[cell], a.texts[cell]) < 0;
+    return Compare(a.texts[cell], b.texts[cell]) < 0;
   });
   Changed(What::Content);
   if (selected_ > 0) Select(RowOfTag(tag));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/Text.h"
 #include "ui/Form.h"
 
 namespace tarnview {
@@ -84,7 +85,7 @@ bool RecordingHost::Choose(Dialog& dialog) {
     if (!answer.path.empty()) dialog.path = answer.path;
     if (answer.kind == Answer::Kind::Colour) dialog.colour = answer.colour;
     if (answer.filterIndex > 0) dialog.filterIndex = answer.filterIndex;
-    reply = answer.path.empty() ? "ok" : answer.path;
+    reply = OrElse(answer.path, "ok");
   }
   boxes.emplace_back(Object{{"dialog", Name(dialog.kind)},
                             {"title", dialog.title},

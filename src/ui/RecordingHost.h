@@ -61,7 +61,10 @@ class RecordingHost : public Host {
   bool PreviewPage(const PrintJob& job, std::string& error) override;
 
   /// The window in front; nullptr when none is open.
-  Form* Front() const { return open.empty() ? nullptr : open.back(); }
+  Form* Front() const {
+    if (open.empty()) return nullptr;
+    return open.back();
+  }
 
  protected:
   /// Runs while a modal window is open; the window must be unloaded when it returns.

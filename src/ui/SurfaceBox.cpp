@@ -61,7 +61,8 @@ double SurfaceBox::ShareOfZ(double z) const { return (z / kHalfHeight + 1) / 2; 
 double SurfaceBox::ShareOf(std::size_t row, std::size_t column) const {
   const ChartAxis& axis = surface_.height;
   const double share = (surface_.At(row, column) - axis.min) / (axis.max - axis.min);
-  return std::isfinite(share) ? std::clamp(share, 0.0, 1.0) : 0;
+  if (std::isfinite(share)) return std::clamp(share, 0.0, 1.0);
+  return 0;
 }
 
 ScenePoint SurfaceBox::At(double x, double y, double z) const {
@@ -72,7 +73,13 @@ ScenePoint SurfaceBox::AtCell(std::size_t row, std::size_t column) const {
   return At(X(static_cast<double>(column)), Y(static_cast<double>(row)), Z(ShareOf(row, column)));
 }
 
-double SurfaceBox::NearX() const { return eye_.Back(1, 0) > 0 ? -kHalfWidth : kHalfWidth; }
-double SurfaceBox::NearY() const { return eye_.Back(0, 1) > 0 ? -kHalfDepth : kHalfDepth; }
+double SurfaceBox::NearX() const {
+  if (eye_.Back(1, 0) > 0) return -kHalfWidth;
+  return kHalfWidth;
+}
+double SurfaceBox::NearY() const {
+  if (eye_.Back(0, 1) > 0) return -kHalfDepth;
+  return kHalfDepth;
+}
 
 }  // namespace tarnview

@@ -14,7 +14,8 @@ int Wrapped(int degrees) { return (degrees % 360 + 360) % 360; }
 /// The elevation as a place on the half circle over the map, 0 to 180.
 int OverTheMap(int elevation) {
   const int degrees = Wrapped(elevation);
-  return degrees <= 180 ? degrees : 360 - degrees;
+  if (degrees <= 180) return degrees;
+  return 360 - degrees;
 }
 
 bool IsBehind(int elevation) { return OverTheMap(elevation) > 90; }
@@ -22,7 +23,8 @@ bool IsBehind(int elevation) { return OverTheMap(elevation) > 90; }
 /// Above the floor, 0 to 90.
 int TiltOf(int elevation) {
   const int over = OverTheMap(elevation);
-  return over > 90 ? 180 - over : over;
+  if (over > 90) return 180 - over;
+  return over;
 }
 
 double Radians(int degrees) { return degrees * std::numbers::pi / 180; }
@@ -48,7 +50,9 @@ SurfaceView Turned(const SurfaceView& view, double right, double up) {
   const int highest = behind ? 89 : 90;
   const int change = static_cast<int>(std::lround(std::clamp(up, -90.0, 90.0)));
   const int tilt = std::clamp(TiltOf(elevation) - change, 0, highest);
-  const int level = behind ? 180 : beyond ? 360 : 0;
+  int level = 0;
+  if (beyond) level = 360;
+  if (behind) level = 180;
   const bool climbs = behind == beyond;
   turned.elevation = Wrapped(climbs ? level + tilt : level - tilt);
   return turned;

@@ -132,8 +132,10 @@ void Painter::AddQuarter(std::size_t row, std::size_t column, std::size_t down,
     face.corners[i] = box_.At(corners[i].x, corners[i].y, corners[i].z);
     height += corners[i].z / 4;
   }
-  face.kind = box_.Table().IsLocked(cellRow, cellColumn) ? SceneFace::Kind::Locked
-                                                         : SceneFace::Kind::Ground;
+  if (box_.Table().IsLocked(cellRow, cellColumn))
+    face.kind = SceneFace::Kind::Locked;
+  else
+    face.kind = SceneFace::Kind::Ground;
   face.height = box_.ShareOfZ(height);
   face.light = LightOn(box_.Eye(), corners[0], corners[1], corners[2]);
   face.row = static_cast<int>(cellRow) + 1;

@@ -20,7 +20,10 @@ void TabStrip::SetTabs(std::vector<Tab> tabs) {
   for (const Tab& tab : tabs_)
     if (tab.page) tab.page->Visible = false;
   tabs_ = std::move(tabs);
-  selected_ = tabs_.empty() ? 0 : 1;
+  if (tabs_.empty())
+    selected_ = 0;
+  else
+    selected_ = 1;
   ShowPages();
 }
 
