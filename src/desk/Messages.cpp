@@ -79,8 +79,9 @@ std::string Messages::Text(Message id) const {
   const auto wrong = std::find_if(std::begin(kWrongFiles), std::end(kWrongFiles),
                                   [id](const auto& row) { return row.id == id; });
   if (wrong == std::end(kWrongFiles)) return "Unknown error.";
-  const auto description = [this](int type) {
-    return fileTypeDescription_ ? fileTypeDescription_(type) : "";
+  const auto description = [this](int type) -> std::string {
+    if (fileTypeDescription_) return fileTypeDescription_(type);
+    return "";
   };
   const std::size_t length = description(wrong->lengthFrom).size();
   return "That doesn't look like a " +

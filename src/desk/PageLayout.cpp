@@ -25,7 +25,8 @@ std::size_t FittingLength(const Page& page, const std::string& text, int points,
     (page.TextWidth(text.substr(0, middle), points) <= room ? fits : most) = middle;
   }
   if (fits == text.size()) return fits;
-  const std::size_t stop = fits == 0 ? std::string::npos : text.find_last_of(" /\\", fits - 1);
+  std::size_t stop = std::string::npos;
+  if (fits != 0) stop = text.find_last_of(" /\\", fits - 1);
   return std::max<std::size_t>(stop == std::string::npos ? fits : stop + 1, 1);
 }
 

@@ -18,8 +18,10 @@ std::optional<clsWindowConfig> PlacementOf(const Form& window) {
   config.lngTop = window.Top;
   config.lngWidth = window.Width;
   config.lngHeight = window.Height;
-  config.lngWindowState =
-      window.WindowState == clsWindowConfig::kMaximized ? clsWindowConfig::kMaximized : 0;
+  if (window.WindowState == clsWindowConfig::kMaximized)
+    config.lngWindowState = clsWindowConfig::kMaximized;
+  else
+    config.lngWindowState = 0;
   return config;
 }
 

@@ -5,7 +5,8 @@
 namespace tarnview {
 
 bool MaySaveTo(Host& host, const Dialog& chosen) {
-  const std::string why = host.WhyNotSave ? host.WhyNotSave(chosen) : "";
+  std::string why;
+  if (host.WhyNotSave) why = host.WhyNotSave(chosen);
   if (why.empty()) return true;
   host.Ask({0, why + "\r\n" + chosen.path + "\r\n\r\nPlease choose another name.", kBoxExclamation,
             kApplicationTitle});
