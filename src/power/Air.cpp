@@ -19,9 +19,9 @@ double SaturationOfTetens(double t) { return 6.1078 * std::pow(10, 7.5 * t / (t 
 
 double HumidityOf(const Air& air, double pressure) {
   const double given = StringToDouble(air.humidity);
-  return air.humidityType == HumidityType::WetBulb
-             ? RelativeHumidity(air.temperature, given, pressure)
-             : given;
+  if (air.humidityType == HumidityType::WetBulb)
+    return RelativeHumidity(air.temperature, given, pressure);
+  return given;
 }
 
 }  // namespace
@@ -33,7 +33,8 @@ double RelativeHumidity(double temperature, double wetBulb, double pressure) {
                                                           kPsychrometer *
                                                           (wetBulb * kWetBulbTerm + 1);
   const double percent = RoundHalfEven(100 * vapour / SaturationOfBolton(temperature));
-  return std::isfinite(percent) ? std::clamp(percent, 0.0, 100.0) : 0;
+  if (std::isfinite(percent)) return std::clamp(percent, 0.0, 100.0);
+  return 0;
 }
 
 std::string CorrectionFactor(const Air& air) {
@@ -45,7 +46,8 @@ std::string CorrectionFactor(const Air& air) {
   const double pressurePart = kStandardDryPressure / (pressure - vapour);
   const double temperaturePart = std::sqrt((air.temperature + kZeroCelsius) / kStandardKelvin);
   const double factor = 1.18 * pressurePart * temperaturePart - 0.18;
-  return factor > 0 && std::isfinite(factor) ? FixedText(factor, 3) : "";
+  if (factor > 0 && std::isfinite(factor)) return FixedText(factor, 3);
+  return "";
 }
 
 }  // namespace tarnview

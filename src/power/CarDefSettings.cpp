@@ -25,9 +25,10 @@ const Rule kGearFromOne{[](C& car, std::string_view text) {
 
 const Rule kTyreMethod{[](C& car, std::string_view text) {
                          const int method = StringToLong(text);
-                         car.lngTyreSizeMethod = method == kTyreSize || method == kTyreRevolutions
-                                                     ? method
-                                                     : kTyreRadius;
+                         if (method == kTyreSize || method == kTyreRevolutions)
+                           car.lngTyreSizeMethod = method;
+                         else
+                           car.lngTyreSizeMethod = kTyreRadius;
                        },
                        [](const C& car) { return std::to_string(car.lngTyreSizeMethod); }};
 

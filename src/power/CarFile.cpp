@@ -39,7 +39,8 @@ Row LossRow(const char* key) {
 
 int TyreMethodOf(std::string_view text) {
   if (text == "1") return kTyreSize;
-  return text == "2" ? kTyreRevolutions : kTyreRadius;
+  if (text == "2") return kTyreRevolutions;
+  return kTyreRadius;
 }
 
 const Row kUnitsRow{"Units", [](const F& f) { return std::string(f.imperial ? "I" : "M"); },

@@ -8,9 +8,13 @@
 namespace tarnview {
 namespace {
 
-double WattsIn(bool imperial) { return imperial ? kWattsPerHorsepower : 1000; }
+double WattsIn(bool imperial) {
+  if (imperial) return kWattsPerHorsepower;
+  return 1000;
+}
 double MetresPerSecondIn(bool imperial) {
-  return imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh;
+  if (imperial) return kMetresPerSecondInMph;
+  return kMetresPerSecondInKmh;
 }
 
 }  // namespace
@@ -43,12 +47,13 @@ double CubeRoot(double value) {
     if (next == x) break;
     x = next;
   }
-  return value < 0 ? -x : x;
+  if (value < 0) return -x;
+  return x;
 }
 
 std::string Cube_Root_Of(std::string_view value) {
-  return IsNumeric(value) ? NumberText(CubeRoot(StringToDouble(value)))
-                          : "ERROR: Invalid numeric argument";
+  if (IsNumeric(value)) return NumberText(CubeRoot(StringToDouble(value)));
+  return "ERROR: Invalid numeric argument";
 }
 
 double CDblStripUnits(std::string_view strValue) {

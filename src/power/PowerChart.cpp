@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "model/Column.h"
+#include "power/UnitNames.h"
 
 namespace tarnview {
 namespace {
@@ -20,7 +21,10 @@ std::string At(double rpm) { return " @ " + RpmText(rpm); }
 ChartSeries SeriesOf(const std::vector<PowerPoint>& points, double PowerPoint::*value,
                      std::string name, const Pen& pen) {
   ChartSeries series;
-  series.id = value == &PowerPoint::power ? ItemOf(kPower) : ItemOf(kTorque);
+  if (value == &PowerPoint::power)
+    series.id = ItemOf(kPower);
+  else
+    series.id = ItemOf(kTorque);
   series.name = std::move(name);
   series.pen = pen;
   for (const PowerPoint& point : points) {
@@ -47,11 +51,11 @@ double Highest(const std::vector<ChartSeries>& series) {
 }
 
 std::string PowerText(double power, bool imperial) {
-  return FixedText(power, 1) + (imperial ? " hp" : " kW");
+  return FixedText(power, 1) + UnitNamesOf(imperial).power;
 }
 
 std::string TorqueText(double torque, bool imperial) {
-  return FixedText(torque, 1) + (imperial ? " lbft" : " Nm");
+  return FixedText(torque, 1) + UnitNamesOf(imperial).torque;
 }
 
 /// Each peak on its own curve; a curve that never rises above 0 has none.
@@ -79,8 +83,7 @@ Object FactsOf(const PowerCurves& run, double maxRpm) {
 
 std::string PowerLegend(const std::string& whose, const PowerPeaks& peaks, bool imperial) {
   std::string text = whose + " Power (" + PowerText(peaks.power, imperial) + At(peaks.powerRpm);
-  if (peaks.topSpeed)
-    text += ", Vmax " + NumberText(*peaks.topSpeed) + (imperial ? " mph" : " kmh");
+  if (peaks.topSpeed) text += ", Vmax " + NumberText(*peaks.topSpeed) + UnitNamesOf(imperial).speed;
   return text + ")";
 }
 

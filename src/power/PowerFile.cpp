@@ -47,7 +47,10 @@ bool Never(const F&) { return false; }
 void RaiseDrag(F& file) { file.usesDrag = true; }
 void RaiseWetBulb(F& file) { file.wetBulb = true; }
 void UnitsOfName(F& file) {
-  file.units = file.units == "hp" || file.units == "lb ft" ? "Imperial" : "Metric";
+  if (file.units == "hp" || file.units == "lb ft")
+    file.units = "Imperial";
+  else
+    file.units = "Metric";
 }
 void SayRadius(F& file) { file.driveWheel += " drive wheel radius"; }
 
@@ -133,7 +136,8 @@ std::string Padded(double value, int digits, int places) {
 /// ends before.
 double FixedNumber(std::string_view line, std::size_t place,
                    std::size_t length = std::string_view::npos) {
-  return place <= line.size() ? StringToDouble(line.substr(place - 1, length)) : 0;
+  if (place <= line.size()) return StringToDouble(line.substr(place - 1, length));
+  return 0;
 }
 
 // 6480,141.2,114.4

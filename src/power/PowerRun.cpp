@@ -58,7 +58,8 @@ std::string FaultOf(const PowerRun& run) {
   const double drag = DragOf(car, run.air);
   if (std::isfinite(drag) && drag != 0) return "";
   if (car.blnUseCD) return run.air.pressure == 0 ? "Atmospheric Pressure" : "Drag Coefficient";
-  return car.lngAeroLossSpeed == 0 ? "Set Point Speed" : "Set Point Power";
+  if (car.lngAeroLossSpeed == 0) return "Set Point Speed";
+  return "Set Point Power";
 }
 
 /// Watts that took the car from one speed to the other within `dt`, at the engine.
@@ -147,7 +148,8 @@ PowerCurves CurvesOf(const PowerRun& run, const std::vector<PowerPoint>* average
   curves.imperial = run.imperial;
   TakePoints(run, curves);
   Smooth(curves.points, run.smoothing);
-  const double factor = run.corrected ? run.correction : 1;
+  double factor = 1;
+  if (run.corrected) factor = run.correction;
   for (PowerPoint& point : curves.points) {
     point.power *= factor;
     point.torque *= factor;
@@ -156,7 +158,8 @@ PowerCurves CurvesOf(const PowerRun& run, const std::vector<PowerPoint>* average
   curves.peaks = PeaksOf(curves.points);
   curves.peaks.topSpeed =
       RoundPlaces(TopSpeed(curves.peaks.power, DragOf(run.car, run.air), run.imperial), 1);
-  return AllFinite(curves) ? curves : Failed("");
+  if (AllFinite(curves)) return curves;
+  return Failed("");
 }
 
 }  // namespace tarnview

@@ -99,7 +99,8 @@ void RunFields::ListCars() {
 
 const clsCarDef* RunFields::Car() const {
   const int place = w_.cboCarDefs.ListIndex();
-  return place >= 0 && place < cars_.Count() ? &cars_.Item(place + 1) : nullptr;
+  if (place >= 0 && place < cars_.Count()) return &cars_.Item(place + 1);
+  return nullptr;
 }
 
 void RunFields::TakeCar() {

@@ -58,7 +58,8 @@ class Finder {
   /// rpm for each unit of road speed; 0 where the log cannot tell.
   double Gearing(std::int32_t row) const {
     const double speed = Value(kSpeed, row);
-    return speed >= kReliableSpeed ? Value(kRPM, row) / speed : 0;
+    if (speed >= kReliableSpeed) return Value(kRPM, row) / speed;
+    return 0;
   }
 
   bool SameGear(double gearing, std::int32_t row) const {

@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "base/Units.h"
 #include "power/Drag.h"
+#include "power/UnitNames.h"
 
 namespace tarnview {
 namespace {
@@ -18,15 +19,15 @@ std::string DriveWheelText(const clsCarDef& car) {
     case kTyreRevolutions:
       // The blank at the end is kept on purpose: files have always had it.
       return std::to_string(car.lngTyreRPM) + " Revolutions per " +
-             (car.blnImperialUnits ? "Mile " : "Km ");
+             UnitNamesOf(car.blnImperialUnits).distance;
     default:
-      return NumberText(car.dblDriveWheelRadius) + (car.blnImperialUnits ? " in " : " mm ") +
+      return NumberText(car.dblDriveWheelRadius) + UnitNamesOf(car.blnImperialUnits).radius +
              "drive wheel radius";
   }
 }
 
 void SayCar(const clsCarDef& car, PowerFile& graph) {
-  const bool imperial = car.blnImperialUnits;
+  const UnitNames& units = UnitNamesOf(car.blnImperialUnits);
   for (int gear = 0; gear < kGears; ++gear) {
     graph.gearRatios[static_cast<std::size_t>(gear)] = FixedText(GearRatio(car, gear), 3);
     graph.gearLosses[static_cast<std::size_t>(gear)] = std::to_string(GearLoss(car, gear));
@@ -35,9 +36,9 @@ void SayCar(const clsCarDef& car, PowerFile& graph) {
   graph.driveWheel = DriveWheelText(car);
   graph.usesDrag = car.blnUseCD;
   graph.dragCoefficient = NumberText(car.dblCD);
-  graph.frontalArea = NumberText(car.dblFrontalArea) + (imperial ? " ft2" : " m2");
-  graph.setPointPower = std::to_string(car.lngAeroLossPower) + (imperial ? " hp" : " kW");
-  graph.setPointSpeed = std::to_string(car.lngAeroLossSpeed) + (imperial ? " mph" : " kmh");
+  graph.frontalArea = NumberText(car.dblFrontalArea) + units.area;
+  graph.setPointPower = std::to_string(car.lngAeroLossPower) + units.power;
+  graph.setPointSpeed = std::to_string(car.lngAeroLossSpeed) + units.speed;
   graph.dyno = std::to_string(car.lngDynoCorrectionFactor);
 }
 
@@ -50,6 +51,19 @@ void SayAir(const Air& air, PowerFile& graph) {
 
 bool Bears(std::string_view text, std::string_view unit) {
   return text.find(unit) != std::string_view::npos;
+}
+
+std::optional<double> CdDragOf(const PowerFile& graph, const Air& air) {
+  if (graph.dragCoefficient.empty() || graph.frontalArea.empty()) return std::nullopt;
+  return GetCdDragCalcPart(CDblStripUnits(graph.dragCoefficient), CDblStripUnits(graph.frontalArea),
+                           air.pressure, air.temperature, !Bears(graph.frontalArea, "m2"));
+}
+
+std::optional<double> SetPointDragOf(const PowerFile& graph) {
+  if (graph.setPointPower.empty() || graph.setPointSpeed.empty()) return std::nullopt;
+  return GetSetPointDragCalcPart(CDblStripUnits(graph.setPointPower),
+                                 CDblStripUnits(graph.setPointSpeed),
+                                 !Bears(graph.setPointPower, "kW"));
 }
 
 }  // namespace
@@ -69,9 +83,12 @@ PowerFile SavedRun(const PowerRun& run, const PowerCurves& curves, const RunOrig
   SayCar(run.car, graph);
   SayAir(run.air, graph);
   graph.gear = GearName(run.gear);
-  graph.carWeight = std::to_string(TotalWeight(run)) + (run.car.blnImperialUnits ? " lb" : " kg");
+  graph.carWeight = std::to_string(TotalWeight(run)) + UnitNamesOf(run.car.blnImperialUnits).weight;
   graph.smoothing = std::to_string(run.smoothing);
-  graph.units = curves.imperial ? "Imperial" : "Metric";
+  if (curves.imperial)
+    graph.units = "Imperial";
+  else
+    graph.units = "Metric";
   if (run.corrected) graph.correctionFactor = correctionFactor;
   graph.points = curves.points;
   graph.speed = SpeedsIn(curves.speed, curves.imperial);
@@ -79,20 +96,14 @@ PowerFile SavedRun(const PowerRun& run, const PowerCurves& curves, const RunOrig
 }
 
 std::vector<SpeedPoint> SpeedsIn(std::vector<SpeedPoint> speed, bool imperial) {
-  for (SpeedPoint& point : speed)
-    point.speed /= imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh;
+  const double unit = imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh;
+  for (SpeedPoint& point : speed) point.speed /= unit;
   return speed;
 }
 
 std::optional<double> DragOf(const PowerFile& graph, const Air& air) {
-  const std::string& first = graph.usesDrag ? graph.dragCoefficient : graph.setPointPower;
-  const std::string& second = graph.usesDrag ? graph.frontalArea : graph.setPointSpeed;
-  if (first.empty() || second.empty()) return std::nullopt;
-  const double a = CDblStripUnits(first), b = CDblStripUnits(second);
-  const double k =
-      graph.usesDrag ? GetCdDragCalcPart(a, b, air.pressure, air.temperature, !Bears(second, "m2"))
-                     : GetSetPointDragCalcPart(a, b, !Bears(first, "kW"));
-  if (!std::isfinite(k) || k == 0) return std::nullopt;
+  const std::optional<double> k = graph.usesDrag ? CdDragOf(graph, air) : SetPointDragOf(graph);
+  if (!k || !std::isfinite(*k) || *k == 0) return std::nullopt;
   return k;
 }
 

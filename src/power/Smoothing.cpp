@@ -26,7 +26,8 @@ std::vector<PowerPoint> MeansAround(const std::vector<PowerPoint>& points, std::
                                     std::int32_t halfWidth) {
   std::vector<PowerPoint> means(count);
   for (std::size_t i = 0; i < count; ++i) {
-    const double rpm = i < points.size() ? points[i].rpm : 0;
+    double rpm = 0;
+    if (i < points.size()) rpm = points[i].rpm;
     means[i] = MeanAround(points, static_cast<std::int64_t>(i), halfWidth, rpm);
   }
   return means;
@@ -38,7 +39,8 @@ std::int32_t SecondHalfWidth(std::int32_t factor) {
   constexpr std::int32_t kWideFactor =
       3;  // from here on the second average takes in two points to either side
   const std::int32_t third = RoundToLong(factor / 3.0);
-  return factor >= kWideFactor ? std::max(third, 2) : third;
+  if (factor >= kWideFactor) return std::max(third, 2);
+  return third;
 }
 
 void Smooth(std::vector<PowerPoint>& points, std::int32_t factor) {

@@ -45,7 +45,10 @@ ChartAxis AxisOf(const std::vector<ChartSeries>& series, std::vector<double> Cha
   axis.min = std::floor(low / step) * step;
   axis.max = std::max(std::ceil(high / step) * step, axis.min + step);
   axis.divisions = static_cast<int>(std::lround((axis.max - axis.min) / step));
-  axis.format = step < 1 ? "#######0.0" : "#######0";
+  if (step < 1)
+    axis.format = "#######0.0";
+  else
+    axis.format = "#######0";
   return axis;
 }
 
@@ -75,7 +78,10 @@ ChartDescription SpeedChart(const std::vector<SpeedPoint>& run,
   chart.y = AxisOf(series, &ChartSeries::y, kMostSpeeds);
   chart.kind = Curves{std::move(series)};
   chart.x.title = "Time (Seconds)";
-  chart.y.title = imperial ? "Speed (MPH)" : "Speed (KPH)";
+  if (imperial)
+    chart.y.title = "Speed (MPH)";
+  else
+    chart.y.title = "Speed (KPH)";
   return chart;
 }
 

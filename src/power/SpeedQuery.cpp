@@ -13,7 +13,8 @@ using Series = std::vector<SpeedPoint>;
 /// "4.25" as "04.25".
 std::string TwoDigits(double seconds) {
   const std::string text = FixedText(seconds, 2);
-  return text.find('.') < 2 ? "0" + text : text;
+  if (text.find('.') < 2) return "0" + text;
+  return text;
 }
 
 Series::const_iterator Reaching(const Series& series, Series::const_iterator at, double speed) {
@@ -38,8 +39,8 @@ std::string TimeBetween(const Series& series, double from, double to) {
     return kNone;
   const auto start = Reaching(series, series.begin(), from);
   const auto end = Reaching(series, start, to);
-  return end == series.end() ? kNone
-                             : TwoDigits(TimeOf(series, end, to) - TimeOf(series, start, from));
+  if (end == series.end()) return kNone;
+  return TwoDigits(TimeOf(series, end, to) - TimeOf(series, start, from));
 }
 
 }  // namespace tarnview

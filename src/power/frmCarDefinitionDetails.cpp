@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "base/TextFile.h"
 #include "desk/SaveDialog.h"
 #include "power/CarFile.h"
@@ -23,7 +24,8 @@ std::vector<std::string> Numbers(int from, int to, int step) {
 
 const char* LabelOf(CarUnit unit, bool imperial) {
   const CarUnitRow& row = CarUnitOf(unit);
-  return imperial ? row.imperialLabel : row.metricLabel;
+  if (imperial) return row.imperialLabel;
+  return row.metricLabel;
 }
 
 bool IsLegalFileName(std::string_view name) {
@@ -226,7 +228,7 @@ Dialog frmCarDefinitionDetails::FileDialog(DialogKind kind, const char* title) c
   dialog.kind = kind;
   dialog.title = title;
   dialog.filter = kCarFileFilter;
-  dialog.initialPath = lastFile_.empty() ? around_.workingDirectory : lastFile_;
+  dialog.initialPath = OrElse(lastFile_, around_.workingDirectory);
   return dialog;
 }
 

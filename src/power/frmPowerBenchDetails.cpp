@@ -49,8 +49,13 @@ void frmPowerBenchDetails::ShowCar(const PowerFile& graph) {
   }
   lblGears(kGears).Caption = std::string("Final Drive");
   txtGearRatios(kGears).Text = graph.finalDrive;
-  txtSetPointPower.Text = graph.usesDrag ? graph.dragCoefficient : graph.setPointPower;
-  txtSetPointSpeed.Text = graph.usesDrag ? graph.frontalArea : graph.setPointSpeed;
+  if (graph.usesDrag) {
+    txtSetPointPower.Text = graph.dragCoefficient;
+    txtSetPointSpeed.Text = graph.frontalArea;
+  } else {
+    txtSetPointPower.Text = graph.setPointPower;
+    txtSetPointSpeed.Text = graph.setPointSpeed;
+  }
   if (!graph.usesDrag) return;
   lblSetPointPower.Caption = std::string("Drag Coefficient");
   lblSetPointSpeed.Caption = std::string("Frontal Area");

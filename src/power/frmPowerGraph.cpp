@@ -20,8 +20,8 @@ constexpr long kDivisionByZero = 11;
 enum Panel { kReadingPanel = 3, kWarningPanel = 4 };
 
 std::string InWindow(const std::string& fault) {
-  return fault.empty() ? "Car definition: its numbers lead nowhere"
-                       : "Car definition: check " + fault;
+  if (fault.empty()) return "Car definition: its numbers lead nowhere";
+  return "Car definition: check " + fault;
 }
 
 }  // namespace
@@ -126,7 +126,8 @@ std::optional<SampleRange> frmPowerGraph::TakeRange() {
   const RunRange checked = CheckedRange(fields_.Range(), whole, mainWindow_.MainRange());
   if (checked.message) around_.messages.ShowMessage(*checked.message);
   fields_.SetRange(checked.range);
-  return checked.drawable ? std::optional(checked.range) : std::nullopt;
+  if (checked.drawable) return std::optional(checked.range);
+  return std::nullopt;
 }
 
 void frmPowerGraph::cmdDrawGraph_Click() {

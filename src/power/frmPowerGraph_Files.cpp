@@ -3,6 +3,7 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "base/TextFile.h"
 #include "base/Units.h"
 #include "desk/RecentMenu.h"
@@ -42,8 +43,7 @@ Dialog frmPowerGraph::FileDialog(DialogKind kind, const char* title) const {
   dialog.kind = kind;
   dialog.title = title;
   dialog.filter = kPowerFileFilter;
-  dialog.initialPath =
-      savedPath_.empty() ? around_.settings.gstrDefaultWorkingDirectory : savedPath_;
+  dialog.initialPath = OrElse(savedPath_, around_.settings.gstrDefaultWorkingDirectory);
   return dialog;
 }
 
@@ -107,7 +107,7 @@ void frmPowerGraph::mnuFileSave_Click() {
 void frmPowerGraph::mnuFileSaveAs_Click() {
   saved_ = false;
   Dialog dialog = FileDialog(DialogKind::Save, "Save Power Graph As");
-  dialog.path = savedPath_.empty() ? WithoutExtension(drawn_->file) + ".pow" : savedPath_;
+  dialog.path = OrElse(savedPath_, WithoutExtension(drawn_->file) + ".pow");
   const auto withEnding = [](Dialog& chosen) {
     if (GetExtension(chosen.path).empty()) chosen.path += ".pow";
   };
@@ -138,8 +138,10 @@ void frmPowerGraph::mnuToolsSpeed_Click() {
   input.imperial = drawn_->curves.imperial;
   if (benchmark_ && fields_.Action() != BenchmarkAction::Hide) {
     input.benchmark = benchmark_->graph.speed;
-    input.benchmarkImperial =
-        benchmark_->graph.UnitsKnown() ? benchmark_->graph.imperial() : input.imperial;
+    if (benchmark_->graph.UnitsKnown())
+      input.benchmarkImperial = benchmark_->graph.imperial();
+    else
+      input.benchmarkImperial = input.imperial;
   }
   mainWindow_.OpenSpeedGraph(input);
 }

@@ -9,6 +9,7 @@
 #include "desk/Placement.h"
 #include "power/SpeedChart.h"
 #include "power/SpeedQuery.h"
+#include "power/UnitNames.h"
 
 namespace tarnview {
 namespace {
@@ -19,7 +20,10 @@ constexpr double kOffsetStep = 0.1;  // seconds
 constexpr double kMostOffset = 1e6;
 
 /// Metres per second.
-double UnitOf(bool imperial) { return imperial ? kMetresPerSecondInMph : kMetresPerSecondInKmh; }
+double UnitOf(bool imperial) {
+  if (imperial) return kMetresPerSecondInMph;
+  return kMetresPerSecondInKmh;
+}
 
 /// A field's number in the other units: a whole number.
 void Convert(TextBox& field, double factor) {
@@ -148,7 +152,7 @@ void frmSpeedGraph::cmdCalc_Click() {
 PrintDetails frmSpeedGraph::DetailsForPrint() const {
   PrintDetails details{" Speed Graph", {{"File", input_.file}}};
   if (txtResYou.Text().empty()) return details;
-  const std::string unit = Imperial() ? " mph" : " kmh";
+  const std::string unit = UnitNamesOf(Imperial()).speed;
   details.rows.emplace_back("Acceleration", txtSpeedFrom.Text() + " - " + txtSpeedTo.Text() + unit);
   details.rows.emplace_back("You", txtResYou.Text());
   if (HasBenchmark()) details.rows.emplace_back("Benchmark", txtResBench.Text());
