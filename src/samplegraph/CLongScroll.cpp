@@ -48,7 +48,8 @@ void CLongScroll::value(std::int32_t value) {
 void CLongScroll::ShowOnClient() {
   if (!m_Client) return;
   const double range = std::abs(static_cast<double>(max_) - min_);
-  const double part = range == 0 ? 0 : (static_cast<double>(value_) - Lower()) / range;
+  double part = 0;
+  if (range != 0) part = (static_cast<double>(value_) - Lower()) / range;
   const double travel = part * std::abs(m_Client->Max() - m_Client->Min());
   const double position = Reversed() ? m_Client->Max() - travel : m_Client->Min() + travel;
   WriteClient(RoundToLong(position));
@@ -66,7 +67,8 @@ void CLongScroll::WriteClient(int position) {
 
 void CLongScroll::TakeFromThumb() {
   const double travel = std::abs(m_Client->Max() - m_Client->Min());
-  double part = travel == 0 ? 0 : std::abs(m_Client->Value() - m_Client->Min()) / travel;
+  double part = 0;
+  if (travel != 0) part = std::abs(m_Client->Value() - m_Client->Min()) / travel;
   if (Reversed()) part = 1 - part;
   const double range = std::abs(static_cast<double>(max_) - min_);
   value_ = RoundToLong(Lower() + part * range);

@@ -31,8 +31,14 @@ class CLongScroll {
 
  private:
   bool Reversed() const { return max_ < min_; }
-  std::int32_t Lower() const { return Reversed() ? max_ : min_; }
-  std::int32_t Higher() const { return Reversed() ? min_ : max_; }
+  std::int32_t Lower() const {
+    if (Reversed()) return max_;
+    return min_;
+  }
+  std::int32_t Higher() const {
+    if (Reversed()) return min_;
+    return max_;
+  }
   void ClientChanged();
   void ClientScrolled();
   void TakeFromThumb();

@@ -23,7 +23,10 @@ struct ChartTable {
 
   std::int32_t LastRow() const { return static_cast<std::int32_t>(x.size()); }
   /// X of a row from 0; the heading row counts as 0.
-  double X(std::int32_t row) const { return row < 1 ? 0 : x[static_cast<std::size_t>(row - 1)]; }
+  double X(std::int32_t row) const {
+    if (row < 1) return 0;
+    return x[static_cast<std::size_t>(row - 1)];
+  }
 };
 
 /// Which samples go into the table.

@@ -11,7 +11,8 @@ std::int32_t ClosestSampleNumberToTime(const OpenLog& log, std::int32_t lngTime)
   const auto timeAt = [&](std::int32_t index) { return log.glngDataLog(kSecs, index); };
   const double first = timeAt(log.glngFirstSample), last = timeAt(log.glngLastSample);
   const double samples = static_cast<double>(log.glngLastSampleTime) - log.glngFirstSampleTime;
-  const double share = last == first ? 0 : (lngTime - first) / (last - first);
+  double share = 0;
+  if (last != first) share = (lngTime - first) / (last - first);
   std::int32_t index =
       std::clamp(RoundToLong(share * samples), log.glngFirstSample, log.glngLastSample);
   if (timeAt(index) >= lngTime) {

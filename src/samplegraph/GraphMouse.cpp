@@ -52,12 +52,14 @@ std::int32_t GraphMouse::IndexAt(double x) const {
       end = middle;
   }
   if (index == log_.glngFirstSample) return index;
-  return std::abs(TimeOf(index) - x) < std::abs(x - TimeOf(index - 1)) ? index : index - 1;
+  if (std::abs(TimeOf(index) - x) < std::abs(x - TimeOf(index - 1))) return index;
+  return index - 1;
 }
 
 std::int32_t GraphMouse::WidestRange() const {
   const std::int32_t wholeLog = log_.glngLastSample - log_.glngFirstSample;
-  return controls_.chkQuickGraph.Value ? wholeLog : std::min(wholeLog, kWidestFullRange);
+  if (controls_.chkQuickGraph.Value) return wholeLog;
+  return std::min(wholeLog, kWidestFullRange);
 }
 
 void GraphMouse::ZoomAt(double x, double notches) {
@@ -69,7 +71,8 @@ void GraphMouse::ZoomAt(double x, double notches) {
   std::int32_t wanted = RoundToLong(std::min<double>(zoomed, widest));
   if (wanted == width) wanted += notches < 0 ? 1 : -1;
   wanted = std::clamp(wanted, std::min(kNarrowest, widest), widest);
-  const double share = width > 0 ? static_cast<double>(at - drawn_.lngPlotFirstIndex) / width : 0.5;
+  double share = 0.5;
+  if (width > 0) share = static_cast<double>(at - drawn_.lngPlotFirstIndex) / width;
   const std::int32_t first = std::clamp(RoundToLong(at - share * wanted), log_.glngFirstSample,
                                         log_.glngLastSample - wanted);
   ShowRows(first, first + wanted, Move::OneOfMany);

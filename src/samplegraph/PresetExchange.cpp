@@ -31,7 +31,7 @@ Dialog PresetExchange::DialogFor(DialogKind kind, const char* title) const {
   dialog.kind = kind;
   dialog.title = title;
   dialog.filter = kind_.filter;
-  dialog.initialPath = lastFile_.empty() ? around_.workingDirectory : lastFile_;
+  dialog.initialPath = OrElse(lastFile_, around_.workingDirectory);
   return dialog;
 }
 

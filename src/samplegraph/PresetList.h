@@ -42,7 +42,8 @@ class PresetList {
   Preset* Of(int row) const {
     if (row < 1 || row > list_.Count()) return nullptr;
     const int position = StringToLong(list_.At(row).tag);
-    return position >= 1 && position <= presets_.Count() ? &presets_.Item(position) : nullptr;
+    if (position >= 1 && position <= presets_.Count()) return &presets_.Item(position);
+    return nullptr;
   }
   Preset* Selected() const { return Of(list_.SelectedRow()); }
   /// Clicks on the first preset of that name; false if there is none.

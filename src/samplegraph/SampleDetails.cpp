@@ -32,8 +32,10 @@ void SampleDetails::SetUpSampleGraphSampleListView(int lngFileType, const clsLog
   const bool wasVisible = controls_.lvwSampleDetails.Visible;
   controls_.lvwSampleDetails.Visible = false;
   SampleListForm form;
-  form.intMode =
-      controls_.chkShowCheckedOnly.Value ? kDisplayedAndCheckedItems : kDisplayedInAnyCase;
+  if (controls_.chkShowCheckedOnly.Value)
+    form.intMode = kDisplayedAndCheckedItems;
+  else
+    form.intMode = kDisplayedInAnyCase;
   form.lngFileType = lngFileType;
   SetUpSampleListView(controls_.lvwSampleDetails, checked_, form, families_, items);
   controls_.lvwSampleDetails.Visible = wasVisible;

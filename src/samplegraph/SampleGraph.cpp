@@ -167,9 +167,8 @@ ChartDescription SampleGraph::Describe() const {
 
 int SampleGraph::PlaceOf(int item) const {
   const auto found = std::find(drawn_.intPlottedItems.begin(), drawn_.intPlottedItems.end(), item);
-  return found == drawn_.intPlottedItems.end()
-             ? 0
-             : static_cast<int>(found - drawn_.intPlottedItems.begin()) + 1;
+  if (found == drawn_.intPlottedItems.end()) return 0;
+  return static_cast<int>(found - drawn_.intPlottedItems.begin()) + 1;
 }
 
 void SampleGraph::SelectAgain() {

@@ -47,7 +47,10 @@ ListView::Row MakeRow(const clsLogDataItem& item, const SampleListForm& form) {
         (row.toolTip.empty() ? "" : "\r\n") + ("Data log column(s): " + item.strColumnTitles);
   row.tag = std::to_string(item.intSeq);
   if (!form.pictures) return row;
-  row.icon = item.blnDisplay ? kIconDisplayed : kIconNotDisplayed;
+  if (item.blnDisplay)
+    row.icon = kIconDisplayed;
+  else
+    row.icon = kIconNotDisplayed;
   if (item.blnSampleGraphPlottable) row.colour = item.lngColour;
   return row;
 }

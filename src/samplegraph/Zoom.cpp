@@ -29,7 +29,8 @@ Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selecti
 
 std::int32_t Zoom::Amount() const {
   const std::int32_t amount = StringToLong(controls_.cboZoomAmount.Text());
-  return amount < kLeastAmount || amount > kGreatestAmount ? kLeastAmount : amount;
+  if (amount < kLeastAmount || amount > kGreatestAmount) return kLeastAmount;
+  return amount;
 }
 
 void Zoom::LeaveAmount() { SetAmount(Amount()); }

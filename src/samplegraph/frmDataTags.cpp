@@ -64,7 +64,8 @@ void frmDataTags::FillList(int lngSelect) {
 
 int frmDataTags::Selected() const {
   const int row = lvwTags.SelectedRow();
-  return row < 1 ? 0 : StringToLong(lvwTags.At(row).tag);
+  if (row < 1) return 0;
+  return StringToLong(lvwTags.At(row).tag);
 }
 
 void frmDataTags::cmdShow_Click() {
