@@ -19,7 +19,8 @@ void DataItemCombo::SetItems(const DataItemList& items) {
 
 int DataItemCombo::Item() const {
   const int entry = combo_.ListIndex();
-  return entry < 0 ? 0 : items_[static_cast<std::size_t>(entry)];
+  if (entry < 0) return 0;
+  return items_[static_cast<std::size_t>(entry)];
 }
 
 bool DataItemCombo::SearchImageComboForDataItem(int item) {

@@ -60,7 +60,8 @@ class ScatterDrawing {
   const PointCloud& dblScatterData() const { return *controls_.chScatterGraph.Data().Cloud(); }
   /// The store index of a point, from 1; -1 where the log is another by now.
   std::int32_t IndexOfPoint(int point) const {
-    return OfOpenLog() ? rows_[static_cast<std::size_t>(point - 1)] : -1;
+    if (OfOpenLog()) return rows_[static_cast<std::size_t>(point - 1)];
+    return -1;
   }
   /// The log's path.
   const std::string& strGraphedFile() const { return strGraphedFile_; }

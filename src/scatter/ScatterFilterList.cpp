@@ -10,7 +10,8 @@ namespace tarnview {
 namespace {
 
 std::string BoundCell(double bound, const clsLogDataItem& item) {
-  return bound == kBoundNotSet ? "-" : FilterBoundText(bound, item);
+  if (bound == kBoundNotSet) return "-";
+  return FilterBoundText(bound, item);
 }
 
 }  // namespace
@@ -89,7 +90,8 @@ void ScatterFilterList::DeleteFilter() {
 
 int ScatterFilterList::Selected() const {
   const int row = controls_.lvwFilters.SelectedRow();
-  return row == 0 ? 0 : StringToLong(controls_.lvwFilters.At(row).tag);
+  if (row == 0) return 0;
+  return StringToLong(controls_.lvwFilters.At(row).tag);
 }
 
 }  // namespace tarnview

@@ -50,11 +50,11 @@ std::int64_t FirstStored(const Reached& reached) {
 StoredRange StoredRangeOf(const clsScatterFilter& filter, const clsLogDataItem& item) {
   const bool list = item.intType == kListItem;
   constexpr double kEndless = std::numeric_limits<double>::infinity();
-  const double from = !list && filter.dblFrom == kBoundNotSet ? -kEndless : filter.dblFrom;
+  double from = filter.dblFrom, to = filter.dblTo;
   // With neither bound set nothing passes: the value is held against the mark of an unset bound.
-  const double to = list ? filter.dblFrom
-                    : filter.dblTo == kBoundNotSet && filter.dblFrom != kBoundNotSet ? kEndless
-                                                                                     : filter.dblTo;
+  if (to == kBoundNotSet && from != kBoundNotSet) to = kEndless;
+  if (from == kBoundNotSet) from = -kEndless;
+  if (list) from = to = filter.dblFrom;
   const auto value = [&](std::int32_t stored) { return item.GetRawData(stored); };
   std::int64_t first = 0, end = 0;
   if (item.Factor() < 0) {

@@ -39,7 +39,8 @@ Span SpanOf(const std::vector<double>& values) {
   const double size = std::max(std::fabs(span.low), std::fabs(span.high));
   if (size > kAsZero && Tenth(span) > kAsEqual * size) return span;
   // One value alone: a tenth of it to each side, or a whole unit about zero.
-  const double room = size > kAsZero ? size / 10 : 1;
+  double room = 1;
+  if (size > kAsZero) room = size / 10;
   return {span.low - room, span.high + room};
 }
 
@@ -60,8 +61,8 @@ ChartAxis AutomaticAxis(const std::vector<double>& values, std::string title) {
                last = std::ceil(span.high / step - kSlack);
   const int places =
       std::clamp(static_cast<int>(std::ceil(-std::log10(step) - kSlack)), 0, kMostPlaces);
-  const std::string fraction =
-      places == 0 ? "" : "." + std::string(static_cast<std::size_t>(places), '0');
+  std::string fraction;
+  if (places != 0) fraction = "." + std::string(static_cast<std::size_t>(places), '0');
   return {first * step, last * step, static_cast<int>(last - first), "#######0" + fraction,
           std::move(title)};
 }

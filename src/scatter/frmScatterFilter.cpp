@@ -10,7 +10,8 @@ namespace tarnview {
 namespace {
 
 double BoundIn(const ComboBox& box) {
-  return box.Text->empty() ? kBoundNotSet : StringToDouble(box.Text());
+  if (box.Text->empty()) return kBoundNotSet;
+  return StringToDouble(box.Text());
 }
 
 }  // namespace
@@ -30,7 +31,8 @@ frmScatterFilter::frmScatterFilter(Host& itsHost, const Catalogue& catalogue, Me
 
 const clsLogDataItem* frmScatterFilter::Item() const {
   const int seq = items_.Item();
-  return seq == 0 ? nullptr : &ItemsOfFamily(catalogue_, family_).Item(seq);
+  if (seq == 0) return nullptr;
+  return &ItemsOfFamily(catalogue_, family_).Item(seq);
 }
 
 bool frmScatterFilter::IsList() const { return Item() && Item()->intType == kListItem; }
@@ -68,7 +70,10 @@ void frmScatterFilter::BoundIsLeft(ComboBox& box) {
 bool frmScatterFilter::Recognise(ComboBox& box) {
   if (!IsList()) {
     const std::string text(Trim(box.Text()));
-    box.Text = text.empty() ? text : NumberText(StringToDouble(text));
+    if (text.empty())
+      box.Text = text;
+    else
+      box.Text = NumberText(StringToDouble(text));
     return true;
   }
   if (&box == &cboTo || box.ListIndex() >= 0) return true;
@@ -89,8 +94,13 @@ void frmScatterFilter::Refuse(ComboBox& box) {
 clsScatterFilter frmScatterFilter::FilterInWindow() const {
   clsScatterFilter filter;
   filter.lngDataItemSeq = items_.Item();
-  filter.dblFrom = IsList() ? cboFrom.ListIndex() : BoundIn(cboFrom);
-  filter.dblTo = IsList() ? kBoundNotSet : BoundIn(cboTo);
+  if (IsList()) {
+    filter.dblFrom = cboFrom.ListIndex();
+    filter.dblTo = kBoundNotSet;
+  } else {
+    filter.dblFrom = BoundIn(cboFrom);
+    filter.dblTo = BoundIn(cboTo);
+  }
   return filter;
 }
 

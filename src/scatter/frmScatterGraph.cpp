@@ -112,7 +112,10 @@ void frmScatterGraph::MoveDown(int steps) {
 void frmScatterGraph::ShowBackgroundPicture() {
   const std::string& picture = around_.settings.gstrAlternativeBackgroundPicture;
   const bool there = around_.files.IsFile(picture);
-  fraPicture.BackgroundPicture = there ? picture : std::string();
+  if (there)
+    fraPicture.BackgroundPicture = picture;
+  else
+    fraPicture.BackgroundPicture = std::string();
   const bool quiet = initialPreset_ > 0;
   if (!quiet && !picture.empty() && !there)
     around_.messages.ShowMessage(Message::BackgroundPictureNotFound);
@@ -127,8 +130,8 @@ void frmScatterGraph::Form_Unload() {
 
 /// Before a first log, items are those of the file type that the user opens most.
 int frmScatterGraph::FileType() const {
-  return around_.log.gintCurrentFileType > 0 ? around_.log.gintCurrentFileType
-                                             : around_.settings.gintDefaultFileType;
+  if (around_.log.gintCurrentFileType > 0) return around_.log.gintCurrentFileType;
+  return around_.settings.gintDefaultFileType;
 }
 
 void frmScatterGraph::SetCaption() {
@@ -178,7 +181,10 @@ void frmScatterGraph::DrawScatter(bool blnQuiet) {
   PopulateSampleListViewFromSample(-1);
   drawing_.DrawScatter(Request(), blnQuiet);
   if (drawing_.Drawn()) SetCaption();
-  Subtitle = drawing_.Drawn() ? AxesOnShow() : std::string();
+  if (drawing_.Drawn())
+    Subtitle = AxesOnShow();
+  else
+    Subtitle = std::string();
   commands_.Update();
 }
 
@@ -206,7 +212,10 @@ bool frmScatterGraph::ChooseAxes(int xItem, int yItem) {
 
 void frmScatterGraph::chScatterGraph_PointSelected(int point) {
   const double sample = drawing_.dblScatterData().sample[static_cast<std::size_t>(point - 1)];
-  lngShowPointSample_ = drawing_.OfOpenLog() ? static_cast<std::int32_t>(sample) : 0;
+  if (drawing_.OfOpenLog())
+    lngShowPointSample_ = static_cast<std::int32_t>(sample);
+  else
+    lngShowPointSample_ = 0;
   PopulateSampleListViewFromSample(drawing_.IndexOfPoint(point));
 }
 

@@ -13,7 +13,8 @@ void frmScatterGraph::PopulatePresets(bool selectLast) {
   const ListView::Row before = selected > 0 ? lvwPresets.At(selected) : ListView::Row{};
   presets_.Populate(selectLast, FileType());
   // The same place may hold another preset by now.
-  const int row = before.tag.empty() ? 0 : lvwPresets.RowOfTag(before.tag);
+  int row = 0;
+  if (!before.tag.empty()) row = lvwPresets.RowOfTag(before.tag);
   if (!selectLast && row > 0 && lvwPresets.At(row).texts == before.texts) lvwPresets.Select(row);
   commands_.Update();
 }
