@@ -1,6 +1,7 @@
 #include "zoneeditor/DriveGrids.h"
 
 #include "ui/HeatColours.h"
+#include "zoneeditor/GridCells.h"
 
 namespace tarnview {
 namespace {
@@ -22,8 +23,6 @@ std::vector<std::string> Entries() {
   for (const ShowRow& row : kShows) entries.push_back(row.entry);
   return entries;
 }
-
-std::string Signed(int number) { return (number > 0 ? "+" : "") + std::to_string(number); }
 
 template <class Visit>
 void ForEachCell(Visit&& visit) {
@@ -93,7 +92,10 @@ void DriveGrids::LayOut(bool readOnly) {
 /// Once for each change of what is asked: a long log is not read again for each edit.
 void DriveGrids::ReadDrive() {
   if (!HasDrive()) return;
-  range_ = chkWholeLog.Value ? WholeLog(drive_->Log()) : drive_->PlotRange();
+  if (chkWholeLog.Value)
+    range_ = WholeLog(drive_->Log());
+  else
+    range_ = drive_->PlotRange();
   facts_ = ReadLogOnMap(drive_->Log(), range_);
   lastInCell_ = -1;
   most_ = 0;
@@ -151,8 +153,11 @@ void DriveGrids::ShowProposal() {
     cell.blackedOut = IsBlackedOut(sheet, ZoneCell(ZoneGrid::Fuel, row - 1, column - 1));
     const int change = proposal_->At(row, column);
     if (change != 0) {
-      cell.text = Signed(change);
-      cell.mark = change > 0 ? GridCell::Mark::Raised : GridCell::Mark::Lowered;
+      cell.text = SignedText(change);
+      if (change > 0)
+        cell.mark = GridCell::Mark::Raised;
+      else
+        cell.mark = GridCell::Mark::Lowered;
     }
     cell.toolTip = facts_.ToolTip(row, column);
     grdProposal.SetCell(row, column, std::move(cell));
@@ -160,7 +165,8 @@ void DriveGrids::ShowProposal() {
 }
 
 void DriveGrids::ShowRing() {
-  const int index = HasDrive() ? drive_->CurrentSample() : -1;
+  int index = -1;
+  if (HasDrive()) index = drive_->CurrentSample();
   std::optional<GridPoint> ring;
   if (index >= 0) {
     const PlaceOnMap place = PlaceOf(drive_->Log(), index);

@@ -58,7 +58,8 @@ int ZoneOfCell(SheetGrid grid, int row, int column) {
   const Shape& shape = ShapeOf(grid);
   if (row < 1 || column < 1 || row >= shape.rows || column >= shape.columns) return -1;
   if (IsZoneGrid(grid)) return shape.firstZone + kGridColumns * (row - 1) + column - 1;
-  return row == kValueRow ? shape.firstZone + column - 1 : -1;
+  if (row == kValueRow) return shape.firstZone + column - 1;
+  return -1;
 }
 
 std::string HeadingOf(SheetGrid grid, int row, int column, const ZoneSheet& sheet) {
@@ -69,7 +70,13 @@ std::string HeadingOf(SheetGrid grid, int row, int column, const ZoneSheet& shee
                     : std::string(ZoneRowHeading(sheet.normallyAspirated, row));
   if (row == 0) return std::string(FieldLabel(sheet, ZoneOfCell(grid, kValueRow, column)));
   if (grid == SheetGrid::BoostTargets) return "";
-  return row == kValueRow ? "Val" : "Conv";
+  if (row == kValueRow) return "Val";
+  return "Conv";
+}
+
+std::string SignedText(int number) {
+  if (number > 0) return "+" + std::to_string(number);
+  return std::to_string(number);
 }
 
 std::string CountOf(SheetGrid grid, std::size_t cells) {

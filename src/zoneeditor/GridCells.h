@@ -42,6 +42,8 @@ GridPlace SizeOf(SheetGrid grid);
 int ZoneOfCell(SheetGrid grid, int row, int column);
 /// The text of a heading; the unit of the boost targets stands in the corner.
 std::string HeadingOf(SheetGrid grid, int row, int column, const ZoneSheet& sheet);
+/// "+3", "-3", "0".
+std::string SignedText(int number);
 /// "12 fuel cells", "1 boost target".
 std::string CountOf(SheetGrid grid, std::size_t cells);
 

@@ -37,7 +37,8 @@ GridGraphTable TableOf(const Grid& grid) {
 bool IsFuelGrid(int grid) { return grid < 3; }
 
 std::string GraphKind(int grid) {
-  return IsFuelGrid(grid) ? " Fuel Zone Graph" : " Ignition Zone Graph";
+  if (IsFuelGrid(grid)) return " Fuel Zone Graph";
+  return " Ignition Zone Graph";
 }
 
 std::string GraphSource(int grid, const std::string& benchmark) {
@@ -73,7 +74,10 @@ Surface SurfaceOf(const GridGraphRequest& request, const GridGraphTable& table) 
     }
   }
   surface.height = HeightAxis(surface.values);
-  surface.height.title = IsFuelGrid(request.grid) ? "Fuel" : "Ignition";
+  if (IsFuelGrid(request.grid))
+    surface.height.title = "Fuel";
+  else
+    surface.height.title = "Ignition";
   return surface;
 }
 

@@ -56,16 +56,19 @@ class Rows {
 std::span<const std::int32_t> AirFuel(const OpenLog& log) {
   const auto wideBand = log.glngDataLog.Column(kAuxCF);
   const bool tunesByIt = SensorText(MapOf(log.zones)) != "NB";
-  return tunesByIt && !wideBand.empty() ? wideBand : log.glngDataLog.Column(kAF);
+  if (tunesByIt && !wideBand.empty()) return wideBand;
+  return log.glngDataLog.Column(kAF);
 }
 
 std::int32_t CellOf(std::span<const std::int32_t> column, int index) {
-  return column.empty() ? 0 : column[static_cast<std::size_t>(index)];
+  if (column.empty()) return 0;
+  return column[static_cast<std::size_t>(index)];
 }
 
 std::string Signed(double value, int places) {
   const std::string text = FixedText(value, places);
-  return value > 0 && text.find_first_of("123456789") != std::string::npos ? "+" + text : text;
+  if (value > 0 && text.find_first_of("123456789") != std::string::npos) return "+" + text;
+  return text;
 }
 
 }  // namespace
@@ -76,13 +79,15 @@ std::optional<double> LogOnMap::Value(GridShow show, int row, int column) const 
   if (show == GridShow::Nothing || (error ? cell.mixtures : cell.samples) < kFewestSamples)
     return std::nullopt;
   if (error) return cell.MeanError();
-  return show == GridShow::Visits ? cell.samples : cell.highestKnock;
+  if (show == GridShow::Visits) return cell.samples;
+  return cell.highestKnock;
 }
 
 std::string LogOnMap::Text(GridShow show, int row, int column) const {
   const auto value = Value(show, row, column);
   if (!value) return "";
-  return show == GridShow::Error ? Signed(*value, 1) : std::to_string(static_cast<int>(*value));
+  if (show == GridShow::Error) return Signed(*value, 1);
+  return std::to_string(static_cast<int>(*value));
 }
 
 std::string LogOnMap::ToolTip(int row, int column) const {
@@ -133,7 +138,8 @@ int NextInCell(const OpenLog& log, DrivenRange range, int row, int column, int a
   const int first = std::max(range.first, 0);
   const int last = std::min(range.last, log.glngDataLog.Rows() - 1);
   const int count = last - first + 1;
-  const int start = after >= first && after <= last ? after - first + 1 : 0;
+  int start = 0;
+  if (after >= first && after <= last) start = after - first + 1;
   for (int i = 0; i < count; ++i) {
     const int index = first + (start + i) % count;
     const PlaceOnMap place = PlaceOf(log, index);

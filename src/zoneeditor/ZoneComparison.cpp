@@ -11,13 +11,15 @@ std::vector<std::string> ZoneComparison::Names() const {
 
 const clsBenchmark* ZoneComparison::Benchmark() const {
   const int position = chosen_ - OwnSets() + 1;
-  return position >= 1 && position <= benchmarks_.Count() ? &benchmarks_.Item(position) : nullptr;
+  if (position >= 1 && position <= benchmarks_.Count()) return &benchmarks_.Item(position);
+  return nullptr;
 }
 
 const ZoneSettings* ZoneComparison::Zones() const {
   if (const clsBenchmark* benchmark = Benchmark()) return &benchmark->GetZoneSettingsDirect();
   if (chosen_ < 0 || chosen_ >= OwnSets()) return nullptr;
-  return chosen_ == 0 ? &own_->changes : &own_->original;
+  if (chosen_ == 0) return &own_->changes;
+  return &own_->original;
 }
 
 ZoneMap ZoneComparison::Map(const ZoneMap& form) const {

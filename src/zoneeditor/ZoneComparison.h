@@ -33,7 +33,10 @@ class ZoneComparison {
   ZoneMap Map(const ZoneMap& form) const;
 
  private:
-  int OwnSets() const { return own_ ? 2 : 0; }
+  int OwnSets() const {
+    if (own_) return 2;
+    return 0;
+  }
   const clsBenchmark* Benchmark() const;
 
   const std::optional<ComparisonZones>& own_;

@@ -11,8 +11,6 @@ namespace {
 constexpr Colour kConvertedColour = 0xE0E0E0, kNegativeColour = 255;
 constexpr int kConvertedRow = 2;
 
-std::string Signed(int number) { return (number > 0 ? "+" : "") + std::to_string(number); }
-
 }  // namespace
 
 ZoneGrids::ZoneGrids(Form& form, SheetKeeper& keeper, const ZoneComparison& comparison,
@@ -76,7 +74,8 @@ GridCell ZoneGrids::CellFor(SheetGrid grid, int row, int column) const {
     cell.blackedOut = true;
     return cell;
   }
-  return IsSheetGrid(grid) ? ValueCell(grid, zone) : ComparedCell(grid, zone);
+  if (IsSheetGrid(grid)) return ValueCell(grid, zone);
+  return ComparedCell(grid, zone);
 }
 
 GridCell ZoneGrids::ValueCell(SheetGrid grid, int zone) const {
@@ -85,7 +84,10 @@ GridCell ZoneGrids::ValueCell(SheetGrid grid, int zone) const {
   GridCell cell;
   cell.text = std::to_string(now);
   if (now != opened) {
-    cell.mark = now > opened ? GridCell::Mark::Raised : GridCell::Mark::Lowered;
+    if (now > opened)
+      cell.mark = GridCell::Mark::Raised;
+    else
+      cell.mark = GridCell::Mark::Lowered;
     cell.toolTip = "Opened as " + std::to_string(opened);
   }
   if (heat_ && IsZoneGrid(grid)) {
@@ -133,7 +135,7 @@ std::vector<int> ZoneGrids::Selected(SheetGrid grid) const {
 void ZoneGrids::ApplyOffset(SheetGrid grid, int offset) {
   if (offset == 0) return;
   const std::vector<int> cells = Selected(grid);
-  keeper_.Do("Offset " + Signed(offset) + " on " + CountOf(grid, cells.size()),
+  keeper_.Do("Offset " + SignedText(offset) + " on " + CountOf(grid, cells.size()),
              WithOffset(keeper_.Sheet(), cells, offset));
 }
 
@@ -184,7 +186,8 @@ std::optional<SheetGrid> ZoneGrids::Focused(const Control* active) const {
 
 std::optional<SheetGrid> ZoneGrids::Editable(const Control* active) const {
   const auto grid = Focused(active);
-  return grid && !At(*grid).ReadOnly && At(*grid).Enabled() ? grid : std::nullopt;
+  if (grid && !At(*grid).ReadOnly && At(*grid).Enabled()) return grid;
+  return std::nullopt;
 }
 
 }  // namespace tarnview

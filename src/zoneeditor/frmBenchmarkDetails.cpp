@@ -43,9 +43,11 @@ void frmBenchmarkDetails::cmdBrowse_Click() {
   Dialog dialog;
   dialog.title = "Open";
   dialog.filter = log.CommonDialogFilter() + "|" + map.CommonDialogFilter();
-  dialog.filterIndex = SameIgnoringCase(GetExtension(txtFile.Text()), map.strFileExtension) ? 2 : 1;
-  dialog.initialPath =
-      txtFile.Text().empty() ? around_.settings.gstrDefaultWorkingDirectory : txtFile.Text();
+  if (SameIgnoringCase(GetExtension(txtFile.Text()), map.strFileExtension))
+    dialog.filterIndex = 2;
+  else
+    dialog.filterIndex = 1;
+  dialog.initialPath = OrElse(txtFile.Text(), around_.settings.gstrDefaultWorkingDirectory);
   dialog.path = FileTitle(txtFile.Text());
   if (!host.Choose(dialog)) return;
   txtFile.Text = dialog.path;

@@ -96,7 +96,10 @@ void frmGridGraph::BindAngles() {
 }
 
 void frmGridGraph::BindButtons() {
-  DefaultButton = request_.readOnly ? &cmdCancel : &cmdOK;
+  if (request_.readOnly)
+    DefaultButton = &cmdCancel;
+  else
+    DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   if (request_.readOnly) {
     cmdOK.Visible = false;
@@ -128,7 +131,8 @@ void frmGridGraph::cmdOK_Click() {
 int frmGridGraph::Rotation() const { return AngleOf(txtRotation); }
 int frmGridGraph::Elevation() const { return AngleOf(txtElevation); }
 int frmGridGraph::Row() const {
-  return cboRow.ListIndex() < 0 ? 0 : kGridRows - cboRow.ListIndex();
+  if (cboRow.ListIndex() < 0) return 0;
+  return kGridRows - cboRow.ListIndex();
 }
 int frmGridGraph::Column() const { return cboColumn.ListIndex() + 1; }
 

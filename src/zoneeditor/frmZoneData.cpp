@@ -156,8 +156,14 @@ void frmZoneData::ShowSteps() {
     cboSteps.SetList(std::move(names));
   }
   cboSteps.SetListIndex(static_cast<int>(history_.Done()));
-  mnuEditUndo.Caption = history_.CanUndo() ? "&Undo " + history_.UndoName() : "&Undo";
-  mnuEditRedo.Caption = history_.CanRedo() ? "&Redo " + history_.RedoName() : "&Redo";
+  if (history_.CanUndo())
+    mnuEditUndo.Caption = "&Undo " + history_.UndoName();
+  else
+    mnuEditUndo.Caption = "&Undo";
+  if (history_.CanRedo())
+    mnuEditRedo.Caption = "&Redo " + history_.RedoName();
+  else
+    mnuEditRedo.Caption = "&Redo";
 }
 
 void frmZoneData::Do(std::string step, ZoneSheet after) {
@@ -234,8 +240,10 @@ void frmZoneData::cmdDetails_Click() {
 void frmZoneData::cmdDefault_Click() {
   if (!around_.messages.AskQuestion(Question::OverwriteChip, true)) return;
   const ChipIdentity& chip = Sheet().chip;
-  around_.settings.gdblDefaultEngineSize =
-      IsEngineSize(chip.dblEngineSize) ? chip.dblEngineSize : 1.6;
+  if (IsEngineSize(chip.dblEngineSize))
+    around_.settings.gdblDefaultEngineSize = chip.dblEngineSize;
+  else
+    around_.settings.gdblDefaultEngineSize = 1.6;
   around_.settings.gdatDefaultChipDate = chip.datChipDate;
   around_.settings.gintDefaultChipVersion = chip.intChipVersion;
   Do("Rules of the chip", WithChipRules(Sheet()));
