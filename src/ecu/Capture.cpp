@@ -97,8 +97,8 @@ bool Capture::TakeOver() {
 }
 
 bool Capture::Load() {
-  return file_.type == NewFileType::ZoneSettings ? LoadMap()
-                                                 : mainWindow_.LoadDataFile(target_, kFMLinkLog);
+  if (file_.type == NewFileType::ZoneSettings) return LoadMap();
+  return mainWindow_.LoadDataFile(target_, kFMLinkLog);
 }
 
 /// Written anew at once, so that it has the form of this program's MAP files.

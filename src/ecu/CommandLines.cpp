@@ -7,7 +7,8 @@ namespace {
 constexpr const char* kUsualPort = "1";
 
 std::string PortOption(const Settings& settings) {
-  return settings.gstrSerialComPort == kUsualPort ? "" : " -p " + settings.gstrSerialComPort;
+  if (settings.gstrSerialComPort == kUsualPort) return "";
+  return " -p " + settings.gstrSerialComPort;
 }
 
 std::string AutoTuneOption(AutoTuneMode mode) {
@@ -16,7 +17,10 @@ std::string AutoTuneOption(AutoTuneMode mode) {
   return kModes[static_cast<int>(mode)];
 }
 
-std::string OptionIf(bool chosen, const char* option) { return chosen ? option : ""; }
+std::string OptionIf(bool chosen, const char* option) {
+  if (chosen) return option;
+  return "";
+}
 
 }  // namespace
 

@@ -9,7 +9,8 @@ enum class NewFileType { DataLog, ZoneSettings };
 
 /// Its extension: "txt" or "map".
 constexpr const char* ExtensionOf(NewFileType type) {
-  return type == NewFileType::DataLog ? "txt" : "map";
+  if (type == NewFileType::DataLog) return "txt";
+  return "map";
 }
 
 /// A file to be captured, as the New File window takes it and gives it back.

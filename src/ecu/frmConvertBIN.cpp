@@ -28,7 +28,8 @@ constexpr PathRow kPaths[] = {
 std::string StartFolder(const Settings& settings, const std::string& currentFile) {
   const std::string& last = settings.gstrLastConvertedBinary;
   const std::string folder = GetParentFolder(last.empty() ? currentFile : last);
-  return folder.empty() ? "" : AddBackslash(folder);
+  if (folder.empty()) return "";
+  return AddBackslash(folder);
 }
 
 bool IsBinaryLog(const EcuWorld& world, const std::string& path) {
@@ -81,7 +82,10 @@ bool frmConvertBIN::ValidatePath(Path path) {
 
 void frmConvertBIN::cmdBrowse_Click(Path path) {
   Dialog dialog;
-  dialog.title = path == Source ? "Open" : "Save As";
+  if (path == Source)
+    dialog.title = "Open";
+  else
+    dialog.title = "Save As";
   dialog.filter = kPaths[path].filter;
   dialog.initialPath = txtPath(path).Text();
   dialog.path = FileTitle(txtPath(path).Text());

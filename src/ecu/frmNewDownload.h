@@ -34,7 +34,8 @@ class frmNewDownload : public Form {
 
  private:
   NewFileType Type() const {
-    return radFileType(0).Value ? NewFileType::DataLog : NewFileType::ZoneSettings;
+    if (radFileType(0).Value) return NewFileType::DataLog;
+    return NewFileType::ZoneSettings;
   }
   void radFileType_Click();
   /// False: the name was refused, and has the focus.

@@ -1,5 +1,7 @@
 #include "ecu/frmUpload.h"
 
+#include "base/Text.h"
+
 namespace tarnview {
 namespace {
 
@@ -72,8 +74,7 @@ void frmUpload::cmdCCF_Click() {
   Dialog dialog;
   dialog.title = "Open";
   dialog.filter = choices_.filter;
-  dialog.initialPath =
-      txtCCF.Text().empty() ? world_.settings.gstrDefaultWorkingDirectory : txtCCF.Text();
+  dialog.initialPath = OrElse(txtCCF.Text(), world_.settings.gstrDefaultWorkingDirectory);
   if (host.Choose(dialog)) txtCCF.Text = dialog.path;
 }
 
