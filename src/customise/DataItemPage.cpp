@@ -38,13 +38,14 @@ DataItemPage::DataItemPage(OptionsControls& window, OptionsDraft& draft)
 }
 
 clsLogDataItems& DataItemPage::Items() {
-  return Family() == kUniversalLogFamily ? draft_.catalogue.gcolUniversalDataItems
-                                         : draft_.catalogue.gcolFixedDataItems;
+  if (Family() == kUniversalLogFamily) return draft_.catalogue.gcolUniversalDataItems;
+  return draft_.catalogue.gcolFixedDataItems;
 }
 
 clsLogDataItem* DataItemPage::Item() {
   const int row = window_.lvwDataItems.SelectedRow();
-  return row > 0 ? &Items().Item(StringToLong(window_.lvwDataItems.At(row).tag)) : nullptr;
+  if (row > 0) return &Items().Item(StringToLong(window_.lvwDataItems.At(row).tag));
+  return nullptr;
 }
 
 void DataItemPage::UpdateFamilies() {

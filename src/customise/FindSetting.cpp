@@ -76,7 +76,8 @@ const FindSetting::Place* FindSetting::Find(const std::string& text) const {
   const auto found = std::find_if(places_.begin(), places_.end(), [&](const Place& place) {
     return place.words.find(wanted) != std::string::npos;
   });
-  return found == places_.end() ? nullptr : &*found;
+  if (found == places_.end()) return nullptr;
+  return &*found;
 }
 
 void FindSetting::ShowFound() {

@@ -73,8 +73,13 @@ bool OptionPaths::ValidatePath(int index) {
 void OptionPaths::cmdBrowse_Click(int index) {
   const bool folder = kPaths[index].wanted == Wanted::Folder;
   Dialog dialog;
-  dialog.kind = folder ? DialogKind::Folder : DialogKind::Open;
-  dialog.title = folder ? "Select Default Working Directory" : "Open";
+  if (folder) {
+    dialog.kind = DialogKind::Folder;
+    dialog.title = "Select Default Working Directory";
+  } else {
+    dialog.kind = DialogKind::Open;
+    dialog.title = "Open";
+  }
   dialog.filter = kPaths[index].filter;
   dialog.initialPath = window_.txtPath(index).Text();
   if (window_.host.Choose(dialog)) window_.txtPath(index).Text = dialog.path;

@@ -36,16 +36,21 @@ constexpr LineKind kPreamble{"Preamble", 0xB0B0B0}, kTitles{"Titles", 0xD07030},
 LineKind KindOfLine(int line, const ShapeRows& rows) {
   if (line == rows.titleLine) return kTitles;
   if (line == rows.unitsLine) return kUnitsOf;
-  return rows.dataLine >= 0 && line >= rows.dataLine ? kData : kPreamble;
+  if (rows.dataLine >= 0 && line >= rows.dataLine) return kData;
+  return kPreamble;
 }
 
 template <class Values, class Value>
 int IndexOf(const Values& values, Value value) {
   const auto found = std::find(std::begin(values), std::end(values), value);
-  return found == std::end(values) ? -1 : static_cast<int>(found - std::begin(values));
+  if (found == std::end(values)) return -1;
+  return static_cast<int>(found - std::begin(values));
 }
 
-std::string LineText(int line) { return line < 0 ? "" : std::to_string(line + 1); }
+std::string LineText(int line) {
+  if (line < 0) return "";
+  return std::to_string(line + 1);
+}
 
 }  // namespace
 
@@ -145,7 +150,10 @@ void frmLogDescription::ShowFindings() {
   cboTimeForm.SetListIndex(IndexOf(kForms, shape_.time.form));
   cboTimeForm.Enabled = shape_.HasClock();
   txtLineFrequency.Enabled = !shape_.HasClock();
-  txtLineFrequency.Text = shape_.lineFrequency > 0 ? NumberText(shape_.lineFrequency) : "";
+  if (shape_.lineFrequency > 0)
+    txtLineFrequency.Text = NumberText(shape_.lineFrequency);
+  else
+    txtLineFrequency.Text = "";
   lblWhy.Caption = Join(shape_.why, "\r\n");
 }
 
@@ -184,8 +192,8 @@ void frmLogDescription::ShowColumns() {
 
 ShapeItem* frmLogDescription::Selected() {
   const int row = lvwColumns.SelectedRow();
-  return row < 1 ? nullptr
-                 : &shape_.items[static_cast<std::size_t>(StringToLong(lvwColumns.At(row).tag))];
+  if (row < 1) return nullptr;
+  return &shape_.items[static_cast<std::size_t>(StringToLong(lvwColumns.At(row).tag))];
 }
 
 void frmLogDescription::ShowColumn() {
@@ -197,7 +205,10 @@ void frmLogDescription::ShowColumn() {
                                                           &txtUnit, &txtDecimals, &chkShown})
     control->Enabled = editable;
   if (item) {
-    cboItem.Text = item->item >= kFirstOwnItem ? std::string(kOwnItem) : item->name;
+    if (item->item >= kFirstOwnItem)
+      cboItem.Text = std::string(kOwnItem);
+    else
+      cboItem.Text = item->name;
     txtFactor.Text = NumberText(item->factor);
     txtOffset.Text = NumberText(item->offset);
     txtUnit.Text = item->unit;
@@ -221,8 +232,13 @@ void frmLogDescription::TakeColumn() {
       if (shape_.items[other].item == wanted)
         shape_.items[other].item = kFirstOwnItem + static_cast<int>(other);
     item->item = wanted;
-    item->name = known ? known->strShortName : shape_.columns[at].title;
-    item->description = known ? known->strLongName : shape_.columns[at].title;
+    if (known) {
+      item->name = known->strShortName;
+      item->description = known->strLongName;
+    } else {
+      item->name = shape_.columns[at].title;
+      item->description = shape_.columns[at].title;
+    }
   }
   item->factor = StringToDouble(txtFactor.Text());
   item->offset = StringToDouble(txtOffset.Text());

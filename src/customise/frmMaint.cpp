@@ -73,7 +73,8 @@ void frmMaint::UpdateButtons() {
 }
 
 int frmMaint::FindObject(int row) const {
-  return row < 1 ? 0 : StringToLong(lvwNameList.At(row).tag);
+  if (row < 1) return 0;
+  return StringToLong(lvwNameList.At(row).tag);
 }
 
 bool frmMaint::NothingSelected() {
