@@ -2,6 +2,7 @@
 
 #include "app/frmFindINIFile.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "model/IniFile.h"
 
 namespace tarnview {
@@ -53,7 +54,8 @@ bool FirstRun::Ask(Choice& choice) {
 std::string FirstRun::TemplateOf(const std::string& path, int fileType) {
   const std::string beside =
       WithoutExtension(path) + "_Install" + std::to_string(fileType) + ".ini";
-  return services_.files.FileExists(beside) ? beside : dataFolder_ + FileTitle(beside);
+  if (services_.files.FileExists(beside)) return beside;
+  return dataFolder_ + FileTitle(beside);
 }
 
 /// What a template cannot know: where the program lies, and what was chosen.
@@ -62,7 +64,7 @@ void FirstRun::FillIn(std::string& text, const Choice& choice) {
   const auto set = [&](const char* key, const std::string& value) {
     SetINIValue(text, kGeneral, key, value);
   };
-  const std::string& logs = logFolder_.empty() ? parent : logFolder_;
+  const std::string logs = OrElse(logFolder_, parent);
   set("Default Working Directory", logs);
   set("Initial Directory", logs);
   const IniTable table = ReadINIFileToArray(text);

@@ -48,7 +48,8 @@ struct Globals {
       gstrINIFileToWrite;  ///< where the settings are kept; empty: nowhere (the command line)
   /// Of the open log; before a first one, the type that the user opens most.
   int UsualFileType() const {
-    return log.gintCurrentFileType > 0 ? log.gintCurrentFileType : settings.gintDefaultFileType;
+    if (log.gintCurrentFileType > 0) return log.gintCurrentFileType;
+    return settings.gintDefaultFileType;
   }
 
   bool gblnStarting = false;  ///< until the first activation of the main window is over

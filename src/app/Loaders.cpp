@@ -41,7 +41,8 @@ constexpr std::array kLoaders{
 const LoaderRow* LoaderFor(int fileType) {
   const auto found = std::find_if(kLoaders.begin(), kLoaders.end(),
                                   [&](const auto& row) { return row.fileType == fileType; });
-  return found == kLoaders.end() ? nullptr : &*found;
+  if (found == kLoaders.end()) return nullptr;
+  return &*found;
 }
 
 }  // namespace tarnview

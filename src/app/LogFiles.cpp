@@ -97,7 +97,8 @@ bool LogFiles::OpenFromCommandLine(const std::string& commandLine) {
     return false;
   }
   const clsFileTypes& types = globals_.kinds.gcolFileTypes;
-  const int fileType = file.fileType ? types.ValidateFileType(*file.fileType) : kUnknownFile;
+  int fileType = kUnknownFile;
+  if (file.fileType) fileType = types.ValidateFileType(*file.fileType);
   return OpenRecentlyUsedFile(0, file.path, fileType);
 }
 

@@ -13,7 +13,8 @@ std::string NameOf(const LogRoad& road) {
   constexpr std::string_view kUniversal = "Universal: ";
   if (!road.takenAs.starts_with(kUniversal)) return "the kind " + road.takenAs;
   const std::string name = road.takenAs.substr(kUniversal.size());
-  return name == "by its shape" ? "an unknown logger" : name;
+  if (name == "by its shape") return "an unknown logger";
+  return name;
 }
 
 std::string ColumnsOf(const LogRoad& road) {
@@ -39,13 +40,15 @@ bool LogFiles::OpenFile(const std::string& path, int fileType) {
   if (agreed == Agreed::Yes) return LoadAs(path, *road);
   if (agreed == Agreed::Otherwise) return DescribeLog(path);
   if (!guessed || trial.loaded) return LoadDataFile(path, wanted);
-  return better ? false : TellNothingLoads(path, trial);
+  if (better) return false;
+  return TellNothingLoads(path, trial);
 }
 
 bool LogFiles::OpenByContent(const std::string& path) {
   const auto bytes = services_.files.Read(path);
   auto road = bytes ? roads_.ByContent(*bytes, path) : std::nullopt;
-  return road ? LoadAs(path, std::move(*road)) : LoadDataFile(path, kUnknownFile);
+  if (road) return LoadAs(path, std::move(*road));
+  return LoadDataFile(path, kUnknownFile);
 }
 
 bool LogFiles::LoadAs(const std::string& path, LogRoad road) {
@@ -74,7 +77,8 @@ LogFiles::Agreed LogFiles::AgreesTo(const LogRoad& road, const std::string& path
                 }};
   const bool yes = services_.host.Ask(box) == Reply::Yes;
   if (describe) return Agreed::Otherwise;
-  return yes ? Agreed::Yes : Agreed::No;
+  if (yes) return Agreed::Yes;
+  return Agreed::No;
 }
 
 void LogFiles::mnuFileNewLogDescription_Click() {

@@ -41,9 +41,10 @@ std::string Joined(std::string_view first, std::string_view second) {
 
 /// What a definition makes of a number of a column.
 double ValueBy(const clsDataLogColumn& column, double number) {
-  const double factor = column.dblConversionFactor != 0 ? column.dblConversionFactor.Value() : 1;
-  return column.blnConversionFactorFirst ? number * factor + column.dblConversionOffset
-                                         : (number + column.dblConversionOffset) * factor;
+  double factor = 1;
+  if (column.dblConversionFactor != 0) factor = column.dblConversionFactor.Value();
+  if (column.blnConversionFactorFirst) return number * factor + column.dblConversionOffset;
+  return (number + column.dblConversionOffset) * factor;
 }
 
 /// Where the log tells the unit of a known quantity, a definition reads it in that unit: the same
@@ -186,7 +187,10 @@ std::optional<LogRoad> LogRoads::ByShape(std::string_view bytes, const LogShape&
       DefinitionOfShape(shape, FileTitle(path), GetExtension(path), kUsualLinesASecond);
   if (!TryAs(bytes, kUniversalLog, *road.definition, road).loaded) return std::nullopt;
   road.known = road.columns = static_cast<int>(shape.columns.size());
-  road.notes = shape.HasClock() ? shape.time.why : "";
+  if (shape.HasClock())
+    road.notes = shape.time.why;
+  else
+    road.notes = "";
   return road;
 }
 

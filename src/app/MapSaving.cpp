@@ -102,7 +102,8 @@ bool MapSaving::SaveChangesPrompt() {
   if (reply != Reply::Yes) return reply == Reply::No;
   const bool map =
       SameIgnoringCase(GetExtension(log.gstrCurrentFile), types.Item(kMAPFile).strFileExtension);
-  return map ? Save() : SaveAs();
+  if (map) return Save();
+  return SaveAs();
 }
 
 }  // namespace tarnview

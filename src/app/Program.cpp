@@ -11,7 +11,8 @@ namespace {
 constexpr const char* kInstallFile = "Tarnview_Install.ini";
 
 std::string In(const std::string& folder, const char* name) {
-  return folder.empty() ? "" : folder + name;
+  if (folder.empty()) return "";
+  return folder + name;
 }
 
 }  // namespace
@@ -33,8 +34,10 @@ Program::Program(Host& host, FileSystem& files, Clock& clock, Processes& process
   globals_.gstrProgramFolder = folders_.program;
   globals_.dataFolder = folders_.data;
   if (settingsFile.empty()) globals_.gstrINIFileToWrite = In(folders_.program, "Tarnview.ini");
-  globals_.gstrINIFile =
-      settingsFile.empty() ? globals_.gstrINIFileToWrite : std::move(settingsFile);
+  if (settingsFile.empty())
+    globals_.gstrINIFile = globals_.gstrINIFileToWrite;
+  else
+    globals_.gstrINIFile = std::move(settingsFile);
 }
 
 Program::~Program() {
@@ -53,7 +56,8 @@ void Program::EventFailed(const std::string& module, const std::string& procedur
 std::string Program::WhyNotSave(const Dialog& chosen) const {
   if (!chosen.ofOpenFile && files_.SameFile(chosen.path, globals_.log.gstrCurrentFile))
     return "The log that is open is never written over:";
-  return files_.MayReplace(chosen.path) ? "" : "This file is write-protected:";
+  if (files_.MayReplace(chosen.path)) return "";
+  return "This file is write-protected:";
 }
 
 void Program::FindInstallINIFile() {

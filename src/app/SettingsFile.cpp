@@ -49,7 +49,8 @@ std::function<void(const std::vector<int>&)> SettingsFile::TellUnknownItem() {
 
 std::optional<IniTable> SettingsFile::ReadInstall() {
   const auto text = ReadText(services_.files, globals_.gstrInstallINIFile);
-  return text ? std::optional(ReadINIFileToArray(*text)) : std::nullopt;
+  if (text) return std::optional(ReadINIFileToArray(*text));
+  return std::nullopt;
 }
 
 IniTable SettingsFile::ReadTable() {
@@ -70,7 +71,8 @@ IniTable SettingsFile::ReadTable() {
   const std::string repaired = Repaired(seen_);
   const bool hasSettings = IsIniText(repaired);
   if (!hasSettings || IsDamaged(seen_)) TellDamage(path, hasSettings);
-  return hasSettings ? ReadINIFileToArray(repaired) : IniTable();
+  if (hasSettings) return ReadINIFileToArray(repaired);
+  return IniTable();
 }
 
 /// What is about to be written over is kept. A file that was but cut, or whose last line somebody

@@ -15,7 +15,8 @@ std::string GetKeyValue(const char* key, const char* value) {
   const auto found =
       RegQueryValueExA(opened, value, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
   RegCloseKey(opened);
-  return found == ERROR_SUCCESS && type == REG_SZ ? std::string(text) : std::string();
+  if (found == ERROR_SUCCESS && type == REG_SZ) return std::string(text);
+  return std::string();
 }
 
 }  // namespace
@@ -24,7 +25,8 @@ std::string SystemInformationTool() {
   const std::string path = GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH");
   if (!path.empty()) return path;
   const std::string folder = GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO");
-  return folder.empty() ? "" : folder + "\\MSINFO32.EXE";
+  if (folder.empty()) return "";
+  return folder + "\\MSINFO32.EXE";
 }
 
 }  // namespace tarnview

@@ -55,7 +55,8 @@ void ZoneWindows::EditZones(const EditJournal* resumed) {
 /// Beside the settings; nowhere where none are kept.
 std::string ZoneWindows::JournalPath() const {
   const std::string& settings = globals_.gstrINIFileToWrite;
-  return settings.empty() ? "" : GetParentFolder(settings) + "Tarnview_Zones.journal";
+  if (settings.empty()) return "";
+  return GetParentFolder(settings) + "Tarnview_Zones.journal";
 }
 
 void ZoneWindows::WriteJournal(const EditJournal& journal) {

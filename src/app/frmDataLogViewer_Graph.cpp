@@ -3,6 +3,7 @@
 
 #include "app/frmDataLogViewer.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "samplegraph/ExportRun.h"
 #include "samplegraph/frmGoto.h"
 #include "samplegraph/frmNewPresetName.h"
@@ -47,7 +48,8 @@ DrivenRange frmDataLogViewer::PlottedIndices() const {
 
 int frmDataLogViewer::SelectedIndex() const {
   const std::int32_t sample = selection_.lngHighlightSample();
-  return sample > 0 ? RangeOfSamples(log_, sample, sample).first : -1;
+  if (sample > 0) return RangeOfSamples(log_, sample, sample).first;
+  return -1;
 }
 
 /// A thinned graph marks its nearest point; list, status bar and highlight have the sample itself.
@@ -69,8 +71,7 @@ void frmDataLogViewer::mnuFileExport_Click() {
   const ExportRun run{*this, status_, services_.messages, services_.errors, "ExportDataLog"};
   exported_ = run.Run(export_.gstrExportPathFile, [this](const std::string& strFile) {
     const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-    export_.ExportDataLog(strFile,
-                          globals_.takenAs.empty() ? type.strDescription : globals_.takenAs);
+    export_.ExportDataLog(strFile, OrElse(globals_.takenAs, type.strDescription));
   });
 }
 

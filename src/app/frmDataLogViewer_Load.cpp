@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/frmDataLogViewer.h"
+#include "base/Text.h"
 #include "samplegraph/GraphScale.h"
 
 namespace tarnview {
@@ -77,8 +78,7 @@ void frmDataLogViewer::SetFirstRange() {
 
 void frmDataLogViewer::SetDataLogViewerCaption() {
   const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
-  const std::string kind =
-      globals_.takenAs.empty() ? type.GetSingularDescription() : globals_.takenAs;
+  const std::string kind = OrElse(globals_.takenAs, type.GetSingularDescription());
   Caption = "Tarnview - " + log_.gstrCurrentFileTitle + " (" + kind + ")";
   status_.SayLoaded(log_.glngLastSampleTime >= 1
                         ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) + " - " +

@@ -21,7 +21,10 @@ void frmDataLogViewer::TakeSettings() {
   chkFixY.Value = settings.gblnFixGraphMax;
   mnuFileDrawScatter.Checked = settings.gblnScatterGraphAutoDraw;
   const std::string& picture = settings.gstrAlternativeBackgroundPicture;
-  fraPicture.BackgroundPicture = services_.files.IsFile(picture) ? picture : std::string();
+  if (services_.files.IsFile(picture))
+    fraPicture.BackgroundPicture = picture;
+  else
+    fraPicture.BackgroundPicture = std::string();
   logFiles_.TakeRecentFiles();
   details_.SetUpSampleGraphSampleListView(settings.gintDefaultFileType,
                                           definition_.ItemsOf(settings.gintDefaultFileType));
