@@ -34,9 +34,13 @@ int RunCommandLine(int count, const char* const* arguments) {
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& error) {
-    status = program.exit(error, std::cout, std::cerr) == 0 ? kDone : kWrongCommandLine;
+    if (program.exit(error, std::cout, std::cerr) == 0)
+      status = kDone;
+    else
+      status = kWrongCommandLine;
   }
-  return Printed() ? status : kFailed;
+  if (Printed()) return status;
+  return kFailed;
 }
 
 }  // namespace tarnview

@@ -107,7 +107,8 @@ int CheckDefinition(const DefinitionOptions& options) {
            {"scatter_presets", CollectionJson(it.objPresetScatterGraphs, options.full)}};
   if (options.full) out.update(Properties(it, HeaderAttributes()));
   Print(out);
-  return definition ? kDone : kFailed;
+  if (definition) return kDone;
+  return kFailed;
 }
 
 }  // namespace

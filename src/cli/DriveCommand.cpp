@@ -29,8 +29,8 @@ int Drive(const DriveOptions& options) {
       }
       script = FromLines(ParseScript(*text));
     }
-    return Driver(std::move(script), options.settings, options.writeSettings).Run() ? kDone
-                                                                                    : kFailed;
+    if (Driver(std::move(script), options.settings, options.writeSettings).Run()) return kDone;
+    return kFailed;
   } catch (const ScriptError& error) {
     const Json out{{"error", ToUtf8(error.what())}, {"line", error.line}};
     std::fprintf(stderr, "%s\n", out.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());

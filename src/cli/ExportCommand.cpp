@@ -20,7 +20,8 @@ int Export(const ExportOptions& options) {
   session.EnterRange();
   session.Host().nextFile = Answer{Answer::Kind::File, options.out, 0, 0};
   window.mnuFileExport.Do({"click", {}});
-  return window.Exported() ? kDone : kFailed;
+  if (window.Exported()) return kDone;
+  return kFailed;
 }
 
 }  // namespace

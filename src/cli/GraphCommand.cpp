@@ -49,7 +49,8 @@ int Graph(const GraphOptions& options) {
     out["messages"] = MessagesJson(session.Host().messages);
     Print(out);
   }
-  return drawn && DrawPicture(chart, options.picture) ? kDone : kFailed;
+  if (drawn && DrawPicture(chart, options.picture)) return kDone;
+  return kFailed;
 }
 
 }  // namespace

@@ -42,7 +42,8 @@ std::string TakenAs(const Globals& globals) {
   const int type = globals.log.gintCurrentFileType;
   if (!globals.takenAs.empty()) return globals.takenAs;
   if (type == kUniversalLog) return "Universal: " + globals.gclsDataLogDefinition.strName;
-  return type > 0 ? globals.kinds.gcolFileTypes.Item(type).GetSingularDescription() : "";
+  if (type > 0) return globals.kinds.gcolFileTypes.Item(type).GetSingularDescription();
+  return "";
 }
 
 /// An item that the log delivers: its values as they are shown.
@@ -53,12 +54,16 @@ Json ItemJson(const OpenLog& log, const clsLogDataItem& item) {
   for (int row = 0; row < static_cast<int>(cells.size()); ++row) {
     if (!log.glngDataLog.IsLogged(item.intSeq - 1, row)) continue;
     const double value = item.GetRawData(cells[static_cast<std::size_t>(row)]);
-    lowest = any ? std::min(lowest, value) : value;
-    highest = any ? std::max(highest, value) : value;
+    if (any) {
+      lowest = std::min(lowest, value);
+      highest = std::max(highest, value);
+    } else {
+      lowest = value;
+      highest = value;
+    }
     any = true;
   }
-  const std::string unit =
-      item.strUnit.empty() ? std::string(UnitOfFixedItem(item.intSeq)) : item.strUnit;
+  const std::string unit = OrElse(item.strUnit, UnitOfFixedItem(item.intSeq));
   return {{"id", item.intSeq},
           {"name", ToUtf8(item.strShortName)},
           {"long_name", ToUtf8(item.strLongName)},
@@ -119,7 +124,8 @@ int Load(const LoadOptions& options) {
   out["messages"] = MessagesJson(session.Host().messages);
   if (options.summary) AddSummary(out, session.Global());
   Print(out);
-  return ok ? kDone : kFailed;
+  if (ok) return kDone;
+  return kFailed;
 }
 
 }  // namespace

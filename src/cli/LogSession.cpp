@@ -12,7 +12,8 @@ namespace {
 
 /// Sample numbers, as a user would type them.
 std::string CheckNumber(const std::string& text) {
-  return IsNumeric(text) ? "" : "\"" + text + "\" is no number";
+  if (IsNumeric(text)) return "";
+  return "\"" + text + "\" is no number";
 }
 
 /// "all", or item numbers with commas between them.
@@ -24,7 +25,8 @@ std::string CheckItems(const std::string& text) {
     const int number = StringToLong(word);
     if (number < 1) return "no data item has the number " + word;
   }
-  return text.empty() || text.ends_with(',') ? "a data item's number is missing" : "";
+  if (text.empty() || text.ends_with(',')) return "a data item's number is missing";
+  return "";
 }
 
 }  // namespace
@@ -76,7 +78,8 @@ void LogSession::EnterRange() {
 
 std::vector<int> LogSession::Items(bool allByDefault) const {
   const clsLogDataItems* items = program_.Global().log.gcolDataItems;
-  const int count = items ? items->Count() : kColumnCount;
+  int count = kColumnCount;
+  if (items) count = items->Count();
   std::vector<int> numbers;
   if (options_.items == "all" || (options_.items.empty() && allByDefault)) {
     numbers.resize(static_cast<std::size_t>(count));

@@ -15,8 +15,8 @@ constexpr std::string_view kOptionsWindow = "frmOptions/";
 /// The page of the Options window; "" for a setting that is set elsewhere, or by the program alone.
 std::string PageOf(const SettingRow& row) {
   const std::string_view window = row.setIn.window;
-  return window.starts_with(kOptionsWindow) ? std::string(window.substr(kOptionsWindow.size()))
-                                            : "";
+  if (window.starts_with(kOptionsWindow)) return std::string(window.substr(kOptionsWindow.size()));
+  return "";
 }
 
 /// The control by which it is set, "frmOptions/txtSampleWidth"; "" for none.

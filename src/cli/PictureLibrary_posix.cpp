@@ -11,7 +11,10 @@ PictureMaker* LoadPictureMaker(std::string& error) {
   void* entry = library ? dlsym(library, "TarnviewPictures") : nullptr;
   if (!entry) {
     const char* reason = dlerror();
-    error = reason ? reason : "cannot load " + path;
+    if (reason)
+      error = reason;
+    else
+      error = "cannot load " + path;
     return nullptr;
   }
   return reinterpret_cast<PictureMaker* (*)()>(entry)();

@@ -8,7 +8,8 @@ namespace tarnview {
 PictureMaker* LoadPictureMaker(std::string& error) {
   const std::string path = ProgramFolder() + "tarnview-pictures.dll";
   const HMODULE library = LoadLibraryA(path.c_str());
-  const FARPROC entry = library ? GetProcAddress(library, "TarnviewPictures") : nullptr;
+  FARPROC entry = nullptr;
+  if (library) entry = GetProcAddress(library, "TarnviewPictures");
   if (!entry) {
     error = "cannot load " + path;
     return nullptr;

@@ -20,7 +20,8 @@ bool ParseSize(const std::string& text, int& width, int& height) {
 
 std::string CheckSize(const std::string& text) {
   int width = 0, height = 0;
-  return ParseSize(text, width, height) ? "" : "a size is WIDTHxHEIGHT in pixels, 50 to 20000";
+  if (ParseSize(text, width, height)) return "";
+  return "a size is WIDTHxHEIGHT in pixels, 50 to 20000";
 }
 
 std::string CheckPicture(const std::string& path) {

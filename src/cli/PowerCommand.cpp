@@ -37,8 +37,8 @@ bool Refuse(const std::string& why) {
 std::string CheckAir(const std::string& text) {
   const std::string_view number =
       text.starts_with(kWetBulb) ? std::string_view(text).substr(4) : text;
-  return IsNumeric(number) ? ""
-                           : "the air is TEMPERATURE PRESSURE HUMIDITY, the last as 50 or wet:15";
+  if (IsNumeric(number)) return "";
+  return "the air is TEMPERATURE PRESSURE HUMIDITY, the last as 50 or wet:15";
 }
 
 /// Loads a car definition in its window, as a user does; it joins those of the settings, which are
@@ -78,7 +78,10 @@ void EnterAir(frmPowerGraph& window, const std::vector<std::string>& air) {
   window.txtAmbTemp.Text = air[0];
   window.txtAtmos.Text = air[1];
   window.cboHumidityType.SetListIndex(wetBulb ? 1 : 0);
-  window.txtRH.Text = wetBulb ? air[2].substr(4) : air[2];
+  if (wetBulb)
+    window.txtRH.Text = air[2].substr(4);
+  else
+    window.txtRH.Text = air[2];
 }
 
 /// Fills the window in as a user would; false, with the reason told, where that cannot be done.
@@ -146,7 +149,8 @@ int DrawPower(LogSession& session, const PowerOptions& options) {
   const ChartDescription& chart = window.chPowerGraph.Data();
   if (options.json) Print(ChartJson(chart, session.Host().messages));
   if (!filled || !window.Drawn()) return kFailed;
-  return Save(session, window, options) && DrawPicture(chart, options.picture) ? kDone : kFailed;
+  if (Save(session, window, options) && DrawPicture(chart, options.picture)) return kDone;
+  return kFailed;
 }
 
 int Power(const PowerOptions& options) {

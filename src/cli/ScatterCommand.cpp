@@ -36,7 +36,8 @@ std::string CheckFilter(const std::string& text) {
 clsScatterFilter ParseFilter(const std::string& text) {
   const auto parts = Split(text, ':');
   const auto bound = [](std::string_view word) {
-    return Trim(word).empty() ? kBoundNotSet : StringToDouble(word);
+    if (Trim(word).empty()) return kBoundNotSet;
+    return StringToDouble(word);
   };
   return {bound(parts[2]), bound(parts[1]), StringToLong(parts[0])};
 }
@@ -124,9 +125,9 @@ int Scatter(const ScatterOptions& options) {
   if (filled) window.cmdDrawGraph.Press();
   const ChartDescription& chart = window.chScatterGraph.Data();
   if (options.json) Print(Tell(session, window));
-  return chart.Cloud() && Export(session, window, options) && DrawPicture(chart, options.picture)
-             ? kDone
-             : kFailed;
+  if (chart.Cloud() && Export(session, window, options) && DrawPicture(chart, options.picture))
+    return kDone;
+  return kFailed;
 }
 
 void AddStyleOptions(CLI::App& command, ScatterOptions& options) {

@@ -13,7 +13,10 @@ std::string Quoted(std::string_view& rest, int line) {
     rest.remove_prefix(1);
     if (c == '"') return word;
     if (c == '\\' && !rest.empty()) {
-      c = rest.front() == 'n' ? '\n' : rest.front();
+      if (rest.front() == 'n')
+        c = '\n';
+      else
+        c = rest.front();
       rest.remove_prefix(1);
     }
     word += c;

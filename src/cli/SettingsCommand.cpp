@@ -52,7 +52,8 @@ int ConvertSettings(const SettingsOptions& options) {
     return box.id == static_cast<int>(Message::SettingsNotWritten);
   };
   const bool written = std::none_of(host.messages.begin(), host.messages.end(), failed);
-  return written && !program.Global().gstrINIFileToWrite.empty() ? kDone : kFailed;
+  if (written && !program.Global().gstrINIFileToWrite.empty()) return kDone;
+  return kFailed;
 }
 
 }  // namespace

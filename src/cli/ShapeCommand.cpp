@@ -82,7 +82,8 @@ int TellShape(const ShapeOptions& options) {
   if (options.definitionOut.empty()) return kDone;
   const clsDataLog definition = DefinitionOfShape(shape, FileTitle(options.file),
                                                   GetExtension(options.file), kUsualLinesASecond);
-  return files.Write(options.definitionOut, DefinitionFileText(definition)) ? kDone : kFailed;
+  if (files.Write(options.definitionOut, DefinitionFileText(definition))) return kDone;
+  return kFailed;
 }
 
 }  // namespace

@@ -35,14 +35,16 @@ std::optional<ZoneMap> ZonesOf(const LogOptions& options) {
 /// "RPM" of "Rev Limit (RPM)"; "" for a label without.
 std::string UnitOf(std::string_view label) {
   const auto open = label.find('('), close = label.find(')');
-  return open < close && close != label.npos ? std::string(label.substr(open + 1, close - open - 1))
-                                             : "";
+  if (open < close && close != label.npos)
+    return std::string(label.substr(open + 1, close - open - 1));
+  return "";
 }
 
 /// Of a cell its own name, "zf215".
 std::string LabelOf(const ZoneSheet& sheet, int zone) {
   const std::string_view label = FieldLabel(sheet, zone);
-  return label.empty() ? GridCellName(zone) : std::string(label);
+  if (label.empty()) return GridCellName(zone);
+  return std::string(label);
 }
 
 /// Flags have no number to show: their boxes stand beside.
@@ -96,7 +98,8 @@ Json MapJson(const ZoneMap& map) {
 /// As the editor shows each side, by its own chip; flags as their bits.
 std::string ShownText(const ZoneMap& map, const ZoneSheet& sheet, int zone) {
   const auto raw = map.zones[static_cast<std::size_t>(zone)];
-  return IsShown(sheet, zone) ? FieldText(sheet, zone) : std::to_string(raw);
+  if (IsShown(sheet, zone)) return FieldText(sheet, zone);
+  return std::to_string(raw);
 }
 
 Json DifferencesJson(const ZoneMap& here, const ZoneMap& there) {
