@@ -24,7 +24,8 @@ QString ShownToQt(const std::string& text) { return QString::fromStdString(Shown
 
 QString TipToQt(const std::string& text) {
   const QString tip = ShownToQt(text);
-  return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+  if (Qt::mightBeRichText(tip)) return Qt::convertFromPlainText(tip);
+  return tip;
 }
 
 QString CaptionToQt(const std::string& text) { return ShownToQt(text).replace("[*]", "[*][*]"); }

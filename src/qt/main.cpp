@@ -59,5 +59,6 @@ int main(int argc, char** argv) {
   RealProcesses processes;
   Program program(host, files, clock, processes, FindFolders());
   program.Start(argc > 1 ? argv[1] : "", true);
-  return host.AnyWindow() ? QApplication::exec() : 0;
+  if (host.AnyWindow()) return QApplication::exec();
+  return 0;
 }

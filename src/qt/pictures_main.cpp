@@ -146,5 +146,6 @@ int main(int argc, char** argv) {
     QApplication::setPalette(dark ? DarkPalette() : light);
     if (!content.log.empty()) saved = DrawMainWindow(folder, content, dark) && saved;
   }
-  return saved ? 0 : 1;
+  if (saved) return 0;
+  return 1;
 }

@@ -23,13 +23,15 @@ template <class Kind, class View, class Adapting>
 std::unique_ptr<Adapter> Pair(Control& control, QObject* view, Binder& binder) {
   auto* kind = dynamic_cast<Kind*>(&control);
   auto* shown = qobject_cast<View*>(view);
-  return kind && shown ? std::make_unique<Adapting>(*kind, *shown, binder) : nullptr;
+  if (kind && shown) return std::make_unique<Adapting>(*kind, *shown, binder);
+  return nullptr;
 }
 
 template <class Kind, class Adapting>
 std::unique_ptr<Adapter> Unseen(Control& control, QObject* view, Binder& binder) {
   auto* kind = dynamic_cast<Kind*>(&control);
-  return kind && !view ? std::make_unique<Adapting>(*kind, binder) : nullptr;
+  if (kind && !view) return std::make_unique<Adapting>(*kind, binder);
+  return nullptr;
 }
 
 // The first row that fits serves.

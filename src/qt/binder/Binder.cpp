@@ -21,7 +21,8 @@ constexpr int kLater = 20;
 }  // namespace
 
 std::string ViewName(const Control& control) {
-  return control.index < 0 ? control.name : control.name + "_" + std::to_string(control.index);
+  if (control.index < 0) return control.name;
+  return control.name + "_" + std::to_string(control.index);
 }
 
 std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window) {
@@ -89,7 +90,8 @@ Control* Binder::ControlOf(const QObject* widget) const {
 QObject* Binder::ViewOf(const Control& control) const {
   const auto found = std::find_if(adapters_.begin(), adapters_.end(),
                                   [&](const auto& one) { return &one->control() == &control; });
-  return found == adapters_.end() ? nullptr : (*found)->view();
+  if (found == adapters_.end()) return nullptr;
+  return (*found)->view();
 }
 
 }  // namespace tarnview

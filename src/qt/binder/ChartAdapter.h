@@ -47,10 +47,14 @@ class ChartAdapter : public Adapter {
 
  private:
   /// A curve at place j owns the chart's series 2j + 1; a row of a surface is a series of its own.
-  int SeriesAt(int place) const { return view_.ShowsSurface() ? place + 1 : 2 * place + 1; }
+  int SeriesAt(int place) const {
+    if (view_.ShowsSurface()) return place + 1;
+    return 2 * place + 1;
+  }
   int PlaceOf(int series) const {
     if (series < 1) return -1;
-    return view_.ShowsSurface() ? series - 1 : (series - 1) / 2;
+    if (view_.ShowsSurface()) return series - 1;
+    return (series - 1) / 2;
   }
 
   Chart& chart_;

@@ -34,7 +34,10 @@ FrameAdapter::FrameAdapter(Frame& frame, QWidget& view, Binder& binder)
 void FrameAdapter::ShowContent() {
   const std::string& path = frame_.BackgroundPicture();
   if (path.empty() && picture_.isNull()) return;
-  picture_ = path.empty() ? QPixmap() : PictureIn(path);
+  if (path.empty())
+    picture_ = QPixmap();
+  else
+    picture_ = PictureIn(path);
   view_.update();
 }
 

@@ -34,7 +34,8 @@ bool IsDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
 
 double Luminance(const QColor& colour) {
   const auto light = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    if (part <= 0.04045) return part / 12.92;
+    return std::pow((part + 0.055) / 1.055, 2.4);
   };
   return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) +
          0.0722 * light(colour.blueF());
@@ -78,7 +79,8 @@ QColor GridPainter::BackOf(const GridCell& cell) const {
   if (cell.backColour != kDesktopColour) return ColourToQt(cell.backColour);
   const QColor base = palette_.color(cell.locked ? QPalette::Button : QPalette::Base);
   const MarkColours* mark = ColoursOf(cell.mark);
-  return mark ? Mix(base, Of(*mark, IsDark(base)), kMarkedTint) : base;
+  if (mark) return Mix(base, Of(*mark, IsDark(base)), kMarkedTint);
+  return base;
 }
 
 /// A text that would vanish on what is behind it is drawn in black or white; red on a dark desktop
@@ -91,7 +93,8 @@ QColor GridPainter::TextOf(const GridCell& cell, const QColor& back) const {
   if (cell.backColour == kDesktopColour &&
       std::abs(qGray(wanted.rgb()) - qGray(back.rgb())) >= kReadable)
     return wanted;
-  return Luminance(back) < kBlackReadsBetter ? Qt::white : Qt::black;
+  if (Luminance(back) < kBlackReadsBetter) return Qt::white;
+  return Qt::black;
 }
 
 void GridPainter::Cell(const QRect& place, const GridCell& cell, bool selected) const {

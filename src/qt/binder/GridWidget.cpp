@@ -73,7 +73,8 @@ QRect GridWidget::RectOf(GridPlace cell) const {
     return headingWidth_ + (right - headingWidth_) * column / columns;
   };
   const auto y = [&](int row) { return bottom * row / rows; };
-  const int left = cell.column == 0 ? 0 : x(cell.column - 1);
+  int left = 0;
+  if (cell.column != 0) left = x(cell.column - 1);
   // One pixel at the right and at the foot is the line between.
   return QRect(QPoint(left + 1, y(cell.row) + 1), QPoint(x(cell.column) - 1, y(cell.row + 1) - 1));
 }

@@ -21,7 +21,10 @@ class ListViewAdapter : public Adapter {
   void ShowRow(int row);
   void SelectByUser(QTreeWidgetItem* item);
   /// From 1; 0 for no item.
-  int RowOf(QTreeWidgetItem* item) const { return item ? view_.indexOfTopLevelItem(item) + 1 : 0; }
+  int RowOf(QTreeWidgetItem* item) const {
+    if (item) return view_.indexOfTopLevelItem(item) + 1;
+    return 0;
+  }
 
   ListView& list_;
   QTreeWidget& view_;

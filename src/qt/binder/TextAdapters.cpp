@@ -58,7 +58,10 @@ LineEditAdapter::LineEditAdapter(TextBox& box, QLineEdit& view, Binder& binder)
     : Adapter(box, &view, binder), box_(box), view_(view) {
   KeepRoom(view);
   OnUser(view, &QLineEdit::textEdited, [this](const QString& text) {
-    box_.Text = box_.HoldsPath ? PathFromQt(text) : FromQt(text);
+    if (box_.HoldsPath)
+      box_.Text = PathFromQt(text);
+    else
+      box_.Text = FromQt(text);
   });
 }
 

@@ -24,14 +24,15 @@ int StepOf(int divisions, double length, double textSize) {
 
 std::string FormatNumber(double number, const std::string& format) {
   const auto point = format.find('.');
-  const int places = point == std::string::npos
-                         ? 0
-                         : static_cast<int>(std::min<std::size_t>(format.size() - point - 1, 15));
+  int places = 0;
+  if (point != std::string::npos)
+    places = static_cast<int>(std::min<std::size_t>(format.size() - point - 1, 15));
   char text[400];
   std::snprintf(text, sizeof text, "%.*f", places, number);
   const std::string shown = text;
-  return shown.find_first_not_of("-0.") == std::string::npos && shown[0] == '-' ? shown.substr(1)
-                                                                                : shown;
+  if (shown.find_first_not_of("-0.") == std::string::npos && shown[0] == '-')
+    return shown.substr(1);
+  return shown;
 }
 
 std::vector<AxisNumber> AxisNumbers(const ChartAxis& axis, double length, double textSize) {

@@ -7,6 +7,7 @@
 #include "qt/Fonts.h"
 #include "qt/Text.h"
 #include "qt/chart/AxisNumbers.h"
+#include "qt/chart/AxisRange.h"
 #include "qt/chart/ChartColours.h"
 #include "qt/chart/ChartText.h"
 #include "qt/chart/LegendText.h"
@@ -72,8 +73,8 @@ void ChartWidget::SetDescription(const ChartDescription& description) {
   MakeSurface();
   marks_->SetMarks(chart_.marks);
   pointed_->SetMarks({});
-  xAxis->setRange(chart_.x.min, chart_.x.max > chart_.x.min ? chart_.x.max : chart_.x.min + 1);
-  yAxis->setRange(chart_.y.min, chart_.y.max > chart_.y.min ? chart_.y.max : chart_.y.min + 1);
+  xAxis->setRange(RangeOf(chart_.x));
+  yAxis->setRange(RangeOf(chart_.y));
   ApplyColours();
   Fit(rect());
   replot(rpQueuedReplot);
@@ -93,7 +94,10 @@ void ChartWidget::MakeCurves() {
 
 void ChartWidget::MakeCloud() {
   const PointCloud* cloud = chart_.Cloud();
-  cloud_ = cloud ? new PointCloudPlot(xAxis, yAxis, *cloud) : nullptr;
+  if (cloud)
+    cloud_ = new PointCloudPlot(xAxis, yAxis, *cloud);
+  else
+    cloud_ = nullptr;
   const bool tinted = cloud && !cloud->tint.empty();
   bar_.Show(tinted, tinted ? cloud->tintAxis : ChartAxis());
   if (cloud_) ApplyFonts();

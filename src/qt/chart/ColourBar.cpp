@@ -1,5 +1,6 @@
 #include "qt/chart/ColourBar.h"
 
+#include "qt/chart/AxisRange.h"
 #include "qt/chart/PointShades.h"
 #include "ui/HeatColours.h"
 
@@ -39,8 +40,7 @@ void ColourBar::Show(bool shown, const ChartAxis& axis) {
     plot_.plotLayout()->simplify();
     delete group;
   }
-  if (scale_)
-    scale_->setDataRange(QCPRange(axis.min, axis.max > axis.min ? axis.max : axis.min + 1));
+  if (scale_) scale_->setDataRange(RangeOf(axis));
 }
 
 void ColourBar::SetWidth(int pixels) {

@@ -14,8 +14,14 @@ class ColourBar {
   /// Puts the bar beside the chart, or takes it away.
   void Show(bool shown, const ChartAxis& axis);
   /// The axis with the numbers; null while there is no bar.
-  QCPAxis* Axis() const { return scale_ ? scale_->axis() : nullptr; }
-  int Length() const { return scale_ ? scale_->rect().height() : 0; }
+  QCPAxis* Axis() const {
+    if (scale_) return scale_->axis();
+    return nullptr;
+  }
+  int Length() const {
+    if (scale_) return scale_->rect().height();
+    return 0;
+  }
   void SetWidth(int pixels);
 
  private:

@@ -8,7 +8,8 @@ namespace {
 constexpr int kLongestLine = 24;
 
 QString Shortened(const QString& word) {
-  return word.size() > kLongestLine ? word.left(kLongestLine - 1) + QChar(0x2026) : word;
+  if (word.size() > kLongestLine) return word.left(kLongestLine - 1) + QChar(0x2026);
+  return word;
 }
 
 }  // namespace

@@ -9,7 +9,8 @@ namespace {
 
 Qt::PenStyle StyleOf(int style) {
   if (style == 1) return Qt::SolidLine;
-  return style == 2 ? Qt::DotLine : Qt::DashLine;
+  if (style == 2) return Qt::DotLine;
+  return Qt::DashLine;
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ bool Same(const PixelGrid& a, const PixelGrid& b) {
 /// Where colours tell something, a ball's gleam would be a false one.
 PointShape ShapeOf(const PointCloud& cloud) {
   const bool shaded = cloud.density || !cloud.tint.empty();
-  return shaded && cloud.shape == PointShape::Ball ? PointShape::Circle : cloud.shape;
+  if (shaded && cloud.shape == PointShape::Ball) return PointShape::Circle;
+  return cloud.shape;
 }
 
 /// An axis on pixels: the painter's own count at their middles, and so do these.

@@ -27,11 +27,15 @@ std::vector<QColor> Scale(ColourAt colourAt) {
 std::vector<QColor> ShadeByTint(std::vector<PlacedPoint>& placed, const PointCloud& cloud,
                                 const PaintedColours& colours) {
   const ChartAxis& axis = cloud.tintAxis;
-  const double span = axis.max > axis.min ? axis.max - axis.min : 1;
+  double span = 1;
+  if (axis.max > axis.min) span = axis.max - axis.min;
   for (PlacedPoint& one : placed) {
     const auto point = static_cast<std::size_t>(one.point);
     const double share = point < cloud.tint.size() ? (cloud.tint[point] - axis.min) / span : NAN;
-    one.shade = std::isfinite(share) ? ShadeOf(share) : kShades;
+    if (std::isfinite(share))
+      one.shade = ShadeOf(share);
+    else
+      one.shade = kShades;
   }
   std::vector<QColor> shades = Scale(HeatColour);
   // A point without a value is there, and out of the scale.
@@ -43,15 +47,16 @@ std::vector<QColor> ShadeByTint(std::vector<PlacedPoint>& placed, const PointClo
 /// backdrop contrasts most with: so it works on every backdrop.
 QColor DensityColour(double share, const QColor& own, const PaintedColours& colours) {
   constexpr double kFaintest = 0.45, kOwn = 0.55, kDeepest = 0.6;
-  return share < kOwn ? Mix(colours.backdrop, own, kFaintest + (1 - kFaintest) * share / kOwn)
-                      : Mix(own, colours.text, kDeepest * (share - kOwn) / (1 - kOwn));
+  if (share < kOwn) return Mix(colours.backdrop, own, kFaintest + (1 - kFaintest) * share / kOwn);
+  return Mix(own, colours.text, kDeepest * (share - kOwn) / (1 - kOwn));
 }
 
 std::vector<QColor> ShadeByDensity(std::vector<PlacedPoint>& placed, const PointCloud& cloud,
                                    const PixelGrid& grid, int reach,
                                    const PaintedColours& colours) {
   const std::vector<int> counts = CountAround(cloud, grid, placed, reach);
-  const int most = counts.empty() ? 1 : *std::max_element(counts.begin(), counts.end());
+  int most = 1;
+  if (!counts.empty()) most = *std::max_element(counts.begin(), counts.end());
   const double whole = std::log(std::max(most, 2));
   for (std::size_t i = 0; i < placed.size(); ++i)
     placed[i].shade = ShadeOf(std::log(counts[i]) / whole);

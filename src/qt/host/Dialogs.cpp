@@ -51,7 +51,8 @@ constexpr Answered kAnswers[] = {{Reply::Ok, QMessageBox::Ok},
 
 QString FolderOf(const std::string& path) {
   const QFileInfo info(PathToQt(path));
-  return info.isDir() ? info.absoluteFilePath() : info.absolutePath();
+  if (info.isDir()) return info.absoluteFilePath();
+  return info.absolutePath();
 }
 
 /// The ending that a file gets when none was typed: the first of the chosen filter; none for "*".
@@ -128,8 +129,8 @@ Reply AskInBox(const Box& box, QWidget* parent) {
   for (const Answered& row : kAnswers)
     if (row.reply == box.DefaultReply()) shown.setDefaultButton(row.button);
   if ((box.style & 7) == kBoxYesNo) shown.setEscapeButton(QMessageBox::No);
-  const QAbstractButton* offer =
-      box.offer.empty() ? nullptr : shown.addButton(ToQt(box.offer), QMessageBox::ActionRole);
+  const QAbstractButton* offer = nullptr;
+  if (!box.offer.empty()) offer = shown.addButton(ToQt(box.offer), QMessageBox::ActionRole);
   if (offer && (box.style & 7) == kBoxOk) shown.setEscapeButton(QMessageBox::Ok);
   const int pressed = shown.exec();
   if (offer && shown.clickedButton() == offer) {

@@ -24,7 +24,8 @@ int HeightOf(const QTreeWidget& list, int rows) {
 
 int HeightOf(const QWidget& part, int rows) {
   const auto* list = qobject_cast<const QTreeWidget*>(&part);
-  return list ? HeightOf(*list, rows) : part.minimumSizeHint().height();
+  if (list) return HeightOf(*list, rows);
+  return part.minimumSizeHint().height();
 }
 
 /// A part whose content is not on show takes no room anyway.

@@ -60,14 +60,16 @@ bool QtHost::Choose(Dialog& dialog) {
 FormWindow* QtHost::WindowOf(const Form& form) const {
   const auto found = std::find_if(windows_.begin(), windows_.end(),
                                   [&](const auto& one) { return &one->form() == &form; });
-  return found == windows_.end() ? nullptr : found->get();
+  if (found == windows_.end()) return nullptr;
+  return found->get();
 }
 
 QWidget* QtHost::OwnerOfDialog() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   // The window that the user is in: raised with its owner, a dialog of another would bring that one
   // over it.
-  const FormWindow* front = front_ ? WindowOf(*front_) : nullptr;
+  const FormWindow* front = nullptr;
+  if (front_) front = WindowOf(*front_);
   if (front && front->window().isVisible() && !IsSplash(front->window())) return &front->window();
   return MainWindow();
 }
@@ -162,7 +164,8 @@ std::string QtHost::ClipboardText() { return FromQt(QApplication::clipboard()->t
 QSize QtHost::SizeOf(const Chart& chart) const {
   FormWindow* window = WindowOf(chart.form);
   const auto* view = window ? qobject_cast<QWidget*>(window->binder().ViewOf(chart)) : nullptr;
-  return view ? view->size() : kPictureSize;
+  if (view) return view->size();
+  return kPictureSize;
 }
 
 void QtHost::CopyPicture(const Chart& chart) {

@@ -63,7 +63,10 @@ void TakePlacement(const Form& form, QWidget& window) {
 }
 
 void NotePlacement(const QWidget& window, Form& form) {
-  form.WindowState = window.isMaximized() ? kMaximized : 0;
+  if (window.isMaximized())
+    form.WindowState = kMaximized;
+  else
+    form.WindowState = 0;
   if (window.isMinimized()) return;
   const QRect place = window.isMaximized() ? window.normalGeometry() : window.geometry();
   if (place.isEmpty()) return;

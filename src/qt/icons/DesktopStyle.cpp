@@ -77,7 +77,8 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const {
-  return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+  if (hint == SH_EtchDisabledText) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 }  // namespace tarnview

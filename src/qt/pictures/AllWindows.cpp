@@ -231,7 +231,10 @@ void AllWindows::MakeGridGraphs() {
     request.elevation = AnglesOf(angles, grid).elevation;
     request.kind = GraphKind(grid);
     request.source = GraphSource(grid, "");
-    request.caption = zones == ZoneGrid::Fuel ? "Fuel (This Datalog)" : "Ignition (This Datalog)";
+    if (zones == ZoneGrid::Fuel)
+      request.caption = "Fuel (This Datalog)";
+    else
+      request.caption = "Ignition (This Datalog)";
     for (int row = 1; row <= kGridRows; ++row)
       for (int column = 1; column <= kGridColumns; ++column) {
         const auto cell = static_cast<std::size_t>(ZoneCell(zones, row - 1, column - 1));
