@@ -110,6 +110,24 @@ FieldFormGuess Judge(const std::vector<std::string_view>& lines, const Delimiter
   return guess;
 }
 
+/// The fields whose texts are, for the most part, numbers or times.
+std::vector<bool> FieldsOfNumbers(const std::vector<std::string_view>& lines,
+                                  const FieldFormGuess& guess) {
+  std::vector<int> balance(static_cast<std::size_t>(guess.fields));
+  for (const std::string_view line : lines) {
+    const auto parts = SplitShapeLine(line, guess.form);
+    if (parts.size() != balance.size()) continue;
+    for (std::size_t at = 0; at < parts.size(); ++at) {
+      const FieldKind kind = KindOfField(parts[at], guess.form.decimalSign);
+      balance[at] +=
+          (kind == FieldKind::Number || kind == FieldKind::Time) - (kind == FieldKind::Text);
+    }
+  }
+  std::vector<bool> numbers;
+  for (const int share : balance) numbers.push_back(share > 0);
+  return numbers;
+}
+
 }  // namespace
 
 FieldFormGuess GuessFieldForm(const std::vector<std::string_view>& lines, std::optional<char> sign,
@@ -122,6 +140,7 @@ FieldFormGuess GuessFieldForm(const std::vector<std::string_view>& lines, std::o
     const FieldFormGuess guess = Judge(judged, delimiter, decimalSign);
     if (guess.score > best.score) best = guess;
   }
+  best.numbers = FieldsOfNumbers(judged, best);
   return best;
 }
 

@@ -11,10 +11,11 @@ namespace tarnview {
 /// How the lines of a log are cut, as its data lines tell.
 struct FieldFormGuess {
   FieldForm form;
-  int fields = 0;         ///< of most data lines
-  double regularity = 0;  ///< 0 to 1: the share of lines with so many fields
-  double numeric = 0;     ///< 0 to 1: the share of fields that are numbers, times or empty
-  int score = 0;          ///< 0 to 100
+  int fields = 0;             ///< of most data lines
+  double regularity = 0;      ///< 0 to 1: the share of lines with so many fields
+  double numeric = 0;         ///< 0 to 1: the share of fields that are numbers, times or empty
+  int score = 0;              ///< 0 to 100
+  std::vector<bool> numbers;  ///< fields that hold numbers or times in most data lines
 };
 
 /// From lines that are, for the most part, data: the first ones may be anything.

@@ -30,7 +30,7 @@ class Reader {
     GatherTable();
     for (ShapeColumn& column : shape_.columns)
       DescribeColumn(column, table_, shape_.form.decimalSign);
-    DropLastColumn();
+    DropEmptyColumns();
     ScaleChannels();
     FindTime();
     shape_.items = ChooseItems(shape_.columns, shape_.time, dictionary_, catalogue_);
@@ -57,7 +57,8 @@ class Reader {
   }
 
   bool FindLines() {
-    shape_.rows = FindRows(text_.head, guess_);
+    shape_.rows = FindRows(text_.head, guess_,
+                           [this](const auto& titles) { return CountKnownTitles(titles); });
     ShapeRows& rows = shape_.rows;
     if (choices_.dataLine) rows.dataLine = *choices_.dataLine;
     if (choices_.titleLine || choices_.unitsLine)
@@ -73,6 +74,18 @@ class Reader {
          (rows.unitsLine < 0 ? "" : ", units in line " + std::to_string(rows.unitsLine + 1)) +
          ", data from line " + std::to_string(rows.dataLine + 1));
     return true;
+  }
+
+  /// Among the first ones.
+  int CountKnownTitles(const std::vector<std::string>& titles) const {
+    constexpr std::size_t kLookedAt = 40;
+    return static_cast<int>(std::count_if(
+        titles.begin(),
+        titles.begin() + static_cast<std::ptrdiff_t>(std::min(titles.size(), kLookedAt)),
+        [this](std::string title) {
+          TakeUnit(title);
+          return dictionary_.Find(title).score > 0;
+        }));
   }
 
   void NameColumns() {
@@ -136,17 +149,35 @@ class Reader {
   }
 
   void AddLine(std::string_view line) {
-    if (IsDataLine(line, guess_)) table_.push_back(SplitShapeLine(line, shape_.form));
+    if (!IsDataLine(line, guess_)) return;
+    table_.push_back(SplitShapeLine(line, shape_.form));
+    for (const std::string_view field : table_.back())
+      if (!field.empty() && std::string_view("-./?").find(field[0]) != field.npos)
+        NoteNoValue(field);
   }
 
-  /// A last field that no line fills and whose title tells of the log, not of a quantity.
-  void DropLastColumn() {
+  void NoteNoValue(std::string_view field) {
+    constexpr std::size_t kMost = 16;
+    auto& texts = shape_.noValueTexts;
+    const auto known = NoValueTexts();
+    if (texts.size() < kMost && IsNoValue(field) && !ReadShapeNumber(field, '.') &&
+        std::find(known.begin(), known.end(), field) == known.end() &&
+        std::find(texts.begin(), texts.end(), field) == texts.end())
+      texts.emplace_back(field);
+  }
+
+  /// Fields without a title that no line fills, such as those outside of bars at both ends; and a
+  /// last one that no line fills and whose title tells of the log, not of a quantity.
+  void DropEmptyColumns() {
+    std::erase_if(shape_.columns, [](const ShapeColumn& column) {
+      return column.header.empty() && column.unit.empty() && column.values == 0;
+    });
     if (shape_.columns.size() < 3) return;
     const ShapeColumn& last = shape_.columns.back();
     const auto point = last.header.rfind('.');
     const bool file = point != std::string::npos && last.header.size() - point == 4 &&
                       IsLetters(last.header.substr(point + 1));
-    const bool note = last.header.empty() || last.header.find(":[") != std::string::npos || file;
+    const bool note = last.header.find(":[") != std::string::npos || file;
     if (last.values > 0 || !note) return;
     Tell("The last column, \"" + last.header + "\", holds no data");
     shape_.columns.pop_back();

@@ -30,6 +30,7 @@ struct LogShape {
   std::vector<ShapeColumn> columns;
   std::vector<ShapeItem> items;  ///< one a column
   TimeBase time;
+  std::vector<std::string> noValueTexts;  ///< beside NoValueTexts, those that stand in the log
   double lineFrequency = 0;      ///< lines a second where the log has no clock; 0: it tells none
   std::vector<std::string> why;  ///< what was decided, and by what, a sentence each
   int score = 0;                 ///< 0 to 100

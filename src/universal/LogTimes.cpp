@@ -48,21 +48,61 @@ std::vector<double> Rising(std::span<const double> stamps, TimeForm form) {
   return times;
 }
 
-/// Spreads runs of equal times. A pause behind a run is no part of its span: that is at most three
-/// times the usual.
-void Spread(std::vector<double>& times) {
+/// Lines of equal times.
+struct Run {
+  std::size_t first = 0, end = 0;
+  double time = 0, span = 0;
+
+  double Lines() const { return static_cast<double>(end - first); }
+};
+
+/// A pause behind a run is no part of its span: that is at most three times the usual.
+std::vector<Run> RunsOf(const std::vector<double>& times) {
+  std::vector<Run> runs;
   double usual = 0;
   for (std::size_t first = 0; first < times.size();) {
-    const double time = times[first];
-    std::size_t end = first + 1;
-    while (end < times.size() && times[end] == time) ++end;
-    double span = end < times.size() ? times[end] - time : usual;
-    if (usual > 0) span = std::min(span, 3 * usual);
-    for (std::size_t at = first + 1; at < end; ++at)
-      times[at] = time + span * static_cast<double>(at - first) / static_cast<double>(end - first);
-    if (span > 0) usual = span;
-    first = end;
+    Run run{first, first + 1, times[first], 0};
+    while (run.end < times.size() && times[run.end] == run.time) ++run.end;
+    run.span = run.end < times.size() ? times[run.end] - run.time : usual;
+    if (usual > 0) run.span = std::min(run.span, 3 * usual);
+    if (run.span > 0) usual = run.span;
+    first = run.end;
+    runs.push_back(run);
   }
+  return runs;
+}
+
+/// Seconds a line of the runs that neither the log's start nor its end cuts, the median; 0 where
+/// the stamps of most lines differ, or the log is too short to tell.
+double SecondsOfWholeRuns(const std::vector<Run>& runs) {
+  constexpr std::size_t kFewestRuns = 4, kFewestLines = 2;
+  if (runs.size() < kFewestRuns) return 0;
+  std::vector<double> each;
+  std::size_t lines = 0;
+  for (std::size_t at = 1; at + 1 < runs.size(); ++at) {
+    each.push_back(runs[at].span / runs[at].Lines());
+    lines += runs[at].end - runs[at].first;
+  }
+  if (lines < each.size() * kFewestLines) return 0;
+  const auto middle = each.begin() + static_cast<std::ptrdiff_t>(each.size() / 2);
+  std::nth_element(each.begin(), middle, each.end());
+  return *middle;
+}
+
+/// Spreads runs of equal times. A log may start and end within a run, whose few lines are then no
+/// further apart than those of others.
+void Spread(std::vector<double>& times) {
+  std::vector<Run> runs = RunsOf(times);
+  if (runs.empty()) return;
+  if (const double usual = SecondsOfWholeRuns(runs); usual > 0) {
+    runs.back().span = std::min(runs.back().span, usual * runs.back().Lines());
+    const double late = std::max(runs[0].span - usual * runs[0].Lines(), 0.0);
+    runs[0].span -= late;
+    for (std::size_t at = 1; at < runs.size(); ++at) runs[at].time -= late;
+  }
+  for (const Run& run : runs)
+    for (std::size_t at = run.first; at < run.end; ++at)
+      times[at] = run.time + run.span * static_cast<double>(at - run.first) / run.Lines();
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "fields/ByteMarks.h"
 #include "fields/WideSteps.h"
 #include "universal/TextEncoding.h"
+#include "universal/Units.h"
 
 namespace tarnview {
 namespace {
@@ -68,9 +69,8 @@ class QuoteTaker {
     if (field.find_first_of(std::string_view(",")) == std::string_view::npos &&
         field.find(delimiter_) == std::string_view::npos)
       return Copy(end);
-    const bool number = std::all_of(field.begin(), field.end(), [](char c) {
-      return IsDigit(c) || c == ',' || c == '.' || c == '-' || c == '+' || c == ' ';
-    });
+    const auto rest = std::min(field.find_first_not_of("0123456789,.-+ "), field.size());
+    const bool number = rest == field.size() || (rest > 0 && IsUnit(field.substr(rest)));
     for (const char c : field) {
       if (number && c == ',' && !decimalComma_) continue;  // of thousands
       if (number && c == '.' && decimalComma_) continue;

@@ -36,6 +36,7 @@ void TakeField(ShapeColumn& column, std::string_view field, char decimalSign, Ga
   if (const auto number =
           kind == FieldKind::Number ? ReadShapeNumber(field, decimalSign) : std::nullopt) {
     gathered.numbers.push_back(number->value);
+    if (column.unit.empty()) column.unit = number->unit;
     column.places = std::max(column.places, std::min(number->places, kMostPlaces));
   } else {
     TakeListed(column, field, gathered);

@@ -15,7 +15,7 @@ enum class ColumnContent { Empty, Number, List, Time, Text };
 struct ShapeColumn {
   std::string title;   ///< without its unit; "Column 5" where the log has none
   std::string header;  ///< the title as it stands in the log
-  std::string unit;    ///< as it stands in the log; "" for none
+  std::string unit;    ///< as it stands in the log, with the title or its values; "" for none
   int field = 0;       ///< from 0
   int occurrence = 1;  ///< of that header, from 1
   ColumnContent content = ColumnContent::Empty;

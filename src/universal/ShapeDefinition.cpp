@@ -20,6 +20,7 @@ void TakeForm(clsDataLog& definition, const LogShape& shape) {
   std::string texts;
   for (const std::string_view text : NoValueTexts())
     texts += (texts.empty() ? "" : "|") + std::string(text);
+  for (const std::string& text : shape.noValueTexts) texts += "|" + text;
   definition.strNoValueTexts = texts;
 }
 

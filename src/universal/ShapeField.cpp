@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "universal/TimeText.h"
+#include "universal/Units.h"
 
 namespace tarnview {
 namespace {
@@ -23,12 +24,16 @@ std::string_view TrimGaps(std::string_view text) {
   return text;
 }
 
-void SplitAtGaps(std::string_view line, std::vector<std::string_view>& fields) {
+/// Between quotes blanks may stand.
+void SplitAtGaps(std::string_view line, bool quoted, std::vector<std::string_view>& fields) {
   for (;;) {
     line = TrimGaps(line);
     if (line.empty()) return;
-    const auto end = std::min(line.find_first_of(" \t"), line.size());
-    fields.push_back(line.substr(0, end));
+    const auto closing = quoted && line[0] == '"' ? line.find('"', 1) : line.npos;
+    const auto end =
+        std::min(line.find_first_of(" \t", closing == line.npos ? 0 : closing), line.size());
+    const bool bare = closing != line.npos && closing + 1 == end;
+    fields.push_back(bare ? line.substr(1, end - 2) : line.substr(0, end));
     line.remove_prefix(end);
   }
 }
@@ -84,6 +89,23 @@ bool Simplify(std::string_view text, char decimalSign, std::string& simple) {
   return text.find(groupSign, point) == std::string_view::npos;
 }
 
+/// Where a number may end: at the first sign that stands in none. "E" counts where digits follow.
+std::size_t EndOfNumber(std::string_view text) {
+  for (std::size_t at = 0;;) {
+    at = std::min(text.find_first_not_of("0123456789.,+-", at), text.size());
+    const bool exponent = at > 0 && at + 1 < text.size() && (text[at] == 'e' || text[at] == 'E') &&
+                          std::string_view("0123456789+-").find(text[at + 1]) != text.npos;
+    if (!exponent) return at;
+    ++at;
+  }
+}
+
+/// What stands behind a number is nothing or a unit; one of a single letter only behind a blank.
+bool MayStandBehind(std::string_view unit, bool apart) {
+  if (unit.empty()) return true;
+  return unit[0] != ':' && (apart || unit.size() > 1 || !IsLetter(unit[0])) && IsUnit(unit);
+}
+
 /// The value of digits with at most one point and an exponent.
 std::optional<double> ValueOf(const std::string& simple) {
   if (simple.empty() || (!IsDigit(simple[0]) && simple[0] != '.') || !IsNumeric(simple))
@@ -97,7 +119,7 @@ std::vector<std::string_view> SplitShapeLine(std::string_view line, const FieldF
   std::vector<std::string_view> fields;
   if (line.empty()) return fields;
   if (form.delimiter == ' ') {
-    SplitAtGaps(line, fields);
+    SplitAtGaps(line, form.quoted, fields);
     return fields;
   }
   for (;;) {
@@ -110,16 +132,19 @@ std::vector<std::string_view> SplitShapeLine(std::string_view line, const FieldF
 
 std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSign) {
   text = TrimGaps(text);
-  if (text.ends_with('%')) text = TrimGaps(text.substr(0, text.size() - 1));
+  const auto end = EndOfNumber(text);
+  const std::string_view unit = TrimGaps(text.substr(end));
+  if (end == 0 || end > 40 || !MayStandBehind(unit, end < text.size() && IsGap(text[end])))
+    return std::nullopt;
+  text = text.substr(0, end);
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
-  if (text.empty() || text.size() > 40 || (!IsDigit(text[0]) && text[0] != decimalSign))
-    return std::nullopt;
+  if (text.empty() || (!IsDigit(text[0]) && text[0] != decimalSign)) return std::nullopt;
   std::string simple;
   if (!Simplify(text, decimalSign, simple)) return std::nullopt;
   const auto value = ValueOf(simple);
   if (!value) return std::nullopt;
-  FieldNumber number{negative ? -*value : *value, 0};
+  FieldNumber number{negative ? -*value : *value, 0, unit};
   const auto point = simple.find('.');
   for (std::size_t at = point;
        at != std::string::npos && ++at < simple.size() && IsDigit(simple[at]);)
@@ -130,6 +155,9 @@ std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSi
 bool IsNoValue(std::string_view text) {
   if (text.size() == 11 && text.starts_with("-21474836"))
     return true;  // just above the least of 32 bits
+  if (text.size() <= 8 && text.find_first_of("-?") != text.npos &&
+      text.find_first_not_of("-./?") == text.npos)
+    return true;
   return std::any_of(std::begin(kNoValues), std::end(kNoValues),
                      [&](std::string_view token) { return SameIgnoringCase(token, text); });
 }

@@ -21,17 +21,17 @@ std::vector<std::string_view> SplitShapeLine(std::string_view line, const FieldF
 /// A number in a field, all of which is one.
 struct FieldNumber {
   double value = 0;
-  int places = 0;  ///< digits behind the decimal sign
+  int places = 0;         ///< digits behind the decimal sign
+  std::string_view unit;  ///< behind it in the field; empty for none
 };
 
-/// Digits with a sign, an exponent, blanks or "%" behind them; with thousands of three digits set
-/// off by the other of
-/// "." and ",".
+/// Digits with a sign, an exponent, a unit behind them ("900 rpm"); with thousands of three digits
+/// set off by the other of "." and ",".
 std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSign);
 
-/// "-", "NaN", "N/A", "null" and their like, in any case.
+/// "-", "NaN", "N/A", "null" and their like, in any case; strokes and points, as "--.-".
 bool IsNoValue(std::string_view text);
-/// The same as a list, as a definition keeps it.
+/// Those that have a name, as a definition keeps them.
 std::vector<std::string_view> NoValueTexts();
 
 /// What a field looks like.

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "model/Column.h"
 #include "universal/Units.h"
 
@@ -116,9 +117,16 @@ Match MatchOf(const ShapeColumn& column, const TitleDictionary& dictionary,
   if (!kept) return match;
   const Unit* wanted = FindUnit(kept->unit);
   if (wanted && unit) {
-    const auto conversion = ConversionOf(*unit, *wanted);
+    // Degrees of the crankshaft may be told by its German initials, which are kilowatts as well.
+    const bool crank = wanted->quantity == Quantity::Angle && SameIgnoringCase(unit->name, "kW");
+    const auto conversion = crank ? UnitConversion{} : ConversionOf(*unit, *wanted);
     if (!conversion) return match;
     match.conversion = *conversion;
+  }
+  // Some loggers tell a retard as an advance below zero.
+  if (seq == ItemOf(kKNR) && column.highest <= 0 && column.lowest < 0) {
+    match.conversion.factor *= -1;
+    match.why = "never above zero: turned over";
   }
   match.conversion.factor *= column.scale;
   match.kept = kept;

@@ -101,23 +101,25 @@ int CountFilled(const std::vector<std::string>& fields) {
                                         [](const auto& field) { return !field.empty(); }));
 }
 
-/// A row above another one is the titles if it names nearly as many columns, where a row of groups
-/// names fewer; above units any is.
-bool NamesMore(const std::vector<std::string>& above, const std::vector<std::string>& below) {
+/// A row above another one is the titles if it names nearly as many columns and no fewer known
+/// ones, where a row of groups names fewer; above units any is.
+bool NamesMore(const std::vector<std::string>& above, const std::vector<std::string>& below,
+               const CountKnown& known) {
   constexpr double kNearly = 0.85;
   if (IsUnitsRow(above)) return false;
-  return IsUnitsRow(below) || CountFilled(above) >= kNearly * CountFilled(below);
+  if (IsUnitsRow(below)) return true;
+  return CountFilled(above) >= kNearly * CountFilled(below) && known(above) >= known(below);
 }
 
 /// Of those rows the topmost that may be titles, unless a line of comment.
 int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<int>& rows,
-                const FieldFormGuess& guess) {
+                const FieldFormGuess& guess, const CountKnown& known) {
   int found = -1;
   for (const int row : rows) {
     const std::string_view line = lines[static_cast<std::size_t>(row)];
     if (!MayBeTitles(line, guess) || (found >= 0 && line.starts_with('#'))) continue;
-    if (found < 0 ||
-        NamesMore(TitlesOf(line, guess), TitlesOf(lines[static_cast<std::size_t>(found)], guess)))
+    if (found < 0 || NamesMore(TitlesOf(line, guess),
+                               TitlesOf(lines[static_cast<std::size_t>(found)], guess), known))
       found = row;
   }
   return found;
@@ -186,17 +188,24 @@ bool IsDataLine(std::string_view line, const FieldFormGuess& guess) {
   const Fields fields = SplitShapeLine(line, guess.form);
   const int found = static_cast<int>(fields.size());
   if (found < 2 || found * 3 < guess.fields * 2 || found > guess.fields + 2) return false;
-  const auto counts = CountKinds(fields, guess.form.decimalSign);
-  const int numbers = Of(counts, FieldKind::Number) + Of(counts, FieldKind::Time);
-  return numbers > 0 && numbers + Of(counts, FieldKind::NoValue) >= Of(counts, FieldKind::Text);
+  int numbers = 0, texts = 0, looked = 0;
+  for (std::size_t at = 0; at < std::min(fields.size(), guess.numbers.size()); ++at) {
+    if (!guess.numbers[at]) continue;
+    const FieldKind kind = KindOfField(fields[at], guess.form.decimalSign);
+    numbers += kind == FieldKind::Number || kind == FieldKind::Time;
+    texts += kind == FieldKind::Text;
+    if (++looked == 1 && texts > 0) return false;
+  }
+  return numbers > 0 && numbers >= texts;
 }
 
-ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess) {
+ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess,
+                   const CountKnown& known) {
   ShapeRows rows;
   rows.dataLine = FirstDataLine(lines, guess);
   if (rows.dataLine < 0) return rows;
   const auto from = static_cast<std::size_t>(rows.dataLine);
-  rows.titleLine = TitleLineOf(lines, RowsAbove(lines, rows.dataLine, guess), guess);
+  rows.titleLine = TitleLineOf(lines, RowsAbove(lines, rows.dataLine, guess), guess, known);
   if (rows.titleLine >= 0)
     SetTitleLines(rows, lines, guess, rows.titleLine, UnitsLineOf(lines, rows, guess));
   rows.commentPrefix = CommentPrefixOf(lines, from);

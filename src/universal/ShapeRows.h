@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,15 +23,19 @@ struct ShapeRows {
   double dataShare = 0;       ///< of the lines from the first of data on: those that are data
 };
 
+/// How many of some titles are known ones.
+using CountKnown = std::function<int(const std::vector<std::string>& titles)>;
+
 /// Finds the first row of data, the titles above it and their units.
-ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess);
+ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess,
+                   const CountKnown& known);
 
 /// Takes titles and units from other lines; -1 for none.
 void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
                    const FieldFormGuess& guess, int titleLine, int unitsLine);
 
-/// A line of samples: as many fields as most have, or nearly, and at least half of those with a
-/// text are numbers or times.
+/// A line of samples: as many fields as most have, or nearly; where the others have numbers it has
+/// hardly a text, and none in the first of them.
 bool IsDataLine(std::string_view line, const FieldFormGuess& guess);
 
 }  // namespace tarnview

@@ -80,7 +80,7 @@ int NameWorth(const ShapeColumn& column) {
                              {"sekunden", 8}, {"ms", 6},          {"msec", 7},     {"clock", 8},    {"start", 4},
                              {"date", 4},     {"datetime", 8},    {"uhrzeit", 8},  {"log", 2},      {"session", 3},
                              {"device", 2},   {"laufzeit", 9},    {"t", 3},        {"messzeit", 9}, {"stamp", 3},
-                             {"secl", 6}};
+                             {"secl", 6},     {"datum", 4},       {"timer", 8},    {"temps", 8},    {"hora", 8}};
   // clang-format on
   constexpr std::string_view kNoClock[] = {
       "lap",  "injection", "injector", "delay", "dwell", "on",   "off", "response", "remaining",

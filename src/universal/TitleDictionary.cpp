@@ -8,7 +8,8 @@
 namespace tarnview {
 namespace {
 
-constexpr std::string_view kNoMeaning[] = {"sae", "obd", "the", "of", "ecu", "signal"};
+constexpr std::string_view kNoMeaning[] = {"sae",    "obd",   "the",      "of",  "ecu",    "signal",
+                                           "actual", "value", "measured", "ist", "istwert"};
 /// A quantity that is wanted, or a limit of one, is another than the quantity.
 constexpr std::string_view kAnother[] = {"target",   "desired", "commanded", "requested", "max",
                                          "min",      "limit",   "delta",     "error",     "soll",
@@ -34,6 +35,11 @@ Letter LetterOf(char c) {
 char SmallOf(char c) { return LetterOf(c) == Letter::Capital ? static_cast<char>(c + 32) : c; }
 
 std::string Joined(const std::vector<std::string>& words) { return Join(words, " "); }
+
+std::vector<std::string> Sorted(std::vector<std::string> words) {
+  std::sort(words.begin(), words.end());
+  return words;
+}
 
 /// The part of a path behind its last sign.
 std::string_view LastOfPath(std::string_view title) {
@@ -69,7 +75,9 @@ TitleDictionary::TitleDictionary(std::string_view text) {
     if (words.empty()) continue;
     std::string unit;
     if (parts.size() > 2) unit = parts[2];
-    entries_[Joined(words)] = {std::string(Trim(parts[1])), std::string(Trim(unit)), 100};
+    const KnownTitle known{std::string(Trim(parts[1])), std::string(Trim(unit)), 100};
+    entries_[Joined(words)] = known;
+    if (words.size() > 1) sorted_[Joined(Sorted(words))] = known;
   }
 }
 
@@ -79,7 +87,8 @@ const KnownTitle* TitleDictionary::Exactly(const std::vector<std::string>& words
   return &found->second;
 }
 
-/// All words; without those of no meaning; without a last "1"; without words in front.
+/// All words; without those of no meaning; without a last "1"; in another order; without words in
+/// front. The speed of a satellite receiver serves where the log has no other.
 KnownTitle TitleDictionary::FindWords(std::vector<std::string> words) const {
   if (const KnownTitle* known = Exactly(words)) return *known;
   std::erase_if(words, [](const std::string& word) { return IsOneOf(kNoMeaning, word); });
@@ -90,12 +99,16 @@ KnownTitle TitleDictionary::FindWords(std::vector<std::string> words) const {
     words.pop_back();
     score = 90;
   }
+  if (const auto found = sorted_.find(Joined(Sorted(words))); found != sorted_.end())
+    return {found->second.item, found->second.unit, 85};
   for (std::size_t front = 1; front + 2 <= words.size() && front <= 3; ++front) {
     if (IsOneOf(kAnother, words[front - 1])) break;
     const std::vector<std::string> behind(words.begin() + static_cast<std::ptrdiff_t>(front),
                                           words.end());
     if (const KnownTitle* known = Exactly(behind)) return {known->item, known->unit, 60};
   }
+  if (words.size() == 2 && words[0] == "gps")
+    if (const KnownTitle* known = Exactly({words[1]})) return {known->item, known->unit, 50};
   return {};
 }
 

@@ -25,8 +25,8 @@ class TitleDictionary {
 
   int Count() const { return static_cast<int>(entries_.size()); }
   /// A title without its unit. It is compared by words: case, blanks, signs and brackets do not
-  /// matter, nor words of no meaning such as "(SAE)"; a path ("engine/rpm") and a maker's word in
-  /// front ("XYZ Engine Speed") may be there.
+  /// matter, nor words of no meaning such as "(SAE)", nor their order ("Speed, engine"); a path
+  /// ("engine/rpm") and a maker's word in front ("XYZ Engine Speed") may be there.
   KnownTitle Find(std::string_view title) const;
   /// Item names that stand in it, each once.
   std::vector<std::string> Items() const;
@@ -36,6 +36,7 @@ class TitleDictionary {
   KnownTitle FindWords(std::vector<std::string> words) const;
 
   std::unordered_map<std::string, KnownTitle> entries_;  ///< by the alias' words, joined by blanks
+  std::unordered_map<std::string, KnownTitle> sorted_;   ///< the same by its words in order
 };
 
 /// Small letters; a capital behind a small letter begins a word, and so does a digit behind a

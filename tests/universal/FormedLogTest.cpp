@@ -106,6 +106,7 @@ TEST(LogTimes, CountFromTheFirstAndNeverFall) {
   EXPECT_EQ(Times({5, 6, 7, 0, 1, 2}), "0 1 2 3 4 5");              // started anew
   EXPECT_EQ(Times({5, 6, 5.9, 7}), "0 1 1.5 2");                    // lines changed places
   EXPECT_EQ(Times({none, 5, none, 7}), "0 0.667 1.333 2");
+  EXPECT_EQ(Times({58, 59, 59, 60, 60, 61}), "0 0.5 1 1.5 2 2.5");  // cut at both ends
   EXPECT_EQ(Times({}), "");
 }
 

@@ -171,12 +171,27 @@ std::vector<MadeLog> MadeLogs() {
        "GPS Time, Device Time, Longitude, Latitude,GPS Speed (Meters/second), Engine RPM(rpm),Engine Coolant Temperature(\xC2\xB0\x43),Turbo Boost & Vacuum Gauge(psi),Never Logged\n"
        "Wed Nov 25 00:00:00 GMT+01:00 2026,25-Nov-2026 00:00:00.403,-1.2347,51.2347,8.3,1918,83,-5.8,-\n"
        "Wed Nov 25 00:00:00 GMT+01:00 2026,25-Nov-2026 00:00:00.903,-1.2348,51.2348,8.4,2427,83,-3.8,-\n",
-       "4 x 9: 0.000 0.500 1.000 1.500; rpm 900  1918 2427; last 101:1.000 102:-1.2348 103:51.2348 104:8.4 3:2427 23:83.0 37:-3.80 105:",
+       "4 x 9: 0.000 0.500 1.000 1.500; rpm 900  1918 2427; last 101:1.000 102:-1.2348 103:51.2348 24:18.8 3:2427 23:83.0 37:-3.80 104:",
        "UTF-8 comma . titles 1 units 0 data 2\n"
        "time 1 DATE 0.5 rate 0\n"
        "| 101 GPS Time | 63 Secs [s] | 102 Longitude | 103 Latitude"
-       " | 104 GPS Speed [Meters/second] | 3 RPM [rpm] | 23 C Temp [C] | 37 Boost [psi]"
-       " | 105 Never Logged\n"},
+       " | 24 Speed [mph] x2.2369+0 | 3 RPM [rpm] | 23 C Temp [C] | 37 Boost [psi]"
+       " | 104 Never Logged\n"},
+      {"units in the cells, clocks to the minute, a bar at both ends, signs for no value",
+       "| Clock | Engine speed | Coolant |  Speed, vehicle | Mode | State |\n"
+       "|-------|--------------|---------|-----------------|------|-------|\n"
+       "| 17:58 | 900 rpm | 82.5 \xB0\x43 | 10 km/h | idle | cold |\n"
+       "| 17:59 | 950 rpm | --.- | 20 km/h | a | cold |\n"
+       "| 17:59 | 1000 rpm | 83.5 \xB0\x43 | 30 km/h | b | cold |\n"
+       "| 18:00 | 1050 rpm | 84 \xB0\x43 | 40 km/h | c | warm |\n"
+       "| 18:00 | 1100 rpm | 84 \xB0\x43 | 50 km/h | d | warm |\n"
+       "| 18:01 | 1150 rpm | 85 \xB0\x43 | 60 km/h | e | warm |\n",
+       "6 x 6: 0.000 30.000 60.000 90.000 120.000 150.000; rpm 900 950 1000 1050 1100 1150; last "
+       "3:1150 23:85.0 24:37.3 101:e 102:warm",
+       "WINDOWS-1252 bar . titles 1 units 0 data 3\n"
+       "time 0 CLOCK 60 rate 0\n"
+       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C] | 24 Speed [mph] x0.6214+0 | 101 Mode list"
+       " | 102 State list\n"},
       {"a comment, blanks behind commas",
        "# StartTime = 11/24/2026 02:05:09.1234 PM\n"
        "Time (sec), Short term fuel % trim - Bank 1 (%), Engine RPM (RPM), Vehicle speed (MPH), Intake manifold absolute pressure (inHg)\n"

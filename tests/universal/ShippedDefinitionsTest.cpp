@@ -5,7 +5,11 @@
 #include "base/FileSystem.h"
 #include "model/Catalogue.h"
 #include "support/LoadMessages.h"
+#include "universal/BuiltInTitles.h"
 #include "universal/DefinitionReader.h"
+#include "universal/ShapeItems.h"
+#include "universal/TitleDictionary.h"
+#include "universal/Units.h"
 #include "universal/UniversalDataItems.h"
 #include "universal/UniversalLog.h"
 
@@ -67,6 +71,47 @@ TEST(ShippedDefinitions, EachReadsItsLog) {
     EXPECT_NEAR(value(kIAdv), 16, 0.1);
     if (!log.glngDataLog.Column(kSpeed).empty()) {
       EXPECT_NEAR(value(kSpeed), 93, 0.1);
+    }
+  }
+}
+
+/// Two more lines of preamble: what is told of the log's own lines counts for little.
+TEST(ShippedDefinitions, ThoseWithAPreambleFindTheirTitlesWhereverTheyStand) {
+  const Catalogue catalogue = BuildDataItemCatalogue();
+  int found = 0;
+  for (const Shipped& shipped : kShipped) {
+    RealFileSystem files;
+    const clsDataLog definition = ReadDataLogDefinition(
+        *files.Read(kFolder + shipped.definition + ".txt"), "", catalogue.gcolFixedDataItems);
+    if (definition.strTitlesStart.empty()) continue;
+    ++found;
+    const std::string text(std::string_view(
+        *files.Read(std::string(TARNVIEW_EXAMPLES) + "/universal/" + shipped.log)));
+    const auto first = text.find('\n') + 1;
+    const clsLogDataItems items =
+        GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+    OpenLog log;
+    NoProgress progress;
+    LoadGenericDataLog(text.substr(0, first) + "One more: 1\n\n" + text.substr(first),
+                       {log, items, Settings{}, ConversionTables{}, progress}, definition);
+    EXPECT_EQ(log.glngDataLog.Rows(), 12) << shipped.definition;
+  }
+  EXPECT_EQ(found, 6);
+}
+
+TEST(ShippedDefinitions, TheDictionaryHasTheirTitles) {
+  const Catalogue catalogue = BuildDataItemCatalogue();
+  const TitleDictionary dictionary(BuiltInTitles());
+  for (const Shipped& shipped : kShipped) {
+    const clsDataLog definition =
+        ReadDataLogDefinition(*RealFileSystem().Read(kFolder + shipped.definition + ".txt"), "",
+                              catalogue.gcolFixedDataItems);
+    for (const clsDataLogColumn& column : definition.objColumns) {
+      if (UnitOfItem(column.lngDataItemID).empty()) continue;  // an item that only stands in
+      std::string title = column.strColumnTitle;
+      TakeUnit(title);
+      EXPECT_NE(dictionary.Find(title).item, "")
+          << shipped.definition << ": " << column.strColumnTitle;
     }
   }
 }
