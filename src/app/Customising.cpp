@@ -4,6 +4,7 @@
 #include "customise/OfferDefinitionPresets.h"
 #include "desk/Placement.h"
 #include "model/ItemDisplaySettings.h"
+#include "model/OwnItemDisplay.h"
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "scatter/frmPresetScatterDetails.h"
 
@@ -42,6 +43,10 @@ void Customising::TakeOptions(frmOptions& window) {
   OptionsDraft& draft = window.Draft();
   const std::string oldPath = globals_.settings.gstrGenericDefinitionFile;
   globals_.settings = draft.settings;
+  std::string& ownItems = globals_.settings.beyond.ownItemDisplay;
+  if (!window.DefinitionChanged())
+    ownItems = KeepOwnItemDisplay(ownItems, globals_.catalogue.gcolUniversalDataItems,
+                                  draft.catalogue.gcolUniversalDataItems);
   const bool changed = window.DefinitionChanged();
   const bool taken = changed && MayChangeDefinition();
   if (changed && !taken) globals_.settings.gstrGenericDefinitionFile = oldPath;

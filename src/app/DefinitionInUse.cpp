@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "model/ItemDisplaySettings.h"
+#include "model/OwnItemDisplay.h"
 #include "universal/DefinitionFiles.h"
 #include "universal/GenericDescriptions.h"
 #include "universal/UniversalDataItems.h"
@@ -22,6 +23,7 @@ void DefinitionInUse::Take(clsDataLog definition) {
   Catalogue& catalogue = globals_.catalogue;
   catalogue.gcolUniversalDataItems =
       GenerateLogDataItemsGeneric(globals_.gclsDataLogDefinition, catalogue.gcolFixedDataItems);
+  ShowOwnItemsAs(globals_.settings.beyond.ownItemDisplay, catalogue.gcolUniversalDataItems);
 }
 
 const clsLogDataItems& DefinitionInUse::ItemsOf(int fileType) const {
@@ -43,7 +45,8 @@ void DefinitionInUse::UseDefinitionOfLog(clsDataLog definition) {
     globals_.definitionOfSettings =
         Globals::KeptDefinition{std::move(globals_.gclsDataLogDefinition), std::move(items)};
   items = GenerateLogDataItemsGeneric(definition, globals_.catalogue.gcolFixedDataItems);
-  CopyItemDisplay(globals_.definitionOfSettings->items, items);
+  CopyCatalogueDisplay(globals_.definitionOfSettings->items, items);
+  ShowOwnItemsAs(globals_.settings.beyond.ownItemDisplay, items);
   globals_.gclsDataLogDefinition = std::move(definition);
 }
 

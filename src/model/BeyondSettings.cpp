@@ -13,6 +13,10 @@ const IniKey<B> kKeys[] = {
      {"frmOptions/General", "chkDrawAfterOpening"}},
     {"Main Window Dividers", IniText<B>{&B::mainDividers}},
     {"Scatter Graph Dividers", IniText<B>{&B::scatterDividers}},
+    {"Lines A Second",
+     IniNumber<B>{&B::linesASecond, kLeastLinesASecond, kMostLinesASecond},
+     {"frmLineFrequency", "txtLineFrequency"}},
+    {"Own Item Display", IniText<B>{&B::ownItemDisplay}},
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "model/IniFile.h"
 
 namespace tarnview {
@@ -13,6 +15,8 @@ struct BeyondSettings {
   bool drawAfterOpening = false;  ///< a log's ticked items are drawn as soon as it is open
   // Where the bars between a window's parts stand, in the toolkit's words.
   std::string mainDividers, scatterDividers;
+  double linesASecond = 10;    ///< of logs without a clock, as it was last answered
+  std::string ownItemDisplay;  ///< OwnItemDisplay
 };
 
 void ReadBeyondSettings(const IniTable& table, BeyondSettings& settings);

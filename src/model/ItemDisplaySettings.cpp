@@ -33,6 +33,18 @@ IniPlace PlaceOf(const char* section, int item) {
   return {section, "Item " + std::to_string(item) + " "};
 }
 
+void CopyUpTo(int last, const clsLogDataItems& from, clsLogDataItems& to) {
+  for (int n = 1; n <= last; ++n) {
+    const I& source = from.Item(n);
+    I& item = to.Item(n);
+    item.lngColour = source.lngColour;
+    item.lngLineStyle = source.lngLineStyle;
+    item.lngLineWidth = source.lngLineWidth;
+    item.blnDisplay = source.blnDisplay;
+    item.dblSampleDisplayFactor = source.dblSampleDisplayFactor;
+  }
+}
+
 }  // namespace
 
 bool HasItemDisplay(const IniTable& table, const char* section) {
@@ -51,15 +63,11 @@ void WriteItemDisplay(const clsLogDataItems& items, IniWriter& file) {
 }
 
 void CopyItemDisplay(const clsLogDataItems& from, clsLogDataItems& to) {
-  for (int n = 1; n <= std::min(from.Count(), to.Count()); ++n) {
-    const I& source = from.Item(n);
-    I& item = to.Item(n);
-    item.lngColour = source.lngColour;
-    item.lngLineStyle = source.lngLineStyle;
-    item.lngLineWidth = source.lngLineWidth;
-    item.blnDisplay = source.blnDisplay;
-    item.dblSampleDisplayFactor = source.dblSampleDisplayFactor;
-  }
+  CopyUpTo(std::min(from.Count(), to.Count()), from, to);
+}
+
+void CopyCatalogueDisplay(const clsLogDataItems& from, clsLogDataItems& to) {
+  CopyUpTo(std::min({from.Count(), to.Count(), gintColumnCount}), from, to);
 }
 
 }  // namespace tarnview

@@ -17,5 +17,7 @@ void WriteItemDisplay(const clsLogDataItems& items, IniWriter& file);
 
 /// Gives items how others of the same numbers are drawn.
 void CopyItemDisplay(const clsLogDataItems& from, clsLogDataItems& to);
+/// Those of the catalogue alone, for two logs whose own items have nothing in common.
+void CopyCatalogueDisplay(const clsLogDataItems& from, clsLogDataItems& to);
 
 }  // namespace tarnview

@@ -36,5 +36,6 @@ inline constexpr Limits kLineStyleLimits{1, 3};
 inline constexpr Limits kLineWidthLimits{1, 5};
 
 inline constexpr double kLeastDisplayFactor = 0.01, kMostDisplayFactor = 100;
+inline constexpr double kLeastLinesASecond = 0.01, kMostLinesASecond = 100000;
 
 }  // namespace tarnview

@@ -96,7 +96,7 @@ TEST_F(UploadCommand, RefusesWhatCannotBeSent) {
 TEST_F(UploadCommand, OptionsListEachSetting) {
   ASSERT_EQ(Run({"options"}), kDone);
   const auto rows = nlohmann::json::parse(out)["options"];
-  EXPECT_EQ(rows.size(), 53u);
+  EXPECT_EQ(rows.size(), 55u);
   const auto row = [&](const std::string& key) {
     for (const auto& one : rows)
       if (one["key"] == key) return one.dump();

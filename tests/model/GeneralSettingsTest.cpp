@@ -259,6 +259,8 @@ Initial Ignition Elevation | 130 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec
 Draw After Opening | N | Y or N | frmOptions/General | chkDrawAfterOpening
 Main Window Dividers |  |  |  | 
 Scatter Graph Dividers |  |  |  | 
+Lines A Second | 10 | 0.01 to 100000 | frmLineFrequency | txtLineFrequency
+Own Item Display |  |  |  | 
 )");
 }
 

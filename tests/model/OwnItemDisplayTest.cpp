@@ -1,0 +1,49 @@
+#include <gtest/gtest.h>
+
+#include "model/Catalogue.h"
+#include "model/OwnItemDisplay.h"
+
+namespace tarnview {
+namespace {
+
+/// The catalogue's items and two of a log's own, numbered behind them.
+clsLogDataItems Items() {
+  clsLogDataItems items = BuildDataItemCatalogue().gcolFixedDataItems;
+  for (const char* title : {"Oil, hot", "Fuel|2"}) {
+    clsLogDataItem item;
+    item.intSeq = item.intKey = items.Count() + 1;
+    item.strLongName = title;
+    items.AddDirect(std::move(item));
+  }
+  return items;
+}
+
+std::string Shown(const std::string& kept) {
+  clsLogDataItems items = Items();
+  ShowOwnItemsAs(kept, items);
+  return KeepOwnItemDisplay("", Items(), items);
+}
+
+TEST(OwnItemDisplay, IsKeptByTitleTheLatestInFront) {
+  const std::string oil = "255,2,3,N,0.5,OIL, HOT", fuel = "256,1,1,Y,1,FUEL 2";
+  const struct {
+    std::string kept, shown;
+  } kRows[] = {
+      {"", ""},
+      {oil, oil},
+      {fuel + "|" + oil, oil + "|" + fuel},
+      {"1,1,1,Y,1,Other", ""},
+      {"rubbish|" + oil + "|1,2|", oil},
+      {"99999999,9,9,,99999,oil, hot|x,x,x,x,x,FUEL 2",
+       "16777215,3,5,N,1000,OIL, HOT|0,1,1,N,0.0001,FUEL 2"},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(Shown(row.kept), row.shown) << row.kept;
+  clsLogDataItems items = Items();
+  items.Item(items.Count()).lngColour = 256;
+  EXPECT_EQ(KeepOwnItemDisplay(oil + "|7,1,1,Y,1,FUEL 2", Items(), items).substr(0, 4), "256,");
+  EXPECT_EQ(KeepOwnItemDisplay(oil, Items(), Items()), oil);
+  EXPECT_EQ(KeepOwnItemDisplay(fuel, Items(), items).find('|'), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarnview
