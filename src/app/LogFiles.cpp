@@ -30,6 +30,7 @@ std::vector<Command> LogFiles::Rows() {
       {&controls_.mnuFileSave, "mnuFileSave_Click", [this] { saving_.Save(); }, [this] { return saving_.MaySave(); }},
       {&controls_.mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { saving_.SaveAs(); }, [this] { return saving_.MaySaveAs(); }},
       {&controls_.mnuFileNewLogDescription, "mnuFileNewLogDescription_Click", [this] { mnuFileNewLogDescription_Click(); }, {}},
+      {&controls_.mnuFileEditDefinition, "mnuFileEditDefinition_Click", [this] { mnuFileEditDefinition_Click(); }, {}},
       // clang-format on
   };
   for (const auto& item : controls_.mnuRecentlyUsed)
@@ -103,13 +104,17 @@ bool LogFiles::OpenFromCommandLine(const std::string& commandLine) {
 }
 
 bool LogFiles::LoadDataFile(const std::string& path, int fileType) {
+  return LoadAsSettings(path, fileType, std::nullopt);
+}
+
+bool LogFiles::LoadAsSettings(const std::string& path, int fileType, Bytes bytes) {
   if (definition_.IsOfLog()) mainWindow_.HideForLoad();
   definition_.UseDefinitionOfSettings();
   globals_.takenAs.clear();
-  return LoadNow(path, fileType);
+  return LoadNow(path, fileType, std::move(bytes));
 }
 
-bool LogFiles::LoadNow(const std::string& path, int fileType) {
+bool LogFiles::LoadNow(const std::string& path, int fileType, Bytes bytes) {
   const AtWork work(controls_, status_);
   mainWindow_.HideForLoad();
   if (fileType == kUnknownFile) fileType = Guessed(path);
@@ -117,7 +122,7 @@ bool LogFiles::LoadNow(const std::string& path, int fileType) {
   log.gstrCurrentFile = path;
   log.gstrCurrentFileTitle = FileTitle(path);
   log.gintCurrentFileType = fileType;
-  const bool loaded = loading_.Load(path, fileType);
+  const bool loaded = loading_.Load(path, fileType, std::move(bytes));
   status_.HideProgress();
   if (loaded) {
     recent_.AddRecentlyUsedFile(path, fileType);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -63,16 +64,23 @@ class LogFiles : public Capture::MainWindow {
 
   void mnuFileOpen_Click();
   void mnuFileNewLogDescription_Click();
+  void mnuFileEditDefinition_Click();
   Dialog OpenDialog() const;
   int Guessed(const std::string& path) const;
-  bool LoadNow(const std::string& path, int fileType);
+  /// Of the file to load, where it has been read.
+  using Bytes = std::optional<FileBytes>;
+  bool LoadAsSettings(const std::string& path, int fileType, Bytes bytes);
+  bool LoadNow(const std::string& path, int fileType, Bytes bytes);
 
   // What a file is opened as.
   enum class Agreed { No, Yes, Otherwise };  ///< the last: the user wants to describe the log
   Agreed AgreesTo(const LogRoad& road, const std::string& path, int chosenType);
-  bool LoadAs(const std::string& path, LogRoad road);
+  bool SettleRate(LogRoad& road);
+  bool LoadAs(const std::string& path, LogRoad road, Bytes bytes);
   bool DescribeLog(const std::string& path);
-  void KeepDefinition(const clsDataLog& definition);
+  void EditDefinition(const std::string& file, const clsDataLog& definition,
+                      const std::string& log);
+  std::string KeepDefinition(const std::string& file, const clsDataLog& definition);
   bool TellNothingLoads(const std::string& path, const LoadOutcome& outcome);
 
   MainWindowControls& controls_;

@@ -32,14 +32,17 @@ class StatusProgress : public LoadProgress {
 
 }  // namespace
 
-bool LogLoading::Load(const std::string& path, int fileType) {
+bool LogLoading::Load(const std::string& path, int fileType, std::optional<FileBytes> bytes) {
   globals_.log.Clear(definition_.ItemsOf(fileType), 0);
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) {
     services_.messages.ShowMessage(Message::OddKindOfFile);
     return false;
   }
-  const auto bytes = ReadText(services_.files, path);
+  if (bytes)
+    SettleText(*bytes);
+  else
+    bytes = ReadText(services_.files, path);
   if (!bytes || !HasLines(*bytes)) {
     TellNotRead(path, bytes.has_value());
     return false;

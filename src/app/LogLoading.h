@@ -24,8 +24,9 @@ class LogLoading {
         definition_(definition),
         saving_(saving) {}
 
-  /// False: nothing was loaded, and the reason was told where there is one.
-  bool Load(const std::string& path, int fileType);
+  /// `bytes`: of the file, where it has been read. False: nothing was loaded, and the reason was
+  /// told where there is one.
+  bool Load(const std::string& path, int fileType, std::optional<FileBytes> bytes);
   /// Tells why a Universal log does not load that was only tried.
   void TellUniversalOutcome(const std::string& path, LoadOutcome outcome);
   /// The tables for auxiliary and oxygen inputs, as the settings name them now.

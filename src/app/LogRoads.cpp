@@ -22,8 +22,6 @@ namespace {
 constexpr std::size_t kHead = 256 << 10;
 constexpr const char* kDefinitions = "Universal Data Log Formats";
 constexpr const char* kTitles = "Log Titles.txt";
-/// Where a log has no clock and tells no rate.
-constexpr double kUsualLinesASecond = 10;
 /// A definition that knows fewer of a log's columns than nine in ten would lose the rest; the shape
 /// has them all.
 constexpr int kKnownOfTen = 9;
@@ -183,8 +181,9 @@ std::optional<LogRoad> LogRoads::ByShape(std::string_view bytes, const LogShape&
   if (!shape.Found()) return std::nullopt;
   LogRoad road;
   road.takenAs = "Universal: by its shape";
-  road.definition =
-      DefinitionOfShape(shape, FileTitle(path), GetExtension(path), kUsualLinesASecond);
+  road.definition = DefinitionOfShape(shape, FileTitle(path), GetExtension(path),
+                                      globals_.settings.beyond.linesASecond);
+  road.noRate = !shape.HasClock() && shape.lineFrequency <= 0;
   if (!TryAs(bytes, kUniversalLog, *road.definition, road).loaded) return std::nullopt;
   road.known = road.columns = static_cast<int>(shape.columns.size());
   if (shape.HasClock())

@@ -17,6 +17,7 @@ struct LogRoad {
   std::string takenAs;  ///< "FM Link Data Log", "Universal: ME221", "Universal: by its shape"
   std::optional<clsDataLog>
       definition;              ///< of a Universal log, where that is not the one of the settings
+  bool noRate = false;         ///< of a Universal log: it has no clock, and tells no lines a second
   std::string notes;           ///< what else was decided, such as the unit of its times
   int known = 0, columns = 0;  ///< of a Universal log: how many of its columns are
 

@@ -76,6 +76,7 @@ class MainWindowControls : public Form {
   MenuItem mnuFileSave{*this, "mnuFileSave", "&Save", "Ctrl+S"};
   MenuItem mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As..."};
   MenuItem mnuFileNewLogDescription{*this, "mnuFileNewLogDescription", "New Log Descrip&tion..."};
+  MenuItem mnuFileEditDefinition{*this, "mnuFileEditDefinition", "Edit De&finition..."};
   MenuItem mnuFileExport{*this, "mnuFileExport", "&Export...", "Ctrl+E"};
   MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", "Ctrl+P"};
   MenuItem mnuFilePrintPreview{*this, "mnuFilePrintPreview", "Print Pre&view..."};

@@ -8,6 +8,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "model/Column.h"
+#include "universal/DefinitionEdit.h"
 #include "universal/ShapeDefinition.h"
 
 namespace tarnview {
@@ -22,6 +23,7 @@ constexpr TimeForm kForms[] = {
     TimeForm::Hours,   TimeForm::Days,         TimeForm::Unix,         TimeForm::UnixMilliseconds,
     TimeForm::Clock,   TimeForm::DateAndTime};
 constexpr const char* kOwnItem = "An item of the log's own";
+constexpr const char* kNotRead = "Not read";
 constexpr double kUsualLinesASecond = 10;
 constexpr int kHeadLines = 60;
 
@@ -47,6 +49,16 @@ int IndexOf(const Values& values, Value value) {
   return static_cast<int>(found - std::begin(values));
 }
 
+/// An entry of the list of items. A definition may have named its item in its own way.
+std::string ItemText(const ShapeItem& item, const clsLogDataItems& catalogue) {
+  if (item.item == 0) return kNotRead;
+  if (item.item >= kFirstOwnItem) return kOwnItem;
+  return catalogue.Item(item.item).strShortName;
+}
+
+/// Beyond those that a definition may have used: they are numbered anew in the end.
+int OwnNumber(std::size_t column) { return kLastOwnItem + 1 + static_cast<int>(column); }
+
 std::string LineText(int line) {
   if (line < 0) return "";
   return std::to_string(line + 1);
@@ -56,18 +68,24 @@ std::string LineText(int line) {
 
 frmLogDescription::frmLogDescription(Host& itsHost, FileBytes bytes, const std::string& path,
                                      const TitleDictionary& titles,
-                                     const clsLogDataItems& catalogue)
-    : Form(itsHost, "frmLogDescription", "New Log Description"),
+                                     const clsLogDataItems& catalogue, const clsDataLog* edited)
+    : Form(itsHost, "frmLogDescription", edited ? "Edit Definition" : "New Log Description"),
       bytes_(std::move(bytes)),
       extension_(GetExtension(path)),
       titles_(titles),
-      catalogue_(catalogue) {
+      catalogue_(catalogue),
+      old_(edited ? std::optional(*edited) : std::nullopt) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "LogDescription";
   FillLists();
-  txtName.Text = FileTitle(WithoutExtension(path));
+  txtName.Text = old_ ? old_->strName : FileTitle(WithoutExtension(path));
+  if (old_) StartFrom(*old_);
   Look();
+  TieEvents();
+}
+
+void frmLogDescription::TieEvents() {
   const auto choose = [this](auto take) { return [this, take] { TakeChoice(take); }; };
   cboEncoding.Click = choose([this] { choices_.encoding = kEncodings[cboEncoding.ListIndex()]; });
   cboDelimiter.Click =
@@ -102,16 +120,24 @@ void frmLogDescription::FillLists() {
   texts.clear();
   for (const TimeForm form : kForms) texts.emplace_back(TimeFormName(form));
   cboTimeForm.SetList(std::move(texts));
-  texts = {kOwnItem};
+  texts = {kOwnItem, kNotRead};
   for (const clsLogDataItem* item : catalogue_.InDisplayOrder())
     if (item->intSeq != ItemOf(kSample) && item->intSeq != ItemOf(kSecs))
       texts.push_back(item->strShortName);
   cboItem.SetList(std::move(texts));
 }
 
+/// The titles of the log must be known before its clock is.
+void frmLogDescription::StartFrom(const clsDataLog& definition) {
+  choices_ = ChoicesOf(definition);
+  const LogShape shape = ReadLogShape(bytes_, titles_, catalogue_, choices_);
+  choices_.timeColumn = TimeColumnOf(definition, shape);
+}
+
 void frmLogDescription::TakeChoice(const std::function<void()>& choose) {
   if (showing_) return;
   choose();
+  formEdited_ = true;
   Look();
 }
 
@@ -123,8 +149,9 @@ void frmLogDescription::TakeLine(std::optional<int>& choice, const TextBox& box)
 /// The shape as the choices leave it, and what was edited of its columns.
 void frmLogDescription::Look() {
   shape_ = ReadLogShape(bytes_, titles_, catalogue_, choices_);
+  if (old_) ShowColumnsOf(*old_, shape_);
   for (std::size_t at = 0; at < shape_.columns.size(); ++at) {
-    const auto edited = edited_.find(shape_.columns[at].header);
+    const auto edited = edited_.find(KeyOf(at));
     if (edited != edited_.end() && static_cast<int>(at) != shape_.time.column)
       shape_.items[at] = edited->second;
   }
@@ -178,12 +205,14 @@ void frmLogDescription::ShowColumns() {
     const ShapeColumn& column = shape_.columns[at];
     const ShapeItem& item = shape_.items[at];
     const bool number = column.content == ColumnContent::Number;
-    const std::string name = item.item >= kFirstOwnItem ? "Own" : item.name;
-    rows.push_back({{column.title, column.unit, Join(column.first, "  "),
-                     number ? NumberText(column.lowest) : "",
-                     number ? NumberText(column.highest) : "", name, std::to_string(item.places)},
-                    std::to_string(at),
-                    item.why});
+    std::string name = item.item >= kFirstOwnItem ? "Own" : item.name;
+    if (item.item == 0) name = kNotRead;
+    rows.push_back(
+        {{column.title, column.unit, Join(column.first, "  "),
+          number ? NumberText(column.lowest) : "", number ? NumberText(column.highest) : "",
+          std::move(name), std::to_string(item.places)},
+         std::to_string(at),
+         item.why});
   }
   lvwColumns.SetRows(std::move(rows));
   if (lvwColumns.Count() > 0) lvwColumns.Select(std::min(selected, lvwColumns.Count()));
@@ -205,10 +234,7 @@ void frmLogDescription::ShowColumn() {
                                                           &txtUnit, &txtDecimals, &chkShown})
     control->Enabled = editable;
   if (item) {
-    if (item->item >= kFirstOwnItem)
-      cboItem.Text = std::string(kOwnItem);
-    else
-      cboItem.Text = item->name;
+    cboItem.Text = ItemText(*item, catalogue_);
     txtFactor.Text = NumberText(item->factor);
     txtOffset.Text = NumberText(item->offset);
     txtUnit.Text = item->unit;
@@ -225,12 +251,13 @@ void frmLogDescription::TakeColumn() {
   if (showing_ || !item || item->item == ItemOf(kSecs)) return;
   const auto at = static_cast<std::size_t>(item - shape_.items.data());
   const clsLogDataItem* known = catalogue_.ByShortName(cboItem.Text());
-  const int own = kFirstOwnItem + static_cast<int>(at);
-  const int wanted = known ? known->intSeq : own;
+  const int own = item->item >= kFirstOwnItem ? item->item : OwnNumber(at);
+  int wanted = known ? known->intSeq : own;
+  if (cboItem.Text() == kNotRead) wanted = 0;
   if (wanted != item->item) {
     for (std::size_t other = 0; other < shape_.items.size(); ++other)
-      if (shape_.items[other].item == wanted)
-        shape_.items[other].item = kFirstOwnItem + static_cast<int>(other);
+      if (wanted > 0 && shape_.items[other].item == wanted)
+        shape_.items[other].item = OwnNumber(other);
     item->item = wanted;
     if (known) {
       item->name = known->strShortName;
@@ -246,14 +273,25 @@ void frmLogDescription::TakeColumn() {
   item->places = std::clamp(StringToLong(txtDecimals.Text()), 0, 5);
   item->shown = chkShown.Value;
   item->why = "chosen by hand";
-  edited_[shape_.columns[at].header] = *item;
+  edited_[KeyOf(at)] = *item;
   showing_ = true;
   ShowColumns();
   showing_ = false;
 }
 
+/// Of several columns of one title each has its own.
+std::string frmLogDescription::KeyOf(std::size_t column) const {
+  return shape_.columns[column].header + "\n" + std::to_string(shape_.columns[column].occurrence);
+}
+
 clsDataLog frmLogDescription::Definition() const {
   LogShape shape = shape_;
+  if (old_) {
+    DefinitionEdits edits{txtName.Text().empty() ? old_->strName : txtName.Text(), formEdited_, {}};
+    for (std::size_t at = 0; at < shape.columns.size(); ++at)
+      if (edited_.contains(KeyOf(at))) edits.columns.push_back(at);
+    return EditedDefinition(*old_, shape, edits);
+  }
   // Own items are numbered anew, in the order of the columns.
   int next = kFirstOwnItem;
   for (ShapeItem& item : shape.items)

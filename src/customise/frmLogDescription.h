@@ -17,11 +17,14 @@
 namespace tarnview {
 
 /// Describes a log of unknown form: what was found of it beside its text, each finding a choice,
-/// and each column with the item that it becomes. OK gives a definition.
+/// and each column with the item that it becomes. OK gives a definition: a new one, or one that was
+/// there with what has been changed.
 class frmLogDescription : public Form {
  public:
+  /// `edited`: the definition to be changed; nullptr for a new one.
   frmLogDescription(Host& itsHost, FileBytes bytes, const std::string& path,
-                    const TitleDictionary& titles, const clsLogDataItems& catalogue);
+                    const TitleDictionary& titles, const clsLogDataItems& catalogue,
+                    const clsDataLog* edited = nullptr);
 
   // What the text is.
   Label lblEncoding{*this, "lblEncoding", "&Encoding"};
@@ -76,6 +79,8 @@ class frmLogDescription : public Form {
 
  private:
   void FillLists();
+  void TieEvents();
+  void StartFrom(const clsDataLog& definition);
   void Look();
   void ShowFindings();
   void ShowHead();
@@ -85,14 +90,17 @@ class frmLogDescription : public Form {
   void TakeChoice(const std::function<void()>& choose);
   void TakeLine(std::optional<int>& choice, const TextBox& box);
   ShapeItem* Selected();
+  std::string KeyOf(std::size_t column) const;
 
   const FileBytes bytes_;
   const std::string extension_;
   const TitleDictionary& titles_;
   const clsLogDataItems& catalogue_;
+  const std::optional<clsDataLog> old_;  ///< the definition that is edited
+  bool formEdited_ = false;
   ShapeChoices choices_;
   LogShape shape_;
-  std::map<std::string, ShapeItem> edited_;  ///< by the column's header
+  std::map<std::string, ShapeItem> edited_;  ///< by KeyOf
   bool showing_ = false;                     ///< controls follow the shape; they choose nothing
 };
 

@@ -4,6 +4,9 @@
 #include <algorithm>
 
 #include "app/LogRoads.h"
+#include "customise/frmLineFrequency.h"
+#include "customise/frmLogDescription.h"
+#include "customise/frmOptions.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
@@ -23,6 +26,7 @@ TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   ASSERT_EQ(host.messages.size(), 1u);
   EXPECT_EQ(host.messages[0].text,
             "This looks like a log of an unknown logger: 3 of 3 columns. Open it so?");
+  EXPECT_EQ(std::count(files.accesses.begin(), files.accesses.end(), "read /run.csv"), 1);
   EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal: by its shape)");
   EXPECT_EQ(Main().staDataLogViewer.Panel(1),
             "Loading complete: Universal: by its shape. Time: \"Time\" rises; milliseconds: its "
@@ -31,6 +35,88 @@ TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
                 Log().FormatDataItem(101, 3),
             "0.150 1050 1.7");
   EXPECT_GT(Main().lvwSampleDetails.RowOfTag("101"), 0);  // in the list as any other
+}
+
+TEST_F(Roads, ALogWithoutAClockIsAskedAboutOnceAndReadOnce) {
+  files.files["/run.csv"] = "RPM;MAP\n900;30\n910;31\n930;29\n905;30\n";
+  Start();
+  std::vector<std::string> offered;
+  const auto answer = [&](const char* rate, bool ok) {
+    host.work = [&, rate, ok](Form& form) {
+      auto& window = dynamic_cast<frmLineFrequency&>(form);
+      offered.push_back(window.txtLineFrequency.Text());
+      window.txtLineFrequency.Do({"type", {rate}});
+      (ok ? window.cmdOK : window.cmdCancel).Do({"click", {}});
+    };
+  };
+  answer("5", false);
+  EXPECT_FALSE(Main().Files().OpenFile("/run.csv", kUnknownFile));
+  answer("0", true);
+  EXPECT_TRUE(Main().DropFile("/run.csv"));
+  EXPECT_EQ(Log().FormatDataItem(63, 3), "300.000");  // the least there is
+  answer("4", true);
+  EXPECT_TRUE(Main().DropFile("/run.csv"));
+  EXPECT_EQ(Log().FormatDataItem(63, 3), "0.750");
+  EXPECT_EQ(offered, (std::vector<std::string>{"10", "10", "0.01"}));
+  Main().Files().OpenByContent("/run.csv");  // with no question, as it was last answered
+  EXPECT_EQ(Log().FormatDataItem(63, 3), "0.750");
+}
+
+TEST_F(Roads, OwnItemsAreDrawnAsTheirTitlesWere) {
+  files.files["/run.csv"] = kStrange;
+  files.files["/other.csv"] =
+      "Time (s),More,widget (V),RPM\n0,1,1.5,900\n1,2,1.6,910\n2,3,1.7,920\n3,4,1.8,930\n";
+  Start();
+  ASSERT_TRUE(Main().Files().OpenByContent("/run.csv"));
+  const Colour usual = Log().gcolDataItems->Item(101).lngColour;
+  host.work = [](Form& form) {
+    auto& options = dynamic_cast<frmOptions&>(form);
+    clsLogDataItems& items = options.Draft().catalogue.gcolUniversalDataItems;
+    items.Item(101).lngColour = 0x123456;
+    items.Item(101).blnDisplay = false;
+    options.cmdOK.Do({"click", {}});
+  };
+  Main().mnuCustomiseOptions.Do({"click", {}});
+  ASSERT_TRUE(Main().Files().OpenByContent("/other.csv"));
+  const clsLogDataItems& items = *Log().gcolDataItems;
+  EXPECT_EQ(items.Item(101).strLongName + items.Item(102).strLongName, "Morewidget");
+  EXPECT_EQ(items.Item(102).lngColour, 0x123456);
+  EXPECT_FALSE(items.Item(102).blnDisplay);
+  EXPECT_EQ(items.Item(101).lngColour, usual);
+}
+
+TEST_F(Roads, ADefinitionIsEditedOverTheOpenLog) {
+  files.files["/run.csv"] = kStrange;
+  Start();
+  ASSERT_TRUE(Main().Files().OpenByContent("/run.csv"));
+  files.files["/mine.txt"] =
+      "[DATALOGDEFINITION]\nNAME=Mine\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=59\n"
+      "DATALINESBEFORE=1\nCOMMENTS=kept\n[COLUMN]\nNAME=Secs\nDESCRIPTION=Secs\n"
+      "COLUMNTITLE=Time (msec)\nDATAITEMID=63\nTYPE=1\nCOLUMNDECIMALPLACES=3\n"
+      "CONVERSIONFACTOR=0.001\n[COLUMN]\nNAME=Rev\nDESCRIPTION=Rev\nTYPE=1\n"
+      "COLUMNTITLE=Engine Speed (rpm)\nDATAITEMID=3\nCOLUMNDECIMALPLACES=0\nSMOOTH=Y\n"
+      "[COLUMN]\nNAME=Gone\nDESCRIPTION=Gone\nTYPE=1\nCOLUMNTITLE=Gone\nDATAITEMID=5\n"
+      "COLUMNDECIMALPLACES=0\n[SAMPLE GRAPH]\nNAME=All\nDATA ITEMS=3,5\n\n";
+  host.answers.push_back({Answer::Kind::File, "/mine.txt"});
+  std::string shown;
+  host.work = [&](Form& form) {
+    auto& window = dynamic_cast<frmLogDescription&>(form);
+    for (const auto& row : window.lvwColumns.Rows())
+      shown += row.texts[0] + ":" + row.texts[5] + " ";
+    window.lvwColumns.UserSelects(2);
+    window.txtUnit.Do({"type", {"1/min"}});
+    window.lvwColumns.UserSelects(3);
+    window.cboItem.Do({"choose", {"An item of the log's own"}});
+    window.cmdOK.Do({"click", {}});
+  };
+  Main().mnuFileEditDefinition.Do({"click", {}});
+  EXPECT_EQ(shown, "Time:Secs Engine Speed:Rev Widget:Not read ");
+  EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal: Mine)");
+  const std::string text = files.files["/mine.txt"];
+  for (const char* part :
+       {"COMMENTS=kept", "SMOOTH=Y", "UNIT=1/min", "COLUMNTITLE=Gone", "DATA ITEMS=3,5",
+        "DATAITEMID=101", "OWNDATAITEMS=Y", "CONVERSIONFACTOR=0.001"})
+    EXPECT_NE(text.find(part), std::string::npos) << part;
 }
 
 TEST_F(Roads, WhoeverChoseAnotherTypeIsToldSo) {

@@ -116,6 +116,7 @@ void AllWindows::MakeGraphWindows() {
   firstRun_ = std::make_unique<frmFindINIFile>(host, globals.kinds.gcolFileTypes,
                                                std::vector<DefinitionChoice>{}, *definitionFiles_,
                                                messages_);
+  lineFrequency_ = std::make_unique<frmLineFrequency>(host, 10);
   logDescription_ = std::make_unique<frmLogDescription>(
       host, globals.log.gblnSamplesLoaded ? kStrangeLog : "", "strange.csv", titles_,
       globals.catalogue.gcolFixedDataItems);
@@ -307,7 +308,8 @@ std::vector<Form*> AllWindows::Forms() {
                            scatterDetails_.get(),
                            filter_.get(),
                            firstRun_.get(),
-                           logDescription_.get()};
+                           logDescription_.get(),
+                           lineFrequency_.get()};
   forms.insert(forms.end(), scatterGraphs_.begin(), scatterGraphs_.end());
   const auto power = power_->Forms();
   forms.insert(forms.end(), power.begin(), power.end());

@@ -9,6 +9,7 @@
 #include "app/frmFindINIFile.h"
 #include "app/frmNonModalMessage.h"
 #include "app/frmSplash.h"
+#include "customise/frmLineFrequency.h"
 #include "customise/frmLogDescription.h"
 #include "customise/frmOptions.h"
 #include "qt/pictures/PowerPictures.h"
@@ -87,6 +88,7 @@ class AllWindows {
   std::vector<std::unique_ptr<frmOptions>> options_;  ///< one for each page, where they are filled
   TitleDictionary titles_{BuiltInTitles()};
   std::unique_ptr<frmLogDescription> logDescription_;
+  std::unique_ptr<frmLineFrequency> lineFrequency_;
 };
 
 }  // namespace tarnview
