@@ -1,5 +1,6 @@
 // The Options and what follows once they are accepted.
 
+#include "support/OptionsActions.h"
 #include "support/ProgramFixture.h"
 #include "support/WindowActions.h"
 
@@ -62,6 +63,41 @@ TEST_F(CustomisingTest, AcceptedOptionsStandAfterARestartAndCancelledOnesDoNot) 
   EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
   EXPECT_TRUE(program->Global().catalogue.gcolFixedDataItems.Item(3).blnDisplay);
   EXPECT_EQ(files.files["/car/Tarnview.ini"], written);
+}
+
+/// The whole table of settings, as the next start of the program has them.
+TEST_F(CustomisingTest, EachSettingStandsAfterOkAndARestartAndNoneMovesOnCancel) {
+  AddFilesOfOptions(files);
+  for (const bool ok : {false, true}) {
+    Start("", "[General]\r\n");
+    program->WriteSettingsTo("/car/Tarnview.ini");
+    Main().WriteINIFile();
+    const std::string before = files.files["/car/Tarnview.ini"];
+    const Settings settings = program->Global().settings;
+    Settings wanted = settings;
+    host.work = [&](Form& form) {
+      auto* options = dynamic_cast<frmOptions*>(&form);
+      if (!options) return;
+      ChangeEachSetting(*options);
+      wanted = options->Draft().settings;
+      Act(*options, ok ? "click cmdOK" : "click cmdCancel");
+      if (ok) wanted = options->Draft().settings;
+    };
+    Act(Main(), "click mnuCustomiseOptions");
+    int changed = 0;
+    if (ok) Start("", files.files["/car/Tarnview.ini"]);
+    for (const SettingRow& row : AllSettings()) {
+      const std::string now = row.text(program->Global().settings);
+      if (std::string_view(row.setIn.window).starts_with("frmOptions/")) {
+        EXPECT_EQ(now, row.text(ok ? wanted : settings)) << row.key;
+        changed += now != row.text(settings);
+      }
+    }
+    EXPECT_EQ(changed, ok ? 40 : 0);
+    if (!ok) {
+      EXPECT_EQ(files.files["/car/Tarnview.ini"], before);
+    }
+  }
 }
 
 TEST_F(CustomisingTest, OpenWindowsFollowAtOnce) {

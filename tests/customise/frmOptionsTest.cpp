@@ -3,6 +3,7 @@
 #include "customise/frmOptions.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
+#include "support/OptionsActions.h"
 #include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
 #include "universal/DefaultDataLogDefinition.h"
@@ -14,14 +15,10 @@ namespace {
 class Options : public ::testing::Test {
  protected:
   Options() {
-    files.files = {{"/link/L.EXE", ""},
-                   {"/link/C.exe", ""},
-                   {"/link/notes.txt", ""},
-                   {"/defs/mine.txt", kMine},
-                   {"/defs/bad.txt", "[DATALOGDEFINITION]\r\nNAME=Bad\r\n"},
-                   {"/pictures/a.bmp", ""},
-                   {"/tables/t.txt", ""}};
-    files.folders = {"/logs", "/new"};
+    AddFilesOfOptions(files);
+    files.files["/link/notes.txt"] = "";
+    files.files["/defs/bad.txt"] = "[DATALOGDEFINITION]\r\nNAME=Bad\r\n";
+    files.folders.insert("/logs");
   }
 
   frmOptions& Open(const Settings& settings = {}, int fileType = kFMLinkLog) {
@@ -40,13 +37,6 @@ class Options : public ::testing::Test {
     host.messages.clear();
     return ids;
   }
-
-  static constexpr const char* kMine =
-      "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=log\r\nLINEFREQUENCY="
-      "10\r\nDELIMITERASCIICHARACTER=44\r\n"
-      "DATALINESBEFORE=1\r\nCOLUMNHEADERSLINESBEFORE=0\r\n"
-      "[COLUMN]\r\nNAME=Revs\r\nCOLUMNTITLE=Revs\r\nDATAITEMID=3\r\nTYPE=1\r\nDESCRIPTION=Revs\r\n"
-      "COLUMNDECIMALPLACES=0\r\nDISPLAYCOLOUR=255\r\nDISPLAYLINEWIDTH=5\r\n\r\n";
 
   RecordingHost host;
   MemoryFileSystem files;
@@ -72,45 +62,9 @@ TEST_F(Options, ShowEverySettingThatNamesThemAndGiveItBack) {
     EXPECT_EQ(row.text(options.Draft().settings), row.text({})) << row.key;
 }
 
-/// Another value than the default for each kind of control.
-void Change(Control& control) {
-  const std::pair<const char*, const char*> kTexts[] = {{"txtPath(0)", "/link/L.EXE"},
-                                                        {"txtPath(1)", "/link/C.exe"},
-                                                        {"txtPath(2)", "/pictures/a.bmp"},
-                                                        {"txtPath(3)", "/new/"},
-                                                        {"txtPath(4)", "/tables/t.txt"},
-                                                        {"txtPath(5)", "/tables/t.txt"},
-                                                        {"txtPath(6)", "/defs/mine.txt"},
-                                                        {"txtChipDate", "09-Jun-2003"},
-                                                        {"txtmsConvFactor", "0.5"},
-                                                        {"txtComPort", "7"},
-                                                        {"txtAtmos", "98"},
-                                                        {"txtRH", "12"},
-                                                        {"txtAmbTemp", "15"}};
-  if (auto* box = dynamic_cast<CheckBox*>(&control)) return box->Do({"click", {}});
-  if (auto* list = dynamic_cast<ComboBox*>(&control)) {
-    const int next = (list->ListIndex() + 1) % static_cast<int>(list->Entries().size());
-    return list->Do({"choose", {"#" + std::to_string(next)}});
-  }
-  for (const auto& [name, text] : kTexts)
-    if (control.FullName() == name) return control.Do({"type", {text}});
-  control.Do({"type", {"77"}});
-}
-
 TEST_F(Options, GiveBackEverySettingThatWasChangedAndNoneAfterCancel) {
   frmOptions& options = Open();
-  for (const SettingRow& row : AllSettings())
-    if (std::string_view(row.setIn.window).starts_with("frmOptions/") &&
-        std::string_view(row.key) != "Default Chip Version") {
-      Control& control = *ControlOf(options, row.setIn.control);
-      if (!control.Enabled)
-        Act(options, "click chkSAE");  // the air is asked for with the correction alone
-      Change(control);
-      if (!options.chkPowerGraphGearSelection.Value)
-        Act(options, "click chkPowerGraphGearSelection");
-    }
-  Act(options, "click chkPowerGraphGearSelection");
-  options.chkSAE.Value = true;
+  ChangeEachSetting(options);
   Act(options, "click cmdOK");
   EXPECT_EQ(Boxes(), "86 ");
   ASSERT_TRUE(options.Accepted());
@@ -126,7 +80,8 @@ TEST_F(Options, GiveBackEverySettingThatWasChangedAndNoneAfterCancel) {
             "Default Benchmark (frmZoneData)\nDisplay Zone Influence (frmDataLogViewer)\n"
             "Fix Graph Max (frmDataLogViewer)\nGraph Y Max (frmDataLogViewer)\nShow Checked Only "
             "(frmDataLogViewer)\n"
-            "Main Window Dividers ()\nScatter Graph Dividers ()\n");
+            "Main Window Dividers ()\nScatter Graph Dividers ()\n"
+            "Lines A Second (frmLineFrequency)\nOwn Item Display ()\n");
 
   frmOptions& again = Open();
   Act(again, "click chkAutoFileNames\ntype txtSampleWidth 500\nclick cmdCancel");

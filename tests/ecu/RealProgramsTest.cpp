@@ -13,6 +13,7 @@
 #include "support/FixedClock.h"
 #include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
+#include "zones/MapFile.h"
 
 namespace tarnview {
 namespace {
@@ -31,7 +32,7 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
     Put("mdos/C.exe.script", "copy miatatmp.bin miatatmp.txt\n");
     host.work = [this](Form& form) {
       if (form.name == "frmNewDownload") Act(form, newFile);
-      if (form.name == "frmUpload") Act(form, "click cmdOK");
+      if (form.name == "frmUpload") Act(form, upload);
       if (form.name == "frmUploadConf") Act(form, --tries >= 0 ? "click cmdYes" : "click cmdNo");
     };
   }
@@ -61,7 +62,10 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
   bool SaveMapFile(const std::string&) override { return true; }
   void Say(const std::string&) override {}
   ComparisonChoices ChoicesForComparison() override { return {}; }
-  std::optional<ZoneMap> LoadComparison(const std::string&) override { return std::nullopt; }
+  std::optional<ZoneMap> LoadComparison(const std::string& path) override {
+    const MapReading reading = ReadMapFile(files, path, settings, false);
+    return reading.read ? std::optional(reading.map) : std::nullopt;
+  }
 
   const fs::path folder =
       fs::temp_directory_path() /
@@ -75,6 +79,7 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
   Messages messages{host, [](int) { return ""; }};
   EcuWorld world{host, settings, files, clock, programs, messages};
   std::string newFile = "type txtFileName run\nclick cmdOK";
+  std::string upload = "click cmdOK";
   std::string loaded;
   int tries = 1;  ///< of an upload, before the user has enough
 };
@@ -170,6 +175,42 @@ TEST_F(RealPrograms, TakeAnUploadAndSayHowItWent) {
     tries = 2;
     Upload(world, *this).Run(form);
     EXPECT_EQ(Boxes(), std::string(text) + text);
+  }
+}
+
+TEST_F(RealPrograms, TakeTheChangesOnly) {
+  ZonesToUpload form{settings.gdblDefaultEngineSize, settings.gdatDefaultChipDate, {}};
+  for (std::size_t n = 0; n < form.zones.size(); ++n)
+    form.zones[n] = static_cast<std::int16_t>(n % 100);
+  ZoneMap old;
+  old.zones = form.zones;
+  old.zones[6] = old.zones[100] = 77;
+  Put("my link/L.exe.script", "copy TVW.map sent.map\n");
+  const std::string path = (folder / "logs" / "old.map").string();
+  upload = "click chkOption(2)\ntype txtCCF " + path + "\nclick cmdOK";
+  struct Row {
+    double engineSize;
+    const char* told;
+    const char* zones;  ///< the first that are sent
+  };
+  const Row rows[] = {{1.6, "", "6=6 100=0 "},
+                      {1.8, "The Change Comparison File is from a", "0=0 1=1 "},
+                      {0, "The Change Comparison File does not exist.", "0=0 1=1 "}};
+  for (const Row& row : rows) {
+    old.chip = {row.engineSize, settings.gdatDefaultChipDate, 0};
+    Put("logs/old.map", MapText(old, clock.Now()));
+    if (row.engineSize == 0) fs::remove(path);
+    tries = 1;
+    Upload(world, *this).Run(form);
+    const std::string boxes = Boxes();
+    EXPECT_TRUE(row.told[0] ? boxes.starts_with(row.told) : boxes.empty())
+        << row.engineSize << boxes;
+    const ZoneSettings sent = ParseMap(Get("my link/sent.map"), settings, true).map.zones;
+    std::string zones;
+    for (std::size_t n = 0, found = 0; n < sent.size() && found < 2; ++n)
+      if (sent[n] != -1 && ++found)
+        zones += std::to_string(n) + "=" + std::to_string(sent[n]) + " ";
+    EXPECT_EQ(zones, row.zones) << row.engineSize;
   }
 }
 
