@@ -18,10 +18,20 @@ constexpr TextEncoding kEncodings[] = {TextEncoding::Windows1252, TextEncoding::
                                        TextEncoding::Utf16LE, TextEncoding::Utf16BE};
 constexpr char kDelimiters[] = {'\t', ';', ',', '|', ' '};
 constexpr char kDecimalSigns[] = {'.', ','};
-constexpr TimeForm kForms[] = {
-    TimeForm::Seconds, TimeForm::Milliseconds, TimeForm::Microseconds, TimeForm::Minutes,
-    TimeForm::Hours,   TimeForm::Days,         TimeForm::Unix,         TimeForm::UnixMilliseconds,
-    TimeForm::Clock,   TimeForm::DateAndTime};
+struct FormWord {
+  TimeForm form;
+  const char* word;
+};
+constexpr FormWord kForms[] = {{TimeForm::Seconds, "Seconds"},
+                               {TimeForm::Milliseconds, "Milliseconds"},
+                               {TimeForm::Microseconds, "Microseconds"},
+                               {TimeForm::Minutes, "Minutes"},
+                               {TimeForm::Hours, "Hours"},
+                               {TimeForm::Days, "Days"},
+                               {TimeForm::Unix, "Unix Time"},
+                               {TimeForm::UnixMilliseconds, "Unix Time (ms)"},
+                               {TimeForm::Clock, "Clock"},
+                               {TimeForm::DateAndTime, "Date and Time"}};
 constexpr const char* kOwnItem = "An item of the log's own";
 constexpr const char* kNotRead = "Not read";
 constexpr double kUsualLinesASecond = 10;
@@ -54,6 +64,16 @@ std::string ItemText(const ShapeItem& item, const clsLogDataItems& catalogue) {
   if (item.item == 0) return kNotRead;
   if (item.item >= kFirstOwnItem) return kOwnItem;
   return catalogue.Item(item.item).strShortName;
+}
+
+/// "x 0.5556 - 17.78"; "" where a number of the log is the value.
+std::string ConversionText(const ShapeItem& item) {
+  const auto shown = [](double number) { return NumberText(RoundPlaces(number, 4)); };
+  std::string text;
+  if (item.factor != 1) text = "x " + shown(item.factor);
+  if (item.offset > 0) text += " + " + shown(item.offset);
+  if (item.offset < 0) text += " - " + shown(-item.offset);
+  return std::string(Trim(text));
 }
 
 /// Beyond those that a definition may have used: they are numbered anew in the end.
@@ -93,7 +113,7 @@ void frmLogDescription::TieEvents() {
   cboDecimalSign.Click =
       choose([this] { choices_.decimalSign = kDecimalSigns[cboDecimalSign.ListIndex()]; });
   cboTimeColumn.Click = choose([this] { choices_.timeColumn = cboTimeColumn.ListIndex() - 1; });
-  cboTimeForm.Click = choose([this] { choices_.timeForm = kForms[cboTimeForm.ListIndex()]; });
+  cboTimeForm.Click = choose([this] { choices_.timeForm = kForms[cboTimeForm.ListIndex()].form; });
   txtTitleLine.LostFocus = choose([this] { TakeLine(choices_.titleLine, txtTitleLine); });
   txtUnitsLine.LostFocus = choose([this] { TakeLine(choices_.unitsLine, txtUnitsLine); });
   txtDataLine.LostFocus = choose([this] { TakeLine(choices_.dataLine, txtDataLine); });
@@ -118,7 +138,7 @@ void frmLogDescription::FillLists() {
   cboDelimiter.SetList(std::move(texts));
   cboDecimalSign.SetList({"Point", "Comma"});
   texts.clear();
-  for (const TimeForm form : kForms) texts.emplace_back(TimeFormName(form));
+  for (const FormWord& row : kForms) texts.emplace_back(row.word);
   cboTimeForm.SetList(std::move(texts));
   texts = {kOwnItem, kNotRead};
   for (const clsLogDataItem* item : catalogue_.InDisplayOrder())
@@ -174,7 +194,11 @@ void frmLogDescription::ShowFindings() {
   for (const ShapeColumn& column : shape_.columns) clocks.push_back(column.title);
   cboTimeColumn.SetList(std::move(clocks));
   cboTimeColumn.SetListIndex(shape_.time.column + 1);
-  cboTimeForm.SetListIndex(IndexOf(kForms, shape_.time.form));
+  const auto form = std::find_if(std::begin(kForms), std::end(kForms), [this](const FormWord& row) {
+    return row.form == shape_.time.form;
+  });
+  cboTimeForm.SetListIndex(-1);
+  if (form != std::end(kForms)) cboTimeForm.SetListIndex(static_cast<int>(form - kForms));
   cboTimeForm.Enabled = shape_.HasClock();
   txtLineFrequency.Enabled = !shape_.HasClock();
   if (shape_.lineFrequency > 0)
@@ -199,7 +223,9 @@ void frmLogDescription::ShowHead() {
 }
 
 void frmLogDescription::ShowColumns() {
-  const int selected = std::max(lvwColumns.SelectedRow(), 1);
+  // At first the one behind the clock: of the clock there is nothing to edit.
+  const int first = shape_.time.column == 0 ? 2 : 1;
+  const int selected = lvwColumns.SelectedRow() > 0 ? lvwColumns.SelectedRow() : first;
   std::vector<ListView::Row> rows;
   for (std::size_t at = 0; at < shape_.columns.size(); ++at) {
     const ShapeColumn& column = shape_.columns[at];
@@ -207,12 +233,12 @@ void frmLogDescription::ShowColumns() {
     const bool number = column.content == ColumnContent::Number;
     std::string name = item.item >= kFirstOwnItem ? "Own" : item.name;
     if (item.item == 0) name = kNotRead;
-    rows.push_back(
-        {{column.title, column.unit, Join(column.first, "  "),
-          number ? NumberText(column.lowest) : "", number ? NumberText(column.highest) : "",
-          std::move(name), std::to_string(item.places)},
-         std::to_string(at),
-         item.why});
+    rows.push_back({{column.title, column.unit, Join(column.first, "  "),
+                     number ? NumberText(column.lowest) : "",
+                     number ? NumberText(column.highest) : "", std::move(name),
+                     ConversionText(item), std::to_string(item.places), item.shown ? "Yes" : "No"},
+                    std::to_string(at),
+                    item.why});
   }
   lvwColumns.SetRows(std::move(rows));
   if (lvwColumns.Count() > 0) lvwColumns.Select(std::min(selected, lvwColumns.Count()));

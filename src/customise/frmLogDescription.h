@@ -56,7 +56,9 @@ class frmLogDescription : public Form {
                        {"Lowest", true},
                        {"Highest", true},
                        {"Item"},
-                       {"Decimals", true}}};
+                       {"Conversion"},
+                       {"Decimals", true},
+                       {"Drawn"}}};
   Label lblItem{*this, "lblItem", "&Item"};
   ComboBox cboItem{*this, "cboItem"};
   Label lblFactor{*this, "lblFactor", "Facto&r"};

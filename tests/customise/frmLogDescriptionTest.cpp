@@ -34,12 +34,16 @@ TEST_F(LogDescription, ShowsWhatWasFound) {
   EXPECT_EQ(Shown(),
             "Preamble Titles Units Data Data Data | Time:Secs RPM:RPM Speed:Speed Odd:Own");
   EXPECT_EQ(window.cboDelimiter.Text() + window.cboDecimalSign.Text() + window.cboTimeForm.Text(),
-            "semicolonCommaSECONDS");
+            "semicolonCommaSeconds");
   EXPECT_EQ(window.txtTitleLine.Text() + window.txtUnitsLine.Text() + window.txtDataLine.Text(),
             "234");
   EXPECT_EQ(window.cboTimeColumn.Text(), "Time");
   EXPECT_FALSE(window.txtLineFrequency.Enabled());
   EXPECT_EQ(window.txtName.Text(), "my run");
+  EXPECT_EQ(window.lvwColumns.SelectedRow(), 2);
+  std::string speed;
+  for (const std::string& text : window.lvwColumns.Rows()[2].texts) speed += text + "|";
+  EXPECT_EQ(speed, "Speed|km/h|30  31  32|30|32|Speed|x 0.6214|1|Yes|");
 }
 
 TEST_F(LogDescription, AChoiceIsFollowedAtOnce) {
@@ -61,7 +65,7 @@ TEST_F(LogDescription, AColumnIsEditedAndKeptThroughChoices) {
   window.cboItem.Do({"choose", {"MAP"}});
   window.txtFactor.Do({"type", {"100"}});
   window.txtDecimals.Do({"type", {"9"}});
-  window.cboTimeForm.Do({"choose", {"MINUTES"}});
+  window.cboTimeForm.Do({"choose", {"Minutes"}});
   EXPECT_EQ(Shown(),
             "Preamble Titles Units Data Data Data | Time:Secs RPM:RPM Speed:Speed Odd:MAP");
   const clsDataLog definition = window.Definition();
