@@ -3,6 +3,7 @@
 #include "app/frmFindINIFile.h"
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "model/IniFile.h"
 
 namespace tarnview {
@@ -23,7 +24,7 @@ bool FirstRun::GenerateINIFile(const std::string& path) {
   Choice choice{};
   if (!Ask(choice)) return false;
   const std::string from = TemplateOf(path, choice.fileType);
-  const auto bytes = services_.files.Read(from);
+  const auto bytes = ReadText(services_.files, from);
   if (!bytes) {
     services_.messages.ShowMessage(Message::SettingsFileNotFound);
     return true;

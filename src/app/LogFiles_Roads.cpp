@@ -3,6 +3,7 @@
 
 #include "app/LogFiles.h"
 #include "base/Paths.h"
+#include "base/TextFile.h"
 #include "customise/frmLineFrequency.h"
 #include "customise/frmLogDescription.h"
 #include "universal/DefinitionFiles.h"
@@ -35,7 +36,7 @@ std::string ColumnsOf(const LogRoad& road) {
 }  // namespace
 
 bool LogFiles::OpenFile(const std::string& path, int fileType) {
-  Bytes bytes = services_.files.Read(path);
+  Bytes bytes = ReadText(services_.files, path);
   if (!bytes) return LoadDataFile(path, fileType);  // which says why
   const bool guessed = fileType == kUnknownFile;
   const int wanted = guessed ? Guessed(path) : fileType;
@@ -57,7 +58,7 @@ bool LogFiles::OpenFile(const std::string& path, int fileType) {
 }
 
 bool LogFiles::OpenByContent(const std::string& path) {
-  Bytes bytes = services_.files.Read(path);
+  Bytes bytes = ReadText(services_.files, path);
   auto road = bytes ? roads_.ByContent(*bytes, path) : std::nullopt;
   if (road) return LoadAs(path, std::move(*road), std::move(bytes));
   return LoadAsSettings(path, kUnknownFile, std::move(bytes));
@@ -112,7 +113,7 @@ void LogFiles::mnuFileNewLogDescription_Click() {
 }
 
 bool LogFiles::DescribeLog(const std::string& path) {
-  auto bytes = services_.files.Read(path);
+  auto bytes = ReadText(services_.files, path);
   if (!bytes) {
     services_.messages.ShowMessage(Message::FileNotLoaded);
     return false;
@@ -152,7 +153,7 @@ void LogFiles::mnuFileEditDefinition_Click() {
 
 void LogFiles::EditDefinition(const std::string& file, const clsDataLog& definition,
                               const std::string& log) {
-  auto bytes = services_.files.Read(log);
+  auto bytes = ReadText(services_.files, log);
   if (!bytes) return services_.messages.ShowMessage(Message::FileNotLoaded);
   frmLogDescription window(services_.host, std::move(*bytes), log, roads_.Titles(),
                            globals_.catalogue.gcolFixedDataItems, &definition);

@@ -6,6 +6,7 @@
 #include "app/Loaders.h"
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "loaders/LayoutMarks.h"
 #include "model/Column.h"
 #include "universal/BuiltInTitles.h"
@@ -99,7 +100,7 @@ const TitleDictionary& LogRoads::Titles() {
   if (titles_) return *titles_;
   std::string text(BuiltInTitles());
   for (const std::string& folder : {globals_.dataFolder, globals_.gstrProgramFolder})
-    if (const auto own = folder.empty() ? std::nullopt : files_.Read(folder + kTitles))
+    if (const auto own = folder.empty() ? std::nullopt : ReadText(files_, folder + kTitles))
       text = Joined(text, *own);
   return titles_.emplace(text);
 }
@@ -167,7 +168,7 @@ std::optional<LogRoad> LogRoads::ByDefinitions(std::string_view head, const LogS
 
 /// Nothing for a file with a fault.
 std::optional<clsDataLog> LogRoads::ReadDefinition(const std::string& path) {
-  const auto text = files_.Read(path);
+  const auto text = ReadText(files_, path);
   if (!text) return std::nullopt;
   try {
     return ReadDataLogDefinition(*text, path, globals_.catalogue.gcolFixedDataItems);

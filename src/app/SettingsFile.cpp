@@ -152,7 +152,7 @@ bool SettingsFile::WriteINIFile(const std::string& path,
 /// Once a run, so that a user who broke something can go back to before it.
 void SettingsFile::KeepOlder(const std::string& path, std::string_view older,
                              std::string_view newer) {
-  if (keptOlder_ || older == newer || IsDamaged(older) || !IsIniText(older)) return;
+  if (keptOlder_ || older == newer || IsDamaged(older) || !IsIniText(Repaired(older))) return;
   keptOlder_ = services_.files.Write(path + kOlder, older);
 }
 

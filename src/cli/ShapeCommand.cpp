@@ -4,6 +4,7 @@
 #include "app/LogRoads.h"
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/LogSession.h"
@@ -71,7 +72,7 @@ Json ShapeJson(const LogShape& shape) {
 
 int TellShape(const ShapeOptions& options) {
   RealFileSystem files;
-  const auto bytes = files.Read(options.file);
+  const auto bytes = ReadText(files, options.file);
   if (!bytes) return kFailed;
   Globals globals;
   globals.dataFolder = DataFolder(files);

@@ -4,6 +4,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "loaders/BenchmarkLog.h"
 
 namespace tarnview {
@@ -32,7 +33,7 @@ void frmLoadBenchmark::Load() {
     messages_.ShowMessage(Message::OddKindOfFile);
     return;
   }
-  const auto bytes = files_.Read(FileToLoad);
+  const auto bytes = ReadText(files_, FileToLoad);
   if (!bytes) {
     messages_.Tell(UnreadFileError(files_, FileToLoad), kBoxExclamation);
     return;

@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "base/TextFile.h"
 #include "zones/ChipIdentity.h"
 #include "zones/ChipRules.h"
 #include "zones/ZoneDefaults.h"
@@ -161,7 +162,7 @@ std::string UnreadFileError(FileSystem& disk, const std::string& path) {
 
 MapReading ReadMapFile(FileSystem& disk, const std::string& path, const Settings& settings,
                        bool quiet) {
-  const auto bytes = disk.Read(path);
+  const auto bytes = ReadText(disk, path);
   if (bytes) return ParseMap(*bytes, settings, quiet);
   MapReading none;
   none.error = UnreadFileError(disk, path);

@@ -188,6 +188,29 @@ TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
   }
 }
 
+TEST_F(Roads, FilesOfTheUsersOwnAreTextAsAnyEditorLeavesIt) {
+  const std::string definition =
+      "[DATALOGDEFINITION]\nNAME=Mine\nFILEEXTENSION=csv\nDELIMITERASCIICHARACTER=59\n"
+      "DATALINESBEFORE=1\n[COLUMN]\nNAME=Secs\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES="
+      "3\nCOLUMNTITLE=Clock\n"
+      "DATAITEMID=63\n[COLUMN]\nNAME=W\nDESCRIPTION=x\nTYPE=1\nCOLUMNDECIMALPLACES=1\n"
+      "COLUMNTITLE=Widget\nDATAITEMID=3\n\n";
+  for (const auto& [mark, end] : {std::pair{"", '\n'}, {"\xEF\xBB\xBF", '\n'}, {"", '\r'}})
+    for (const auto& [path, text, taken] :
+         {std::tuple{"Universal Data Log Formats/Mine.txt", definition, "Universal: Mine"},
+          {"Log Titles.txt", std::string("Widget ; RPM ;\n"), "Universal: by its shape"}}) {
+      std::string saved = mark + text;
+      std::replace(saved.begin(), saved.end(), '\n', end);
+      files.files = {{"/data/" + std::string(path), saved},
+                     {"/run.csv", "Clock;Widget\n0;900\n1;950\n2;990\n3;999\n"}};
+      Start();
+      program->Global().dataFolder = "/data/";
+      EXPECT_TRUE(Main().OpenByContent("/run.csv"));
+      EXPECT_EQ(program->Global().takenAs, taken) << saved;
+      EXPECT_EQ(Log().FormatDataItem(3, 3), "999") << saved;
+    }
+}
+
 TEST_F(Roads, ADefinitionWhoseClockReadsOtherwiseIsPassedOver) {
   const struct {
     const char* head;

@@ -74,10 +74,15 @@ TEST_F(OpenFile, AMarkInFrontAndLinesThatEndInCRAreNoFault) {
   std::erase(log, '\n');
   files.files["/logs/cr.txt"] = log;
   Start();
-  for (const char* path : {"/logs/mark.txt", "/logs/cr.txt"}) {
-    EXPECT_TRUE(Main().LoadDataFile(path, 1)) << path;
-    EXPECT_EQ(Log().glngDataLog.Rows(), 5) << path;
-  }
+  for (const char* path : {"/logs/mark.txt", "/logs/cr.txt"})
+    for (const int type : {kFMLinkLog, kUnknownFile}) {
+      host.messages.clear();
+      EXPECT_TRUE(Main().OpenFile(path, type)) << path;
+      EXPECT_EQ(Log().glngDataLog.Rows(), 5) << path;
+      EXPECT_EQ(MessageIds(), (Ids{16})) << path;  // and no question what it is
+      EXPECT_TRUE(Main().OpenByContent(path)) << path;
+      EXPECT_EQ(Log().gintCurrentFileType, kFMLinkLog) << path;
+    }
 }
 
 TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {

@@ -8,6 +8,7 @@
 #include "zoneeditor/RandomHand.h"
 #include "zoneeditor/frmBenchmarkDetails.h"
 #include "zoneeditor/frmCopyBench.h"
+#include "zoneeditor/frmLoadBenchmark.h"
 #include "zoneeditor/frmOffset.h"
 #include "zoneeditor/frmZoneData.h"
 #include "zones/ZoneNames.h"
@@ -344,6 +345,20 @@ TEST_F(frmZoneDataTest, TenThousandRandomEditsAreUndoneAndRedone) {
   while (window->mnuEditRedo.Enabled()) window->mnuEditRedo.Do({"click", {}});
   EXPECT_EQ(window->Map(), last);
   EXPECT_EQ(window->History().Done(), kEdits);
+}
+
+TEST_F(frmZoneDataTest, ABenchmarksFileIsTextAsAnyEditorLeavesIt) {
+  std::string map = MapText(MapWith(100, 2), {});
+  files.files["mark.map"] = "\xEF\xBB\xBF" + map.substr(map.find(" 100"));
+  std::erase(map, '\n');
+  files.files["cr.map"] = map;
+  for (const char* path : {"mark.map", "cr.map"}) {
+    frmLoadBenchmark loading(host, files, settings, messages);
+    loading.FileToLoad = path;
+    loading.Run();
+    ASSERT_TRUE(loading.SuccessfulLoad()) << path;
+    EXPECT_EQ(MapOf(loading.LoadedBenchmark()).zones, MapWith(100, 2).zones) << path;
+  }
 }
 
 TEST(frmCopyBench, EverythingTicksWhatThereIs) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/Text.h"
 #include "support/MemoryFileSystem.h"
 #include "zones/MapFile.h"
@@ -179,6 +181,15 @@ TEST(MapFile, OnDisk) {
   EXPECT_EQ(Told(ReadMapFile(disk, "a.map", Own(), false)), "none [53, File not found]");
   EXPECT_TRUE(WriteMapFile(disk, "a.map", Sample(), {}));
   EXPECT_EQ(ReadMapFile(disk, "a.map", Own(), false).map.strNotes, "Street,\r\nsummer");
+  const std::string notes = " Notes:\na\n\nb\n End Of Notes\n";
+  std::string inCR = Lines(15) + notes;
+  std::replace(inCR.begin(), inCR.end(), '\n', '\r');
+  for (const auto& [text, read] : {std::pair{"\xEF\xBB\xBF" + Lines(15) + notes, "a\r\n\r\nb"},
+                                   {inCR, "a\r\n\r\nb"},
+                                   {Lines(15) + " Notes:\r\na\rb\r\n", "a\rb"}}) {
+    disk.files["a.map"] = text;
+    EXPECT_EQ(ReadMapFile(disk, "a.map", Own(), true).map.strNotes, read) << text;
+  }
   disk.broken.insert("a.map");
   EXPECT_EQ(Told(ReadMapFile(disk, "a.map", Own(), false)), "none [75, Path/File access error]");
   EXPECT_FALSE(WriteMapFile(disk, "a.map", Sample(), {}));
