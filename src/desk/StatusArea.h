@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <string>
 
 #include "ui/Form.h"
@@ -42,15 +43,19 @@ class StatusArea {
 };
 
 /// The hourglass over a window for as long as it lives. However the work ends, the hourglass and
-/// the progress bar go.
+/// the progress bar go; where it fails, the word of what was going on goes, too.
 class AtWork {
  public:
   AtWork(Form& window, StatusArea& status)
-      : window_(window), status_(status), before_(window.Pointer) {
+      : window_(window),
+        status_(status),
+        before_(window.Pointer),
+        failures_(std::uncaught_exceptions()) {
     window_.Pointer = MousePointer::Hourglass;
   }
   ~AtWork() {
     status_.HideProgress();
+    if (std::uncaught_exceptions() > failures_) status_.Say("");
     window_.Pointer = before_;
   }
   AtWork(const AtWork&) = delete;
@@ -59,6 +64,7 @@ class AtWork {
   Form& window_;
   StatusArea& status_;
   MousePointer before_;
+  int failures_;  ///< on their way already
 };
 
 }  // namespace tarnview

@@ -133,10 +133,11 @@ std::optional<SampleRange> frmPowerGraph::TakeRange() {
 void frmPowerGraph::cmdDrawGraph_Click() {
   const auto range = TakeRange();
   if (!range) return;
-  Pointer = MousePointer::Hourglass;
-  status_.Say("Preparing to draw graph");
-  Draw(*range);
-  Pointer = MousePointer::Default;
+  {
+    const AtWork work(*this, status_);
+    status_.Say("Preparing to draw graph");
+    Draw(*range);
+  }
   commands_.Update();
 }
 

@@ -37,14 +37,13 @@ void ScatterDrawing::Clear() {
 }
 
 void ScatterDrawing::DrawScatter(const ScatterRequest& request, bool blnQuiet) {
-  const AtWork work(window_, status_);
   Clear();
-  status_.Say("Preparing to draw graph");
   status_.SayLoaded("");
-  const bool ended = TrapEvent(errors_, "frmScatterGraph", "DrawScatter", [&] {
+  TrapEvent(errors_, "frmScatterGraph", "DrawScatter", [&] {
+    const AtWork work(window_, status_);
+    status_.Say("Preparing to draw graph");
     if (MayBuild(request, blnQuiet)) Build(request, blnQuiet);
   });
-  if (!ended) status_.Say("");
   window_.host.DoEvents();
 }
 

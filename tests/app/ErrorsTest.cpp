@@ -1,5 +1,6 @@
 // Errors that nothing else ends, and what the error log keeps: the program stays.
 
+#include "scatter/frmScatterGraph.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
@@ -57,6 +58,18 @@ TEST_F(Errors, ShortMemoryIsToldAndEndsNothing) {
   EXPECT_TRUE(Main().LoadDataFile("/logs/run.txt", 1));
   Click(Main().cmdDrawGraph);
   EXPECT_TRUE(Main().chSampleGraph.Visible());
+}
+
+TEST_F(Errors, ADrawThatFailsLeavesNoWordOfItsWork) {
+  Click(Main().mnuModulesScatterGraph);
+  auto& scatter = dynamic_cast<frmScatterGraph&>(*desk.Front());
+  scatter.cboYAxis.Do({"choose", {"#2"}});
+  desk.full = true;
+  Click(scatter.cmdDrawGraph);
+  Click(Main().cmdDrawGraph);
+  EXPECT_EQ(scatter.staScatterGraph.Panel(1) + Main().staDataLogViewer.Panel(1), "");
+  EXPECT_FALSE(scatter.prgProgInd.Visible());
+  EXPECT_TRUE(Logged("DrawScatter\r\nNumber       : 7 Out of memory"));
 }
 
 TEST_F(Errors, WhatFailsIsInTheErrorLog) {
