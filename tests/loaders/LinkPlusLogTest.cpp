@@ -117,6 +117,8 @@ TEST(LinkPlusLog, StopsAt300000Samples) {
   const LoadedSampleLog loaded(LoadLinkPlusLog, Repeated("Count\tRPM\n", "1\t2", 300001));
   EXPECT_EQ(loaded.log.glngDataLog.Rows(), 300000);
   EXPECT_EQ(loaded.outcome.messages, std::vector<int>{51});
+  const LoadedSampleLog whole(LoadLinkPlusLog, Repeated("Count\tRPM\n", "1\t2", 300000));
+  EXPECT_EQ(whole.outcome.messages, std::vector<int>{}) << "every line was taken";
 }
 
 }  // namespace
