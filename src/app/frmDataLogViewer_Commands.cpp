@@ -4,12 +4,6 @@
 #include "app/frmDataLogViewer.h"
 
 namespace tarnview {
-namespace {
-
-/// Nothing runs it yet.
-const std::function<void()> kNotYet;
-
-}  // namespace
 
 std::vector<Command> frmDataLogViewer::FileCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
@@ -20,7 +14,8 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
       {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
-      {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", kNotYet, loaded},
+      // The log as its logger wrote it, in the program that the desktop has for such files.
+      {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", [this] { services_.programs.ShellOpen(log_.gstrCurrentFile); }, loaded},
       {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
        "mnuHelpAbout_Click",

@@ -1,4 +1,5 @@
-// The menus of the windows: no two entries of one menu answer to the same letter.
+// The menus of the windows: no two entries of one menu answer to the same letter, and what is left
+// to the desktop.
 
 #include <set>
 
@@ -37,6 +38,15 @@ TEST_F(Menus, EachEntryHasALetterOfItsOwn) {
   Main().mnuModulesScatterGraph.Click();
   for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuRightClick"})
     ExpectOwnLetters(*host.Front(), menu);
+}
+
+TEST_F(Menus, DataLogViewOpensTheLogItself) {
+  files.files["/logs/run.txt"] = SmallLog(20);
+  Start();
+  EXPECT_FALSE(Main().mnuToolsDataLogView.Enabled());
+  Main().LoadDataFile("/logs/run.txt", 0);
+  Main().mnuToolsDataLogView.Click();
+  EXPECT_EQ(processes.opened, std::vector<std::string>{"/logs/run.txt"});
 }
 
 }  // namespace
