@@ -205,7 +205,7 @@ TEST_F(Roads, FilesOfTheUsersOwnAreTextAsAnyEditorLeavesIt) {
                      {"/run.csv", "Clock;Widget\n0;900\n1;950\n2;990\n3;999\n"}};
       Start();
       program->Global().dataFolder = "/data/";
-      EXPECT_TRUE(Main().OpenByContent("/run.csv"));
+      EXPECT_TRUE(Main().Files().OpenByContent("/run.csv"));
       EXPECT_EQ(program->Global().takenAs, taken) << saved;
       EXPECT_EQ(Log().FormatDataItem(3, 3), "999") << saved;
     }

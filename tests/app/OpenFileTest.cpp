@@ -77,10 +77,10 @@ TEST_F(OpenFile, AMarkInFrontAndLinesThatEndInCRAreNoFault) {
   for (const char* path : {"/logs/mark.txt", "/logs/cr.txt"})
     for (const int type : {kFMLinkLog, kUnknownFile}) {
       host.messages.clear();
-      EXPECT_TRUE(Main().OpenFile(path, type)) << path;
+      EXPECT_TRUE(Main().Files().OpenFile(path, type)) << path;
       EXPECT_EQ(Log().glngDataLog.Rows(), 5) << path;
       EXPECT_EQ(MessageIds(), (Ids{16})) << path;  // and no question what it is
-      EXPECT_TRUE(Main().OpenByContent(path)) << path;
+      EXPECT_TRUE(Main().Files().OpenByContent(path)) << path;
       EXPECT_EQ(Log().gintCurrentFileType, kFMLinkLog) << path;
     }
 }
