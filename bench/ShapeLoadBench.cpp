@@ -7,6 +7,7 @@
 
 #include "LogBench.h"
 #include "SyntheticUniversalLog.h"
+#include "model/Catalogue.h"
 #include "universal/BuiltInTitles.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/LogShape.h"

@@ -7,6 +7,7 @@
 #include "LogBench.h"
 #include "SyntheticUniversalLog.h"
 #include "base/FileSystem.h"
+#include "model/Catalogue.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/UniversalDataItems.h"
 #include "universal/UniversalLog.h"

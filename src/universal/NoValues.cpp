@@ -4,6 +4,7 @@
 #include <bit>
 
 #include "base/Text.h"
+#include "fields/WideSteps.h"
 
 namespace tarnview {
 namespace {
@@ -21,6 +22,21 @@ bool IsLeastNumber(std::string_view field) {
   return field.size() == 11 && field.starts_with("-21474836");
 }
 
+/// The last character of a field stands in its key's highest byte.
+bool EndsInDigit(FieldKey key) {
+  const auto last = static_cast<unsigned char>(key >> 56);
+  return static_cast<unsigned char>(last - '0') <= 9;
+}
+
+TARNVIEW_WIDE_STEPS bool AllEndInDigits(const FieldKey* keys, std::size_t lines) {
+  std::uint64_t others = 0;
+  for (std::size_t line = 0; line < lines; ++line) {
+    const std::uint64_t last = (keys[line] >> 56) - '0';  // far beyond 9 below "0"
+    others |= std::uint64_t{last > 9};
+  }
+  return others == 0;
+}
+
 std::uint64_t BitsOf(std::size_t lines) {
   return lines == 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << lines) - 1;
 }
@@ -34,6 +50,8 @@ NoValues::NoValues(std::string_view texts) {
       if (key && std::find(keys_.begin(), keys_.end(), *key) == keys_.end()) keys_.push_back(*key);
     }
     longs_.push_back(text);
+    anyEndsInDigit_ =
+        anyEndsInDigit_ || (!text.empty() && text.back() >= '0' && text.back() <= '9');
   }
   for (const char* blanks : {" ", "  "})
     if (const auto key = KeyOf(blanks)) keys_.push_back(*key);
@@ -49,20 +67,30 @@ bool NoValues::IsLongNoValue(std::string_view field) const {
 std::uint64_t NoValues::In(FieldIndex& block, std::size_t field) const {
   const FieldKey* const keys = block.Keys(field);
   const std::size_t lines = block.Lines();
-  std::uint64_t gaps = 0, others = 0;
+  if (!anyEndsInDigit_ && AllEndInDigits(keys, lines)) return 0;
+  std::uint64_t gaps = 0;
+  FieldKey last = kEmptyField;  // fields of texts are often like the one above
+  bool lastIsNone = true;
   for (std::size_t line = 0; line < lines; ++line) {
-    const std::uint64_t bit = std::uint64_t{1} << line;
-    gaps |= keys[line] == kEmptyField || keys[line] == kNoField ? bit : 0;
-    others |= keys[line] == kOtherField ? bit : 0;
-  }
-  for (const FieldKey key : keys_)
-    for (std::size_t line = 0; line < lines; ++line)
-      gaps |= std::uint64_t{keys[line] == key} << line;
-  for (; others; others &= others - 1) {
-    const auto line = static_cast<std::size_t>(std::countr_zero(others));
-    if (IsLongNoValue(block.Field(line, field))) gaps |= others & (~others + 1);
+    const FieldKey key = keys[line];
+    bool none = lastIsNone;
+    if (key == kOtherField)
+      none = IsLongNoValue(block.Field(line, field));
+    else if (key != last)
+      none = key == kEmptyField || key == kNoField || Knows(key);
+    if (key != kOtherField) {
+      last = key;
+      lastIsNone = none;
+    }
+    gaps |= std::uint64_t{none} << line;
   }
   return gaps;
+}
+
+/// Numbers end in a digit, which no text for no value does unless a definition says so.
+bool NoValues::Knows(FieldKey key) const {
+  const bool digit = EndsInDigit(key);
+  return (!digit || anyEndsInDigit_) && std::find(keys_.begin(), keys_.end(), key) != keys_.end();
 }
 
 void NoValues::Write(SampleStore& store, int column, int first, std::size_t lines,

@@ -30,9 +30,11 @@ class NoValues {
 
  private:
   bool IsLongNoValue(std::string_view field) const;
+  bool Knows(FieldKey key) const;
 
   std::vector<FieldKey> keys_;      ///< of the short texts, with a blank in front as well
   std::vector<std::string> longs_;  ///< the others
+  bool anyEndsInDigit_ = false;     ///< of these texts
   std::unordered_map<int, std::int32_t> last_;  ///< by column
 };
 

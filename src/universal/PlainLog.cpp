@@ -50,25 +50,30 @@ class QuoteTaker {
   }
 
  private:
+  /// Fields are short: they are copied and looked at in one loop.
   void TakeQuote(std::size_t at) {
-    if (quoted_ && std::memchr(text_.data() + from_, '\n', at - from_))
-      quoted_ = false;  // none was closed on its line
-    if (quoted_)
+    bool delimited = false, lineEnds = false;
+    char* to = to_;
+    for (std::size_t next = from_; next < at; ++next) {
+      const char c = text_[next];
+      delimited |= (c == ',') | (c == delimiter_);
+      lineEnds |= c == '\n';
+      *to++ = c;
+    }
+    if (lineEnds) quoted_ = false;  // none was closed on its line
+    if (quoted_ && delimited)
       CopyQuoted(at);
     else
-      Copy(at);
+      to_ = to;
     from_ = at + 1;
     quoted_ = !quoted_;
   }
 
   void Copy(std::size_t end) { to_ = std::copy(text_.data() + from_, text_.data() + end, to_); }
 
-  /// Most quoted fields hold no delimiter.
+  /// A field with a delimiter in it.
   void CopyQuoted(std::size_t end) {
     const std::string_view field = text_.substr(from_, end - from_);
-    if (field.find_first_of(std::string_view(",")) == std::string_view::npos &&
-        field.find(delimiter_) == std::string_view::npos)
-      return Copy(end);
     const auto rest = std::min(field.find_first_not_of("0123456789,.-+ "), field.size());
     const bool number = rest == field.size() || (rest > 0 && IsUnit(field.substr(rest)));
     for (const char c : field) {
@@ -232,7 +237,8 @@ std::string_view PlainLog(std::string_view bytes, const clsDataLog& definition,
   if (definition.blnQuoted)
     rewrite([&](std::string& out) { QuoteTaker(text, delimiter, decimalComma, out).Run(); });
   if (decimalComma && delimiter != ',') {
-    rewrite([&](std::string& out) { DropGroups(text, out); });
+    if (text.find('.') != std::string_view::npos)
+      rewrite([&](std::string& out) { DropGroups(text, out); });
     rewrite([&](std::string& out) {
       out.resize(text.size());
       PointForComma(text.data(), out.data(), text.size());

@@ -89,10 +89,14 @@ bool Simplify(std::string_view text, char decimalSign, std::string& simple) {
   return text.find(groupSign, point) == std::string_view::npos;
 }
 
+constexpr bool IsOfNumber(char c) {
+  return IsDigit(c) || c == '.' || c == ',' || c == '+' || c == '-';
+}
+
 /// Where a number may end: at the first sign that stands in none. "E" counts where digits follow.
 std::size_t EndOfNumber(std::string_view text) {
   for (std::size_t at = 0;;) {
-    at = std::min(text.find_first_not_of("0123456789.,+-", at), text.size());
+    while (at < text.size() && IsOfNumber(text[at])) ++at;
     const bool exponent = at > 0 && at + 1 < text.size() && (text[at] == 'e' || text[at] == 'E') &&
                           std::string_view("0123456789+-").find(text[at + 1]) != text.npos;
     if (!exponent) return at;
@@ -153,6 +157,7 @@ std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSi
 }
 
 bool IsNoValue(std::string_view text) {
+  if (text.empty() || IsDigit(text[0])) return false;  // as nearly all fields of a log
   if (text.size() == 11 && text.starts_with("-21474836"))
     return true;  // just above the least of 32 bits
   if (text.size() <= 8 && text.find_first_of("-?") != text.npos &&
