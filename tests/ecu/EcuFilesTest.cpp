@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "ecu/EcuFiles.h"
 #include "ecu/ExitCodes.h"
 #include "support/MemoryFileSystem.h"
@@ -42,6 +44,18 @@ TEST(ExitCodes, HaveTheirTexts) {
       {-119, "Unknown Error, -119"},
   };
   for (const auto& [code, text] : kRows) EXPECT_EQ(ExitCodeText(code), text);
+  // Each code has a text of its own, but for those that the programs leave out.
+  std::string unknown;
+  std::set<std::string> texts;
+  for (int code = -40; code <= 0; ++code) {
+    const std::string text = ExitCodeText(code);
+    if (text.starts_with("Unknown Error"))
+      unknown += std::to_string(code) + " ";
+    else
+      texts.insert(text.substr(0, text.rfind(',')));
+  }
+  EXPECT_EQ(unknown, "-40 -38 -6 -5 -4 ");
+  EXPECT_EQ(texts.size(), 36u);
 }
 
 }  // namespace

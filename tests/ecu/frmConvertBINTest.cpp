@@ -62,6 +62,21 @@ TEST_F(ConvertBIN, RefusesAPathThatIsNoneAndKeepsItsText) {
   }
 }
 
+TEST_F(ConvertBIN, StopsNobodyOnTheWayToItsOwnBrowseOrToCancel) {
+  frmConvertBIN window(world, "");
+  window.Show();
+  const std::pair<Control*, const char*> kWays[] = {{&window.cmdCancel, ""},
+                                                    {&window.cmdBrowse(0), ""},
+                                                    {&window.cmdBrowse(1), "box 36 [48]\n"},
+                                                    {&window.chkAutoLoad, "box 36 [48]\n"}};
+  for (const auto& [to, told] : kWays) {
+    window.SetFocus(&window.txtPath(0));
+    window.txtPath(0).Text = std::string("/nowhere/a.bin");
+    window.SetFocus(to);
+    EXPECT_EQ(Told(), told) << to->FullName();
+  }
+}
+
 TEST_F(ConvertBIN, ConvertsAndRemembersTheSource) {
   frmConvertBIN window(world, "");
   files.files["/mdos/miata.map"] = "left over";
