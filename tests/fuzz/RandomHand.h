@@ -149,7 +149,7 @@ class RandomHand {
     static const char* const kTexts[] = {"",       "0",           "1",   "-1",  "2.5",
                                          "100",    "99999999999", "abc", "1e9", "300000",
                                          "a\"b\\", "%s%n",        "&",   "=[x]"};
-    const QString text = OneIn(20) ? QString(3000, 'x') : QString(AnyOf(kTexts));
+    const QString text = OneIn(20) ? QString(300, 'x') : QString(AnyOf(kTexts));
     const QString name = NameOf(box);
     box.setFocus();
     box.selectAll();

@@ -42,6 +42,22 @@ TEST(WindowPlacementTest, AWindowOnAScreenThatIsGoneComesBack) {
     EXPECT_EQ(FitOnScreens(row.wanted, row.screens), row.placed) << row.what;
 }
 
+TEST(WindowPlacementTest, AWindowBesideItsOwnerLeavesTheGraphFree) {
+  const QRect screen(0, 0, 1366, 740);
+  const struct {
+    const char* what;
+    QRect owner;
+    QPoint placed;
+  } rows[] = {
+      {"right of it", {0, 40, 900, 600}, {915, 40}},
+      {"left of it", {400, 40, 900, 600}, {21, 40}},
+      {"no room: over its lists", {2, 40, 1093, 614}, {2, 440}},
+      {"over all of the screen", {0, 0, 1366, 740}, {0, 526}},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(Beside(row.owner, {364, 214}, screen).topLeft(), row.placed) << row.what;
+}
+
 TEST(WindowPlacementTest, AWindowTakesItsPlaceAndKeepsItUpToDate) {
   TestApplication();
   QtHost host;

@@ -71,6 +71,9 @@ QWidget& MakeWindowOf(const Form& form, QWidget* parent) {
   LetScrollIn(*window);
   HoldWidths(*window);
   GiveWayIn(*window);
+  if (parent && window->property("besideOwner").toBool())
+    window->setGeometry(Beside(parent->geometry(), window->sizeHint().expandedTo(window->size()),
+                               parent->screen()->availableGeometry()));
   TakePlacement(form, *window);
   TakeDividers(form, *window);
   return *window;

@@ -52,6 +52,14 @@ QRect FitOnScreens(const QRect& wanted, const QList<QRect>& screens) {
   return placed;
 }
 
+QRect Beside(const QRect& owner, const QSize& size, const QRect& screen) {
+  constexpr int kFrame = 16;  // of both windows' borders together
+  QRect placed(QPoint(owner.right() + kFrame, owner.top()), size);
+  if (placed.right() + kFrame > screen.right()) placed.moveRight(owner.left() - kFrame);
+  if (placed.left() - kFrame < screen.left()) placed.moveBottomLeft(owner.bottomLeft());
+  return FitOnScreens(placed, {screen});
+}
+
 void TakePlacement(const Form& form, QWidget& window) {
   if (form.Width <= 0) return;
   QList<QRect> screens;

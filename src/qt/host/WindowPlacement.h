@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QRect>
+#include <QSize>
 
 class QWidget;
 
@@ -23,5 +24,9 @@ void NoteDividers(const QWidget& window, Form& form);
 /// a screen and it is no larger than the desktop, else moved onto the nearest of the screens and
 /// made no larger than that.
 QRect FitOnScreens(const QRect& wanted, const QList<QRect>& screens);
+
+/// Where a window of that size stands beside its owner: right or left of it, where the screen has
+/// room, else at its foot on the left, over its lists rather than its graph.
+QRect Beside(const QRect& owner, const QSize& size, const QRect& screen);
 
 }  // namespace tarnview
