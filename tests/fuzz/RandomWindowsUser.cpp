@@ -164,9 +164,11 @@ class User {
       if (!window && one->objectName() == "frmDataLogViewer") window = one;
     if (!window) return QApplication::quit();
     Tell("leave " + window->objectName());
-    const QPointer<QWidget> there = window;
-    window->close();
-    if (there && there->isVisible() && there->isModal()) hand_.Work(*there);
+    // A question that is only closed keeps the main window.
+    if (window->isModal() && hand_.OneIn(2))
+      hand_.Work(*window);
+    else
+      window->close();
   }
 
   const Options options_;
