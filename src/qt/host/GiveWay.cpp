@@ -89,10 +89,30 @@ void GiveWayIn(QWidget& window) {
     if (column->dynamicPropertyNames().contains(kProperty)) new GiveWay(*column);
 }
 
+namespace {
+
+/// Scrolls up and down alone, so it is never narrower than what is in it and the bar beside that,
+/// also when its texts and lists have grown.
+class UprightScroll : public QScrollArea {
+ public:
+  void KeepWide() {
+    const int bar = verticalScrollBar()->sizeHint().width();
+    setMinimumWidth(widget()->minimumSizeHint().width() + bar);
+  }
+
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    const bool taken = QScrollArea::eventFilter(receiver, event);
+    if (receiver == widget() && event->type() == QEvent::LayoutRequest) KeepWide();
+    return taken;
+  }
+};
+
+}  // namespace
+
 void LetScrollIn(QWidget& window) {
   for (QWidget* part : window.findChildren<QWidget*>()) {
     if (!part->property("scrolls").toBool()) continue;
-    auto* area = new QScrollArea;
+    auto* area = new UprightScroll;
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
@@ -102,9 +122,8 @@ void LetScrollIn(QWidget& window) {
       splitter->replaceWidget(splitter->indexOf(part), area);
     else if (QLayout* layout = part->parentWidget()->layout())
       delete layout->replaceWidget(part, area);
-    const int bar = area->verticalScrollBar()->sizeHint().width();
-    area->setMinimumWidth(part->minimumSizeHint().width() + bar);
     area->setWidget(part);
+    area->KeepWide();
     part->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false);
   }
