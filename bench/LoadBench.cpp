@@ -28,7 +28,7 @@ void FirstGraph(benchmark::State& state, const LogFile& file) {
   frmDataLogViewer& window = program.MainWindow();
   if (!window.LoadDataFile(file.Path(), kFMLinkLog)) return state.SkipWithError("not loaded");
   for (auto _ : state) {
-    window.Plot().blnForceRedraw = true;
+    window.ForceRedraw();
     window.DrawGraph();
   }
 }

@@ -29,7 +29,7 @@ class Window {
 
   void FirstDraw() {
     Main().cmdZoomFull.Press();
-    Main().Plot().blnForceRedraw = true;
+    Main().ForceRedraw();
     Main().DrawGraph();
     Settle();
   }
