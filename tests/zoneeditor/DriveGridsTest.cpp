@@ -1,19 +1,14 @@
 #include <gtest/gtest.h>
 
-#include "base/Clock.h"
-#include "model/Catalogue.h"
 #include "model/Column.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
-#include "zoneeditor/frmZoneData.h"
+#include "zoneeditor/EditorWorld.h"
 
 namespace tarnview {
 namespace {
 
 /// An editor on a drive of which the plot range is the first 60 samples: 20 at 1000 RPM, 40 at
 /// 2000, and then 30 at 3000.
-class DriveGridsTest : public testing::Test, protected DriveGrids::Drive {
+class DriveGridsTest : public testing::Test, protected EditorWorld, protected DriveGrids::Drive {
  protected:
   DriveGridsTest() {
     log.Clear(catalogue.gcolFixedDataItems, 100);
@@ -27,15 +22,9 @@ class DriveGridsTest : public testing::Test, protected DriveGrids::Drive {
     parameters.map.zones[5] = 2;
     parameters.map.chip = {1.8, MakeDate(2005, 2, 10), 3};
     parameters.comparison = ComparisonZones{};
-    window.emplace(host, Around(this), parameters);
-    window->Show();
+    Open(parameters, this);
   }
-  frmZoneData::Surroundings Around(DriveGrids::Drive* drive) {
-    frmZoneData::Surroundings around{
-        settings, benchmarks, tables, catalogue.gcolFixedDataItems.Item(39), errors, messages};
-    around.drive = drive;
-    return around;
-  }
+  ~DriveGridsTest() override { window.reset(); }  // it looks at the drive to its end
   void Add(int count, int RPM, int airFuel, int knock) {
     for (int i = 0; i < count; ++i) {
       const int row = log.glngDataLog.AddRow();
@@ -64,18 +53,8 @@ class DriveGridsTest : public testing::Test, protected DriveGrids::Drive {
     return row;
   }
 
-  Settings settings;
-  clsBenchmarks benchmarks;
-  ConversionTables tables{DefaultO2Table(), DefaultAuxTable(), false, false};
-  Catalogue catalogue = BuildDataItemCatalogue();
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, "error.log"};
-  Messages messages{host, [](int) { return std::string(); }};
   OpenLog log;
   int current = -1;
-  std::optional<frmZoneData> window;
 };
 
 TEST_F(DriveGridsTest, ShowsWhatIsAskedForOfTheRangeOrTheLog) {
@@ -165,8 +144,7 @@ TEST_F(DriveGridsTest, AProposalIsAppliedAsOneStep) {
 TEST_F(DriveGridsTest, WithoutSamplesThereIsNothingToAskFor) {
   ZoneEditorParameters parameters;
   parameters.map.zones.fill(100);
-  window.emplace(host, Around(nullptr), parameters);
-  window->Show();
+  Open(parameters);
   for (const char* control : {"lblShowOnGrid", "cboShowOnGrid", "chkWholeLog", "cmdNextInCell",
                               "cmdPropose", "cmdApplyProposal"})
     EXPECT_FALSE(window->Find(control)->Enabled) << control;

@@ -1,16 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "base/Clock.h"
-#include "model/Catalogue.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "zoneeditor/EditorWorld.h"
 #include "zoneeditor/RandomHand.h"
 #include "zoneeditor/frmBenchmarkDetails.h"
 #include "zoneeditor/frmCopyBench.h"
 #include "zoneeditor/frmLoadBenchmark.h"
 #include "zoneeditor/frmOffset.h"
-#include "zoneeditor/frmZoneData.h"
 #include "zones/ZoneNames.h"
 
 namespace tarnview {
@@ -29,7 +24,7 @@ ZoneMap MapWith(int zones, int flags) {
   return map;
 }
 
-class frmZoneDataTest : public ::testing::Test {
+class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
  protected:
   frmZoneDataTest() {
     for (const char* name : {"Street", "Track"}) {
@@ -41,20 +36,12 @@ class frmZoneDataTest : public ::testing::Test {
     }
     settings.gstrDefaultBenchmark = "Track";
   }
-  frmZoneData& Open(ZoneEditorParameters parameters) {
-    window = std::make_unique<frmZoneData>(host, Around(), std::move(parameters));
-    window->Show();
-    return *window;
-  }
   frmZoneData& OpenMap(int flags = 2) {
     ZoneEditorParameters parameters;
     parameters.map = MapWith(100, flags);
     parameters.fileName = "a.map";
     parameters.mayUpload = true;
     return Open(parameters);
-  }
-  frmZoneData::Surroundings Around() {
-    return {settings, benchmarks, tables, catalogue.gcolFixedDataItems.Item(39), errors, messages};
   }
   void Do(const char* control, int index, const Action& action) {
     window->Find(control, index)->Do(action);
@@ -77,17 +64,6 @@ class frmZoneDataTest : public ::testing::Test {
     host.messages.clear();
     return texts;
   }
-
-  Settings settings;
-  clsBenchmarks benchmarks;
-  ConversionTables tables{DefaultO2Table(), DefaultAuxTable(), false, false};
-  Catalogue catalogue = BuildDataItemCatalogue();
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, "error.log"};
-  Messages messages{host, [](int) { return std::string("FM Link MAP Files"); }};
-  std::unique_ptr<frmZoneData> window;
 };
 
 TEST_F(frmZoneDataTest, OpensWithoutAChange) {
