@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "model/Column.h"
 #include "model/IniKeys.h"
 #include "presets/PresetRecords.h"
@@ -27,7 +28,7 @@ clsSampleGraphPreset SeriesPreset(std::string_view value) {
   clsSampleGraphPreset preset;
   const auto comma = value.find(',');
   const std::int32_t mask = StringToLong(value.substr(0, comma));
-  if (comma != std::string_view::npos) preset.strName = value.substr(comma + 1);
+  if (comma != std::string_view::npos) preset.strName = Trim(value.substr(comma + 1));
   for (std::size_t bit = kBitItems.size(); bit-- > 0;)
     if (mask > 0 && (mask >> bit & 1) != 0) preset.colDataItems.push_back(ItemOf(kBitItems[bit]));
   preset.lngGraphMax = kGraphMax;

@@ -93,7 +93,7 @@ TEST(PresetSettings, ANamelessPresetDoesNotCutOffThoseBehindIt) {
 
 TEST(OldPresetSettings, ASeriesIsAMaskOfItems) {
   const ReadBack read(
-      "[Preset Graph Series]\nGraph Series 1=4095,All, of them\nGraph Series 2=144,RPM and "
+      "[Preset Graph Series]\nGraph Series 1=4095, All, of them\nGraph Series 2=144,RPM and "
       "Knock\nGraph Series "
       "3=x,None\n"
       "Graph Series 5=1,Behind a gap\n[New Preset Sample Graphs]\nGraph 1 Name=New\n");
