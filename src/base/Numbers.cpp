@@ -150,15 +150,7 @@ std::string FixedText(double value, int places) {
   }
   const auto whole = static_cast<std::int64_t>(scaled);
   char* const end = buffer + 40;
-  char* at = end;
-  auto rest = static_cast<std::uint64_t>(whole < 0 ? -whole : whole);
-  for (int written = 0; rest != 0 || written <= places; ++written) {
-    if (written == places && places > 0) *--at = '.';
-    *--at = static_cast<char>('0' + rest % 10);
-    rest /= 10;
-  }
-  if (whole < 0) *--at = '-';
-  return {at, end};
+  return {PutBefore(end, whole, places), end};
 }
 
 std::string PaddedText(std::int64_t value, int digits) {

@@ -54,6 +54,18 @@ double RoundPlaces(double value, int places);
 std::string NumberText(double value);
 /// Rounded half to even on the scaled value, always with `places` decimals: "14.70".
 std::string FixedText(double value, int places);
+/// Writes a number of `places` decimals, told as a whole one of the last of them, in front of
+/// `end`; up to 39 bytes. Answers where it begins.
+inline char* PutBefore(char* end, std::int64_t whole, int places) {
+  auto rest = static_cast<std::uint64_t>(whole < 0 ? -whole : whole);
+  for (int written = 0; rest != 0 || written <= places; ++written) {
+    if (written == places && places > 0) *--end = '.';
+    *--end = static_cast<char>('0' + rest % 10);
+    rest /= 10;
+  }
+  if (whole < 0) *--end = '-';
+  return end;
+}
 /// At least `digits` digits with zeros in front, as the format "00": 5 gives "05".
 std::string PaddedText(std::int64_t value, int digits);
 

@@ -81,15 +81,7 @@ void CellTexts::Format(Cell& cell) const {
 std::size_t CellTexts::PutNumber(std::int64_t whole, int places, char* text) {
   char buffer[kLongest];
   char* const end = buffer + kLongest;
-  char* at = end;
-  auto rest = static_cast<std::uint64_t>(whole < 0 ? -whole : whole);
-  for (int written = 0; rest != 0 || written <= places; ++written) {
-    if (written == places && places > 0) *--at = '.';
-    *--at = static_cast<char>('0' + rest % 10);
-    rest /= 10;
-  }
-  if (whole < 0) *--at = '-';
-  return static_cast<std::size_t>(std::copy(at, end, text) - text);
+  return static_cast<std::size_t>(std::copy(PutBefore(end, whole, places), end, text) - text);
 }
 
 }  // namespace tarnview
