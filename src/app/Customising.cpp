@@ -10,6 +10,15 @@
 
 namespace tarnview {
 
+OptionsDraft DraftOf(const Globals& globals) {
+  const Catalogue& catalogue = globals.catalogue;
+  return {globals.settings,
+          globals.gclsDataLogDefinition,
+          {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
+           catalogue.gcolUniversalDataItems.Duplicate()},
+          globals.kinds};
+}
+
 std::vector<Command> Customising::Rows() {
   const auto keep = [this](KeptList list) { return [this, list] { MaintainList(list); }; };
   return {
@@ -24,15 +33,8 @@ std::vector<Command> Customising::Rows() {
 }
 
 void Customising::mnuCustomiseOptions_Click() {
-  const Catalogue& catalogue = globals_.catalogue;
-  OptionsDraft draft{
-      globals_.settings,
-      globals_.gclsDataLogDefinition,
-      {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
-       catalogue.gcolUniversalDataItems.Duplicate()},
-      globals_.kinds};
   frmOptions window(services_.host, {services_.files, services_.errors, services_.messages},
-                    std::move(draft), globals_.UsualFileType());
+                    DraftOf(globals_), globals_.UsualFileType());
   window.ShowModal();
   if (window.Accepted()) TakeOptions(window);
 }

@@ -13,6 +13,9 @@
 
 namespace tarnview {
 
+/// What the Options begin with: what is kept now.
+OptionsDraft DraftOf(const Globals& globals);
+
 /// What the user makes the program his own with: the Options, and the lists of presets, cars and
 /// benchmarks.
 class Customising {

@@ -5,15 +5,21 @@
 #include "ecu/frmConvertBIN.h"
 
 namespace tarnview {
+namespace {
+
+EcuWorld WorldOf(Settings& settings, Services& services) {
+  return {services.host,  settings,          services.files,
+          services.clock, services.programs, services.messages};
+}
+
+}  // namespace
 
 EcuCommands::EcuCommands(MainWindowControls& controls, Globals& globals, Services& services,
                          LogFiles& logFiles)
-    : controls_(controls), globals_(globals), logFiles_(logFiles), world_{services.host,
-                                                                          globals.settings,
-                                                                          services.files,
-                                                                          services.clock,
-                                                                          services.programs,
-                                                                          services.messages} {}
+    : controls_(controls),
+      globals_(globals),
+      logFiles_(logFiles),
+      world_(WorldOf(globals.settings, services)) {}
 
 std::vector<Command> EcuCommands::Rows() {
   return {

@@ -201,15 +201,8 @@ void AllWindows::MakeEcuWindows(bool filled) {
 }
 
 void AllWindows::MakeOptions(bool filled) {
-  const Globals& globals = program_.Global();
-  const Catalogue& catalogue = globals.catalogue;
   for (int page = 1; page <= (filled ? 4 : 1); ++page) {
-    OptionsDraft draft{
-        globals.settings,
-        globals.gclsDataLogDefinition,
-        {catalogue.gcolFixedDataItems.Duplicate(), catalogue.gcolDefaultDataItems.Duplicate(),
-         catalogue.gcolUniversalDataItems.Duplicate()},
-        globals.kinds};
+    OptionsDraft draft = DraftOf(program_.Global());
     draft.settings.gblnSAECorrection = filled;
     options_.push_back(std::make_unique<frmOptions>(
         program_.MainWindow().host, frmOptions::Surroundings{files_, errors_, messages_},

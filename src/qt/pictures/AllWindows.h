@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Customising.h"
 #include "app/Program.h"
 #include "app/frmAbout.h"
 #include "app/frmFindINIFile.h"
