@@ -3,20 +3,18 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTimer>
-#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "qt/chart/ChartWidget.h"
+#include "qt/chart/Wheel.h"
 
 namespace tarnview {
 namespace {
 
 /// Pixels: a hand that clicks moves less.
 constexpr double kLeastDrag = 5;
-/// What a wheel tells for a notch, in eighths of a degree.
-constexpr double kNotch = 120;
 /// A touchpad tells small parts of a notch; they wait until they are worth a draw.
 constexpr double kLeastTurn = 0.25;
 
@@ -68,9 +66,7 @@ bool ChartGestures::OnPlot(QPointF at) const {
 }
 
 bool ChartGestures::eventFilter(QObject* receiver, QEvent* event) {
-  // While the chart ends, its base still sends events, and what is this class's own is gone.
-  const bool ends = qobject_cast<ChartWidget*>(receiver) == nullptr;
-  if (ends || chart_.ShowsSurface()) return false;
+  if (!ChartWidget::IsWhole(receiver) || chart_.ShowsSurface()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       return Press(static_cast<QMouseEvent&>(*event));
@@ -152,7 +148,7 @@ bool ChartGestures::Release(const QMouseEvent& event) {
 }
 
 bool ChartGestures::Turn(const QWheelEvent& event) {
-  notches_ += event.angleDelta().y() / kNotch;
+  notches_ += Notches(event);
   turnedAt_ = event.position().x();
   if (drag_ == Drag::None && std::abs(notches_) >= kLeastTurn) Later();
   return true;

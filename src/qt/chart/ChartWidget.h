@@ -27,6 +27,10 @@ class ChartWidget : public QCustomPlot {
   /// Marks a point with a ring and a line through all curves; a place or point that is not there
   /// takes the mark away.
   void Select(int place, int point);
+  /// False while it ends: its base still sends events, and what is this class's own is gone.
+  static bool IsWhole(const QObject* receiver) {
+    return qobject_cast<const ChartWidget*>(receiver) != nullptr;
+  }
   bool ShowsSurface() const { return surface_ != nullptr; }
   /// Labels where the pointer's line meets the curves; shown with the next RedrawMarks.
   void ShowLabels(std::vector<ChartMark> labels) { pointed_->SetMarks(std::move(labels)); }

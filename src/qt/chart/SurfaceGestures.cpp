@@ -3,11 +3,11 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTimer>
-#include <QWheelEvent>
 #include <cmath>
 #include <utility>
 
 #include "qt/chart/ChartWidget.h"
+#include "qt/chart/Wheel.h"
 
 namespace tarnview {
 namespace {
@@ -16,8 +16,6 @@ namespace {
 constexpr double kLeastDrag = 4;
 /// A drag across a window of usual size is half a turn.
 constexpr double kDegreesOfAPixel = 0.3;
-/// What a wheel tells for a notch, in eighths of a degree.
-constexpr double kNotch = 120;
 
 }  // namespace
 
@@ -26,9 +24,7 @@ SurfaceGestures::SurfaceGestures(ChartWidget& chart) : QObject(&chart), chart_(c
 }
 
 bool SurfaceGestures::eventFilter(QObject* receiver, QEvent* event) {
-  // While the chart ends, its base still sends events, and what is this class's own is gone.
-  const bool ends = qobject_cast<ChartWidget*>(receiver) == nullptr;
-  if (ends || !chart_.ShowsSurface()) return false;
+  if (!ChartWidget::IsWhole(receiver) || !chart_.ShowsSurface()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       return Press(static_cast<QMouseEvent&>(*event));
@@ -75,7 +71,7 @@ bool SurfaceGestures::Release(const QMouseEvent& event) {
 }
 
 bool SurfaceGestures::Wheel(const QWheelEvent& event) {
-  waitingNotches_ += event.angleDelta().y() / kNotch;
+  waitingNotches_ += Notches(event);
   Later();
   return true;
 }
