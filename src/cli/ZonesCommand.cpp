@@ -135,6 +135,12 @@ struct ShowName {
 constexpr ShowName kShows[] = {
     {"visits", GridShow::Visits}, {"error", GridShow::Error}, {"knock", GridShow::Knock}};
 
+std::vector<std::string> ShowNames() {
+  std::vector<std::string> names;
+  for (const ShowName& row : kShows) names.emplace_back(row.name);
+  return names;
+}
+
 Json GridJson(const OpenLog& log, const LogOnMap& drive, GridShow show) {
   Json rows = Json::array(), columns = Json::array(), count = Json::array(), value = Json::array();
   for (int column = 1; column <= kGridColumns; ++column)
@@ -208,7 +214,7 @@ void AddZonesCommand(CLI::App& program, int& status) {
       ->add_option("--grid", options->grid,
                    "What the drive says of each cell: visits, error (air/fuel, per cent off its "
                    "target) or knock")
-      ->check(CLI::IsMember({"visits", "error", "knock"}));
+      ->check(CLI::IsMember(ShowNames()));
   command->callback([options, &status] { status = Zones(*options); });
 }
 
