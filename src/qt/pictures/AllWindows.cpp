@@ -63,7 +63,8 @@ AllWindows::AllWindows(Host& host, const std::string& log, const std::string& se
   MakeEcuWindows(!log.empty());
   MakeOptions(!log.empty());
   MakeGridGraphs();
-  MakeZoneWindows();
+  MakeZoneEditors();
+  MakeZoneDialogs();
   for (Form* form : Forms())
     if (!form->IsShown()) form->Show();
 }
@@ -241,16 +242,23 @@ void AllWindows::MakeGridGraphs() {
   }
 }
 
-/// The editor as it opens, once for each tab, with a log also edited; and its dialogs.
-void AllWindows::MakeZoneWindows() {
+/// The zones of the open log; of a chip with none where there is no log.
+ZoneEditorParameters AllWindows::ZonesToEdit() const {
+  const OpenLog& log = program_.Global().log;
+  ZoneEditorParameters parameters;
+  parameters.map = MapOf(log.zones);
+  if (!log.gblnZonesLoaded) parameters.map.chip = {1.8, MakeDate(2004, 7, 2), 3};
+  parameters.comparison = ComparisonZones{log.zones.changes, log.zones.original};
+  parameters.fileName = log.gstrCurrentFileTitle;
+  parameters.mayUpload = true;
+  return parameters;
+}
+
+/// The editor as it opens, once for each tab, with a log also edited.
+void AllWindows::MakeZoneEditors() {
   Globals& globals = program_.Global();
   Host& host = program_.MainWindow().host;
-  ZoneEditorParameters parameters;
-  parameters.map = MapOf(globals.log.zones);
-  if (!globals.log.gblnZonesLoaded) parameters.map.chip = {1.8, MakeDate(2004, 7, 2), 3};
-  parameters.comparison = ComparisonZones{globals.log.zones.changes, globals.log.zones.original};
-  parameters.fileName = globals.log.gstrCurrentFileTitle;
-  parameters.mayUpload = true;
+  const ZoneEditorParameters parameters = ZonesToEdit();
   const clsLogDataItem& volts = globals.catalogue.gcolFixedDataItems.Item(ItemOf(kAuxNF));
   frmZoneData::Surroundings around{
       globals.settings, globals.gcolBenchmarks, globals.tables, volts, errors_, messages_};
@@ -274,8 +282,13 @@ void AllWindows::MakeZoneWindows() {
       editor.Driven.Propose();
     }
   }
+}
+
+void AllWindows::MakeZoneDialogs() {
+  Globals& globals = program_.Global();
+  Host& host = program_.MainWindow().host;
   zoneWindows_.push_back(std::make_unique<frmOffset>(host));
-  const Date date = parameters.map.chip.datChipDate;
+  const Date date = ZonesToEdit().map.chip.datChipDate;
   zoneWindows_.push_back(std::make_unique<frmCopyBench>(host, date, date, false));
   zoneWindows_.push_back(std::make_unique<frmBenchmarkDetails>(
       host,

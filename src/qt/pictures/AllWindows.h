@@ -54,7 +54,9 @@ class AllWindows {
   void MakeEcuWindows(bool filled);
   void MakeOptions(bool filled);
   void MakeGridGraphs();
-  void MakeZoneWindows();
+  ZoneEditorParameters ZonesToEdit() const;
+  void MakeZoneEditors();
+  void MakeZoneDialogs();
 
   RealFileSystem files_;
   RealClock clock_;
