@@ -35,11 +35,9 @@ class frmPresetSampleDetails : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// "OK" or "Cancel": the button that closed the window.
   /// The preset as the user left it.
   const clsSampleGraphPreset& ColItem() const { return preset_; }
 
- protected:
  private:
   void BindControls();
   void ShowPreset(const clsSampleGraphPreset& preset);

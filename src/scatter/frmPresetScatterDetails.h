@@ -52,7 +52,6 @@ class frmPresetScatterDetails : public Form {
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// "OK" or "Cancel": the button that closed the window.
   /// The preset as the user left it.
   const clsScatterGraphPreset& ColItem() const { return preset_; }
 

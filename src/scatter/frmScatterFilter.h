@@ -31,7 +31,6 @@ class frmScatterFilter : public Form {
   /// What was accepted.
   const clsScatterFilter& GetScatterFilter() const { return filter_; }
 
- protected:
  private:
   /// The item chosen; nullptr where none is offered.
   const clsLogDataItem* Item() const;
