@@ -3,32 +3,19 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "cli/Commands.h"
+#include "support/ScratchFolder.h"
 
 namespace tarnview {
 namespace {
 
-namespace fs = std::filesystem;
-
 class SettingsCommand : public ::testing::Test {
  protected:
-  SettingsCommand() { fs::create_directories(folder_); }
-  ~SettingsCommand() override { fs::remove_all(folder_); }
-
-  std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  void Put(const std::string& name, const std::string& text) {
-    std::ofstream(Path(name), std::ios::binary) << text;
-  }
-  std::string Get(const std::string& name) const {
-    std::stringstream text;
-    text << std::ifstream(Path(name), std::ios::binary).rdbuf();
-    return text.str();
-  }
+  std::string Path(const std::string& name) const { return folder_.Path(name); }
+  void Put(const std::string& name, const std::string& text) { folder_.Put(name, text); }
+  std::string Get(const std::string& name) const { return folder_.Get(name); }
   int Run(const std::vector<std::string>& words) {
     std::vector<const char*> arguments{"tarnview-cli"};
     for (const auto& word : words) arguments.push_back(word.c_str());
@@ -41,9 +28,7 @@ class SettingsCommand : public ::testing::Test {
   std::string out;
 
  private:
-  fs::path folder_ =
-      fs::temp_directory_path() /
-      ("tarnview-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+  ScratchFolder folder_;
 };
 
 TEST_F(SettingsCommand, ReadsAsAStartAndWritesAsAnEnd) {
@@ -69,7 +54,7 @@ TEST_F(SettingsCommand, TellsWhatItCannotDo) {
   EXPECT_EQ(nlohmann::json::parse(out)["messages"].back()["id"], 39);
   EXPECT_EQ(Get("bad.ini"), "no settings");
   EXPECT_EQ(Run({"settings", Path("bad.ini"), Path("out.ini")}), kDone);
-  EXPECT_FALSE(fs::exists(Path("bad.ini.bad")));
+  EXPECT_FALSE(std::filesystem::exists(Path("bad.ini.bad")));
 }
 
 TEST_F(SettingsCommand, AScriptKeepsItsSettingsWhereItIsTold) {

@@ -2,21 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "cli/Commands.h"
+#include "support/ScratchFolder.h"
 
 namespace tarnview {
 namespace {
 
-namespace fs = std::filesystem;
-
 class UploadCommand : public ::testing::Test {
  protected:
   UploadCommand() {
-    fs::create_directories(folder_);
     Put("own.ini",
         "[General]\nLog EXE=/link/L.exe\nSerial Com Port=2\nDefault Engine Size=1.8\nDefault Chip "
         "Date=2003-06-09\n"
@@ -25,7 +21,6 @@ class UploadCommand : public ::testing::Test {
     Put("b.map", Map(1.8, 12, " 013"));
     Put("c.map", Map(1.6, 12));
   }
-  ~UploadCommand() override { fs::remove_all(folder_); }
 
   static std::string Map(double size, int value, const std::string& first = " 012") {
     std::string text;
@@ -37,10 +32,8 @@ class UploadCommand : public ::testing::Test {
     return text + " Engine Size: " + (size == 1.8 ? "1.8" : "1.6") +
            "\n Chip Date: 2003-06-09\n Chip Version: 2\n Atmospheric Pressure: 098\n";
   }
-  std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  void Put(const std::string& name, const std::string& text) {
-    std::ofstream(Path(name), std::ios::binary) << text;
-  }
+  std::string Path(const std::string& name) const { return folder_.Path(name); }
+  void Put(const std::string& name, const std::string& text) { folder_.Put(name, text); }
   int Run(std::vector<std::string> words) {
     words.insert(words.end(), {"--settings", Path("own.ini")});
     std::vector<const char*> arguments{"tarnview-cli"};
@@ -57,9 +50,7 @@ class UploadCommand : public ::testing::Test {
   std::string out, err;
 
  private:
-  fs::path folder_ =
-      fs::temp_directory_path() /
-      ("tarnview-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+  ScratchFolder folder_;
 };
 
 TEST_F(UploadCommand, PrintsTheMapAndTheCommandLine) {

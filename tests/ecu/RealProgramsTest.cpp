@@ -3,14 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <thread>
 
 #include "ecu/Capture.h"
 #include "ecu/Upload.h"
 #include "ecu/frmConvertBIN.h"
 #include "support/FixedClock.h"
+#include "support/ScratchFolder.h"
 #include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
 #include "zones/MapFile.h"
@@ -36,16 +35,9 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
       if (form.name == "frmUploadConf") Act(form, --tries >= 0 ? "click cmdYes" : "click cmdNo");
     };
   }
-  ~RealPrograms() override { fs::remove_all(folder); }
 
-  void Put(const std::string& name, const std::string& text) {
-    std::ofstream(folder / name, std::ios::binary) << text;
-  }
-  std::string Get(const std::string& name) const {
-    std::ostringstream text;
-    text << std::ifstream(folder / name, std::ios::binary).rdbuf();
-    return text.str();
-  }
+  void Put(const std::string& name, const std::string& text) { scratch.Put(name, text); }
+  std::string Get(const std::string& name) const { return scratch.Get(name); }
   std::string Boxes() {
     std::string texts;
     for (const Box& box : host.messages) texts += box.text + "\n";
@@ -67,9 +59,8 @@ class RealPrograms : public ::testing::Test, public Capture::MainWindow, public 
     return reading.read ? std::optional(reading.map) : std::nullopt;
   }
 
-  const fs::path folder =
-      fs::temp_directory_path() /
-      ("road-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+  const ScratchFolder scratch;
+  const fs::path& folder = scratch.path;
   RecordingHost host;
   RealFileSystem files;
   FixedClock clock;
