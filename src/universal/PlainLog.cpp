@@ -26,7 +26,8 @@ TARNVIEW_WIDE_STEPS void PointForComma(const char* from, char* to, std::size_t l
   for (std::size_t at = 1; at + 1 < length; ++at) {
     const bool before = static_cast<unsigned char>(from[at - 1] - '0') <= 9;
     const bool behind = static_cast<unsigned char>(from[at + 1] - '0') <= 9;
-    to[at] = (from[at] == ',') & before & behind ? '.' : from[at];
+    const bool between = (from[at] == ',') & before & behind;
+    to[at] = between ? '.' : from[at];
   }
 }
 

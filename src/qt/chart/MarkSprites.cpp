@@ -9,7 +9,7 @@ namespace {
 /// One premultiplied pixel over another (Porter and Duff, 1984); the two halves of a word are
 /// worked on together.
 QRgb Over(QRgb above, QRgb below) {
-  const unsigned rest = 255 - qAlpha(above);
+  const unsigned rest = 255U - static_cast<unsigned>(qAlpha(above));
   const auto share = [rest](QRgb pair) {
     const QRgb product = pair * rest + 0x800080;
     return (product + ((product >> 8) & 0xFF00FF)) >> 8 & 0xFF00FF;

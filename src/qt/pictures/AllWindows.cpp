@@ -34,7 +34,7 @@ struct AllWindows::NoMainWindow : frmDataTags::MainWindow {
 };
 
 /// With a point in the middle of the log.
-struct AllWindows::WholeDrive : DriveGrids::Drive {
+struct AllWindows::WholeDrive final : DriveGrids::Drive {
   explicit WholeDrive(const OpenLog& itsLog) : log(itsLog) {}
   const OpenLog& Log() const override { return log; }
   DrivenRange PlotRange() const override { return WholeLog(log); }
