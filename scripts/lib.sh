@@ -7,7 +7,7 @@ cd "$project" || exit
 # Qt 6 and QCustomPlot draw, CLI11 and nlohmann-json serve tarnview-cli; a bare machine has no font to draw with.
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libqcustomplot-dev libcli11-dev nlohmann-json3-dev
                 fonts-dejavu-core)
-test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev clang libclang-rt-14-dev clang-format python3)
+test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev libbenchmark-dev clang libclang-rt-14-dev clang-format python3)
 
 say() { printf '\n== %s\n' "$*"; }
 
