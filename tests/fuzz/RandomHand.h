@@ -27,7 +27,7 @@ class RandomHand {
   bool OneIn(int count) { return Below(count) == 0; }
   template <class List>
   auto& AnyOf(List& list) {
-    return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
+    return *(std::begin(list) + Below(static_cast<int>(std::size(list))));
   }
 
   /// One gesture in the window.
