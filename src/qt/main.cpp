@@ -7,6 +7,7 @@
 
 #include "app/Program.h"
 #include "app/Version.h"
+#include "qt/Remarks.h"
 #include "qt/Text.h"
 #include "qt/host/QtHost.h"
 #include "qt/icons/DesktopStyle.h"
@@ -46,6 +47,7 @@ ProgramFolders FindFolders() {
 
 int main(int argc, char** argv) {
   using namespace tarnview;
+  SilenceRemarks();
   QApplication application(argc, argv);
   QApplication::setApplicationName("tarnview");
   QApplication::setApplicationVersion(kVersion);

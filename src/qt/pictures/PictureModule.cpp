@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "cli/PictureMaker.h"
+#include "qt/Remarks.h"
 #include "qt/chart/PicturePainter.h"
 
 namespace tarnview {
@@ -11,8 +12,7 @@ namespace {
 /// Starts the toolkit without a screen, unless it runs already.
 void StartToolkit() {
   if (QCoreApplication::instance()) return;
-  // The toolkit's own remarks ("XDG_RUNTIME_DIR not set") are none of the command line's.
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  SilenceRemarks();
   static char program[] = "tarnview-pictures", platform[] = "-platform", offscreen[] = "offscreen";
   static char* arguments[] = {program, platform, offscreen, nullptr};
   static int count = 3;
