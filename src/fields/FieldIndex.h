@@ -22,6 +22,11 @@ class FieldIndex {
   /// 255.
   FieldIndex(std::string_view bytes, std::int32_t delimiter, std::size_t most);
 
+  /// The lines to come stand in other bytes; those gathered are forgotten.
+  void Begin(std::string_view bytes) {
+    bytes_ = bytes;
+    Clear();
+  }
   /// A line of `bytes`; returns its number of fields. An empty line has none.
   std::size_t Add(std::string_view line);
   void DropLast();
@@ -47,7 +52,7 @@ class FieldIndex {
 
   std::size_t Count(std::size_t fields);
 
-  const std::string_view bytes_;
+  std::string_view bytes_;
   const bool delimits_;
   const char delimiter_;
   const std::size_t most_, rowLength_, mostLines_;

@@ -57,11 +57,10 @@ void Bound(const FieldTarget& target, double* values, bool* kept, std::size_t ro
 
 }  // namespace
 
-DataLines::DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes,
-                     SampleStore& store)
+DataLines::DataLines(const HeaderMap& header, const clsDataLog& definition, SampleStore& store)
     : header_(header),
       store_(store),
-      block_(bytes, definition.lngDelimiterAsciiCharacter,
+      block_(std::string_view(), definition.lngDelimiterAsciiCharacter,
              static_cast<std::size_t>(header.Fields())),
       formed_(definition.IsFormed()),
       commentPrefix_(definition.strCommentPrefix),

@@ -22,10 +22,10 @@ namespace tarnview {
 /// time.
 class DataLines {
  public:
-  /// `bytes` holds all lines to come.
-  DataLines(const HeaderMap& header, const clsDataLog& definition, std::string_view bytes,
-            SampleStore& store);
+  DataLines(const HeaderMap& header, const clsDataLog& definition, SampleStore& store);
 
+  /// The lines to come stand in `bytes`; all before were flushed.
+  void Begin(std::string_view bytes) { block_.Begin(bytes); }
   /// The next row. Where the definition tells the form of a log, a line that holds no sample is
   /// none.
   void Read(std::string_view line);

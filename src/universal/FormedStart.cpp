@@ -3,14 +3,11 @@
 #include <algorithm>
 
 #include "base/Text.h"
-#include "fields/TextLines.h"
 #include "universal/ChannelBlocks.h"
 #include "universal/DefinitionFaults.h"
 #include "universal/HeaderMap.h"
-#include "universal/PlainLog.h"
 #include "universal/ShapeText.h"
 #include "universal/TextEncoding.h"
-#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
@@ -54,65 +51,55 @@ bool StartsWithTitles(std::string_view line, const clsDataLog& definition) {
 }
 
 /// Leaves `text` at the line of titles; false where no line starts as it is told.
-bool FindTitles(std::string_view& text, const clsDataLog& definition) {
-  std::string_view rest = text, line;
-  for (int lines = 0; lines < kMostLinesBeforeTitles; ++lines) {
-    const std::string_view at = rest;
-    if (!TakeLine(rest, line)) return false;
-    if (!StartsWithTitles(line, definition)) continue;
-    text = at;
-    return true;
+bool FindTitles(PlainLog& text, const clsDataLog& definition) {
+  for (int lines = 0; lines < kMostLinesBeforeTitles && !text.AtEnd(); ++lines) {
+    if (StartsWithTitles(text.Line(), definition)) return true;
+    text.Skip(1);
   }
   return false;
 }
 
-std::size_t FieldsOfFirstLine(std::string_view data, const clsDataLog& definition) {
-  std::string_view line;
-  TakeLine(data, line);
-  return SplitFields(line, definition.lngDelimiterAsciiCharacter).size();
+std::size_t FieldsOfLine(const PlainLog& text, const clsDataLog& definition) {
+  return SplitFields(text.Line(), definition.lngDelimiterAsciiCharacter).size();
 }
 
 /// The preamble's channels behind a clock. All lines count as data: those without a clock's time
 /// are no samples.
-LogStart StartOfChannels(std::string_view text) {
+LogStart StartOfChannels(const PlainLog& text) {
   LogStart start;
-  const auto channels = ReadChannelBlocks(LinesOf(text.substr(0, ShapeText::kHead)), "CHANNEL");
+  const auto head = LinesOf(text.Block().substr(0, ShapeText::kHead));
   start.titles.emplace_back("Time");
-  for (const ChannelBlock& channel : channels) start.titles.push_back(channel.name);
-  start.data = text;
+  for (const ChannelBlock& channel : ReadChannelBlocks(head, "CHANNEL"))
+    start.titles.push_back(channel.name);
   return start;
 }
 
-LogStart StartWithoutTitles(std::string_view text, const clsDataLog& definition,
-                            const std::string& path) {
-  if (!SkipFileLines(text, definition.lngDataLinesBefore))
+LogStart StartWithoutTitles(PlainLog& text, const clsDataLog& definition, const std::string& path) {
+  if (!text.Skip(definition.lngDataLinesBefore))
     throw DefinitionFault(Message::FileNotLoaded, path);
   LogStart start;
-  start.titles.resize(FieldsOfFirstLine(text, definition));
-  start.data = text;
+  start.titles.resize(FieldsOfLine(text, definition));
   return start;
 }
 
-LogStart StartAtTitles(std::string_view text, const clsDataLog& definition,
-                       const std::string& path) {
-  const bool found = !definition.strTitlesStart.empty() && FindTitles(text, definition);
-  if (!found && (!SkipFileLines(text, definition.lngColumnHeadersLinesBefore) || text.empty()))
-    throw DefinitionFault(Message::HeaderIncomplete, path);
+LogStart StartAtTitles(PlainLog& text, const clsDataLog& definition, const std::string& path) {
+  if (definition.strTitlesStart.empty() || !FindTitles(text, definition)) {
+    text.Restart();
+    if (!text.Skip(definition.lngColumnHeadersLinesBefore) || text.AtEnd())
+      throw DefinitionFault(Message::HeaderIncomplete, path);
+  }
   LogStart start;
-  start.data = text;
-  start.titleLine = TextLines(text).Next();
+  start.titleLine = text.Line();
   const long toData =
       std::max(definition.lngDataLinesBefore - definition.lngColumnHeadersLinesBefore, 1);
-  if (!SkipFileLines(start.data, toData)) throw DefinitionFault(Message::FileNotLoaded, path);
-  start.titles =
-      TitlesOfLine(start.titleLine, FieldsOfFirstLine(start.data, definition), definition);
+  if (!text.Skip(toData)) throw DefinitionFault(Message::FileNotLoaded, path);
+  start.titles = TitlesOfLine(start.titleLine, FieldsOfLine(text, definition), definition);
   return start;
 }
 
 }  // namespace
 
-LogStart FindFormedStart(std::string_view text, const clsDataLog& definition,
-                         const std::string& path) {
+LogStart FindFormedStart(PlainLog& text, const clsDataLog& definition, const std::string& path) {
   LogStart start;
   if (SameIgnoringCase(definition.strTitlesFrom, "CHANNELS"))
     start = StartOfChannels(text);

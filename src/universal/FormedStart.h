@@ -4,21 +4,20 @@
 #include <string_view>
 #include <vector>
 
-#include "universal/clsDataLog.h"
+#include "universal/PlainLog.h"
 
 namespace tarnview {
 
-/// Where a log's samples begin, and what its fields are called.
+/// What the fields of a log are called.
 struct LogStart {
-  std::string_view titleLine;       ///< as it stands; empty where the log has none
+  std::string titleLine;            ///< as it stands; empty where the log has none
   std::vector<std::string> titles;  ///< of the fields
-  std::string_view data;            ///< the lines of samples; others may stand between them
 };
 
-/// For a log whose definition tells its form; `text` is what PlainLog makes of it. Raises a
-/// DefinitionFault where the lines that the definition counts are not there; `path` is the log's.
-LogStart FindFormedStart(std::string_view text, const clsDataLog& definition,
-                         const std::string& path);
+/// For a log whose definition tells its form; `text` is left at the first line of samples, between
+/// which others may stand. Raises a DefinitionFault where the lines that the definition counts are
+/// not there; `path` is the log's.
+LogStart FindFormedStart(PlainLog& text, const clsDataLog& definition, const std::string& path);
 
 /// Titles may hold a delimiter between brackets that nobody quoted: "Torque (lb, ft)". Such parts
 /// are joined again.

@@ -27,13 +27,10 @@ constexpr Message kTooFewFields = Message::ColumnOfOtherType;
 constexpr Message kNoHeader = Message::HeaderIncomplete;
 
 /// A log is known by a text that stands at a place of one of its first lines.
-void Identify(std::string_view text, const clsDataLog& definition) {
+void Identify(PlainLog& text, const clsDataLog& definition) {
   if (definition.strFileIDText.empty()) return;
   std::string_view line;
-  if (SkipFileLines(text, definition.lngFileIDTextLinesBefore)) {
-    TextLines lines(text);
-    if (!lines.AtEnd()) line = lines.Next();
-  }
+  if (text.Skip(definition.lngFileIDTextLinesBefore)) line = text.Line();
   const std::int32_t before = definition.lngFileIDTextColumnsBefore;
   if (before >= 0 && static_cast<std::size_t>(before) <= line.size() &&
       line.substr(static_cast<std::size_t>(before)).starts_with(definition.strFileIDText))
@@ -47,14 +44,13 @@ void Identify(std::string_view text, const clsDataLog& definition) {
 }
 
 /// The line of the columns' titles.
-std::string_view FindHeader(std::string_view text, const clsDataLog& definition,
-                            const std::string& path) {
-  const bool there = SkipFileLines(text, definition.lngColumnHeadersLinesBefore);
-  if (!there || text.empty()) throw DefinitionFault(kNoHeader, path);
-  const std::string_view line = TextLines(text).Next();
+std::string FindHeader(PlainLog& text, const clsDataLog& definition, const std::string& path) {
+  const bool there = text.Skip(definition.lngColumnHeadersLinesBefore);
+  if (!there || text.AtEnd()) throw DefinitionFault(kNoHeader, path);
+  const std::string_view line = text.Line();
   if (SplitFields(line, definition.lngDelimiterAsciiCharacter).size() < 2)
     throw DefinitionFault(kTooFewFields, std::string(line));
-  return line;
+  return std::string(line);
 }
 
 /// Rows to expect, if the lines are as long as that of the titles.
@@ -65,21 +61,36 @@ long ExpectedRows(std::size_t bytes, std::size_t headerLength) {
       std::min(length / static_cast<double>(std::max<std::size_t>(headerLength, 1)), 1e9));
 }
 
-/// Rows that the log will have, by the length of its first data lines; rather too many than too
-/// few, which costs nothing, while a store that must grow moves all its rows.
-int RowsToHold(std::string_view text, long expected) {
-  const std::string_view start = text.substr(0, 1 << 16);
-  const auto lines = static_cast<double>(std::count(start.begin(), start.end(), '\n')) + 1;
-  const double rows = lines * static_cast<double>(text.size()) /
-                      static_cast<double>(std::max<std::size_t>(start.size(), 1));
-  return static_cast<int>(std::min(std::max(rows * 1.1, static_cast<double>(expected)), 1e9));
+/// Rows that the log will have; rather too many than too few, which costs nothing, while a store
+/// that must grow moves all its rows.
+int RowsToHold(double lines, long expected) {
+  return static_cast<int>(std::min(std::max(lines * 1.1, static_cast<double>(expected)), 1e9));
 }
+
+/// Tells every fiftieth of the lines to expect.
+class ProgressOfLines {
+ public:
+  ProgressOfLines(LoadProgress& progress, long expected)
+      : progress_(progress), step_(std::max(expected / 50, 1L)) {}
+
+  /// One more line was read.
+  void Step() {
+    if (++line_ != next_) return;
+    progress_.Line(line_);
+    next_ += step_;
+  }
+
+ private:
+  LoadProgress& progress_;
+  const long step_;
+  long line_ = 0, next_ = step_;
+};
 
 class Load {
  public:
   Load(std::string_view bytes, const LoadContext& context, const clsDataLog& definition,
        LoadOutcome& outcome)
-      : bytes_(PlainLog(bytes, definition, plain_)),
+      : text_(bytes, definition),
         context_(context),
         definition_(definition),
         log_(context.log),
@@ -88,22 +99,22 @@ class Load {
   void Run() {
     context_.progress.Stage("Preparing to load");
     log_.Clear(context_.items, 0);
-    Identify(bytes_, definition_);
+    Identify(text_, definition_);
+    text_.Restart();
     if (definition_.IsFormed()) {
-      const LogStart start = FindFormedStart(bytes_, definition_, log_.gstrCurrentFile);
-      Read(HeaderMap(start.titles, definition_), start.titleLine, start.data);
+      const LogStart start = FindFormedStart(text_, definition_, log_.gstrCurrentFile);
+      Read(HeaderMap(start.titles, definition_), start.titleLine);
     } else {
-      const std::string_view headerLine = FindHeader(bytes_, definition_, log_.gstrCurrentFile);
-      Read(HeaderMap(headerLine, definition_), headerLine, std::nullopt);
+      const std::string headerLine = FindHeader(text_, definition_, log_.gstrCurrentFile);
+      Read(HeaderMap(headerLine, definition_), headerLine);
     }
   }
 
  private:
-  /// `data`: the lines of samples, where they are not to be counted.
-  void Read(const HeaderMap& header, std::string_view headerLine,
-            std::optional<std::string_view> data) {
+  void Read(const HeaderMap& header, const std::string& headerLine) {
     CheckHeader(header, headerLine);
-    ReadData(header, data ? *data : CountedData(), ExpectedRows(bytes_.size(), headerLine.size()));
+    if (!definition_.IsFormed()) GoToCountedData();
+    ReadData(header, ExpectedRows(text_.Size(), headerLine.size()));
     NoteTemperatures(header);
     FillOffsetItems(header);
     SetTimes(header);
@@ -112,38 +123,35 @@ class Load {
     if (log_.blnTooLong) outcome_.messages.emplace_back(Message::LogTooLong);
   }
 
-  void CheckHeader(const HeaderMap& header, std::string_view line) {
+  void CheckHeader(const HeaderMap& header, const std::string& line) {
     if (definition_.dblLineFrequency == 0 && !header.Feeds(ItemOf(kSecs)))
-      throw DefinitionFault(Message::NoTimeColumn, std::string(line));
+      throw DefinitionFault(Message::NoTimeColumn, line);
     outcome_.columns = header.Fields();
     outcome_.unknownColumns = header.Unknown();
-    if (!header.AnyKnown()) throw DefinitionFault(Message::NoColumnsRecognised, std::string(line));
+    if (!header.AnyKnown()) throw DefinitionFault(Message::NoColumnsRecognised, line);
   }
 
-  std::string_view CountedData() const {
-    std::string_view text = bytes_;
-    if (!SkipFileLines(text, definition_.lngDataLinesBefore))
+  void GoToCountedData() {
+    text_.Restart();
+    if (!text_.Skip(definition_.lngDataLinesBefore))
       throw DefinitionFault(Message::FileNotLoaded, log_.gstrCurrentFile);
-    return text;
   }
 
-  void ReadData(const HeaderMap& header, std::string_view text, long expected) {
+  void ReadData(const HeaderMap& header, long expected) {
     context_.progress.Stage("Preparing to load", expected);
-    log_.Clear(context_.items, RowsToHold(text, expected));
-    SampleStore& store = log_.glngDataLog;
-    DataLines data(header, definition_, bytes_, store);
-    const long step = std::max(expected / 50, 1L);
-    long nextTelling = step;
-    long line = 0;
-    TextLines lines(text);
-    while (!lines.AtEnd() && data.Rows() < kMostSamples) {
-      data.Read(lines.Next());
-      if (++line != nextTelling) continue;
-      context_.progress.Line(line);
-      nextTelling += step;
+    log_.Clear(context_.items, RowsToHold(text_.ExpectedLines(), expected));
+    DataLines data(header, definition_, log_.glngDataLog);
+    ProgressOfLines progress(context_.progress, expected);
+    for (; !text_.AtEnd() && !log_.blnTooLong; text_.NextBlock()) {
+      data.Begin(text_.Block());
+      TextLines lines(text_.Block());
+      while (!lines.AtEnd() && data.Rows() < kMostSamples) {
+        data.Read(lines.Next());
+        progress.Step();
+      }
+      log_.blnTooLong = !lines.AtEnd();
+      data.Flush();
     }
-    log_.blnTooLong = !lines.AtEnd();
-    data.Flush();
     stamps_ = data.Stamps();
   }
 
@@ -215,8 +223,7 @@ class Load {
       SmoothColumn(log_.glngDataLog, item - 1, context_.items.Item(item).LeastStored());
   }
 
-  std::string plain_;  ///< the text, where it had to be written anew
-  const std::string_view bytes_;
+  PlainLog text_;
   std::vector<double> stamps_;  ///< of a clock whose form is told, in seconds
   const LoadContext& context_;
   const clsDataLog& definition_;
@@ -225,15 +232,6 @@ class Load {
 };
 
 }  // namespace
-
-bool SkipFileLines(std::string_view& text, long lines) {
-  while (lines-- > 0) {
-    if (text.empty()) return false;
-    const auto end = text.find('\n');
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-  }
-  return true;
-}
 
 LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context,
                                const clsDataLog& definition) {

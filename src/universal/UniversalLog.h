@@ -13,7 +13,4 @@ namespace tarnview {
 LoadOutcome LoadGenericDataLog(std::string_view bytes, const LoadContext& context,
                                const clsDataLog& definition);
 
-/// Passes over up to `lines` lines from the front of a text; false if it ends first.
-bool SkipFileLines(std::string_view& text, long lines);
-
 }  // namespace tarnview

@@ -78,6 +78,46 @@ TEST(FormedLog, EachKeyByItself) {
   }
 }
 
+std::string Replaced(const std::string& text, char from, const std::string& to) {
+  std::string replaced;
+  for (const char c : text) replaced += c == from ? to : std::string(1, c);
+  return replaced;
+}
+
+std::string Wide(const std::string& text, bool bigEndian) {
+  std::string wide;
+  for (const char c : text) wide += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
+  return wide;
+}
+
+/// Text is written anew in blocks of 128 KiB.
+TEST(FormedLog, LongOnesAreReadAsShortOnes) {
+  std::string plain = "Time,A\n", cells, note(400, 'n'), semicolons;
+  for (int line = 0; line < 9000; ++line) {
+    plain += std::to_string(line * 40) + "," + std::to_string(line % 777) + ".0,x" + note + "\n";
+    cells += (line ? " " : "") + std::to_string(line % 777);
+    note.resize(static_cast<std::size_t>(line % 83));
+  }
+  semicolons = Replaced(Replaced(plain, ',', ";"), '.', ",");
+  const struct {
+    const char* header;
+    std::string text;
+  } kRows[] = {
+      {"TIMEFORM=SECONDS\n", plain},
+      {"TIMEFORM=SECONDS\n", Replaced(plain, '.', "E")},
+      {"TIMEFORM=SECONDS\n", Replaced(plain, '\n', "\r")},
+      {"QUOTED=Y\n", "\"" + Replaced(Replaced(plain, ',', "\",\""), '\n', "\"\n\"")},
+      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", semicolons},
+      {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n", Replaced(plain, ',', "  ")},
+      {"ENCODING=UTF-16LE\n", Wide(plain, false)},
+      {"ENCODING=UTF-16BE\n", Wide(Replaced(plain, '\n', "\r"), true)},
+  };
+  for (const auto& row : kRows) {
+    const bool same = CellsOf(row.header, row.text) == cells;  // too long to be printed
+    EXPECT_TRUE(same) << row.header << row.text.substr(0, 40);
+  }
+}
+
 TEST(FormedLog, OfLikeTitlesOneCanBeMeant) {
   const std::string log = "Time,A,A\n1,7,70\n2,8,80\n3,9,90\n";
   EXPECT_EQ(CellsOf("TIMEFORM=SECONDS\n", log, "TITLEOCCURRENCE=1\n"), "7 8 9");
