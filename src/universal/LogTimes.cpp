@@ -109,7 +109,8 @@ void Spread(std::vector<double>& times) {
 
 std::vector<double> TimesOfLines(std::span<const double> stamps, TimeForm form) {
   std::vector<double> times = Rising(stamps, form);
-  Spread(times);
+  const bool anyAlike = std::adjacent_find(times.begin(), times.end()) != times.end();
+  if (anyAlike) Spread(times);
   return times;
 }
 
