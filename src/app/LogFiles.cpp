@@ -91,8 +91,9 @@ bool LogFiles::OpenRecentlyUsedFile(int index, const std::string& path, int file
 }
 
 bool LogFiles::OpenFromCommandLine(const std::string& commandLine) {
-  const CommandLineFile file = ParseCommandLine(commandLine);
+  CommandLineFile file = ParseCommandLine(commandLine);
   if (file.path.empty()) return false;
+  file.path = services_.files.Absolute(file.path);  // it outlives the folder it was given in
   if (!services_.files.FileExists(file.path)) {
     services_.messages.ShowMessage(Message::FileNotLoaded);
     return false;

@@ -59,6 +59,15 @@ bool RealFileSystem::SameFile(const std::string& a, const std::string& b) {
   return a == b || fs::equivalent(a, b, failed);
 }
 
+std::string RealFileSystem::Absolute(const std::string& path) {
+  std::error_code failed;
+  const fs::path whole = fs::absolute(path, failed);
+  if (failed) return path;
+  // ".." behind a link to a folder leads elsewhere than its text says.
+  const std::string plain = whole.lexically_normal().string();
+  return SameFile(whole.string(), plain) ? plain : whole.string();
+}
+
 bool RealFileSystem::CopyFile(const std::string& from, const std::string& to) {
   const auto bytes = Read(from);
   return bytes && Write(to, *bytes);

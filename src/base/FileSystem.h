@@ -27,6 +27,8 @@ class FileSystem {
   virtual bool IsFile(const std::string& path) = 0;
   /// Whether two paths lead to one file, whatever links and "." are on the way.
   virtual bool SameFile(const std::string& a, const std::string& b) = 0;
+  /// A path that means the same file from any folder: "../run.txt" gives "/car/run.txt".
+  virtual std::string Absolute(const std::string& path) = 0;
   /// The whole file; nothing for a folder, a pipe or device, or a file that cannot be read.
   virtual std::optional<FileBytes> Read(const std::string& path) = 0;
   /// In words, why Read gives nothing for a path: "It is larger than 1 GiB."
@@ -61,6 +63,7 @@ class RealFileSystem : public FileSystem {
   bool IsProgram(const std::string& path) override;
   bool IsFile(const std::string& path) override;
   bool SameFile(const std::string& a, const std::string& b) override;
+  std::string Absolute(const std::string& path) override;
   std::optional<FileBytes> Read(const std::string& path) override;
   std::string WhyNotRead(const std::string& path) override;
   bool Write(const std::string& path, std::string_view bytes) override;

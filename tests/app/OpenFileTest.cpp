@@ -10,7 +10,8 @@ using Ids = std::vector<int>;
 
 TEST_F(OpenFile, ALogOnTheCommandLineIsLoadedAndDrawn) {
   files.files["/logs/run.txt"] = SmallLog(40);
-  Start("\"/logs/run.txt\"");
+  files.here = "/logs/";
+  Start("\"run.txt\"");
   EXPECT_EQ(MessageIds(), (Ids{16}));
   EXPECT_EQ(Main().Caption(), "Tarnview - run.txt (FM Link Data Log)");
   EXPECT_EQ(Main().staDataLogViewer.Panel(3), "Sample Load Range 1 - 40");

@@ -42,6 +42,20 @@ TEST_F(FileSystemTest, WritesReplacesAppendsAndReadsBack) {
   EXPECT_FALSE(files.DeleteFile(path));
 }
 
+TEST_F(FileSystemTest, AnAbsolutePathMeansTheSameFileFromAnyFolder) {
+  fs::create_directories(folder + "real/deep");
+  fs::create_directory_symlink(folder + "real/deep", folder + "link");
+  for (const char* name : {"a.txt", "real/b.txt"}) ASSERT_TRUE(files.Write(folder + name, ""));
+  const fs::path before = fs::current_path();
+  fs::current_path(folder + "real");
+  const std::string here = fs::current_path().parent_path().string() + "/";
+  EXPECT_EQ(files.Absolute("b.txt"), here + "real/b.txt");
+  EXPECT_EQ(files.Absolute("./../real/../a.txt"), here + "a.txt");
+  EXPECT_EQ(files.Absolute("../link/../b.txt"), here + "real/../link/../b.txt");
+  EXPECT_EQ(files.Absolute("/x/b.txt"), "/x/b.txt");
+  fs::current_path(before);
+}
+
 TEST_F(FileSystemTest, ALimitOnTheSizeOfFilesIsAFullDisk) {
   const std::string path = folder + "a.txt";
   ASSERT_TRUE(files.Write(path, "old"));

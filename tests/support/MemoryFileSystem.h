@@ -24,6 +24,7 @@ class MemoryFileSystem : public FileSystem {
   std::set<std::string> readOnly;  ///< protected by their owner
   std::set<std::string> heldByAnother;
   std::set<std::string> pipes;  ///< among the files
+  std::string here;             ///< where a path that is not absolute begins
 
   bool FileExists(const std::string& path) override {
     Note("exists", path);
@@ -43,6 +44,9 @@ class MemoryFileSystem : public FileSystem {
     return files.contains(path) && !pipes.contains(path);
   }
   bool SameFile(const std::string& a, const std::string& b) override { return a == b; }
+  std::string Absolute(const std::string& path) override {
+    return path.starts_with('/') ? path : here + path;
+  }
   std::optional<FileBytes> Read(const std::string& path) override {
     Note("read", path);
     const auto found = files.find(path);
