@@ -73,6 +73,7 @@ TEST_F(BinderTest, ShowsAChangeOnceTheLoopTurns) {
   form_.cmdDrawGraph.Enabled = false;
   form_.lblZoomAmount.Caption = std::string("Weite in \xB5s");
   form_.chkQuickGraph.Value = true;
+  form_.chkQuickGraph.Caption = std::string("      &Quick ");
   form_.staDataLogViewer.SetPanel(1, "Loading");
   form_.fraPicture.Visible = false;
   form_.Caption = std::string("Tarnview - run.txt");
@@ -84,6 +85,7 @@ TEST_F(BinderTest, ShowsAChangeOnceTheLoopTurns) {
   EXPECT_EQ(Find<QAction>("tbrDraw").text(), "Draw") << "it keeps its own text";
   EXPECT_EQ(Find<QLabel>("lblZoomAmount").text(), QString::fromUtf8("Weite in \xC2\xB5s"));
   EXPECT_TRUE(Find<QCheckBox>("chkQuickGraph").isChecked());
+  EXPECT_EQ(Find<QCheckBox>("chkQuickGraph").text(), "&Quick");
   EXPECT_EQ(Find<QStatusBar>("staDataLogViewer").findChild<QLabel*>()->text(), "Loading");
   EXPECT_FALSE(Find<QWidget>("fraPicture").isVisible());
   EXPECT_EQ(window_.window().windowTitle(), "Tarnview - run.txt");

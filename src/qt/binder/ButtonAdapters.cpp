@@ -40,8 +40,9 @@ CheckBoxAdapter::CheckBoxAdapter(CheckBox& box, QCheckBox& view, Binder& binder)
   });
 }
 
+/// Blanks at the ends of a caption made room for a box that stood in it, and would only indent it.
 void CheckBoxAdapter::ShowContent() {
-  view_.setText(ToQt(box_.Caption));
+  view_.setText(ToQt(box_.Caption).trimmed());
   view_.setChecked(box_.Value);
 }
 
