@@ -27,7 +27,8 @@ frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts,
     UpdateButtons();
   };
   lvwNameList.KeyDown = [this](const KeyPress& key, bool& eaten) {
-    if (key != KeyPress{key.key, false, true} || (key.key != "Up" && key.key != "Down")) return;
+    // Alone they go from row to row; with a modifier they take the row along.
+    if (key.Plain() || (key.key != "Up" && key.key != "Down")) return;
     (key.key == "Up" ? cmdPresetUp : cmdPresetDown).Press();
     eaten = true;
   };

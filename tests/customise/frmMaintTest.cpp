@@ -69,6 +69,12 @@ TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {
   EXPECT_EQ(All(copy.Col), "a u c b v ");
   window.Press({"Up", false, true});
   EXPECT_EQ(All(copy.Col), "c a u b v ");
+  window.Press({"Down", true, false});
+  EXPECT_EQ(All(copy.Col), "a c u b v ");
+  window.Press({"Up"});
+  window.Press({"Left", true, false});
+  EXPECT_EQ(All(copy.Col), "a c u b v ");
+  window.Press({"Up", true, false});
   window.Press({"Up", false, true});  // the first row stays
   EXPECT_EQ(window.lvwNameList.SelectedRow(), 1);
   window.lvwNameList.Do({"sort", {"Name"}});
