@@ -60,7 +60,9 @@ void AddOptionsCommand(CLI::App& program, int& status) {
       ->add_option("--settings", *settings,
                    "Read this Tarnview.ini; without it, every setting has its default")
       ->check(CLI::ExistingFile);
-  command->callback([settings, &status] { status = ListOptions(*settings); });
+  auto json = std::make_shared<bool>();
+  command->add_flag("--json", *json, "As JSON, which is the only form that it has");
+  command->callback([settings, json, &status] { status = ListOptions(*settings); });
 }
 
 }  // namespace tarnview

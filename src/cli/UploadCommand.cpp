@@ -1,5 +1,6 @@
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 #include "app/Program.h"
 #include "base/Paths.h"
@@ -17,7 +18,7 @@ namespace {
 struct UploadCommandOptions {
   std::string map;
   std::string settings;
-  std::string compare;
+  std::optional<std::string> compare;
   std::string autoTune;
   bool dryRun = false;
 };
@@ -66,9 +67,9 @@ class DryRun {
     const auto& defaults = program_.Global().settings.gblnUploadDefaults;
     return {.blnPermanentlyStore = defaults[0],
             .blnVerify = defaults[1],
-            .blnChangesOnly = defaults[2] || !options_.compare.empty(),
+            .blnChangesOnly = defaults[2] || options_.compare,
             .blnVerbose = defaults[3],
-            .strComparisonFile = options_.compare,
+            .strComparisonFile = options_.compare.value_or(""),
             .autoTune = ModeOf(options_.autoTune)};
   }
 

@@ -70,8 +70,10 @@ TEST_F(UploadCommand, PrintsChangesAlone) {
   ASSERT_EQ(Run({"upload", Path("b.map"), "--dry-run", "--compare", Path("c.map")}), kDone);
   EXPECT_EQ(err.find("message 21: "), 0u);
   EXPECT_NE(out.find(" 012"), std::string::npos);
-  ASSERT_EQ(Run({"upload", Path("b.map"), "--dry-run", "--compare", Path("none.map")}), kDone);
-  EXPECT_EQ(err.find("message 23: "), 0u);
+  for (const std::string& none : {Path("none.map"), std::string()}) {
+    ASSERT_EQ(Run({"upload", Path("b.map"), "--dry-run", "--compare", none}), kDone);
+    EXPECT_EQ(err.find("message 23: "), 0u);
+  }
 }
 
 TEST_F(UploadCommand, RefusesWhatCannotBeSent) {
@@ -86,6 +88,9 @@ TEST_F(UploadCommand, RefusesWhatCannotBeSent) {
 
 TEST_F(UploadCommand, OptionsListEachSetting) {
   ASSERT_EQ(Run({"options"}), kDone);
+  const std::string plain = out;
+  ASSERT_EQ(Run({"options", "--json"}), kDone);
+  EXPECT_EQ(out, plain);
   const auto rows = nlohmann::json::parse(out)["options"];
   EXPECT_EQ(rows.size(), 55u);
   const auto row = [&](const std::string& key) {
