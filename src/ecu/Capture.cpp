@@ -29,7 +29,7 @@ bool Capture::HasPrograms() {
     world_.messages.ShowMessage(Message::WorkingDirectoryNotFound);
     return false;
   }
-  return !IsEcuBusy(world_);
+  return !IsStillAtWork(world_);
 }
 
 std::string Capture::TargetFolder() const {

@@ -6,8 +6,8 @@
 
 namespace tarnview {
 
-/// Asks before a file that is there already is written over; true where there is none, or on Yes.
-/// The log that is open, and a file that its owner protects, are refused in words.
+/// Asks before a file that is there already is written over, be it the log that is open; true where
+/// there is none, or on Yes. A file that its owner protects is refused in words.
 bool MayWrite(const EcuWorld& world, const std::string& path);
 
 }  // namespace tarnview

@@ -28,7 +28,7 @@ bool HasFolder(const EcuWorld& world, const std::string& folder) {
   return !folder.empty() && world.files.FolderExists(folder);
 }
 
-bool IsEcuBusy(const EcuWorld& world) {
+bool IsStillAtWork(const EcuWorld& world) {
   if (!world.programs.IsAnyLeftAlone()) return false;
   world.messages.Tell(
       "A program that was left alone is still running.\r\nWait until it has ended, then try again.",

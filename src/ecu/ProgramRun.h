@@ -16,8 +16,8 @@ bool HasProgram(const EcuWorld& world, const std::string& program, Message messa
 /// False for "" too.
 bool HasFolder(const EcuWorld& world, const std::string& folder);
 
-/// A program that the user stopped waiting for may still talk to the ECU: nothing else may until it
-/// has ended. The user is told; true then.
-bool IsEcuBusy(const EcuWorld& world);
+/// A program that the user stopped waiting for may still talk to the ECU, or write the files of
+/// fixed names: no other is started until it has ended. The user is told; true then.
+bool IsStillAtWork(const EcuWorld& world);
 
 }  // namespace tarnview

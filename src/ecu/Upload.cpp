@@ -51,7 +51,7 @@ void Upload::Run(const ZonesToUpload& form) {
 
 bool Upload::HasUploader() {
   return HasProgram(world_, world_.settings.gstrLogEXE, Message::UploadProgramNotFound) &&
-         !IsEcuBusy(world_);
+         !IsStillAtWork(world_);
 }
 
 bool Upload::IsOwnEngine() {

@@ -89,12 +89,15 @@ void frmConvertBIN::cmdBrowse_Click(Path path) {
   dialog.filter = kPaths[path].filter;
   dialog.initialPath = txtPath(path).Text();
   dialog.path = FileTitle(txtPath(path).Text());
+  dialog.ofOpenFile = true;  // whether it goes is asked by cmdOK
   const bool chosen = path == Target ? ChooseFileToSave(host, dialog) : host.Choose(dialog);
   if (chosen) txtPath(path).Text = dialog.path;
 }
 
 void frmConvertBIN::cmdOK_Click() {
-  if (!ValidatePath(Source) || !ValidatePath(Target) || !HasConverter(world_)) return;
+  if (!ValidatePath(Source) || !ValidatePath(Target) || !HasConverter(world_) ||
+      IsStillAtWork(world_))
+    return;
   const std::string source = txtPath(Source).Text(), target = txtPath(Target).Text();
   if (!MayWrite(world_, target)) return;
   SetAside aside(world_.files);
