@@ -1,206 +1,104 @@
-#include "ecu/Capture.h"
-#include "ecu/EcuTest.h"
+#include "ecu/EcuStory.h"
 
 namespace tarnview {
 namespace {
 
-class CaptureTest : public EcuTest, public Capture::MainWindow {
- protected:
-  CaptureTest() {
-    User("frmNewDownload", "type txtFileName run\nclick cmdOK");
-    ProgramDoes("L.exe", [this] {
-      files.files["/link/miata.dat"] = "binary";
-      files.files["/link/miata.map"] = "zones";
-    });
-    ProgramDoes("C.exe", [this] {
-      files.files["/mdos/miatatmp.txt"] = "text of " + files.files["/mdos/miatatmp.bin"];
-    });
-  }
+#define ASKED "prompt | frmNewDownload | "
+#define CLOSED ASKED "close | "
+#define LOGGER "run /link/L.exe -t in /link/ | "
+#define MAP_LOGGER "run /link/L.exe -m -t in /link/ | "
+#define ZONES "user frmNewDownload type txtFileName run, click radFileType(1), click cmdOK; "
+#define OVERWRITE "File already exists.  Overwrite?/36 | "
 
-  bool SaveChangesPrompt() override {
-    told += "prompt\n";
-    return mayGo;
-  }
-  void CloseDataLogFile() override { told += "close\n"; }
-  bool LoadDataFile(const std::string& path, int fileType) override {
-    told += "load " + path + " " + std::to_string(fileType) + "\n";
-    return loads;
-  }
-  bool SaveMapFile(const std::string& path) override {
-    told += "save " + path + "\n";
-    return saves;
-  }
-  void Say(const std::string& status) override { told += "say " + status + "\n"; }
-  std::string Run() {
-    capture.Run();
-    return Told();
-  }
-
-  Capture capture{world, *this};
-  bool mayGo = true, loads = true, saves = true;
-};
-
-TEST_F(CaptureTest, OfALogGoesThroughTheConverter) {
-  settings.gstrSerialComPort = "2";
-  EXPECT_EQ(Run(),
-            "prompt\n"
-            "window frmNewDownload\n"
-            "close\n"
-            "load /logs/run.txt 1\n"
-            "run /link/L.exe -p 2 -t in /link/\n"
-            "run /mdos/C.exe in /mdos/\n");
-  EXPECT_EQ(files.files["/logs/run.txt"], "text of binary");
-  EXPECT_EQ(files.files["/logs/run.bin"], "binary");
-  EXPECT_EQ(files.files["/link/NewDataLogDescription.txt"],
-            "[General]\r\nPath and Filename=/logs/run.txt\r\n");
-  EXPECT_EQ(FileNames(),
-            "/link/L.exe /link/NewDataLogDescription.txt /link/miata.dat /link/miata.map "
-            "/logs/old.txt /logs/run.bin "
-            "/logs/run.txt /mdos/C.exe /mdos/miatatmp.bin /mdos/miatatmp.txt ");
-}
-
-TEST_F(CaptureTest, OfZonesIsSavedAtOnce) {
-  User("frmNewDownload", "type txtFileName run\nclick radFileType(1)\nclick cmdOK");
-  EXPECT_EQ(Run(),
-            "prompt\n"
-            "window frmNewDownload\n"
-            "close\n"
-            "load /logs/run.map 2\n"
-            "save /logs/run.map\n"
-            "run /link/L.exe -m -t in /link/\n");
-  EXPECT_EQ(files.files["/logs/run.map"], "zones");
-  EXPECT_FALSE(files.files.contains("/logs/run.bin"));
-  saves = false;
-  host.answers = {{Answer::Kind::Yes}};
-  EXPECT_EQ(Run(),
-            "prompt\n"
-            "window frmNewDownload\n"
-            "close\n"
-            "load /logs/run.map 2\n"
-            "save /logs/run.map\n"
-            "say Loading failed\n"
-            "box File already exists.  Overwrite? [36]\n"
-            "box 12 [64]\n"
-            "run /link/L.exe -m -t in /link/\n");
-}
-
-TEST_F(CaptureTest, IsRefusedBeforeAnythingIsTouched) {
-  const std::string before = FileNames();
-  mayGo = false;
-  EXPECT_EQ(Run(), "prompt\n");
-  mayGo = true;
-  struct Row {
-    std::string Settings::*setting;
-    const char* told;
+TEST(Capture, GoesFromStepToStep) {
+  const Told rows[] = {
+      // clang-format off
+      {"set Serial Com Port=2; capture; list /; read /logs/run.txt; read /logs/run.bin; read /link/NewDataLogDescription.txt",
+       CLOSED "run /link/L.exe -p 2 -t in /link/ | run /mdos/C.exe in /mdos/ | load /logs/run.txt 1 | "
+       "/link/L.exe /link/NewDataLogDescription.txt /link/miata.dat /link/miata.map /logs/old.txt /logs/run.bin "
+       "/logs/run.txt /mdos/C.exe /mdos/miatatmp.bin /mdos/miatatmp.txt  | text of binary | binary | "
+       "[General]\r\nPath and Filename=/logs/run.txt\r\n"},
+      {"set Default Working Directory=/logs; set Retain Binary Files=N; exits 0; exits 7; capture; list /logs",
+       CLOSED LOGGER "run /mdos/C.exe in /mdos/ | load /logs/run.txt 1 | /logs/old.txt /logs/run.txt "},
+      {ZONES "capture; read /logs/run.map; list /logs",
+       CLOSED MAP_LOGGER "load /logs/run.map 2 | save /logs/run.map | zones | /logs/old.txt /logs/run.map "},
+      {ZONES "fails save; capture", CLOSED MAP_LOGGER "load /logs/run.map 2 | save /logs/run.map | 12/64 | say Loading failed"},
+      {ZONES "fails load; capture", CLOSED MAP_LOGGER "load /logs/run.map 2"},
+      {ZONES "L nothing; capture", CLOSED MAP_LOGGER "14/48"},
+      {"L nothing; capture", CLOSED LOGGER "13/48"},
+      {"C nothing; capture; list /logs", CLOSED LOGGER "run /mdos/C.exe in /mdos/ | 25/48 | /logs/old.txt /logs/run.bin "},
+      {"exits -22; capture; list /logs", CLOSED LOGGER "Error opening comm port., -22/48 | /logs/old.txt "},
+      {"broken /logs/run.txt; capture", CLOSED LOGGER "run /mdos/C.exe in /mdos/ | 38/48"},
+      {"broken /logs/run.bin; capture", CLOSED LOGGER "38/48"},
+      {"broken /mdos/miatatmp.bin; capture", CLOSED LOGGER "38/48"},
+      // The log that is open goes, too, once the user says so.
+      {"file /logs/run.txt=open; open /logs/run.txt; answer yes; capture; read /logs/run.txt",
+       ASKED OVERWRITE "close | " LOGGER "run /mdos/C.exe in /mdos/ | load /logs/run.txt 1 | text of binary"},
+      {"file /logs/run.txt=old; answer no; capture; read /logs/run.txt", ASKED OVERWRITE "stays | old"},
+      {"file /logs/run.txt=old; protected /logs/run.txt; capture", ASKED
+       "Protected:\r\n/logs/run.txt\r\n\r\nPlease choose another name./48 | stays"},
+      {"answer stop; capture; capture; ended; capture", CLOSED LOGGER
+       "L.exe was left alone and may still be at work, so nothing is known of its result./48 | prompt | "
+       "A program that was left alone is still running.\r\nWait until it has ended, then try again./48 | "
+       CLOSED LOGGER "run /mdos/C.exe in /mdos/ | load /logs/run.txt 1"},
+      // clang-format on
   };
-  for (const Row& row : {Row{&Settings::gstrLogEXE, "prompt\nbox 6 [64]\n"},
-                         Row{&Settings::gstrConversionEXE, "prompt\nbox 11 [64]\n"},
-                         Row{&Settings::gstrDefaultWorkingDirectory, "prompt\nbox 32 [48]\n"}})
-    for (const char* value : {"", "/nowhere/x"}) {
-      const std::string good = std::exchange(settings.*row.setting, value);
-      EXPECT_EQ(Run(), row.told) << value;
-      settings.*row.setting = good;
-    }
-  User("frmNewDownload", "type txtFileName run\nclick cmdCancel");
-  EXPECT_EQ(Run(), "prompt\nwindow frmNewDownload\n");
-  processes.anyLeftAlone = true;
-  EXPECT_EQ(Run(),
-            "prompt\nbox A program that was left alone is still running.\r\nWait until it has "
-            "ended, then try again. "
-            "[48]\n");
-  EXPECT_EQ(FileNames(), before);
+  ExpectStories(rows);
 }
 
-TEST_F(CaptureTest, EndsAtTheStepThatFails) {
-  const std::string upTo = "prompt\nwindow frmNewDownload\nclose\n";
-  const std::string logger = "run /link/L.exe -t in /link/\n",
-                    converter = "run /mdos/C.exe in /mdos/\n";
-  settings.gblnRetainBinary = false;
-  processes.exitCodes = {-22};
-  EXPECT_EQ(Run(), upTo + "box Error opening comm port., -22 [48]\n" + logger);
-  EXPECT_FALSE(files.files.contains("/logs/run.txt"));
-
-  ProgramDoes("L.exe", [] {});
-  EXPECT_EQ(Run(), upTo + "box 13 [48]\n" + logger);
-  User("frmNewDownload", "click radFileType(1)\ntype txtFileName run\nclick cmdOK");
-  EXPECT_EQ(Run(), upTo + "box 14 [48]\nrun /link/L.exe -m -t in /link/\n");
-
-  User("frmNewDownload", "type txtFileName run\nclick cmdOK");
-  ProgramDoes("L.exe", [this] { files.files["/link/miata.dat"] = "binary"; });
-  ProgramDoes("C.exe", [] {});
-  EXPECT_EQ(Run(), upTo + "box 25 [48]\n" + logger + converter);
-  EXPECT_FALSE(files.files.contains("/logs/run.bin"));
-
-  ProgramDoes("C.exe", [this] { files.files["/mdos/miatatmp.txt"] = "text"; });
-  processes.exitCodes = {0, 7};  // the converter's says nothing
-  loads = false;
-  EXPECT_EQ(Run(), upTo + "load /logs/run.txt 1\n" + logger + converter);
-
-  files.broken = {"/logs/run.txt"};
-  EXPECT_EQ(Run(), upTo + "box File already exists.  Overwrite? [36]\n" + "box 38 [48]\n" + logger +
-                       converter)
-      << "with the default answer, Yes";
-}
-
-TEST_F(CaptureTest, LosesNothingWhereTheProgramDoesNotStart) {
-  for (const char* name :
-       {"/link/miata.dat", "/link/miata.map", "/mdos/miatatmp.bin", "/mdos/miatatmp.txt",
-        "/mdos/miata.dat", "/link/miatatmp.txt", "/logs/run.txt"})
-    files.files[name] = name;
-  const auto before = files.files;
-  processes.trouble = "Permission denied";
-  EXPECT_EQ(Run(),
-            "prompt\nwindow frmNewDownload\nclose\n"
-            "box File already exists.  Overwrite? [36]\n"
-            "box L.exe could not be started:\r\nPermission denied [48]\n"
-            "run /link/L.exe -t in /link/\n");
-  files.files.erase("/link/NewDataLogDescription.txt");
-  EXPECT_EQ(files.files, before);
-
-  // One that starts finds none of them.
-  processes.trouble.clear();
-  ProgramDoes("L.exe", [this] { told += FileNames() + "\n"; });
-  EXPECT_EQ(Run(),
-            "prompt\nwindow frmNewDownload\nclose\n"
-            "/link/L.exe /link/NewDataLogDescription.txt /logs/old.txt /mdos/C.exe \n"
-            "box File already exists.  Overwrite? [36]\n"
-            "box 13 [48]\n"
-            "run /link/L.exe -t in /link/\n");
-}
-
-TEST_F(CaptureTest, EndsWhereTheUserStopsWaiting) {
-  host.answers = {{Answer::Kind::Stop}};
-  EXPECT_EQ(
-      Run(),
-      "prompt\nwindow frmNewDownload\nclose\n"
-      "box L.exe was left alone and may still be at work, so nothing is known of its result. [48]\n"
-      "run /link/L.exe -t in /link/\n");
-  EXPECT_EQ(host.waits, std::vector<std::string>{"L.exe"});
-}
-
-TEST_F(CaptureTest, ProposesNamesAndCountsThoseThatWereLoaded) {
-  settings.gblnAutoFileNames = true;
-  std::string proposed;
-  users["frmNewDownload"] = [&](Form& form) {
-    proposed = form.Find("txtFileName")->Facts()[2].first + "=" +
-               std::get<std::string>(form.Find("txtFileName")->Facts()[2].second.Get());
-    Act(form, "click cmdOK");
+TEST(Capture, IsRefusedBeforeAnythingIsTouched) {
+  const std::string touched = "file /link/miata.dat=old; file /mdos/miatatmp.txt=old; ";
+  const std::string before = EcuStory().Do(touched + "list /");
+  const Told rows[] = {
+      {"fails prompt", "prompt"},
+      {"gone /link/L.exe; gone /mdos/C.exe", "prompt | 6/64"},
+      {"set Log EXE=", "prompt | 6/64"},
+      {"gone /mdos/C.exe; set Default Working Directory=/nowhere", "prompt | 11/64"},
+      {"set Conversion EXE=", "prompt | 11/64"},
+      {"set Default Working Directory=/nowhere", "prompt | 32/48"},
+      {"set Default Working Directory=", "prompt | 32/48"},
+      {"user frmNewDownload type txtFileName run, click cmdCancel", "prompt | frmNewDownload"},
   };
-  const auto propose = [&] {
-    Run();
-    return proposed;
+  for (const Told& row : rows) {
+    EcuStory story;
+    EXPECT_EQ(story.Do(touched + row.steps + "; capture"), row.told) << row.steps;
+    EXPECT_EQ(story.Do("file /link/L.exe=; file /mdos/C.exe=; list /"), before) << row.steps;
+  }
+}
+
+TEST(Capture, MakesRoomAndGivesItBackWhereTheProgramDoesNotStart) {
+  const std::string leftovers =
+      "file /link/miata.dat=1; file /link/miata.map=2; file /link/miatatmp.bin=3; "
+      "file /link/miatatmp.txt=4; file /mdos/miata.dat=5; file /mdos/miata.map=6; "
+      "file /mdos/miatatmp.bin=7; file /mdos/miatatmp.txt=8; file /logs/run.txt=9; ";
+  EXPECT_EQ(EcuStory().Do(leftovers + "L nothing; capture; list /"),
+            ASKED OVERWRITE "close | " LOGGER
+                            "13/48 | /link/L.exe /link/NewDataLogDescription.txt /logs/old.txt "
+                            "/mdos/C.exe ");
+  EcuStory story;
+  const std::string before = story.Do(leftovers + "list /");
+  EXPECT_EQ(story.Do("trouble Permission denied; capture"), ASKED OVERWRITE
+            "close | " LOGGER "L.exe could not be started:\r\nPermission denied/48");
+  EXPECT_EQ(story.Do("gone /link/NewDataLogDescription.txt; list /"), before);
+  EXPECT_EQ(story.Do("read /mdos/miatatmp.txt; read /logs/run.txt"), "8 | 9");
+}
+
+TEST(Capture, ProposesNamesAndCountsThoseThatWereLoaded) {
+  EcuStory story;
+  story.Do("set Auto File Names=Y; user frmNewDownload show txtFileName, click cmdOK");
+  const auto proposed = [&](const std::string& steps) {
+    const std::string told = story.Do(steps + "; capture");
+    const std::string window = "frmNewDownload | ";
+    const auto from = told.find(window) + window.size();
+    return told.substr(from, told.find(' ', from) - from);
   };
-  EXPECT_EQ(propose(), "text=2026-11-24a");
-  EXPECT_TRUE(files.files.contains("/logs/2026-11-24a.txt"));
-  EXPECT_EQ(propose(), "text=2026-11-24b");
-  loads = false;
-  files.files["/logs/2026-11-24c.sam"] = files.files["/logs/2026-11-24d"] = "";
-  EXPECT_EQ(propose(), "text=2026-11-24e");
-  files.files.erase("/logs/2026-11-24e.txt");
-  files.files.erase("/logs/2026-11-24e.bin");
-  EXPECT_EQ(propose(), "text=2026-11-24e") << "the one before was not loaded";
-  settings.gblnAutoFileNames = false;
-  EXPECT_EQ(propose(), "text=");
+  EXPECT_EQ(proposed("gone x"), "2026-11-24a");
+  EXPECT_EQ(proposed("gone x"), "2026-11-24b");
+  EXPECT_EQ(proposed("file /logs/2026-11-24c.sam=; file /logs/2026-11-24d=; fails load"),
+            "2026-11-24e");
+  EXPECT_EQ(proposed("gone /logs/2026-11-24e.txt; gone /logs/2026-11-24e.bin"), "2026-11-24e")
+      << "the one before was not loaded";
+  EXPECT_EQ(proposed("set Auto File Names=N"), "");
 }
 
 }  // namespace

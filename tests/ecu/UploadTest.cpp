@@ -1,219 +1,94 @@
-#include "ecu/EcuTest.h"
-#include "ecu/Upload.h"
-#include "ecu/frmUploadConf.h"
-#include "zones/MapFile.h"
-#include "zones/ZoneNames.h"
+#include "ecu/EcuStory.h"
 
 namespace tarnview {
 namespace {
 
-class UploadTest : public EcuTest, public Upload::Editor {
- protected:
-  UploadTest() {
-    settings.gdblDefaultEngineSize = 1.8;
-    settings.gdatDefaultChipDate = MakeDate(2003, 6, 9);
-    settings.gintDefaultAtmosphericPressure = 98;
-    form.dblEngineSize = 1.8;
-    form.datChipDate = settings.gdatDefaultChipDate;
-    for (std::size_t n = 0; n < form.zones.size(); ++n)
-      form.zones[n] = static_cast<std::int16_t>(n);
-    User("frmUpload", "click cmdOK");
-    User("frmUploadConf", "click cmdYes");
-  }
+#define RUN "run /link/L.exe -q -s -c -f TVW.map in /link/"
+#define SENT "frmUploadConf | " RUN
+#define ALL "frmUpload | " SENT
+#define CHANGES "user frmUpload click chkOption(2), choose lstCCF #1, click cmdOK; "
+#define COMPARED "frmUpload | compare /logs/b.map | "
+#define REFUSED "L.exe could not be started:\r\nPermission denied/48 | "
 
-  ComparisonChoices ChoicesForComparison() override {
-    return {{"/logs/a.txt", "/logs/b.map"}, "filter"};
-  }
-  std::optional<ZoneMap> LoadComparison(const std::string& path) override {
-    told += "compare " + path + "\n";
-    return comparison;
-  }
-  std::string Run() {
-    upload.Run(form);
-    return Told();
-  }
-  /// The zones of TVW.map that are left alone.
-  std::string LeftAlone() {
-    const MapReading sent = ParseMap(files.files["/link/TVW.map"], Settings{}, true);
-    std::string names;
-    for (std::size_t n = 0; n < sent.map.zones.size(); ++n)
-      if (sent.map.zones[n] == -1) names += ZoneName(static_cast<int>(n)) + " ";
-    return names;
-  }
+TEST(Upload, GoesFromStepToStep) {
+  const Told rows[] = {
+      // clang-format off
+      {"upload; left; read /link/vstrUploadCommand.txt; list /logs/Uploads",
+       ALL " | z720 | Tarnview Upload Command File\r\n\r\n/link/L.exe -q -s -c -f TVW.map\r\n | "
+       "/logs/Uploads/TVW 2026-11-24 14-05-09.map "},
+      {"set Serial Com Port=3; user frmUpload click chkOption(0), click chkOption(1), click chkOption(3), "
+       "choose cboAutoTune Fine With Idle, click cmdOK; upload",
+       "frmUpload | frmUploadConf | run /link/L.exe -q -p 3 -a fine_with_idle -v -f TVW.map in /link/"},
+      // What ends it before anything is touched.
+      {"form 1.6 2003-06-09; gone /link/L.exe; upload", "6/64"},
+      {"form 1.6 2003-06-09; file /link/TVW.map=x; upload; read /link/TVW.map", "5/64 | x"},
+      {"file /link/TVW.map=x; user frmUpload click cmdCancel; upload; read /link/TVW.map", "frmUpload | x"},
+      {"broken /link/TVW.map; upload", "frmUpload | Problem creating temporary MAP file (/link/TVW.map)./48"},
+      {"user frmUploadConf click cmdNo; upload; list /logs", "frmUpload | frmUploadConf | /logs/old.txt "},
+      {"user frmUploadConf show cmdYes; upload", "frmUpload | frmUploadConf |  | stays"},
+      // Measured against a comparison.
+      {CHANGES "upload; left", "frmUpload | 23/48 | " SENT " | z720"},
+      {"user frmUpload click chkOption(2), click cmdOK; upload", "frmUpload | 23/48 | " SENT},
+      {CHANGES "file /logs/b.map=; upload; left", COMPARED "22/48 | " SENT " | z720"},
+      {CHANGES "file /logs/b.map=; comparison 1.6 2003-06-09; upload; left", COMPARED "21/48 | " SENT " | z720"},
+      {CHANGES "file /logs/b.map=; comparison 1.8 2003-06-08; upload; left", COMPARED "21/48 | " SENT " | z720"},
+      {CHANGES "file /logs/b.map=; comparison 1.8 2003-06-10; upload; left", COMPARED "21/48 | " SENT " | z720"},
+      {CHANGES "file /logs/b.map=; comparison 1.8 2003-06-09; upload; left", COMPARED SENT " | all but z1 z875"},
+      // Chips from 1 March 2001 on measure the intake air.
+      {"form 1.8 2001-02-28; upload; left", "frmUpload | 28/48 | " SENT " | z4 z720 z860 z865 z870 z875"},
+      {"form 1.8 2001-03-01; upload; left", ALL " | z720"},
+      {"set Default Chip Date=2001-02-28; form 1.8 2001-03-01; upload", "frmUpload | 28/48 | " SENT},
+      {"set Default Chip Date=2001-02-28; form 1.8 2000-01-01; upload", ALL},
+      // Offered again until it goes well or the user has enough; the same map is kept once.
+      {"exits -25; exits -38; exits 0; upload; list /logs/Uploads",
+       ALL " | Zone map verification failed., -25/48 | " SENT " | Unknown Error, -38/48 | " SENT
+       " | /logs/Uploads/TVW 2026-11-24 14-05-09.map "},
+      {"trouble Permission denied; user frmUploadConf click cmdYes then click cmdYes then click cmdNo; upload",
+       ALL " | " REFUSED SENT " | " REFUSED "frmUploadConf"},
+      {"answer stop; upload; upload; ended; upload",
+       ALL " | L.exe was left alone and may still be at work, so nothing is known of its result./48 | "
+       "A program that was left alone is still running.\r\nWait until it has ended, then try again./48 | "
+       ALL},
+      {"set Default Working Directory=; upload; list /logs", ALL " | /logs/old.txt "},
+      {"broken /logs/Uploads/; upload",
+       "frmUpload | frmUploadConf | No copy of the map could be kept in:\r\n/logs/Uploads/48 | " RUN},
+      // Its window begins with the user's defaults; the comparison goes with its box.
+      {"set Upload Default 0=0; set Upload Default 2=1; set Upload Default 3=1; answer /logs/c.map; user frmUpload "
+       "show chkOption(0), show chkOption(1), show chkOption(2), show chkOption(3), show cboAutoTune, click cmdCCF, "
+       "show txtCCF, choose lstCCF #0, show txtCCF, click chkOption(2), show txtCCF, show lstCCF, show cmdCCF, "
+       "show lblCCF, click cmdCancel; upload",
+       "frmUpload |  not checked |  |  |  | None | /logs/c.map | /logs/a.txt |  not enabled/logs/a.txt |  not enabled/logs/a.txt |  not enabled |  not enabledC&hange Comparison File"},
+      {"user frmUploadConf show lblChipDate, show lblEngineSize, click cmdNo; upload",
+       "frmUpload | frmUploadConf | 09-Jun-2003 | 1.8"},
+      // clang-format on
+  };
+  ExpectStories(rows);
+}
 
-  Upload upload{world, *this};
-  ZonesToUpload form;
-  std::optional<ZoneMap> comparison;
-  const std::string windows = "window frmUpload\nwindow frmUploadConf\n";
-  const std::string run = "run /link/L.exe -q -s -c -f TVW.map in /link/\n";
-};
-
-TEST_F(UploadTest, OfEverythingWritesTheMapBesideTheProgram) {
-  EXPECT_EQ(Run(), windows + run);
-  const std::string map = files.files["/link/TVW.map"];
+TEST(Upload, WritesTheMapOfTheUsersOwnChip) {
+  const std::string map = EcuStory()
+                              .Do("set Default Chip Version=3; upload; read /link/TVW.map")
+                              .substr(sizeof ALL + 2);
   EXPECT_EQ(map.substr(0, map.find(" 000")),
             " Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n");
   EXPECT_EQ(map.substr(map.find(" Engine")),
             " Engine Size: 1.8\r\n Chip Date: 2003-06-09\r\n Chip Version: 0\r\n Atmospheric "
-            "Pressure: 098\r\n"
-            " Notes:\r\n\r\n End Of Notes\r\n");
-  EXPECT_EQ(LeftAlone(), "z720 ");
-  EXPECT_EQ(files.files["/link/vstrUploadCommand.txt"],
-            "Tarnview Upload Command File\r\n\r\n/link/L.exe -q -s -c -f TVW.map\r\n");
-  EXPECT_EQ(files.files["/logs/Uploads/TVW 2026-11-24 14-05-09.map"], map);
+            "Pressure: 098\r\n Notes:\r\n\r\n End Of Notes\r\n");
 }
 
-TEST_F(UploadTest, TakesTheOptionsOfItsWindow) {
-  settings.gstrSerialComPort = "3";
-  User("frmUpload",
-       "click chkOption(0)\nclick chkOption(1)\nclick chkOption(3)\nchoose cboAutoTune Fine With "
-       "Idle\nclick cmdOK");
-  EXPECT_EQ(Run(), windows + "run /link/L.exe -q -p 3 -a fine_with_idle -v -f TVW.map in /link/\n");
-}
-
-TEST_F(UploadTest, IsRefusedBeforeAnythingIsTouched) {
-  files.files["/link/TVW.map"] = "before";
-  const auto before = files.files;
-  form.dblEngineSize = 1.6;
-  EXPECT_EQ(Run(), "box 5 [64]\n");
-  settings.gstrLogEXE = "/link/none.exe";
-  EXPECT_EQ(Run(), "box 6 [64]\n");
-  settings.gstrLogEXE = "/link/L.exe";
-  form.dblEngineSize = 1.8;
-  User("frmUpload", "click cmdCancel");
-  EXPECT_EQ(Run(), "window frmUpload\n");
-  processes.anyLeftAlone = true;
-  EXPECT_EQ(Run(),
-            "box A program that was left alone is still running.\r\nWait until it has ended, then "
-            "try again. [48]\n");
-  EXPECT_EQ(files.files, before);
-}
-
-TEST_F(UploadTest, OfChangesMeasuresAgainstTheComparison) {
-  User("frmUpload", "click chkOption(2)\nchoose lstCCF #1\nclick cmdOK");
-  EXPECT_EQ(Run(), windows + "box 23 [48]\n" + run);
-  EXPECT_EQ(LeftAlone(), "z720 ");
-
-  files.files["/logs/b.map"] = "";
-  EXPECT_EQ(Run(),
-            "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 22 [48]\n" + run);
-  EXPECT_EQ(LeftAlone(), "z720 ");
-
-  comparison.emplace();
-  comparison->zones = form.zones;
-  comparison->zones[1] = 99;
-  comparison->zones[255] = -1;
-  for (const auto& chip :
-       {ChipIdentity{1.6, settings.gdatDefaultChipDate, 2},
-        ChipIdentity{1.8, MakeDate(2003, 6, 8), 2}, ChipIdentity{1.8, MakeDate(2003, 6, 10), 2}}) {
-    comparison->chip = chip;
-    EXPECT_EQ(Run(),
-              "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\nbox 21 [48]\n" + run);
-    EXPECT_EQ(LeftAlone(), "z720 ");
-  }
-  comparison->chip = {1.8, settings.gdatDefaultChipDate, 1};
-  EXPECT_EQ(Run(), "window frmUpload\ncompare /logs/b.map\nwindow frmUploadConf\n" + run);
-  const MapReading sent = ParseMap(files.files["/link/TVW.map"], settings, true);
-  for (std::size_t n = 0; n < 256; ++n)
-    EXPECT_EQ(sent.map.zones[n], n == 1 || n == 255 ? static_cast<int>(n) : -1);
-}
-
-TEST_F(UploadTest, LeavesTheAirAloneBetweenOldAndNewChips) {
-  form.datChipDate = MakeDate(2001, 2, 28);
-  EXPECT_EQ(Run(), windows + "box 28 [48]\n" + run);
-  EXPECT_EQ(LeftAlone(), "z4 z720 z860 z865 z870 z875 ");
-}
-
-TEST_F(UploadTest, TellsWhereTheMapCannotBeWritten) {
-  files.broken = {"/link/TVW.map"};
-  EXPECT_EQ(Run(),
-            "window frmUpload\nbox Problem creating temporary MAP file (/link/TVW.map). [48]\n");
-}
-
-TEST_F(UploadTest, IsOfferedAgainUntilItGoesWellOrTheUserHasEnough) {
-  processes.exitCodes = {-25, -38, 0};
-  EXPECT_EQ(Run(),
-            windows +
-                "window frmUploadConf\nwindow frmUploadConf\n"
-                "box Zone map verification failed., -25 [48]\nbox Unknown Error, -38 [48]\n" +
-                run + run + run);
-  EXPECT_EQ(files.List("/logs/Uploads/", "*").size(), 1u) << "the same map, sent three times";
-
-  processes.trouble = "Permission denied";
-  int asked = 0;
-  users["frmUploadConf"] = [&](Form& window) {
-    Act(window, ++asked < 3 ? "click cmdYes" : "click cmdNo");
-  };
-  const std::string refused = "box L.exe could not be started:\r\nPermission denied [48]\n";
-  EXPECT_EQ(Run(), windows + "window frmUploadConf\nwindow frmUploadConf\n" + refused + refused +
-                       run + run);
-}
-
-TEST_F(UploadTest, IsNotOfferedAgainWhileTheProgramMayBeAtIt) {
-  host.answers = {{Answer::Kind::Stop}};
-  EXPECT_EQ(Run(), windows +
-                       "box L.exe was left alone and may still be at work, so nothing is known of "
-                       "its result. [48]\n" +
-                       run);
-}
-
-TEST_F(UploadTest, IsNotSentWithoutAYes) {
-  for (const char* actions : {"click cmdNo", ""}) {
-    User("frmUploadConf", actions);
-    if (!*actions) users.erase("frmUploadConf");
-    EXPECT_EQ(Run(), windows);
-  }
-  EXPECT_FALSE(files.FolderExists("/logs/Uploads"));
-}
-
-TEST_F(UploadTest, KeepsTheLastFiftyMaps) {
-  const std::string uploads = "/logs/Uploads/";
-  files.files[uploads + "mine.map"] = files.files[uploads + "TVW.map"] = "mine";
-  for (int n = 0; n < 50; ++n)
-    files.files[uploads + "TVW 2025-01-01 00-00-" + std::to_string(10 + n) + ".map"] = "old";
-  Run();
-  Run();
-  EXPECT_EQ(files.List(uploads, "TVW 2025*").size(), 48u);
-  EXPECT_FALSE(files.files.contains(uploads + "TVW 2025-01-01 00-00-11.map"));
-  EXPECT_TRUE(files.files.contains(uploads + "TVW 2025-01-01 00-00-12.map"));
-  EXPECT_TRUE(files.files.contains(uploads + "TVW 2026-11-24 14-05-09 (2).map"));
-  EXPECT_TRUE(files.files.contains(uploads + "mine.map"));
-  EXPECT_TRUE(files.files.contains(uploads + "TVW.map"));
-
-  files.failWrites = true;
-  EXPECT_EQ(Run(),
-            "window frmUpload\nbox Problem creating temporary MAP file (/link/TVW.map). [48]\n");
-  files.failWrites = false;
-  settings.gstrDefaultWorkingDirectory = "/nowhere";
-  files.broken = {"/nowhere/Uploads/"};
-  EXPECT_EQ(Run(),
-            windows + "box No copy of the map could be kept in:\r\n/nowhere/Uploads [48]\n" + run);
-}
-
-TEST_F(UploadTest, EnablesTheComparisonWithItsBox) {
-  settings.gblnUploadDefaults = {false, true, true, true};
-  frmUpload window(world, ChoicesForComparison());
-  const UploadOptions chosen = window.Chosen();
-  EXPECT_FALSE(chosen.blnPermanentlyStore);
-  EXPECT_TRUE(chosen.blnVerify && chosen.blnChangesOnly && chosen.blnVerbose);
-  EXPECT_EQ(chosen.autoTune, AutoTuneMode::None);
-  EXPECT_TRUE(window.txtCCF.Enabled && window.lstCCF.Enabled && window.cmdCCF.Enabled &&
-              window.lblCCF.Enabled);
-  window.Show();
-  host.answers = {{Answer::Kind::File, "/logs/c.map"}};
-  Act(window, "click cmdCCF");
-  EXPECT_EQ(window.txtCCF.Text(), "/logs/c.map");
-  Act(window, "choose lstCCF #0\nclick chkOption(2)");
-  EXPECT_EQ(window.txtCCF.Text(), "/logs/a.txt");
-  EXPECT_FALSE(window.txtCCF.Enabled || window.lstCCF.Enabled || window.cmdCCF.Enabled ||
-               window.lblCCF.Enabled);
-}
-
-TEST_F(UploadTest, ConfirmsWithTheUsersOwnChip) {
-  frmUploadConf window(host, settings);
-  EXPECT_EQ(window.lblChipDate.Caption(), "09-Jun-2003");
-  EXPECT_EQ(window.lblEngineSize.Caption(), "1.8");
-  EXPECT_FALSE(window.Accepted());
+TEST(Upload, KeepsTheLastFiftyMaps) {
+  const std::string uploads = "/logs/Uploads/", old = uploads + "TVW 2025-01-01 00-00-";
+  EcuStory story;
+  story.Do("file " + uploads + "mine.map=; file " + uploads + "TVW.map=");
+  for (int n = 10; n < 60; ++n) story.Do("file " + old + std::to_string(n) + ".map=");
+  story.Do("upload; upload");
+  EXPECT_EQ(story.Do("list " + old + "1"), old + "12.map " + old + "13.map " + old + "14.map " +
+                                               old + "15.map " + old + "16.map " + old + "17.map " +
+                                               old + "18.map " + old + "19.map ");
+  EXPECT_EQ(
+      story.Do("list " + uploads + "TVW 2026; list " + uploads + "m; list " + uploads + "TVW."),
+      uploads + "TVW 2026-11-24 14-05-09 (2).map " + uploads + "TVW 2026-11-24 14-05-09.map  | " +
+          uploads + "mine.map  | " + uploads + "TVW.map ");
 }
 
 }  // namespace
