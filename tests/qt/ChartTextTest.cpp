@@ -13,9 +13,16 @@ TEST(ChartTextTest, AChartSaysWhatItShows) {
   chart.x = {0, 120, 10, "#######0", "RPM"};
   chart.y = {-1, 2.5, 10, "#######0.0", "Boost"};
   EXPECT_EQ(ChartText(chart), "Nothing is drawn.");
-  chart.kind = Curves{{{3, "RPM", {0, 1}, {0, 1}, {}}, {37, "Boost \xB5", {0, 1}, {0, 1}, {}}}};
+  chart.kind = Curves{{{3, "Power", {0, 1}, {0, 1}, {}}, {37, "Boost \xB5", {0, 1}, {0, 1}, {}}}};
+  chart.marks = {{2000, 90, "90 hp"}, {1800, 80, "80 \xB5"}};
   EXPECT_EQ(ChartText(chart),
-            QString::fromUtf8("Curves of RPM, Boost \xC2\xB5; samples from 0 to 120."));
+            QString::fromUtf8("Curves of Power, Boost \xC2\xB5, over RPM from 0 to "
+                              "120; marked: 90 hp, 80 \xC2\xB5."));
+  chart.marks.clear();
+  chart.x.title.clear();
+  EXPECT_EQ(ChartText(chart),
+            QString::fromUtf8("Curves of Power, Boost \xC2\xB5, over seconds from 0 to 120."));
+  chart.x.title = "RPM";
   PointCloud cloud;
   cloud.x = cloud.y = {1, 2, 3};
   chart.kind = cloud;

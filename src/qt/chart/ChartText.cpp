@@ -16,9 +16,14 @@ QString From(const ChartAxis& axis) {
 
 QString TextOf(const ChartDescription& chart, const Curves& curves) {
   if (curves.series.empty()) return "Nothing is drawn.";
-  QStringList names;
+  QStringList names, marks;
   for (const ChartSeries& series : curves.series) names << ToQt(series.name);
-  return QString("Curves of %1; samples %2.").arg(names.join(", "), From(chart.x));
+  for (const ChartMark& mark : chart.marks) marks << ToQt(mark.text);
+  const std::string over = chart.x.title.empty() ? "seconds" : chart.x.title;  // a log's time
+  QString text =
+      QString("Curves of %1, over %2 %3").arg(names.join(", "), ToQt(over), From(chart.x));
+  if (!marks.empty()) text += "; marked: " + marks.join(", ");
+  return text + ".";
 }
 
 QString TextOf(const ChartDescription& chart, const PointCloud& cloud) {
