@@ -6,21 +6,26 @@
 namespace tarnview {
 namespace {
 
-constexpr const char* kPreset =
-    "[New Preset Scatter Graphs]\r\n"
-    "Graph 1 Name=Boost\r\nGraph 1 Point Colour=255\r\nGraph 1 Point Shape=8\r\nGraph 1 Point "
-    "Size=6\r\n"
-    "Graph 1 X Axis=3\r\nGraph 1 Y Axis=5\r\nGraph 1 File Open Draw=Y\r\nGraph 1 Log Family=1\r\n"
-    "Graph 2 Name=Gone\r\nGraph 2 Point Colour=0\r\nGraph 2 Point Shape=0\r\nGraph 2 Point "
-    "Size=1\r\n"
-    "Graph 2 X Axis=3\r\nGraph 2 Y Axis=61\r\nGraph 2 File Open Draw=N\r\nGraph 2 Log Family=1\r\n"
-    "Graph 3 Name=Other family\r\nGraph 3 Point Colour=0\r\nGraph 3 Point Shape=0\r\nGraph 3 Point "
-    "Size=1\r\n"
-    "Graph 3 X Axis=3\r\nGraph 3 Y Axis=5\r\nGraph 3 File Open Draw=Y\r\nGraph 3 Log Family=6\r\n";
+constexpr const char* kPreset = R"(
+[New Preset Scatter Graphs]
+Graph 1 Name=Boost
+Graph 1 Point Shape=8
+Graph 1 Point Size=6
+Graph 1 X Axis=3
+Graph 1 Y Axis=5
+Graph 1 File Open Draw=Y
+Graph 1 Log Family=1
+Graph 2 Name=Gone
+Graph 2 X Axis=3
+Graph 2 Y Axis=61
+Graph 2 Log Family=1
+Graph 3 Name=Other family
+Graph 3 File Open Draw=Y
+Graph 3 Log Family=6
+)";
 
 class ScatterWindows : public ProgramFixture {
  protected:
-  ~ScatterWindows() override { program.reset(); }
   void Open(const std::string& settings, int samples = 40) {
     files.files["/logs/run.txt"] = SmallLog(samples);
     Start("", settings);
@@ -93,6 +98,18 @@ TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
   window.cmdDrawGraph.Press();
   EXPECT_EQ(window.chScatterGraph.Data().Cloud()->x.size(), 5u);
   EXPECT_EQ(window.Caption(), "Tarnview Scatter Graph - short.txt");
+}
+
+TEST_F(ScatterWindows, APointLeadsBackToTheSampleGraph) {
+  Open("[General]\n", 500);
+  frmScatterGraph& window = Main().Scatter().OpenScatterGraph();
+  window.cmdDrawGraph.Press();
+  window.chScatterGraph.Do({"point", {"1", "100"}});
+  window.cmdShowPoint.Press();
+  EXPECT_EQ(host.Front(), &Main());
+  EXPECT_EQ(Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(), "50-150");
+  EXPECT_EQ(Main().Selected().lngHighlightSample(), 100);
+  EXPECT_TRUE(Main().chSampleGraph.Visible());
 }
 
 TEST_F(ScatterWindows, CloseWithTheMainWindow) {
