@@ -9,32 +9,20 @@ namespace {
 /// Samples from 1 to 2000, 81.92 ms apart.
 class GraphMouseTest : public ProgramFixture {
  protected:
-  void Open(int samples = 2000, const std::function<void(SmallSample&)>& shape = {}) {
-    files.files["/logs/run.txt"] = SmallLog(samples, shape);
-    Start();
-    Main().LoadDataFile("/logs/run.txt", 0);
-    host.messages.clear();
-    Main().cmdDrawGraph.Press();
-  }
-  void Draw(const std::string& from, const std::string& to) {
-    Main().PlotRangeFrom.Text = from;
-    Main().PlotRangeTo.Text = to;
+  void OpenAndDraw(int samples = 2000) {
+    Open(samples, "", [](SmallSample& one) { one.rpm = 1000 + one.sample; });
     Main().cmdDrawGraph.Press();
   }
   /// A verb and what it is told, as `Sample` values or whole numbers.
-  std::string Do(const std::string& verb, std::vector<std::string> words) {
+  std::string Mouse(const std::string& verb, std::vector<std::string> words) {
     Main().chSampleGraph.Do({verb, std::move(words)});
-    return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text();
+    return Range();
   }
   static std::string Time(double sample) { return std::to_string(sample * 0.08192); }
-  std::string Shown(const char* item) {
-    const ListView& list = Main().lvwSampleDetails;
-    return list.At(list.RowOfTag(item)).texts[1];
-  }
 };
 
 TEST_F(GraphMouseTest, MovesTheRange) {
-  Open();
+  OpenAndDraw();
   const struct {
     const char *from, *to, *verb;
     std::vector<std::string> words;
@@ -67,58 +55,59 @@ TEST_F(GraphMouseTest, MovesTheRange) {
   };
   for (const auto& row : kRows) {
     Draw(row.from, row.to);
-    EXPECT_EQ(Do(row.verb, row.words), row.range) << row.from << "-" << row.to << " " << row.verb
-                                                  << " " << (row.words.empty() ? "" : row.words[0]);
+    EXPECT_EQ(Mouse(row.verb, row.words), row.range)
+        << row.from << "-" << row.to << " " << row.verb << " "
+        << (row.words.empty() ? "" : row.words[0]);
   }
 }
 
 TEST_F(GraphMouseTest, WithoutQuickGraphTheWheelStopsWhereDrawWouldAndSaysNothing) {
-  Open();
+  OpenAndDraw();
   Main().chkQuickGraph.Value = false;
   Draw("501", "701");
-  EXPECT_EQ(Do("wheel", {Time(601), "-20"}), "101-1101");
-  EXPECT_EQ(Do("wheel", {Time(601), "-1"}), "101-1101");
+  EXPECT_EQ(Mouse("wheel", {Time(601), "-20"}), "101-1101");
+  EXPECT_EQ(Mouse("wheel", {Time(601), "-1"}), "101-1101");
   EXPECT_TRUE(host.messages.empty());
 }
 
 TEST_F(GraphMouseTest, PreviousGraphLeadsBackToWhereTheHandBegan) {
-  Open();
+  OpenAndDraw();
   Draw("501", "701");
-  for (int notch = 0; notch < 5; ++notch) Do("wheel", {Time(601), "1"});
-  Do("pan", {Time(601), Time(610)});
-  Do("pan", {Time(601), Time(620)});
-  EXPECT_NE(Do("pan", {Time(601), Time(620)}), "501-701");
+  for (int notch = 0; notch < 5; ++notch) Mouse("wheel", {Time(601), "1"});
+  Mouse("pan", {Time(601), Time(610)});
+  Mouse("pan", {Time(601), Time(620)});
+  EXPECT_NE(Mouse("pan", {Time(601), Time(620)}), "501-701");
   Main().mnuViewPrevious.Click();
-  EXPECT_EQ(Do("hover", {}), "501-701");
+  EXPECT_EQ(Mouse("hover", {}), "501-701");
   // A marked range is a move of its own.
-  Do("wheel", {Time(601), "3"});
-  EXPECT_EQ(Do("band", {Time(570), Time(590)}), "570-590");
+  Mouse("wheel", {Time(601), "3"});
+  EXPECT_EQ(Mouse("band", {Time(570), Time(590)}), "570-590");
   Main().mnuViewPrevious.Click();
-  EXPECT_EQ(Do("hover", {}), "551-651");
+  EXPECT_EQ(Mouse("hover", {}), "551-651");
 }
 
 TEST_F(GraphMouseTest, TheListFollowsThePointerAndComesBack) {
-  Open(2000, [](SmallSample& one) { one.rpm = 1000 + one.sample; });
+  OpenAndDraw();
   Draw("101", "301");
   Main().chSampleGraph.SelectPoint(1, 51);
-  Do("hover", {Time(201.4)});
+  Mouse("hover", {Time(201.4)});
   EXPECT_EQ(Shown("1") + " " + Shown("3"), "201 1201");
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Sample: 201, Secs: 16.466");
+  EXPECT_EQ(Said(), "Sample: 201, Secs: 16.466");
   EXPECT_DOUBLE_EQ(Main().chSampleGraph.HairLine().value(), 16.4659);
   EXPECT_EQ(Main().Selected().lngHighlightSample(), 151);
   // It is still there when the graph has moved under it.
-  Do("wheel", {Time(201), "1"});
+  Mouse("wheel", {Time(201), "1"});
   EXPECT_EQ(Shown("1"), "201");
-  Do("hover", {});
+  Mouse("hover", {});
   EXPECT_EQ(Shown("1") + " " + Shown("3"), "151 1151");
   EXPECT_FALSE(Main().chSampleGraph.HairLine().has_value());
   EXPECT_EQ(Main().chSampleGraph.SelectedPoint(), 151 - std::stoi(Main().PlotRangeFrom.Text()) + 1);
 }
 
 TEST_F(GraphMouseTest, ATinyOrEmptyLogIsNoTrouble) {
-  Open(3);
+  OpenAndDraw(3);
   for (const char* verb : {"wheel", "pan", "band"})
-    EXPECT_EQ(Do(verb, {Time(1), "-2"}), "1-3") << verb;
+    EXPECT_EQ(Mouse(verb, {Time(1), "-2"}), "1-3") << verb;
   files.files["/logs/none.txt"] = "nothing";
   Main().LoadDataFile("/logs/none.txt", 0);
   for (const auto& raise :

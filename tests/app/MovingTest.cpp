@@ -11,27 +11,21 @@ namespace {
 class Moving : public ProgramFixture {
  protected:
   Moving() {
-    files.files["/logs/run.txt"] =
-        SmallLog(2000, [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
-    Start();
-    Main().LoadDataFile("/logs/run.txt", 0);
+    Open(2000, "", [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
     Main().cmdDrawGraph.Press();
   }
   /// Samples 501 to 601 after the whole log, the middle one selected.
   void Reset() {
-    Draw("1", "2000");
-    Draw("501", "601");
+    DrawAnew("1", "2000");
+    DrawAnew("501", "601");
     Main().cboZoomAmount.Text = "2";
     Main().lvwSampleDetails.SetFocus();
     host.messages.clear();
   }
-  void Draw(const char* from, const char* to) {
-    Main().PlotRangeFrom.Text = from;
-    Main().PlotRangeTo.Text = to;
+  void DrawAnew(const char* from, const char* to) {
     Main().Selected().Forget();
-    Main().cmdDrawGraph.Press();
+    Draw(from, to);
   }
-  std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
   std::string Drawn() {
     const DrawnGraph& plot = Main().Drawn();
     return std::to_string(plot.lngPlotFirstIndex + 1) + "-" +
@@ -116,14 +110,14 @@ TEST_F(Moving, Keys) {
 
 TEST_F(Moving, KeysOfDisabledButtonsDoNothing) {
   for (const char* keys : {"Ctrl+F", "Ctrl+O"}) {
-    Draw("1", "2000");
+    DrawAnew("1", "2000");
     Main().Press(*ParseKeys(keys));
     EXPECT_EQ(Range(), "1-2000") << keys;
   }
-  Draw("501", "509");
+  DrawAnew("501", "509");
   Main().Press(*ParseKeys("Ctrl+I"));
   EXPECT_EQ(Range(), "501-509");
-  Draw("1", "101");
+  DrawAnew("1", "101");
   Main().chSampleGraph.SelectPoint(1, 1);
   for (const char* keys : {"Shift+Left", "Alt+Left", "Ctrl+Left", "Ctrl+Home"}) {
     Main().Press(*ParseKeys(keys));
@@ -153,12 +147,6 @@ TEST_F(Moving, ShiftUpAndDownWalkTheCurvesByTheirHeightAndStopAtTheEnds) {
     EXPECT_EQ(seen.size(), sign < 0 ? seen.size() : series.size())
         << "from the lowest to the highest";
   }
-}
-
-TEST_F(Moving, F1OpensTheManual) {
-  Reset();
-  EXPECT_TRUE(Main().Press({"F1"}));
-  EXPECT_EQ(MessageIds(), (std::vector<int>{30})) << "there is none here";
 }
 
 }  // namespace

@@ -6,8 +6,6 @@ namespace tarnview {
 namespace {
 
 using OpenFile = ProgramFixture;
-using Ids = std::vector<int>;
-
 TEST_F(OpenFile, ALogOnTheCommandLineIsLoadedAndDrawn) {
   files.files["/logs/run.txt"] = SmallLog(40);
   files.here = "/logs/";
@@ -17,7 +15,7 @@ TEST_F(OpenFile, ALogOnTheCommandLineIsLoadedAndDrawn) {
   EXPECT_EQ(Main().staDataLogViewer.Panel(3), "Sample Load Range 1 - 40");
   EXPECT_TRUE(Main().chSampleGraph.Visible());
   EXPECT_FALSE(Main().fraPicture.Visible());
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Sample: 20, Secs: 1.638");
+  EXPECT_EQ(Said(), "Sample: 20, Secs: 1.638");
   EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/run.txt");
 }
 
@@ -44,7 +42,7 @@ TEST_F(OpenFile, WhatDoesNotLoadIsToldAndLeavesNoLog) {
     EXPECT_FALSE(Main().LoadDataFile(row.path, row.type)) << row.path;
     EXPECT_EQ(MessageIds(), row.messages) << row.path;
     EXPECT_EQ(Main().Caption(), "Tarnview");
-    EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Loading failed");
+    EXPECT_EQ(Said(), "Loading failed");
     EXPECT_FALSE(Main().cmdDrawGraph.Enabled());
     EXPECT_FALSE(Main().fraGraphSeriesFrame.Enabled());
     EXPECT_EQ(Main().PlotRangeFrom.Text(), "");
@@ -86,6 +84,14 @@ TEST_F(OpenFile, AMarkInFrontAndLinesThatEndInCRAreNoFault) {
     }
 }
 
+TEST_F(OpenFile, AFolderThatIsDroppedIsNoFile) {
+  Open(5);
+  files.folders = {"/logs"};
+  EXPECT_FALSE(Main().DropFile("/logs"));
+  EXPECT_TRUE(Main().DropFile("/logs/run.txt"));
+  EXPECT_EQ(Boxes(), (Ids{16}));
+}
+
 TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
   files.files["/logs/run.dat"] = SmallLog(5);
   Start();
@@ -114,10 +120,8 @@ TEST_F(OpenFile, IsDrawnAtOnceWhereThatIsWanted) {
 }
 
 TEST_F(OpenFile, AMissingRecentFileIsToldAndStays) {
-  files.files["/logs/run.txt"] = SmallLog(5);
-  Start("/logs/run.txt");
+  Open(5);
   files.files.clear();
-  host.messages.clear();
   Main().mnuRecentlyUsed(0).Click();
   EXPECT_EQ(MessageIds(), (Ids{15}));
   EXPECT_TRUE(Main().mnuRecentlyUsed(0).Visible());
@@ -132,30 +136,28 @@ TEST_F(OpenFile, TheFirstRangeFollowsWarmthAndWidth) {
   files.files["/logs/run.txt"] = warming;
   const struct {
     const char* settings;
-    const char *from, *to;
+    const char* range;
   } kRows[] = {
-      {"[General]\nPlot From Temperature=50\n", "27", "64"},
-      {"[General]\nPlot From Temperature=99\n", "1", "64"},
-      {"[General]\nPlot From Temperature=50\nInitial Plot Width=20\n", "27", "47"},
-      {"[General]\nPlot From Temperature=50\nInitial Plot Width=38\n", "27", "64"},
-      {"[General]\nPlot From Temperature=99\nInitial Plot Width=20\n", "1", "21"},
-      {"[General]\nInitial Plot Width=1\n", "1", "64"},
+      {"[General]\nPlot From Temperature=50\n", "27-64"},
+      {"[General]\nPlot From Temperature=99\n", "1-64"},
+      {"[General]\nPlot From Temperature=50\nInitial Plot Width=20\n", "27-47"},
+      {"[General]\nPlot From Temperature=50\nInitial Plot Width=38\n", "27-64"},
+      {"[General]\nPlot From Temperature=99\nInitial Plot Width=20\n", "1-21"},
+      {"[General]\nInitial Plot Width=1\n", "1-64"},
   };
   for (const auto& row : kRows) {
     Start("", row.settings);
     ASSERT_TRUE(Main().LoadDataFile("/logs/run.txt", 0));
-    EXPECT_EQ(Main().PlotRangeFrom.Text(), row.from) << row.settings;
-    EXPECT_EQ(Main().PlotRangeTo.Text(), row.to) << row.settings;
+    EXPECT_EQ(Range(), row.range) << row.settings;
   }
 }
 
 TEST_F(OpenFile, WithoutQuickGraphALongLogIsShortenedInSilence) {
-  files.files["/logs/run.txt"] = SmallLog(1500);
-  Start();
+  Open(1500);
   Main().chkQuickGraph.Value = false;
   Main().LoadDataFile("/logs/run.txt", 0);
   EXPECT_EQ(Main().PlotRangeTo.Text(), "1000");
-  EXPECT_EQ(MessageIds(), (Ids{16}));
+  EXPECT_EQ(Boxes(), (Ids{16}));
 }
 
 TEST_F(OpenFile, TheLongScrollBarServesFromTheLastIndex32701) {
@@ -169,10 +171,8 @@ TEST_F(OpenFile, TheLongScrollBarServesFromTheLastIndex32701) {
 }
 
 TEST_F(OpenFile, EditedZonesAreProtected) {
-  files.files["/logs/run.txt"] = SmallLog(5);
-  Start("/logs/run.txt");
+  Open(5);
   program->Global().log.gblnZonesDirty = true;
-  host.messages.clear();
   host.answers.push_back({Answer::Kind::Cancel, "", 0, 0});
   Main().mnuFileOpen.Click();
   ASSERT_EQ(host.messages.size(), 1u);
@@ -181,6 +181,12 @@ TEST_F(OpenFile, EditedZonesAreProtected) {
   for (const auto kind : {Answer::Kind::Cancel, Answer::Kind::Yes}) {  // nothing can save them yet
     host.answers.push_back({kind, "", 0, 0});
     EXPECT_FALSE(Main().Unload());
+  }
+  for (const char* entry : {"mnuRecentlyUsed(0)", "mnuFileEditDefinition", "mnuFileOpen"}) {
+    host.answers = {{Answer::Kind::Cancel}};
+    host.messages.clear();
+    Do(std::string("click ") + entry);
+    EXPECT_EQ(host.messages.size(), 1u) << entry;
   }
   host.answers.push_back({Answer::Kind::No, "", 0, 0});
   EXPECT_TRUE(Main().Unload());

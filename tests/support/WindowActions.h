@@ -46,9 +46,8 @@ inline std::string Texts(const Form& form, const std::string& names) {
   std::string texts;
   for (const std::string& name : Split(names, ' '))
     for (const auto& [fact, value] : ControlOf(form, name)->Facts())
-      if (fact == "text" || fact == "caption")
-        texts += (texts.empty() ? "" : "|") + std::get<std::string>(value.Get());
-  return texts;
+      if (fact == "text" || fact == "caption") texts += "|" + std::get<std::string>(value.Get());
+  return texts.substr(1);
 }
 
 }  // namespace tarnview
