@@ -2,7 +2,6 @@
 
 #include "support/OptionsActions.h"
 #include "support/ProgramFixture.h"
-#include "support/WindowActions.h"
 
 namespace tarnview {
 namespace {
@@ -12,13 +11,9 @@ class CustomisingTest : public ProgramFixture {
   CustomisingTest() {
     files.files["/car/run.txt"] = SmallLog(40);
     files.files["/car/mine.txt"] =
-        "[DATALOGDEFINITION]\r\nNAME=Mine\r\nFILEEXTENSION=csv\r\nLINEFREQUENCY="
-        "10\r\nDELIMITERASCIICHARACTER=44\r\n"
-        "DATALINESBEFORE=1\r\nCOLUMNHEADERSLINESBEFORE=0\r\n"
-        "[COLUMN]\r\nNAME=Revs\r\nCOLUMNTITLE=Revs\r\nDATAITEMID=3\r\nTYPE=1\r\nDESCRIPTION="
-        "Revs\r\n"
-        "COLUMNDECIMALPLACES=0\r\n"
-        "[SAMPLE GRAPH]\r\nNAME=Its own\r\nDATA ITEMS=3\r\n\r\n";
+        std::string_view(kDefinitionOfOptions)
+            .substr(0, std::string_view(kDefinitionOfOptions).size() - 2);
+    files.files["/car/mine.txt"] += "[SAMPLE GRAPH]\r\nNAME=Its own\r\nDATA ITEMS=3\r\n\r\n";
     files.files["/car/old.csv"] =
         "timestamp,Engine Speed (RPM)\r\n100,1000\r\n200,1100\r\n300,1200\r\n400,1300\r\n";
     files.folders.insert("/logs");
@@ -29,7 +24,7 @@ class CustomisingTest : public ProgramFixture {
     host.work = [actions](Form& form) {
       if (form.name == "frmOptions") Act(form, actions);
     };
-    Act(Main(), "click mnuCustomiseOptions");
+    Do("click mnuCustomiseOptions");
   }
   std::string Boxes() {
     std::string texts;
@@ -55,12 +50,12 @@ TEST_F(CustomisingTest, AcceptedOptionsStandAfterARestartAndCancelledOnesDoNot) 
   EXPECT_NE(written.find("\r\nShow Point Sample Graph Width=500\r\n"), std::string::npos);
   EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
   Start("", written);
-  EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
-  EXPECT_EQ(program->Global().settings.gintGraphColourScheme, 3);
+  EXPECT_EQ(Set().glngShowPointWidth, 500);
+  EXPECT_EQ(Set().gintGraphColourScheme, 3);
   EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
 
   InOptions("type txtSampleWidth 600\nrow lvwDataItems RPM\nclick cmdUnCheckAll\nclick cmdCancel");
-  EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
+  EXPECT_EQ(Set().glngShowPointWidth, 500);
   EXPECT_TRUE(program->Global().catalogue.gcolFixedDataItems.Item(3).blnDisplay);
   EXPECT_EQ(files.files["/car/Tarnview.ini"], written);
 }
@@ -73,7 +68,7 @@ TEST_F(CustomisingTest, EachSettingStandsAfterOkAndARestartAndNoneMovesOnCancel)
     program->WriteSettingsTo("/car/Tarnview.ini");
     Main().WriteINIFile();
     const std::string before = files.files["/car/Tarnview.ini"];
-    const Settings settings = program->Global().settings;
+    const Settings settings = Set();
     Settings wanted = settings;
     host.work = [&](Form& form) {
       auto* options = dynamic_cast<frmOptions*>(&form);
@@ -83,11 +78,11 @@ TEST_F(CustomisingTest, EachSettingStandsAfterOkAndARestartAndNoneMovesOnCancel)
       Act(*options, ok ? "click cmdOK" : "click cmdCancel");
       if (ok) wanted = options->Draft().settings;
     };
-    Act(Main(), "click mnuCustomiseOptions");
+    Do("click mnuCustomiseOptions");
     int changed = 0;
     if (ok) Start("", files.files["/car/Tarnview.ini"]);
     for (const SettingRow& row : AllSettings()) {
-      const std::string now = row.text(program->Global().settings);
+      const std::string now = row.text(Set());
       if (std::string_view(row.setIn.window).starts_with("frmOptions/")) {
         EXPECT_EQ(now, row.text(ok ? wanted : settings)) << row.key;
         changed += now != row.text(settings);
@@ -146,15 +141,15 @@ TEST_F(CustomisingTest, ALogOfTheOldDefinitionIsClosedFirstOrKeptWithIt) {
   EXPECT_TRUE(Log().gblnSamplesLoaded);
   EXPECT_EQ(Main().Caption(), caption);
   EXPECT_NE(program->Global().gclsDataLogDefinition.strName, "Mine");
-  EXPECT_EQ(program->Global().settings.gstrGenericDefinitionFile, "");
-  EXPECT_EQ(program->Global().settings.glngShowPointWidth, 500);
+  EXPECT_EQ(Set().gstrGenericDefinitionFile, "");
+  EXPECT_EQ(Set().glngShowPointWidth, 500);
 
   host.answers = {{Answer::Kind::Ok}, {Answer::Kind::Yes}, {Answer::Kind::No}};
   InOptions("type txtPath(6) /car/mine.txt\nclick cmdOK");
   EXPECT_EQ(Boxes(), "86/64 0/36 0/291 ");
   EXPECT_FALSE(Log().gblnSamplesLoaded);
   EXPECT_EQ(Main().Caption(), "Tarnview");
-  EXPECT_EQ(program->Global().settings.gstrGenericDefinitionFile, "/car/mine.txt");
+  EXPECT_EQ(Set().gstrGenericDefinitionFile, "/car/mine.txt");
 }
 
 }  // namespace

@@ -7,30 +7,29 @@ namespace {
 
 class DataTags : public ProgramFixture {
  protected:
-  ~DataTags() override { program.reset(); }
   DataTags() {
     files.files["/logs/run.txt"] = SmallLog(60);
     files.files["/logs/other.csv"] =
         std::string_view(*RealFileSystem().Read(TARNVIEW_EXAMPLES "/utec.csv"));
     Start();
   }
-  void Open(const char* path, int type = 0) {
+  void OpenLog(const char* path, int type) {
     Main().LoadDataFile(path, type);
-    if (Log().gblnSamplesLoaded) Main().cmdDrawGraph.Press();
+    if (Log().gblnSamplesLoaded) Do("click cmdDrawGraph");
   }
   frmDataTags& Tags() {
-    Main().mnuViewTags.Do({"click", {}});
+    Do("click mnuViewTags");
     return dynamic_cast<frmDataTags&>(*host.Front());
   }
 };
 
 TEST_F(DataTags, TheWindowOutlivesItsLog) {
   for (const auto& [path, type] : {std::pair{"/logs/none.txt", 1}, {"/logs/other.csv", 6}}) {
-    Open("/logs/run.txt");
-    Main().mnuViewNewDataTag.Do({"click", {}});
+    OpenLog("/logs/run.txt", 1);
+    Do("click mnuViewNewDataTag");
     frmDataTags& window = Tags();
     ASSERT_EQ(window.lvwTags.Count(), 1) << path;
-    Open(path, type);
+    OpenLog(path, type);
     window.cmdShow.Press();
     window.cmdNew.Press();
     window.cmdDelete.Press();
@@ -42,13 +41,13 @@ TEST_F(DataTags, TheWindowOutlivesItsLog) {
 
 TEST_F(DataTags, OpenForEveryFamilyThatHasOne) {
   const auto mayOpen = [&](const char* path, int type) {
-    Open(path, type);
+    OpenLog(path, type);
     return Main().mnuViewTags.Enabled();
   };
   EXPECT_TRUE(mayOpen("/logs/run.txt", 1));
   EXPECT_FALSE(mayOpen("/logs/none.txt", 1));
   EXPECT_FALSE(mayOpen("/logs/other.csv", 6));
-  Main().mnuViewNewDataTag.Do({"click", {}});
+  Do("click mnuViewNewDataTag");
   ASSERT_TRUE(Main().mnuViewTags.Enabled());
   Tags().cmdDelete.Press();
   EXPECT_FALSE(Main().mnuViewTags.Enabled());

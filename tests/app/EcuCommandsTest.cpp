@@ -1,7 +1,6 @@
 // Capture and conversion from the main window's menus.
 
 #include "support/ProgramFixture.h"
-#include "support/WindowActions.h"
 
 namespace tarnview {
 namespace {
@@ -28,21 +27,17 @@ class EcuCommandsTest : public ProgramFixture {
   std::map<std::string, std::string> actions;
 };
 
-TEST_F(EcuCommandsTest, ACapturedLogIsOpenedAndJoinsTheRecentFiles) {
+TEST_F(EcuCommandsTest, ACapturedLogIsOpenedAndOneThatFailsLeavesNoLog) {
   StartWithPrograms("/car/run.txt");
   actions["frmNewDownload"] = "type txtFileName new\nclick cmdOK";
-  Act(Main(), "click mnuFileNew");
+  Do("click mnuFileNew");
   EXPECT_EQ(Main().Caption(), "Tarnview - new.txt (FM Link Data Log)");
   EXPECT_EQ(Log().glngLastSampleTime, 50);
   EXPECT_EQ(Main().mnuRecentlyUsed(0).Caption(), "&1 /logs/new.txt");
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Loading complete");
-}
-
-TEST_F(EcuCommandsTest, ACaptureThatFailsLeavesNoLog) {
-  StartWithPrograms("/car/run.txt");
+  EXPECT_EQ(Said(), "Loading complete");
   processes.exitCodes = {-22};
-  actions["frmNewDownload"] = "type txtFileName new\nclick cmdOK";
-  Act(Main(), "click mnuFileNew");
+  actions["frmNewDownload"] = "type txtFileName newer\nclick cmdOK";
+  Do("click mnuFileNew");
   EXPECT_EQ(Main().Caption(), "Tarnview");
   EXPECT_FALSE(Log().gblnSamplesLoaded);
   EXPECT_FALSE(Main().cmdDrawGraph.Enabled());
@@ -53,13 +48,13 @@ TEST_F(EcuCommandsTest, AConvertedLogIsOpenedWhereThatIsWanted) {
   StartWithPrograms();
   const std::string paths = "type txtPath(0) /logs/kept.bin\ntype txtPath(1) /logs/kept\n";
   actions["frmConvertBIN"] = paths + "click chkAutoLoad\nclick cmdOK";
-  Act(Main(), "click mnuToolsConvert");
+  Do("click mnuToolsConvert");
   EXPECT_TRUE(files.files.contains("/logs/kept.txt"));
   EXPECT_FALSE(Log().gblnSamplesLoaded);
   EXPECT_EQ(program->Global().settings.gstrLastConvertedBinary, "/logs/kept.bin");
   actions["frmConvertBIN"] = paths + "click cmdOK";
   host.answers = {{Answer::Kind::Yes}};
-  Act(Main(), "click mnuToolsConvert");
+  Do("click mnuToolsConvert");
   EXPECT_EQ(Main().Caption(), "Tarnview - kept.txt (FM Link Data Log)");
 }
 

@@ -13,7 +13,7 @@ class MapSavingTest : public ProgramFixture {
     }
     return text + " Engine Size: 1.8\r\n Chip Date: 2001-03-01\r\n Atmospheric Pressure: 101\r\n";
   }
-  void Open() {
+  void OpenMap() {
     files.files["/car/a.map"] = Map();
     Start("/car/a.map");
     host.messages.clear();
@@ -27,12 +27,12 @@ class MapSavingTest : public ProgramFixture {
 };
 
 TEST_F(MapSavingTest, Opening) {
-  Open();
+  OpenMap();
   EXPECT_EQ(Main().Caption(), "Tarnview - a.map (FM Link MAP File)");
   EXPECT_TRUE(Main().mnuFileSave.Enabled);
   EXPECT_TRUE(Main().mnuFileSaveAs.Enabled);
   EXPECT_FALSE(Main().mnuModulesScatterGraph.Enabled);
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Loading complete");
+  EXPECT_EQ(Said(), "Loading complete");
   EXPECT_FALSE(Main().LoadDataFile("/car/none.map", kMAPFile));
   files.files["/car/no.map"] = "no map";
   EXPECT_FALSE(Main().LoadDataFile("/car/no.map", kMAPFile));
@@ -42,10 +42,10 @@ TEST_F(MapSavingTest, Opening) {
 }
 
 TEST_F(MapSavingTest, Saving) {
-  Open();
+  OpenMap();
   Dirty();
-  Main().mnuFileSave.Do({"click", {}});
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Saving complete");
+  Do("click mnuFileSave");
+  EXPECT_EQ(Said(), "Saving complete");
   EXPECT_TRUE(files.files["/car/a.map"].starts_with(
       " Tarnview MAP File\r\n File Created: 24-Nov-2026 14:05\r\n\r\n"));
   EXPECT_FALSE(Log().gblnZonesDirty);
@@ -53,45 +53,45 @@ TEST_F(MapSavingTest, Saving) {
   Dirty();
   const std::string before = files.files["/car/a.map"];
   files.failWrites = true;
-  Main().mnuFileSave.Do({"click", {}});
+  Do("click mnuFileSave");
   EXPECT_EQ(Texts(), "64 Something went wrong...\n");
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Problem saving");
+  EXPECT_EQ(Said(), "Problem saving");
   EXPECT_FALSE(Main().mnuFileSave.Enabled);
   EXPECT_TRUE(Log().gblnZonesDirty);
   EXPECT_EQ(files.files["/car/a.map"], before);
 }
 
 TEST_F(MapSavingTest, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
-  Open();
+  OpenMap();
   files.files["/car/a.map"] += "other";
   host.answers = {{Answer::Kind::No}, {Answer::Kind::Yes}};
-  Main().mnuFileSave.Do({"click", {}});
+  Do("click mnuFileSave");
   EXPECT_EQ(Texts(),
             "292 a.map was changed by another program since it was opened.\r\nDo you want to "
             "overwrite it?\n");
   EXPECT_TRUE(files.files["/car/a.map"].ends_with("other"));
-  Main().mnuFileSave.Do({"click", {}});
+  Do("click mnuFileSave");
   EXPECT_TRUE(files.files["/car/a.map"].ends_with(" End Of Notes\r\n"));
   EXPECT_EQ(host.messages.size(), 2u);
 }
 
 TEST_F(MapSavingTest, SaveAs) {
-  Open();
-  Main().mnuFileSaveAs.Do({"click", {}});
+  OpenMap();
+  Do("click mnuFileSaveAs");
   EXPECT_EQ(Log().gstrCurrentFileTitle, "a.map");
   host.answers = {{Answer::Kind::File, "/car/b.map"}};
-  Main().mnuFileSaveAs.Do({"click", {}});
+  Do("click mnuFileSaveAs");
   EXPECT_EQ(Main().Caption(), "Tarnview - b.map (FM Link MAP File)");
   EXPECT_EQ(Main().Files().Recent().At(0).path, "/car/b.map");
   EXPECT_TRUE(files.files.contains("/car/b.map"));
 }
 
 TEST_F(MapSavingTest, AProtectedMapIsSavedUnderAnotherName) {
-  Open();
+  OpenMap();
   Dirty();
   files.readOnly = {"/car/a.map"};
   host.answers = {{}, {Answer::Kind::File, "/car/a.map"}, {}, {Answer::Kind::File, "/car/b.map"}};
-  Main().mnuFileSave.Do({"click", {}});
+  Do("click mnuFileSave");
   const std::string refused =
       "48 This file is write-protected:\r\n/car/a.map\r\n\r\nPlease choose another name.\n";
   EXPECT_EQ(Texts(), refused + refused);
@@ -125,7 +125,7 @@ TEST_F(MapSavingTest, EditedZonesAreAskedFor) {
                {Answer::Kind::No, true, false},
                {Answer::Kind::Cancel, false, false}};
   for (const auto& c : cases) {
-    Open();
+    OpenMap();
     EXPECT_TRUE(Main().Files().SaveChangesPrompt());
     Dirty();
     host.answers = {{c.answer}};

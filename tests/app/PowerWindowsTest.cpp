@@ -10,11 +10,7 @@ class PowerWindowsOfProgram : public ProgramFixture {
  protected:
   /// 60 samples of rising rpm.
   void OpenLog() {
-    files.files["/run.txt"] =
-        SmallLog(60, [](SmallSample& sample) { sample.rpm = 2000 + sample.sample * 40; });
-    Start();
-    Main().LoadDataFile("/run.txt", 1);
-    host.messages.clear();
+    Open(60, "", [](SmallSample& sample) { sample.rpm = 2000 + sample.sample * 40; });
   }
   frmPowerGraph& Front() { return dynamic_cast<frmPowerGraph&>(*host.Front()); }
 };
@@ -100,7 +96,7 @@ TEST_F(PowerWindowsOfProgram, RecentGraphsAreTheSameInAll) {
   EXPECT_EQ(other.mnuFileRecent(0).Caption(), "&1 /a.pow");
   other.mnuFileRecent(0).Do({"click", {}});
   EXPECT_EQ(other.lblBenchmark2.Caption(), "a");
-  EXPECT_EQ(program->Global().settings.recentPowerGraphFiles, (std::vector<std::string>{"/a.pow"}));
+  EXPECT_EQ(Set().recentPowerGraphFiles, (std::vector<std::string>{"/a.pow"}));
 }
 
 }  // namespace

@@ -26,11 +26,6 @@ Graph 3 Log Family=6
 
 class ScatterWindows : public ProgramFixture {
  protected:
-  void Open(const std::string& settings, int samples = 40) {
-    files.files["/logs/run.txt"] = SmallLog(samples);
-    Start("", settings);
-    Main().LoadDataFile("/logs/run.txt", 0);
-  }
   std::vector<frmScatterGraph*> Windows() {
     std::vector<frmScatterGraph*> windows;
     for (Form* form : host.open)
@@ -41,8 +36,8 @@ class ScatterWindows : public ProgramFixture {
 
 TEST_F(ScatterWindows, TakeTheRangeOnShowAsAFilter) {
   for (const bool wanted : {true, false}) {
-    Open(std::string("[General]\r\nAuto Scatter Graph Sample Filter=") + (wanted ? "Y" : "N") +
-         "\r\n");
+    Open(40,
+         std::string("[General]\nAuto Scatter Graph Sample Filter=") + (wanted ? "Y\n" : "N\n"));
     EXPECT_EQ(Main().Scatter().OpenScatterGraph().objFilters().Count(), 0) << "the whole log";
     Main().PlotRangeTo.Do({"type", {"30"}});
     const clsScatterFilters& filters = Main().Scatter().OpenScatterGraph().objFilters();
@@ -55,31 +50,31 @@ TEST_F(ScatterWindows, TakeTheRangeOnShowAsAFilter) {
 }
 
 TEST_F(ScatterWindows, AreDrawnAfterALoadWhereThatIsWanted) {
-  Open(std::string("[General]\r\nScatter Graph Auto Draw=Y\r\n") + kPreset);
+  Open(40, std::string("[General]\nScatter Graph Auto Draw=Y\n") + kPreset);
   ASSERT_EQ(Windows().size(), 1u) << "the other preset is of another family";
   EXPECT_EQ(Windows()[0]->chScatterGraph.Data().Cloud()->x.size(), 40u);
   EXPECT_EQ(Windows()[0]->cboPointShape.Text(), "Up Tri");
-  Main().mnuFileDrawScatter.Do({"click", {}});
-  EXPECT_FALSE(program->Global().settings.gblnScatterGraphAutoDraw);
+  Do("click mnuFileDrawScatter");
+  EXPECT_FALSE(Set().gblnScatterGraphAutoDraw);
   Main().LoadDataFile("/logs/run.txt", 0);
   EXPECT_EQ(Windows().size(), 1u);
 }
 
 TEST_F(ScatterWindows, AnAutomaticGraphIsSilentAboutItsFaults) {
   files.files["/logs/run.txt"] = SmallLog(5100);
-  Start("", std::string("[General]\r\nScatter Graph Auto Draw=Y\r\n") + kPreset);
+  Start("", std::string("[General]\nScatter Graph Auto Draw=Y\n") + kPreset);
   host.messages.clear();
   Main().LoadDataFile("/logs/run.txt", 0);
-  EXPECT_EQ(MessageIds(), std::vector<int>{16}) << "the load's own alone: no zones";
+  EXPECT_EQ(Boxes(), Ids{16}) << "the load's own alone: no zones";
   ASSERT_EQ(Windows().size(), 1u);
   EXPECT_FALSE(Windows()[0]->chScatterGraph.Data().Cloud());
   // What the user does in the window is told of as in any other.
   Windows()[0]->lvwPresets.Do({"row", {"Gone"}});
-  EXPECT_EQ(MessageIds(), (std::vector<int>{16, 43}));
+  EXPECT_EQ(Boxes(), Ids{43});
 }
 
 TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
-  Open("[General]\r\n");
+  Open(40);
   frmScatterGraph& window = Main().Scatter().OpenScatterGraph();
   window.cmdDrawGraph.Press();
   window.chScatterGraph.SelectPoint(1, 40);
@@ -101,19 +96,19 @@ TEST_F(ScatterWindows, KeepTheirGraphThroughALoad) {
 }
 
 TEST_F(ScatterWindows, APointLeadsBackToTheSampleGraph) {
-  Open("[General]\n", 500);
+  Open(500);
   frmScatterGraph& window = Main().Scatter().OpenScatterGraph();
   window.cmdDrawGraph.Press();
   window.chScatterGraph.Do({"point", {"1", "100"}});
   window.cmdShowPoint.Press();
   EXPECT_EQ(host.Front(), &Main());
-  EXPECT_EQ(Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(), "50-150");
+  EXPECT_EQ(Range(), "50-150");
   EXPECT_EQ(Main().Selected().lngHighlightSample(), 100);
   EXPECT_TRUE(Main().chSampleGraph.Visible());
 }
 
 TEST_F(ScatterWindows, CloseWithTheMainWindow) {
-  Open("[General]\r\n");
+  Open(40);
   frmScatterGraph& window = Main().Scatter().OpenScatterGraph();
   Main().Scatter().OpenScatterGraph().mnuFileClose.Do({"click", {}});
   EXPECT_EQ(Windows(), std::vector<frmScatterGraph*>{&window});
@@ -121,7 +116,7 @@ TEST_F(ScatterWindows, CloseWithTheMainWindow) {
   window.Height = 6000;
   Main().Unload();
   EXPECT_TRUE(Windows().empty());
-  EXPECT_EQ(program->Global().settings.windows.scatterGraph->lngWidth, 9000);
+  EXPECT_EQ(Set().windows.scatterGraph->lngWidth, 9000);
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 namespace tarnview {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -25,34 +24,29 @@ class SettingsFileTest : public ProgramFixture {
     files.files["/defs/mine.txt"] =
         RealFileSystem().Read(TARNVIEW_DATA "/Universal Data Log Formats/OBDLink.txt").value_or("");
   }
-  /// A program that keeps its settings, as tarnview does.
-  void StartKeeping(const std::string& settings) {
-    files.files[kPath] = settings;
-    program =
-        std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
-    program->Start("", false);
-  }
+  void StartWith(const std::string& settings) { StartKeeping(settings, {"/car/", "/data/"}); }
   std::string Closed() {
     Main().Unload();
     return files.files[kPath];
   }
+  /// What the settings file says on closing, after a start with another.
+  std::string ClosedAfter(const std::string& settings) {
+    StartWith(settings);
+    return Closed();
+  }
 };
 
 TEST_F(SettingsFileTest, AFileWithEveryKeySetComesBackByteForByte) {
-  StartKeeping(FullSettings());
-  const std::string written = Closed();
-  EXPECT_THAT(MessageIds(), ElementsAre());
-  EXPECT_EQ(written, FullSettings());
-  StartKeeping(written);
-  EXPECT_EQ(Closed(), written);
+  EXPECT_EQ(ClosedAfter(FullSettings()), FullSettings());
+  EXPECT_EQ(Boxes(), Ids{});
 }
 
 TEST_F(SettingsFileTest, TheDefaultsComeBackByteForByteToo) {
-  StartKeeping("");
+  StartWith("");
   EXPECT_TRUE(Main().chkQuickGraph.Value());
   EXPECT_EQ(Main().Details().CheckedItems(), (std::vector<int>{3, 5, 7, 17, 20, 21, 23, 36}));
   const std::string written = Closed();
-  EXPECT_THAT(MessageIds(), ElementsAre());
+  EXPECT_EQ(Boxes(), (Ids{}));
   EXPECT_THAT(written, Not(HasSubstr("Window State")));
   EXPECT_THAT(
       written,
@@ -60,12 +54,11 @@ TEST_F(SettingsFileTest, TheDefaultsComeBackByteForByteToo) {
   EXPECT_THAT(
       written,
       HasSubstr("[Recently Used Files]\r\n[Recently Used Power Graph Files]\r\n[Data Item"));
-  StartKeeping(written);
-  EXPECT_EQ(Closed(), written);
+  EXPECT_EQ(ClosedAfter(written), written);
 }
 
 TEST_F(SettingsFileTest, WhatTheWindowShowsIsKept) {
-  StartKeeping("");
+  StartWith("");
   Main().Width = 9000;
   Main().Left = 15;
   Main().WindowState = 1;  // minimized, which nobody wants back
@@ -83,35 +76,35 @@ TEST_F(SettingsFileTest, WhatTheWindowShowsIsKept) {
         "Scatter Graph Auto Draw=Y", "Checked Data Items=20,3", "Show Checked Only=Y",
         "File 0=1|/logs/a.txt", "Window State=0", "Window Left=15", "Window Width=9000"})
     EXPECT_THAT(written, HasSubstr("\n" + std::string(line) + "\r\n"));
-  EXPECT_EQ(Main().staDataLogViewer.Panel(1), "Done");
-  StartKeeping(written);
+  EXPECT_EQ(Said(), "Done");
+  StartWith(written);
   EXPECT_EQ(Main().Width, 9000);
   EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/a.txt");
 }
 
 TEST_F(SettingsFileTest, AFullDiskLeavesTheOldFile) {
-  StartKeeping(FullSettings());
+  StartWith(FullSettings());
   EXPECT_THAT(files.accesses, ::testing::Contains("clear /car/"));
   files.failWrites = true;
   EXPECT_EQ(Closed(), FullSettings());
-  EXPECT_THAT(MessageIds(), ElementsAre(39));
+  EXPECT_EQ(Boxes(), (Ids{39}));
 }
 
 TEST_F(SettingsFileTest, WhatIsNoSettingsFileIsKeptBesideAndToldOnce) {
   std::string kept = "/car/Tarnview.ini.bad";
   for (const std::string& bad : {std::string("Quick Graph=0\r\n"), std::string("\0\0", 2)}) {
     host.messages.clear();
-    StartKeeping(bad);
+    StartWith(bad);
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_THAT(host.messages[0].text, HasSubstr("It is kept as:\r\n" + kept));
     EXPECT_TRUE(Main().chkQuickGraph.Value());
     EXPECT_THAT(Closed(), HasSubstr("[General]\r\n"));
     EXPECT_EQ(files.files[kept], bad);
-    StartKeeping(files.files[kPath]);
+    StartWith(files.files[kPath]);
     EXPECT_EQ(host.messages.size(), 1u);
     kept += "2";  // no later one takes the place of the first
   }
-  StartKeeping("\xEF\xBB\xBF[General]\r\nQuick Graph=0\r\n");  // saved by an editor
+  StartWith("\xEF\xBB\xBF[General]\r\nQuick Graph=0\r\n");  // saved by an editor
   EXPECT_FALSE(Main().chkQuickGraph.Value());
 }
 
@@ -119,7 +112,7 @@ TEST_F(SettingsFileTest, OfADamagedFileEachUndamagedKeyIsRead) {
   std::string damaged = FullSettings();
   damaged[damaged.find("Zoom Amount=30") + 12] = '\0';
   files.files["/car/Tarnview.ini.old"] = "[General]\r\n";
-  StartKeeping(damaged);
+  StartWith(damaged);
   ASSERT_EQ(host.messages.size(), 1u);
   EXPECT_EQ(
       host.messages[0].text,
@@ -133,17 +126,17 @@ TEST_F(SettingsFileTest, OfADamagedFileEachUndamagedKeyIsRead) {
   EXPECT_EQ(files.files["/car/Tarnview.ini.old"], "[General]\r\n");
 
   const std::string cut = FullSettings().substr(0, FullSettings().find("Graph Y Max=") + 5);
-  StartKeeping(cut);
+  StartWith(cut);
   EXPECT_EQ(host.messages.size(), 1u);
   EXPECT_EQ(files.files["/car/Tarnview.ini.bad2"], cut);
   EXPECT_EQ(Main().cboZoomAmount.Text(), "30");
 }
 
 TEST_F(SettingsFileTest, TheSettingsFromBeforeThisRunStayBeside) {
-  StartKeeping(FullSettings());
+  StartWith(FullSettings());
   Closed();
   EXPECT_FALSE(files.files.contains("/car/Tarnview.ini.old"));
-  StartKeeping(FullSettings());
+  StartWith(FullSettings());
   Main().txtYMax.Text = "90";
   Main().WriteINIFile();
   Main().txtYMax.Text = "100";
@@ -162,10 +155,10 @@ std::string LinesOnlyIn(const std::string& text, const std::string& other) {
 }
 
 TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
-  StartKeeping(FullSettings());
+  StartWith(FullSettings());
   const std::unique_ptr<Program> first = std::move(program);
   // The other one starts, changes what it likes, and ends.
-  StartKeeping(FullSettings());
+  StartWith(FullSettings());
   Main().txtYMax.Text = "90";
   Main().cboZoomAmount.Do({"type", {"4"}});
   Main().LoadDataFile("/logs/a.txt", 0);
@@ -173,7 +166,7 @@ TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
       .gcolSampleGraphPresets.AddDirect(clsSampleGraphPresets::BlankPreset())
       .lngLogFamily = 1;
   program->Global().catalogue.gcolFixedDataItems.Item(3).lngColour = 77;
-  program->Global().settings.beyond.drawAfterOpening = true;
+  Set().beyond.drawAfterOpening = true;
   const std::string theirs = Closed();
 
   first->MainWindow().cboZoomAmount.Do({"type", {"5"}});
@@ -191,7 +184,7 @@ TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
 
 TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
   files.broken.insert(kPath);
-  StartKeeping(FullSettings());
+  StartWith(FullSettings());
   ASSERT_EQ(host.messages.size(), 1u);
   EXPECT_THAT(host.messages[0].text, HasSubstr("cannot be read"));
   files.broken.clear();
@@ -199,12 +192,11 @@ TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
 }
 
 TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsTold) {
-  StartKeeping(
+  StartWith(
       "[General]\nAlternative Background Picture=/none.bmp\nDefault Working Directory=/none\n"
-      "Generic Data Log Definition File=/none.txt\n[New Preset Sample Graphs]\nGraph 1 "
-      "Name=A\nGraph 1 Data "
-      "Items=84\n");
-  EXPECT_THAT(MessageIds(), ElementsAre(18, 32, 79, 43));
+      "Generic Data Log Definition File=/none.txt\n"
+      "[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Data Items=84\n");
+  EXPECT_EQ(Boxes(), (Ids{18, 32, 79, 43}));
   const std::string written = Closed();
   for (const char* line :
        {"Alternative Background Picture=/none.bmp", "Default Working Directory=/none",
@@ -215,19 +207,19 @@ TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsTold) {
 TEST_F(SettingsFileTest, APictureThatIsNoFileIsNeverOpened) {
   files.files["/pipe.png"] = "";
   files.pipes = {"/pipe.png"};
-  StartKeeping("[General]\nAlternative Background Picture=/pipe.png\n");
-  EXPECT_THAT(MessageIds(), ElementsAre(18));
+  StartWith("[General]\nAlternative Background Picture=/pipe.png\n");
+  EXPECT_EQ(Boxes(), (Ids{18}));
   EXPECT_EQ(Main().fraPicture.BackgroundPicture(), "");
   EXPECT_THAT(Closed(), HasSubstr("Alternative Background Picture=/pipe.png\r\n"));
 }
 
 TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
   files.files["/data/Tarnview_Install.ini"] = "[General]\nLog EXE=data\n";
-  StartKeeping("[General]\n");
-  EXPECT_EQ(program->Global().settings.gstrLogEXE, "data");
+  StartWith("[General]\n");
+  EXPECT_EQ(Set().gstrLogEXE, "data");
   files.files["/car/Tarnview_Install.ini"] = "[General]\nLog EXE=beside\n";
-  StartKeeping("[General]\n");
-  EXPECT_EQ(program->Global().settings.gstrLogEXE, "beside");
+  StartWith("[General]\n");
+  EXPECT_EQ(Set().gstrLogEXE, "beside");
 }
 
 /// "family name" of each preset of a section, in the file's order.
@@ -244,7 +236,7 @@ std::string PresetsIn(const std::string& settings, const std::string& section) {
 
 TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThenOn) {
   const std::string section = "New Preset Sample Graphs";
-  StartKeeping(
+  StartWith(
       "[General]\nFirst Run Indicator=Y\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Log "
       "Family=2\n");
   clsSampleGraphPresets* presets = &program->Global().gcolSampleGraphPresets;
@@ -257,12 +249,12 @@ TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThe
       "7 Power Graphing\n2 A\n7 A/F Investigation\n7 Mine\n7 Knock Investigation 2\n7 Clear All "
       "Checkboxes\n";
   EXPECT_EQ(PresetsIn(written, section), kept);
-  StartKeeping(written);
+  StartWith(written);
   written = Closed();
   EXPECT_EQ(PresetsIn(written, section), kept);
   EXPECT_THAT(PresetsIn(written, "New Preset Scatter Graphs"), HasSubstr("7 Spool Up (MAP)\n"));
 
-  StartKeeping("[General]\n");
+  StartWith("[General]\n");
   EXPECT_EQ(PresetsIn(Closed(), section), "");
   files.files.erase(kPath);
   program =
@@ -276,12 +268,12 @@ TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
       "[Generic Data Item Display Properties]\nItem 1 Colour=1\nItem 62 Colour=5\n";
   constexpr int kKnockRetard = 62;
   constexpr Colour kOfBuiltInDefinition = 8404992;
-  StartKeeping("[General]\nFirst Run Indicator=Y\n" + display);
+  StartWith("[General]\nFirst Run Indicator=Y\n" + display);
   EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour,
             kOfBuiltInDefinition);
   EXPECT_THAT(Closed(), Not(HasSubstr("First Run")));
   for (const bool told : {true, false}) {  // else as the built-in items do
-    StartKeeping("[General]\n" + (told ? display : ""));
+    StartWith("[General]\n" + (told ? display : ""));
     const Catalogue& catalogue = program->Global().catalogue;
     const clsLogDataItem& item = catalogue.gcolUniversalDataItems.Item(kKnockRetard);
     const clsLogDataItem& builtIn = catalogue.gcolFixedDataItems.Item(kKnockRetard);
@@ -293,12 +285,10 @@ TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
 
 TEST_F(SettingsFileTest, SettingsBeyondTheSettledOnesStandLastAndOnlyWhereTheyAreNotTheirDefault) {
   const std::string drawn = "[Beyond]\r\nDraw After Opening=Y\r\n";
-  StartKeeping(drawn);
-  EXPECT_TRUE(program->Global().settings.beyond.drawAfterOpening);
-  EXPECT_TRUE(Closed().ends_with("\r\n" + drawn));
-  StartKeeping("[Beyond]\r\nDraw After Opening=N\r\n");
-  EXPECT_FALSE(program->Global().settings.beyond.drawAfterOpening);
-  EXPECT_THAT(Closed(), Not(HasSubstr("Beyond")));
+  EXPECT_TRUE(ClosedAfter(drawn).ends_with("\r\n" + drawn));
+  EXPECT_TRUE(Set().beyond.drawAfterOpening);
+  EXPECT_THAT(ClosedAfter("[Beyond]\r\nDraw After Opening=N\r\n"), Not(HasSubstr("Beyond")));
+  EXPECT_FALSE(Set().beyond.drawAfterOpening);
 }
 
 TEST_F(SettingsFileTest, TheCommandLineKeepsNothing) {

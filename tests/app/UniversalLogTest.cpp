@@ -11,12 +11,9 @@ namespace {
 class UniversalLogs : public ProgramFixture {
  protected:
   /// A start with a program folder, where reports may be written.
-  void StartIn(const std::string& definition) {
-    files.files["/car/Tarnview.ini"] =
-        "[General]\nGeneric Data Log Definition File=" + definition + "\n";
-    program = std::make_unique<Program>(host, files, clock, processes,
-                                        ProgramFolders{"/car/", "/car/data/"});
-    program->Start("", false);
+  void StartIn(const std::string& path) {
+    StartKeeping("[General]\nGeneric Data Log Definition File=" + path + "\n",
+                 {"/car/", "/car/data/"});
     host.messages.clear();
   }
   const std::string definition =
@@ -31,9 +28,8 @@ TEST_F(UniversalLogs, ALogIsReadThroughTheDefinitionOfTheSettings) {
   EXPECT_TRUE(host.messages.empty());
   EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal - Test Log)");
   EXPECT_EQ(Log().FormatDataItem(3, 1), "2000");
-  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).texts[0], "Revs");
-  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).toolTip,
-            "About Revs\r\nData log column(s): Revs");
+  const auto& row = Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3"));
+  EXPECT_EQ(row.texts[0] + ": " + row.toolTip, "Revs: About Revs\r\nData log column(s): Revs");
   EXPECT_EQ(Main().lvwSampleDetails.RowOfTag("5"), 0);
   EXPECT_NE(
       files.files[std::string("/car/") + kUnknownColumnsFile].find("Unknown Columns:\r\nOther\r\n"),
