@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 #include "qt/TestApplication.h"
 #include "qt/host/Dialogs.h"
 #include "qt/host/QtHost.h"
+#include "samplegraph/frmNewPresetName.h"
 
 namespace tarnview {
 namespace {
@@ -30,6 +32,24 @@ TEST(QtHostTest, AModalWindowHoldsItsCallerUntilItIsUnloaded) {
   about.ShowModal();
   EXPECT_TRUE(wasModal);
   EXPECT_FALSE(host.AnyWindow());
+  Settle();
+}
+
+TEST(QtHostTest, WhatIsTypedFirstTakesThePlaceOfTheTextThere) {
+  TestApplication();
+  QtHost host;
+  Messages messages(host, [](int) { return std::string(); });
+  frmNewPresetName form(host, messages, "Knock");
+  QTimer::singleShot(0, [&] {
+    // The desktop gives the focus later than the window is on show.
+    auto* field = host.WindowOf(form)->window().findChild<QLineEdit*>("txtName");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return field->hasFocus(); }));
+    EXPECT_EQ(field->selectedText(), "Knock");
+    QTest::keyClicks(field, "Idle");
+    QTest::keyClick(field, Qt::Key_Return);
+  });
+  form.ShowModal();
+  EXPECT_EQ(form.strName(), "Idle");
   Settle();
 }
 

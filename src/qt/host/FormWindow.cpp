@@ -152,12 +152,18 @@ void FormWindow::Raise(bool modal) {
   MakeRoomForTexts(*window_);
   MakeRoomForParts(*window_);
   if (modal) window_->setWindowModality(Qt::ApplicationModal);
-  const bool opens = !window_->isVisible();
+  opens_ = !window_->isVisible();
   window_->show();
-  if (auto* field = qobject_cast<QLineEdit*>(window_->focusWidget()); field && opens)
-    field->selectAll();
+  if (QWidget* first = window_->focusWidget()) SelectTextOnOpening(*first);
   window_->raise();
   window_->activateWindow();
+}
+
+/// What is typed first into a window takes the place of the text there. The desktop may give the
+/// focus only after the window is on show.
+void FormWindow::SelectTextOnOpening(QWidget& first) {
+  if (&first == window_ || !std::exchange(opens_, false)) return;
+  if (auto* field = qobject_cast<QLineEdit*>(&first)) field->selectAll();
 }
 
 bool FormWindow::eventFilter(QObject* receiver, QEvent* event) {
@@ -167,8 +173,10 @@ bool FormWindow::eventFilter(QObject* receiver, QEvent* event) {
     case QEvent::KeyRelease:
       return Receives(receiver) && KeyUp(static_cast<QKeyEvent&>(*event));
     case QEvent::FocusIn:
-      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_)
+      if (auto* widget = qobject_cast<QWidget*>(receiver); widget && widget->window() == window_) {
+        SelectTextOnOpening(*widget);
         TakeFocus(*widget);
+      }
       return false;
     default:
       return receiver == window_ && WindowEvent(*event);

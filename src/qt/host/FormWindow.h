@@ -49,6 +49,7 @@ class FormWindow : public QObject {
   bool EnterOrEscape(const KeyPress& key);
   bool Receives(QObject* receiver) const;
   void DrainRepeats();
+  void SelectTextOnOpening(QWidget& first);
   void TakeFocus(QWidget& widget);
   /// Another window, or an open dialog, has the user.
   bool IsHeldUp() const;
@@ -59,6 +60,7 @@ class FormWindow : public QObject {
   Binder binder_;
   std::function<void(Form&)> cameToFront_;
   bool draining_ = false;
+  bool opens_ = false;               ///< on show, and nothing in it has had the focus
   std::optional<KeyPress> pressed_;  ///< the key that went down last
 };
 
