@@ -1,5 +1,6 @@
 // Errors that nothing else ends, and what the error log keeps: the program stays.
 
+#include "power/frmPowerGraph.h"
 #include "scatter/frmScatterGraph.h"
 #include "support/ProgramFixture.h"
 
@@ -39,20 +40,20 @@ class Errors : public ProgramFixture {
     return files.files["/car/error.log"].find(text) != std::string::npos;
   }
 
+  const std::string kTold = "0 There is not enough memory for that.|";
   FullDesktop desk;
 };
 
 TEST_F(Errors, ShortMemoryIsToldAndEndsNothing) {
-  const std::string told = "0 There is not enough memory for that.|";
   desk.full = true;
   Click(Main().cmdDrawGraph);
-  EXPECT_EQ(Boxes(), told);
+  EXPECT_EQ(Boxes(), kTold);
   EXPECT_TRUE(Logged("cmdDrawGraph_Click\r\nNumber       : 7 Out of memory"));
   EXPECT_EQ(Main().Pointer(), MousePointer::Default);
   EXPECT_FALSE(Main().proProgInd.Visible());
   EXPECT_FALSE(Main().LoadDataFile("/logs/run.txt", 1));
   EXPECT_EQ(Boxes(),
-            told + "12 Could not load the necessary minimum of three records from the data log.|");
+            kTold + "12 Could not load the necessary minimum of three records from the data log.|");
   EXPECT_EQ(Main().Pointer(), MousePointer::Default);
   desk.full = false;
   EXPECT_TRUE(Main().LoadDataFile("/logs/run.txt", 1));
@@ -64,12 +65,27 @@ TEST_F(Errors, ADrawThatFailsLeavesNoWordOfItsWork) {
   Click(Main().mnuModulesScatterGraph);
   auto& scatter = dynamic_cast<frmScatterGraph&>(*desk.Front());
   scatter.cboYAxis.Do({"choose", {"#2"}});
+  Click(Main().mnuModulesPowerGraph);
+  auto& power = dynamic_cast<frmPowerGraph&>(*desk.Front());
+  power.chPowerGraph.Watch([this](What) {
+    if (desk.full) throw std::bad_alloc();
+  });
   desk.full = true;
   Click(scatter.cmdDrawGraph);
   Click(Main().cmdDrawGraph);
-  EXPECT_EQ(scatter.staScatterGraph.Panel(1) + Main().staDataLogViewer.Panel(1), "");
+  Click(power.cmdDrawGraph);
+  EXPECT_EQ(Boxes(), kTold + kTold + kTold);
+  EXPECT_EQ(scatter.staScatterGraph.Panel(1) + Main().staDataLogViewer.Panel(1) +
+                power.staPowerGraph.Panel(1),
+            "");
   EXPECT_FALSE(scatter.prgProgInd.Visible());
-  EXPECT_TRUE(Logged("DrawScatter\r\nNumber       : 7 Out of memory"));
+  EXPECT_EQ(power.Pointer(), MousePointer::Default);
+  EXPECT_FALSE(power.chPowerGraph.Visible());
+  for (const char* procedure : {"DrawScatter", "frmPowerGraph/cmdDrawGraph_Click"})
+    EXPECT_TRUE(Logged(procedure + std::string("\r\nNumber       : 7 Out of memory"))) << procedure;
+  desk.full = false;
+  Click(power.cmdDrawGraph);
+  EXPECT_TRUE(power.chPowerGraph.Visible());
 }
 
 TEST_F(Errors, WhatFailsIsInTheErrorLog) {
