@@ -14,15 +14,27 @@ TEST(EXEFunctions, TellWhyADocumentDidNotOpen) {
   EXPECT_EQ(programs.ShellOpen("a.htm"), 33);
   EXPECT_TRUE(host.messages.empty());
 
-  for (const auto& [code, text] :
-       {std::pair(2, "File not found"), std::pair(31, "No association for file extension"),
-        std::pair(0, "Unknown error"), std::pair(32, "DLL not found")}) {
-    processes.openCode = code;
+  std::string told;
+  for (processes.openCode = 0; processes.openCode <= 32; ++processes.openCode) {
     programs.ShellOpen("b.htm");
-    EXPECT_EQ(host.messages.back().text, text);
+    const std::string& text = host.messages.back().text;
+    if (text != "Unknown error") told += std::to_string(processes.openCode) + " " + text + "\n";
     EXPECT_EQ(host.messages.back().style, kBoxOk);
   }
-  EXPECT_EQ(processes.opened.size(), 5u);
+  EXPECT_EQ(told, R"(2 File not found
+3 Path not found
+5 Access denied
+8 Out of memory
+11 Invalid EXE file or error in EXE image
+26 A sharing violation occurred
+27 Incomplete or invalid file association
+28 DDE Time out
+29 DDE transaction failed
+30 DDE busy
+31 No association for file extension
+32 DLL not found
+)");
+  EXPECT_EQ(processes.opened.size(), 34u);
 }
 
 TEST(EXEFunctions, WaitForAProgramUntilItEndsOrTheUserHasEnough) {

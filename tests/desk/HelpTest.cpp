@@ -58,6 +58,10 @@ TEST_F(HelpTest, NoManualOrAFullDiskIsTold) {
   ASSERT_EQ(host.messages.size(), 2u);
   EXPECT_EQ(host.messages[0].id, 30);
   EXPECT_EQ(host.messages[1].id, 30);
+  files.failWrites = false;
+  files.broken = {"C:\\car\\Documentation\\HelpLauncher.htm"};
+  Help{files, programs, messages, "C:\\car\\Documentation\\"}.ShowHelp("DataTags");
+  EXPECT_EQ(host.messages.size(), 3u) << "without a folder of the user's it goes nowhere else";
   EXPECT_TRUE(processes.opened.empty());
 }
 

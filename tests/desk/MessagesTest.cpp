@@ -84,6 +84,8 @@ TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgram) {
   messages.ShowMessage(Message::FileNotLoaded, true);
   EXPECT_EQ(shown, "15 File could not be loaded.");
   EXPECT_EQ(host.messages.size(), 2u);
+  messages.ShowMessage(Message::FileNotLoaded);
+  EXPECT_EQ(host.messages.size(), 3u);
 }
 
 TEST_F(MessagesTest, HaveLongDetailsCutWhereTheyAreShown) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "base/Numbers.h"
 #include "desk/PageLayout.h"
 #include "ui/RecordingPage.h"
 
@@ -28,52 +29,62 @@ TEST(PageLayoutTest, APictureFillsTheWidthOrTheHeightAndKeepsItsShape) {
   }
 }
 
-TEST(PageLayoutTest, LabelsEndWhereValuesBeginAndTheBlockStandsInTheMiddle) {
-  const RecordingPage page;  // a letter of 10 points is 100 twips wide, one of 24 is 240
-  const PageLayout layout =
-      LayOutPage(page, "Title", {{"File", "a.txt"}, {"Range", "1 to 9"}, {"", "2"}}, 0.5);
-  ASSERT_EQ(layout.texts.size(), 6u);
-  EXPECT_DOUBLE_EQ(layout.texts[0].left, (12240 - 5 * 240) / 2.0);
-  EXPECT_EQ(layout.texts[0].points, 24);
-  const double left = (12240 - (5 + 3 + 6) * 100) / 2.0;
-  const struct {
-    const char* text;
-    double left, line;
-  } rows[] = {{"File : ", left + 100, 0},
-              {"a.txt", left + 800, 0},
-              {"Range : ", left, 1},
-              {"1 to 9", left + 800, 1},
-              {"2", left + 800, 2}};
-  for (std::size_t i = 0; i < std::size(rows); ++i) {
-    EXPECT_EQ(layout.texts[i + 1].text, rows[i].text);
-    EXPECT_DOUBLE_EQ(layout.texts[i + 1].left, rows[i].left) << rows[i].text;
-    EXPECT_DOUBLE_EQ(layout.texts[i + 1].top, layout.texts[1].top + 200 * rows[i].line)
-        << rows[i].text;
+/// Each text at its place, then the picture. A letter of 10 points is 100 twips wide, a line 200
+/// high.
+std::string Told(const DetailRows& rows, double width = 12240) {
+  RecordingPage page;
+  page.width = width;
+  const PageLayout layout = LayOutPage(page, "Title", rows, 0.5);
+  std::string told;
+  const auto add = [&](double number) { told += FixedText(number, 0) + " "; };
+  for (const PlacedText& text : layout.texts) {
+    add(text.left);
+    add(text.top);
+    add(text.points);
+    told += text.text + "\n";
   }
-  EXPECT_DOUBLE_EQ(layout.picture.top, layout.texts.back().top + 200 + 120)
-      << "a line of 6 points lies between";
+  add(layout.picture.left);
+  add(layout.picture.top);
+  add(layout.picture.width);
+  return told + "\n";
 }
 
-TEST(PageLayoutTest, AValueThatIsTooLongGoesOnInTheNextLineBehindASeparator) {
-  const RecordingPage page;
-  const std::string folder(60, 'f'), name(70, 'n');
-  const PageLayout layout = LayOutPage(page, "T", {{"File", "/" + folder + "/" + name}}, 0.5);
-  ASSERT_EQ(layout.texts.size(), 4u);
-  EXPECT_EQ(layout.texts[2].text, "/" + folder + "/");
-  EXPECT_EQ(layout.texts[3].text, name);
-  for (const PlacedText& text : layout.texts) EXPECT_GE(text.left, 720);
+TEST(PageLayoutTest, LabelsEndWhereValuesBeginAndTheBlockStandsInTheMiddle) {
+  EXPECT_EQ(Told({{"File", "a.txt"}, {"Range", "1 to 9"}, {"", "2"}}), R"(5520 720 24 Title
+5520 1320 10 File : 
+6220 1320 10 a.txt
+5420 1520 10 Range : 
+6220 1520 10 1 to 9
+6220 1720 10 2
+720 2040 10800 
+)");
+  // A value that is too long goes on behind a separator, and a long label leaves it an inch.
+  const std::string f = std::string(60, 'f'), n = std::string(70, 'n'), l = std::string(95, 'l');
+  EXPECT_EQ(Told({{"File", "/" + f + "/" + n}}),
+            "5520 720 24 Title\n2270 1320 10 File : \n2970 1320 10 /" + f + "/\n2970 1520 10 " + n +
+                "\n720 1840 10800 \n");
+  EXPECT_EQ(Told({{l, "123456789012345 one"}}),
+            "5520 720 24 Title\n720 1320 10 " + l +
+                " : \n10520 1320 10 12345678901234\n10520 1520 10 5 one\n720 1840 10800 \n");
 }
 
 TEST(PageLayoutTest, ManyDetailsGetSmallerAndNeverTakeThePicturesHalf) {
   const RecordingPage page;
-  const auto laid = [&](std::size_t count) {
-    return LayOutPage(page, "T", DetailRows(count, {"", "x"}), 0.5);
-  };
-  EXPECT_EQ(laid(30).texts.back().points, 10);
-  EXPECT_EQ(laid(40).texts.back().points, 8);
-  EXPECT_EQ(laid(2000).texts.back().points, 6);
-  EXPECT_EQ(laid(2000).texts.back().text, "...");
-  EXPECT_GT(laid(2000).picture.height, 5000);
+  std::string told;
+  for (const std::size_t count : {36u, 37u, 45u, 46u, 60u, 61u, 62u}) {
+    const PageLayout layout = LayOutPage(page, "T", DetailRows(count, {"", "x"}), 0.5);
+    told += std::to_string(count) + ": " + std::to_string(layout.texts.size() - 1) + " of " +
+            std::to_string(layout.texts.back().points) + ", " + layout.texts.back().text + "\n";
+    EXPECT_GT(layout.picture.height, 5000);
+  }
+  EXPECT_EQ(told, R"(36: 36 of 10, x
+37: 37 of 8, x
+45: 45 of 8, x
+46: 46 of 6, x
+60: 60 of 6, x
+61: 60 of 6, ...
+62: 60 of 6, ...
+)");
   RecordingPage stamp;
   stamp.width = stamp.height = 100;
   EXPECT_EQ(LayOutPage(stamp, "T", {{"File", "long enough"}}, 0.5).picture.width, 0);

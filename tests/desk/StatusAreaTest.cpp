@@ -12,14 +12,23 @@ TEST(StatusArea, WorkThatFailsTakesItsWordAlong) {
     StatusBar bar{*this, "bar", 3};
     ProgressBar progress{*this, "progress"};
   };
-  RecordingHost host;
+  struct Desktop : RecordingHost {
+    int paints = 0;
+    void Repaint(Form&) override { ++paints; }
+  } host;
   for (const bool fails : {false, true}) {
     Window window(host);
     StatusArea status(window, window.bar, window.progress);
+    EXPECT_FALSE(window.progress.Visible());
+    host.paints = 0;
     host.events.Run("", "", [&] {
       const AtWork work(window, status);
       status.Say("Drawing");
       status.ShowProgressInStatusBar(10);
+      EXPECT_EQ(host.paints, 1);
+      status.Progress("Drawing", 4);
+      EXPECT_EQ(host.paints, 2) << "each step is seen";
+      EXPECT_EQ(window.progress.Value() * 100 + window.progress.Max(), 410);
       EXPECT_EQ(window.Pointer(), MousePointer::Hourglass);
       if (fails) throw std::bad_alloc();
     });
