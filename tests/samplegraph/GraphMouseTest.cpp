@@ -1,21 +1,18 @@
-// The mouse on the Sample Graph, through the main window that it works in.
-
+#include "WholeGraph.h"
 #include "samplegraph/GraphMouse.h"
-#include "support/ProgramFixture.h"
 
 namespace tarnview {
 namespace {
 
-/// Samples from 1 to 2000, 81.92 ms apart.
-class GraphMouseTest : public ProgramFixture {
+class GraphMouseTest : public WholeGraph {
  protected:
   void OpenAndDraw(int samples = 2000) {
-    Open(samples, "", [](SmallSample& one) { one.rpm = 1000 + one.sample; });
-    Main().cmdDrawGraph.Press();
+    OpenLog(samples);
+    graph.DrawGraphChecked();
   }
   /// A verb and what it is told, as `Sample` values or whole numbers.
   std::string Mouse(const std::string& verb, std::vector<std::string> words) {
-    Main().chSampleGraph.Do({verb, std::move(words)});
+    chSampleGraph.Do({verb, std::move(words)});
     return Range();
   }
   static std::string Time(double sample) { return std::to_string(sample * 0.08192); }
@@ -63,7 +60,7 @@ TEST_F(GraphMouseTest, MovesTheRange) {
 
 TEST_F(GraphMouseTest, WithoutQuickGraphTheWheelStopsWhereDrawWouldAndSaysNothing) {
   OpenAndDraw();
-  Main().chkQuickGraph.Value = false;
+  chkQuickGraph.Value = false;
   Draw("501", "701");
   EXPECT_EQ(Mouse("wheel", {Time(601), "-20"}), "101-1101");
   EXPECT_EQ(Mouse("wheel", {Time(601), "-1"}), "101-1101");
@@ -77,45 +74,45 @@ TEST_F(GraphMouseTest, PreviousGraphLeadsBackToWhereTheHandBegan) {
   Mouse("pan", {Time(601), Time(610)});
   Mouse("pan", {Time(601), Time(620)});
   EXPECT_NE(Mouse("pan", {Time(601), Time(620)}), "501-701");
-  Main().mnuViewPrevious.Click();
+  zoom.ShowPreviousGraph();
   EXPECT_EQ(Mouse("hover", {}), "501-701");
   // A marked range is a move of its own.
   Mouse("wheel", {Time(601), "3"});
   EXPECT_EQ(Mouse("band", {Time(570), Time(590)}), "570-590");
-  Main().mnuViewPrevious.Click();
+  zoom.ShowPreviousGraph();
   EXPECT_EQ(Mouse("hover", {}), "551-651");
 }
 
 TEST_F(GraphMouseTest, TheListFollowsThePointerAndComesBack) {
   OpenAndDraw();
   Draw("101", "301");
-  Main().chSampleGraph.SelectPoint(1, 51);
+  chSampleGraph.SelectPoint(1, 51);
   Mouse("hover", {Time(201.4)});
   EXPECT_EQ(Shown("1") + " " + Shown("3"), "201 1201");
   EXPECT_EQ(Said(), "Sample: 201, Secs: 16.466");
-  EXPECT_DOUBLE_EQ(Main().chSampleGraph.HairLine().value(), 16.4659);
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 151);
+  EXPECT_DOUBLE_EQ(chSampleGraph.HairLine().value(), 16.4659);
+  EXPECT_EQ(selection.lngHighlightSample(), 151);
   // It is still there when the graph has moved under it.
   Mouse("wheel", {Time(201), "1"});
   EXPECT_EQ(Shown("1"), "201");
   Mouse("hover", {});
   EXPECT_EQ(Shown("1") + " " + Shown("3"), "151 1151");
-  EXPECT_FALSE(Main().chSampleGraph.HairLine().has_value());
-  EXPECT_EQ(Main().chSampleGraph.SelectedPoint(), 151 - std::stoi(Main().PlotRangeFrom.Text()) + 1);
+  EXPECT_FALSE(chSampleGraph.HairLine().has_value());
+  EXPECT_EQ(chSampleGraph.SelectedPoint(), 151 - std::stoi(PlotRangeFrom.Text()) + 1);
 }
 
 TEST_F(GraphMouseTest, ATinyOrEmptyLogIsNoTrouble) {
   OpenAndDraw(3);
   for (const char* verb : {"wheel", "pan", "band"})
     EXPECT_EQ(Mouse(verb, {Time(1), "-2"}), "1-3") << verb;
-  files.files["/logs/none.txt"] = "nothing";
-  Main().LoadDataFile("/logs/none.txt", 0);
-  for (const auto& raise :
-       {Main().chSampleGraph.Wheel, Main().chSampleGraph.Pan, Main().chSampleGraph.Band})
+  log.gblnSamplesLoaded = false;
+  range.Clear();
+  graph.Clear();
+  for (const auto& raise : {chSampleGraph.Wheel, chSampleGraph.Pan, chSampleGraph.Band})
     raise(1, 2);
-  Main().chSampleGraph.Hover(1);
-  Main().chSampleGraph.HoverEnd();
-  EXPECT_EQ(Main().PlotRangeFrom.Text(), "");
+  chSampleGraph.Hover(1);
+  chSampleGraph.HoverEnd();
+  EXPECT_EQ(PlotRangeFrom.Text(), "");
 }
 
 }  // namespace
