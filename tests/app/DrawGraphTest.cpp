@@ -7,36 +7,6 @@ namespace {
 
 using DrawGraph = ProgramFixture;
 
-TEST_F(DrawGraph, ChecksTheRangeAsItWasTyped) {
-  Open(2000);
-  Main().chkQuickGraph.Value = false;
-  const struct {
-    const char *from, *to, *drawn;
-    Ids messages;
-  } kRows[] = {
-      {"1", "1001", "1-1001", {}},       {"1", "1002", "2-1002", {1}},
-      {"50", "20", "19-21", {}},         {"5000", "20", "19-21", {}},
-      {"1900", "9999", "1-2000", {1}},   {"1990", "0", "1-2000", {}},
-      {"1990", "1990", "1990-1992", {}}, {"2000", "2000", "1998-2000", {}},
-      {"12abc", "40", "12abc-40", {}},
-  };
-  for (const auto& row : kRows) {
-    Draw(row.from, row.to);
-    EXPECT_EQ(Range(), row.drawn) << row.from << " " << row.to;
-    EXPECT_EQ(Boxes(), row.messages) << row.from << " " << row.to;
-  }
-}
-
-TEST_F(DrawGraph, WithNothingCheckedItSaysSoAndKeepsTheGraph) {
-  Open(50);
-  Main().cmdDrawGraph.Press();
-  for (int row = 1; row <= Main().lvwSampleDetails.Count(); ++row)
-    Main().lvwSampleDetails.SetChecked(row, false);
-  Main().cmdDrawGraph.Press();
-  EXPECT_EQ(MessageIds(), (Ids{10}));
-  EXPECT_EQ(Main().chSampleGraph.Data().Series().at(0).x.size(), 50u);
-}
-
 TEST_F(DrawGraph, WithoutALogNothingIsDrawn) {
   Open(50);
   Main().LoadDataFile("/logs/none.txt", 1);
@@ -62,39 +32,6 @@ TEST_F(DrawGraph, EnterLeavesTheBoxBeforeItDraws) {
   Main().Press({"I", false, true});
   EXPECT_EQ(Main().Selected().lngHighlightSample(), 1499);
   EXPECT_EQ(Shown("1"), "1499");
-}
-
-TEST_F(DrawGraph, AnUnchangedGraphIsNotBuiltAgain) {
-  Open(50);
-  int built = 0;
-  Main().chSampleGraph.Watch([&](What what) { built += what == What::Content; });
-  Main().cmdDrawGraph.Press();
-  Main().cmdDrawGraph.Press();
-  EXPECT_EQ(built, 1);
-  Main().chkFixY.Value = true;
-  Main().cmdDrawGraph.Press();
-  EXPECT_EQ(built, 2);
-  EXPECT_EQ(Main().chSampleGraph.Data().y.max, 240);
-  Draw("1", "40");
-  EXPECT_EQ(built, 3);
-}
-
-TEST_F(DrawGraph, AnItemThatIsNotPlottableLosesItsCheck) {
-  Open(50);
-  Main().lvwSampleDetails.Do({"tick", {"Sample", "on"}});
-  EXPECT_FALSE(Main().lvwSampleDetails.At(1).checked);
-}
-
-TEST_F(DrawGraph, HiddenRowsKeepTheirChecks) {
-  Open(50);
-  const auto checked = Main().Details().CheckedItems();
-  const int all = Main().lvwSampleDetails.Count();
-  Main().chkShowCheckedOnly.Value = true;
-  EXPECT_EQ(Main().lvwSampleDetails.Count(), static_cast<int>(checked.size()));
-  Main().lvwSampleDetails.Do({"tick", {"RPM", "off"}});
-  Main().chkShowCheckedOnly.Value = false;
-  EXPECT_EQ(Main().lvwSampleDetails.Count(), all);
-  EXPECT_EQ(Main().Details().CheckedItems().size(), checked.size() - 1);
 }
 
 TEST_F(DrawGraph, ASelectedPointShowsItsSample) {
