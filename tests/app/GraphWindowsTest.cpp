@@ -8,12 +8,6 @@ namespace {
 
 class GraphWindows : public ProgramFixture {
  protected:
-  Ids Ticked() {
-    Ids items;
-    for (const auto& row : Main().lvwSampleDetails.Rows())
-      if (row.checked) items.push_back(std::stoi(row.tag));
-    return items;
-  }
   /// What a user does in the windows of those names, then in the main window.
   void Do(const std::string& action, std::map<std::string, std::string> inWindows = {}) {
     host.work = [=](Form& form) {
@@ -39,40 +33,9 @@ Graph 3 Data Items=
 Graph 3 Log Family=1
 )";
 
-TEST_F(GraphWindows, APresetTicksItsItemsAndDraws) {
-  Open(50, kPresets);
-  Do("click chkShowCheckedOnly\nrow lvwPresets Knock");
-  ASSERT_EQ(Main().lvwPresets.Count(), 2);
-  EXPECT_EQ(Ticked(), (Ids{20, 3}));  // in the order of the list
-  EXPECT_EQ(Main().lvwSampleDetails.Count(), 2);
-  EXPECT_TRUE(Main().chkFixY.Value());
-  EXPECT_TRUE(Main().chSampleGraph.Data().Series().empty());
-  Do("double lvwPresets Knock");
-  EXPECT_EQ(Main().chSampleGraph.Data().Series().size(), 2u);
-  EXPECT_EQ(Main().chSampleGraph.Data().y.max, 120);
-  Do("row lvwPresets None");
-  EXPECT_EQ(Ticked(), (Ids{}));
-}
-
-TEST_F(GraphWindows, TheFixedMaximumIsSteppedWithinItsLimits) {
-  Open(50, kPresets);
-  Do("click chkFixY");
-  const std::tuple<const char*, const char*, const char*> rows[] = {{"90", "up", "100"},
-                                                                    {"15", "down", "10"},
-                                                                    {"2147483647", "up", "1000"},
-                                                                    {"-2147483648", "down", "10"}};
-  for (const auto& [before, direction, after] : rows) {
-    Main().txtYMax.Text = std::string(before);
-    Do(std::string("step updYMax ") + direction);
-    EXPECT_EQ(Main().txtYMax.Text(), after) << before;
-  }
-}
-
 TEST_F(GraphWindows, PresetsAreUpdatedAddedAndKept) {
   Open(50, kPresets);
   auto& presets = program->Global().gcolSampleGraphPresets;
-  Do("click mnuEditUpdatePreset");  // none selected
-  EXPECT_EQ(presets.Item(1).colDataItems, (Ids{20, 3}));
   Do("row lvwPresets Knock\ntick lvwSampleDetails MAP on\ntype txtYMax 7x5\n"
      "click mnuEditUpdatePreset");
   EXPECT_EQ(presets.Item(1).colDataItems, (Ids{20, 5, 3}));
@@ -131,28 +94,22 @@ TEST_F(GraphWindows, GoesToASampleInAGraphOfTheSameWidth) {
   }
 }
 
-TEST_F(GraphWindows, ExportsWhatTheListShows) {
-  Open(40, "[General]\r\nChecked Data Items=3\r\n",
-       [](SmallSample& one) { one.rpm += one.sample; });
-  Do("type PlotRangeFrom 2\ntype PlotRangeTo 3\nclick chkShowCheckedOnly");
-  host.answers = {{Answer::Kind::Ok}};
+TEST_F(GraphWindows, AnExportKeepsItsPathUntilTheNextLog) {
+  Open(40);
+  host.answers = {{Answer::Kind::File, "/logs/other.csv"}, {Answer::Kind::Ok}};
   Do("click mnuFileExport");
-  EXPECT_EQ(files.files["/logs/run.csv"],
-            "TARNVIEW EXPORT FILE\r\nOriginal Data Log Path and File Name: /logs/run.txt\r\n"
-            "Original Data Log File Type: FM Link Data Logs\r\n\r\n"
-            "Sample,Secs,RPM\r\n2,0.164,1002\r\n3,0.246,1003\r\n");
-  EXPECT_EQ(Said(), "Export complete");
   EXPECT_TRUE(Main().Exported());
-
-  host.answers = {{Answer::Kind::File, "/logs/other.csv"}};
-  Do("tick lvwSampleDetails RPM off\nclick mnuFileExport");
-  EXPECT_TRUE(files.files["/logs/other.csv"].ends_with("\nSample,Secs\r\n2,0.164\r\n3,0.246\r\n"));
   files.failWrites = true;
-  host.answers = {{Answer::Kind::Ok}};
   Do("click mnuFileExport");
   EXPECT_EQ(files.accesses.back(), "write /logs/other.csv") << "the path used last";
   EXPECT_EQ(Boxes(), (Ids{64}));
   EXPECT_FALSE(Main().Exported());
+  files.failWrites = false;
+  Main().LoadDataFile("/logs/run.txt", 0);
+  host.answers = {{Answer::Kind::Ok}};
+  Do("click mnuFileExport");
+  EXPECT_NE(files.files["/logs/run.csv"].find("File Type: FM Link Data Logs\r\n"),
+            std::string::npos);
 }
 
 TEST_F(GraphWindows, ZoneInfluenceFollowsTheSelectedSampleOfALinkLog) {
