@@ -73,8 +73,10 @@ TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxesAndTheRangeOnShow) {
   rangeFilter = {30, 10, 1};
   for (const bool wanted : {true, false}) {
     settings.gblnAutoScatterFilter = wanted;
+    catalogue.gcolFixedDataItems.Item(20).blnDisplay = wanted;
     Open(50);
     EXPECT_EQ(window->lvwFilters.Count(), wanted ? 1 : 0);
+    EXPECT_EQ(window->lvwSampleDetails.RowOfTag("20") > 0, wanted);
   }
   EXPECT_EQ(window->Caption() + "|" + Texts(*window, "cboXAxis cboYAxis cboColourBy lblEmptyPlace"),
             "Tarnview Scatter Graph - run.txt|RPM|Sample No.|None|Choose two data items and "
@@ -156,7 +158,10 @@ TEST_F(ScatterGraphTest, AFaultLeavesNoGraph) {
   for (const auto& row : kRows) {
     if (row.filter.lngDataItemSeq) window->AddFilter(row.filter);
     host.takesOffers = row.takesOffers;
-    window->DrawScatter(row.quiet);
+    if (row.quiet)
+      window->DrawScatter(true);
+    else
+      Do("click cmdDrawGraph");
     EXPECT_EQ(Boxes(), row.boxes) << row.what;
     EXPECT_EQ(window->chScatterGraph.Data().Cloud() ? Points().x.size() : 0, row.points);
     EXPECT_EQ(window->chScatterGraph.Visible(), row.points > 0) << row.what;
@@ -196,7 +201,7 @@ Sample,MAP,RPM
 20,120.0,1020
 30,120.0,1030
 )");
-  EXPECT_EQ(Panel(), "Export complete");
+  EXPECT_EQ(Panel() + " " + std::to_string(window->prgProgInd.Max()), "Export complete 3");
   EXPECT_TRUE(window->Exported());
   exportTo("/a.csv", true);
   EXPECT_EQ(Boxes(), Ids{64});
@@ -281,6 +286,11 @@ TEST_F(ScatterGraphTest, PresetsAreAppliedUpdatedAndAdded) {
   EXPECT_EQ(window->lvwPresets.SelectedRow(), 2);
   EXPECT_EQ(other->lvwPresets.Count(), 2);
   EXPECT_EQ(other->objFilters().Count(), 0) << "each window has filters of its own";
+  for (const auto& [number, style] : {std::pair{99, "X|10"}, {-1, "3D Ball|1"}}) {
+    presets.Item(1).lngPointShape = presets.Item(1).lngPointSize = number;
+    Do("row lvwPresets Boost");
+    EXPECT_EQ(Texts(*window, "cboPointShape cboPointSize"), style);
+  }
 }
 
 }  // namespace
