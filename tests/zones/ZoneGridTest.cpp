@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "base/Numbers.h"
+#include "zones/RowsAround.h"
 #include "zones/ZoneGrid.h"
 
 namespace tarnview {
@@ -50,6 +52,23 @@ TEST(ZoneGrid, RowsAroundAMAP) {
         << c.MAP << ": " << rows.lower << " " << rows.upper << " " << rows.lowerMAP << " "
         << rows.upperMAP;
   }
+}
+
+TEST(ZoneGrid, HowFarASampleLiesBetweenTwoRows) {
+  std::string told;
+  for (const bool six : {true, false}) {
+    for (const double kPa : {0., 30., 43., 44., 56., 57., 69.5, 70., 83., 84., 95., 99., 219.5}) {
+      const RowsAround rows = RowsAroundMAP(kPa, six);
+      told += std::to_string(rows.lower) + "-" + std::to_string(rows.upper) + " " +
+              FixedText(rows.up, 3) + (kPa == 57. ? "\n" : " ");
+    }
+    told += "\n";
+  }
+  EXPECT_EQ(told, R"(1-2 0.000 1-2 0.000 1-2 1.000 2-3 0.000 2-3 1.000 3-4 0.000
+4-5 -0.038 4-5 0.000 4-5 1.000 5-6 0.000 5-6 0.917 5-6 1.000 5-6 1.000 
+0-1 0.500 1-2 0.250 1-2 0.575 1-2 0.600 1-2 0.900 1-2 0.925
+2-3 0.237 2-3 0.250 2-3 0.575 2-3 0.600 2-3 0.875 2-3 0.975 5-6 0.975 
+)");
 }
 
 TEST(ZoneGrid, ZoneNumberOfASample) {

@@ -154,6 +154,8 @@ TEST(ZoneSheet, FlagsComeBackAsTheBoxesStand) {
       {"bit 6 of a chip without a box for it", kMid18, 0x42, 0, "NB", "Off", 0x42, 0},
       {"bit 6 as quad injection", kMid16, 0x42, 0, "NB", "Off", 0x42, 0},
       {"wide band of the first chips beside EGR", {1.8, MakeDate(2003, 3, 15), 1}, 0x19, 0, "WB", "Lambda", 0x11, 0},
+      {"the day that L3 came", {1.6, MakeDate(2000, 6, 21), 1}, 0x01, 0, "NB", "Lambda", 0x01, 0},
+      {"the day before", {1.6, MakeDate(2000, 6, 20), 1}, 0x01, 0, "NB", "Lambda", 0x81, 0},
       {"L3 alone", day, 0x81, 4, "NB", "L3", 0x81, 4},
       {"255 in z800", kNew18, 0x02, 255, "NB", "Off", 0x02, 233},
       {"z800 of a chip without boxes", kOld16, 0x02, 0x5a, "NB", "Off", 0x82, 0x5a},
