@@ -81,6 +81,21 @@ Cells SplitRow(std::string_view line) {
   return cells;
 }
 
+/// From the first line of enough columns on; nothing where there is none. A large file of another
+/// kind is looked at a byte at a time, not a line at a time.
+std::string_view FromHeading(std::string_view bytes) {
+  std::size_t line = 0, columns = 1;
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    if (bytes[at] == '\n') {
+      line = at + 1;
+      columns = 1;
+    } else if (bytes[at] == kDelimiter && ++columns == kFewestColumns) {
+      return bytes.substr(line);
+    }
+  }
+  return {};
+}
+
 class UTECCSVLog : public SampleLog {
  public:
   UTECCSVLog(std::string_view bytes, const LoadContext& context)
@@ -129,11 +144,9 @@ Cells UTECCSVLog::ReadRow() {
 
 std::size_t UTECCSVLog::ReadHeading() {
   const std::size_t lineLength = TextLines(lines_).Next().size();
+  lines_ = TextLines(FromHeading(bytes_));
   Cells rows[3];
-  do {
-    headingRows_.clear();
-    rows[0] = ReadRow();
-  } while (rows[0].size() < kFewestColumns);
+  rows[0] = ReadRow();
   rows[1] = ReadRow();
   const TextLines behindTwo = lines_;
   rows[2] = ReadRow();

@@ -50,7 +50,10 @@ MAF M Hz: 44 14 14 14
 }
 
 TEST(UTECCSVLog, TwoHeadingRows) {
-  const LoadedSampleLog loaded(LoadUTECCSVLog, R"(RPM,MAP,MAP,AFR,BOOST,WG,KNOCK
+  const LoadedSampleLog loaded(LoadUTECCSVLog, R"(a log,of
+
+a run,of one
+RPM,MAP,MAP,AFR,BOOST,WG,KNOCK
 ,,DIG,,(ol),,
 3250,8.5,142,1470,45.5,66.5,3
 850,-8.5,12,n/a,0,133,0
