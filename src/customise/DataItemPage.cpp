@@ -50,22 +50,18 @@ clsLogDataItem* DataItemPage::Item() {
 
 void DataItemPage::UpdateFamilies() {
   const int family = window_.cboLogFamily.ListIndex();
-  filling_ = true;
   window_.cboLogFamily.SetList(draft_.kinds.gcolLogFamilies.Descriptions());
   if (family >= 0) window_.cboLogFamily.SetListIndex(family);
-  filling_ = false;
 }
 
 void DataItemPage::ShowFamily(int family) {
-  filling_ = true;
-  window_.cboLogFamily.SetListIndex(family - 1);
-  filling_ = false;
-  ListItems();
+  if (Family() == family)
+    ListItems();
+  else
+    window_.cboLogFamily.SetListIndex(family - 1);
 }
 
 void DataItemPage::ListItems() {
-  if (filling_) return;
-  filling_ = true;
   CheckedKeys displayed;
   for (int id = 1; id <= Items().Count(); ++id)
     if (Items().Item(id).blnDisplay) displayed[CheckedKey(id)] = id;
@@ -75,7 +71,6 @@ void DataItemPage::ListItems() {
   form.pictures = false;
   window_.lvwDataItems.Clear();
   SetUpSampleListView(window_.lvwDataItems, displayed, form, draft_.kinds.gcolLogFamilies, Items());
-  filling_ = false;
   PopulateDataItemDisplay();
 }
 
@@ -140,7 +135,6 @@ void DataItemPage::RecordFactorChange() {
 }
 
 void DataItemPage::DataItemCheckBox(int row) {
-  if (filling_) return;
   const ListView::Row& shown = window_.lvwDataItems.At(row);
   Items().Item(StringToLong(shown.tag)).blnDisplay = shown.checked;
 }

@@ -62,6 +62,7 @@ TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {
   frmMaint window = Make(copy);
   window.Show();
   EXPECT_EQ(Listed(window), "a b c ");
+  EXPECT_EQ(window.lvwNameList.SelectedRow(), 1);
   EXPECT_FALSE(window.cmdPresetUp.Enabled());
   window.lvwNameList.Do({"row", {"c"}});
   EXPECT_FALSE(window.cmdPresetDown.Enabled());

@@ -256,7 +256,11 @@ TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
   EXPECT_EQ(
       options.imgcboDataStyle.Text() + options.imgcboDataWidth.Text() + options.txtFactor.Text(),
       "DashedFattest0.5");
-  Act(options, "tick lvwDataItems RPM off\nclick cmdReset");
+  options.Draft().catalogue.gcolFixedDataItems.Item(5).lngLineStyle = 9;
+  Act(options, "row lvwDataItems MAP");
+  EXPECT_EQ(options.imgcboDataStyle.Text(), "Dashed");
+  EXPECT_EQ(options.Draft().catalogue.gcolFixedDataItems.Item(5).lngLineStyle, 9) << "until chosen";
+  Act(options, "row lvwDataItems RPM\ntick lvwDataItems RPM off\nclick cmdReset");
   const clsLogDataItem& fresh = options.Draft().catalogue.gcolDefaultDataItems.Item(3);
   EXPECT_EQ(rpm.lngLineStyle, fresh.lngLineStyle);
   EXPECT_EQ(rpm.lngLineWidth, fresh.lngLineWidth);
@@ -345,6 +349,7 @@ TEST_F(Options, FindASettingByCaptionKeyOrToolTip) {
       {"default benchmark", 1, ""},
       {"working", 3, "txtPath(3)"},
       {"o2 input", 2, "txtPath(5)"},
+      {"fuel graph rotation", 2, "txt3DSpec(0)"},
       {"elevation in degrees", 2, "txt3DSpec(1)"},
       {"uncheck", 4, "cmdUnCheckAll"},
       {"verify", 2, "chkUploadDefs(1)"},
