@@ -47,6 +47,7 @@ class EcuStory : private RecordingHost,
       return files_.MayReplace(chosen.path) ? "" : "Protected:";
     };
     work = [this](Form& form) { Use(form); };
+    messages_.ShowNonModal = [this](auto&&...) { Tell("not in a box"); };
     whileRunning = [this](const std::string& command) {
       if (const auto program = writes_.find(command[1]); program != writes_.end())
         for (const std::string& file : program->second) Put(file);
@@ -161,7 +162,7 @@ class EcuStory : private RecordingHost,
   }
 
   /// "show NAME" among what the user does tells what a control holds, and "<" where it has the
-  /// focus.
+  /// focus; "tips" tells the tool tips.
   void Use(Form& form) {
     Tell(form.name);
     Texts& turns = users_[form.name];
@@ -170,10 +171,19 @@ class EcuStory : private RecordingHost,
     for (const std::string& action : SplitAt(actions, ", ")) {
       if (action.starts_with("show "))
         Tell(Shown(*ControlOf(form, action.substr(5))));
+      else if (action == "tips")
+        Tell(Tips(form));
       else
         Act(form, action);
     }
     if (form.IsShown()) Tell("stays");
+  }
+  static std::string Tips(const Form& form) {
+    std::string tips;
+    for (const Control* control : form.Controls())
+      if (const std::string tip = control->ToolTip(); !tip.empty())
+        tips += (tips.empty() ? "" : ", ") + tip;
+    return tips;
   }
   static std::string Shown(const Control& control) {
     std::string facts;
@@ -190,6 +200,10 @@ class EcuStory : private RecordingHost,
   Reply Ask(const Box& box) override {
     Tell((box.id ? std::to_string(box.id) : box.text) + "/" + std::to_string(box.style));
     return RecordingHost::Ask(box);
+  }
+  bool Choose(Dialog& dialog) override {
+    Tell(dialog.title + " from " + dialog.initialPath);
+    return RecordingHost::Choose(dialog);
   }
   RunResult Run(const ProgramCall& call, const std::string& folder,
                 const std::function<bool()>& keepWaiting) override {

@@ -50,6 +50,8 @@ TEST(Upload, GoesFromStepToStep) {
        "A program that was left alone is still running.\r\nWait until it has ended, then try again./48 | "
        ALL},
       {"set Default Working Directory=; upload; list /logs", ALL " | /logs/old.txt "},
+      {"broken /logs/Uploads/TVW 2026-11-24 14-05-09.map; upload",
+       "frmUpload | frmUploadConf | No copy of the map could be kept in:\r\n/logs/Uploads/48 | " RUN},
       {"broken /logs/Uploads/; upload",
        "frmUpload | frmUploadConf | No copy of the map could be kept in:\r\n/logs/Uploads/48 | " RUN},
       // Its window begins with the user's defaults; the comparison goes with its box.
@@ -57,9 +59,12 @@ TEST(Upload, GoesFromStepToStep) {
        "show chkOption(0), show chkOption(1), show chkOption(2), show chkOption(3), show cboAutoTune, click cmdCCF, "
        "show txtCCF, choose lstCCF #0, show txtCCF, click chkOption(2), show txtCCF, show lstCCF, show cmdCCF, "
        "show lblCCF, click cmdCancel; upload",
-       "frmUpload |  not checked |  |  |  | None | /logs/c.map | /logs/a.txt |  not enabled/logs/a.txt |  not enabled/logs/a.txt |  not enabled |  not enabledC&hange Comparison File"},
+       "frmUpload |  not checked |  |  |  | None | Open from /logs/ | /logs/c.map | /logs/a.txt |  not enabled/logs/a.txt |  not enabled/logs/a.txt |  not enabled |  not enabledC&hange Comparison File"},
       {"user frmUploadConf show lblChipDate, show lblEngineSize, click cmdNo; upload",
        "frmUpload | frmUploadConf | 09-Jun-2003 | 1.8"},
+      {"user frmUpload tips, click cmdCancel; upload", "frmUpload | Check to save the uploaded settings into the Link permanently, "
+       "Check to verify settings reached the ECU after upload, Check to only upload the changed zones to the ECU, "
+       "Check to show more information during the upload at the expense of upload time, Path and file name of change comparison file"},
       // clang-format on
   };
   ExpectStories(rows);

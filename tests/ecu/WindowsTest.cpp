@@ -27,10 +27,13 @@ TEST(NewDownload, BringsTheNameIntoItsForm) {
       {"answer no; " IN_TURN("type txtFileName old, click cmdOK, show txtFileName"), NEW OVERWRITE " | old.txt< | stays"},
       {"set Retain Binary Files=N; " IN_TURN("show chkRetainBIN, show radFileType(0), click cmdCancel"),
        NEW " not checked | "},
+      {IN_TURN("tips, click cmdCancel"), NEW "Capture a full data log, Capture just the ECU zone settings, Name of the data log, "
+       "Keep the binary file the data logging process generates as well as the final data log"},
       // clang-format on
   };
   ExpectStories(rows);
-  const frmNewDownload map(EcuStory().World(), {NewFileType::ZoneSettings, "2026-11-24a", true});
+  const EcuStory story;
+  const frmNewDownload map(story.World(), {NewFileType::ZoneSettings, "2026-11-24a", true});
   EXPECT_TRUE(map.radFileType(1).Value() && !map.chkRetainBIN.Enabled());
 }
 
@@ -47,6 +50,8 @@ TEST(ConvertBIN, GoesFromStepToStep) {
       {CONVERT("show txtPath(0), show txtPath(1), show chkAutoLoad"), WINDOW " |  | " STAYS},
       {"open C:\\Logs\\a.txt; " CONVERT("show txtPath(0), show txtPath(1)"), WINDOW "C:\\Logs\\ | C:\\Logs\\" STAYS},
       {"open /a/b; set Last Converted Binary File=/old/b.bin; " CONVERT("show txtPath(0)"), WINDOW "/old/" STAYS},
+      {CONVERT("tips, click cmdCancel"), WINDOW "Path and File Name of Binary File, Path and File Name of New Data Log, "
+       "Click to select the file to load, Click to select the file to load | target none"},
       // A path that is none keeps its text, and the focus.
       {CONVERT("type txtPath(0) /nowhere/*.bin, show txtPath(0)"), WINDOW "36/48 | /nowhere/*.bin<" STAYS},
       {CONVERT("type txtPath(0) run.bin"), WINDOW "36/48" STAYS},
@@ -60,14 +65,14 @@ TEST(ConvertBIN, GoesFromStepToStep) {
       {CONVERT("type txtPath(1) /logs/a, show txtPath(1)"), WINDOW "/logs/a.txt" STAYS},
       {CONVERT("type txtPath(1) /logs/a.b.c, show txtPath(1)"), WINDOW "/logs/a.b.txt" STAYS},
       // Nobody is stopped on the way to its own Browse or to Cancel.
-      {CONVERT("type txtPath(0) x, click cmdBrowse(0), click cmdCancel"), WINDOW "36/48 | target none"},
+      {CONVERT("type txtPath(0) x, click cmdBrowse(0), click cmdCancel"), WINDOW "36/48 | Open from x | target none"},
       {CONVERT("type txtPath(0) x, click cmdBrowse(1), click chkAutoLoad, click cmdOK"),
        WINDOW "36/48 | 36/48 | 36/48 | 36/48" STAYS},
       {"answer /logs/old.txt; answer cancel; answer /logs/b; " CONVERT("click cmdBrowse(0), show txtPath(0), "
-       "click cmdBrowse(1), show txtPath(1), click cmdBrowse(1), show txtPath(1)"), WINDOW "/logs/old.txt |  | /logs/b" STAYS},
-      {"open /logs/b.txt; answer /logs/b.txt; " CONVERT("click cmdBrowse(1), show txtPath(1)"), WINDOW "/logs/b.txt" STAYS},
+       "click cmdBrowse(1), show txtPath(1), click cmdBrowse(1), show txtPath(1)"), WINDOW "Open from  | /logs/old.txt | Save As from  |  | Save As from  | /logs/b" STAYS},
+      {"open /logs/b.txt; answer /logs/b.txt; " CONVERT("click cmdBrowse(1), show txtPath(1)"), WINDOW "Save As from /logs/ | /logs/b.txt" STAYS},
       {"protected /logs/b.txt; answer /logs/b.txt; answer cancel; " CONVERT("click cmdBrowse(1), show txtPath(1)"),
-       WINDOW "Protected:\r\n/logs/b.txt\r\n\r\nPlease choose another name./48 | " STAYS},
+       WINDOW "Save As from  | Protected:\r\n/logs/b.txt\r\n\r\nPlease choose another name./48 | Save As from /logs/b.txt | " STAYS},
       // OK.
       {KEPT "file /mdos/miata.map=x; file /link/miata.map=y; convert; read /logs/run.txt; list /; setting Last Converted Binary File",
        WINDOW RAN "target /logs/run.txt | text of binary | /link/L.exe /link/miata.map /logs/old.txt /logs/run.bin "
@@ -92,6 +97,13 @@ TEST(ConvertBIN, GoesFromStepToStep) {
       // clang-format on
   };
   ExpectStories(rows);
+  // Enter presses OK with the caret still in the field.
+  EcuStory story;
+  frmConvertBIN window(story.World(), "");
+  window.Show();
+  window.txtPath(0).Text = std::string("x");
+  window.cmdOK.Press();
+  EXPECT_EQ(story.Do("gone x"), "36/48");
 }
 
 }  // namespace
