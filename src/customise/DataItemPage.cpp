@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
+#include "desk/ColourScheme.h"
 #include "model/IniKeys.h"
 #include "samplegraph/SampleListView.h"
 #include "universal/UniversalDataItems.h"
@@ -34,6 +35,7 @@ DataItemPage::DataItemPage(OptionsControls& window, OptionsDraft& draft)
   window_.cmdDataColour.Click = [this] { RecordColourChange(); };
   window_.txtFactor.LostFocus = [this] { RecordFactorChange(); };
   window_.picDataSample.Resize = [this] { DrawSample(); };
+  window_.cboGraphColourScheme.Click = [this] { DrawSample(); };
   window_.cmdReset.Click = [this] { cmdReset_Click(); };
 }
 
@@ -89,9 +91,13 @@ void DataItemPage::PopulateDataItemDisplay() {
   DrawSample();
 }
 
+/// As in a graph of the scheme that is chosen.
 void DataItemPage::DrawSample() {
   const clsLogDataItem* item = Item();
   if (!item) return;
+  ChartDescription graph;
+  SetGraphColourScheme(graph, window_.cboGraphColourScheme.ListIndex() + 1);
+  window_.picDataSample.BackColour = graph.colours.backdrop;
   const int width = window_.picDataSample.Width(), middle = window_.picDataSample.Height() / 2;
   const Pen pen{item->lngColour, static_cast<int>(item->lngLineStyle),
                 static_cast<int>(item->lngLineWidth) * kPenWidths};

@@ -251,6 +251,9 @@ TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
   EXPECT_EQ(options.picDataColour.BackColour(), 0x123456);
   ASSERT_EQ(options.picDataSample.Shapes().strokes.size(), 1u);
   EXPECT_EQ(options.picDataSample.Shapes().strokes[0].pen, (Pen{0x123456, 3, 50}));
+  EXPECT_EQ(options.picDataSample.BackColour(), 0xC0C0C0);
+  Act(options, "choose cboGraphColourScheme Black");
+  EXPECT_EQ(options.picDataSample.BackColour(), 0);
 
   Act(options, "row lvwDataItems MAP\nrow lvwDataItems RPM");
   EXPECT_EQ(
