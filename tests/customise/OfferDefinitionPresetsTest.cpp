@@ -35,6 +35,10 @@ TEST(OfferDefinitionPresets, JoinsThemAsTheUserSays) {
   clsScatterGraphPresets scatters;
   OfferDefinitionPresets({}, samples, scatters, messages);
   EXPECT_TRUE(host.messages.empty());
+  definition.objPresetScatterGraphs.AddDirect({});
+  OfferDefinitionPresets(definition, samples, scatters, messages);
+  EXPECT_EQ(samples.Count() + scatters.Count(), 2)
+      << "without an answer, those that are there stay";
 }
 
 }  // namespace

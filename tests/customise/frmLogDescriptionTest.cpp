@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "customise/frmLineFrequency.h"
 #include "customise/frmLogDescription.h"
 #include "model/Catalogue.h"
+#include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
 #include "universal/BuiltInTitles.h"
 #include "universal/DefinitionWriter.h"
@@ -9,85 +11,142 @@
 namespace tarnview {
 namespace {
 
+constexpr const char* kLog =
+    "made up\nTime;RPM;Speed;Odd\ns;rpm;km/h;\n0;900;30;1,5\n1;950;31;1,6\n2;980;32;1,7\n";
+
 class LogDescription : public ::testing::Test {
  protected:
+  frmLogDescription Open(const char* log, const clsDataLog* edited = nullptr) {
+    return {host, log, "/logs/my run.csv", titles, catalogue.gcolFixedDataItems, edited};
+  }
+  /// What is shown: the form, the kind of each line, each column with what it becomes, and the
+  /// fields of the one that is selected.
+  static std::string Shown(const frmLogDescription& window) {
+    std::string text;
+    for (const Control* control : std::initializer_list<const Control*>{
+             &window.cboEncoding, &window.cboDelimiter, &window.cboDecimalSign,
+             &window.txtTitleLine, &window.txtUnitsLine, &window.txtDataLine, &window.cboTimeColumn,
+             &window.cboTimeForm, &window.txtLineFrequency})
+      text += TextOf(*control) + " ";
+    text += "|";
+    for (const auto& row : window.lvwHead.Rows()) text += " " + row.texts[1];
+    for (const auto& row : window.lvwColumns.Rows()) {
+      text += " | " + row.texts[0];
+      for (const std::size_t part : {5u, 6u, 7u, 8u}) text += " " + row.texts[part];
+    }
+    text += " | " + std::to_string(window.lvwColumns.SelectedRow()) + ":";
+    for (const Control* control : std::initializer_list<const Control*>{
+             &window.cboItem, &window.txtFactor, &window.txtOffset, &window.txtUnit,
+             &window.txtDecimals})
+      text += " " + TextOf(*control);
+    return text + (window.chkShown.Value() ? " shown" : "");
+  }
+  static std::string TextOf(const Control& control) {
+    std::string text;
+    for (const auto& [name, value] : control.Facts())
+      if (name == "text") text = std::get<std::string>(value.Get());
+    return (text.empty() ? "-" : text) + (control.Enabled() ? "" : "!");
+  }
+
   RecordingHost host;
   const Catalogue catalogue = BuildDataItemCatalogue();
   const TitleDictionary titles{BuiltInTitles()};
-  frmLogDescription window{
-      host, "made up\nTime;RPM;Speed;Odd\ns;rpm;km/h;\n0;900;30;1,5\n1;950;31;1,6\n2;980;32;1,7\n",
-      "/logs/my run.csv", titles, catalogue.gcolFixedDataItems};
-
-  /// Kind of each line of the head, then the item of each column: "Preamble Titles ... | Secs RPM
-  /// ..."
-  std::string Shown() const {
-    std::string text;
-    for (const auto& row : window.lvwHead.Rows()) text += row.texts[1] + " ";
-    text += "|";
-    for (const auto& row : window.lvwColumns.Rows())
-      text += " " + row.texts[0] + ":" + row.texts[5];
-    return text;
-  }
 };
 
-TEST_F(LogDescription, ShowsWhatWasFound) {
-  EXPECT_EQ(Shown(),
-            "Preamble Titles Units Data Data Data | Time:Secs RPM:RPM Speed:Speed Odd:Own");
-  EXPECT_EQ(window.cboDelimiter.Text() + window.cboDecimalSign.Text() + window.cboTimeForm.Text(),
-            "semicolonCommaSeconds");
-  EXPECT_EQ(window.txtTitleLine.Text() + window.txtUnitsLine.Text() + window.txtDataLine.Text(),
-            "234");
-  EXPECT_EQ(window.cboTimeColumn.Text(), "Time");
-  EXPECT_FALSE(window.txtLineFrequency.Enabled());
+#define FORM "UTF-8 semicolon Comma 2 3 4 Time Seconds -! | Preamble Titles Units Data Data Data"
+#define NO_CLOCK "UTF-8 semicolon Comma 2 3 4 No clock -! "
+#define LINES " | Preamble Titles Units Data Data Data"
+#define TIME " | Time Secs  0 Yes"
+#define OWN_TIME " | Time Own  0 Yes"
+#define RPM " | RPM RPM  0 Yes"
+#define SPEED " | Speed Speed x 0.6214 1 Yes"
+#define ODD " | Odd Own  1 Yes"
+#define OWN "An item of the log's own"
+#define ON_RPM " | 2: RPM 1 0 rpm 0 shown"
+
+TEST_F(LogDescription, FollowsEachChoice) {
+  struct Row {
+    const char* actions;
+    const char* shown;
+  };
+  const Row rows[] = {
+      // clang-format off
+      {"", FORM TIME RPM SPEED ODD ON_RPM},
+      {"type txtUnitsLine ", "UTF-8 semicolon Comma 2 - 4 Time Seconds -! | Preamble Titles Preamble Data Data Data" TIME RPM SPEED ODD ON_RPM},
+      {"type txtTitleLine 1", "UTF-8 semicolon Comma 1 3 4 made up Seconds -! | Titles Preamble Units Data Data Data | made up Secs  0 Yes | 1: Secs! 1! 0! s! 0! shown"},
+      {"type txtDataLine 5", "UTF-8 semicolon Comma 2 3 5 No clock -! - | Preamble Titles Units Preamble Data Data" OWN_TIME RPM SPEED ODD ON_RPM},
+      {"choose cboDelimiter comma", "UTF-8 comma Point - - 4 No clock -! - | Preamble Preamble Preamble Data Data Data | Column 1 Own  0 Yes | Column 2 Own  0 Yes | 2: " OWN " 1 0 - 0 shown"},
+      {"choose cboDecimalSign Point", "UTF-8 semicolon Point 2 3 4 Time Seconds -!" LINES TIME RPM SPEED " | Odd Own  0 Yes" ON_RPM},
+      {"choose cboEncoding WINDOWS-1252", "WINDOWS-1252 semicolon Comma 2 3 4 Time Seconds -!" LINES TIME RPM SPEED ODD ON_RPM},
+      {"choose cboTimeForm Days", "UTF-8 semicolon Comma 2 3 4 Time Days -!" LINES TIME RPM SPEED ODD ON_RPM},
+      {"choose cboTimeColumn No clock", NO_CLOCK "-" LINES OWN_TIME RPM SPEED ODD ON_RPM},
+      {"choose cboTimeColumn No clock\ntype txtLineFrequency 25", NO_CLOCK "25" LINES OWN_TIME RPM SPEED ODD ON_RPM},
+      {"choose cboTimeColumn No clock\ntype txtLineFrequency 100001", NO_CLOCK "100000" LINES OWN_TIME RPM SPEED ODD ON_RPM},
+      {"choose cboTimeColumn No clock\ntype txtLineFrequency 25\ntype txtLineFrequency 0", NO_CLOCK "-" LINES OWN_TIME RPM SPEED ODD ON_RPM},
+      {"choose cboTimeColumn RPM", "UTF-8 semicolon Comma 2 3 4 RPM Seconds -!" LINES OWN_TIME " | RPM Secs  0 Yes" SPEED ODD " | 2: Secs! 1! 0! s! 0! shown"},
+      // Columns, which keep through choices what was made of them.
+      {"row lvwColumns 1", FORM TIME RPM SPEED ODD " | 1: Secs! 1! 0! s! 0! shown"},
+      {"row lvwColumns 3", FORM TIME RPM SPEED ODD " | 3: Speed 0.621371192237334 0 mph 1 shown"},
+      {"row lvwColumns 4\nchoose cboItem MAP\ntype txtFactor 100\ntype txtOffset -2\ntype txtDecimals 9\n"
+       "type txtUnit psi\nclick chkShown\nchoose cboTimeForm Minutes",
+       "UTF-8 semicolon Comma 2 3 4 Time Minutes -!" LINES TIME RPM SPEED " | Odd MAP x 100 - 2 5 No | 4: MAP 100 -2 psi 5"},
+      {"row lvwColumns 4\nchoose cboItem RPM\nrow lvwColumns 2\ntype txtDecimals -1\ntype txtOffset 3",
+       FORM TIME " | RPM Own + 3 0 Yes" SPEED " | Odd RPM  1 Yes | 2: " OWN " 1 3 rpm 0 shown"},
+      {"choose cboItem Not read", FORM TIME " | RPM Not read  0 Yes" SPEED ODD " | 2: Not read 1 0 rpm 0 shown"},
+      {"choose cboItem " OWN, FORM TIME " | RPM Own  0 Yes" SPEED ODD " | 2: " OWN " 1 0 rpm 0 shown"},
+      // clang-format on
+  };
+  for (const Row& row : rows) {
+    frmLogDescription window = Open(kLog);
+    window.Show();
+    if (*row.actions) Act(window, row.actions);
+    EXPECT_EQ(Shown(window), row.shown) << row.actions;
+  }
+}
+
+TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
+  frmLogDescription window = Open(kLog);
+  window.Show();
   EXPECT_EQ(window.txtName.Text(), "my run");
-  EXPECT_EQ(window.lvwColumns.SelectedRow(), 2);
-  std::string speed;
-  for (const std::string& text : window.lvwColumns.Rows()[2].texts) speed += text + "|";
-  EXPECT_EQ(speed, "Speed|km/h|30  31  32|30|32|Speed|x 0.6214|1|Yes|");
+  Act(window, "choose cboItem Not read\nrow lvwColumns 3\nchoose cboItem " OWN
+              "\nchoose cboTimeForm Minutes\ntype txtName ");
+  const clsDataLog made = window.Definition();
+  EXPECT_EQ(made.strName + " " + made.strFileExtension + " " + made.strTimeForm,
+            "My Logger csv MINUTES");
+  std::string columns;
+  for (const clsDataLogColumn& column : made.objColumns)
+    columns += column.strColumnTitle + "=" + std::to_string(column.lngDataItemID) + " ";
+  EXPECT_EQ(columns, "Time=63 Speed=101 Odd=102 ");
+
+  frmLogDescription again = Open(kLog, &made);
+  EXPECT_EQ(again.Caption() + " " + again.txtName.Text(), "Edit Definition My Logger");
+  EXPECT_EQ(Shown(again), "UTF-8 semicolon Comma 2 3 4 Time Minutes -!" LINES TIME
+                          " | RPM Not read  0 Yes | Speed Own x 0.6214 1 Yes" ODD
+                          " | 2: Not read 1 0 rpm 0 shown");
+  EXPECT_EQ(DefinitionFileText(again.Definition()), DefinitionFileText(made));
+  again.Show();
+  Act(again, "row lvwColumns 4\ntype txtUnit bar\ntype txtName Mine");
+  const clsDataLog edited = again.Definition();
+  EXPECT_EQ(edited.strName + edited.objColumns.Item(3).strUnit, "Minebar");
 }
 
-TEST_F(LogDescription, AChoiceIsFollowedAtOnce) {
-  window.txtUnitsLine.Do({"type", {""}});
-  EXPECT_EQ(Shown(),
-            "Preamble Titles Preamble Data Data Data | Time:Secs RPM:RPM Speed:Speed Odd:Own");
-  window.cboTimeColumn.SetListIndex(0);
-  window.cboTimeColumn.Click();
-  EXPECT_EQ(Shown(),
-            "Preamble Titles Preamble Data Data Data | Time:Own RPM:RPM Speed:Speed Odd:Own");
-  EXPECT_TRUE(window.txtLineFrequency.Enabled());
-  window.txtLineFrequency.Do({"type", {"25"}});
-  EXPECT_EQ(window.Definition().dblLineFrequency, 25);
-}
-
-TEST_F(LogDescription, AColumnIsEditedAndKeptThroughChoices) {
-  window.lvwColumns.UserSelects(4);
-  EXPECT_EQ(window.cboItem.Text(), "An item of the log's own");
-  window.cboItem.Do({"choose", {"MAP"}});
-  window.txtFactor.Do({"type", {"100"}});
-  window.txtDecimals.Do({"type", {"9"}});
-  window.cboTimeForm.Do({"choose", {"Minutes"}});
-  EXPECT_EQ(Shown(),
-            "Preamble Titles Units Data Data Data | Time:Secs RPM:RPM Speed:Speed Odd:MAP");
-  const clsDataLog definition = window.Definition();
-  const clsDataLogColumn& column = definition.objColumns.Item(4);
-  EXPECT_EQ(column.lngDataItemID, 5);
-  EXPECT_EQ(column.dblConversionFactor, 100);
-  EXPECT_EQ(column.lngColumnDecimalPlaces, 5);
-  EXPECT_EQ(definition.strTimeForm, "MINUTES");
-}
-
-TEST_F(LogDescription, TheTimeIsNoItemToChoose) {
-  window.lvwColumns.UserSelects(1);
-  EXPECT_FALSE(window.cboItem.Enabled());
-}
-
-TEST(LogDescriptionOfRubbish, CannotBeAccepted) {
-  RecordingHost host;
-  const Catalogue catalogue = BuildDataItemCatalogue();
-  const TitleDictionary titles;
-  const frmLogDescription window(host, "no log\nat all\n", "/x", titles,
-                                 catalogue.gcolFixedDataItems);
+TEST_F(LogDescription, OfRubbishCannotBeAccepted) {
+  const frmLogDescription window = Open("no log\nat all\n");
   EXPECT_FALSE(window.cmdOK.Enabled());
+  EXPECT_TRUE(Open(kLog).cmdOK.Enabled());
+}
+
+TEST_F(LogDescription, ALineFrequencyIsHeldToItsLimits) {
+  frmLineFrequency window(host, 12.5);
+  window.Show();
+  EXPECT_EQ(window.txtLineFrequency.Text(), "12.5");
+  for (const auto& [typed, held] : {std::pair{"0", "0.01"}, {"100001", "100000"}, {"20", "20"}}) {
+    Act(window, std::string("type txtLineFrequency ") + typed);
+    EXPECT_EQ(window.txtLineFrequency.Text(), held);
+  }
+  window.Press({"Enter"});
+  EXPECT_TRUE(window.Accepted());
+  EXPECT_EQ(window.LinesASecond(), 20);
 }
 
 }  // namespace
