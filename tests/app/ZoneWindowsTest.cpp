@@ -30,11 +30,11 @@ class ZoneWindowsTest : public ProgramFixture {
   }
   /// Types a Choke Scale and presses a button of the editor.
   void EditAnd(const char* button, const char* choke = "7") {
-    host.work = [button, choke](Form& form) {
-      form.Find("txtZone", 6)->Do({"type", {choke}});
-      if (*button) form.Find(button)->Do({"click", {}});
-    };
-    Main().mnuModulesZoneData.Do({"click", {}});
+    InEditor(std::string("type txtZone(6) ") + choke + "\nclick " + button);
+  }
+  void InEditor(const std::string& actions) {
+    host.work = [actions](Form& form) { Act(form, actions); };
+    Do("click mnuModulesZoneData");
     host.work = nullptr;
   }
   int ChokeScale() { return Log().zones.zones[6]; }
@@ -48,7 +48,7 @@ TEST_F(ZoneWindowsTest, WhatIsAcceptedIsTakenOver) {
   EXPECT_EQ(ChokeScale(), 7);
   EXPECT_TRUE(Log().gblnZonesDirty);
   EXPECT_TRUE(files.files.contains(kJournal));
-  Main().mnuFileSave.Do({"click", {}});
+  Do("click mnuFileSave");
   EXPECT_FALSE(Log().gblnZonesDirty);
   EXPECT_FALSE(files.files.contains(kJournal));
 
@@ -57,8 +57,7 @@ TEST_F(ZoneWindowsTest, WhatIsAcceptedIsTakenOver) {
   EXPECT_EQ(ChokeScale(), 7);
   EXPECT_FALSE(Log().gblnZonesDirty);
   EXPECT_FALSE(files.files.contains(kJournal));
-  host.work = [](Form& form) { form.Find("cmdOK")->Do({"click", {}}); };
-  Main().mnuModulesZoneData.Do({"click", {}});
+  InEditor("click cmdOK");
   EXPECT_FALSE(Log().gblnZonesDirty);
 }
 
@@ -66,27 +65,24 @@ TEST_F(ZoneWindowsTest, ACellGoesThroughItsSamplesInTheGraph) {
   const auto shape = [](SmallSample& one) { one.rpm = one.sample > 20 ? 2000 : 1000; };
   files.files["/car/a.txt"] = SmallLog(60, shape) + JoinLines(ZoneSectionLines(CountingZoneRows()));
   StartKeeping("/car/a.txt");
-  Main().PlotRangeFrom.Do({"type", {"25"}});
-  Main().PlotRangeTo.Do({"type", {"40"}});
-  Main().cmdDrawGraph.Press();
+  Draw("25", "40");
   std::string told;
   const auto tell = [&](const Form& editor) {
     const auto ring = dynamic_cast<const frmZoneData&>(editor).Grids.At(SheetGrid::Fuel).Ring();
     told += std::to_string(Main().Selected().lngHighlightSample()) + " " +
-            std::to_string(static_cast<int>(ring->column * 10)) + " in " +
-            std::to_string(Main().PlotFrom()) + "-" + std::to_string(Main().PlotTo()) + "\n";
+            std::to_string(static_cast<int>(ring->column * 10)) + " in " + Range() + "\n";
   };
   host.work = [&](Form& editor) {
-    editor.Find("cboShowOnGrid")->Do({"choose", {"Visits"}});
+    Act(editor, "choose cboShowOnGrid Visits");
     editor.Find("grdDrive", 0)->Do({"cell", {"2", "5"}});
     tell(editor);
-    editor.Find("cmdNextInCell")->Do({"click", {}});
+    Act(editor, "click cmdNextInCell");
     tell(editor);
-    editor.Find("chkWholeLog")->Do({"click", {}});
+    Act(editor, "click chkWholeLog");
     editor.Find("grdDrive", 1)->Do({"cell", {"2", "3"}});
     tell(editor);
   };
-  Main().mnuModulesZoneData.Do({"click", {}});
+  Do("click mnuModulesZoneData");
   EXPECT_EQ(told, "25 45 in 25-40\n26 45 in 25-40\n1 25 in 1-8\n");
 }
 
@@ -96,12 +92,11 @@ TEST_F(ZoneWindowsTest, EditsThatACrashCutOffAreOfferedOnce) {
   EditAnd("cmdOK");
   std::string lost;
   host.work = [&](Form& form) {
-    form.Find("txtZone", 6)->Do({"type", {"8"}});
-    form.Find("txtZone", 7)->Do({"type", {"9"}});
+    Act(form, "type txtZone(6) 8\ntype txtZone(7) 9");
     lost = files.files[kJournal];
-    form.Find("cmdOK")->Do({"click", {}});
+    Act(form, "click cmdOK");
   };
-  Main().mnuModulesZoneData.Do({"click", {}});
+  Do("click mnuModulesZoneData");
   program.reset();
   host.open.clear();
   host.messages.clear();
@@ -112,8 +107,7 @@ TEST_F(ZoneWindowsTest, EditsThatACrashCutOffAreOfferedOnce) {
   host.work = [&](Form& form) {
     auto& editor = dynamic_cast<frmZoneData&>(form);
     for (const auto& step : editor.History().Steps()) steps += step.name + "; ";
-    editor.mnuEditUndo.Do({"click", {}});
-    editor.cmdOK.Do({"click", {}});
+    Act(editor, "click mnuEditUndo\nclick cmdOK");
   };
   StartKeeping();
   EXPECT_EQ(host.messages[0].text,
@@ -140,7 +134,7 @@ TEST_F(ZoneWindowsTest, LostEditsOfAFileThatHasGone) {
     files.files.erase("/car/a.map");
     files.files[kJournal] = lost;
     host.answers = {{answer}};
-    host.work = [](Form& form) { form.Find("cmdOK")->Do({"click", {}}); };
+    host.work = [](Form& form) { Act(form, "click cmdOK"); };
     StartKeeping();
     EXPECT_EQ(Log().gblnZonesLoaded, answer == Answer::Kind::Yes);
     if (answer == Answer::Kind::No) {
@@ -155,7 +149,7 @@ TEST_F(ZoneWindowsTest, LostEditsOfAFileThatHasGone) {
   files.files[kJournal] = "nonsense";
   host.messages.clear();
   StartKeeping();
-  EXPECT_TRUE(host.messages.empty());
+  EXPECT_EQ(Boxes(), Ids{});
 }
 
 TEST_F(ZoneWindowsTest, Benchmarks) {
@@ -167,30 +161,21 @@ TEST_F(ZoneWindowsTest, Benchmarks) {
   host.work = [&](Form& form) {
     if (form.name == "frmMaint") {
       told += form.Caption() + ": ";
-      form.Find("cmdNew")->Do({"click", {}});
-      form.Find("cmdOK")->Do({"click", {}});
+      Act(form, "click cmdNew\nclick cmdOK");
     } else if (form.name == "frmBenchmarkDetails") {
-      for (const char* name : {"cmdSave", "cmdZones"})
-        told += form.Find(name)->Enabled() ? "1" : "0";
-      form.Find("txtName")->Do({"type", {""}});
-      form.Find("cmdOK")->Do({"click", {}});
-      form.Find("txtName")->Do({"type", {"Mine"}});
-      form.Find("cmdBrowse")->Do({"click", {}});
-      form.Find("cmdLoad")->Do({"click", {}});
-      for (const char* name : {"cmdSave", "cmdZones"})
-        told += form.Find(name)->Enabled() ? "1" : "0";
-      form.Find("cmdZones")->Do({"click", {}});
-      form.Find("cmdSave")->Do({"click", {}});
-      form.Find("cmdOK")->Do({"click", {}});
+      told += Enabled(form, "cmdSave cmdZones");
+      Act(form, "type txtName \nclick cmdOK\ntype txtName Mine\nclick cmdBrowse\nclick cmdLoad");
+      told += Enabled(form, "cmdSave cmdZones");
+      Act(form, "click cmdZones\nclick cmdSave\nclick cmdOK");
     } else {
-      told += " " + form.Caption() + " ";
-      form.Find("txtZone", 6)->Do({"type", {"3"}});
-      form.Find("cmdOK")->Do({"click", {}});
+      told += form.Caption();
+      Act(form, "type txtZone(6) 3\nclick cmdOK");
     }
   };
-  Main().mnuCustomiseBenchmarks.Do({"click", {}});
-  EXPECT_EQ(told, "Zone Data Benchmark Editor: 0011 Tarnview Zone Data - Mine (benchmark) ");
-  EXPECT_EQ(MessageIds(), std::vector{47});
+  Do("click mnuCustomiseBenchmarks");
+  EXPECT_EQ(told,
+            "Zone Data Benchmark Editor: cmdSave cmdZones Tarnview Zone Data - Mine (benchmark)");
+  EXPECT_EQ(Boxes(), Ids{47});
   const clsBenchmarks& benchmarks = program->Global().gcolBenchmarks;
   ASSERT_EQ(benchmarks.Count(), 2);
   EXPECT_EQ(benchmarks.Item(2).strName + " " + benchmarks.Item(2).File, "Mine /car/a.map");
