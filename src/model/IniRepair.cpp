@@ -13,15 +13,19 @@ namespace {
 
 constexpr char kGone = '\0';
 constexpr int kMostRecords = 300;  ///< that a damaged number is looked for among
+constexpr int kMostKeys = 1000;    ///< damaged ones that are looked for; behind them they are lost
 
 bool IsDamaged(std::string_view text) { return text.find(kGone) != std::string_view::npos; }
 
-/// Whether a text may have been that one before it was damaged; of more damage than text nobody can
-/// tell.
+/// Of more damage than text nobody can tell what it was.
+bool CanBeTold(std::string_view damaged) {
+  return std::count(damaged.begin(), damaged.end(), kGone) <=
+         static_cast<std::ptrdiff_t>(damaged.size() / 2);
+}
+
+/// Whether a text may have been that one before it was damaged.
 bool MayBe(std::string_view damaged, std::string_view whole) {
-  const auto gone = std::count(damaged.begin(), damaged.end(), kGone);
-  return gone <= static_cast<std::ptrdiff_t>(damaged.size() / 2) &&
-         std::equal(damaged.begin(), damaged.end(), whole.begin(), whole.end(),
+  return std::equal(damaged.begin(), damaged.end(), whole.begin(), whole.end(),
                     [](char a, char b) { return a == b || a == kGone; });
 }
 
@@ -33,11 +37,12 @@ std::string WithMarks(std::string_view damaged) {
 
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
-/// The keys that a section's records would have with each number in place of their own: their name
-/// in two halves.
-std::set<std::pair<std::string, std::string>> RecordKeys(const IniTable& table,
-                                                         std::string_view section) {
-  std::set<std::pair<std::string, std::string>> keys;
+/// The name of a record's key, in front of its number and behind it.
+using KeyHalves = std::pair<std::string, std::string>;
+
+/// The keys that a section's records would have with each number in place of their own.
+std::set<KeyHalves> RecordKeys(const IniTable& table, std::string_view section) {
+  std::set<KeyHalves> keys;
   for (const IniRow& row : table.Rows()) {
     if (row.section != section || IsDamaged(row.key)) continue;
     const auto digits = std::find_if(row.key.begin(), row.key.end(), IsDigit);
@@ -66,8 +71,9 @@ class Repair {
 
  private:
   std::optional<std::string> Line(std::string_view line) {
+    const bool canBeTold = CanBeTold(line);
     for (const std::string& heading : headings_) {
-      if (!MayBe(line, "[" + heading + "]")) continue;
+      if (!canBeTold || !MayBe(line, "[" + heading + "]")) continue;
       section_ = heading;
       return "[" + heading + "]";
     }
@@ -80,13 +86,29 @@ class Repair {
     return std::nullopt;
   }
 
-  std::optional<std::string> Key(std::string_view key) const {
+  std::optional<std::string> Key(std::string_view key) {
     if (!IsDamaged(key)) return std::string(key);
-    for (const auto& [front, back] : RecordKeys(table_, section_))
-      for (int n = 0; n <= kMostRecords; ++n)
-        if (const std::string whole = front + std::to_string(n) + back;
-            MayBe(key, whole) && !table_.Find(section_, whole))
-          return whole;
+    if (!CanBeTold(key) || ++keys_ > kMostKeys) return std::nullopt;
+    if (section_ != sectionOfRecords_) records_ = RecordKeys(table_, section_);
+    sectionOfRecords_ = section_;
+    for (const KeyHalves& halves : records_)
+      if (auto whole = FreeKey(key, halves)) return whole;
+    return std::nullopt;
+  }
+
+  /// The first number whose key the damaged one may have been and no record has.
+  std::optional<std::string> FreeKey(std::string_view key, const KeyHalves& halves) const {
+    const auto& [front, back] = halves;
+    const std::size_t named = front.size() + back.size();
+    if (named >= key.size() || !MayBe(key.substr(0, front.size()), front) ||
+        !MayBe(key.substr(key.size() - back.size()), back))
+      return std::nullopt;
+    for (int n = 0; n <= kMostRecords; ++n) {
+      const std::string number = std::to_string(n), whole = front + number + back;
+      if (MayBe(key.substr(front.size(), key.size() - named), number) &&
+          !table_.Find(section_, whole))
+        return whole;
+    }
     return std::nullopt;
   }
 
@@ -101,6 +123,9 @@ class Repair {
   const IniTable table_;
   const std::vector<std::string>& headings_;
   std::string section_, out_;
+  int keys_ = 0;  ///< damaged ones that were looked for
+  std::optional<std::string> sectionOfRecords_;
+  std::set<KeyHalves> records_;  ///< of that section
 };
 
 /// Line ends that lost one of their two characters.

@@ -59,9 +59,17 @@ TEST(IniRepair, WhatCanBeToldOfALineStays) {
       {"[Graphs]\nGraph 1 Name=A\nGraph # Name=B\n", "[Graphs]\r\nGraph 1 Name=A\r\nGraph 0 Name=B\r\n"},
       {"Graph 1 Name=M#ne\n", "Graph 1 Name=M?ne\r\n"},  // without it the records behind would not be found
       {"Only#ne=1\n", ""},
+      {"Graph 1 Name=A\nGr#ph 25 N#me=B\nGraph 30#=C\nGr#ph 1 Name=D\n",
+       "Graph 1 Name=A\r\nGraph 25 Name=B\r\n"},
+      {"[Graphs]\nCar 1 x=1\nC#r 2 x=2\n[General]\nCar 1 y=1\nC#r 2 y=2\n",
+       "[Graphs]\r\nCar 1 x=1\r\nCar 2 x=2\r\n[General]\r\nCar 1 y=1\r\nCar 2 y=2\r\n"},
       // clang-format on
   };
   for (const auto& row : kRows) EXPECT_EQ(repaired(row.damaged), row.wanted) << row.damaged;
+  // Nobody waits for a file of nothing but damage.
+  std::string many = "Graph 1 Name=A\r\n";
+  for (int line = 0; line < 1001; ++line) many += "Gr#ph 2 Name=B\r\n";
+  EXPECT_EQ(repaired(many).size(), std::string("Graph 1 Name=A\r\n").size() * 1001);
 }
 
 }  // namespace
