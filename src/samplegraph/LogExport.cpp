@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/LargeMemory.h"
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "model/CellText.h"
@@ -42,6 +43,7 @@ void LogExport::ExportDataLog(const std::string& strFile, const std::string& fil
   constexpr std::size_t kUsualCell = 8;
   out.reserve(out.size() +
               columns.size() * kUsualCell * static_cast<std::size_t>(last - first + 2));
+  PreferLargePages(out.data(), out.capacity());
   AddExportNames(out, columns, *log_.gcolDataItems);
   for (std::int32_t index = first; index <= last; ++index) {
     if (index % interval == 0)

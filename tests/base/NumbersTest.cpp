@@ -6,6 +6,7 @@
 #include <random>
 #include <string>
 
+#include "base/DigitText.h"
 #include "base/Numbers.h"
 
 namespace tarnview {
@@ -166,6 +167,32 @@ TEST(Numbers, KnowNoLocale) {
   EXPECT_EQ(FixedText(1234.5, 2), "1234.50");
   EXPECT_EQ(StringToDouble("12345678901234567.5"), 12345678901234567.5);
   std::setlocale(LC_ALL, before.c_str());
+}
+
+/// What two words of a short number hold is what is written digit by digit.
+TEST(ShortNumberText, IsTheTextOfANumber) {
+  const auto written = [](std::int64_t whole, int places) {
+    char text[16] = {};
+    ShortNumberText number;
+    if (!number.Set(whole, places)) return std::string("long");
+    return std::string(text, number.Write(text));
+  };
+  const std::int64_t kMost = 99999999;
+  for (std::int64_t whole = 0; whole <= kMost; whole += whole < 11000 ? 1 : 1000 + whole % 7919)
+    for (const int places : {0, 1, 3, 7}) {
+      char digits[40];
+      char* const end = digits + sizeof digits;
+      const std::string expected(PutBefore(end, whole, places), end);
+      ASSERT_EQ(written(whole, places), expected + ",");
+      const bool isLong = expected.size() > 8;
+      ASSERT_EQ(written(-whole - (whole == 0), places) == "long", isLong) << whole;
+    }
+  EXPECT_EQ(written(-5, 1), "-0.5,");
+  EXPECT_EQ(written(-1234567, 2), "-12345.67,");
+  EXPECT_EQ(written(-kMost, 0), "-99999999,");
+  EXPECT_EQ(written(kMost + 1, 0), "long");
+  EXPECT_EQ(written(-kMost - 1, 0), "long");
+  EXPECT_EQ(written(1, 8), "long");
 }
 
 }  // namespace
