@@ -47,7 +47,7 @@ bool LogLoading::Load(const std::string& path, int fileType, std::optional<FileB
     TellNotRead(path, bytes.has_value());
     return false;
   }
-  saving_.FileOpened(*bytes);
+  saving_.FileOpened(fileType, *bytes);
   LoadConversionFiles();
   std::optional<LoadOutcome> outcome = Run(*loader, *bytes);
   if (!outcome) return false;

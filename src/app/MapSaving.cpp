@@ -23,8 +23,8 @@ MapSaving::MapSaving(Globals& globals, Services& services, StatusArea& status, R
       recent_(recent),
       fileChanged_(std::move(fileChanged)) {}
 
-void MapSaving::FileOpened(std::string_view bytes) {
-  bytesOnDisk_ = MarkOf(bytes);
+void MapSaving::FileOpened(int fileType, std::string_view bytes) {
+  if (fileType == kMAPFile) bytesOnDisk_ = MarkOf(bytes);
   failed_ = false;
 }
 

@@ -18,8 +18,8 @@ class MapSaving {
   MapSaving(Globals& globals, Services& services, StatusArea& status, RecentFiles& recent,
             std::function<void()> fileChanged);
 
-  /// A file was opened and held these bytes.
-  void FileOpened(std::string_view bytes);
+  /// A file was opened and held these bytes; only a MAP file is ever written over.
+  void FileOpened(int fileType, std::string_view bytes);
   bool MaySave() const;
   bool MaySaveAs() const;
 
