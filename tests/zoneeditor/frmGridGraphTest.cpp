@@ -66,6 +66,17 @@ TEST_F(frmGridGraphTest, CellsArePickedAndEditedInTheGraph) {
   EXPECT_EQ(State(), "||-|0,0");
   EXPECT_EQ(w.cboRow.Entries().front(), "200kPa 600");
   EXPECT_EQ(w.cboRow.Entries().back(), "0kPa 100");
+  const Surface& surface = *w.chGridGraph.Data().AsSurface();
+  std::string told = surface.title + "; " + surface.subtitle + "; " + surface.height.title + ";";
+  for (const std::string& column : surface.columns) told += " " + column;
+  told += "; locked:";
+  for (std::size_t cell = 0; cell < surface.locked.size(); ++cell)
+    if (surface.locked[cell])
+      told += " " + surface.rows[cell / 16] + " " + surface.columns[cell % 16];
+  EXPECT_EQ(
+      told,
+      "Fuel Zone Graph; This Data Log; Fuel; 00 05 10 15 20 25 30 35 40 45 50 55 60 65 70 75; "
+      "locked: 200kPa 600 00 200kPa 600 05");
   const struct {
     const char* done;
     std::function<void()> run;
