@@ -85,6 +85,9 @@ TEST_F(SpeedGraphTest, TheOffsetMovesTheBenchmarkAndLeavesTheResults) {
   Query("50", "80");
   window->txtOffset.Do({"type", {"-0.5"}});
   EXPECT_EQ(Curve(1), "Benchmark -0.5:50.0 1.5:60.0 3.5:80.0");
+  const ChartAxis& x = window->chSpeedGraph.Data().x;
+  EXPECT_EQ(std::tuple(x.min, x.max, x.divisions, x.format),
+            std::tuple(-0.5, 3.5, 8, std::string("#######0.0")));
   EXPECT_EQ(window->txtResBench.Text(), "04.00");
   window->updOffset.Do({"step", {"up"}});
   EXPECT_EQ(window->txtOffset.Text(), "-0.4");
