@@ -115,8 +115,8 @@ TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
             "My Logger csv MINUTES");
   std::string columns;
   for (const clsDataLogColumn& column : made.objColumns)
-    columns += column.strColumnTitle + "=" + std::to_string(column.lngDataItemID) + " ";
-  EXPECT_EQ(columns, "Time=63 Speed=101 Odd=102 ");
+    columns += column.strDescription + "=" + std::to_string(column.lngDataItemID) + " ";
+  EXPECT_EQ(columns, "Seconds=63 Speed=101 Odd=102 ");
 
   frmLogDescription again = Open(kLog, &made);
   EXPECT_EQ(again.Caption() + " " + again.txtName.Text(), "Edit Definition My Logger");
@@ -124,6 +124,9 @@ TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
                           " | RPM Not read  0 Yes | Speed Own x 0.6214 1 Yes" ODD
                           " | 2: Not read 1 0 rpm 0 shown");
   EXPECT_EQ(DefinitionFileText(again.Definition()), DefinitionFileText(made));
+  Act(window, "choose cboTimeColumn RPM");
+  const clsDataLog byRPM = window.Definition();
+  EXPECT_EQ(Open(kLog, &byRPM).cboTimeColumn.Text(), "RPM");
   again.Show();
   Act(again, "row lvwColumns 4\ntype txtUnit bar\ntype txtName Mine");
   const clsDataLog edited = again.Definition();

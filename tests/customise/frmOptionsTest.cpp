@@ -251,6 +251,7 @@ TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
   EXPECT_EQ(options.picDataColour.BackColour(), 0x123456);
   ASSERT_EQ(options.picDataSample.Shapes().strokes.size(), 1u);
   EXPECT_EQ(options.picDataSample.Shapes().strokes[0].pen, (Pen{0x123456, 3, 50}));
+  EXPECT_EQ(options.picDataSample.Shapes().strokes[0].line, (Drawing::Line{150, 150, 1350, 150}));
   EXPECT_EQ(options.picDataSample.BackColour(), 0xC0C0C0);
   Act(options, "choose cboGraphColourScheme Black");
   EXPECT_EQ(options.picDataSample.BackColour(), 0);

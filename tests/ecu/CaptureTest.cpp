@@ -99,6 +99,12 @@ TEST(Capture, ProposesNamesAndCountsThoseThatWereLoaded) {
   EXPECT_EQ(proposed("gone /logs/2026-11-24e.txt; gone /logs/2026-11-24e.bin"), "2026-11-24e")
       << "the one before was not loaded";
   EXPECT_EQ(proposed("set Auto File Names=N"), "");
+  const char* zones =
+      "set Auto File Names=Y; capture; gone /logs/2026-11-24a.map; user frmNewDownload "
+      "show txtFileName; capture";
+  EXPECT_EQ(EcuStory().Do(ZONES + std::string(zones)),
+            ASKED "close | " MAP_LOGGER "load /logs/run.map 2 | save /logs/run.map | " ASKED
+                  "2026-11-24b | stays");
 }
 
 }  // namespace
