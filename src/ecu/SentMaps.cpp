@@ -26,12 +26,14 @@ bool KeepSentMap(FileSystem& files, const std::string& workingDirectory, std::st
   const std::string folder = AddBackslash(AddBackslash(workingDirectory) + "Uploads");
   if (!files.FolderExists(folder) && !files.MakeFolder(folder)) return false;
   // Two in one second are two.
-  std::string path = folder + NameAt(now);
-  for (int n = 2; files.FileExists(path + ".map"); ++n)
-    path = folder + NameAt(now) + " (" + std::to_string(n) + ")";
-  if (!files.Write(path + ".map", text)) return false;
-  const std::vector<std::string> kept = files.List(folder, kPattern);
-  for (std::size_t n = 0; n + kMostKept < kept.size(); ++n) files.DeleteFile(folder + kept[n]);
+  std::string name = NameAt(now) + ".map";
+  for (int n = 2; files.FileExists(folder + name); ++n)
+    name = NameAt(now) + " (" + std::to_string(n) + ").map";
+  if (!files.Write(folder + name, text)) return false;
+  // This one stays, though a clock that went wrong may have made all others later.
+  std::vector<std::string> others = files.List(folder, kPattern);
+  std::erase(others, name);
+  for (std::size_t n = 0; n + kMostKept <= others.size(); ++n) files.DeleteFile(folder + others[n]);
   return true;
 }
 

@@ -94,6 +94,14 @@ TEST(Upload, KeepsTheLastFiftyMaps) {
       story.Do("list " + uploads + "TVW 2026; list " + uploads + "m; list " + uploads + "TVW."),
       uploads + "TVW 2026-11-24 14-05-09 (2).map " + uploads + "TVW 2026-11-24 14-05-09.map  | " +
           uploads + "mine.map  | " + uploads + "TVW.map ");
+  // A clock that was years ahead made all others later.
+  EcuStory late;
+  for (int n = 10; n < 60; ++n)
+    late.Do("file " + uploads + "TVW 2031-01-01 00-00-" + std::to_string(n) + ".map=");
+  EXPECT_EQ(late.Do("upload; list " + uploads + "TVW 2026"),
+            ALL " | " + uploads + "TVW 2026-11-24 14-05-09.map ");
+  EXPECT_EQ(late.Do("list " + uploads + "TVW 2031-01-01 00-00-1").find("10.map"),
+            std::string::npos);
 }
 
 }  // namespace
