@@ -34,6 +34,21 @@ TEST_F(DrawGraph, EnterLeavesTheBoxBeforeItDraws) {
   EXPECT_EQ(Shown("1"), "1499");
 }
 
+TEST_F(DrawGraph, TheFixedMaximumStepsWithinItsLimits) {
+  Open(50);
+  Main().chkFixY.Value = true;
+  const char* kRows[][3] = {{"240", "up", "250"},
+                            {"240", "down", "230"},
+                            {"995", "up", "1000"},
+                            {"2147483647", "up", "1000"},
+                            {"-2147483648", "down", "10"}};
+  for (const auto& [text, way, wanted] : kRows) {
+    Main().txtYMax.Text = std::string(text);
+    Main().updYMax.Do({"step", {way}});
+    EXPECT_EQ(Main().txtYMax.Text(), wanted) << text << " " << way;
+  }
+}
+
 TEST_F(DrawGraph, ASelectedPointShowsItsSample) {
   Open(2000, "", [](SmallSample& one) { one.rpm = 1000 + one.sample; });
   Main().cmdDrawGraph.Press();  // step 4

@@ -61,6 +61,7 @@ TEST(IniRepair, WhatCanBeToldOfALineStays) {
       {"Only#ne=1\n", ""},
       {"Graph 1 Name=A\nGr#ph 25 N#me=B\nGraph 30#=C\nGr#ph 1 Name=D\n",
        "Graph 1 Name=A\r\nGraph 25 Name=B\r\n"},
+      {"Graph 1 Name=A\nGr#ph 2 Size=B\nCr#ps 2 Name=C\n", "Graph 1 Name=A\r\n"},
       {"[Graphs]\nCar 1 x=1\nC#r 2 x=2\n[General]\nCar 1 y=1\nC#r 2 y=2\n",
        "[Graphs]\r\nCar 1 x=1\r\nCar 2 x=2\r\n[General]\r\nCar 1 y=1\r\nCar 2 y=2\r\n"},
       // clang-format on
