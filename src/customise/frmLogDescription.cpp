@@ -46,7 +46,7 @@ constexpr LineKind kPreamble{"Preamble", 0xB0B0B0}, kTitles{"Titles", 0xD07030},
     kUnitsOf{"Units", 0x30A0D0}, kData{"Data", 0x50A050};
 
 LineKind KindOfLine(int line, const ShapeRows& rows) {
-  if (line == rows.titleLine) return kTitles;
+  if (line >= rows.titleLine && line < rows.titleLine + rows.titleRows) return kTitles;
   if (line == rows.unitsLine) return kUnitsOf;
   if (rows.dataLine >= 0 && line >= rows.dataLine) return kData;
   return kPreamble;

@@ -39,6 +39,7 @@ constexpr Attribute<Log> kHeader[] = {
     {"QUOTED",                   "blnQuoted",                   &Log::blnQuoted},
     {"DELIMITERRUNS",            "blnDelimiterRuns",            &Log::blnDelimiterRuns},
     {"COMMENTPREFIX",            "strCommentPrefix",            &Log::strCommentPrefix},
+    {"TITLEROWS",                "lngTitleRows",                &Log::lngTitleRows},
     {"UNITSROW",                 "lngUnitsRow",                 &Log::lngUnitsRow},
     {"NOVALUETEXTS",             "strNoValueTexts",             &Log::strNoValueTexts},
     {"TITLESSTART",              "strTitlesStart",              &Log::strTitlesStart},

@@ -54,6 +54,7 @@ void TakeForm(clsDataLog& to, const clsDataLog& from) {
   to.blnQuoted = from.blnQuoted;
   to.blnDelimiterRuns = from.blnDelimiterRuns;
   to.strCommentPrefix = from.strCommentPrefix;
+  to.lngTitleRows = from.lngTitleRows;
   to.lngUnitsRow = from.lngUnitsRow;
   to.strNoValueTexts = from.strNoValueTexts;
   to.strTitlesStart = from.strTitlesStart;
@@ -156,6 +157,7 @@ ShapeChoices ChoicesOf(const clsDataLog& definition) {
   choices.decimalSign = definition.strDecimalSign == "," ? ',' : '.';
   if (!definition.strTimeForm.empty()) choices.timeForm = TimeFormOfName(definition.strTimeForm);
   if (definition.dblLineFrequency > 0) choices.lineFrequency = definition.dblLineFrequency;
+  choices.titleRows = std::max(definition.lngTitleRows, 1);
   if (!definition.strTitlesStart.empty() || !definition.strTitlesFrom.empty()) return choices;
   choices.titleLine = definition.lngColumnHeadersLinesBefore;
   choices.dataLine = definition.lngDataLinesBefore;

@@ -90,10 +90,16 @@ LogStart StartAtTitles(PlainLog& text, const clsDataLog& definition, const std::
   }
   LogStart start;
   start.titleLine = text.Line();
+  const long rows = definition.lngTitleRows == 2 ? 2 : 1;
+  text.Skip(rows - 1);
+  const std::string lastRow(text.Line());
   const long toData =
       std::max(definition.lngDataLinesBefore - definition.lngColumnHeadersLinesBefore, 1);
-  if (!text.Skip(toData)) throw DefinitionFault(Message::FileNotLoaded, path);
-  start.titles = TitlesOfLine(start.titleLine, FieldsOfLine(text, definition), definition);
+  if (!text.Skip(std::max(toData - rows + 1, 1L)))
+    throw DefinitionFault(Message::FileNotLoaded, path);
+  const std::size_t fields = FieldsOfLine(text, definition);
+  start.titles = TitlesOfLine(start.titleLine, fields, definition);
+  if (rows > 1) start.titles = JoinRows(start.titles, TitlesOfLine(lastRow, fields, definition));
   return start;
 }
 
@@ -125,6 +131,14 @@ std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fie
     open = std::max(open, 0);
   }
   return joined;
+}
+
+std::vector<std::string> JoinRows(std::vector<std::string> above,
+                                  const std::vector<std::string>& below) {
+  above.resize(std::max(above.size(), below.size()));
+  for (std::size_t at = 0; at < below.size(); ++at)
+    above[at] = Trim(std::string(Trim(above[at])) + " " + below[at]);
+  return above;
 }
 
 std::string_view TitleMarkOf(std::string_view line) {

@@ -24,6 +24,10 @@ LogStart FindFormedStart(PlainLog& text, const clsDataLog& definition, const std
 std::vector<std::string> JoinInBrackets(const std::vector<std::string_view>& fields,
                                         char delimiter);
 
+/// Titles that stand over two rows: "Engine" above "Speed" is "Engine Speed".
+std::vector<std::string> JoinRows(std::vector<std::string> above,
+                                  const std::vector<std::string>& below);
+
 /// Signs such as "#" or "%" and blanks in front of the first title.
 std::string_view TitleMarkOf(std::string_view line);
 

@@ -61,19 +61,31 @@ class Reader {
                            [this](const auto& titles) { return CountKnownTitles(titles); });
     ShapeRows& rows = shape_.rows;
     if (choices_.dataLine) rows.dataLine = *choices_.dataLine;
-    if (choices_.titleLine || choices_.unitsLine)
-      SetTitleLines(rows, text_.head, guess_, choices_.titleLine.value_or(rows.titleLine),
-                    choices_.unitsLine.value_or(rows.unitsLine));
+    SettleTitleLines(rows);
     if (rows.dataLine < 0 || rows.dataLine >= static_cast<int>(text_.head.size())) {
       Tell("Lines: no rows of numbers");
       return false;
     }
-    Tell("Lines: " +
-         (rows.titleLine < 0 ? "no titles"
-                             : "titles in line " + std::to_string(rows.titleLine + 1)) +
+    Tell("Lines: " + TitleLinesText(rows) +
          (rows.unitsLine < 0 ? "" : ", units in line " + std::to_string(rows.unitsLine + 1)) +
          ", data from line " + std::to_string(rows.dataLine + 1));
     return true;
+  }
+
+  void SettleTitleLines(ShapeRows& rows) const {
+    if (!choices_.titleLine && !choices_.unitsLine && !choices_.titleRows) return;
+    TitleLines lines{choices_.titleLine.value_or(rows.titleLine), rows.titleRows,
+                     choices_.unitsLine.value_or(rows.unitsLine)};
+    if (lines.titles != rows.titleLine || lines.units == lines.titles + 1) lines.rows = 1;
+    lines.rows = choices_.titleRows.value_or(lines.rows);
+    SetTitleLines(rows, text_.head, guess_, lines);
+  }
+
+  static std::string TitleLinesText(const ShapeRows& rows) {
+    if (rows.titleLine < 0) return "no titles";
+    const std::string first = std::to_string(rows.titleLine + 1);
+    if (rows.titleRows == 1) return "titles in line " + first;
+    return "titles in lines " + first + " and " + std::to_string(rows.titleLine + 2);
   }
 
   /// Among the first ones.

@@ -16,6 +16,7 @@ struct ShapeChoices {
   std::optional<TextEncoding> encoding;
   std::optional<char> delimiter, decimalSign;
   std::optional<int> titleLine, unitsLine, dataLine;  ///< from 0; -1: there is none
+  std::optional<int> titleRows;                       ///< 1 or 2
   std::optional<int> timeColumn;                      ///< from 0; -1: there is none
   std::optional<TimeForm> timeForm;
   std::optional<double> lineFrequency;  ///< lines a second, for a log without a clock

@@ -27,8 +27,9 @@ void TakeForm(clsDataLog& definition, const LogShape& shape) {
 /// The first two titles are enough to find their line again, however long the preamble of another
 /// log is.
 std::string TitlesStartOf(const LogShape& shape) {
-  if (shape.rows.titles.size() < 2 || shape.rows.titles[0].empty()) return "";
-  return shape.rows.titles[0] + shape.form.delimiter + shape.rows.titles[1];
+  const auto& titles = shape.rows.firstRow;
+  if (titles.size() < 2 || titles[0].empty()) return "";
+  return titles[0] + shape.form.delimiter + titles[1];
 }
 
 void TakeLines(clsDataLog& definition, const LogShape& shape) {
@@ -43,6 +44,7 @@ void TakeLines(clsDataLog& definition, const LogShape& shape) {
   }
   definition.lngColumnHeadersLinesBefore = rows.titleLine;
   definition.strTitlesStart = TitlesStartOf(shape);
+  if (rows.titleRows > 1) definition.lngTitleRows = rows.titleRows;
   if (rows.unitsLine > rows.titleLine) definition.lngUnitsRow = rows.unitsLine - rows.titleLine;
 }
 

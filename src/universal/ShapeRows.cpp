@@ -125,14 +125,50 @@ int TitleLineOf(const std::vector<std::string_view>& lines, const std::vector<in
   return found;
 }
 
-/// The line of units between titles and data; -1 for none.
-int UnitsLineOf(const std::vector<std::string_view>& lines, const ShapeRows& rows,
-                const FieldFormGuess& guess) {
-  for (int at = rows.titleLine + 1; at < rows.dataLine; ++at) {
-    const auto fields = TitlesOf(lines[static_cast<std::size_t>(at)], guess);
-    if (fields.size() > 1 && IsUnitsRow(fields)) return at;
+bool Repeats(std::vector<std::string> titles) {
+  std::erase(titles, "");
+  std::sort(titles.begin(), titles.end());
+  return std::adjacent_find(titles.begin(), titles.end()) != titles.end();
+}
+
+/// "Engine" and "Speed": together two rows name more columns that are known, or tell columns of
+/// like names apart. A row of units is no part of titles, nor one of strokes.
+bool NameTogether(const std::vector<std::string>& above, const std::vector<std::string>& below,
+                  const CountKnown& known) {
+  const auto names = [](const std::vector<std::string>& row) {
+    return std::any_of(row.begin(), row.end(), AnyLetter) && !IsUnitsRow(row);
+  };
+  if (!names(above) || !names(below)) return false;
+  const auto joined = JoinRows(above, below);
+  const int alone = std::max(known(above), known(below)), together = known(joined);
+  return together > alone || (together == alone && Repeats(below) && !Repeats(joined));
+}
+
+/// The first of two such rows; -1 for none.
+int FirstOfTwoRows(const std::vector<std::string_view>& lines, const std::vector<int>& rows,
+                   const FieldFormGuess& guess, const CountKnown& known) {
+  for (std::size_t at = 0; at + 1 < rows.size(); ++at) {
+    const std::string_view below = lines[static_cast<std::size_t>(rows[at])],
+                           above = lines[static_cast<std::size_t>(rows[at + 1])];
+    if (rows[at + 1] == rows[at] - 1 && MayBeTitles(above, guess) && MayBeTitles(below, guess) &&
+        NameTogether(TitlesOf(above, guess), TitlesOf(below, guess), known))
+      return rows[at + 1];
   }
   return -1;
+}
+
+/// The titles' lines, and that of units between them and the data.
+TitleLines FindTitleLines(const std::vector<std::string_view>& lines, int dataLine,
+                          const FieldFormGuess& guess, const CountKnown& known) {
+  const auto rows = RowsAbove(lines, dataLine, guess);
+  TitleLines found{FirstOfTwoRows(lines, rows, guess, known), 2, -1};
+  if (found.titles < 0) found = {TitleLineOf(lines, rows, guess, known), 1, -1};
+  if (found.titles < 0) return found;
+  for (int at = found.titles + found.rows; at < dataLine && found.units < 0; ++at) {
+    const auto fields = TitlesOf(lines[static_cast<std::size_t>(at)], guess);
+    if (fields.size() > 1 && IsUnitsRow(fields)) found.units = at;
+  }
+  return found;
 }
 
 /// What lines among the data begin with that are none and have one beginning in common: "#", "//".
@@ -160,27 +196,26 @@ double DataShare(const std::vector<std::string_view>& lines, std::size_t from,
 }  // namespace
 
 void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
-                   const FieldFormGuess& guess, int titleLine, int unitsLine) {
+                   const FieldFormGuess& guess, const TitleLines& settled) {
   const int count = static_cast<int>(lines.size());
-  if (titleLine < count)
-    rows.titleLine = titleLine;
-  else
-    rows.titleLine = -1;
-  if (unitsLine < count)
-    rows.unitsLine = unitsLine;
-  else
-    rows.unitsLine = -1;
+  const auto lineAt = [&](int at) { return lines[static_cast<std::size_t>(at)]; };
+  rows.titleLine = settled.titles < count ? settled.titles : -1;
+  rows.unitsLine = settled.units < count && rows.titleLine >= 0 ? settled.units : -1;
+  rows.titleRows = 1;
   rows.titles.clear();
   rows.units.clear();
   rows.titleMark.clear();
-  if (rows.titleLine < 0) rows.unitsLine = -1;
   if (rows.titleLine < 0) return;
-  rows.titles = TitlesOf(lines[static_cast<std::size_t>(rows.titleLine)], guess);
-  rows.titleMark = Trim(TitleMarkOf(lines[static_cast<std::size_t>(rows.titleLine)]));
-  rows.quotedTitles =
-      lines[static_cast<std::size_t>(rows.titleLine)].find('"') != std::string_view::npos;
+  rows.titles = rows.firstRow = TitlesOf(lineAt(rows.titleLine), guess);
+  rows.titleMark = Trim(TitleMarkOf(lineAt(rows.titleLine)));
+  rows.quotedTitles = lineAt(rows.titleLine).find('"') != std::string_view::npos;
+  if (const int next = rows.titleLine + 1; settled.rows > 1 && next < count) {
+    rows.titleRows = 2;
+    rows.titles = JoinRows(rows.firstRow, TitlesOf(lineAt(next), guess));
+    rows.quotedTitles = rows.quotedTitles || lineAt(next).find('"') != std::string_view::npos;
+  }
   if (rows.unitsLine < 0) return;
-  rows.units = TitlesOf(lines[static_cast<std::size_t>(rows.unitsLine)], guess);
+  rows.units = TitlesOf(lineAt(rows.unitsLine), guess);
   rows.units.resize(rows.titles.size());
 }
 
@@ -205,9 +240,7 @@ ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGu
   rows.dataLine = FirstDataLine(lines, guess);
   if (rows.dataLine < 0) return rows;
   const auto from = static_cast<std::size_t>(rows.dataLine);
-  rows.titleLine = TitleLineOf(lines, RowsAbove(lines, rows.dataLine, guess), guess, known);
-  if (rows.titleLine >= 0)
-    SetTitleLines(rows, lines, guess, rows.titleLine, UnitsLineOf(lines, rows, guess));
+  SetTitleLines(rows, lines, guess, FindTitleLines(lines, rows.dataLine, guess, known));
   rows.commentPrefix = CommentPrefixOf(lines, from);
   rows.dataShare = DataShare(lines, from, guess);
   if (rows.titleLine >= 0 && !std::any_of(rows.titles.begin(), rows.titles.end(), AnyLetter))

@@ -12,11 +12,13 @@ namespace tarnview {
 /// Which lines of a log's head are what; lines from 0, -1 for none.
 struct ShapeRows {
   int titleLine = -1;
+  int titleRows = 1;  ///< 2: a part of each title stands in that line, and one in the next
   int unitsLine = -1;
   int dataLine = -1;
   std::vector<std::string>
       titles;  ///< of the columns, as they stand without quotes and blanks at their ends
-  std::vector<std::string> units;  ///< as many; empty: none is told
+  std::vector<std::string> firstRow;  ///< the same, of their first row alone
+  std::vector<std::string> units;     ///< as many; empty: none is told
   bool quotedTitles = false;
   std::string titleMark;  ///< signs in front of the first title that are no part of it, such as "#"
   std::string commentPrefix;  ///< of lines among the data that are none; empty for none
@@ -30,9 +32,14 @@ using CountKnown = std::function<int(const std::vector<std::string>& titles)>;
 ShapeRows FindRows(const std::vector<std::string_view>& lines, const FieldFormGuess& guess,
                    const CountKnown& known);
 
-/// Takes titles and units from other lines; -1 for none.
+/// Where titles and units stand; -1 for none.
+struct TitleLines {
+  int titles = -1, rows = 1, units = -1;
+};
+
+/// Takes titles and units from other lines.
 void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
-                   const FieldFormGuess& guess, int titleLine, int unitsLine);
+                   const FieldFormGuess& guess, const TitleLines& settled);
 
 /// A line of samples: as many fields as most have, or nearly; where the others have numbers it has
 /// hardly a text, and none in the first of them.

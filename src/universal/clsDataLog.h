@@ -42,8 +42,9 @@ class clsDataLog {
   bool blnQuoted = false;      ///< fields may stand between double quotes, and a delimiter in them
   bool blnDelimiterRuns =
       false;  ///< several delimiters running are one, and some in front of a line none
-  std::string strCommentPrefix;  ///< lines that start so are no samples
-  std::int32_t lngUnitsRow = 0;  ///< lines from the titles to the units; 0: there are none
+  std::string strCommentPrefix;   ///< lines that start so are no samples
+  std::int32_t lngTitleRows = 0;  ///< 2: titles stand over two rows, a part in each
+  std::int32_t lngUnitsRow = 0;   ///< lines from the titles to the units; 0: there are none
   std::string
       strNoValueTexts;  ///< with "|" between: such a field, or an empty one, keeps the last value
   std::string
@@ -59,7 +60,7 @@ class clsDataLog {
   bool IsFormed() const {
     return !strEncoding.empty() || !strDecimalSign.empty() || blnQuoted || blnDelimiterRuns ||
            !strCommentPrefix.empty() || !strNoValueTexts.empty() || !strTitlesStart.empty() ||
-           !strTitlesFrom.empty() || !strTimeForm.empty() || blnOwnDataItems;
+           !strTitlesFrom.empty() || !strTimeForm.empty() || blnOwnDataItems || lngTitleRows > 0;
   }
 };
 

@@ -58,6 +58,8 @@ TEST(FormedLog, EachKeyByItself) {
       {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n", "  Time   A \n 1 \t 7\n 2   8 \n3 9\n", "7 8 9"},
       {"COMMENTPREFIX=#\nLINEFREQUENCY=5\n", "Time,A\n#a,b\n1,7\n2,8\n3,9\n", "7 8 9"},
       {"TITLESSTART=Time,A\nDATALINESBEFORE=2\n", "note, of it\n# Time, A\ns,kPa\n1,7\n2,8\n3,9\n", "7 8 9"},
+      {"TITLEROWS=2\nDATALINESBEFORE=2\n", "Time,\n,A\n1,7\n2,8\n3,9\n", "7 8 9"},
+      {"TITLESSTART=Time,\nTITLEROWS=2\nDATALINESBEFORE=3\n", "note\nTime,\n,A\ns,kPa\n1,7\n2,8\n3,9\n", "7 8 9"},
       {"TITLESSTART=Other,A\n", "Time,A\n1,7\n2,8\n3,9\n", "7 8 9"},
       {"ENCODING=UTF-16LE\n",
        std::string("T\0i\0m\0e\0,\0A\0\n\0", 14) + std::string("1\0,\0", 4) + std::string("7\0\n\0", 4) +

@@ -171,6 +171,12 @@ TEST(LogShape, RowsOfTitlesAndTheDecimalSignAreToldApart) {
       {"Engine,,Temps\nTime (s),RPM,CLT (C)\n",
        "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
+      {"Engine,Engine,Temps\nTime (s),RPM,CLT (C)\n",
+       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
+       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
+      {"Pump A,Pump B,Pump B\nTime,Flow,Flow\n",
+       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
+       "| 63 Secs [s] | 101 Flow | 102 Flow 2\n"},
       {"s,rpm,C\nTime,RPM,CLT\n",
        "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},

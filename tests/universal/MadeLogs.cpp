@@ -40,6 +40,29 @@ std::vector<MadeLog> MadeLogs() {
        "time 0 SECONDS 0.066 rate 0\n"
        "| 63 Secs [s] | 101 SecL [sec] | 3 RPM [rpm] | 5 MAP [kPa]"
        " | 23 C Temp [C] x0.5556+-17.78 | 36 A/F [AFR] | 21 IAdv [deg]\n"},
+      {"titles over two rows, and units below",
+       "made up\n"
+       "Time,Engine,Vehicle,Coolant,Intake Air,Bank 1,Bank 2\n"
+       ",Speed,Speed,Temp,Temp,Trim,Trim\n"
+       "s,rpm,km/h,C,C,%,%\n"
+       "0.0,900,80,81,24,1,2\n"
+       "0.1,1409,81,82,25,3,4\n"
+       "0.2,1918,82,83,26,5,6\n",
+       "3 x 7: 0.000 0.100 0.200; rpm 900 1409 1918; last 3:1918 24:51.0 23:83.0 31:26.0 101:5 102:6",
+       "UTF-8 comma . titles 2 units 4 data 5\n"
+       "time 0 SECONDS 0.1 rate 0\n"
+       "| 63 Secs [s] | 3 RPM [rpm] | 24 Speed [mph] x0.6214+0 | 23 C Temp [C] | 31 A Temp [C]"
+       " | 101 Bank 1 Trim [%] | 102 Bank 2 Trim [%]\n"},
+      {"titles over two rows in quotes, the first one empty",
+       ";\"Throttle\";\"Pump\";\"Pump\"\n"
+       "Time;\"Position (%)\";\"Left; 1\";\"Right\"\n"
+       "0,5;40;1;2\n"
+       "0,6;41;3;4\n"
+       "0,7;42;5;6\n",
+       "3 x 4: 0.000 0.100 0.200; rpm 0 0 0; last 17:42.0 101:5 102:6",
+       "UTF-8 semicolon , quoted titles 1 units 0 data 3\n"
+       "time 0 SECONDS 0.1 rate 0\n"
+       "| 63 Secs [s] | 17 TPS [%] | 101 Pump Left; 1 | 102 Pump Right\n"},
       {"the same without a preamble",
        "Time\tRPM\tTPS\tIAT\tPW\n"
        "s\tRPM\t%\tC\tms\n"
