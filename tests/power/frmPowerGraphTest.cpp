@@ -3,6 +3,7 @@
 #include "power/PowerWindowsFixture.h"
 #include "power/frmPowerBenchComments.h"
 #include "power/frmPowerGraph.h"
+#include "support/WindowActions.h"
 
 namespace tarnview {
 namespace {
@@ -46,25 +47,15 @@ TEST_F(PowerGraphTest, OpensWithTheMainWindowsRangeTheFirstCarAndTheSettingsAir)
   settings.gblnSAECorrection = true;
   Open();
   EXPECT_EQ(Range(), "120-180");
-  EXPECT_EQ(window->cboCarDefs.Text(), "New");
-  EXPECT_EQ(window->cboGear.Text(), "4th");
-  EXPECT_EQ(window->txtWeight.Text(), "180");
-  EXPECT_EQ(window->txtSmoothFactor.Text(), "7");
-  EXPECT_EQ(window->txtCorrFactor.Text(), "0.982");
-  EXPECT_EQ(window->lblRH.Caption(), "'C");
+  EXPECT_EQ(Texts(*window, "cboCarDefs cboGear txtWeight txtSmoothFactor txtCorrFactor lblRH"),
+            "New|4th|180|7|0.982|'C");
   EXPECT_TRUE(window->chkSAE.Value());
-  EXPECT_FALSE(window->cboBenchMarkAction.Enabled());
-  EXPECT_FALSE(window->mnuBench.Enabled());
-  EXPECT_FALSE(window->mnuFileSave.Enabled());
-  window->cboCarDefs.Do({"choose", {"Metric"}});
-  EXPECT_EQ(window->cboGear.Text() + " " + window->txtWeight.Text() + " " +
-                window->txtSmoothFactor.Text(),
-            "2nd 80 0");
-  window->cboHumidityType.Do({"choose", {"Rel. Humidity"}});
-  window->txtRH.Do({"type", {"0"}});
-  window->txtAmbTemp.Do({"type", {"25"}});
-  window->updAtmos.Do({"step", {"down"}});
-  window->updAtmos.Do({"step", {"down"}});
+  EXPECT_EQ(Enabled(*window, "cboBenchMarkAction mnuBench mnuFileSave"), "");
+  Act(*window, "choose cboCarDefs Metric");
+  EXPECT_EQ(Texts(*window, "cboGear txtWeight txtSmoothFactor"), "2nd|80|0");
+  Act(*window,
+      "choose cboHumidityType Rel. Humidity\ntype txtRH 0\ntype txtAmbTemp 25\n"
+      "step updAtmos down\nstep updAtmos down");
   EXPECT_EQ(window->txtCorrFactor.Text(), "1.000");
 }
 
@@ -126,11 +117,12 @@ TEST_F(PowerGraphTest, ACarWithoutARatioDrawsNothingAndSaysWhichField) {
 TEST_F(PowerGraphTest, ABenchmarkIsHiddenShownOrAveraged) {
   Open();
   LoadSaved();
-  EXPECT_EQ(window->lblBenchmark2.Caption(), "stock");
-  EXPECT_EQ(window->cboBenchMarkAction.Text(), "Show");
+  EXPECT_EQ(Texts(*window, "lblBenchmark2 cboBenchMarkAction mnuFileRecent(0)") + "|" + Panel(1),
+            "stock|Show|&1 /b/stock.pow|Loading complete");
   EXPECT_TRUE(window->mnuBench.Enabled());
-  EXPECT_EQ(Panel(1), "Loading complete");
-  EXPECT_EQ(window->mnuFileRecent(0).Caption(), "&1 /b/stock.pow");
+  settings.recentPowerGraphFiles.resize(12, "/b/old.pow");
+  LoadSaved();
+  EXPECT_EQ(settings.recentPowerGraphFiles.size(), 9u);
   Draw("100", "200");
   EXPECT_EQ(Names(),
             "Your Power (85.1 hp @ 3990 rpm, Vmax 109 mph)\nYour Torque (114.2 lbft @ 3990 rpm)\n"

@@ -102,10 +102,16 @@ TEST_F(SpeedGraphTest, WithoutABenchmarkItsFieldsAreHidden) {
                                        &window->lblResBench, &window->txtResBench})
     EXPECT_FALSE(control->Visible()) << control->name;
   EXPECT_EQ(window->chSpeedGraph.Data().Series().size(), 1u);
-  EXPECT_EQ(Query("90", "100"), "90-100: 00.51 ");
-  host.answers.push_back({Answer::Kind::Printer});
+  host.answers = {{Answer::Kind::Printer}, {Answer::Kind::Printer}};
   window->mnuFilePrint.Do({"click", {}});
-  EXPECT_EQ(host.pages.size(), 1u);
+  EXPECT_EQ(Query("90", "100"), "90-100: 00.51 ");
+  window->mnuFilePrint.Do({"click", {}});
+  std::string told;
+  for (const auto& page : host.pages)
+    for (const auto& text : page.texts) told += text.text + "|";
+  EXPECT_EQ(told,
+            "Tarnview Speed Graph|File : |/logs/run.txt|Tarnview Speed Graph|File : |/logs/run.txt|"
+            "Acceleration : |90 - 100 kmh|You : |00.51|");
 }
 
 TEST_F(SpeedGraphTest, ASpeedWithoutEndIsNotShown) {
