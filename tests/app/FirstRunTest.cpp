@@ -29,16 +29,21 @@ class Desktop : public RecordingHost {
   }
 };
 
+constexpr const char* kDefinition = "/tv/data/Universal Data Log Formats/OBDLink.txt";
+
 class FirstRunTest : public ::testing::Test {
  protected:
   FirstRunTest() {
     files.folders = {"/tv", "/tv/bin", "/tv/data"};
     for (const std::string& name : disk.List(TARNVIEW_DATA, "Tarnview_Install*.ini"))
-      files.files["/tv/data/" + name] =
-          disk.Read(std::string(TARNVIEW_DATA "/") + name).value_or("");
-    files.files["/tv/data/Universal Data Log Formats/OBDLink.txt"] =
-        disk.Read(TARNVIEW_DATA "/Universal Data Log Formats/OBDLink.txt").value_or("");
+      files.files["/tv/data/" + name] = Shipped(name);
+    files.files[kDefinition] = Shipped("Universal Data Log Formats/OBDLink.txt");
     files.files["/tv/data/Universal Data Log Formats/bad.txt"] = "no definition";
+  }
+  std::string Shipped(const std::string& name) {
+    const auto bytes = disk.Read(TARNVIEW_DATA "/" + name);
+    EXPECT_TRUE(bytes) << name;
+    return std::string(bytes ? std::string_view(*bytes) : "");
   }
   void Start() {
     program = std::make_unique<Program>(host, files, clock, processes,
@@ -47,8 +52,7 @@ class FirstRunTest : public ::testing::Test {
   }
   void Choose(const std::string& entry) {
     host.user = [entry](frmFindINIFile& window) {
-      window.lstFileType.Do({"choose", {entry}});
-      window.cmdOK.Press();
+      Act(window, "choose lstFileType " + entry + "\nclick cmdOK");
     };
   }
   std::vector<int> MessageIds() const {
@@ -56,9 +60,9 @@ class FirstRunTest : public ::testing::Test {
     for (const Box& box : host.messages) ids.push_back(box.id);
     return ids;
   }
-  std::string Value(const char* key) {
+  std::string Value(const char* key, const char* path = kPath) {
     return std::string(
-        GetINIValue(ReadINIFileToArray(files.files[kPath]), "General", key).value_or("(missing)"));
+        GetINIValue(ReadINIFileToArray(files.files[path]), "General", key).value_or("(missing)"));
   }
 
   RealFileSystem disk;
@@ -74,9 +78,8 @@ TEST_F(FirstRunTest, LogsOfAUserWithAFolderOfHisOwnLieInHisDocuments) {
   const ProgramFolders folders{"/home/me/.config/tarnview/", "/tv/data/", "/home/me/Documents/"};
   program = std::make_unique<Program>(host, files, clock, processes, folders);
   program->Start("", true);
-  const IniTable table = ReadINIFileToArray(files.files["/home/me/.config/tarnview/Tarnview.ini"]);
   for (const char* key : {"Default Working Directory", "Initial Directory"})
-    EXPECT_EQ(GetINIValue(table, "General", key), "/home/me/Documents/");
+    EXPECT_EQ(Value(key, "/home/me/.config/tarnview/Tarnview.ini"), "/home/me/Documents/");
 }
 
 TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
@@ -86,15 +89,15 @@ TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
                             "OBDLink Data Logs", "Tec-2 Data Logs", "Tec-3 Data Logs",
                             "UTEC CSV Data Logs", "UTEC Fixed-Width Data Logs", "<Other>"));
     EXPECT_EQ(window.lstFileType.ListIndex(), 0);
-    EXPECT_FALSE(window.txtPathOther.Enabled());
-    window.lstFileType.Do({"choose", {"<Other>"}});
-    EXPECT_TRUE(window.txtPathOther.Enabled() && window.lblPathOther.Enabled() &&
-                window.cmdBrowse.Enabled());
+    const char* const kOther = "txtPathOther lblPathOther cmdBrowse";
+    EXPECT_EQ(Enabled(window, kOther), "");
+    Act(window, "choose lstFileType <Other>");
+    EXPECT_EQ(Enabled(window, kOther), std::string(kOther) + " ");
     host.nextFile = Answer{Answer::Kind::File, "/logs/my.txt"};
     window.cmdBrowse.Press();
     EXPECT_EQ(window.ActiveControl(), &window.cmdOK) << "Enter goes on from there";
-    window.lstFileType.Do({"choose", {"#3"}});
-    EXPECT_FALSE(window.cmdBrowse.Enabled());
+    Act(window, "choose lstFileType #3");
+    EXPECT_EQ(Enabled(window, kOther), "");
   };
   Start();
 }
@@ -112,16 +115,17 @@ TEST_F(FirstRunTest, ATemplateIsCopiedAndFilledIn) {
       "Picture=C:\\old\\car.bmp\r\nZoom Amount=30\r\n";
   Choose("FM Link Data Logs");
   Start();
-  EXPECT_EQ(Value("Initial Directory"), "/tv/");
-  EXPECT_EQ(Value("Default Working Directory"), "/tv/");
-  EXPECT_EQ(Value("Alternative Background Picture"), "/tv/Images/car.bmp");
-  EXPECT_EQ(Value("Log EXE"), "/tv/LinkWin/LinkWin.exe");
-  EXPECT_EQ(Value("Conversion EXE"), "/tv/MDOS/MDOS_AT.exe");
-  EXPECT_EQ(Value("O2 Input Conversion File"),
-            "/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt");
-  EXPECT_EQ(Value("Zoom Amount"), "30");
+  const std::pair<const char*, const char*> values[] = {
+      {"Initial Directory", "/tv/"},
+      {"Default Working Directory", "/tv/"},
+      {"Alternative Background Picture", "/tv/Images/car.bmp"},
+      {"Log EXE", "/tv/LinkWin/LinkWin.exe"},
+      {"Conversion EXE", "/tv/MDOS/MDOS_AT.exe"},
+      {"O2 Input Conversion File", "/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt"},
+      {"Zoom Amount", "30"},
+      {"Generic Data Log Definition File", "(missing)"}};
+  for (const auto& [key, value] : values) EXPECT_EQ(Value(key), value) << key;
   EXPECT_EQ(program->MainWindow().cboZoomAmount.Text(), "30");
-  EXPECT_EQ(Value("Generic Data Log Definition File"), "(missing)");
 }
 
 TEST_F(FirstRunTest, ATableInTheDataFolderIsFoundThere) {
@@ -137,8 +141,7 @@ TEST_F(FirstRunTest, ADefinitionIsTakenWithItsPresets) {
   Choose("OBDLink Data Logs");
   Start();
   EXPECT_THAT(MessageIds(), ElementsAre());
-  EXPECT_EQ(Value("Generic Data Log Definition File"),
-            "/tv/data/Universal Data Log Formats/OBDLink.txt");
+  EXPECT_EQ(Value("Generic Data Log Definition File"), kDefinition);
   EXPECT_EQ(Value("Log EXE"), "");
   const Globals& globals = program->Global();
   EXPECT_EQ(globals.gclsDataLogDefinition.strName, "OBDLink");
@@ -147,22 +150,17 @@ TEST_F(FirstRunTest, ADefinitionIsTakenWithItsPresets) {
 
 TEST_F(FirstRunTest, OtherNeedsAGoodDefinition) {
   host.user = [this](frmFindINIFile& window) {
-    window.lstFileType.Do({"choose", {"<Other>"}});
-    window.cmdOK.Press();
+    Act(window, "choose lstFileType <Other>\nclick cmdOK");
     EXPECT_TRUE(window.IsShown());
-    window.txtPathOther.Text = "/tv/none.txt";
-    window.cmdOK.Press();
+    Act(window, "type txtPathOther /tv/none.txt\nclick cmdOK");
     EXPECT_TRUE(window.IsShown());
-    host.answers.push_back(
-        {Answer::Kind::File, "/tv/data/Universal Data Log Formats/OBDLink.txt", 0, 0});
-    window.cmdBrowse.Press();
-    window.cmdOK.Press();
+    host.answers = {{Answer::Kind::File, kDefinition}};
+    Act(window, "click cmdBrowse\nclick cmdOK");
     EXPECT_FALSE(window.IsShown());
   };
   Start();
   EXPECT_THAT(MessageIds(), ElementsAre(78, 70));
-  EXPECT_EQ(Value("Generic Data Log Definition File"),
-            "/tv/data/Universal Data Log Formats/OBDLink.txt");
+  EXPECT_EQ(Value("Generic Data Log Definition File"), kDefinition);
 }
 
 TEST_F(FirstRunTest, WithoutATemplateTheDefaultsServe) {
@@ -201,9 +199,7 @@ int PresetsOf(int family, const Presets& presets, const clsLogDataItems& items,
 TEST_F(FirstRunTest, TheShippedTemplatesHoldGoodData) {
   for (int type = 1; type <= kUniversalLog; ++type) {
     SCOPED_TRACE(type);
-    const auto text = disk.Read(TARNVIEW_DATA "/Tarnview_Install" + std::to_string(type) + ".ini");
-    ASSERT_TRUE(text);
-    files.files[kPath] = *text;
+    files.files[kPath] = Shipped("Tarnview_Install" + std::to_string(type) + ".ini");
     Start();
     EXPECT_THAT(MessageIds(), ElementsAre());
     const Globals& globals = program->Global();
@@ -233,9 +229,8 @@ TEST_F(FirstRunTest, TheShippedTemplatesHoldGoodData) {
 }
 
 TEST_F(FirstRunTest, TheShippedConversionTableIsSorted) {
-  const auto text = disk.Read(TARNVIEW_DATA "/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt");
-  ASSERT_TRUE(text);
-  const ConversionTable table = ParseConversionTable(*text);
+  const ConversionTable table =
+      ParseConversionTable(Shipped("NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt"));
   ASSERT_GT(table.size(), 20u);
   EXPECT_EQ(TableLookup(80, table, true, false), 14700);
   for (std::size_t row = 1; row < table.size(); ++row) {

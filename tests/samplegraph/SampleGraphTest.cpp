@@ -126,6 +126,10 @@ TEST_F(SampleGraphTest, HiddenRowsKeepTheirChecks) {
   const int all = lvwSampleDetails.Count();
   chkShowCheckedOnly.Value = true;
   EXPECT_EQ(lvwSampleDetails.Count(), static_cast<int>(checked.size()));
+  details.SelectItem(20);
+  EXPECT_EQ(lvwSampleDetails.SelectedRow(), 1);
+  details.SelectItem(5);  // has no row
+  EXPECT_EQ(lvwSampleDetails.SelectedRow(), 1);
   lvwSampleDetails.Do({"tick", {"RPM", "off"}});
   chkShowCheckedOnly.Value = false;
   EXPECT_EQ(lvwSampleDetails.Count(), all);

@@ -81,8 +81,9 @@ TEST_F(PresetDetailsTest, SavesAndProposesTheSameFileAgain) {
 
 TEST_F(PresetDetailsTest, LoadsExactlyTheItemsOfAFile) {
   Load(
-      "Graph 1 Name=Knock\nGraph 1 Data Items=20,99,47,21\nGraph 1 Fix Graph Max=Y\nGraph 1 Graph "
-      "Max=120");
+      "Graph 1 Name=Knock\nGraph 1 Data Items=20,99,47,21\nGraph 1 Fix Graph Max=Y\n"
+      "Graph 1 Graph Max=120");
+  EXPECT_TRUE(host.messages[0].text.ends_with("Data Item(s): 99, 47"));
   EXPECT_EQ(Boxes(), (Items{92}));
   EXPECT_EQ(window->txtName.Text(), "Knock");
   EXPECT_EQ(window->txtYMax.Text(), "120");
