@@ -104,6 +104,7 @@ TEST(OldPresetSettings, ASeriesIsAMaskOfItems) {
             (std::vector<int>{10, 16, 17, 31, 3, 7, 5, 20, 13, 21, 23, 11}));
   EXPECT_EQ(read.samples.Item(3).colDataItems, (std::vector<int>{3, 20}));
   EXPECT_TRUE(read.samples.Item(4).colDataItems.empty());
+  EXPECT_TRUE(read.samples.Item(3).strName.starts_with("RPM and"));
   EXPECT_EQ(read.samples.Item(3).lngLogFamily, 1);
   EXPECT_EQ(read.samples.Item(3).lngGraphMax, 10);
   EXPECT_FALSE(read.samples.Item(3).blnFixGraphMax);

@@ -25,6 +25,7 @@ class ScatterPresetFile : public ::testing::Test {
 
 TEST_F(ScatterPresetFile, IsWrittenLineByLineAndReadBack) {
   clsScatterGraphPreset preset;
+  EXPECT_EQ(preset.lngPointColour + preset.lngPointSize, 0) << "never given";
   preset.strName = "Spool Up";
   preset.lngPointColour = 0xFFFF00;
   preset.lngPointShape = 3;

@@ -39,6 +39,7 @@ TEST_F(ChartTableTest, PlotsEveryStepThRowByItsStoreIndex) {
   EXPECT_EQ(table.headings, (std::vector<std::string>{"RPM", "MAP"}));
   EXPECT_EQ(table.LastRow(), 4);
   EXPECT_EQ(table.X(0), 0);
+  EXPECT_EQ(table.X(1), 0.4095);
 }
 
 TEST_F(ChartTableTest, AKnockBetweenTwoPlottedRowsShowsAtTheNext) {

@@ -95,6 +95,8 @@ TEST_F(GraphMouseTest, TheListFollowsThePointerAndComesBack) {
   // It is still there when the graph has moved under it.
   Mouse("wheel", {Time(201), "1"});
   EXPECT_EQ(Shown("1"), "201");
+  Mouse("pan", {Time(205), Time(215)});
+  EXPECT_EQ(Shown("1"), "205");
   Mouse("hover", {});
   EXPECT_EQ(Shown("1") + " " + Shown("3"), "151 1151");
   EXPECT_FALSE(chSampleGraph.HairLine().has_value());

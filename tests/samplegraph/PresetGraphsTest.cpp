@@ -1,5 +1,6 @@
 #include "WholeGraph.h"
 #include "samplegraph/PresetGraphs.h"
+#include "samplegraph/frmNewPresetName.h"
 
 namespace tarnview {
 namespace {
@@ -60,6 +61,20 @@ TEST_F(PresetGraphsTest, OneTakesWhatIsTicked) {
     EXPECT_EQ(presets.Item(preset).lngLogFamily, 1);
   }
   EXPECT_EQ(presets.Item(4).strName, "Mine");
+}
+
+TEST_F(PresetGraphsTest, ANewOneIsAskedForItsName) {
+  const std::tuple<const char*, const char*, bool> rows[] = {
+      {"type txtName  \nclick cmdOK\nclick cmdCancel", "New", false},
+      {"type txtName Mine\nclick cmdOK", "Mine", true}};
+  for (const auto& [actions, name, accepted] : rows) {
+    frmNewPresetName asked(host, messages, "New");
+    asked.Show();
+    Act(asked, actions);
+    EXPECT_EQ(asked.Accepted(), accepted);
+    EXPECT_TRUE(!accepted || asked.strName() == name);
+    EXPECT_EQ(Boxes(), accepted ? Ids{} : Ids{41});
+  }
 }
 
 }  // namespace

@@ -121,9 +121,12 @@ TEST_F(SampleGraphTest, AnItemThatIsNotPlottableLosesItsCheck) {
 }
 
 TEST_F(SampleGraphTest, HiddenRowsKeepTheirChecks) {
+  catalogue.gcolFixedDataItems.Item(36).blnDisplay = false;
   OpenLog(50);
+  EXPECT_EQ(lvwSampleDetails.RowOfTag("36"), 0);
   const auto checked = details.CheckedItems();
   const int all = lvwSampleDetails.Count();
+  EXPECT_EQ(ItemsOfRows(lvwSampleDetails).size(), static_cast<std::size_t>(all));
   chkShowCheckedOnly.Value = true;
   EXPECT_EQ(lvwSampleDetails.Count(), static_cast<int>(checked.size()));
   details.SelectItem(20);

@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "model/Catalogue.h"
+#include "model/Column.h"
 #include "samplegraph/ZoneInfluence.h"
+#include "samplegraph/ZoneInfluencePanel.h"
+#include "ui/Form.h"
+#include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
@@ -32,6 +37,51 @@ TEST(ZoneInfluenceTest, NamesTheFourZonesAndPlacesTheSample) {
     EXPECT_DOUBLE_EQ(found.up, row.up) << row.rpm << " " << row.kPa;
     EXPECT_NEAR(found.across, row.across, 1e-9) << row.rpm << " " << row.kPa;
   }
+}
+
+TEST(ZoneInfluencePanel, ShowsTheHighlightedSampleWhileItIsWanted) {
+  struct Window : Form {
+    explicit Window(Host& itsHost) : Form(itsHost, "frmTry", "") {}
+    Frame frame{*this, "fra", ""};
+    ControlArray<Label> labels{*this, "lbl", UpTo(4), ""};
+    Picture picture{*this, "pic", 1500, 900};
+    MenuItem item{*this, "mnu", ""};
+    CommandButton draw{*this, "cmd", ""};
+  };
+  RecordingHost host;
+  Window window(host);
+  const Catalogue catalogue = BuildDataItemCatalogue();
+  OpenLog log;
+  log.Clear(catalogue.gcolFixedDataItems, 2);
+  for (int n = 1; n <= 2; ++n) {
+    log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), n);
+    log.glngDataLog.Set(kRPM, n - 1, 1000 * n);
+    log.glngDataLog.Set(kMAP, n - 1, 400);
+  }
+  log.glngLastSample = 1;
+  log.glngFirstSampleTime = 1;
+  log.glngLastSampleTime = 2;
+  log.gblnSamplesLoaded = log.gblnZonesLoaded = true;
+  Selection selection;
+  ZoneInfluencePanel panel({window.frame, window.labels, window.picture, window.item, window.draw},
+                           selection, log);
+  std::string told;
+  for (const auto& [wanted, sample] :
+       {std::pair{true, 1}, {true, 2}, {true, 0}, {false, 2}, {true, 2}}) {
+    panel.gblnDisplayZoneInfluence = wanted;
+    selection.Highlight(sample);
+    panel.DisplayZoneInfluence();
+    panel.RefreshZoneInfluence();
+    for (const auto& label : window.labels) told += label->Caption() + " ";
+    told += std::string(window.frame.Visible() ? "seen" : "") +
+            (window.item.Checked() ? " ticked" : "") + "\n";
+  }
+  EXPECT_EQ(told, R"(105 110 205 210 seen ticked
+115 120 215 220 seen ticked
+115 120 215 220 seen ticked
+115 120 215 220 
+115 120 215 220 seen ticked
+)");
 }
 
 }  // namespace
