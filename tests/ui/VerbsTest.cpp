@@ -1,0 +1,128 @@
+// What a user can do to each kind of control, and that nothing else is taken.
+
+#include <gtest/gtest.h>
+
+#include "ui/Chart.h"
+#include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
+#include "ui/CommandButton.h"
+#include "ui/Frame.h"
+#include "ui/Grid.h"
+#include "ui/Label.h"
+#include "ui/ListBox.h"
+#include "ui/ListView.h"
+#include "ui/MenuItem.h"
+#include "ui/OptionButton.h"
+#include "ui/Picture.h"
+#include "ui/ProgressBar.h"
+#include "ui/RecordingHost.h"
+#include "ui/ScrollBar.h"
+#include "ui/StatusBar.h"
+#include "ui/TabStrip.h"
+#include "ui/TextBox.h"
+#include "ui/Timer.h"
+#include "ui/UpDown.h"
+
+namespace tarnview {
+namespace {
+
+struct AllKinds : Form {
+  explicit AllKinds(Host& itsHost) : Form(itsHost, "frmAll", "") {
+    list.SetList({"a", "b"});
+    combo.SetList({"a", "b"});
+    timer.Enabled = true;
+    ListView::Row row;
+    row.texts = {"a", "1"};
+    view.SetRows({row});
+    grid.SetSize(2, 2);
+    ChartDescription data;
+    data.kind = Curves{{{3, "RPM", {0, 1}, {5, 6}, {}}}};
+    chart.SetData(data);
+  }
+  CheckBox check{*this, "chk", ""};
+  OptionButton option{*this, "opt", "fra", ""};
+  CommandButton button{*this, "cmd", ""};
+  MenuItem menu{*this, "mnu", ""};
+  ListBox list{*this, "lst"};
+  ComboBox combo{*this, "cbo"}, editable{*this, "cboTyped", true};
+  TextBox text{*this, "txt"};
+  UpDown arrows{*this, "upd"};
+  ScrollBar scroll{*this, "hsb"};
+  Timer timer{*this, "tmr", 10};
+  ListView view{*this, "lvw", {{"A"}, {"B"}}, true};
+  Grid grid{*this, "grd"};
+  Chart chart{*this, "ch"};
+  TabStrip tabs{*this, "tab"};
+  Label label{*this, "lbl", ""};
+  Frame frame{*this, "fra", ""};
+  Picture picture{*this, "pic", 9, 9};
+  StatusBar status{*this, "sta", 3};
+  ProgressBar progress{*this, "pro"};
+};
+
+TEST(Verbs, EachKindTakesItsOwn) {
+  RecordingHost host;
+  AllKinds form(host);
+  const Action kActions[] = {
+      {"click", {}},         {"type", {"5"}},      {"choose", {"#0"}},    {"step", {"up"}},
+      {"scroll", {"3"}},     {"row", {"1"}},       {"tick", {"1", "on"}}, {"sort", {"A"}},
+      {"double", {"1"}},     {"cell", {"1", "1"}}, {"popup", {}},         {"point", {"1", "1"}},
+      {"wheel", {"1", "2"}}, {"hover", {}},        {"nonsense", {}},      {"", {}}};
+  std::string told;
+  for (Control* control : form.Controls()) {
+    told += std::string(control->Kind()) + ":";
+    for (const Action& action : kActions) try {
+        control->Do(action);
+        told += " " + action.verb;
+      } catch (const CannotDo&) {
+      }
+    told += "\n";
+  }
+  EXPECT_EQ(told, R"(check box: click
+option button: click
+button: click
+menu item: click
+list box: choose
+combo box: choose
+combo box: type
+text box: type
+up-down control: step
+scroll bar: scroll
+timer: click
+list: row tick sort double
+grid: cell popup
+chart: double popup point wheel hover
+tab strip:
+label:
+frame:
+picture:
+status bar:
+progress bar:
+)");
+}
+
+TEST(Verbs, AChartTellsWhatAHandDoes) {
+  RecordingHost host;
+  AllKinds form(host);
+  std::string told;
+  const auto tell = [&](const char* what) {
+    return [&told, what](double x, double y) {
+      told += std::string(what) + std::to_string(static_cast<int>(x * 100 + y)) + " ";
+    };
+  };
+  form.chart.Wheel = tell("wheel");
+  form.chart.Band = tell("band");
+  form.chart.Pan = tell("pan");
+  form.chart.Turn = tell("turn");
+  form.chart.Hover = [&](double x) { tell("hover")(x, 0); };
+  form.chart.HoverEnd = [&] { told += "away "; };
+  form.chart.DblClick = [&] { told += "double "; };
+  form.chart.RightClick = [&] { told += "menu "; };
+  for (const char* verb : {"wheel", "band", "pan", "turn"}) form.chart.Do({verb, {"1", "2"}});
+  form.chart.Do({"hover", {"3"}});
+  for (const char* verb : {"hover", "double", "popup"}) form.chart.Do({verb, {}});
+  EXPECT_EQ(told, "wheel102 band102 pan102 turn102 hover300 away double menu ");
+}
+
+}  // namespace
+}  // namespace tarnview
