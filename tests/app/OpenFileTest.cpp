@@ -160,16 +160,6 @@ TEST_F(OpenFile, WithoutQuickGraphALongLogIsShortenedInSilence) {
   EXPECT_EQ(Boxes(), (Ids{16}));
 }
 
-TEST_F(OpenFile, TheLongScrollBarServesFromTheLastIndex32701) {
-  Start();
-  for (const auto& [rows, isLong] : {std::pair{32701, false}, {32702, true}}) {
-    files.files["/logs/run.txt"] = SmallLog(rows);
-    Main().LoadDataFile("/logs/run.txt", 0);
-    EXPECT_EQ(Main().hsbGraphScrollLarge.Visible(), isLong) << rows;
-    EXPECT_EQ(Main().hsbGraphScroll.Visible(), !isLong) << rows;
-  }
-}
-
 TEST_F(OpenFile, EditedZonesAreProtected) {
   Open(5);
   program->Global().log.gblnZonesDirty = true;
