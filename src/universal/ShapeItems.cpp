@@ -181,10 +181,7 @@ ShapeItem OwnItem(const ShapeColumn& column, int number) {
   item.factor = column.scale * large;
   const double lowest = column.lowest * large, highest = column.highest * large;
   const bool thousandths = large < 1 || column.content == ColumnContent::Time;
-  if (item.list) {
-    item.places = 0;
-    item.displayFactor = 1;
-  } else {
+  if (!item.list) {
     item.places = PlacesOf(lowest, highest, thousandths ? 3 : column.places);
     item.displayFactor = DisplayFactorOf(lowest, highest);
   }

@@ -204,10 +204,8 @@ void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
   rows.titleRows = 1;
   rows.titles.clear();
   rows.units.clear();
-  rows.titleMark.clear();
   if (rows.titleLine < 0) return;
   rows.titles = rows.firstRow = TitlesOf(lineAt(rows.titleLine), guess);
-  rows.titleMark = Trim(TitleMarkOf(lineAt(rows.titleLine)));
   rows.quotedTitles = lineAt(rows.titleLine).find('"') != std::string_view::npos;
   if (const int next = rows.titleLine + 1; settled.rows > 1 && next < count) {
     rows.titleRows = 2;

@@ -20,7 +20,6 @@ struct ShapeRows {
   std::vector<std::string> firstRow;  ///< the same, of their first row alone
   std::vector<std::string> units;     ///< as many; empty: none is told
   bool quotedTitles = false;
-  std::string titleMark;  ///< signs in front of the first title that are no part of it, such as "#"
   std::string commentPrefix;  ///< of lines among the data that are none; empty for none
   double dataShare = 0;       ///< of the lines from the first of data on: those that are data
 };

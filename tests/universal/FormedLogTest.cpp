@@ -110,7 +110,8 @@ TEST(FormedLog, LongOnesAreReadAsShortOnes) {
       {"TIMEFORM=SECONDS\n", Replaced(plain, '\n', "\r")},
       {"QUOTED=Y\n", "\"" + Replaced(Replaced(plain, ',', "\",\""), '\n', "\"\n\"")},
       {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", semicolons},
-      {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n", Replaced(plain, ',', "  ")},
+      {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n",
+       Replaced(Replaced(plain, ',', "  "), '\n', "\n ")},
       {"ENCODING=UTF-16LE\n", Wide(plain, false)},
       {"ENCODING=UTF-16BE\n", Wide(Replaced(plain, '\n', "\r"), true)},
   };

@@ -177,6 +177,9 @@ TEST(LogShape, RowsOfTitlesAndTheDecimalSignAreToldApart) {
       {"Pump A,Pump B,Pump B\nTime,Flow,Flow\n",
        "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
        "| 63 Secs [s] | 101 Flow | 102 Flow 2\n"},
+      {"[1],[2],[3]\n",
+       "UTF-8 comma . titles 0 units 0 data 2\ntime 0 SECONDS 1 rate 0\n"
+       "| 63 Secs [s] | 101 Column 2 | 102 Column 3\n"},
       {"s,rpm,C\nTime,RPM,CLT\n",
        "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
        "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
