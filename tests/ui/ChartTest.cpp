@@ -42,6 +42,7 @@ Surface TwoByThree() {
 
 TEST_F(ChartTest, EachKindHasItsOwnSeriesAndPoints) {
   ChartDescription data;
+  EXPECT_FALSE(data.colours.systemBackdrop);
   data.kind = Curves{{{3, "RPM", {0, 1}, {5, 6}, {}}, {5, "MAP", {0, 1, 2}, {7, 8, 9}, {}}}};
   chart.SetData(data);
   EXPECT_TRUE(Takes(1, 2) && Takes(3, 3));

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <sstream>
 
+#include "base/Numbers.h"
 #include "ui/SurfaceScene.h"
 
 namespace tarnview {
@@ -212,6 +213,14 @@ TEST(SurfaceScene, LinesRunFromCellToCellAndTheLightComesFromTheLeft) {
     if (face.kind != SceneFace::Kind::Ground || face.row != 1 || face.column != 1) continue;
     EXPECT_EQ(face.lined, (std::array{true, false, false, true}));
   }
+}
+
+TEST(SurfaceScene, EachFaceHasItsLight) {
+  std::string told;
+  Surface map = SmallMap(30, 40);
+  map.values = {0, 50, 10, 40, 5, 30};
+  for (const SceneFace& face : MakeScene(map, Room()).faces) told += FixedText(face.light, 2) + " ";
+  EXPECT_EQ(told, "0.77 0.80 0.88 0.91 1.00 0.99 0.95 0.95 1.00 1.00 1.00 1.00 0.80 0.80 ");
 }
 
 TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
