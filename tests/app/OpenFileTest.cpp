@@ -43,6 +43,7 @@ TEST_F(OpenFile, WhatDoesNotLoadIsToldAndLeavesNoLog) {
     EXPECT_EQ(MessageIds(), row.messages) << row.path;
     EXPECT_EQ(Main().Caption(), "Tarnview");
     EXPECT_EQ(Said(), "Loading failed");
+    EXPECT_FALSE(Log().gblnZonesDirty);
     EXPECT_FALSE(Main().cmdDrawGraph.Enabled());
     EXPECT_FALSE(Main().fraGraphSeriesFrame.Enabled());
     EXPECT_EQ(Main().PlotRangeFrom.Text(), "");

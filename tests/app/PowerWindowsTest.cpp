@@ -46,12 +46,13 @@ TEST_F(PowerWindowsOfProgram, KeepTheirGraphWhenTheLogGoes) {
 TEST_F(PowerWindowsOfProgram, CopyTheRunToTheSampleGraph) {
   OpenLog();
   frmPowerGraph& window = Main().Power().Open();
-  window.txtPlotRangeFrom.Text = "10";
-  window.txtPlotRangeTo.Text = "40";
-  window.cmdDrawGraph.Press();
-  window.mnuToolsCopy.Do({"click", {}});
-  EXPECT_EQ(Main().PlotFrom(), 10);
-  EXPECT_EQ(Main().PlotTo(), 40);
+  Main().Details().SetCheckedItems({ItemOf(kPower)});
+  Draw("10", "40");
+  Act(window,
+      "type txtPlotRangeFrom 10\ntype txtPlotRangeTo 40\nclick cmdDrawGraph\n"
+      "click mnuToolsCopy");
+  EXPECT_GT(Main().chSampleGraph.Data().Series().at(0).y.at(10), 0) << "drawn anew";
+  EXPECT_EQ(Range(), "10-40");
   EXPECT_EQ(Main().Selected().lngHighlightSample(), 25);
   EXPECT_GT(Log().glngDataLog(kPower, 20), 0);
   EXPECT_EQ(Log().glngDataLog(kPower, 5), 0);
