@@ -186,6 +186,7 @@ TEST_F(Options, BrowseForAPath) {
   frmOptions& options = Open();
   host.answers = {{Answer::Kind::Folder, "/new"}, {Answer::Kind::File, "/link/L.EXE"}};
   Act(options, "click cmdBrowse(3)\nclick cmdBrowse(0)");
+  EXPECT_EQ(options.cmdBrowse(6).ToolTip(), "Click to select it");
   EXPECT_EQ(options.txtPath(3).Text(), "/new");
   EXPECT_EQ(options.txtPath(0).Text(), "/link/L.EXE");
   const auto& dialog = std::get<Object>(host.boxes[0].Get());
@@ -244,6 +245,8 @@ TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
       "cmdDataColour\n"
       "type txtFactor 0.5");
   const clsLogDataItem& rpm = options.Draft().catalogue.gcolFixedDataItems.Item(3);
+  const auto& dialog = std::get<Object>(host.boxes[0].Get());
+  EXPECT_EQ(std::get<std::string>(dialog[0].second.Get()), "colour");
   EXPECT_EQ(rpm.lngLineStyle, 3);
   EXPECT_EQ(rpm.lngLineWidth, 5);
   EXPECT_EQ(rpm.lngColour, 0x123456);
