@@ -71,6 +71,8 @@ TEST_F(SettingsCommand, AScriptKeepsItsSettingsWhereItIsTold) {
     EXPECT_NE(Get("out.ini").find(std::string(line) + "\r\n"), std::string::npos) << line;
   ASSERT_EQ(Run({"drive", Path("script"), "--settings", Path("out.ini")}), kDone);
   EXPECT_NE(Get("out.ini").find("Quick Graph=0\r\n"), std::string::npos);
+  EXPECT_EQ(Run({"drive", Path("script"), "--write-settings", Path("no/such/folder/out.ini")}),
+            kFailed);
 }
 
 }  // namespace
