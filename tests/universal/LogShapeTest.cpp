@@ -191,6 +191,8 @@ TEST(LogShape, RowsOfTitlesAndTheDecimalSignAreToldApart) {
                             ",0,40,800\n,1,50,900\n,2,55,1100\n,3,60,1200\n")),
             "UTF-8 comma . titles 2 units 4 data 5\ntime 1 SECONDS 1 rate 0\n"
             "| 101 Column 1 [Marker] | 63 Secs [s] | 102 Load [%] | 5 MAP [kPa] x0.1+0\n");
+  const LogShape untitled = ShapeOf("0.5,900,80\n0.6,950,81\n# 1,2\n0.7,980,82\n0.8,990,83\n");
+  EXPECT_EQ(untitled.rows.commentPrefix + " " + NumberText(untitled.rows.dataShare), "# 0.8");
   EXPECT_EQ(ShapeOf("t;Lambda\n0;0,980\n1;1,012\n2;1,100\n").form.decimalSign, ',');
   EXPECT_EQ(ShapeOf("t;RPM\n0;1,980\n1;1,012\n2;1,100\n").form.decimalSign, ',');
   EXPECT_EQ(ShapeOf("t;RPM\n0.1;1,980\n0.2;1,012\n0.3;1,100\n").form.decimalSign, '.');
