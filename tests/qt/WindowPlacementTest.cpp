@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QHeaderView>
 #include <QSplitter>
 #include <QTimer>
+#include <QTreeWidget>
+#include <algorithm>
 
 #include "app/MainWindowControls.h"
 #include "app/Program.h"
@@ -168,6 +171,22 @@ TEST(WindowPlacementTest, EveryWindowFitsASmallScreen) {
     EXPECT_LE(least.height(), window->inherits("QDialog") ? 505 : 480) << form->name;
   }
   Settle();
+}
+
+/// Of the main window's column of lists, over which it stands where the screen has no other room.
+TEST(WindowPlacementTest, TheDataTagsAreNoWiderThanTheColumnTheyMayCover) {
+  TestApplication();
+  RecordingHost host;
+  AllWindows windows(host);
+  const auto forms = windows.Forms();
+  const auto tags = std::find_if(forms.begin(), forms.end(),
+                                 [](const Form* form) { return form->name == "frmDataTags"; });
+  FormWindow shown(**tags, nullptr, [](Form&) {});
+  shown.Raise(false);
+  Settle();
+  EXPECT_LE(shown.window().width(), 44 * shown.window().fontMetrics().averageCharWidth());
+  const auto* list = shown.window().findChild<QTreeWidget*>("lvwTags");
+  EXPECT_EQ(list->header()->length(), list->viewport()->width());
 }
 
 TEST(WindowPlacementTest, InALowColumnTheListStaysAndTheOthersGo) {

@@ -48,8 +48,8 @@ void ListViewAdapter::SetUpColumns() {
   view_.setHeaderLabels(headings);
   QHeaderView& header = *view_.header();
   header.setSectionsClickable(true);
-  header.setStretchLastSection(true);
   const bool even = columns.size() <= 2 && AllNumbers(columns);
+  header.setStretchLastSection(!even);
   header.setSectionResizeMode(even ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
   // Several columns of numbers stand together at the right, and the names before them take the
   // room.
