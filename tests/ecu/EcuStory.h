@@ -30,10 +30,29 @@ class EcuStory : private RecordingHost,
                  private Capture::MainWindow,
                  private Upload::Editor {
  public:
-  EcuStory() : EcuStory(memory_, *this) {
+  EcuStory() : files_(memory_), programs_(*this, *this) {
+    Prepare();
     Do("file /link/L.exe=; file /mdos/C.exe=; file /logs/old.txt=old");
   }
   EcuStory(FileSystem& files, Processes& processes) : files_(files), programs_(processes, *this) {
+    Prepare();
+  }
+
+  std::string Do(const std::string& steps) {
+    for (const std::string& step : SplitAt(steps, "; ")) {
+      const auto blank = std::min(step.find(' '), step.size() - 1);
+      const auto verb = Verbs().find(step.substr(0, step.find(' ')));
+      EXPECT_NE(verb, Verbs().end()) << step;
+      if (verb != Verbs().end()) verb->second(step.substr(blank + 1));
+    }
+    return std::exchange(told_, "");
+  }
+  const EcuWorld& World() const { return world_; }
+
+ private:
+  using Texts = std::vector<std::string>;
+
+  void Prepare() {
     Do("set Log EXE=/link/L.exe; set Conversion EXE=/mdos/C.exe; "
        "set Default Working Directory=/logs/; set Default Chip Date=2003-06-09; "
        "set Default Engine Size=1.8; set Default Atmospheric Pressure=98; form 1.8 2003-06-09; "
@@ -55,20 +74,6 @@ class EcuStory : private RecordingHost,
         Put("/mdos/miatatmp.txt=text of " + Get("/mdos/miatatmp.bin"));
     };
   }
-
-  std::string Do(const std::string& steps) {
-    for (const std::string& step : SplitAt(steps, "; ")) {
-      const auto blank = std::min(step.find(' '), step.size() - 1);
-      const auto verb = Verbs().find(step.substr(0, step.find(' ')));
-      EXPECT_NE(verb, Verbs().end()) << step;
-      if (verb != Verbs().end()) verb->second(step.substr(blank + 1));
-    }
-    return std::exchange(told_, "");
-  }
-  const EcuWorld& World() const { return world_; }
-
- private:
-  using Texts = std::vector<std::string>;
 
   const std::map<std::string, std::function<void(const std::string& rest)>>& Verbs() {
     if (!verbs_.empty()) return verbs_;
