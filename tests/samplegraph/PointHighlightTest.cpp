@@ -1,12 +1,11 @@
-#include "GraphStandIn.h"
-#include "model/clsFileTypes.h"
+#include "GraphWithList.h"
 #include "samplegraph/PointHighlight.h"
 
 namespace tarnview {
 namespace {
 
 /// Curves of RPM (falling), MAP and Knock (rising) over ten samples.
-class PointHighlightTest : public GraphStandIn, protected PointHighlight::MainWindow {
+class PointHighlightTest : public GraphWithList, protected PointHighlight::MainWindow {
  protected:
   PointHighlightTest() {
     details.SetUpSampleGraphSampleListView(kFMLinkLog, catalogue.gcolFixedDataItems);
@@ -29,18 +28,6 @@ class PointHighlightTest : public GraphStandIn, protected PointHighlight::MainWi
   std::string Notes() { return std::exchange(notes, ""); }
   std::string RowSelected() { return lvwSampleDetails.At(lvwSampleDetails.SelectedRow()).texts[0]; }
 
-  FileKinds kinds = SetUpLogFamilies();
-  ListView lvwSampleDetails{window, "lvwSampleDetails", {{"Item"}, {"Value", true}}, true};
-  CheckBox chkShowCheckedOnly{window, "chkShowCheckedOnly", ""};
-  Chart chSampleGraph{window, "chSampleGraph"};
-  StatusBar bar{window, "bar", 3};
-  ProgressBar progress{window, "progress"};
-  StatusArea status{window, bar, progress};
-  SampleDetails details{{lvwSampleDetails, chkShowCheckedOnly, chSampleGraph},
-                        drawn,
-                        selection,
-                        log,
-                        kinds.gcolLogFamilies};
   PointHighlight highlight{{chSampleGraph}, drawn, selection, range, log, details, status, *this};
   std::string notes;
 };

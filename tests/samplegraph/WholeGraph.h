@@ -3,8 +3,7 @@
 #include <cmath>
 #include <string>
 
-#include "GraphStandIn.h"
-#include "model/clsFileTypes.h"
+#include "GraphWithList.h"
 #include "samplegraph/GraphMouse.h"
 #include "samplegraph/PointHighlight.h"
 #include "samplegraph/SampleGraph.h"
@@ -15,7 +14,7 @@ namespace tarnview {
 
 /// The parts of the Sample Graph put together as the main window does it, over samples that are
 /// 81.92 ms apart. RPM is 1000 and the sample's number; RPM and Knock are ticked.
-class WholeGraph : public GraphStandIn,
+class WholeGraph : public GraphWithList,
                    protected SampleGraph::MainWindow,
                    protected PointHighlight::MainWindow,
                    protected GraphMouse::MainWindow,
@@ -65,7 +64,6 @@ class WholeGraph : public GraphStandIn,
     graph.DrawSampleGraphAfter(history);
   }
 
-  FileKinds kinds = SetUpLogFamilies();
   Settings settings;
   Messages messages{host, [](int) { return ""; }};
   CheckBox chkQuickGraph{window, "chkQuickGraph", ""};
@@ -74,18 +72,7 @@ class WholeGraph : public GraphStandIn,
   UpDown updYMax{window, "updYMax"};
   ComboBox cboZoomAmount{window, "cboZoomAmount", true};
   CommandButton cmdZoomFull{window, "cmdZoomFull", ""};
-  ListView lvwSampleDetails{window, "lvwSampleDetails", {{"Item"}, {"Value", true}}, true};
-  CheckBox chkShowCheckedOnly{window, "chkShowCheckedOnly", ""};
   Frame fraPicture{window, "fraPicture"};
-  Chart chSampleGraph{window, "chSampleGraph"};
-  StatusBar bar{window, "bar", 3};
-  ProgressBar progress{window, "progress"};
-  StatusArea status{window, bar, progress};
-  SampleDetails details{{lvwSampleDetails, chkShowCheckedOnly, chSampleGraph},
-                        drawn,
-                        selection,
-                        log,
-                        kinds.gcolLogFamilies};
   SampleGraph graph{
       window,
       {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture},
