@@ -92,8 +92,8 @@ double SecondsOfWholeRuns(const std::vector<Run>& runs) {
 /// Spreads runs of equal times. A log may start and end within a run, whose few lines are then no
 /// further apart than those of others.
 void Spread(std::vector<double>& times) {
+  if (std::adjacent_find(times.begin(), times.end()) == times.end()) return;
   std::vector<Run> runs = RunsOf(times);
-  if (runs.empty()) return;
   if (const double usual = SecondsOfWholeRuns(runs); usual > 0) {
     runs.back().span = std::min(runs.back().span, usual * runs.back().Lines());
     const double late = std::max(runs[0].span - usual * runs[0].Lines(), 0.0);
@@ -109,8 +109,7 @@ void Spread(std::vector<double>& times) {
 
 std::vector<double> TimesOfLines(std::span<const double> stamps, TimeForm form) {
   std::vector<double> times = Rising(stamps, form);
-  const bool anyAlike = std::adjacent_find(times.begin(), times.end()) != times.end();
-  if (anyAlike) Spread(times);
+  Spread(times);
   return times;
 }
 
