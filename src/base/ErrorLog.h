@@ -31,18 +31,6 @@ class ErrorLog {
   std::string path_;
 };
 
-/// Runs a procedure below the user's action: a failure is logged and goes on.
-template <class Body>
-auto Trap(ErrorLog& log, const char* module, const char* procedure, Body&& body) {
-  try {
-    return std::forward<Body>(body)();
-  } catch (const std::exception& error) {
-    const RuntimeError raised = AsRuntimeError(error);
-    log.LogError(module, procedure, raised, true);
-    throw raised;
-  }
-}
-
 /// Runs a user's action: a failure is logged and ends here. True if there was none. Want of memory
 /// goes on to where events end, where the user is told.
 template <class Body>
