@@ -7,7 +7,8 @@
 
 #include "app/Program.h"
 #include "cli/ConsoleHost.h"
-#include "cli/Script.h"
+#include "ui/Script.h"
+#include "ui/ScriptUser.h"
 
 namespace tarnview {
 
@@ -20,8 +21,7 @@ class ScriptProcesses : public RealProcesses {
   int Open(const std::string& path) override;
 };
 
-/// Works the windows by their controls' names. It knows controls and not windows: what an action
-/// does to a control is the control's own affair.
+/// A script at the program's windows: what a user does, and what is to be told of it.
 class Driver : private ConsoleHost {
  public:
   /// The settings that the main window leaves when it closes go to `writeSettings`; empty: nowhere.
@@ -34,7 +34,7 @@ class Driver : private ConsoleHost {
   bool Run();
 
  private:
-  using Words = std::vector<std::string>;
+  using Words = ScriptUser::Words;
   struct Verb {
     const char* name;
     void (Driver::*run)(const Words& words);
@@ -48,23 +48,15 @@ class Driver : private ConsoleHost {
   /// other, so no exception passes through them.
   void Fail(const std::string& why);
   void DoLine(const ScriptLine& line);
-  void WorkControl(const std::string& verb, const Words& words);
+  void WorkControl(Words words);
 
   void OpenLogFile(const Words& words);
-  void PressKey(const Words& words);
-  void QueueAnswer(const Words& words);
-  void Close(const Words& words);
   void ShowFacts(const Words& words);
   void ShowChart(const Words& words);
   void ShowBoxes(const Words& words);
   void ShowRuns(const Words& words);
-  void Popup(const Words& words);
 
-  Form& Active();
-  Form* FindWindow(const std::string& name);
-  Control& FindControl(const std::string& name);
-  static Control& FindIn(const Form& form, std::string name);
-
+  ScriptUser user_{*this};
   ScriptSource script_;
   bool writesSettings_;
   int line_ = 0;  ///< that is being done

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cli/Script.h"
+#include "ui/Script.h"
 
 namespace tarnview {
 namespace {

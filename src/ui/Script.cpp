@@ -1,4 +1,4 @@
-#include "cli/Script.h"
+#include "ui/Script.h"
 
 #include "base/Text.h"
 
