@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
+#include "support/Story.h"
 #include "ui/RecordingHost.h"
 #include "zoneeditor/frmGridGraph.h"
 
@@ -28,27 +29,22 @@ GridGraphRequest Request() {
 
 class frmGridGraphTest : public testing::Test {
  protected:
-  frmGridGraph& Open(GridGraphRequest request = Request()) {
+  frmGridGraphTest() {
+    story.Verb("angles", [this](const auto&) { angles = {1, 2, 3, 4}; });
+    story.Fact("height", [this] { return Height(); });
+  }
+  void Open(const GridGraphRequest& request = Request()) {
     window = std::make_unique<frmGridGraph>(
         host, frmGridGraph::Surroundings{angles, errors, messages}, request);
     window->Show();
-    return *window;
   }
-  void Do(Control& control, const char* verb, std::vector<std::string> words = {}) {
-    control.Do({verb, words});
-  }
-  /// Row, column, value ("-" when it cannot be edited), the chart's point and its number there.
-  std::string State() {
-    const Surface& surface = *window->chGridGraph.Data().AsSurface();
-    const int row = window->chGridGraph.SelectedSeries(),
-              column = window->chGridGraph.SelectedPoint();
-    std::string state = window->cboRow.Text() + "|" + window->cboColumn.Text() + "|" +
-                        window->txtValue.Text() + (window->txtValue.ReadOnly ? "-" : "") + "|" +
-                        std::to_string(row) + "," + std::to_string(column);
-    if (row > 0)
-      state += "=" + NumberText(surface.At(static_cast<std::size_t>(row - 1),
-                                           static_cast<std::size_t>(column - 1)));
-    return state;
+  /// The selected cell of the surface.
+  std::string Height() {
+    const int row = window->chGridGraph.SelectedSeries();
+    const int column = window->chGridGraph.SelectedPoint();
+    if (row <= 0) return "";
+    return NumberText(window->chGridGraph.Data().AsSurface()->At(
+        static_cast<std::size_t>(row - 1), static_cast<std::size_t>(column - 1)));
   }
 
   RecordingHost host;
@@ -58,125 +54,66 @@ class frmGridGraphTest : public testing::Test {
   Messages messages{host, [](int) { return std::string(); }};
   GraphAngles angles;
   std::unique_ptr<frmGridGraph> window;
+  Story story{host};
 };
 
 TEST_F(frmGridGraphTest, CellsArePickedAndEditedInTheGraph) {
-  frmGridGraph& w = Open();
-  EXPECT_EQ(w.Caption(), "Tarnview 3D Graph - Fuel (This Datalog)");
-  EXPECT_EQ(State(), "||-|0,0");
-  EXPECT_EQ(w.cboRow.Entries().front(), "200kPa 600");
-  EXPECT_EQ(w.cboRow.Entries().back(), "0kPa 100");
-  const Surface& surface = *w.chGridGraph.Data().AsSurface();
-  std::string told = surface.title + "; " + surface.subtitle + "; " + surface.height.title + ";";
-  for (const std::string& column : surface.columns) told += " " + column;
-  told += "; locked:";
-  for (std::size_t cell = 0; cell < surface.locked.size(); ++cell)
-    if (surface.locked[cell])
-      told += " " + surface.rows[cell / 16] + " " + surface.columns[cell % 16];
-  EXPECT_EQ(
-      told,
-      "Fuel Zone Graph; This Data Log; Fuel; 00 05 10 15 20 25 30 35 40 45 50 55 60 65 70 75; "
-      "locked: 200kPa 600 00 200kPa 600 05");
-  const struct {
-    const char* done;
-    std::function<void()> run;
-    const char* state;
-  } kStory[] = {
-      {"a point",
-       [&] {
-         Do(w.chGridGraph, "point", {"3", "5"});
-       },
-       "80kPa 300|20|65|3,5=65"},
-      {"another row", [&] { Do(w.cboRow, "choose", {"#0"}); }, "200kPa 600|20|125|6,5=125"},
-      {"another column", [&] { Do(w.cboColumn, "choose", {"75"}); }, "200kPa 600|75|136|6,16=136"},
-      {"typed too high", [&] { Do(w.txtValue, "type", {"300"}); }, "200kPa 600|75|255|6,16=255"},
-      {"stepped", [&] { Do(w.updValue, "step", {"up"}); }, "200kPa 600|75|255|6,16=255"},
-      {"stepped down", [&] { Do(w.updValue, "step", {"down"}); }, "200kPa 600|75|254|6,16=254"},
-      {"no number", [&] { Do(w.txtValue, "type", {"x"}); }, "200kPa 600|75|0|6,16=0"},
-      {"reset", [&] { Do(w.cmdReset, "click"); }, "200kPa 600|75|0|6,16=0"},
-      {"a locked cell",
-       [&] {
-         Do(w.chGridGraph, "point", {"6", "2"});
-       },
-       "200kPa 600|05|122-|6,2=122"},
-      {"the cell beside",
-       [&] {
-         Do(w.chGridGraph, "point", {"6", "3"});
-       },
-       "200kPa 600|10|123|6,3=123"},
-  };
-  for (const auto& step : kStory) {
-    step.run();
-    EXPECT_EQ(State(), step.state) << step.done;
-  }
-  EXPECT_THROW(Do(w.chGridGraph, "point", {"7", "1"}), CannotDo);
-  w.txtValue.SetFocus();
-  w.txtValue.Text = std::string("77");
-  w.Press({"Enter"});
-  EXPECT_EQ(State(), "200kPa 600|10|77|6,3=77");
-  EXPECT_TRUE(w.IsShown()) << "Enter in the field takes the value alone";
-  w.txtValue.Text = std::string("78");
-  Do(w.cmdOK, "click");
-  EXPECT_TRUE(w.Accepted());
-  EXPECT_EQ(w.Table().Text(6, 3), "78");
-  EXPECT_EQ(w.Table().Text(6, 16), "0");
+  Open();
+  EXPECT_STORY(story, R"(
+show caption cboRow chGridGraph -> caption=Tarnview 3D Graph - Fuel (This Datalog), cboRow list=[200kPa 600|160kPa 500|120kPa 400|80kPa 300|40kPa 200|0kPa 100], cboRow=, chGridGraph title=Fuel Zone Graph, chGridGraph subtitle=This Data Log, chGridGraph rotation=20, chGridGraph elevation=240, chGridGraph zoom=1, chGridGraph count=6, chGridGraph[1]=0kPa 100, chGridGraph[2]=40kPa 200, chGridGraph[3]=80kPa 300, chGridGraph[4]=120kPa 400, chGridGraph[5]=160kPa 500, chGridGraph[6]=200kPa 600, chGridGraph columns=[00|05|10|15|20|25|30|35|40|45|50|55|60|65|70|75], chGridGraph values count=6, chGridGraph values[0]=16 from 21 to 36, chGridGraph values[1]=16 from 41 to 56, chGridGraph values[2]=16 from 61 to 76, chGridGraph values[3]=16 from 81 to 96, chGridGraph values[4]=16 from 101 to 116, chGridGraph values[5]=16 from 121 to 136, chGridGraph locked count=2, chGridGraph locked[0]=[6|1], chGridGraph locked[1]=[6|2], chGridGraph height_axis min=20, chGridGraph height_axis max=140, chGridGraph height_axis divisions=6, chGridGraph selected=[0|0]
+point chGridGraph 3 5 -> height=65, chGridGraph selected=[3|5], cboRow=80kPa 300, cboColumn=20, txtValue=65, updValue on
+choose cboRow #0 -> height=125, chGridGraph selected=[6|5], cboRow=200kPa 600, txtValue=125
+choose cboColumn 75 -> height=136, chGridGraph selected=[6|16], cboColumn=75, txtValue=136
+type txtValue 300 -> height=255, chGridGraph values[5]=16 from 121 to 255, chGridGraph height_axis min=0, chGridGraph height_axis max=300, txtValue=255
+step updValue up
+step updValue down -> height=254, chGridGraph values[5]=16 from 121 to 254, txtValue=254
+type txtValue x -> height=0, chGridGraph values[5]=16 from 121 to 0, chGridGraph height_axis max=150, chGridGraph height_axis divisions=3, txtValue=0
+click cmdReset
+point chGridGraph 6 2; show txtValue -> txtValue=122, height=122, chGridGraph selected=[6|2], cboColumn=05, txtValue=122, updValue off
+point chGridGraph 6 3 -> height=123, chGridGraph selected=[6|3], cboColumn=10, txtValue=123, updValue on
+point chGridGraph 7 1 -> cannot: chGridGraph has no such series
+# Enter in the field takes the value alone.
+write txtValue 77; key Enter -> height=77, txtValue=77
+write txtValue 78; click cmdOK -> -frmGridGraph, height=78
+)");
+  EXPECT_TRUE(window->Accepted());
+  EXPECT_EQ(window->Table().Text(6, 3) + window->Table().Text(6, 16), "780");
 }
 
 TEST_F(frmGridGraphTest, AnglesFollowFieldsArrowsAndTheHand) {
-  frmGridGraph& w = Open();
-  angles = {1, 2, 3, 4};
-  const auto view = [&] {
-    const SurfaceView& it = w.chGridGraph.Data().AsSurface()->view;
-    return w.txtRotation.Text() + "," + w.txtElevation.Text() + " " + std::to_string(it.rotation) +
-           "," + std::to_string(it.elevation) + " x" + FixedText(it.zoom, 2);
-  };
-  const struct {
-    const char* done;
-    std::function<void()> run;
-    const char* view;
-  } kStory[] = {
-      {"typed", [&] { Do(w.txtRotation, "type", {"45"}); }, "45,240 45,240 x1.00"},
-      {"too high", [&] { Do(w.txtRotation, "type", {"400"}); }, "359,240 359,240 x1.00"},
-      {"up", [&] { Do(w.updRotation, "step", {"up"}); }, "359,240 359,240 x1.00"},
-      {"down", [&] { Do(w.updRotation, "step", {"down"}); }, "358,240 358,240 x1.00"},
-      {"negative", [&] { Do(w.txtElevation, "type", {"-5"}); }, "358,0 358,0 x1.00"},
-      {"a step up", [&] { Do(w.updElevation, "step", {"up"}); }, "358,1 358,1 x1.00"},
-      {"the hand",
-       [&] {
-         Do(w.chGridGraph, "turn", {"5", "-20"});
-       },
-       "3,21 3,21 x1.00"},
-      {"the wheel",
-       [&] {
-         Do(w.chGridGraph, "wheel", {"0", "2"});
-       },
-       "3,21 3,21 x1.32"},
-      {"double click", [&] { Do(w.chGridGraph, "double"); }, "1,2 1,2 x1.00"},
-  };
-  for (const auto& step : kStory) {
-    step.run();
-    EXPECT_EQ(view(), step.view) << step.done;
-  }
-  w.txtRotation.Text = std::string("500");
-  EXPECT_EQ(w.chGridGraph.Data().AsSurface()->view.rotation, 359) << "while it is typed";
-  Do(w.cmdOK, "click");
-  EXPECT_EQ(w.Rotation(), 359);
-  EXPECT_EQ(w.Elevation(), 2);
+  Open();
+  EXPECT_STORY(story, R"(
+angles
+type txtRotation 45 -> chGridGraph rotation=45, txtRotation=45
+type txtRotation 400 -> chGridGraph rotation=359, txtRotation=359
+step updRotation up
+step updRotation down -> chGridGraph rotation=358, txtRotation=358
+type txtElevation -5 -> chGridGraph elevation=0, txtElevation=0
+step updElevation up -> chGridGraph elevation=1, txtElevation=1
+turn chGridGraph 5 -20 -> chGridGraph rotation=3, chGridGraph elevation=21, txtRotation=3, txtElevation=21
+wheel chGridGraph 0 2 -> chGridGraph zoom=1.3225
+double chGridGraph -> chGridGraph rotation=1, chGridGraph elevation=2, chGridGraph zoom=1, txtRotation=1, txtElevation=2
+write txtRotation 500 -> chGridGraph rotation=359, txtRotation=500
+click cmdOK -> -frmGridGraph
+)");
+  EXPECT_EQ(window->Rotation(), 359);
+  EXPECT_EQ(window->Elevation(), 2);
 }
 
 TEST_F(frmGridGraphTest, AViewEditsNothing) {
   GridGraphRequest request = Request();
   request.readOnly = true;
   request.table.Text(2, 2) = "";
-  frmGridGraph& w = Open(request);
-  EXPECT_FALSE(w.cmdOK.Visible);
-  EXPECT_EQ(w.cmdCancel.Caption(), "&Close");
-  Do(w.chGridGraph, "point", {"2", "2"});
-  EXPECT_EQ(State(), "40kPa 200|05|-|2,2=0") << "an empty difference is none";
-  EXPECT_THROW(Do(w.txtValue, "type", {"1"}), CannotDo);
-  EXPECT_THROW(Do(w.updValue, "step", {"up"}), CannotDo);
-  Do(w.cmdCancel, "click");
-  EXPECT_FALSE(w.IsShown() || w.Accepted());
+  Open(request);
+  EXPECT_STORY(story, R"(
+show cmdOK cmdCancel -> cmdOK hidden, cmdOK=OK, cmdCancel=&Close
+# An empty difference is none.
+point chGridGraph 2 2 -> height=0, chGridGraph selected=[2|2], cboRow=40kPa 200, cboColumn=05
+type txtValue 1 -> cannot: txtValue cannot be edited
+step updValue up -> cannot: updValue is disabled
+click cmdCancel -> -frmGridGraph
+)");
+  EXPECT_FALSE(window->Accepted());
 }
 
 TEST(GridGraphTable, TextsOfEachGrid) {
