@@ -39,8 +39,8 @@ class Story {
   void Fact(const std::string& name, std::function<std::string()> tell) {
     facts_.emplace_back(name, tell);
   }
-  /// Leaves out what changes at every step: facts whose names begin so.
-  void PassOver(const std::string& start) { passedOver_.push_back(start); }
+  /// Leaves out what changes at every step: facts with that in their names.
+  void PassOver(const std::string& part) { passedOver_.push_back(part); }
 
   /// Does the story again, whatever it says behind the arrows, and tells what came of it.
   std::string Play(const std::string& story) {
@@ -100,11 +100,14 @@ class Story {
     for (const std::string& name : names) {
       if (name == "focus") shown_.push_back("focus " + Focus(form));
       for (const auto& [fact, value] : facts.All()) {
-        const bool usual =
-            value == "true" && (fact.ends_with(" enabled") || fact.ends_with(" visible"));
-        if (IsOf(fact, name) && !usual) shown_.push_back(Told(fact, value));
+        if (IsOf(fact, name) && !IsUsual(fact, value)) shown_.push_back(Told(fact, value));
       }
     }
+  }
+  /// On, shown, and no tick at a menu's entry.
+  static bool IsUsual(const std::string& fact, const std::string& value) {
+    if (fact.starts_with("mnu") && fact.ends_with(" checked")) return value == "false";
+    return value == "true" && (fact.ends_with(" enabled") || fact.ends_with(" visible"));
   }
   static std::string Focus(const Form& form) {
     return form.ActiveControl() ? form.ActiveControl()->FullName() : "nowhere";
@@ -158,13 +161,34 @@ class Story {
     if (before == before_.facts.end()) return;  // that it is open now says it
     const std::map<std::string, std::string> known(before->second.begin(), before->second.end());
     const bool front = window.empty() || window == now.windows.back();
-    for (const auto& [name, value] : facts) {
-      const auto found = known.find(name);
-      if (found != known.end() && found->second == value) continue;
-      const bool passed = std::any_of(passedOver_.begin(), passedOver_.end(),
-                                      [&](const auto& start) { return name.starts_with(start); });
-      if (!passed) changes.push_back((front ? "" : window + "/") + Told(name, value));
+    const std::string where = front ? "" : window + "/";
+    std::vector<const WindowFacts::Fact*> news;
+    for (const WindowFacts::Fact& fact : facts) {
+      const auto found = known.find(fact.first);
+      const bool isNew = found == known.end() || found->second != fact.second;
+      if (isNew && !IsPassedOver(fact.first)) news.push_back(&fact);
     }
+    for (std::size_t n = 0, end; n < news.size(); n = end) {
+      for (end = n + 1; end < news.size() && AreAlike(*news[end - 1], *news[end]);) ++end;
+      const std::string& last = news[end - 1]->first;
+      const std::string upTo = end - n > 1 ? " to " + last.substr(last.find('[')) : "";
+      changes.push_back(where + Told(news[n]->first + upTo, news[n]->second));
+    }
+    const std::map<std::string, std::string> left(facts.begin(), facts.end());
+    for (const auto& [name, value] : before->second)
+      if (name.find("] ") != std::string::npos && !left.contains(name) && !IsPassedOver(name))
+        changes.push_back(where + name + " gone");
+  }
+  /// Cells of one grid, rows of one list, that have become the same.
+  static bool AreAlike(const WindowFacts::Fact& one, const WindowFacts::Fact& next) {
+    const auto bracket = one.first.find('[');
+    return bracket != std::string::npos && one.second == next.second &&
+           one.first.compare(0, bracket + 1, next.first, 0, bracket + 1) == 0 &&
+           one.first.substr(one.first.rfind(']')) == next.first.substr(next.first.rfind(']'));
+  }
+  bool IsPassedOver(const std::string& name) const {
+    return std::any_of(passedOver_.begin(), passedOver_.end(),
+                       [&](const auto& part) { return name.find(part) != std::string::npos; });
   }
   /// "cmdSave enabled" = "false" as "cmdSave off".
   static std::string Told(const std::string& name, const std::string& value) {

@@ -44,10 +44,20 @@ class WindowFacts {
       return AddValue(control, value, 0);
     if (fact == "rows") return AddValue(control, value, 1);  // counted as scripts do
     if (fact == "tag" || (fact == "selected" && std::get_if<long long>(&value.Get()))) return;
+    if (fact == "looks") return AddLooks(control, std::get<List>(value.Get()));
     const bool joined = fact == "list" || fact == "columns";
     if (const auto* list = std::get_if<List>(&value.Get()); list && joined)
       return Add(control + " " + fact, Joined(*list));
     AddValue(control + " " + fact, value, 0);
+  }
+  /// Of a grid's cells, by their places: "grdData(0)[6][1] locked".
+  void AddLooks(const std::string& grid, const List& cells) {
+    for (const Value& cell : cells) {
+      const Object& facts = std::get<Object>(cell.Get());
+      const std::string place = "[" + Text(facts[0].second) + "][" + Text(facts[1].second) + "]";
+      for (std::size_t n = 2; n < facts.size(); ++n)
+        AddValue(grid + place + " " + facts[n].first, facts[n].second, 0);
+    }
   }
   void AddValue(const std::string& name, const Value& value, std::size_t first) {
     if (const auto* facts = std::get_if<Object>(&value.Get())) return AddObject(name, *facts);

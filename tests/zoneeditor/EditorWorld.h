@@ -7,7 +7,7 @@
 #include "model/Catalogue.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
 #include "zoneeditor/frmZoneData.h"
 
 namespace tarnview {
@@ -20,6 +20,8 @@ struct EditorWorld {
     around.drive = drive;
     window = std::make_unique<frmZoneData>(host, around, std::move(parameters));
     window->Show();
+    // Each step renames the entries for undo and redo, and a mark's tip says what the mark does.
+    for (const char* part : {"cboSteps", "mnuEdit", " tool_tip"}) story.PassOver(part);
     return *window;
   }
 
@@ -33,6 +35,7 @@ struct EditorWorld {
   ErrorLog errors{files, clock, "error.log"};
   Messages messages{host, [](int) { return std::string("FM Link MAP Files"); }};
   std::unique_ptr<frmZoneData> window;
+  Story story{host};
 };
 
 }  // namespace tarnview

@@ -35,16 +35,15 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
       benchmarks.AddDirect(benchmark);
     }
     settings.gstrDefaultBenchmark = "Track";
+    story.Fact("step", [this] { return window->IsShown() ? Told() : "closed"; });
+    story.Verb("copied", [this](const auto& words) { host.clipboard = words[0]; });
   }
-  frmZoneData& OpenMap(int flags = 2) {
+  void OpenMap(int flags = 2) {
     ZoneEditorParameters parameters;
     parameters.map = MapWith(100, flags);
     parameters.fileName = "a.map";
     parameters.mayUpload = true;
-    return Open(parameters);
-  }
-  void Do(const char* control, int index, const Action& action) {
-    window->Find(control, index)->Do(action);
+    Open(parameters);
   }
   /// The last step, and which raw zones differ from the map that was opened.
   std::string Told() const {
@@ -55,238 +54,159 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
         told += " " + ZoneName(static_cast<int>(zone)) + "=" + std::to_string(map.zones[zone]);
     return told;
   }
-  std::string Text(SheetGrid grid, int row, int column) const {
-    return window->Grids.At(grid).Text(row, column);
-  }
-  std::string Boxes() {
-    std::string texts;
-    for (const Box& box : host.messages) texts += std::to_string(box.style) + " " + box.text + "\n";
-    host.messages.clear();
-    return texts;
-  }
 };
 
 TEST_F(frmZoneDataTest, OpensWithoutAChange) {
   OpenMap();
   EXPECT_FALSE(window->Changed()) << Told();
-  EXPECT_EQ(window->Caption(), "Tarnview Zone Data - a.map");
-  EXPECT_EQ(window->cboBenchmark.Entries(), (std::vector<std::string>{"Street", "Track"}));
-  EXPECT_EQ(window->cboBenchmark.Text(), "Track");
-  EXPECT_EQ(window->fraData(0).Caption() + "/" + window->fraData(1).Caption() + "/" +
-                window->fraData(5).Caption(),
-            "This MAP File/Selected Benchmark/Difference");
-  EXPECT_EQ(
-      Text(SheetGrid::Fuel, 0, 1) + Text(SheetGrid::Fuel, 6, 0) + Text(SheetGrid::Fuel, 1, 16),
-      "00220 kPa 600100");
-  EXPECT_EQ(Text(SheetGrid::Fuel, 6, 1) + Text(SheetGrid::FuelBenchmark, 6, 3) +
-                Text(SheetGrid::FuelDifference, 1, 1),
-            "200100");
+  EXPECT_STORY(story, R"(
+show caption cboBenchmark fraData(0) fraData(1) fraData(5) txtChipDate cmdUpload -> caption=Tarnview Zone Data - a.map, cboBenchmark list=[Street|Track], cboBenchmark=Track, fraData(0)=This MAP File, fraData(1)=Selected Benchmark, fraData(5)=Difference, txtChipDate=10-Feb-2005, cmdUpload off, cmdUpload=&Upload...
+show grdData(0)[0][1] grdData(0)[6][0] grdData(0)[1][16] grdData(0)[6][1] grdData(1)[6][3] grdData(2)[1][1] -> grdData(0)[0][1]=00, grdData(0)[6][0]=220 kPa 600, grdData(0)[1][16]=100, grdData(0)[6][1]=, grdData(0)[6][1] blacked_out=true, grdData(1)[6][3]=200, grdData(2)[1][1]=100
+show grdData(6)[0][0] grdData(6)[0][11] grdData(7)[1][0] grdData(8)[2][0] -> grdData(6)[0][0]=kPa, grdData(6)[0][11]=75, grdData(7)[1][0]=Val, grdData(8)[2][0]=Conv
+)");
   EXPECT_TRUE(window->Grids.At(SheetGrid::Ignition).At(6, 2).blackedOut);
-  EXPECT_EQ(Text(SheetGrid::BoostTargets, 0, 0) + Text(SheetGrid::BoostTargets, 0, 11), "kPa75");
-  EXPECT_EQ(Text(SheetGrid::FuelByRPM, 1, 0) + Text(SheetGrid::AirFuelTargets, 2, 0), "ValConv");
-  EXPECT_EQ(window->Fields.txtChipDate.Text(), "10-Feb-2005");
-  EXPECT_TRUE(window->cmdUpload.Visible);
-  EXPECT_FALSE(window->cmdUpload.Enabled);
 }
 
 TEST_F(frmZoneDataTest, FieldsAndBoxesAreSteps) {
-  const struct {
-    const char* control;
-    int index;
-    Action action;
-    const char* told;
-  } cases[] = {
-      {"txtZone", 2, {"type", {"7250"}}, "Rev Limit (RPM) 10000 to 7300: z2=73"},
-      {"txtZone", 3, {"type", {"off"}}, "MAP Limit (kPa) 100 to OFF: z3=255"},
-      {"updZone", 13, {"step", {"down"}}, "Knock Thr. 100 to 99: z13=99"},
-      {"updZone", 2, {"step", {"down"}}, "Rev Limit (RPM) 10000 to 9000: z2=90"},
-      {"txtTrim", -1, {"type", {"1.3"}}, "Trim 20.00 to 1.25: z21=25"},
-      {"txtZone", 21, {"type", {"-4"}}, "Trim (deg.) 80 to -4: z21=16"},
-      {"chkMisc", 0, {"click", {}}, "EGR Enabled on: z5=10"},
-      {"chkBoost", 0, {"click", {}}, "TPS Target Cont. on: z5=6"},
-      {"cboMAPID", -1, {"choose", {"NA2"}}, "MAP ID NA2: z5=32"},
-      {"cboAutoTune", 0, {"choose", {"L3"}}, "Auto Tuning L3: z5=131 z800=4"},
-      {"txtChipDate", -1, {"type", {"31-Feb-2003"}}, ":"},
-      {"txtAtmos", -1, {"type", {"85"}}, "Atmospheric Pressure 85:"},
-      {"txtNotes", -1, {"type", {"a\nb"}}, "Notes:"},
-      {"grdData", 0, {"cell", {"2", "4", "300"}}, "zf215 100 to 255: z51=255"},
-      {"grdData", 3, {"cell", {"1", "1", "x"}}, "zi100 100 to 0: z128=0"},
-      {"grdData", 7, {"cell", {"1", "4", "7"}}, "z25 100 to 7: z25=7"},
-  };
-  for (const auto& c : cases) {
-    OpenMap();
-    Do(c.control, c.index, c.action);
-    EXPECT_EQ(Told(), c.told);
-    if (window->mnuEditUndo.Enabled()) window->mnuEditUndo.Do({"click", {}});
-    EXPECT_FALSE(window->Changed()) << c.told;
-  }
-  Do("txtNotes", -1, {"type", {"a\nb"}});
+  OpenMap();
+  EXPECT_STORY(story, R"(
+type txtZone(2) 7250 -> step=Rev Limit (RPM) 10000 to 7300: z2=73, txtZone(2)=7300, lblStatus=Rev Limit (RPM) 10000 to 7300
+key Ctrl+Z -> step=:, txtZone(2)=10000, lblStatus=As opened
+show mnuEditUndo mnuEditRedo cboSteps lblStatus -> mnuEditUndo off, mnuEditUndo=&Undo, mnuEditRedo=&Redo Rev Limit (RPM) 10000 to 7300, cboSteps list=[As opened|Rev Limit (RPM) 10000 to 7300], cboSteps=As opened, lblStatus=As opened
+type txtZone(3) off -> step=MAP Limit (kPa) 100 to OFF: z3=255, txtZone(3)=OFF, lblStatus=MAP Limit (kPa) 100 to OFF
+key Ctrl+Z -> step=:, txtZone(3)=100, lblStatus=As opened
+step updZone(13) down -> step=Knock Thr. 100 to 99: z13=99, txtZone(13)=99, lblStatus=Knock Thr. 100 to 99
+key Ctrl+Z -> step=:, txtZone(13)=100, lblStatus=As opened
+step updZone(2) down -> step=Rev Limit (RPM) 10000 to 9000: z2=90, txtZone(2)=9000, lblStatus=Rev Limit (RPM) 10000 to 9000
+key Ctrl+Z -> step=:, txtZone(2)=10000, lblStatus=As opened
+type txtTrim 1.3 -> step=Trim 20.00 to 1.25: z21=25, txtTrim=1.25, txtZone(21)=5, lblStatus=Trim 20.00 to 1.25
+key Ctrl+Z -> step=:, txtTrim=20.00, txtZone(21)=80, lblStatus=As opened
+type txtZone(21) -4 -> step=Trim (deg.) 80 to -4: z21=16, txtTrim=-1.00, txtZone(21)=-4, lblStatus=Trim (deg.) 80 to -4
+key Ctrl+Z -> step=:, txtTrim=20.00, txtZone(21)=80, lblStatus=As opened
+click chkMisc(0) -> step=EGR Enabled on: z5=10, chkMisc(0) checked, chkMisc(3) on, cboAutoTune(1) list=[NB], lblStatus=EGR Enabled on
+key Ctrl+Z -> step=:, chkMisc(0) unchecked, chkMisc(3) off, cboAutoTune(1) list=[NB|WB], lblStatus=As opened
+click chkBoost(0) -> step=TPS Target Cont. on: z5=6, chkBoost(0) checked, lblStatus=TPS Target Cont. on
+key Ctrl+Z -> step=:, chkBoost(0) unchecked, lblStatus=As opened
+choose cboMAPID NA2 -> step=MAP ID NA2: z5=32, cboMAPID=NA2, lblStatus=MAP ID NA2
+key Ctrl+Z -> step=:, cboMAPID=T1, lblStatus=As opened
+choose cboAutoTune(0) L3 -> step=Auto Tuning L3: z5=131 z800=4, lblAutoTune(1) on, cboAutoTune(0)=L3, cboAutoTune(1) on, cboAutoTune(1) list=[NB|WB|NB+WB], lblStatus=Auto Tuning L3
+key Ctrl+Z -> step=:, lblAutoTune(1) off, cboAutoTune(0)=Off, cboAutoTune(1) off, cboAutoTune(1) list=[NB|WB], lblStatus=As opened
+type txtChipDate 31-Feb-2003
+type txtAtmos 85 -> step=Atmospheric Pressure 85:, txtAtmos=85, lblStatus=Atmospheric Pressure 85
+key Ctrl+Z -> step=:, txtAtmos=101, lblStatus=As opened
+type txtNotes "a\nb" -> step=Notes:, txtNotes=a\nb, lblStatus=Notes
+key Ctrl+Z -> step=:, txtNotes=, lblStatus=As opened
+cell grdData(0) 2 4 300 -> step=zf215 100 to 255: z51=255, grdData(0)[2][4]=255, grdData(0) row=2, grdData(0) column=4, grdData(0) range=[2|4|2|4], grdData(0)[2][4] mark=raised, grdData(2)[2][4]=-55, grdData(2)[2][4] colour=255, lblStatus=zf215 100 to 255
+key Ctrl+Z -> step=:, grdData(0)[2][4]=100, grdData(2)[2][4]=100, lblStatus=As opened, grdData(0)[2][4] mark gone, grdData(2)[2][4] colour gone
+cell grdData(3) 1 1 x -> step=zi100 100 to 0: z128=0, grdData(3)[1][1]=0, grdData(3)[1][1] mark=lowered, grdData(5)[1][1]=200, lblStatus=zi100 100 to 0
+key Ctrl+Z -> step=:, grdData(3)[1][1]=100, grdData(5)[1][1]=100, lblStatus=As opened, grdData(3)[1][1] mark gone
+cell grdData(7) 1 4 7 -> step=z25 100 to 7: z25=7, grdData(7)[1][4]=7, grdData(7) column=4, grdData(7) range=[1|4|1|4], grdData(7)[1][4] mark=lowered, lblStatus=z25 100 to 7
+key Ctrl+Z -> step=:, grdData(7)[1][4]=100, lblStatus=As opened, grdData(7)[1][4] mark gone
+type txtNotes "a\nb" -> step=Notes:, txtNotes=a\nb, lblStatus=Notes
+type txtChipDate nonsense
+type txtChipDate 2001-01-31 -> step=Chip Date 2001-01-31:, txtChipDate=31-Jan-2001, chkMisc(1) off, chkMisc(4) off, chkMisc(4) unchecked, chkBoost(1) off, chkBoost(1) unchecked, chkIdle(0) off, chkIdle(1) off, chkAutoTune(1) on, chkAutoTune(1) shown, lblAutoTune(1) hidden, cboAutoTune(0) list=[Off|Lambda|L3], cboAutoTune(1) hidden, cboAutoTune(1) list=[NB], lblZone(18)=Hot IAC, lblZone(19)=Cold IAC, lblZone(251) off, txtZone(251) off, updZone(251) off, lblZone(208) off, txtZone(208) off, updZone(208) off, lblZone(209) off, txtZone(209) off, updZone(209) off, lblZone(248) off, txtZone(248) off, updZone(248) off, lblZone(249) off, txtZone(249) off, updZone(249) off, lblZone(4) off, lblZone(4)=Advance Limit, txtZone(4) off, updZone(4) off, updZone(4) min=0, updZone(4) max=50, lblZone(252) off, lblZone(252)=Fuel Low Slope, txtZone(252) off, updZone(252) off, lblZone(253) off, lblZone(253)=Fuel High Slope, txtZone(253) off, updZone(253) off, lblZone(254) off, txtZone(254) off, updZone(254) off, lblZone(255) off, txtZone(255) off, updZone(255) off, lblZone(250) off, txtZone(250) off, updZone(250) off, lblZone(7)=Volt. Correction, lblZone(243) off, txtZone(243) off, updZone(243) off, lblStatus=Chip Date 2001-01-31
+)");
   EXPECT_EQ(window->Map().strNotes, "a\r\nb");
-  Do("txtChipDate", -1, {"type", {"nonsense"}});
-  EXPECT_EQ(window->Fields.txtChipDate.Text(), "10-Feb-2005");
-  Do("txtChipDate", -1, {"type", {"2001-01-31"}});
-  EXPECT_EQ(window->Fields.txtChipDate.Text(), "31-Jan-2001");
-  EXPECT_TRUE(window->Fields.chkAutoTune1.Visible);
-  EXPECT_FALSE(window->Find("txtZone", 4)->Enabled);
 }
 
 TEST_F(frmZoneDataTest, GridsAndTheirMenus) {
   OpenMap();
-  const auto popup = [&](int grid, MenuItem& entry) {
-    Do("grdData", grid, {"popup", {}});
-    entry.Do({"click", {}});
-  };
-  Do("grdData", 0, {"range", {"6", "4", "6", "1"}});
-  host.work = [](Form& form) {
-    form.Find("txtOffset")->Do({"type", {"300"}});
-    form.Find("cmdOK")->Do({"click", {}});
-  };
-  popup(0, window->mnuApplyOffset);
-  EXPECT_EQ(Told(), "Offset +255 on 2 fuel cells: z114=255 z115=255");
-  EXPECT_EQ(Text(SheetGrid::FuelDifference, 6, 3), "-55");
-  EXPECT_EQ(window->Grids.At(SheetGrid::FuelDifference).At(6, 3).colour, 255);
-  EXPECT_EQ(window->Grids.At(SheetGrid::Fuel).At(6, 3).mark, GridCell::Mark::Raised);
-  Do("grdData", 2, {"range", {"6", "3", "6", "3"}});
-  popup(2, window->mnuCopyOffset);
-  EXPECT_EQ(Told(), "Apply difference on 1 fuel cell: z114=200 z115=255");
-  EXPECT_EQ(Text(SheetGrid::FuelDifference, 6, 3), "");
-  Do("grdData", 4, {"range", {"1", "1", "1", "2"}});
-  popup(4, window->mnuCopytoDatalog);
-  EXPECT_EQ(Told(), "Copy 2 ignition cells from Track: z114=200 z115=255 z128=200 z129=200");
-  window->cboSteps.Do({"choose", {"#1"}});
-  EXPECT_EQ(Told(), "Offset +255 on 2 fuel cells: z114=255 z115=255");
-  Do("cboBenchmark", -1, {"choose", {"Street"}});
+  EXPECT_STORY(story, R"(
+range grdData(0) 6 4 6 1 -> grdData(0) row=6, grdData(0) column=4, grdData(0) range=[6|1|6|4]
+show mnuEditPaste mnuEditReset -> mnuEditPaste=&Paste, mnuEditReset=Reset to &Opened Value
+popup grdData(0) mnuApplyOffset -> +frmOffset
+type txtOffset 300; click cmdOK -> -frmOffset, step=Offset +255 on 2 fuel cells: z114=255 z115=255, grdData(0)[6][3] to [6][4]=255, grdData(0)[6][3] mark to [6][4] mark=raised, grdData(2)[6][3] to [6][4]=-55, grdData(2)[6][3] colour to [6][4] colour=255, lblStatus=Offset +255 on 2 fuel cells
+range grdData(2) 6 3 6 3 -> grdData(2) row=6, grdData(2) column=3, grdData(2) range=[6|3|6|3]
+show mnuEditPaste mnuEditReset cboSteps grdData(0)[6][3] -> mnuEditPaste off, mnuEditPaste=&Paste, mnuEditReset off, mnuEditReset=Reset to &Opened Value, cboSteps list=[As opened|Offset +255 on 2 fuel cells], cboSteps=Offset +255 on 2 fuel cells, grdData(0)[6][3]=255, grdData(0)[6][3] mark=raised, grdData(0)[6][3] tool_tip=Opened as 100
+popup grdData(2) mnuCopyOffset -> step=Apply difference on 1 fuel cell: z114=200 z115=255, grdData(0)[6][3]=200, grdData(2)[6][3]=, lblStatus=Apply difference on 1 fuel cell, grdData(2)[6][3] colour gone
+range grdData(4) 1 1 1 2 -> grdData(4) range=[1|1|1|2]
+popup grdData(4) mnuCopytoDatalog -> step=Copy 2 ignition cells from Track: z114=200 z115=255 z128=200 z129=200, grdData(3)[1][1] to [1][2]=200, grdData(3)[1][1] mark to [1][2] mark=raised, grdData(5)[1][1] to [1][2]=, lblStatus=Copy 2 ignition cells from Track
+choose cboSteps #1 -> step=Offset +255 on 2 fuel cells: z114=255 z115=255, grdData(0)[6][3]=255, grdData(2)[6][3]=-55, grdData(2)[6][3] colour=255, grdData(3)[1][1] to [1][2]=100, grdData(5)[1][1] to [1][2]=100, lblStatus=Offset +255 on 2 fuel cells, grdData(3)[1][1] mark gone, grdData(3)[1][2] mark gone
+choose cboBenchmark Street -> cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [5][16]=-10, grdData(2)[6][3] to [6][4]=-165, grdData(2)[6][5] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
+)");
   EXPECT_EQ(settings.gstrDefaultBenchmark, "Street");
-  EXPECT_EQ(Text(SheetGrid::FuelBenchmark, 1, 1) + Text(SheetGrid::FuelDifference, 1, 1), "90-10");
 }
 
 TEST_F(frmZoneDataTest, KeysAndTheClipboard) {
   OpenMap();
-  Grid& fuel = window->Grids.At(SheetGrid::Fuel);
-  const auto key = [&](const char* keys) { window->Press(*ParseKeys(keys)); };
-  fuel.SetFocus();
-  fuel.SelectRange({1, 1}, {1, 2});
-  key("Plus");
-  key("Shift+Minus");
-  EXPECT_EQ(Told(), "Offset -10 on 2 fuel cells: z32=91 z33=91");
-  key("Ctrl+Shift+C");
-  EXPECT_EQ(host.clipboard, "\t00\t05\n20 kPa 100\t91\t91\n");
-  host.clipboard = "1\t2\n3\t4\n";
-  fuel.Select({2, 15});
-  key("Ctrl+V");
-  EXPECT_EQ(Told(), "Paste 4 fuel cells: z32=91 z33=91 z62=1 z63=2 z78=3 z79=4");
-  fuel.Select({2, 16});
-  key("Ctrl+V");
-  EXPECT_EQ(window->lblStatus.Caption(), "What was copied does not fit there; nothing was pasted.");
-  host.clipboard = "1,5 x\n";
-  key("Ctrl+V");
-  EXPECT_EQ(window->lblStatus.Caption(), "\"1,5 x\" is no number; nothing was pasted.");
-  EXPECT_EQ(window->History().Done(), 3u);
-  host.clipboard = "9";
-  fuel.SelectRange({6, 1}, {6, 3});
-  key("Ctrl+V");
-  EXPECT_EQ(Told(), "Paste 1 fuel cell: z32=91 z33=91 z62=1 z63=2 z78=3 z79=4 z114=9");
-  fuel.SelectRange({1, 1}, {1, 3});
-  key("Ctrl+I");
-  EXPECT_EQ(window->History().UndoName(), "Interpolate 3 fuel cells");
-  EXPECT_EQ(Text(SheetGrid::Fuel, 1, 2), "96");
-  key("Ctrl+M");
-  EXPECT_EQ(window->History().UndoName(), "Smooth 3 fuel cells");
-  window->mnuEditReset.Do({"click", {}});
-  EXPECT_EQ(Told(), "Reset 3 fuel cells: z62=1 z63=2 z78=3 z79=4 z114=9");
-  key("Ctrl+Z");
-  key("Ctrl+Shift+Z");
-  EXPECT_EQ(window->History().UndoName(), "Reset 3 fuel cells");
+  EXPECT_STORY(story, R"(
+range grdData(0) 1 1 1 2 -> grdData(0) range=[1|1|1|2]
+key Plus -> step=Offset +1 on 2 fuel cells: z32=101 z33=101, grdData(0)[1][1] to [1][2]=101, grdData(0)[1][1] mark to [1][2] mark=raised, grdData(2)[1][1] to [1][2]=99, lblStatus=Offset +1 on 2 fuel cells
+key Shift+Minus -> step=Offset -10 on 2 fuel cells: z32=91 z33=91, grdData(0)[1][1] to [1][2]=91, grdData(0)[1][1] mark to [1][2] mark=lowered, grdData(2)[1][1] to [1][2]=109, lblStatus=Offset -10 on 2 fuel cells
+key Ctrl+Shift+C -> clipboard=	00	05\n20 kPa 100	91	91\n
+copied "1	2\n3	4\n" -> clipboard=1	2\n3	4\n
+cell grdData(0) 2 15 -> grdData(0) row=2, grdData(0) column=15, grdData(0) range=[2|15|2|15]
+key Ctrl+V -> step=Paste 4 fuel cells: z32=91 z33=91 z62=1 z63=2 z78=3 z79=4, grdData(0)[2][15]=1, grdData(0)[2][16]=2, grdData(0)[3][15]=3, grdData(0)[3][16]=4, grdData(0)[2][15] mark to [3][16] mark=lowered, grdData(2)[2][15]=199, grdData(2)[2][16]=198, grdData(2)[3][15]=197, grdData(2)[3][16]=196, lblStatus=Paste 4 fuel cells
+cell grdData(0) 2 16 -> grdData(0) column=16, grdData(0) range=[2|16|2|16]
+key Ctrl+V -> lblStatus=What was copied does not fit there; nothing was pasted.
+copied "1,5 x\n" -> clipboard=1,5 x\n
+key Ctrl+V -> lblStatus="1,5 x" is no number; nothing was pasted.
+copied 9 -> clipboard=9
+range grdData(0) 6 1 6 3 -> grdData(0) row=6, grdData(0) column=1, grdData(0) range=[6|1|6|3]
+key Ctrl+V -> step=Paste 1 fuel cell: z32=91 z33=91 z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[6][3]=9, grdData(0)[6][3] mark=lowered, grdData(2)[6][3]=191, lblStatus=Paste 1 fuel cell
+range grdData(0) 1 1 1 3 -> grdData(0) row=1, grdData(0) range=[1|1|1|3]
+key Ctrl+I -> step=Interpolate 3 fuel cells: z32=91 z33=96 z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[1][2]=96, grdData(2)[1][2]=104, lblStatus=Interpolate 3 fuel cells
+key Ctrl+M -> step=Smooth 3 fuel cells: z32=93 z33=96 z34=99 z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[1][1]=93, grdData(0)[1][3]=99, grdData(0)[1][3] mark=lowered, grdData(2)[1][1]=107, grdData(2)[1][3]=101, lblStatus=Smooth 3 fuel cells
+click mnuEditReset -> step=Reset 3 fuel cells: z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[1][1] to [1][3]=100, grdData(2)[1][1] to [1][3]=100, lblStatus=Reset 3 fuel cells, grdData(0)[1][1] mark gone, grdData(0)[1][2] mark gone, grdData(0)[1][3] mark gone
+key Ctrl+Z -> step=Smooth 3 fuel cells: z32=93 z33=96 z34=99 z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[1][1]=93, grdData(0)[1][2]=96, grdData(0)[1][3]=99, grdData(0)[1][1] mark to [1][3] mark=lowered, grdData(2)[1][1]=107, grdData(2)[1][2]=104, grdData(2)[1][3]=101, lblStatus=Smooth 3 fuel cells
+key Ctrl+Shift+Z -> step=Reset 3 fuel cells: z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[1][1] to [1][3]=100, grdData(2)[1][1] to [1][3]=100, lblStatus=Reset 3 fuel cells, grdData(0)[1][1] mark gone, grdData(0)[1][2] mark gone, grdData(0)[1][3] mark gone
+)");
 }
 
 TEST_F(frmZoneDataTest, BoostTargets) {
   OpenMap();
-  Do("grdData", 6, {"cell", {"1", "1", "90"}});
-  EXPECT_EQ(Boxes(), "36 Would you like to copy the first boost target to all the rest? \n");
-  EXPECT_EQ(Told(), ":");
-  host.answers = {{Answer::Kind::No}};
-  Do("grdData", 6, {"cell", {"1", "1", "120"}});
-  EXPECT_EQ(Told(), "z725 100 to 120: z725=120");
-  host.messages.clear();
-  host.answers = {{Answer::Kind::No}, {Answer::Kind::Yes}, {Answer::Kind::Yes}};
-  Do("radBoost", 1, {"click", {}});
-  EXPECT_EQ(
-      Boxes(),
-      "36 Confirm change to specifying wastegate duty cycles (existing data will be erased) ?\n");
-  EXPECT_TRUE(window->radBoost(0).Value());
-  EXPECT_EQ(Told(), "z725 100 to 120: z725=120");
-  Do("radBoost", 1, {"click", {}});
-  EXPECT_EQ(Text(SheetGrid::BoostTargets, 0, 0) + Text(SheetGrid::BoostTargets, 1, 5), "Pct0");
-  Do("grdData", 6, {"cell", {"1", "1", "200"}});
-  EXPECT_EQ(Text(SheetGrid::BoostTargets, 1, 11), "99");
-  EXPECT_EQ(window->History().Done(), 3u);
+  EXPECT_STORY(story, R"(
+cell grdData(6) 1 1 90 -> [Would you like to copy the first boost target to all the rest?  yes]
+answer no
+cell grdData(6) 1 1 120 -> [Would you like to copy the first boost target to all the rest?  no], step=z725 100 to 120: z725=120, grdData(6)[1][1]=120, grdData(6)[1][1] mark=raised, lblStatus=z725 100 to 120
+answer no
+click radBoost(1) -> [Confirm change to specifying wastegate duty cycles (existing data will be erased) ? no]
+answer yes; answer yes
+click radBoost(1) -> [Confirm change to specifying wastegate duty cycles (existing data will be erased) ? yes], step=Wastegate %: z725=0 z730=0 z735=0 z740=0 z745=0 z750=0 z755=0 z760=0 z765=0 z770=0 z775=0, radBoost(0) unchecked, radBoost(1) checked, grdData(6)[0][0]=Pct, grdData(6)[1][1] to [1][11]=0, grdData(6)[1][1] mark to [1][11] mark=lowered, lblStatus=Wastegate %
+cell grdData(6) 1 1 200 -> [Would you like to copy the first wastegate duty cycle to all the rest?  yes], step=All boost targets 99: z725=99 z730=99 z735=99 z740=99 z745=99 z750=99 z755=99 z760=99 z765=99 z770=99 z775=99, grdData(6)[1][1] to [1][11]=99, lblStatus=All boost targets 99
+)");
 }
 
 TEST_F(frmZoneDataTest, NormallyAspirated) {
   OpenMap(0);
-  for (const char* name : {"fraBoost", "fraBoostTargets"})
-    EXPECT_FALSE(window->Find(name)->Enabled) << name;
-  EXPECT_FALSE(window->Find("txtZone", 3)->Enabled);
-  EXPECT_FALSE(window->Find("chkBoost", 0)->Enabled);
-  EXPECT_FALSE(window->Grids.At(SheetGrid::BoostTargets).Enabled);
-  EXPECT_EQ(Text(SheetGrid::Fuel, 6, 0) + Text(SheetGrid::Fuel, 6, 1), "97 kPa 600100");
+  EXPECT_STORY(story, R"(
+show fraBoost fraBoostTargets txtZone(3) chkBoost(0) grdData(6)[1][1] grdData(0)[6][0] grdData(0)[6][1] -> fraBoost off, fraBoost=Wastegate, fraBoostTargets off, fraBoostTargets=Boost &Targets, txtZone(3) off, txtZone(3)=100, chkBoost(0) off, chkBoost(0)= TPS Target Cont., chkBoost(0) unchecked, grdData(6)[1][1]=100, grdData(0)[6][0]=97 kPa 600, grdData(0)[6][1]=100
+)");
 }
 
 TEST_F(frmZoneDataTest, ClosingAsksForChanges) {
   OpenMap();
   EXPECT_TRUE(window->Unload());
   OpenMap();
-  Do("txtZone", 6, {"type", {"1"}});
-  EXPECT_FALSE(window->Unload());
-  EXPECT_EQ(Boxes(), "292 Are you sure you want to throw away those changes?\n");
-  window->Fields.txtNotes.SetFocus();
-  window->Fields.txtNotes.Text = std::string("n");
-  window->cmdOK.Press();
+  EXPECT_STORY(story, R"(
+type txtZone(6) 1; close -> [Are you sure you want to throw away those changes? no], step=Choke Scale 100 to 1: z6=1, txtZone(6)=1, lblStatus=Choke Scale 100 to 1
+write txtNotes n; click cmdOK -> -frmZoneData, step=closed
+)");
   EXPECT_TRUE(window->Accepted());
   EXPECT_TRUE(window->Changed());
   EXPECT_EQ(window->Map().strNotes, "n");
-  EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(frmZoneDataTest, UploadNeedsTheUsersOwnChip) {
   OpenMap();
-  host.answers = {{Answer::Kind::Yes}};
-  Do("cmdDefault", -1, {"click", {}});
-  EXPECT_EQ(Boxes(),
-            "292 Are you sure you want to overwrite your current chip type and date with those "
-            "from the data log?\n");
+  EXPECT_STORY(story, R"(
+answer yes; click cmdDefault -> [Are you sure you want to overwrite your current chip type and date with those from the data log? yes], cmdUpload on
+choose cboEngineSize 1.6 -> step=Engine Size 1.6: z17=30 z705=190, cboEngineSize=1.6, chkMisc(0) off, chkMisc(0)=MAP/Knock Cntrl, chkBoost(0)=WOT Target Cont., chkIdle(0) off, updZone(17) min=0, updZone(17) max=255, lblZone(9) off, txtZone(9) off, updZone(9) off, lblZone(10) off, txtZone(10) off, updZone(10) off, lblZone(11) off, txtZone(11) off, updZone(11) off, lblStatus=Engine Size 1.6, cmdUpload off
+)");
   EXPECT_EQ(settings.gintDefaultChipVersion, 3);
   EXPECT_EQ(DateText(settings.gdatDefaultChipDate), "2005-02-10");
-  EXPECT_TRUE(window->cmdUpload.Enabled);
-  Do("cboEngineSize", -1, {"choose", {"1.6"}});
-  EXPECT_FALSE(window->cmdUpload.Enabled);
 }
 
 TEST_F(frmZoneDataTest, CopyAndDetailsOfTheComparison) {
   OpenMap();
-  host.work = [](Form& form) {
-    form.Find("chkOptions", 2)->Do({"click", {}});
-    form.Find("chkOptions", 9)->Do({"click", {}});
-    form.Find("cmdOK")->Do({"click", {}});
-  };
-  window->cmdCopyBenchmark.Press();
-  EXPECT_EQ(Told(),
-            "Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 "
-            "z800=16 z855=200");
-  std::string seen;
-  host.work = [&](Form& form) {
-    auto& details = dynamic_cast<frmZoneData&>(form);
-    seen = details.Caption() + " " + details.fraData(0).Caption() + " " +
-           details.cmdCancel.Caption() + " " + details.Grids.At(SheetGrid::Fuel).Text(1, 1) + " " +
-           std::to_string(details.tabZoneData2.Tabs().size());
-    EXPECT_FALSE(details.Find("txtZone", 6)->Enabled);
-    EXPECT_FALSE(details.cmdOK.Visible);
-    EXPECT_FALSE(details.fraNotesTab.Visible) << "without notes";
-    EXPECT_FALSE(details.Grids.At(SheetGrid::FuelBenchmark).Enabled);
-    EXPECT_FALSE(details.Grids.At(SheetGrid::Fuel).BeginEdit("1"));
-  };
-  window->cmdDetails.Press();
-  EXPECT_EQ(seen, "Tarnview Zone Data - Track (benchmark) This Benchmark &Close 200 3");
+  EXPECT_STORY(story, R"(
+click cmdCopyBenchmark -> +frmCopyBench
+click chkOptions(2); click chkOptions(9); click cmdOK -> -frmCopyBench, step=Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 z800=16 z855=200, chkMisc(4) unchecked, txtTrim=45.00, txtZone(8)=10000, txtZone(18)=200, txtZone(19)=200, txtZone(20)=200, txtZone(251)=200, txtZone(13)=200, txtZone(21)=180, lblStatus=Copy Idle, Ignition from Track
+click cmdDetails -> +frmZoneData.2
+show caption fraData(0) cmdCancel txtZone(6) cmdOK fraNotesTab tabZoneData2 grdData(0)[1][1] -> caption=Tarnview Zone Data - Track (benchmark), fraData(0)=This Benchmark, cmdCancel=&Close, txtZone(6) off, txtZone(6)=200, cmdOK hidden, cmdOK=&OK, fraNotesTab hidden, fraNotesTab=, tabZoneData2 list=[General|Fuel|Ignition], tabZoneData2=General, grdData(0)[1][1]=200
+cell grdData(0) 1 1 1 -> cannot: this cell of grdData(0) cannot be edited
+close -> -frmZoneData.2
+)");
 }
 
 TEST_F(frmZoneDataTest, TheLogsOwnSetsComeFirst) {
@@ -296,12 +216,10 @@ TEST_F(frmZoneDataTest, TheLogsOwnSetsComeFirst) {
   parameters.comparison = ComparisonZones{MapWith(110, 2).zones, MapWith(120, 2).zones};
   settings.gstrDefaultBenchmark = "gone";
   Open(parameters);
-  EXPECT_EQ(window->cboBenchmark.Text(), "Lambda/Knock Zone Changes");
-  EXPECT_EQ(window->cboBenchmark.Entries().size(), 4u);
-  EXPECT_EQ(window->fraData(0).Caption(), "This Datalog");
-  EXPECT_EQ(Text(SheetGrid::FuelDifference, 1, 1), "10");
-  Do("cboBenchmark", -1, {"choose", {"Original Zone Settings"}});
-  EXPECT_EQ(Text(SheetGrid::FuelDifference, 1, 1), "20");
+  EXPECT_STORY(story, R"(
+show cboBenchmark fraData(0) grdData(2)[1][1] -> cboBenchmark list=[Lambda/Knock Zone Changes|Original Zone Settings|Street|Track], cboBenchmark=Lambda/Knock Zone Changes, fraData(0)=This Datalog, grdData(2)[1][1]=10
+choose cboBenchmark "Original Zone Settings"; show grdData(2)[1][1] -> grdData(2)[1][1]=20, cboBenchmark=Original Zone Settings, grdData(1)[1][1] to [6][16]=120, grdData(2)[1][1] to [6][16]=20, grdData(4)[1][1] to [6][16]=120, grdData(5)[1][1] to [6][16]=20
+)");
 }
 
 TEST_F(frmZoneDataTest, TenThousandRandomEditsAreUndoneAndRedone) {
