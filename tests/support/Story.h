@@ -1,15 +1,11 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "support/Accept.h"
 #include "support/WindowFacts.h"
 #include "ui/Script.h"
 #include "ui/ScriptUser.h"
@@ -234,18 +230,6 @@ class Story {
   Sight before_;
 };
 
-/// With TARNVIEW_ACCEPT=1 what came of the story is written into its source: read the difference.
-inline void ExpectStory(Story& story, const std::string& told, const char* source, int line) {
-  const std::string played = story.Play(told);
-  if (std::getenv("TARNVIEW_ACCEPT") && played != told) {
-    std::stringstream text;
-    text << std::ifstream(source, std::ios::binary).rdbuf();
-    std::string whole = text.str();
-    if (const auto at = whole.find(told); at != std::string::npos)
-      std::ofstream(source, std::ios::binary) << whole.replace(at, told.size(), played);
-  }
-  EXPECT_EQ(played, told) << source << ":" << line;
-}
-#define EXPECT_STORY(story, told) ExpectStory(story, told, __FILE__, __LINE__)
+#define EXPECT_STORY(story, told) ExpectTold(story.Play(told), told, __FILE__, __LINE__)
 
 }  // namespace tarnview

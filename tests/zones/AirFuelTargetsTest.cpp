@@ -1,58 +1,41 @@
-#include <gtest/gtest.h>
-
+#include "support/Table.h"
 #include "zones/AirFuelTargets.h"
 #include "zones/AutoTune.h"
 #include "zones/ZoneDefaults.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
-constexpr std::int16_t kTuning = 1, kL3Tuning = 1 + 128;
-
 TEST(AutoTune, TypeByFlagsAndDate) {
-  const struct {
-    int flags, moreFlags, version;
-    Date date;
-    const char* type;
-  } cases[] = {
-      {128, 0, 2, MakeDate(2010, 1, 1), "Off"},
-      {kTuning, 0, 2, MakeDate(2010, 1, 1), "Lambda"},
-      {kL3Tuning, 4, 2, MakeDate(2004, 9, 2), "L3"},
-      {kL3Tuning, 0, 2, MakeDate(2004, 9, 2), "L3+L4"},
-      {kL3Tuning, 0, 2, MakeDate(2004, 9, 1), "L3"},
-      {kL3Tuning, 4, 3, MakeDate(2003, 3, 1), "L3+L4"},
-      {kL3Tuning, 0, 1, MakeDate(2000, 6, 21), "L3"},
-      {kL3Tuning, 0, 1, MakeDate(2000, 6, 20), "Lambda"},
-      {kL3Tuning, 4, 0, kNoDate, "L3"},
-  };
-  for (const auto& c : cases) {
-    ZoneSettings zones{};
-    zones[5] = static_cast<std::int16_t>(c.flags);
-    zones[240] = static_cast<std::int16_t>(c.moreFlags);
-    EXPECT_EQ(RetrieveAutoTuneType(1.8, c.date, c.version, zones), c.type) << DateText(c.date);
-  }
+  // z5, z800, chip
+  ExpectTable(
+      [](const TableRow& row) {
+        const ChipIdentity chip = Chip(row.Text(2));
+        return RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate, chip.intChipVersion,
+                                    MapWith(chip, row.Int(0), row.Int(1)).zones);
+      },
+      R"(
+128, 0, 1.8 2010-01-01 2 -> Off | 1, 0, 1.8 2010-01-01 2 -> Lambda | 129, 4, 1.8 2004-09-02 2 -> L3
+129, 0, 1.8 2004-09-02 2 -> L3+L4 | 129, 0, 1.8 2004-09-01 2 -> L3 | 129, 4, 1.8 2003-03-01 3 -> L3+L4
+129, 0, 1.8 2000-06-21 1 -> L3 | 129, 0, 1.8 2000-06-20 1 -> Lambda | 129, 4, 1.8 no date... 0 -> L3
+)");
 }
 
 TEST(AutoTune, SensorByFlagsAndDate) {
-  const struct {
-    bool bit3, bit4;
-    int version;
-    Date date;
-    const char* text;
-    bool EGR, mixture;
-  } cases[] = {
-      {true, true, 3, MakeDate(2004, 5, 8), "NB+WB", false, false},
-      {true, true, 3, MakeDate(2004, 5, 7), "WB", true, false},
-      {true, true, 2, MakeDate(2004, 5, 8), "WB", false, false},
-      {true, false, 3, MakeDate(2004, 5, 8), "NB", true, false},
-      {false, false, 1, MakeDate(2002, 6, 10), "NB", false, false},
-      {true, true, 1, MakeDate(2002, 6, 9), "", true, true},
-  };
-  for (const auto& c : cases) {
-    const O2Sensor sensor = GetO2Sensor(c.bit3, c.bit4, c.version, c.date);
-    EXPECT_TRUE(sensor.text == c.text && sensor.EGR == c.EGR && sensor.mixtureFuel == c.mixture)
-        << DateText(c.date);
-  }
+  // bits 3 and 4 of z5, chip
+  ExpectTable(
+      [](const TableRow& row) {
+        const ChipIdentity chip = Chip(row.Text(2));
+        const O2Sensor sensor =
+            GetO2Sensor(row.Yes(0), row.Yes(1), chip.intChipVersion, chip.datChipDate);
+        return std::string(sensor.text) + (sensor.EGR ? " EGR" : "") +
+               (sensor.mixtureFuel ? " mixture" : "");
+      },
+      R"(
+yes, yes, 1.8 2004-05-08 3 -> NB+WB | yes, yes, 1.8 2004-05-07 3 -> WB EGR | yes, yes, 1.8 2004-05-08 2 -> WB
+yes, no, 1.8 2004-05-08 3 -> NB EGR | no, no, 1.8 2002-06-10 1 -> NB | yes, yes, 1.8 2002-06-09 1 ->  EGR mixture
+)");
 }
 
 TEST(AirFuelTargets, NarrowWideAndBoth) {

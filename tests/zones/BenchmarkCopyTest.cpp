@@ -1,23 +1,11 @@
-#include <gtest/gtest.h>
-
+#include "support/Table.h"
 #include "zones/BenchmarkCopy.h"
 #include "zones/ZoneFlags.h"
 #include "zones/ZoneNames.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
-
-const ChipIdentity kThird{1.8, MakeDate(2005, 2, 10), 3};
-
-ZoneMap MapOf(const ChipIdentity& chip, int zones, int flags, int more) {
-  ZoneMap map;
-  map.zones.fill(static_cast<std::int16_t>(zones));
-  map.chip = chip;
-  map.intAtmosphericPressure = zones;
-  map.zones[5] = static_cast<std::int16_t>(flags);
-  map.zones[240] = static_cast<std::int16_t>(more);
-  return map;
-}
 
 CopyBoxes Boxes(std::initializer_list<CopyBox> boxes) {
   CopyBoxes ticked{};
@@ -55,80 +43,72 @@ std::string Copied(CopyBox box, const ZoneMap& source, const ZoneMap& form) {
   return told.empty() ? told : told.substr(0, told.size() - 1);
 }
 
+/// "1.8 2003-06-09 2, 7, 02, 0": chip, every zone, z5 and z800.
+ZoneMap MapOf(const TableRow& row, std::size_t from) {
+  ZoneMap map = MapWith(Chip(row.Text(from)), std::stoi(row.Text(from + 2), nullptr, 16),
+                        row.Int(from + 3), row.Int(from + 1));
+  map.intAtmosphericPressure = row.Int(from + 1);
+  return map;
+}
+
 TEST(BenchmarkCopy, WhatEachBoxBrings) {
   // Everything that a box could bring differs: numbers, each bit, type and sensor.
-  const ZoneMap source = MapOf(kThird, 77, 0xd7, 0x03), form = MapOf(kThird, 120, 0x02, 0x18);
-  const struct {
-    CopyBox box;
-    const char* told;
-  } cases[] = {
-      {CopyBox::Everything, ""},
-      {CopyBox::Start, "z6 z16 z17 z710 z715 z835"},
-      {CopyBox::Idle, "z8 z18 z19 z20 z855 +7 +8"},
-      {CopyBox::Wastegate, "z3 z12 z14 z15 z112 z113 z208 z209 z840 z845 +5 +6"},
-      {CopyBox::AirTemp, "z4 z860 z865 z870 z875"},
-      {CopyBox::BoostTargets, "z725 z730 z735 z740 z745 z750 z755 z760 z765 z770 z775 Pct"},
-      {CopyBox::AutoTuning, "z26 z27 z28 z29 z30 z31 L3+L4 WB"},
-      {CopyBox::Miscellaneous, "z2 z7 z9 z10 z11 z700 z705 z720 z815 z820 +0 +1 +3"},
-      {CopyBox::Ignition, "z13 z21 +4"},
-      {CopyBox::Fuel, "z0 z1 z22 z23 z24 z25 z825 z830 z850"},
-      {CopyBox::FuelZones, "94 cells"},
-      {CopyBox::IgnitionZones, "94 cells"},
-      {CopyBox::General, "pressure"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(Copied(c.box, source, form), c.told) << CopyBoxCaption(static_cast<int>(c.box));
+  const ZoneMap source = MapOf(TableRow("1.8 2005-02-10 3, 77, d7, 3"), 0);
+  const ZoneMap form = MapOf(TableRow("1.8 2005-02-10 3, 120, 02, 24"), 0);
+  std::string told = "\n";
+  for (int box = 0; box < kCopyBoxes; ++box)
+    if (!CopyBoxCaption(box).empty())
+      told += std::string(CopyBoxCaption(box)) + ": " + Copied(CopyBox{box}, source, form) + "\n";
+  ExpectTold(told, R"(
+Everything: 
+Start: z6 z16 z17 z710 z715 z835
+Idle: z8 z18 z19 z20 z855 +7 +8
+Wastegate: z3 z12 z14 z15 z112 z113 z208 z209 z840 z845 +5 +6
+Air Temp. Correction: z4 z860 z865 z870 z875
+Boost Targets: z725 z730 z735 z740 z745 z750 z755 z760 z765 z770 z775 Pct
+Auto Tuning: z26 z27 z28 z29 z30 z31 L3+L4 WB
+Miscellaneous: z2 z7 z9 z10 z11 z700 z705 z720 z815 z820 +0 +1 +3
+Ignition: z13 z21 +4
+Fuel: z0 z1 z22 z23 z24 z25 z825 z830 z850
+Fuel Zones: 94 cells
+Ignition Zones: 94 cells
+General Information: pressure
+)");
 }
 
 TEST(BenchmarkCopy, BetweenOtherChips) {
-  const ZoneMap third = MapOf(kThird, 77, 0xd7, 0x03);
-  const auto form = [](double size, Date date, int version, int flags = 2) {
-    return MapOf({size, date, version}, 120, flags, 0x18);
-  };
-  const Date d2002 = MakeDate(2002, 1, 1), d2003 = MakeDate(2003, 6, 9);
-  const struct {
-    const char* what;
-    CopyBox box;
-    ZoneMap source, form;
-    const char* told;
-  } cases[] = {
-      // clang-format off
-      {"no delay between versions", CopyBox::Start, third, form(1.8, d2003, 2), "z6 z16 z17 z710 z715"},
-      {"first chips", CopyBox::Start, form(1.6, d2003, 1), MapOf({1.6, d2003, 1}, 7, 2, 0),
-       "z6 z16 z17 z710 z715 z835"},
-      {"first chips, a day too old", CopyBox::Start, form(1.6, d2003 - 1, 1), MapOf({1.6, d2003, 1}, 7, 2, 0),
-       "z6 z16 z17 z710 z715"},
-      {"second chips of two sizes", CopyBox::Start, form(1.6, d2003, 2), MapOf({1.8, d2003, 2}, 7, 2, 0),
-       "z6 z16 z17 z710 z715"},
-      {"second chips", CopyBox::Start, form(1.8, MakeDate(2003, 1, 25), 2), MapOf({1.8, d2003, 2}, 7, 2, 0),
-       "z6 z16 z17 z710 z715 z835"},
-      {"no boost", CopyBox::Wastegate, third, form(1.8, d2003, 3, 0), ""},
-      {"no boost targets", CopyBox::BoostTargets, third, form(1.8, d2003, 3, 0), ""},
-      {"cells of no boost stay, too", CopyBox::FuelZones, third, form(1.8, d2003, 3, 0), "94 cells"},
-      {"intake against advance limit", CopyBox::AirTemp, third, form(1.8, kNewChipDate - 1, 3),
-       "z860 z865 z870 z875 message 27"},
-      {"old numbers", CopyBox::Miscellaneous, third, form(1.6, d2002, 2), "z2 z7 z9 z10 z11 z700 z705 z720 +1"},
-      {"new second chips", CopyBox::Miscellaneous, form(1.8, d2003, 2), MapOf({1.8, d2003, 2}, 7, 2, 0),
-       "z2 z7 z9 z10 z11 z700 z705 z720 z820"},
-      {"EGR by its own bit", CopyBox::Miscellaneous, form(1.8, d2003, 2, 2 + 8), MapOf({1.8, d2003, 3}, 7, 2, 0),
-       "z2 z7 z9 z10 z11 z700 z705 z720 z820 +0"},
-      {"injectors of new chips", CopyBox::Fuel, form(1.6, d2003, 2, 2 + 64), MapOf({1.6, d2003, 2}, 7, 2, 0),
-       "z0 z1 z22 z23 z24 z25 z830 z850 +2"},
-      {"type that the form lacks", CopyBox::AutoTuning, third, form(1.8, d2002, 2), "z26 z27 z28 z29 z30 z31"},
-      {"EGR comes with its sensor", CopyBox::AutoTuning, form(1.8, d2003, 2, 2 + 8), MapOf({1.8, d2003, 2}, 7, 2 + 16, 0),
-       "z26 z27 z28 z29 z30 z31 +0 NB"},
-      {"and goes with it", CopyBox::AutoTuning, form(1.8, kThird.datChipDate, 3, 2 + 16), MapOf(kThird, 7, 2 + 8, 0),
-       "z26 z27 z28 z29 z30 z31 -0 -3 WB"},
-      {"mixture fuel", CopyBox::AutoTuning, form(1.8, d2002, 2, 2 + 16), MapOf({1.8, d2002, 2}, 7, 2, 0),
-       "z26 z27 z28 z29 z30 z31 +9"},
-      {"the chip", CopyBox::General, third, form(1.6, d2002, 2), "z705 chip pressure"},
-      // clang-format on
-  };
-  for (const auto& c : cases) EXPECT_EQ(Copied(c.box, c.source, c.form), c.told) << c.what;
+  // what, box, source, form
+  ExpectTable(
+      [](const TableRow& row) {
+        int box = 0;
+        while (row.Text(1) != CopyBoxCaption(box)) ++box;
+        return Copied(CopyBox{box}, MapOf(row, 2), MapOf(row, 6));
+      },
+      R"(
+no delay between versions, Start, 1.8 2005-02-10 3, 77, d7, 3, 1.8 2003-06-09 2, 120, 02, 24 -> z6 z16 z17 z710 z715
+first chips, Start, 1.6 2003-06-09 1, 120, 02, 24, 1.6 2003-06-09 1, 7, 02, 0 -> z6 z16 z17 z710 z715 z835
+first chips and a day too old, Start, 1.6 2003-06-08 1, 120, 02, 24, 1.6 2003-06-09 1, 7, 02, 0 -> z6 z16 z17 z710 z715
+second chips of two sizes, Start, 1.6 2003-06-09 2, 120, 02, 24, 1.8 2003-06-09 2, 7, 02, 0 -> z6 z16 z17 z710 z715
+second chips, Start, 1.8 2003-01-25 2, 120, 02, 24, 1.8 2003-06-09 2, 7, 02, 0 -> z6 z16 z17 z710 z715 z835
+no boost, Wastegate, 1.8 2005-02-10 3, 77, d7, 3, 1.8 2003-06-09 3, 120, 00, 24 -> 
+no boost targets, Boost Targets, 1.8 2005-02-10 3, 77, d7, 3, 1.8 2003-06-09 3, 120, 00, 24 -> 
+cells of no boost stay too, Fuel Zones, 1.8 2005-02-10 3, 77, d7, 3, 1.8 2003-06-09 3, 120, 00, 24 -> 94 cells
+intake against advance limit, Air Temp. Correction, 1.8 2005-02-10 3, 77, d7, 3, 1.8 2001-02-28 3, 120, 02, 24 -> z860 z865 z870 z875 message 27
+old numbers, Miscellaneous, 1.8 2005-02-10 3, 77, d7, 3, 1.6 2002-01-01 2, 120, 02, 24 -> z2 z7 z9 z10 z11 z700 z705 z720 +1
+new second chips, Miscellaneous, 1.8 2003-06-09 2, 120, 02, 24, 1.8 2003-06-09 2, 7, 02, 0 -> z2 z7 z9 z10 z11 z700 z705 z720 z820
+EGR by its own bit, Miscellaneous, 1.8 2003-06-09 2, 120, 0a, 24, 1.8 2003-06-09 3, 7, 02, 0 -> z2 z7 z9 z10 z11 z700 z705 z720 z820 +0
+injectors of new chips, Fuel, 1.6 2003-06-09 2, 120, 42, 24, 1.6 2003-06-09 2, 7, 02, 0 -> z0 z1 z22 z23 z24 z25 z830 z850 +2
+type that the form lacks, Auto Tuning, 1.8 2005-02-10 3, 77, d7, 3, 1.8 2002-01-01 2, 120, 02, 24 -> z26 z27 z28 z29 z30 z31
+EGR comes with its sensor, Auto Tuning, 1.8 2003-06-09 2, 120, 0a, 24, 1.8 2003-06-09 2, 7, 12, 0 -> z26 z27 z28 z29 z30 z31 +0 NB
+and goes with it, Auto Tuning, 1.8 2005-02-10 3, 120, 12, 24, 1.8 2005-02-10 3, 7, 0a, 0 -> z26 z27 z28 z29 z30 z31 -0 -3 WB
+mixture fuel, Auto Tuning, 1.8 2002-01-01 2, 120, 12, 24, 1.8 2002-01-01 2, 7, 02, 0 -> z26 z27 z28 z29 z30 z31 +9
+the chip, General Information, 1.8 2005-02-10 3, 77, d7, 3, 1.6 2002-01-01 2, 120, 02, 24 -> z705 chip pressure
+)");
 }
 
 TEST(BenchmarkCopy, NumbersOfAChipOfTheOtherSize) {
-  ZoneMap large = MapOf(kThird, 20, 2, 0), small = MapOf({1.6, MakeDate(2000, 1, 1), 1}, 200, 2, 0);
+  const ZoneMap large = MapOf(TableRow("1.8 2005-02-10 3, 20, 02, 0"), 0);
+  const ZoneMap small = MapOf(TableRow("1.6 2000-01-01 1, 200, 02, 0"), 0);
   const CopyBoxes boxes = Boxes({CopyBox::Start, CopyBox::Miscellaneous, CopyBox::Ignition});
   const ZoneSheet toSmall = CopyFromBenchmark(OpenSheet(small), large, boxes).sheet;
   EXPECT_EQ(toSmall.Shown(17), 0);    // -50 at 1.8

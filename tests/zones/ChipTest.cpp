@@ -1,5 +1,4 @@
-#include <gtest/gtest.h>
-
+#include "support/Table.h"
 #include "zones/ChipIdentity.h"
 #include "zones/ChipRules.h"
 
@@ -20,80 +19,85 @@ TEST(ChipIdentity, TypesAndTheirTexts) {
 }
 
 TEST(ChipIdentity, DatesOfChips) {
-  const Date other = MakeDate(1999, 5, 5);
-  const struct {
-    const char* text;
-    Date date;
-  } cases[] = {
-      {"18-Sep-2001", MakeDate(2001, 9, 18)},
-      {" X18-Sep-2001 ", MakeDate(2001, 9, 18)},
-      {"x18-SEP-01", MakeDate(2001, 9, 18)},
-      {"18Sep2001", MakeDate(2001, 9, 18)},
-      {"2001-09-18", MakeDate(2001, 9, 18)},
-      {"31-Feb-2003", MakeDate(2003, 3, 3)},
-      {"01-Jan-2000", MakeDate(2000, 1, 1)},
-      {"01Jan2000", MakeDate(2000, 1, 1)},
-      {"", other},
-      {"XX-YYY-ZZ", other},
-      {"00-Sep-2001", other},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(DateText(ParseChipDate(c.text, other)), DateText(c.date)) << c.text;
-  EXPECT_EQ(ParseChipDate("nonsense", kNoDate), kNoDate);
+  ExpectTable(
+      [](const TableRow& row) {
+        return DateText(ParseChipDate(row.Text(0), MakeDate(1999, 5, 5)));
+      },
+      R"(
+18-Sep-2001 -> 2001-09-18 |  X18-Sep-2001  -> 2001-09-18 | x18-SEP-01 -> 2001-09-18 | 18Sep2001 -> 2001-09-18
+2001-09-18 -> 2001-09-18 | 31-Feb-2003 -> 2003-03-03 | 01-Jan-2000 -> 2000-01-01 | 01Jan2000 -> 2000-01-01
+XX-YYY-ZZ -> 1999-05-05 | 00-Sep-2001 -> 1999-05-05
+)");
+  EXPECT_EQ(ParseChipDate("", kNoDate), kNoDate);
 }
 
-TEST(ChipRules, EachRuleOnBothSidesOfItsDate) {
-  const struct {
-    ChipRule rule;
-    double size;
-    int version;
-    Date from;  ///< the first day on which the rule says `since`
-    bool since;
-  } cases[] = {
-      {ChipRule::ClosedLoop, 1.6, 1, MakeDate(2000, 12, 6), true},
-      {ChipRule::AdvanceLimit, 1.6, 1, MakeDate(2001, 3, 1), false},
-      {ChipRule::AirTemperature, 1.8, 2, kNewChipDate, true},
-      {ChipRule::OvershootAndDroop, 1.8, 3, MakeDate(2001, 3, 11), true},
-      {ChipRule::IACRate, 1.6, 1, MakeDate(2003, 6, 9), true},
-      {ChipRule::IACRate, 1.6, 2, MakeDate(2001, 9, 18), true},
-      {ChipRule::DecelScale, 1.8, 3, MakeDate(2001, 12, 19), true},
-      {ChipRule::BoostHysteresis, 1.8, 2, MakeDate(2002, 2, 10), true},
-      {ChipRule::MixtureFuelFlag, 1.8, 2, MakeDate(2002, 6, 10), false},
-      {ChipRule::EnablePrimeDelay, 1.8, 2, MakeDate(2003, 1, 25), true},
-      {ChipRule::EnablePrimeDelay, 1.6, 2, MakeDate(2005, 2, 20), true},
-      {ChipRule::FuelLowSlopeOrL3LowMAP, 1.8, 2, MakeDate(2003, 2, 15), false},
-      {ChipRule::InjectorOffset, 1.8, 2, MakeDate(2003, 6, 9), true},
-      {ChipRule::VICSActivation, 1.8, 3, MakeDate(2004, 4, 19), true},
-      {ChipRule::IgnitionStartAndSlope, 1.6, 1, MakeDate(2003, 6, 9), true},
-      {ChipRule::Enable18TPSOn16, 1.8, 2, MakeDate(2004, 6, 27), true},
-      {ChipRule::Enable18TPSOn16, 1.8, 3, MakeDate(2003, 4, 18), true},
-      {ChipRule::EnableIdleStabilisation, 1.6, 1, MakeDate(2003, 1, 1), true},
-      {ChipRule::EnableQuadInjection, 1.6, 2, MakeDate(2001, 3, 11), true},
-      {ChipRule::KnockLight, 1.8, 3, MakeDate(2003, 8, 30), true},
-      {ChipRule::AltEGRCurve, 1.8, 3, MakeDate(2004, 7, 2), true},
-      {ChipRule::EnableIATBoostTarget, 1.8, 3, MakeDate(2005, 2, 10), true},
-  };
-  for (const auto& c : cases) {
-    const auto name = static_cast<int>(c.rule);
-    EXPECT_EQ(ChipAllows(c.rule, c.size, c.from, c.version), c.since) << name;
-    EXPECT_EQ(ChipAllows(c.rule, c.size, c.from - 1, c.version), !c.since) << name;
+/// When the rule holds for that chip: "2001-03-01 to 2003-02-14".
+std::string Days(ChipRule rule, double size, int version) {
+  std::string days;
+  bool held = false;
+  for (Date day = MakeDate(1999, 1, 1); day < MakeDate(2010, 1, 1); ++day) {
+    const bool holds = ChipAllows(rule, size, day, version);
+    if (holds != held) days += holds ? DateText(day) + " to " : DateText(day - 1) + " ";
+    held = holds;
   }
+  return days;
 }
 
-TEST(ChipRules, WhatSomeChipsNeverOrAlwaysHave) {
-  const Date late = MakeDate(2010, 1, 1);
-  EXPECT_TRUE(EnablePrimeDelay(1.8, MakeDate(1999, 1, 1), 3));
-  EXPECT_TRUE(ChipAllows(ChipRule::FuelLowSlopeOrL3LowMAP, 1.8, late, 3));
-  EXPECT_TRUE(ChipAllows(ChipRule::InjectorOffset, 1.8, MakeDate(1999, 1, 1), 3));
-  EXPECT_TRUE(ChipAllows(ChipRule::EGRFlag, 1.6, late, 1));
-  EXPECT_FALSE(ChipAllows(ChipRule::EGRFlag, 1.6, late, 2));
-  EXPECT_FALSE(ChipAllows(ChipRule::FanAndTPS, 1.6, late, 1));
-  EXPECT_FALSE(Enable18TPSOn16(1.6, late, 2));
-  EXPECT_FALSE(Enable18TPSOn16(1.8, late, 1));
-  EXPECT_FALSE(EnableIdleStabilisation(1.8, late, 2));
-  EXPECT_FALSE(EnableQuadInjection(1.8, late, 2));
-  EXPECT_FALSE(EnableIATBoostTarget(1.8, late, 2));
-  EXPECT_FALSE(ChipAllows(ChipRule::BoostHysteresis, 1.8, late, 1));
+TEST(ChipRules, DaysOfEachRule) {
+  const std::vector<std::string> names = Split(
+      "ClosedLoop AdvanceLimit AdvanceLimitAvailable RunIACLabels AirTemperature SecurityAndName "
+      "OvershootAndDroop IACRate DecelScale BoostHysteresis MixtureFuelFlag EnablePrimeDelay "
+      "SpeedoCalibration L3LowMAPLabels FuelLowSlopeOrL3LowMAP InjectorOffset VICSActivation "
+      "IgnitionStartAndSlope Enable18TPSOn16 EnableIdleStabilisation EnableQuadInjection "
+      "KnockLight AltEGRCurve EnableIATBoostTarget FanAndTPS EGRFlag OffsetSlope",
+      ' ');
+  constexpr std::size_t kAll = 36;  // six chips
+  std::string told = "\n";
+  for (std::size_t rule = 0; rule < names.size(); ++rule) {
+    std::map<std::string, std::string> chipsOf;
+    for (const double size : {1.6, 1.8})
+      for (const int version : {1, 2, 3})
+        chipsOf[Days(ChipRule(rule), size, version)] +=
+            (size < 1.7 ? "1.6/" : "1.8/") + std::to_string(version) + " ";
+    told += names[rule] + ":";
+    for (const auto& [days, chips] : chipsOf)
+      if (!days.empty()) told += " " + (chips.size() < kAll ? chips : "") + "from " + days;
+    told += "\n";
+  }
+  ExpectTold(told, R"(
+ClosedLoop: from 2000-12-06 to 
+AdvanceLimit: from 1999-01-01 to 2001-02-28 
+AdvanceLimitAvailable: from 1999-01-01 to 2000-12-05 
+RunIACLabels: from 2001-03-01 to 
+AirTemperature: from 2001-03-01 to 
+SecurityAndName: from 2001-03-01 to 
+OvershootAndDroop: from 2001-03-11 to 
+IACRate: 1.6/2 1.6/3 1.8/2 1.8/3 from 2001-09-18 to  1.6/1 1.8/1 from 2003-06-09 to 
+DecelScale: 1.6/2 1.6/3 1.8/2 1.8/3 from 2001-12-19 to  1.6/1 1.8/1 from 2003-06-09 to 
+BoostHysteresis: 1.6/2 1.6/3 1.8/2 1.8/3 from 2002-02-10 to 
+MixtureFuelFlag: from 1999-01-01 to 2002-06-09 
+EnablePrimeDelay: 1.6/3 1.8/3 from 1999-01-01 to  1.8/2 from 2003-01-25 to  1.6/1 1.8/1 from 2003-06-09 to  1.6/2 from 2005-02-20 to 
+SpeedoCalibration: from 2003-01-25 to 
+L3LowMAPLabels: from 2003-02-15 to 
+FuelLowSlopeOrL3LowMAP: 1.6/1 1.6/3 1.8/1 1.8/3 from 2001-03-01 to  1.6/2 1.8/2 from 2001-03-01 to 2003-02-14 
+InjectorOffset: 1.6/3 1.8/3 from 1999-01-01 to  1.6/1 1.6/2 1.8/1 1.8/2 from 2003-06-09 to 
+VICSActivation: 1.6/3 1.8/3 from 2004-04-19 to 
+IgnitionStartAndSlope: 1.6/2 1.6/3 1.8/2 1.8/3 from 2001-03-01 to  1.6/1 1.8/1 from 2003-06-09 to 
+Enable18TPSOn16: 1.8/3 from 2003-04-18 to  1.8/2 from 2004-06-27 to 
+EnableIdleStabilisation: 1.6/1 1.8/1 from 2003-01-01 to  1.6/3 1.8/3 from 2003-05-01 to 
+EnableQuadInjection: 1.6/2 from 2001-03-11 to 
+KnockLight: 1.6/1 1.8/1 from 2003-06-20 to  1.6/3 1.8/3 from 2003-08-30 to 
+AltEGRCurve: 1.6/3 1.8/3 from 2004-07-02 to 
+EnableIATBoostTarget: 1.6/3 1.8/3 from 2005-02-10 to 
+FanAndTPS: 1.8/1 1.8/2 1.8/3 from 1999-01-01 to 
+EGRFlag: 1.6/1 1.8/1 1.8/2 1.8/3 from 1999-01-01 to 
+OffsetSlope: 1.6/3 1.8/3 from 1999-01-01 to 
+)");
+  EXPECT_TRUE(EnablePrimeDelay(1.6, MakeDate(2005, 2, 20), 2));
+  EXPECT_TRUE(Enable18TPSOn16(1.8, MakeDate(2004, 6, 27), 2));
+  EXPECT_TRUE(EnableIdleStabilisation(1.6, MakeDate(2003, 1, 1), 1));
+  EXPECT_TRUE(EnableQuadInjection(1.6, MakeDate(2001, 3, 11), 2));
+  EXPECT_TRUE(EnableIATBoostTarget(1.8, MakeDate(2005, 2, 10), 3));
 }
 
 }  // namespace

@@ -1,27 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <random>
 
 #include "zones/EditHistory.h"
 #include "zones/ZoneEdits.h"
 #include "zones/ZoneFlags.h"
 #include "zones/ZoneNames.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
-const ChipIdentity kThird{1.8, MakeDate(2005, 2, 10), 3};
-const ChipIdentity kSecond16{1.6, MakeDate(2002, 6, 9), 2};
-
-ZoneMap MapWith(const ChipIdentity& chip, int flags) {
-  ZoneMap map;
-  map.zones.fill(100);
-  map.chip = chip;
-  map.zones[5] = static_cast<std::int16_t>(flags);
-  map.zones[240] = 0;
-  return map;
-}
+const ChipIdentity kThird = Chip("1.8 2005-02-10 3"), kSecond16 = Chip("1.6 2002-06-09 2");
 
 /// What an edit changed: "z33 100>250 ...", and the words that changed.
 std::string Changes(const ZoneSheet& before, const ZoneSheet& after) {
@@ -158,50 +148,6 @@ TEST(ZoneEdits, InterpolationAndSmoothing) {
   EXPECT_EQ(WithInterpolation(sheet, one), sheet);
   EXPECT_EQ(WithSmoothing(sheet, one), sheet);
   EXPECT_EQ(WithInterpolation(sheet, {}), sheet);
-}
-
-/// Ten thousand edits of every kind, all undone, all redone.
-TEST(EditHistory, RandomWalk) {
-  std::mt19937 random(11);
-  const auto below = [&](int end) {
-    return static_cast<int>(random() % static_cast<unsigned>(end));
-  };
-  const ZoneMap source = MapWith(kThird, 2 + 0x91);
-  ZoneSettings benchmark{};
-  for (auto& zone : benchmark) zone = static_cast<std::int16_t>(below(256));
-  const std::function<S(S)> edits[] = {
-      [&](S s) {
-        return WithField(s,
-                         std::array{0, 1, 2, 3, 6, 17, 21, 225}[static_cast<std::size_t>(below(8))],
-                         std::to_string(below(9000) - 50));
-      },
-      [&](S s) { return WithTick(s, Tick{below(kTicks)}, below(2) == 0); },
-      [&](S s) { return WithEngineSize(s, below(2) == 0 ? 1.6 : 1.8); },
-      [&](S s) { return WithChipDate(s, MakeDate(2000 + below(6), 1 + below(12), 1)); },
-      [&](S s) { return WithBoostTargets(s, below(2) == 0); },
-      [&](S s) { return WithCell(s, 32 + below(192), std::to_string(below(300))); },
-      [&](S s) {
-        return WithOffset(s, std::array{32 + below(96), 128 + below(96)}, below(510) - 255);
-      },
-      [&](S s) { return WithCellsOf(s, std::array{32 + below(96)}, benchmark); },
-      [&](S s) {
-        return WithAutoTuneType(
-            s, std::array{"Off", "Lambda", "L3"}[static_cast<std::size_t>(below(3))]);
-      },
-  };
-  EditHistory history(OpenSheet(source));
-  const ZoneMap opened = Rebuild(history.Now(), source);
-  for (int done = 0; done < 10000;)
-    done +=
-        history.Do("step", edits[static_cast<std::size_t>(below(std::size(edits)))](history.Now()));
-  const ZoneMap last = Rebuild(history.Now(), source);
-  while (history.CanUndo()) history.Undo();
-  EXPECT_EQ(history.Now(), history.Opened());
-  EXPECT_EQ(Rebuild(history.Now(), source), opened);
-  int redone = 0;
-  for (; history.CanRedo(); ++redone) history.Redo();
-  EXPECT_EQ(redone, 10000);
-  EXPECT_EQ(Rebuild(history.Now(), source), last);
 }
 
 TEST(EditHistory, AStepAfterUndoForgetsWhatWasUndone) {

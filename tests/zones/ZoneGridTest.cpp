@@ -1,6 +1,4 @@
-#include <gtest/gtest.h>
-
-#include "base/Numbers.h"
+#include "support/Table.h"
 #include "zones/RowsAround.h"
 #include "zones/ZoneGrid.h"
 
@@ -24,34 +22,20 @@ TEST(ZoneGrid, HeadingsAndTheMAPsBehindThem) {
 }
 
 TEST(ZoneGrid, RowsAroundAMAP) {
-  const struct {
-    bool normallyAspirated;
-    std::int32_t MAP;
-    const char* sensor;
-    const char* type;
-    std::int32_t RPM;
-    int lower, upper;
-    std::int32_t lowerMAP, upperMAP;
-  } cases[] = {
-      // clang-format off
-      {true, 960, "NB", "Off", 3000, 5, 6, 840, 960},       {true, 831, "NB", "Off", 3000, 5, 6, 840, 960},
-      {true, 830, "NB", "Off", 3000, 4, 5, 700, 840},       {true, 431, "NB", "Off", 3000, 2, 3, 440, 570},
-      {true, 430, "NB", "Off", 2001, 2, 2, 440, 440},       {true, 430, "NB", "Off", 2000, 1, 1, 300, 300},
-      {true, 5000, "NB", "Off", 3000, 5, 6, 840, 960},      {true, -50, "NB", "Off", 3000, 2, 2, 440, 440},
-      {false, 2190, "NB", "Off", 3000, 5, 6, 1800, 2200},   {false, 9990, "NB", "Off", 3000, 5, 6, 1800, 2200},
-      {false, 599, "NB", "Off", 3000, 2, 2, 600, 600},      {false, 600, "NB", "Off", 3000, 2, 3, 600, 1000},
-      {true, 639, "NB+WB", "L3", 3000, 1, 1, 300, 300},     {true, 640, "NB+WB", "L3", 3000, 3, 4, 570, 700},
-      {false, 600, "NB+WB", "L3+L4", 3000, 1, 1, 200, 200}, {true, 600, "NB+WB", "Lambda", 3000, 3, 4, 570, 700},
-      // clang-format on
-  };
-  for (const auto& c : cases) {
-    const ZoneRows rows =
-        CalcZoneRowBoundaries(c.MAP, c.normallyAspirated, c.sensor, c.type, c.RPM);
-    EXPECT_TRUE(rows.lower == c.lower && rows.upper == c.upper && rows.lowerMAP == c.lowerMAP &&
-                rows.upperMAP == c.upperMAP)
-        << c.MAP << ": " << rows.lower << " " << rows.upper << " " << rows.lowerMAP << " "
-        << rows.upperMAP;
-  }
+  // normally aspirated, MAP in tenths of kPa, sensor, type of tuning, RPM
+  ExpectTable(
+      [](const TableRow& row) {
+        const ZoneRows rows =
+            CalcZoneRowBoundaries(row.Int(1), row.Yes(0), row.Text(2), row.Text(3), row.Int(4));
+        return std::to_string(rows.lower) + "-" + std::to_string(rows.upper) + " at " +
+               std::to_string(rows.lowerMAP) + "-" + std::to_string(rows.upperMAP);
+      },
+      R"(
+yes, 960, NB, Off, 3000 -> 5-6 at 840-960 | yes, 831, NB, Off, 3000 -> 5-6 at 840-960 | yes, 830, NB, Off, 3000 -> 4-5 at 700-840 | yes, 431, NB, Off, 3000 -> 2-3 at 440-570
+yes, 430, NB, Off, 2001 -> 2-2 at 440-440 | yes, 430, NB, Off, 2000 -> 1-1 at 300-300 | yes, 5000, NB, Off, 3000 -> 5-6 at 840-960 | yes, -50, NB, Off, 3000 -> 2-2 at 440-440
+no, 2190, NB, Off, 3000 -> 5-6 at 1800-2200 | no, 9990, NB, Off, 3000 -> 5-6 at 1800-2200 | no, 599, NB, Off, 3000 -> 2-2 at 600-600 | no, 600, NB, Off, 3000 -> 2-3 at 600-1000
+yes, 639, NB+WB, L3, 3000 -> 1-1 at 300-300 | yes, 640, NB+WB, L3, 3000 -> 3-4 at 570-700 | no, 600, NB+WB, L3+L4, 3000 -> 1-1 at 200-200 | yes, 600, NB+WB, Lambda, 3000 -> 3-4 at 570-700
+)");
 }
 
 TEST(ZoneGrid, HowFarASampleLiesBetweenTwoRows) {
@@ -72,18 +56,16 @@ TEST(ZoneGrid, HowFarASampleLiesBetweenTwoRows) {
 }
 
 TEST(ZoneGrid, ZoneNumberOfASample) {
-  const struct {
-    bool normallyAspirated;
-    std::int32_t kPa, RPM, zone;
-  } cases[] = {
-      {true, 33, 0, 100},     {true, 34, 1500, 215}, {true, 47, 1999, 215},
-      {true, 48, 2000, 320},  {true, 88, 7999, 675}, {true, 200, 9999, 695},
-      {false, 40, 499, 100},  {false, 41, 500, 205}, {false, 201, 500, 605},
-      {false, 200, 500, 505}, {true, 33, -1, 1},     {true, 33, 100000, 11000},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(ZoneNumber(ZoneRowOfSample(c.normallyAspirated, c.kPa), c.RPM), c.zone)
-        << c.kPa << " " << c.RPM;
+  // normally aspirated, kPa, RPM
+  ExpectTable(
+      [](const TableRow& row) {
+        return std::to_string(ZoneNumber(ZoneRowOfSample(row.Yes(0), row.Int(1)), row.Int(2)));
+      },
+      R"(
+yes, 33, 0 -> 100 | yes, 34, 1500 -> 215 | yes, 47, 1999 -> 215 | yes, 48, 2000 -> 320
+yes, 88, 7999 -> 675 | yes, 200, 9999 -> 695 | no, 40, 499 -> 100 | no, 41, 500 -> 205
+no, 201, 500 -> 605 | no, 200, 500 -> 505 | yes, 33, -1 -> 1 | yes, 33, 100000 -> 11000
+)");
   EXPECT_EQ(ZoneColumnOfSample(-1), 0);
   EXPECT_EQ(ZoneColumnOfSample(9999), 15);
 }

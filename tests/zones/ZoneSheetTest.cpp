@@ -1,35 +1,23 @@
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <random>
 #include <set>
-#include <string>
+#include <sstream>
 
+#include "support/Table.h"
 #include "zones/ZoneEdits.h"
 #include "zones/ZoneFlags.h"
 #include "zones/ZoneGrid.h"
 #include "zones/ZoneNames.h"
 #include "zones/ZoneSheet.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
-const ChipIdentity kOld16{1.6, MakeDate(2000, 1, 1), 1};
-const ChipIdentity kMid16{1.6, MakeDate(2001, 3, 11), 2};
-const ChipIdentity kMid18{1.8, MakeDate(2002, 6, 10), 2};
-const ChipIdentity kNew18{1.8, MakeDate(2005, 2, 10), 3};
-const ChipIdentity kFirst{1.6, MakeDate(2003, 6, 20), 1};
+const ChipIdentity kOld16 = Chip("1.6 2000-01-01 1"), kMid16 = Chip("1.6 2001-03-11 2"),
+                   kMid18 = Chip("1.8 2002-06-10 2"), kNew18 = Chip("1.8 2005-02-10 3"),
+                   kFirst = Chip("1.6 2003-06-20 1");
 const ChipIdentity kChips[] = {kOld16, kMid16, kMid18, kNew18, kFirst};
-
-ZoneMap MapWith(const ChipIdentity& chip, int flags, int more = 0) {
-  ZoneMap map;
-  map.zones.fill(100);
-  map.chip = chip;
-  map.intAtmosphericPressure = 101;
-  map.zones[5] = static_cast<std::int16_t>(flags);
-  map.zones[240] = static_cast<std::int16_t>(more);
-  return map;
-}
 
 /// "11011": which of the chips have it, turbo and (after the slash) normally aspirated where that
 /// differs.
@@ -135,41 +123,33 @@ Idle=100[070/110] Cruise=100[070/110] 300=100[070/110] 400=100[070/110] 500=100[
 }
 
 TEST(ZoneSheet, FlagsComeBackAsTheBoxesStand) {
-  const ChipIdentity day{1.8, MakeDate(2004, 5, 8), 3}, before{1.8, MakeDate(2004, 5, 7), 3};
-  const struct {
-    const char* what;
-    ChipIdentity chip;
-    int flags, more;
-    const char* sensor;
-    const char* type;
-    int flagsAfter, moreAfter;
-  } cases[] = {
-      // clang-format off
-      {"both sensors", day, 0x99, 0, "NB+WB", "L3+L4", 0x99, 0},
-      {"a day earlier: EGR and no wide band", before, 0x99, 0, "NB", "L3+L4", 0x89, 0},
-      {"both sensors without L3", day, 0x19, 0, "NB", "Lambda", 0x01, 0},
-      {"wide band alone", day, 0x13, 0, "WB", "Lambda", 0x13, 0},
-      {"mixture fuel and EGR of old chips", kOld16, 0x1a, 0, "NB", "Off", 0x9a, 0},
-      {"EGR that a chip lacks is lost", kMid16, 0x0a, 0, "NB", "Off", 0x02, 0},
-      {"bit 6 of a chip without a box for it", kMid18, 0x42, 0, "NB", "Off", 0x42, 0},
-      {"bit 6 as quad injection", kMid16, 0x42, 0, "NB", "Off", 0x42, 0},
-      {"wide band of the first chips beside EGR", {1.8, MakeDate(2003, 3, 15), 1}, 0x19, 0, "WB", "Lambda", 0x11, 0},
-      {"the day that L3 came", {1.6, MakeDate(2000, 6, 21), 1}, 0x01, 0, "NB", "Lambda", 0x01, 0},
-      {"the day before", {1.6, MakeDate(2000, 6, 20), 1}, 0x01, 0, "NB", "Lambda", 0x81, 0},
-      {"L3 alone", day, 0x81, 4, "NB", "L3", 0x81, 4},
-      {"255 in z800", kNew18, 0x02, 255, "NB", "Off", 0x02, 233},
-      {"z800 of a chip without boxes", kOld16, 0x02, 0x5a, "NB", "Off", 0x82, 0x5a},
-      // clang-format on
-  };
-  for (const auto& c : cases) {
-    const ZoneMap map = MapWith(c.chip, c.flags, c.more);
-    const ZoneSheet sheet = OpenSheet(map);
-    EXPECT_EQ(sheet.O2Sensor, c.sensor) << c.what;
-    EXPECT_EQ(sheet.autoTuneType, c.type) << c.what;
-    const ZoneMap after = Rebuild(sheet, map);
-    EXPECT_EQ(after.zones[5], c.flagsAfter) << c.what;
-    EXPECT_EQ(after.zones[240], c.moreAfter) << c.what;
-  }
+  // what, chip, z5, z800
+  ExpectTable(
+      [](const TableRow& row) {
+        const ZoneMap map =
+            MapWith(Chip(row.Text(1)), std::stoi(row.Text(2), nullptr, 16), row.Int(3));
+        const ZoneSheet sheet = OpenSheet(map);
+        const ZoneMap after = Rebuild(sheet, map);
+        std::ostringstream flags;
+        flags << std::hex << after.zones[5] << ", " << std::dec << after.zones[240];
+        return sheet.O2Sensor + ", " + sheet.autoTuneType + ", " + flags.str();
+      },
+      R"(
+both sensors, 1.8 2004-05-08 3, 99, 0 -> NB+WB, L3+L4, 99, 0
+a day earlier: EGR and no wide band, 1.8 2004-05-07 3, 99, 0 -> NB, L3+L4, 89, 0
+both sensors without L3, 1.8 2004-05-08 3, 19, 0 -> NB, Lambda, 1, 0
+wide band alone, 1.8 2004-05-08 3, 13, 0 -> WB, Lambda, 13, 0
+mixture fuel and EGR of old chips, 1.6 2000-01-01 1, 1a, 0 -> NB, Off, 9a, 0
+EGR that a chip lacks is lost, 1.6 2001-03-11 2, 0a, 0 -> NB, Off, 2, 0
+bit 6 of a chip without a box for it, 1.8 2002-06-10 2, 42, 0 -> NB, Off, 42, 0
+bit 6 as quad injection, 1.6 2001-03-11 2, 42, 0 -> NB, Off, 42, 0
+wide band of the first chips beside EGR, 1.8 2003-03-15 1, 19, 0 -> WB, Lambda, 11, 0
+the day that L3 came, 1.6 2000-06-21 1, 01, 0 -> NB, Lambda, 1, 0
+the day before, 1.6 2000-06-20 1, 01, 0 -> NB, Lambda, 81, 0
+L3 alone, 1.8 2004-05-08 3, 81, 4 -> NB, L3, 81, 4
+255 in z800, 1.8 2005-02-10 3, 02, 255 -> NB, Off, 2, 233
+z800 of a chip without boxes, 1.6 2000-01-01 1, 02, 90 -> NB, Off, 82, 90
+)");
 }
 
 TEST(ZoneSheet, EachBoxHasItsBit) {
