@@ -31,7 +31,9 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
       clsBenchmark benchmark;
       benchmark.strName = name;
       benchmark.ChipDate = kThird.datChipDate;
-      SetMap(benchmark, MapWith(name[0] == 'S' ? 90 : 200, 2));
+      ZoneMap map = MapWith(name[0] == 'S' ? 90 : 200, 2);
+      map.intAtmosphericPressure = 88;
+      SetMap(benchmark, map);
       benchmarks.AddDirect(benchmark);
     }
     settings.gstrDefaultBenchmark = "Track";
@@ -203,7 +205,8 @@ TEST_F(frmZoneDataTest, CopyAndDetailsOfTheComparison) {
 click cmdCopyBenchmark -> +frmCopyBench
 click chkOptions(2); click chkOptions(9); click cmdOK -> -frmCopyBench, step=Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 z800=16 z855=200, chkMisc(4) unchecked, txtTrim=45.00, txtZone(8)=10000, txtZone(18)=200, txtZone(19)=200, txtZone(20)=200, txtZone(251)=200, txtZone(13)=200, txtZone(21)=180, lblStatus=Copy Idle, Ignition from Track
 click cmdDetails -> +frmZoneData.2
-show caption fraData(0) cmdCancel txtZone(6) cmdOK fraNotesTab tabZoneData2 grdData(0)[1][1] -> caption=Tarnview Zone Data - Track (benchmark), fraData(0)=This Benchmark, cmdCancel=&Close, txtZone(6) off, txtZone(6)=200, cmdOK hidden, cmdOK=&OK, fraNotesTab hidden, fraNotesTab=, tabZoneData2 list=[General|Fuel|Ignition], tabZoneData2=General, grdData(0)[1][1]=200
+show caption fraData(0) cmdCancel txtZone(6) txtAtmos cboBenchmark cmdOK fraNotesTab tabZoneData2 grdData(0)[1][1] -> caption=Tarnview Zone Data - Track (benchmark), fraData(0)=This Benchmark, cmdCancel=&Close, txtZone(6) off, txtZone(6)=200, txtAtmos off, txtAtmos=88, cboBenchmark hidden, cboBenchmark list=[], cboBenchmark=, cmdOK hidden, cmdOK=&OK, fraNotesTab hidden, fraNotesTab=, tabZoneData2 list=[General|Fuel|Ignition], tabZoneData2=General, grdData(0)[1][1]=200
+key F1; tab tabZoneData2 Ignition; key F1 -> help=ZoneDataGeneralTab ZoneDataIgnitionZonesTab, tabZoneData2=Ignition, fraGeneralTab hidden, fraIgnitionTab shown
 cell grdData(0) 1 1 1 -> cannot: this cell of grdData(0) cannot be edited
 close -> -frmZoneData.2
 )");
