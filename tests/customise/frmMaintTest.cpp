@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
+#include <optional>
 
 #include "customise/frmMaint.h"
 #include "presets/clsSampleGraphPreset.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
 
 namespace tarnview {
 namespace {
@@ -20,25 +20,30 @@ struct Things : Records<Thing> {
 
 class MaintTest : public ::testing::Test {
  protected:
-  void Add(const char* name, int family) {
+  void Add(const std::string& name, int family) {
     clsSampleGraphPreset preset;
     preset.strName = name;
     preset.lngLogFamily = family;
     kept.AddDirect(preset);
   }
   template <class Collection>
-  std::string All(const Collection& col) {
+  static std::string All(const Collection& col) {
     std::string names;
     for (const auto& one : col) names += one.strName + " ";
     return names;
   }
-  std::string Listed(const frmMaint& window) {
-    std::string names;
-    for (const auto& row : window.lvwNameList.Rows()) names += row.texts[0] + " ";
-    return names;
+  /// The list of the presets so far, and what becomes of it.
+  void Open(const std::string& namesAndFamilies) {
+    for (std::size_t at = 0; at < namesAndFamilies.size(); at += 3)
+      Add(namesAndFamilies.substr(at, 1), namesAndFamilies[at + 1] - '0');
+    copy.emplace(kept, edit);
+    Open(*copy);
+    story.Fact("all", [this] { return All(copy->Col); });
   }
-  frmMaint Make(MaintainedList& list) {
-    return {host, list, {"Editor", "&Things", "ThingEditor"}, kinds.gcolLogFamilies, 1, messages};
+  void Open(MaintainedList& list) {
+    window.emplace(host, list, frmMaint::Texts{"Editor", "&Things", "ThingEditor"},
+                   kinds.gcolLogFamilies, 1, messages);
+    window->Show();
   }
 
   RecordingHost host;
@@ -53,91 +58,64 @@ class MaintTest : public ::testing::Test {
         preset.strName = newName;
         return ok;
       };
+  std::optional<MaintainedCollection<clsSampleGraphPresets>> copy;
+  std::optional<frmMaint> window;
+  Story story{host};
 };
 
 TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {
-  for (const auto& [name, family] : {std::pair{"a", 1}, {"u", 7}, {"b", 1}, {"c", 1}, {"v", 7}})
-    Add(name, family);
-  MaintainedCollection<clsSampleGraphPresets> copy(kept, edit);
-  frmMaint window = Make(copy);
-  window.Show();
-  EXPECT_EQ(Listed(window), "a b c ");
-  EXPECT_EQ(window.lvwNameList.SelectedRow(), 1);
-  EXPECT_FALSE(window.cmdPresetUp.Enabled());
-  window.lvwNameList.Do({"row", {"c"}});
-  EXPECT_FALSE(window.cmdPresetDown.Enabled());
-  window.cmdPresetUp.Press();
-  EXPECT_EQ(All(copy.Col), "a u c b v ");
-  window.Press({"Up", false, true});
-  EXPECT_EQ(All(copy.Col), "c a u b v ");
-  window.Press({"Down", true, false});
-  EXPECT_EQ(All(copy.Col), "a c u b v ");
-  window.Press({"Up"});
-  window.Press({"Left", true, false});
-  EXPECT_EQ(All(copy.Col), "a c u b v ");
-  window.Press({"Up", true, false});
-  window.Press({"Up", false, true});  // the first row stays
-  EXPECT_EQ(window.lvwNameList.SelectedRow(), 1);
-  window.lvwNameList.Do({"sort", {"Name"}});
-  EXPECT_EQ(Listed(window), "c a b ");
-  window.cboLogFamily.SetListIndex(6);
-  EXPECT_EQ(Listed(window), "u v ");
-  window.cmdPresetDown.Press();
-  EXPECT_EQ(All(copy.Col), "c a b v u ") << "past the neighbour in the list";
-  window.cboLogFamily.SetListIndex(2);
-  EXPECT_EQ(Listed(window), "");
-  window.cmdModify.Press();
-  window.cmdDelete.Press();
-  EXPECT_EQ(host.messages.size(), 2u);
-  EXPECT_EQ(host.messages[1].id, 40);
-  window.cmdCancel.Press();
-  EXPECT_FALSE(window.Accepted());
+  Open("a1 u7 b1 c1 v7 ");
+  EXPECT_STORY(story, R"(
+show lvwNameList cmdPresetUp -> lvwNameList columns=[Name], lvwNameList count=3, lvwNameList[1]=[a], lvwNameList[1] selected, lvwNameList[2]=[b], lvwNameList[2] unselected, lvwNameList[3]=[c], lvwNameList[3] unselected, cmdPresetUp off, cmdPresetUp=Move &Up
+row lvwNameList c -> lvwNameList[1] unselected, lvwNameList[3] selected, cmdPresetUp on, cmdPresetDown off
+click cmdPresetUp -> all=a u c b v , lvwNameList[2]=[c], lvwNameList[2] selected, lvwNameList[3]=[b], lvwNameList[3] unselected, cmdPresetDown on
+key Ctrl+Up
+key Shift+Down
+key Up; key Shift+Left
+key Shift+Up
+# The first row stays.
+key Ctrl+Up
+sort lvwNameList Name
+choose cboLogFamily #6 -> cboLogFamily=Universal Data Log, lvwNameList count=2, lvwNameList[1]=[u], lvwNameList[1] selected, lvwNameList[2]=[v], lvwNameList[2] unselected, cmdPresetUp off, lvwNameList[3] selected gone
+# Past the neighbour in the list.
+click cmdPresetDown -> all=a c b v u , lvwNameList[1]=[v], lvwNameList[1] unselected, lvwNameList[2]=[u], lvwNameList[2] selected, cmdPresetUp on, cmdPresetDown off
+choose cboLogFamily #2 -> cboLogFamily=Electromotive Tec-2 Data Log, lvwNameList count=0, cmdPresetUp off, lvwNameList[1] selected gone, lvwNameList[2] selected gone
+click cmdModify -> [40 ok]
+click cmdDelete -> [40 ok]
+click cmdCancel -> -frmMaint
+)");
+  EXPECT_FALSE(window->Accepted());
   EXPECT_EQ(All(kept), "a u b c v ");
 }
 
 TEST_F(MaintTest, NewModifyAndDelete) {
-  Add("a", 1);
-  Add("b", 1);
-  Add("c", 1);
-  MaintainedCollection<clsSampleGraphPresets> copy(kept, edit);
-  frmMaint window = Make(copy);
-  window.Show();
-  window.cboLogFamily.SetListIndex(1);
-  window.cmdNew.Press();
-  EXPECT_EQ(copy.Col.Item(4).strName, "x");
-  EXPECT_EQ(copy.Col.Item(4).lngLogFamily, 2);
-  window.cboLogFamily.SetListIndex(0);
-  newName = "y";
-  window.lvwNameList.Do({"double", {"b"}});
-  EXPECT_EQ(All(copy.Col), "a y c x ");
-  EXPECT_EQ(window.lvwNameList.SelectedRow(), 2);
-  ok = false;
-  window.cmdNew.Press();
-  window.cmdModify.Press();
-  EXPECT_EQ(All(copy.Col), "a y c x ");
-  host.answers.push_back({Answer::Kind::No});
-  window.cmdDelete.Press();
-  EXPECT_EQ(copy.Count(), 4);
-  window.cmdDelete.Press();
-  EXPECT_EQ(Listed(window), "a c ");
-  EXPECT_EQ(window.lvwNameList.SelectedRow(), 2);
-  window.Press({"Enter"});
-  EXPECT_TRUE(window.Accepted());
+  Open("a1 b1 c1 ");
+  story.Verb("willName", [this](const auto& words) { newName = words[0]; });
+  story.Verb("willCancel", [this](const auto&) { ok = false; });
+  EXPECT_STORY(story, R"(
+choose cboLogFamily #1; click cmdNew -> all=a b c x , cboLogFamily=Flyin' Miata Link Data Log, lvwNameList count=1, lvwNameList[1]=[x], cmdPresetDown off, lvwNameList[2] selected gone, lvwNameList[3] selected gone
+choose cboLogFamily #0 -> cboLogFamily=Flyin' Miata Link Full, lvwNameList count=3, lvwNameList[1]=[a], lvwNameList[2]=[b], lvwNameList[2] unselected, lvwNameList[3]=[c], lvwNameList[3] unselected, cmdPresetDown on
+willName y; double lvwNameList b -> all=a y c x , lvwNameList[1] unselected, lvwNameList[2]=[y], lvwNameList[2] selected, cmdPresetUp on
+willCancel; click cmdNew; click cmdModify
+answer no; click cmdDelete -> [Are you sure you want to delete this item? no]
+click cmdDelete -> [Are you sure you want to delete this item? yes], all=a c x , lvwNameList count=2, lvwNameList[2]=[c], cmdPresetDown off, lvwNameList[3] selected gone
+click cmdOK -> -frmMaint
+)");
+  EXPECT_TRUE(window->Accepted());
 }
 
 TEST_F(MaintTest, AListWithoutFamiliesShowsAllItsRows) {
   Things things;
   for (const char* name : {"a", "b"}) things.AddDirect({name});
-  MaintainedCollection<Things> copy(things, [](Thing& thing) {
+  MaintainedCollection<Things> list(things, [](Thing& thing) {
     thing.strName += "!";
     return true;
   });
-  frmMaint window = Make(copy);
-  window.Show();
-  EXPECT_FALSE(window.cboLogFamily.Visible());
-  window.cmdNew.Press();
-  EXPECT_EQ(Listed(window), "a b New! ");
-  EXPECT_EQ(window.lvwNameList.SelectedRow(), 3);
+  Open(list);
+  EXPECT_STORY(story, R"(
+show cboLogFamily -> cboLogFamily hidden, cboLogFamily list=[Flyin' Miata Link Full|Flyin' Miata Link Data Log|Electromotive Tec-2 Data Log|Electromotive Tec-3 Data Log|Link Plus Data Log|TurboXS UTEC Data Log|Universal Data Log], cboLogFamily=Flyin' Miata Link Full
+click cmdNew -> lvwNameList count=3, lvwNameList[1] unselected, lvwNameList[3]=[New!], lvwNameList[3] selected, cmdPresetUp on, cmdPresetDown off
+)");
 }
 
 }  // namespace

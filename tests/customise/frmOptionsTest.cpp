@@ -1,11 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "customise/frmOptions.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "support/OptionsActions.h"
+#include "support/Story.h"
 #include "support/WindowActions.h"
-#include "ui/RecordingHost.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/UniversalDataItems.h"
 
@@ -19,6 +17,8 @@ class Options : public ::testing::Test {
     files.files["/link/notes.txt"] = "";
     files.files["/defs/bad.txt"] = "[DATALOGDEFINITION]\r\nNAME=Bad\r\n";
     files.folders.insert("/logs");
+    story.Verb("anew", [this](const auto&) { Open(); });
+    story.Fact("item", [this] { return Drawn(); });
   }
 
   frmOptions& Open(const Settings& settings = {}, int fileType = kFMLinkLog) {
@@ -38,12 +38,28 @@ class Options : public ::testing::Test {
     return ids;
   }
 
+  /// How the selected item is drawn: style, width, colour, factor, shown.
+  std::string Drawn() {
+    const int row = window->lvwDataItems.SelectedRow();
+    if (!window->IsShown() || row == 0) return "";
+    const OptionsDraft& draft = window->Draft();
+    const bool universal = window->cboLogFamily.ListIndex() == 6;
+    const int id = std::stoi(window->lvwDataItems.At(row).tag);
+    const clsLogDataItem& item =
+        (universal ? draft.catalogue.gcolUniversalDataItems : draft.catalogue.gcolFixedDataItems)
+            .Item(id);
+    return item.strShortName + " " + std::to_string(item.lngLineStyle) + " " +
+           std::to_string(item.lngLineWidth) + " " + std::to_string(item.lngColour) + " " +
+           NumberText(item.dblSampleDisplayFactor) + (item.blnDisplay ? "" : " hidden");
+  }
+
   RecordingHost host;
   MemoryFileSystem files;
   FixedClock clock;
   ErrorLog errors{files, clock, ""};
   Messages messages{host, [](int) { return ""; }};
   std::unique_ptr<frmOptions> window;
+  Story story{host};
 };
 
 TEST_F(Options, ShowEverySettingThatNamesThemAndGiveItBack) {
@@ -89,133 +105,96 @@ TEST_F(Options, GiveBackEverySettingThatWasChangedAndNoneAfterCancel) {
 }
 
 TEST_F(Options, HoldWhatIsTypedToTheLimitsOfTheSettings) {
-  struct Row {
-    const char* actions;
-    const char* control;
-    const char* text;
-  };
-  const Row rows[] = {
-      {"type txtComPort 9", "txtComPort", "9"},
-      {"type txtComPort 10", "txtComPort", "1"},
-      {"type txtComPort x", "txtComPort", "1"},
-      {"type txtChipDate 2001-9-18", "txtChipDate", "18-Sep-2001"},
-      {"type txtChipDate 18 Sep 2001\ntype txtChipDate soon", "txtChipDate", "18-Sep-2001"},
-      {"type txtPlotFromTemp 100", "txtPlotFromTemp", "99"},
-      {"type txtPlotFromTemp -100", "txtPlotFromTemp", "-99"},
-      {"type txtPlotFromTemp 12abc", "txtPlotFromTemp", "12"},
-      {"type txtSampleWidth 49", "txtSampleWidth", "50"},
-      {"type txtSampleWidth 1001", "txtSampleWidth", "1000"},
-      {"type txtInitialPlotWidth 300001", "txtInitialPlotWidth", "300000"},
-      {"type txtDefFreq 0", "txtDefFreq", "6.66"},
-      {"type txtDefFreq 12.50", "txtDefFreq", "12.5"},
-      {"type txtmsConvFactor 100", "txtmsConvFactor", "0.44704"},
-      {"type txtmsConvFactor 99.99", "txtmsConvFactor", "99.99"},
-      {"click chkSAE\ntype txtAtmos 74", "txtAtmos", "75"},
-      {"click chkSAE\ntype txtAtmos 116", "txtAtmos", "115"},
-      {"click chkSAE\ntype txtAmbTemp 61", "txtAmbTemp", "60"},
-      {"click chkSAE\ntype txtRH 101", "txtRH", "100"},
-      {"click chkSAE\ntype txtRH -1", "txtRH", "0"},
-      {"click chkSAE\nchoose cboHumidityType Wet Bulb\ntype txtRH 21", "txtRH", "20"},
-      {"click chkSAE\nchoose cboHumidityType Wet Bulb\ntype txtRH -31", "txtRH", "-30"},
-      {"type txt3DSpec(1) 360", "txt3DSpec(1)", "359"},
-      {"type txt3DSpec(1) -1\nstep updElevation(0) down", "txt3DSpec(1)", "0"},
-      {"step updElevation(0) up\nstep updElevation(0) up", "txt3DSpec(1)", "242"},
-      {"step updRotation(0) up", "txt3DSpec(0)", "21"},
-      {"step updRotation(1) down", "txt3DSpec(2)", "19"},
-      {"step updElevation(1) down", "txt3DSpec(3)", "129"},
-      {"type txtFactor 0", "txtFactor", "0.01"},
-      {"type txtFactor 101", "txtFactor", "100"},
-  };
-  for (const Row& row : rows) {
-    frmOptions& options = Open();
-    Act(options, row.actions);
-    EXPECT_EQ(dynamic_cast<TextBox*>(ControlOf(options, row.control))->Text(), row.text)
-        << row.actions;
-  }
-  EXPECT_EQ(Boxes(), "");
-  frmOptions& options = Open();
-  options.txtComPort.Text =
-      std::string("33");  // Enter presses OK with the caret still in the field
-  options.cmdOK.Press();
-  EXPECT_EQ(options.Draft().settings.gstrSerialComPort, "1");
+  Open();
+  EXPECT_STORY(story, R"(
+type txtComPort 9 -> txtComPort=9
+type txtComPort 10 -> txtComPort=1
+type txtComPort x
+type txtChipDate 2001-9-18 -> txtChipDate=18-Sep-2001
+type txtChipDate soon
+type txtPlotFromTemp 100 -> txtPlotFromTemp=99
+type txtPlotFromTemp -100 -> txtPlotFromTemp=-99
+type txtPlotFromTemp 12abc -> txtPlotFromTemp=12
+type txtSampleWidth 49 -> txtSampleWidth=50
+type txtSampleWidth 1001 -> txtSampleWidth=1000
+type txtInitialPlotWidth 300001 -> txtInitialPlotWidth=300000
+type txtDefFreq 0
+type txtDefFreq 12.50 -> txtDefFreq=12.5
+type txtmsConvFactor 100
+type txtmsConvFactor 99.99 -> txtmsConvFactor=99.99
+click chkSAE -> chkSAE checked, lblHumidityType on, cboHumidityType on, lblAmbTemp on, txtAmbTemp on, lblAtmos on, txtAtmos on, lblRH on, txtRH on, lblCorrFactor on, txtCorrFactor on
+type txtAtmos 74
+type txtAtmos 116 -> txtAtmos=115, txtCorrFactor=0.838
+type txtAmbTemp 61 -> txtAmbTemp=60, txtCorrFactor=0.996
+type txtRH 101 -> txtRH=100, txtCorrFactor=1.119
+type txtRH -1 -> txtRH=0, txtCorrFactor=0.894
+choose cboHumidityType "Wet Bulb" -> cboHumidityType=Wet Bulb, lblRH=Wet &Bulb Temp ('C)
+# A wet bulb is never warmer than the air.
+type txtRH 61 -> txtRH=60, txtCorrFactor=1.119
+type txtRH -31 -> txtRH=-30, txtCorrFactor=0.894
+type txt3DSpec(1) 360 -> txt3DSpec(1)=359
+type txt3DSpec(1) -1 -> txt3DSpec(1)=0
+step updElevation(0) down
+step updElevation(0) up -> txt3DSpec(1)=1
+step updRotation(0) up -> txt3DSpec(0)=21
+step updRotation(1) down -> txt3DSpec(2)=19
+step updElevation(1) down -> txt3DSpec(3)=129
+type txtFactor 0 -> item=Sample 1 1 10000 0.01, txtFactor=0.01
+type txtFactor 101 -> item=Sample 1 1 10000 100, txtFactor=100
+# Enter presses OK with the caret still in the field.
+write txtComPort 33; click cmdOK -> -frmOptions, item=
+)");
+  EXPECT_EQ(window->Draft().settings.gstrSerialComPort, "1");
 }
 
 TEST_F(Options, CheckThePathsThatWereChanged) {
-  struct Row {
-    const char* index;
-    const char* text;
-    const char* after;
-    const char* boxes;
-  };
-  const Row rows[] = {
-      {"0", "/link/none.exe", "/link/none.exe", "24 "},
-      {"0", "/link/notes.txt", "/link/notes.txt", "24 "},
-      {"0", "/link/L.EXE", "/link/L.EXE", ""},
-      {"1", "/link/C.exe", "/link/C.exe", ""},
-      {"1", "/link", "/link", "24 "},
-      {"2", "/pictures/b.bmp", "/pictures/b.bmp", "15 "},
-      {"2", "/pictures/a.bmp", "/pictures/a.bmp", ""},
-      {"3", "/new", "/new/", ""},
-      {"3", "C:\\MyFolder", "C:\\MyFolder\\", "36 "},
-      {"4", "/tables/x.txt", "/tables/x.txt", "15 "},
-      {"5", "/tables/x.txt", "/tables/x.txt", "15 "},
-      {"6", "/defs/none.txt", "/defs/none.txt", "15 "},
-      {"6", "/defs/mine.txt", "/defs/mine.txt", "86 "},
-  };
-  for (const Row& row : rows) {
-    frmOptions& options = Open();
-    const std::string box = std::string("txtPath(") + row.index + ")";
-    Act(options, "type " + box + " " + row.text);
-    EXPECT_EQ(Boxes(), "") << "before OK";
-    Act(options, "click cmdOK");
-    EXPECT_EQ(Boxes(), row.boxes) << row.text;
-    EXPECT_EQ(dynamic_cast<TextBox*>(ControlOf(options, box))->Text(), row.after);
-    const bool good = std::string_view(row.boxes).empty() || std::string_view(row.boxes) == "86 ";
-    EXPECT_EQ(options.IsShown(), !good);
-    if (good) continue;
-    EXPECT_EQ(options.ActiveControl(), ControlOf(options, box));
-    EXPECT_EQ(options.tabOptions.Selected(),
-              *row.index == '2' || *row.index == '3' || *row.index == '6' ? 3 : 2);
-  }
-  frmOptions& options = Open();
-  Act(options, "type txtPath(5) /no\ntype txtPath(3) /nowhere\nclick cmdOK");
-  EXPECT_EQ(Boxes(), "36 ") << "the first of them";
-}
-
-TEST_F(Options, BrowseForAPath) {
-  frmOptions& options = Open();
-  host.answers = {{Answer::Kind::Folder, "/new"}, {Answer::Kind::File, "/link/L.EXE"}};
-  Act(options, "click cmdBrowse(3)\nclick cmdBrowse(0)");
-  EXPECT_EQ(options.cmdBrowse(6).ToolTip(), "Click to select it");
-  EXPECT_EQ(options.txtPath(3).Text(), "/new");
-  EXPECT_EQ(options.txtPath(0).Text(), "/link/L.EXE");
-  const auto& dialog = std::get<Object>(host.boxes[0].Get());
-  EXPECT_EQ(std::get<std::string>(dialog[0].second.Get()), "folder");
-  EXPECT_EQ(std::get<std::string>(dialog[1].second.Get()), "Select Default Working Directory");
+  Open();
+  EXPECT_STORY(story, R"(
+tab tabOptions General
+type txtPath(0) /link/none.exe; click cmdOK; show focus -> focus txtPath(0), [24 ok], tabOptions=FM Link ECU, txtPath(0)=/link/none.exe, fraGeneralTab hidden, fraFMLinkTab shown
+type txtPath(0) /link/notes.txt; click cmdOK -> [24 ok], txtPath(0)=/link/notes.txt
+type txtPath(0) /link/L.EXE -> txtPath(0)=/link/L.EXE
+type txtPath(1) /link; click cmdOK; show focus -> focus txtPath(1), [24 ok], txtPath(1)=/link
+type txtPath(1) /link/C.exe -> txtPath(1)=/link/C.exe
+type txtPath(2) /pictures/b.bmp; click cmdOK; show focus -> focus txtPath(2), [15 ok], tabOptions=File Locations, txtPath(2)=/pictures/b.bmp, fraFMLinkTab hidden, fraFilesTab shown
+type txtPath(2) /pictures/a.bmp -> txtPath(2)=/pictures/a.bmp
+type txtPath(3) C:\\MyFolder; click cmdOK; show focus -> focus txtPath(3), [36 ok], txtPath(3)=C:\\MyFolder\
+type txtPath(3) /new -> txtPath(3)=/new
+type txtPath(4) /tables/x.txt; click cmdOK; show focus -> focus txtPath(4), [15 ok], tabOptions=FM Link ECU, txtPath(3)=/new/, txtPath(4)=/tables/x.txt, fraFMLinkTab shown, fraFilesTab hidden
+type txtPath(4) "" -> txtPath(4)=
+type txtPath(5) /tables/x.txt; click cmdOK; show focus -> focus txtPath(5), [15 ok], txtPath(5)=/tables/x.txt
+type txtPath(5) "" -> txtPath(5)=
+type txtPath(6) /defs/none.txt; click cmdOK; show focus -> focus txtPath(6), [15 ok], tabOptions=File Locations, txtPath(6)=/defs/none.txt, fraFMLinkTab hidden, fraFilesTab shown
+# The first of them.
+type txtPath(5) /no; type txtPath(3) /nowhere; click cmdOK -> [36 ok], txtPath(3)=/nowhere/, txtPath(5)=/no
+type txtPath(5) ""; type txtPath(3) /logs -> txtPath(3)=/logs, txtPath(5)=
+type txtPath(6) /defs/mine.txt; click cmdOK -> [86 ok], -frmOptions, item=
+anew -> +frmOptions, item=Sample 1 1 10000 1
+answer folder /new; click cmdBrowse(3) -> [folder /new], txtPath(3)=/new
+answer file /link/L.EXE; click cmdBrowse(0) -> [open /link/L.EXE], txtPath(0)=/link/L.EXE
+)");
 }
 
 TEST_F(Options, LoadADefinitionIntoTheDraftAlone) {
-  frmOptions& options = Open();
-  Act(options, "type txtPath(6) /defs/bad.txt\nclick cmdLoadGeneric");
-  EXPECT_EQ(Boxes(), "74 ");
-  EXPECT_EQ(options.Draft().definition.strName, DefaultDataLogDefinition().strName);
-
-  options.Draft().catalogue.gcolUniversalDataItems.Item(3).blnDisplay = false;
-  Act(options, "type txtPath(6) /defs/mine.txt\nclick cmdLoadGeneric");
-  EXPECT_EQ(Boxes(), "86 ");
-  EXPECT_EQ(options.Draft().definition.strName, "Mine");
-  EXPECT_EQ(options.cboLogFamily.Text(), "Universal - Mine");
-  EXPECT_EQ(options.cboLogFamily.ListIndex(), 6);
-  EXPECT_EQ(options.cboFileType.Entries().back(), "Universal - Mine");
-  EXPECT_TRUE(options.Draft().catalogue.gcolUniversalDataItems.Item(3).blnDisplay);
-  EXPECT_EQ(options.Draft().catalogue.gcolUniversalDataItems.Item(3).strShortName, "Revs");
-
-  Act(options, "row lvwDataItems Revs\nchoose imgcboDataWidth Thinner\nclick cmdOK");
-  EXPECT_EQ(Boxes(), "") << "it is not read again";
-  EXPECT_EQ(options.Draft().catalogue.gcolUniversalDataItems.Item(3).lngLineWidth, 2)
-      << "and what was chosen stays";
-  EXPECT_TRUE(options.DefinitionChanged());
-  EXPECT_EQ(options.Draft().settings.gstrGenericDefinitionFile, "/defs/mine.txt");
+  Open();
+  story.PassOver("lvwDataItems");
+  story.Fact("definition", [this] { return window->Draft().definition.strName; });
+  window->Draft().catalogue.gcolUniversalDataItems.Item(3).blnDisplay = false;
+  EXPECT_STORY(story, R"(
+type txtPath(6) /defs/bad.txt; click cmdLoadGeneric -> [74 ok], txtPath(6)=/defs/bad.txt
+type txtPath(6) /defs/mine.txt; click cmdLoadGeneric -> [86 ok], definition=Mine, txtPath(6)=/defs/mine.txt, cboFileType list=[FM Link Data Logs|FM Link MAP Files|Tec-2 Data Logs|Tec-3 Data Logs|LinkPlus Data Logs|UTEC CSV Data Logs|UTEC Fixed-Width Data Logs|Universal - Mine], cboLogFamily list=[Flyin' Miata Link Full|Flyin' Miata Link Data Log|Electromotive Tec-2 Data Log|Electromotive Tec-3 Data Log|Link Plus Data Log|TurboXS UTEC Data Log|Universal - Mine], cboLogFamily=Universal - Mine
+row lvwDataItems Revs -> item=Revs 1 5 255 0.01, picDataColour colour=255, imgcboDataWidth=Fattest, picDataSample strokes[0] colour=255, picDataSample strokes[0] width=50, txtFactor=0.01
+# Reset gives what the column says.
+choose imgcboDataWidth Thinnest -> item=Revs 1 1 255 0.01, imgcboDataWidth=Thinnest, picDataSample strokes[0] width=10
+click cmdReset -> item=Revs 1 5 255 0.01, imgcboDataWidth=Fattest, picDataSample strokes[0] width=50
+choose imgcboDataWidth Thinner -> item=Revs 1 2 255 0.01, imgcboDataWidth=Thinner, picDataSample strokes[0] width=20
+# It is not read again.
+click cmdOK -> -frmOptions, item=
+)");
+  EXPECT_EQ(window->Draft().catalogue.gcolUniversalDataItems.Item(3).lngLineWidth, 2)
+      << "what was chosen stays";
+  EXPECT_TRUE(window->DefinitionChanged());
+  EXPECT_EQ(window->Draft().settings.gstrGenericDefinitionFile, "/defs/mine.txt");
 }
 
 TEST_F(Options, TakeTheBuiltInDefinitionForNone) {
@@ -236,44 +215,23 @@ TEST_F(Options, TakeTheBuiltInDefinitionForNone) {
 }
 
 TEST_F(Options, ShowAndRecordHowADataItemIsDrawn) {
-  frmOptions& options = Open();
-  EXPECT_EQ(options.cboLogFamily.ListIndex(), 0);
-  EXPECT_EQ(options.lvwDataItems.SelectedRow(), 1);
-  host.answers = {{Answer::Kind::Colour, "", 0x123456}};
-  Act(options,
-      "row lvwDataItems RPM\nchoose imgcboDataStyle Dashed\nchoose imgcboDataWidth Fattest\nclick "
-      "cmdDataColour\n"
-      "type txtFactor 0.5");
-  const clsLogDataItem& rpm = options.Draft().catalogue.gcolFixedDataItems.Item(3);
-  const auto& dialog = std::get<Object>(host.boxes[0].Get());
-  EXPECT_EQ(std::get<std::string>(dialog[0].second.Get()), "colour");
-  EXPECT_EQ(rpm.lngLineStyle, 3);
-  EXPECT_EQ(rpm.lngLineWidth, 5);
-  EXPECT_EQ(rpm.lngColour, 0x123456);
-  EXPECT_EQ(rpm.dblSampleDisplayFactor, 0.5);
-  EXPECT_EQ(options.picDataColour.BackColour(), 0x123456);
-  ASSERT_EQ(options.picDataSample.Shapes().strokes.size(), 1u);
-  EXPECT_EQ(options.picDataSample.Shapes().strokes[0].pen, (Pen{0x123456, 3, 50}));
-  EXPECT_EQ(options.picDataSample.Shapes().strokes[0].line, (Drawing::Line{150, 150, 1350, 150}));
-  EXPECT_EQ(options.picDataSample.BackColour(), 0xC0C0C0);
-  Act(options, "choose cboGraphColourScheme Black");
-  EXPECT_EQ(options.picDataSample.BackColour(), 0);
-
-  Act(options, "row lvwDataItems MAP\nrow lvwDataItems RPM");
-  EXPECT_EQ(
-      options.imgcboDataStyle.Text() + options.imgcboDataWidth.Text() + options.txtFactor.Text(),
-      "DashedFattest0.5");
-  options.Draft().catalogue.gcolFixedDataItems.Item(5).lngLineStyle = 9;
-  Act(options, "row lvwDataItems MAP");
-  EXPECT_EQ(options.imgcboDataStyle.Text(), "Dashed");
-  EXPECT_EQ(options.Draft().catalogue.gcolFixedDataItems.Item(5).lngLineStyle, 9) << "until chosen";
-  Act(options, "row lvwDataItems RPM\ntick lvwDataItems RPM off\nclick cmdReset");
-  const clsLogDataItem& fresh = options.Draft().catalogue.gcolDefaultDataItems.Item(3);
-  EXPECT_EQ(rpm.lngLineStyle, fresh.lngLineStyle);
-  EXPECT_EQ(rpm.lngLineWidth, fresh.lngLineWidth);
-  EXPECT_EQ(rpm.lngColour, fresh.lngColour);
-  EXPECT_EQ(rpm.dblSampleDisplayFactor, fresh.dblSampleDisplayFactor);
-  EXPECT_TRUE(rpm.blnDisplay);
+  Open();
+  window->Draft().catalogue.gcolFixedDataItems.Item(5).lngLineStyle = 9;
+  EXPECT_STORY(story, R"(
+show cboLogFamily lvwDataItems[1] -> cboLogFamily list=[Flyin' Miata Link Full|Flyin' Miata Link Data Log|Electromotive Tec-2 Data Log|Electromotive Tec-3 Data Log|Link Plus Data Log|TurboXS UTEC Data Log|Universal - Hydra Nemesis 2.1 (MX-5 Miata)], cboLogFamily=Flyin' Miata Link Full, lvwDataItems[1]=[Sample|Sample No.], lvwDataItems[1] checked, lvwDataItems[1] selected
+row lvwDataItems RPM -> item=RPM 1 3 4227072 0.01, lvwDataItems[1] unselected, lvwDataItems[44] selected, picDataColour colour=4227072, imgcboDataWidth=Medium, picDataSample strokes[0] colour=4227072, picDataSample strokes[0] width=30, txtFactor=0.01
+choose imgcboDataStyle Dashed -> item=RPM 3 3 4227072 0.01, imgcboDataStyle=Dashed, picDataSample strokes[0] style=3
+choose imgcboDataWidth Fattest -> item=RPM 3 5 4227072 0.01, imgcboDataWidth=Fattest, picDataSample strokes[0] width=50
+answer colour 1193046; click cmdDataColour -> [colour ok], item=RPM 3 5 1193046 0.01, picDataColour colour=1193046, picDataSample strokes[0] colour=1193046
+type txtFactor 0.5 -> item=RPM 3 5 1193046 0.5, txtFactor=0.5
+choose cboGraphColourScheme Black -> cboGraphColourScheme=Black, picDataSample colour=0
+# A style that the list lacks stays until one is chosen.
+row lvwDataItems MAP -> item=MAP 9 3 16776960 1, lvwDataItems[36] selected, lvwDataItems[44] unselected, picDataColour colour=16776960, imgcboDataWidth=Medium, picDataSample strokes[0] colour=16776960, picDataSample strokes[0] style=9, picDataSample strokes[0] width=30, txtFactor=1
+row lvwDataItems RPM -> item=RPM 3 5 1193046 0.5, lvwDataItems[36] unselected, lvwDataItems[44] selected, picDataColour colour=1193046, imgcboDataWidth=Fattest, picDataSample strokes[0] colour=1193046, picDataSample strokes[0] style=3, picDataSample strokes[0] width=50, txtFactor=0.5
+tick lvwDataItems RPM off -> item=RPM 3 5 1193046 0.5 hidden, lvwDataItems[44] unchecked
+click cmdReset -> item=RPM 1 3 4227072 0.01, lvwDataItems[44] checked, picDataColour colour=4227072, imgcboDataStyle=Solid, imgcboDataWidth=Medium, picDataSample strokes[0] colour=4227072, picDataSample strokes[0] style=1, picDataSample strokes[0] width=30, txtFactor=0.01
+)");
+  EXPECT_EQ(window->picDataSample.Shapes().strokes[0].line, (Drawing::Line{150, 150, 1350, 150}));
 }
 
 TEST_F(Options, CheckAndUncheckTheItemsOfAFamily) {
@@ -302,97 +260,68 @@ TEST_F(Options, CheckAndUncheckTheItemsOfAFamily) {
   EXPECT_TRUE(items.Item(5).blnDisplay);
 }
 
-TEST_F(Options, ResetAUniversalItemToWhatItsColumnSays) {
-  frmOptions& options = Open();
-  Act(options, "type txtPath(6) /defs/mine.txt\nclick cmdLoadGeneric");
-  Act(options, "row lvwDataItems Revs\nchoose imgcboDataWidth Thinnest\nclick cmdReset");
-  const clsLogDataItem& revs = options.Draft().catalogue.gcolUniversalDataItems.Item(3);
-  EXPECT_EQ(revs.lngLineWidth, 5);
-  EXPECT_EQ(revs.lngColour, 255);
-  EXPECT_EQ(revs.lngLineStyle, options.Draft().catalogue.gcolDefaultDataItems.Item(3).lngLineStyle);
-}
-
 TEST_F(Options, LetTheFieldsOfThePowerGraphFollow) {
-  frmOptions& options = Open();
-  EXPECT_TRUE(options.cboSpeedUnits.Enabled && options.txtmsConvFactor.Enabled);
-  EXPECT_FALSE(options.cboHumidityType.Enabled || options.txtAmbTemp.Enabled ||
-               options.txtAtmos.Enabled || options.txtRH.Enabled || options.txtCorrFactor.Enabled);
-  EXPECT_EQ(options.lblRH.Caption(), "Relati&ve Humidity (%)");
-  Act(options, "choose cboSpeedUnits KPH");
-  EXPECT_EQ(options.txtmsConvFactor.Text(), "0.27778");
-  Act(options, "choose cboSpeedUnits Other");
-  EXPECT_EQ(options.txtmsConvFactor.Text(), "0.27778");
-  Act(options, "choose cboSpeedUnits MPH\nclick chkPowerGraphGearSelection\nclick chkSAE");
-  EXPECT_EQ(options.txtmsConvFactor.Text(), "0.44704");
-  EXPECT_FALSE(options.cboSpeedUnits.Enabled || options.txtmsConvFactor.Enabled);
-  EXPECT_TRUE(options.cboHumidityType.Enabled && options.txtAmbTemp.Enabled &&
-              options.txtAtmos.Enabled && options.txtRH.Enabled && options.txtCorrFactor.Enabled);
-  Act(options, "type txtAmbTemp 25\ntype txtAtmos 100");
-  EXPECT_EQ(options.txtCorrFactor.Text(), "1.007");
-  Act(options, "type txtRH 0\ntype txtAtmos 99");
-  EXPECT_EQ(options.txtCorrFactor.Text(), "1.000");
-  Act(options, "choose cboHumidityType Wet Bulb");
-  EXPECT_EQ(options.lblRH.Caption(), "Wet &Bulb Temp ('C)");
-  EXPECT_EQ(options.txtRH.ToolTip(),
-            "Default environmental wet bulb temperature during Power Runs");
-
   Settings own;
   own.gdblGearSpeedConvFactor = 0.5;
   own.gintGearSpeedUnits = 1;
-  EXPECT_EQ(Open(own).txtmsConvFactor.Text(), "0.5") << "what was kept stands";
+  Open(own);
+  EXPECT_STORY(story, R"(
+# What was kept stands.
+show txtmsConvFactor -> txtmsConvFactor=0.5
+anew -> txtmsConvFactor=0.44704
+show cboHumidityType txtAmbTemp txtAtmos txtRH txtCorrFactor lblRH -> cboHumidityType off, cboHumidityType list=[Rel. Humidity|Wet Bulb], cboHumidityType=Rel. Humidity, txtAmbTemp off, txtAmbTemp=20, txtAtmos off, txtAtmos=75, txtRH off, txtRH=50, txtCorrFactor off, txtCorrFactor=1.389, lblRH off, lblRH=Relati&ve Humidity (%)
+choose cboSpeedUnits KPH -> cboSpeedUnits=KPH, txtmsConvFactor=0.27778
+choose cboSpeedUnits Other -> cboSpeedUnits=Other
+choose cboSpeedUnits MPH -> cboSpeedUnits=MPH, txtmsConvFactor=0.44704
+click chkPowerGraphGearSelection -> chkPowerGraphGearSelection unchecked, lblSpeedUnits off, cboSpeedUnits off, lblmsConvFactor off, txtmsConvFactor off
+click chkSAE -> chkSAE checked, lblHumidityType on, cboHumidityType on, lblAmbTemp on, txtAmbTemp on, lblAtmos on, txtAtmos on, lblRH on, txtRH on, lblCorrFactor on, txtCorrFactor on
+type txtAmbTemp 25 -> txtAmbTemp=25, txtCorrFactor=1.411
+type txtAtmos 100 -> txtAtmos=100, txtCorrFactor=1.007
+type txtRH 0 -> txtRH=0, txtCorrFactor=0.988
+type txtAtmos 99 -> txtAtmos=99, txtCorrFactor=1.000
+choose cboHumidityType "Wet Bulb" -> cboHumidityType=Wet Bulb, lblRH=Wet &Bulb Temp ('C)
+)");
+  EXPECT_EQ(window->txtRH.ToolTip(),
+            "Default environmental wet bulb temperature during Power Runs");
 }
 
 TEST_F(Options, FindASettingByCaptionKeyOrToolTip) {
-  struct Row {
-    const char* text;
-    int page;
-    const char* control;
-  };
-  const Row rows[] = {
-      {"colour scheme", 1, "cboGraphColourScheme"},
-      {"Show Point Sample", 1, "txtSampleWidth"},
-      {"retain", 2, "chkRetainBIN"},
-      {"Log EXE", 2, "txtPath(0)"},
-      {"default benchmark", 1, ""},
-      {"working", 3, "txtPath(3)"},
-      {"o2 input", 2, "txtPath(5)"},
-      {"fuel graph rotation", 2, "txt3DSpec(0)"},
-      {"elevation in degrees", 2, "txt3DSpec(1)"},
-      {"uncheck", 4, "cmdUnCheckAll"},
-      {"verify", 2, "chkUploadDefs(1)"},
-      {"wet bulb", 1, ""},
-      {"", 1, ""},
-      {"line style", 4, "imgcboDataStyle"},
-      {"Generic Data", 3, "txtPath(6)"},
-  };
-  for (const Row& row : rows) {
+  std::string found = "\n";
+  for (const char* text :
+       {"colour scheme", "Show Point Sample", "retain", "Log EXE", "default benchmark", "working",
+        "o2 input", "fuel graph rotation", "elevation in degrees", "uncheck", "verify", "wet bulb",
+        "", "line style", "Generic Data"}) {
     frmOptions& options = Open();
-    Act(options, std::string("type txtFind ") + row.text);
-    EXPECT_EQ(options.tabOptions.Selected(), row.page) << row.text;
-    EXPECT_EQ(options.ActiveControl() ? options.ActiveControl()->FullName() : "", row.control)
-        << row.text;
+    options.txtFind.Do({"type", {text}});
+    found += std::string(text) + ": " + std::to_string(options.tabOptions.Selected()) + " " +
+             (options.ActiveControl() ? options.ActiveControl()->FullName() : "") + "\n";
   }
-  frmOptions& options = Open();
-  options.txtFind.SetFocus();
-  options.txtFind.Text = std::string("com port");
-  EXPECT_EQ(options.tabOptions.Selected(), 2);
-  EXPECT_EQ(options.ActiveControl(), &options.txtFind) << "while the user types";
-  options.Press({"Enter"});
-  EXPECT_EQ(options.ActiveControl(), &options.txtComPort);
-  EXPECT_TRUE(options.IsShown());
-}
-
-TEST_F(Options, OpenTheManualAtTheirPage) {
-  frmOptions& options = Open();
-  const std::pair<int, const char*> kPages[] = {{1, "OptionsGeneralTab"},
-                                                {2, "OptionsFMLinkECUTab"},
-                                                {3, "OptionsFileLocationsTab"},
-                                                {4, "OptionsDataItemDefinitionsTab"}};
-  for (const auto& [page, topic] : kPages) {
-    options.tabOptions.Select(page);
-    options.KeyGoesUp({"F1"});
-    EXPECT_EQ(host.helpTopics.back(), topic);
-  }
+  ExpectTold(found, R"(
+colour scheme: 1 cboGraphColourScheme
+Show Point Sample: 1 txtSampleWidth
+retain: 2 chkRetainBIN
+Log EXE: 2 txtPath(0)
+default benchmark: 1 
+working: 3 txtPath(3)
+o2 input: 2 txtPath(5)
+fuel graph rotation: 2 txt3DSpec(0)
+elevation in degrees: 2 txt3DSpec(1)
+uncheck: 4 cmdUnCheckAll
+verify: 2 chkUploadDefs(1)
+wet bulb: 1 
+: 1 
+line style: 4 imgcboDataStyle
+Generic Data: 3 txtPath(6)
+)");
+  Open();
+  EXPECT_STORY(story, R"(
+# While the user types, the caret stays.
+write txtFind "com port"; show focus -> focus txtFind, txtFind=com port, tabOptions=FM Link ECU, fraGeneralTab hidden, fraFMLinkTab shown
+key Enter; show focus; key F1 -> focus txtComPort, help=OptionsFMLinkECUTab
+tab tabOptions "File Locations"; key F1 -> help=OptionsFMLinkECUTab OptionsFileLocationsTab, tabOptions=File Locations, fraFMLinkTab hidden, fraFilesTab shown
+tab tabOptions "Data Item Definitions"; key F1 -> help=OptionsFMLinkECUTab OptionsFileLocationsTab OptionsDataItemDefinitionsTab, tabOptions=Data Item Definitions, fraFilesTab hidden, fraDataItemsTab shown
+tab tabOptions General; key F1 -> help=OptionsFMLinkECUTab OptionsFileLocationsTab OptionsDataItemDefinitionsTab OptionsGeneralTab, tabOptions=General, fraGeneralTab shown, fraDataItemsTab hidden
+)");
 }
 
 }  // namespace
