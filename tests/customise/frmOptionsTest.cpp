@@ -170,8 +170,8 @@ type txtPath(5) /no; type txtPath(3) /nowhere; click cmdOK -> [36 ok], txtPath(3
 type txtPath(5) ""; type txtPath(3) /logs -> txtPath(3)=/logs, txtPath(5)=
 type txtPath(6) /defs/mine.txt; click cmdOK -> [86 ok], -frmOptions, item=
 anew -> +frmOptions, item=Sample 1 1 10000 1
-answer folder /new; click cmdBrowse(3) -> [folder /new], txtPath(3)=/new
-answer file /link/L.EXE; click cmdBrowse(0) -> [open /link/L.EXE], txtPath(0)=/link/L.EXE
+answer folder /new; click cmdBrowse(3) -> [folder "Select Default Working Directory" /new], txtPath(3)=/new
+answer file /link/L.EXE; click cmdBrowse(0) -> [open "Open" /link/L.EXE], txtPath(0)=/link/L.EXE
 )");
 }
 
@@ -222,7 +222,7 @@ show cboLogFamily lvwDataItems[1] -> cboLogFamily list=[Flyin' Miata Link Full|F
 row lvwDataItems RPM -> item=RPM 1 3 4227072 0.01, lvwDataItems[1] unselected, lvwDataItems[44] selected, picDataColour colour=4227072, imgcboDataWidth=Medium, picDataSample strokes[0] colour=4227072, picDataSample strokes[0] width=30, txtFactor=0.01
 choose imgcboDataStyle Dashed -> item=RPM 3 3 4227072 0.01, imgcboDataStyle=Dashed, picDataSample strokes[0] style=3
 choose imgcboDataWidth Fattest -> item=RPM 3 5 4227072 0.01, imgcboDataWidth=Fattest, picDataSample strokes[0] width=50
-answer colour 1193046; click cmdDataColour -> [colour ok], item=RPM 3 5 1193046 0.01, picDataColour colour=1193046, picDataSample strokes[0] colour=1193046
+answer colour 1193046; click cmdDataColour -> [colour "Data Item Colour" ok], item=RPM 3 5 1193046 0.01, picDataColour colour=1193046, picDataSample strokes[0] colour=1193046
 type txtFactor 0.5 -> item=RPM 3 5 1193046 0.5, txtFactor=0.5
 choose cboGraphColourScheme Black -> cboGraphColourScheme=Black, picDataSample colour=0
 # A style that the list lacks stays until one is chosen.
@@ -315,6 +315,7 @@ Generic Data: 3 txtPath(6)
 )");
   Open();
   EXPECT_STORY(story, R"(
+show chkUploadDefs(0) -> chkUploadDefs(0)=Permanently Store, chkUploadDefs(0) checked
 # While the user types, the caret stays.
 write txtFind "com port"; show focus -> focus txtFind, txtFind=com port, tabOptions=FM Link ECU, fraGeneralTab hidden, fraFMLinkTab shown
 key Enter; show focus; key F1 -> focus txtComPort, help=OptionsFMLinkECUTab

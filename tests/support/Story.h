@@ -200,13 +200,13 @@ class Story {
                std::string(value == "true" ? word.yes : word.no);
     return name + "=" + OneLine(value);
   }
-  /// "[53 ok]", "[open log.txt]"; the text where a box has no number.
+  /// "[53 ok]", "[open "Open" /log.txt]"; the text where a box has no number.
   static std::string ToldBox(const Value& box) {
     std::map<std::string, std::string> facts;
     for (const auto& [name, value] : std::get<Object>(box.Get()))
       facts[name] = WindowFacts::Text(value);
-    std::string what = facts["dialog"];
-    if (what.empty()) what = facts["id"] == "0" ? facts["text"] : facts["id"];
+    std::string what = facts["dialog"] + " \"" + facts["title"] + "\"";
+    if (facts["dialog"].empty()) what = facts["id"] == "0" ? facts["text"] : facts["id"];
     return "[" + OneLine(what) + " " + facts["reply"] + "]";
   }
   static std::string OneLine(const std::string& text) {
