@@ -1,10 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "customise/frmLineFrequency.h"
 #include "customise/frmLogDescription.h"
 #include "model/Catalogue.h"
+#include "support/Story.h"
 #include "support/WindowActions.h"
-#include "ui/RecordingHost.h"
 #include "universal/BuiltInTitles.h"
 #include "universal/DefinitionWriter.h"
 
@@ -49,6 +47,7 @@ class LogDescription : public ::testing::Test {
   }
 
   RecordingHost host;
+  Story story{host};
   const Catalogue catalogue = BuildDataItemCatalogue();
   const TitleDictionary titles{BuiltInTitles()};
 };
@@ -142,12 +141,13 @@ TEST_F(LogDescription, OfRubbishCannotBeAccepted) {
 TEST_F(LogDescription, ALineFrequencyIsHeldToItsLimits) {
   frmLineFrequency window(host, 12.5);
   window.Show();
-  EXPECT_EQ(window.txtLineFrequency.Text(), "12.5");
-  for (const auto& [typed, held] : {std::pair{"0", "0.01"}, {"100001", "100000"}, {"20", "20"}}) {
-    Act(window, std::string("type txtLineFrequency ") + typed);
-    EXPECT_EQ(window.txtLineFrequency.Text(), held);
-  }
-  window.Press({"Enter"});
+  EXPECT_STORY(story, R"(
+show txtLineFrequency -> txtLineFrequency=12.5
+type txtLineFrequency 0 -> txtLineFrequency=0.01
+type txtLineFrequency 100001 -> txtLineFrequency=100000
+type txtLineFrequency 20 -> txtLineFrequency=20
+key F1; key Enter -> -frmLineFrequency, help=AnyLog
+)");
   EXPECT_TRUE(window.Accepted());
   EXPECT_EQ(window.LinesASecond(), 20);
 }
