@@ -171,7 +171,8 @@ type txtPath(5) ""; type txtPath(3) /logs -> txtPath(3)=/logs, txtPath(5)=
 type txtPath(6) /defs/mine.txt; click cmdOK -> [86 ok], -frmOptions, item=
 anew -> +frmOptions, item=Sample 1 1 10000 1
 answer folder /new; click cmdBrowse(3) -> [folder "Select Default Working Directory" /new], txtPath(3)=/new
-answer file /link/L.EXE; click cmdBrowse(0) -> [open "Open" /link/L.EXE], txtPath(0)=/link/L.EXE
+answer file /pictures/a.bmp; click cmdBrowse(2) -> [open "Open" of Pictures (*.bmp;*.jpg;*.png) /pictures/a.bmp], txtPath(2)=/pictures/a.bmp
+answer file /link/L.EXE; click cmdBrowse(0) -> [open "Open" of Programs (*.exe) /link/L.EXE], txtPath(0)=/link/L.EXE
 )");
 }
 
@@ -315,7 +316,7 @@ Generic Data: 3 txtPath(6)
 )");
   Open();
   EXPECT_STORY(story, R"(
-show chkUploadDefs(0) -> chkUploadDefs(0)=Permanently Store, chkUploadDefs(0) checked
+show chkUploadDefs(0); tips -> chkUploadDefs(0)=Permanently Store, chkUploadDefs(0) checked, txtFind: Type a word of a setting, and Enter goes to it, txtPath(0): Path and file name of the program that captures logs from the ECU and uploads to it, txtPath(1): Path and file name of the program that turns binary logs into text, txtPath(2): Path and file name of the picture behind an empty graph, txtPath(3): Folder in which logs are looked for and created, txtPath(4): Path and file name of the conversion table of the Aux input; empty for the built-in one, txtPath(5): Path and file name of the conversion table of the O2 input; empty for the built-in one, txtPath(6): Path and file name of the definition of Universal logs; empty for the built-in one, cmdBrowse(0): Click to select it, cmdBrowse(1): Click to select it, cmdBrowse(2): Click to select it, cmdBrowse(3): Click to select it, cmdBrowse(4): Click to select it, cmdBrowse(5): Click to select it, cmdBrowse(6): Click to select it, txtRH: Default environmental relative humidity during Power Runs, chkUploadDefs(0): Check to save the uploaded settings into the Link permanently, chkUploadDefs(1): Check to verify settings reached the ECU after upload, chkUploadDefs(2): Check to only upload the changed zones to the ECU, chkUploadDefs(3): Check to show more information during the upload at the expense of upload time, txt3DSpec(0): Initial fuel graph rotation in degrees, txt3DSpec(1): Initial fuel graph elevation in degrees, txt3DSpec(2): Initial ignition graph rotation in degrees, txt3DSpec(3): Initial ignition graph elevation in degrees, cmdLoadGeneric: Load the definition now, to see its data items, picDataSample: How the data item is drawn
 # While the user types, the caret stays.
 write txtFind "com port"; show focus -> focus txtFind, txtFind=com port, tabOptions=FM Link ECU, fraGeneralTab hidden, fraFMLinkTab shown
 key Enter; show focus; key F1 -> focus txtComPort, help=OptionsFMLinkECUTab

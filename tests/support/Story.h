@@ -18,8 +18,8 @@ namespace tarnview {
 ///     type txtWeight 80; click cmdDraw -> staFoot[1]=Done, cmdSave on
 ///
 /// Steps are those of a script (ui/ScriptUser), "show NAME..." (what a control holds, changed or
-/// not), "write NAME TEXT" (as type, but the field is not left), and verbs of the test's own. While
-/// a modal window is open the lines go on in it.
+/// not), "tips" (what its tool tips say), "write NAME TEXT" (as type, but the field is not left),
+/// and verbs of the test's own. While a modal window is open the lines go on in it.
 class Story {
  public:
   explicit Story(RecordingHost& host) : host_(host), user_(host) {
@@ -79,6 +79,8 @@ class Story {
     if (const auto own = verbs_.find(words[0]); own != verbs_.end()) return own->second(rest);
     if (words[0] == "show") return Show(rest);
     if (words[0] == "write") return Write(rest);
+    if (words[0] == "key") return Press(rest);
+    if (words[0] == "tips") return ShowToolTips();
     host_.events.Run("Story", words[0], [&] {
       if (!user_.Do(words)) user_.Work(words);
     });
@@ -88,6 +90,19 @@ class Story {
     Control& field = user_.FindControl(WordAt(words, 0));
     field.SetFocus();
     dynamic_cast<TextBox&>(field).Text = WordAt(words, 1);
+  }
+  /// A key; told where nothing takes it.
+  void Press(const Words& words) {
+    const auto key = ParseKeys(WordAt(words, 0));
+    if (!key) throw CannotDo("no key " + words[0]);
+    bool taken = false;
+    host_.events.Run("Story", words[0], [&] { taken = user_.Active().Press(*key); });
+    if (!taken) shown_.push_back("not taken");
+  }
+  void ShowToolTips() {
+    for (const Control* control : user_.Active().Controls())
+      if (!control->ToolTip().empty())
+        shown_.push_back(control->FullName() + ": " + OneLine(control->ToolTip()));
   }
   /// Facts of the front window whose names begin so: "txtName", "lvwTags[2]", "focus".
   void Show(const Words& names) {
@@ -200,12 +215,14 @@ class Story {
                std::string(value == "true" ? word.yes : word.no);
     return name + "=" + OneLine(value);
   }
-  /// "[53 ok]", "[open "Open" /log.txt]"; the text where a box has no number.
+  /// "[53 ok]", "[open "Open" of Logs (*.txt) /log.txt]"; the text where a box has no number.
   static std::string ToldBox(const Value& box) {
     std::map<std::string, std::string> facts;
     for (const auto& [name, value] : std::get<Object>(box.Get()))
       facts[name] = WindowFacts::Text(value);
+    const std::string filter = facts["filter"].substr(0, facts["filter"].find('|'));
     std::string what = facts["dialog"] + " \"" + facts["title"] + "\"";
+    if (!filter.empty()) what += " of " + filter;
     if (facts["dialog"].empty()) what = facts["id"] == "0" ? facts["text"] : facts["id"];
     return "[" + OneLine(what) + " " + facts["reply"] + "]";
   }

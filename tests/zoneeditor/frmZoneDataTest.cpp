@@ -203,6 +203,8 @@ TEST_F(frmZoneDataTest, CopyAndDetailsOfTheComparison) {
   OpenMap();
   EXPECT_STORY(story, R"(
 click cmdCopyBenchmark -> +frmCopyBench
+click cmdCancel -> -frmCopyBench
+click cmdCopyBenchmark -> +frmCopyBench
 click chkOptions(2); click chkOptions(9); click cmdOK -> -frmCopyBench, step=Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 z800=16 z855=200, chkMisc(4) unchecked, txtTrim=45.00, txtZone(8)=10000, txtZone(18)=200, txtZone(19)=200, txtZone(20)=200, txtZone(251)=200, txtZone(13)=200, txtZone(21)=180, lblStatus=Copy Idle, Ignition from Track
 click cmdDetails -> +frmZoneData.2
 show caption fraData(0) cmdCancel txtZone(6) txtAtmos cboBenchmark cmdOK fraNotesTab tabZoneData2 grdData(0)[1][1] -> caption=Tarnview Zone Data - Track (benchmark), fraData(0)=This Benchmark, cmdCancel=&Close, txtZone(6) off, txtZone(6)=200, txtAtmos off, txtAtmos=88, cboBenchmark hidden, cboBenchmark list=[], cboBenchmark=, cmdOK hidden, cmdOK=&OK, fraNotesTab hidden, fraNotesTab=, tabZoneData2 list=[General|Fuel|Ignition], tabZoneData2=General, grdData(0)[1][1]=200
@@ -222,6 +224,13 @@ TEST_F(frmZoneDataTest, TheLogsOwnSetsComeFirst) {
   EXPECT_STORY(story, R"(
 show cboBenchmark fraData(0) grdData(2)[1][1] -> cboBenchmark list=[Lambda/Knock Zone Changes|Original Zone Settings|Street|Track], cboBenchmark=Lambda/Knock Zone Changes, fraData(0)=This Datalog, grdData(2)[1][1]=10
 choose cboBenchmark "Original Zone Settings"; show grdData(2)[1][1] -> grdData(2)[1][1]=20, cboBenchmark=Original Zone Settings, grdData(1)[1][1] to [6][16]=120, grdData(2)[1][1] to [6][16]=20, grdData(4)[1][1] to [6][16]=120, grdData(5)[1][1] to [6][16]=20
+choose cboBenchmark Street; show grdData(2)[1][1] -> grdData(2)[1][1]=-10, grdData(2)[1][1] colour=255, cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
+show grdData(8)[2][1] -> grdData(8)[2][1]=12.00, grdData(8)[2][1] back_colour=14737632, grdData(8)[2][1] locked=true
+)");
+  parameters.comparison.reset();
+  Open(parameters);
+  EXPECT_STORY(story, R"(
+show fraData(0) -> fraData(0)=This Benchmark
 )");
 }
 

@@ -24,7 +24,7 @@ ZoneMap Sample() {
     map.zones[static_cast<std::size_t>(zone)] = static_cast<std::int16_t>(zone);
   map.zones[1] = -1;
   map.zones[255] = -7;
-  map.chip = {1.6, MakeDate(2001, 3, 2), 2};
+  map.chip = {1.8, MakeDate(2001, 3, 2), 2};
   map.intAtmosphericPressure = 85;
   map.strNotes = "Street,\r\nsummer";
   return map;
@@ -88,7 +88,7 @@ TEST(MapFile, WritesAndReadsBack) {
  224 225 226 227 228 229 230 231 232 233 234 235 236 237 238 239
  240 241 242 243 244 245 246 247 248 249 250 251 252 253 254  -1
 
- Engine Size: 1.6
+ Engine Size: 1.8
  Chip Date: 2001-03-02
  Chip Version: 2
  Atmospheric Pressure: 085
@@ -105,7 +105,7 @@ summer
   expected.zones[255] = -1;
   const MapReading reading = ParseMap(bytes, Own(), false);
   EXPECT_EQ(reading.map, expected);
-  EXPECT_EQ(Told(reading), "1.6 2001-03-02 v2 85 kPa 'Street,\r\nsummer'");
+  EXPECT_EQ(Told(reading), "1.8 2001-03-02 v2 85 kPa 'Street,\r\nsummer'");
 }
 
 TEST(MapFile, LastLineOfZonesByDateAndTheNotesOfNone) {
@@ -113,7 +113,7 @@ TEST(MapFile, LastLineOfZonesByDateAndTheNotesOfNone) {
   map.chip.datChipDate = MakeDate(2001, 3, 1);
   map.strNotes.clear();
   const std::string text = Written(map);
-  EXPECT_NE(text.find(" 239\n\n Engine Size: 1.6\n Chip Date: 2001-03-01\n"), std::string::npos);
+  EXPECT_NE(text.find(" 239\n\n Engine Size: 1.8\n Chip Date: 2001-03-01\n"), std::string::npos);
   EXPECT_TRUE(text.ends_with(" Notes:\n\n End Of Notes\n"));
   const MapReading reading = ParseMap(text, Own(), false);
   EXPECT_EQ(reading.map.zones[239], 239);

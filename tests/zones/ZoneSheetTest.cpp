@@ -108,6 +108,8 @@ EGR that a chip lacks is lost, 1.6 2001-03-11 2, 0a, 0 -> NB, Off, 2, 0
 bit 6 of a chip without a box for it, 1.8 2002-06-10 2, 42, 0 -> NB, Off, 42, 0
 bit 6 as quad injection, 1.6 2001-03-11 2, 42, 0 -> NB, Off, 42, 0
 wide band of the first chips beside EGR, 1.8 2003-03-15 1, 19, 0 -> WB, Lambda, 11, 0
+mixture fuel on its last day, 1.8 2002-06-09 2, 12, 0 -> NB, Off, 12, 0
+a sensor in its place, 1.8 2002-06-10 2, 12, 0 -> WB, Off, 12, 0
 the day that L3 came, 1.6 2000-06-21 1, 01, 0 -> NB, Lambda, 1, 0
 the day before, 1.6 2000-06-20 1, 01, 0 -> NB, Lambda, 81, 0
 L3 alone, 1.8 2004-05-08 3, 81, 4 -> NB, L3, 81, 4
