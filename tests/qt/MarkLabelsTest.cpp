@@ -20,14 +20,14 @@ class MarkLabelsTest : public testing::Test {
   /// The smallest rectangle that holds all that the marks change, in per cent of the graph from
   /// its left and lower edge.
   QRect Ink(std::vector<ChartMark> marks, bool pointed = false) {
-    ChartDescription description = Empty();
     chart.SetDescription(description);
     const QImage plain = chart.toPixmap(600, 400).toImage();
     if (pointed) {
       chart.ShowLabels(std::move(marks));
     } else {
-      description.marks = std::move(marks);
-      chart.SetDescription(description);
+      ChartDescription withMarks = description;
+      withMarks.marks = std::move(marks);
+      chart.SetDescription(withMarks);
     }
     const QImage marked = chart.toPixmap(600, 400).toImage();
     QRect ink;
@@ -43,6 +43,7 @@ class MarkLabelsTest : public testing::Test {
   }
 
   QApplication& application = TestApplication();
+  ChartDescription description = Empty();
   ChartWidget chart;
 };
 
@@ -56,6 +57,13 @@ TEST_F(MarkLabelsTest, ATextStandsAboveItsRingOrWhereThereIsRoom) {
   const QRect two = Ink({{50, 50, "12.3", 255}, {50, 50, "45.6", 255}});
   EXPECT_LT(two.top(), ring.top()) << "one above, one below";
   EXPECT_EQ(two.bottom(), text.bottom());
+}
+
+TEST_F(MarkLabelsTest, ATextThatStaysKeepsOffTheCurves) {
+  const std::vector<ChartMark> peak{{50, 97, "393.5 hp", 255, false}};
+  description.kind = Curves{{{1, "Power", {0, 40, 50, 50.5}, {80, 96, 97, 0}, {}}}};
+  EXPECT_TRUE(Ink(peak).left() > 50 && Ink(peak).bottom() > 90) << "beside a peak at the top edge";
+  EXPECT_LT(Ink({{20, 40, "393.5 hp", 255, false}}).left(), 20) << "above, where no curve is";
 }
 
 TEST_F(MarkLabelsTest, AtThePointerATextStandsToTheRightOrTurnsLeft) {

@@ -40,17 +40,28 @@ void CurveLine::draw(QCPPainter* painter) {
   const bool vectors = painter->modes().testFlag(QCPPainter::pmVectorized);
   if (!vectors && static_cast<double>(line_.x.size()) > kDense * clipRect().width())
     painter->setAntialiasing(false);
-  QPolygonF run;
+  for (const QPolygonF& run : Runs()) DrawRun(*painter, run);
+}
+
+std::vector<QPolygonF> CurveLine::Runs() const {
+  std::vector<QPolygonF> runs(1);
   for (std::size_t i = 0; i < line_.x.size(); ++i) {
     // A value that is not there leaves a gap.
-    if (std::isfinite(line_.x[i]) && std::isfinite(line_.y[i])) {
-      run << ToPixels(i);
-      continue;
-    }
-    DrawRun(*painter, run);
-    run.clear();
+    if (std::isfinite(line_.x[i]) && std::isfinite(line_.y[i]))
+      runs.back() << ToPixels(i);
+    else if (!runs.back().isEmpty())
+      runs.emplace_back();
   }
-  DrawRun(*painter, run);
+  return runs;
+}
+
+double CurveLine::LengthWithin(const QRectF& rect) const {
+  double length = 0;
+  for (const QPolygonF& run : Runs())
+    for (const QPolygonF& part : ClipLine(run, rect))
+      for (qsizetype i = 0; i + 1 < part.size(); ++i)
+        length += QLineF(part[i], part[i + 1]).length();
+  return length;
 }
 
 void CurveLine::DrawRun(QCPPainter& painter, const QPolygonF& run) const {

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
+#include <optional>
 
 #include "qt/Text.h"
+#include "qt/chart/CurveLine.h"
 
 namespace tarnview {
 namespace {
@@ -34,6 +37,15 @@ QPointF MarkLabels::PixelOf(const ChartMark& mark) const {
   return {mParentPlot->xAxis->coordToPixel(mark.x), mParentPlot->yAxis->coordToPixel(mark.y)};
 }
 
+double MarkLabels::CurvesUnder(const QRectF& room) const {
+  double pixels = 0;
+  if (beside_ == Beside::Right) return pixels;
+  for (int i = 0; i < mParentPlot->plottableCount(); ++i)
+    if (const auto* curve = dynamic_cast<const CurveLine*>(mParentPlot->plottable(i)))
+      pixels += curve->LengthWithin(room);
+  return pixels;
+}
+
 QRectF MarkLabels::RoomOf(const ChartMark& mark, const std::vector<QRectF>& taken) const {
   const QFontMetricsF metrics(font_);
   const double width = metrics.horizontalAdvance(ToQt(mark.text)) + metrics.height() / 2;
@@ -45,13 +57,22 @@ QRectF MarkLabels::RoomOf(const ChartMark& mark, const std::vector<QRectF>& take
   const QRectF right(at.x() + gap, at.y() - height / 2, width, height);
   const QRectF left(at.x() - gap - width, at.y() - height / 2, width, height);
   const QRectF lifted = right.translated(0, -height), lowered = right.translated(0, height);
-  using Places = std::array<QRectF, 6>;
-  const Places places = beside_ == Beside::Above
-                            ? Places{above, below, right, left, lifted, lowered}
-                            : Places{right, left, lifted, lowered, above, below};
+  const QRectF liftedLeft = left.translated(0, -height), loweredLeft = left.translated(0, height);
+  using Places = std::array<QRectF, 8>;
+  const Places places =
+      beside_ == Beside::Above
+          ? Places{above, below, right, left, lifted, liftedLeft, lowered, loweredLeft}
+          : Places{right, left, lifted, lowered, above, below, liftedLeft, loweredLeft};
   const QRectF plot = mParentPlot->axisRect()->rect();
-  for (const QRectF& place : places)
-    if (plot.contains(place) && IsFree(place, taken)) return place;
+  std::optional<QRectF> best;
+  double least = std::numeric_limits<double>::infinity();
+  for (const QRectF& place : places) {
+    if (!plot.contains(place) || !IsFree(place, taken)) continue;
+    const double covered = CurvesUnder(place);
+    if (covered < least) best = place;
+    least = std::min(least, covered);
+  }
+  if (best) return *best;
   for (const QRectF& place : places)
     if (const QRectF moved = Within(place, plot); IsFree(moved, taken)) return moved;
   return Within(places[0], plot);

@@ -10,7 +10,7 @@
 namespace tarnview {
 
 /// Marks over the curves of a chart: a ring at each point and its text beside it, where no earlier
-/// text stands.
+/// text stands; a text that stays also keeps off the curves.
 class MarkLabels : public QCPLayerable {
  public:
   /// Where a text stands if there is room.
@@ -30,7 +30,11 @@ class MarkLabels : public QCPLayerable {
  private:
   double RingSize() const { return QFontMetricsF(font_).height() / 2; }
   QPointF PixelOf(const ChartMark& mark) const;
-  /// The room of a text: in the graph, and free of `taken` where any of its places is.
+  /// Pixels of curves that a text would cover. At the pointer it may cover any: it would jump about
+  /// otherwise.
+  double CurvesUnder(const QRectF& room) const;
+  /// The room of a text: in the graph, and free of `taken` where any of its places is; of those the
+  /// one that covers the least of the curves.
   QRectF RoomOf(const ChartMark& mark, const std::vector<QRectF>& taken) const;
   void DrawText(QCPPainter& painter, const ChartMark& mark, const QRectF& room) const;
 
