@@ -117,8 +117,8 @@ ChartAxis PowerAxis(double highest) {
   if (highest <= 500) step = 50;
   if (highest <= 300) step = 20;
   const double divisions = std::floor(std::max(highest, 0.0) / step) + 1;
-  // Of a benchmark that nobody measured the divisions would be too many to count.
-  constexpr double kMostDivisions = 1000;
+  // Of a benchmark that nobody measured the divisions would be too many for an int.
+  constexpr double kMostDivisions = 1e9;
   return {0, step * divisions, static_cast<int>(std::min(divisions, kMostDivisions)),
           kWholeNumbers};
 }
