@@ -1,9 +1,8 @@
 #include "power/PowerFile.h"
 
-#include <cmath>
-
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "power/PaddedNumber.h"
 
 namespace tarnview {
 namespace {
@@ -123,15 +122,6 @@ void Take(const Attribute (&rows)[N], std::string_view line, F& file) {
   }
 }
 
-/// "007.5": at least `digits` digits before the point.
-std::string Padded(double value, int digits, int places) {
-  const std::string text = FixedText(std::fabs(value), places);
-  const std::size_t width = static_cast<std::size_t>(digits + (places > 0 ? places + 1 : 0));
-  const std::string zeros(text.size() < width ? width - text.size() : 0, '0');
-  const bool negative = value < 0 && StringToDouble(text) != 0;
-  return (negative ? "-" : "") + zeros + text;
-}
-
 /// The number in `length` characters from the one at `place`, which counts from 1; 0 where the line
 /// ends before.
 double FixedNumber(std::string_view line, std::size_t place,
@@ -213,12 +203,13 @@ std::string PowerFileText(const PowerFile& graph, const Moment& now) {
   text += Lines(kParameterRows, graph) + kLineEnd;
   heading(kPowerData);
   for (const PowerPoint& p : graph.points)
-    text +=
-        Padded(p.rpm, 4, 0) + "," + Padded(p.power, 3, 1) + "," + Padded(p.torque, 3, 1) + kLineEnd;
+    text += PaddedNumber(p.rpm, 4, 0) + "," + PaddedNumber(p.power, 3, 1) + "," +
+            PaddedNumber(p.torque, 3, 1) + kLineEnd;
   text += kLineEnd;
   heading(kSpeedData);
   for (const SpeedPoint& p : graph.speed)
-    if (p.seconds > 0) text += Padded(p.seconds, 3, 2) + "," + Padded(p.speed, 3, 2) + kLineEnd;
+    if (p.seconds > 0)
+      text += PaddedNumber(p.seconds, 3, 2) + "," + PaddedNumber(p.speed, 3, 2) + kLineEnd;
   return text;
 }
 

@@ -4,18 +4,12 @@
 
 #include "base/Numbers.h"
 #include "model/ConversionTables.h"
+#include "power/PaddedNumber.h"
 
 namespace tarnview {
 namespace {
 
 using Series = std::vector<SpeedPoint>;
-
-/// "4.25" as "04.25".
-std::string TwoDigits(double seconds) {
-  const std::string text = FixedText(seconds, 2);
-  if (text.find('.') < 2) return "0" + text;
-  return text;
-}
 
 Series::const_iterator Reaching(const Series& series, Series::const_iterator at, double speed) {
   return std::find_if(at, series.end(), [speed](const SpeedPoint& p) { return p.speed >= speed; });
@@ -40,7 +34,7 @@ std::string TimeBetween(const Series& series, double from, double to) {
   const auto start = Reaching(series, series.begin(), from);
   const auto end = Reaching(series, start, to);
   if (end == series.end()) return kNone;
-  return TwoDigits(TimeOf(series, end, to) - TimeOf(series, start, from));
+  return PaddedNumber(TimeOf(series, end, to) - TimeOf(series, start, from), 2, 2);
 }
 
 }  // namespace tarnview

@@ -20,6 +20,7 @@ TEST(SpeedQuery, TimeFromOneSpeedToTheOther) {
   EXPECT_EQ(TimeBetween({}, 0, 0), "N/A");
   EXPECT_EQ(TimeBetween({{2, 50}}, 50, 50), "00.00");
   EXPECT_EQ(TimeBetween({{2, 50}, {125, 60}}, 50, 60), "123.00");
+  EXPECT_EQ(TimeBetween({{2, 50}, {1.5, 60}}, 50, 60), "-00.50") << "intervals that shrink";
   EXPECT_EQ(TimeBetween({{2, 50.5}, {3, 60}}, 50.6, 60), "00.99");  // 51 lies above the first speed
 }
 
