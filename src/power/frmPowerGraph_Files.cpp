@@ -169,7 +169,8 @@ void frmPowerGraph::mnuToolsCopy_Click() {
     ++sample;
     if (point.speed > 0) CopyToLog(kSpeed, sample, point.speed / kMetresPerSecondInMph);
   }
-  mainWindow_.PlotRun(drawn_->range, static_cast<std::int32_t>(from + (to - from) / 2));
+  const double middle = static_cast<double>(from + to) / 2;
+  mainWindow_.PlotRun(drawn_->range, RoundToLong(middle));
 }
 
 PrintDetails frmPowerGraph::DetailsForPrint() const {

@@ -187,6 +187,9 @@ TEST_F(PowerGraphTest, CopiesIntoTheLogWhatLiesWithinIt) {
   EXPECT_GT(log.glngDataLog(kPower, first), 0);
   EXPECT_GT(log.glngDataLog(kTorque, 1200), 0);
   EXPECT_EQ(log.gcolDataItems->Item(24).GetFormattedData(log.glngDataLog(kSpeed, first)), "426.0");
+  Draw("1288", "1299");
+  window->mnuToolsCopy.Do({"click", {}});
+  EXPECT_EQ(plotted, "1290-1300 at 12951288-1299 at 1294") << "half to even";
   window->LogIsClosing();
   EXPECT_FALSE(window->mnuToolsCopy.Enabled());
   EXPECT_TRUE(window->mnuFilePrint.Enabled());
