@@ -20,8 +20,10 @@ ChartSeries SeriesOf(const std::vector<SpeedPoint>& speed, const char* name, Col
   return series;
 }
 
-/// The least step of 1, 2 or 5 times a power of ten that needs at most `most` divisions.
+/// The least step of 1, 2 or 5 times a power of ten that needs at most `most` divisions; 1 where
+/// there is nothing to divide.
 double RoundStep(double span, int most) {
+  if (span == 0) return 1;
   double step = 1e-3;
   while (std::isfinite(step)) {
     for (const double factor : {1.0, 2.0, 5.0})
@@ -29,6 +31,14 @@ double RoundStep(double span, int most) {
     step *= 10;
   }
   return span;
+}
+
+/// With the places that tell the steps of an axis apart.
+const char* FormatOf(double step) {
+  if (step >= 1) return "#######0";
+  if (step >= 0.1) return "#######0.0";
+  if (step >= 0.01) return "#######0.00";
+  return "#######0.000";
 }
 
 /// From 0 or below to a round number that holds all values.
@@ -45,10 +55,7 @@ ChartAxis AxisOf(const std::vector<ChartSeries>& series, std::vector<double> Cha
   axis.min = std::floor(low / step) * step;
   axis.max = std::max(std::ceil(high / step) * step, axis.min + step);
   axis.divisions = static_cast<int>(std::lround((axis.max - axis.min) / step));
-  if (step < 1)
-    axis.format = "#######0.0";
-  else
-    axis.format = "#######0";
+  axis.format = FormatOf(step);
   return axis;
 }
 

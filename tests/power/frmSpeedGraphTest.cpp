@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Numbers.h"
+#include "power/SpeedChart.h"
 #include "power/frmSpeedGraph.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
@@ -93,6 +94,17 @@ TEST_F(SpeedGraphTest, TheOffsetMovesTheBenchmarkAndLeavesTheResults) {
   EXPECT_EQ(window->txtOffset.Text(), "-0.4");
   window->updSpeedFrom.Do({"step", {"down"}});
   EXPECT_EQ(window->txtSpeedFrom.Text(), "49");
+}
+
+TEST(SpeedChart, AxesTellTheirStepsApart) {
+  const auto axis = [](const std::vector<SpeedPoint>& run) {
+    const ChartAxis x = SpeedChart(run, nullptr, true).x;
+    return NumberText(x.max) + "/" + std::to_string(x.divisions) + " " + x.format.substr(7);
+  };
+  EXPECT_EQ(axis({}), "1/1 0");
+  EXPECT_EQ(axis({{0.009, 20}}), "0.009/9 0.000");
+  EXPECT_EQ(axis({{0.11, 20}}), "0.11/11 0.00");
+  EXPECT_EQ(axis({{12, 20}}), "12/12 0");
 }
 
 TEST_F(SpeedGraphTest, WithoutABenchmarkItsFieldsAreHidden) {
