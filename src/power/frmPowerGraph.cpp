@@ -162,7 +162,8 @@ void frmPowerGraph::Draw(const SampleRange& range) {
                              static_cast<std::int32_t>(range.to));
   const auto benchmark = BenchmarkToShow(run);
   const bool average = benchmark && fields_.Action() == BenchmarkAction::Average;
-  status_.Say(average ? "Averaging with Benchmark" : "Smoothing curves");
+  status_.Say("Smoothing curves");
+  if (average) status_.Say("Averaging with Benchmark");
   PowerCurves curves = CurvesOf(run, average ? &benchmark->points : nullptr);
   if (curves.failed) return TellFault(curves.fault);
   ShowGraph(curves, benchmark);
