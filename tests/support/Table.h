@@ -23,13 +23,15 @@ inline std::vector<std::string> SplitAt(const std::string& text, const std::stri
 /// A row of a table in a test: its words, which stand apart by ", ".
 class TableRow {
  public:
-  explicit TableRow(const std::string& row) : words_(SplitAt(row, ", ")) {}
+  explicit TableRow(const std::string& row) : all_(row), words_(SplitAt(row, ", ")) {}
+  const std::string& All() const { return all_; }  ///< where it is one text
   const std::string& Text(std::size_t n) const { return words_.at(n); }
   int Int(std::size_t n) const { return StringToLong(words_.at(n)); }
   double Number(std::size_t n) const { return std::stod(words_.at(n)); }
   bool Yes(std::size_t n) const { return words_.at(n) == "yes"; }
 
  private:
+  std::string all_;
   std::vector<std::string> words_;
 };
 

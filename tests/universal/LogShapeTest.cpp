@@ -1,9 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "MadeLogs.h"
 #include "base/FileSystem.h"
-#include "base/Numbers.h"
 #include "model/Catalogue.h"
+#include "support/Table.h"
 #include "universal/DefinitionReader.h"
 #include "universal/DefinitionWriter.h"
 #include "universal/LogShape.h"
@@ -132,38 +130,25 @@ TEST(LogShape, TheUnitOfATimeIsThePlausibleOneWhereNoneIsTold) {
 }
 
 TEST(LogShape, PressuresAreToldApartByTheirValues) {
-  const struct {
-    const char* title;
-    const char* first;
-    const char* second;
-    const char* item;
-  } kRows[] = {
-      {"MAP (kPa)", "33", "180", "5 MAP [kPa]"},
-      {"MAP (psi)", "-9", "12", "37 Boost [psi]"},
-      {"Boost (kPa)", "35", "210", "5 MAP [kPa]"},
-      {"Boost (kPa)", "0", "110", "37 Boost [psi] x0.145+0"},
-      {"Ladedruck (hPa)", "950", "2100", "5 MAP [kPa] x0.1+0"},
-      {"MAP", "0.35", "1.8", "5 MAP [kPa] x100+0"},
-      {"MAP", "350", "1800", "5 MAP [kPa] x0.1+0"},
-      {"Ladedruck", "-0.4", "0.8", "37 Boost [psi] x14.5038+0"},
-      {"Boost kPa", "0", "110", "37 Boost [psi] x0.145+0"},
-      {"Intake_Pressure_PSI", "5", "30", "5 MAP [kPa] x6.8948+0"},
-      {"Knock Count", "0", "3", "30 Knock C"},
-      {"Feedback Knock (deg)", "-2.8", "0", "62 KNR [deg] x-1+0"},
-      {"Ignition Timing (KW)", "5", "30", "21 IAdv [deg]"},
-      {"Power (KW)", "5", "30", "101 Power [KW]"},
-      {"Coolant (*C)", "80", "90", "23 C Temp [C]"},
-      {"AFR", "0.8", "1.1", "36 A/F [AFR] x14.7+0"},
-      {"Lambda", "11.5", "14.7", "36 A/F [AFR]"},
-      {"CLT", "170", "190", "23 C Temp [C] x0.5556+-17.78"},
-      {"Throttle Position (V)", "1", "4", "101 Throttle Position [V]"},
-      {"Target Engine Speed (rpm)", "1", "4", "101 Target Engine Speed [rpm]"},
-  };
-  for (const auto& row : kRows) {
-    const std::string text = std::string("Time (s),") + row.title + "\n0," + row.first + "\n0.1," +
-                             row.second + "\n0.2," + row.second + "\n0.3," + row.first + "\n";
-    EXPECT_EQ(PrintedItem(ShapeOf(text).items.at(1)), row.item);
-  }
+  ExpectTable(
+      [](const TableRow& row) {
+        const std::string first = row.Text(1), second = row.Text(2);
+        return PrintedItem(ShapeOf("Time (s)," + row.Text(0) + "\n0," + first + "\n0.1," + second +
+                                   "\n0.2," + second + "\n0.3," + first + "\n")
+                               .items.at(1));
+      },
+      R"(
+MAP (kPa), 33, 180 -> 5 MAP [kPa] | MAP (psi), -9, 12 -> 37 Boost [psi]
+Boost (kPa), 35, 210 -> 5 MAP [kPa] | Boost (kPa), 0, 110 -> 37 Boost [psi] x0.145+0
+Ladedruck (hPa), 950, 2100 -> 5 MAP [kPa] x0.1+0 | MAP, 0.35, 1.8 -> 5 MAP [kPa] x100+0
+MAP, 350, 1800 -> 5 MAP [kPa] x0.1+0 | Ladedruck, -0.4, 0.8 -> 37 Boost [psi] x14.5038+0
+Boost kPa, 0, 110 -> 37 Boost [psi] x0.145+0 | Intake_Pressure_PSI, 5, 30 -> 5 MAP [kPa] x6.8948+0
+Knock Count, 0, 3 -> 30 Knock C | Feedback Knock (deg), -2.8, 0 -> 62 KNR [deg] x-1+0
+Ignition Timing (KW), 5, 30 -> 21 IAdv [deg] | Power (KW), 5, 30 -> 101 Power [KW]
+Coolant (*C), 80, 90 -> 23 C Temp [C] | AFR, 0.8, 1.1 -> 36 A/F [AFR] x14.7+0
+Lambda, 11.5, 14.7 -> 36 A/F [AFR] | CLT, 170, 190 -> 23 C Temp [C] x0.5556+-17.78
+Throttle Position (V), 1, 4 -> 101 Throttle Position [V] | Target Engine Speed (rpm), 1, 4 -> 101 Target Engine Speed [rpm]
+)");
 }
 
 TEST(LogShape, RowsOfTitlesAndTheDecimalSignAreToldApart) {

@@ -1,10 +1,8 @@
 // The small functions that a log's shape is found with.
 
-#include <gtest/gtest.h>
-
 #include "base/FileSystem.h"
-#include "base/Numbers.h"
 #include "model/Catalogue.h"
+#include "support/Table.h"
 #include "universal/ShapeField.h"
 #include "universal/TextEncoding.h"
 #include "universal/TimeText.h"
@@ -48,78 +46,32 @@ std::string TimeOf(std::string_view text) {
 }
 
 TEST(TimeText, AsLoggersWriteIt) {
-  const struct {
-    const char* text;
-    const char* time;
-  } kRows[] = {
-      {"01:02:03.5", "3723.5c"},
-      {"1:02", "3720c"},
-      {"05:12.7", "312.7c"},
-      {"22:34:39.62814", "81279.62814c"},
-      {"12:00:01 AM", "1c"},
-      {"1:00:00 pm", "46800c"},
-      {"01:02:03:500", "3723.5c"},
-      {"01:02:03,5", "3723.5c"},
-      {"2026-01-02", "86400d"},
-      {"2026-01-02T00:00:01Z", "86401dc"},
-      {"2026/01/02 00:00:01.25", "86401.25dc"},
-      {"2026-01-02 00:00:01+01:00", "86401dc"},
-      {"02-Jan-2026 00:01:00", "86460dc"},
-      {"2.1.2026 0:01", "86460dc"},
-      {"01/13/2026 00:00:01", "1036801dc"},
-      {"13/01/26", "1036800d"},
-      {"Fri Jan 02 00:00:05 GMT+01:00 2026", "86405dc"},
-      {"12.5", ""},
-      {"1.2.3", ""},
-      {"25 rpm", ""},
-      {"12:61", ""},
-      {"2026-13-40", ""},
-      {"Jan", ""},
-      {"12:00:00 x", ""},
-      {"", ""},
-  };
-  for (const auto& row : kRows) EXPECT_EQ(TimeOf(row.text), row.time) << row.text;
+  ExpectTable([](const TableRow& row) { return TimeOf(row.All()); }, R"(
+01:02:03.5 -> 3723.5c | 1:02 -> 3720c | 05:12.7 -> 312.7c | 22:34:39.62814 -> 81279.62814c
+12:00:01 AM -> 1c | 1:00:00 pm -> 46800c | 01:02:03:500 -> 3723.5c | 01:02:03,5 -> 3723.5c
+2026-01-02 -> 86400d | 2026-01-02T00:00:01Z -> 86401dc | 2026/01/02 00:00:01.25 -> 86401.25dc | 2026-01-02 00:00:01+01:00 -> 86401dc
+02-Jan-2026 00:01:00 -> 86460dc | 2.1.2026 0:01 -> 86460dc | 01/13/2026 00:00:01 -> 1036801dc | 13/01/26 -> 1036800d
+Fri Jan 02 00:00:05 GMT+01:00 2026 -> 86405dc | 12.5 ->  | 1.2.3 ->  | 25 rpm -> 
+12:61 ->  | 2026-13-40 ->  | Jan ->  | 12:00:00 x -> 
+
+)");
 }
 
 TEST(ShapeField, Numbers) {
-  const struct {
-    const char* text;
-    char sign;
-    const char* number;  ///< value and places
-  } kRows[] = {
-      {"12.50", '.', "12.5 2"},
-      {"-0", '.', "0 0"},
-      {"+.5", '.', ".5"},
-      {"1e3", '.', "1000 0"},
-      {"2,000.00", '.', "2000 2"},
-      {"1,234,567", '.', "1234567 0"},
-      {"1,23", '.', ""},
-      {"12,5", ',', "12.5 1"},
-      {"1.234,5", ',', "1234.5 1"},
-      {"0,980", '.', ""},
-      {"1.5", ',', ""},
-      {"45 %", '.', "45 0"},
-      {"12kPa", '.', "12 0"},
-      {"900 rpm", '.', "900 0"},
-      {"85,5 \xB0\x43", ',', "85.5 1"},
-      {"1.5e3 1/min", '.', "1500 1"},
-      {"12 foo", '.', ""},
-      {"12m", '.', ""},
-      {"12:1", '.', ""},
-      {"1,5,5", ',', ""},
-      {"-", '.', ""},
-      {"", '.', ""},
-      {"0x10", '.', ""},
-      {" 7 ", '.', "7 0"},
-      {"1.2E-05", '.', "0.000012 1"},
+  const auto read = [](const std::string& text, char decimalSign) {
+    const auto number = ReadShapeNumber(text, decimalSign);
+    return number ? NumberText(number->value) + " to " + std::to_string(number->places) : "none";
   };
-  for (const auto& row : kRows) {
-    const auto number = ReadShapeNumber(row.text, row.sign);
-    const std::string expected = std::string(row.number) == ".5" ? "0.5 1" : row.number;
-    EXPECT_EQ(number ? NumberText(number->value) + " " + std::to_string(number->places) : "",
-              expected)
-        << row.text;
-  }
+  ExpectTable([&](const TableRow& row) { return read(row.All(), '.'); }, R"(
+12.50 -> 12.5 to 2 | -0 -> 0 to 0 | +.5 -> 0.5 to 1 | 1e3 -> 1000 to 0 | 2,000.00 -> 2000 to 2
+1,234,567 -> 1234567 to 0 | 1,23 -> none | 0,980 -> none | 45 % -> 45 to 0 | 12kPa -> 12 to 0
+900 rpm -> 900 to 0 | 1.5e3 1/min -> 1500 to 1 | 12 foo -> none | 12m -> none | 12:1 -> none
+- -> none |  -> none | 0x10 -> none |  7  -> 7 to 0 | 1.2E-05 -> 0.000012 to 1
+)");
+  ExpectTable([&](const TableRow& row) { return read(row.All(), ','); }, R"(
+12,5 -> 12.5 to 1 | 1.234,5 -> 1234.5 to 1 | 1.5 -> none | 1,5,5 -> none
+)");
+  EXPECT_EQ(read("85,5 \xB0\x43", ','), "85.5 to 1");
 }
 
 TEST(ShapeField, LinesAreCut) {
@@ -141,60 +93,42 @@ TEST(ShapeField, LinesAreCut) {
 }
 
 TEST(ShapeField, Kinds) {
-  const std::pair<const char*, FieldKind> kRows[] = {{"", FieldKind::Empty},
-                                                     {"NaN", FieldKind::NoValue},
-                                                     {"-", FieldKind::NoValue},
-                                                     {"n/a", FieldKind::NoValue},
-                                                     {"--.-", FieldKind::NoValue},
-                                                     {"./.", FieldKind::Text},
-                                                     {"-2147483617", FieldKind::NoValue},
-                                                     {"-2147483", FieldKind::Number},
-                                                     {"12:30:01", FieldKind::Time},
-                                                     {"off", FieldKind::Text},
-                                                     {"5", FieldKind::Number}};
-  for (const auto& [text, kind] : kRows) EXPECT_EQ(KindOfField(text, '.'), kind) << text;
+  ExpectTable(
+      [](const TableRow& row) {
+        constexpr const char* kNames[] = {"empty", "no value", "number", "time", "text"};
+        return kNames[static_cast<int>(KindOfField(row.All(), '.'))];
+      },
+      R"(
+ -> empty | NaN -> no value | - -> no value | n/a -> no value | --.- -> no value | ./. -> text | -2147483617 -> no value | -2147483 -> number | 12:30:01 -> time | off -> text | 5 -> number
+)");
 }
 
 TEST(Units, TurnIntoEachOther) {
-  const struct {
-    const char *from, *to;
-    double value;
-    const char* result;
-  } kRows[] = {
-      // clang-format off
-      {"psi", "kPa", 10, "68.9476"},    {"bar", "psi", 1, "14.5038"}, {"inHg", "kPa", 30, "101.5917"},
-      {"mmHg", "kPa", 760, "101.325"},  {"hPa", "bar", 1000, "1"},    {"F", "C", 212, "100"},
-      {"degC", "\xB0\x46", 100, "212"}, {"K", "C", 273.15, "0"},      {"mph", "km/h", 100, "160.9344"},
-      {"m/s", "KPH", 10, "36"},         {"lambda", ":1", 1, "14.7"},  {"lb/min", "g/s", 1, "7.5599"},
-      {"kg/h", "g/s", 3.6, "1"},        {"msec", "s", 1500, "1.5"},   {"mV", "V", 500, "0.5"},
-      {"[psi]", "psig", 3, "3"},        {"Nm", "N.m", 3, "3"},        {"psi", "C", 1, ""},
-      {"Nm", "ft-lb", 1, ""},
-      // clang-format on
+  const auto turned = [](const std::string& value, const std::string& from, const std::string& to) {
+    const auto it = ConversionOf(*FindUnit(from), *FindUnit(to));
+    return it ? NumberText(RoundPlaces(std::stod(value) * it->factor + it->offset, 4)) : "never";
   };
-  for (const auto& row : kRows) {
-    const Unit *from = FindUnit(row.from), *to = FindUnit(row.to);
-    ASSERT_TRUE(from && to) << row.from << row.to;
-    const auto it = ConversionOf(*from, *to);
-    EXPECT_EQ(it ? NumberText(RoundPlaces(row.value * it->factor + it->offset, 4)) : "", row.result)
-        << row.from;
-  }
+  ExpectTable([&](const TableRow& row) { return turned(row.Text(0), row.Text(1), row.Text(2)); },
+              R"(
+10, psi, kPa -> 68.9476 | 1, bar, psi -> 14.5038 | 30, inHg, kPa -> 101.5917 | 760, mmHg, kPa -> 101.325 | 1000, hPa, bar -> 1
+212, F, C -> 100 | 273.15, K, C -> 0 | 100, mph, km/h -> 160.9344 | 10, m/s, KPH -> 36 | 1, lambda, :1 -> 14.7
+1, lb/min, g/s -> 7.5599 | 3.6, kg/h, g/s -> 1 | 1500, msec, s -> 1.5 | 500, mV, V -> 0.5 | 3, [psi], psig -> 3
+3, Nm, N.m -> 3 | 1, psi, C -> never | 1, Nm, ft-lb -> never
+)");
+  EXPECT_EQ(turned("100", "degC", "\xB0\x46"), "212");
   EXPECT_FALSE(IsUnit("SAE"));
 }
 
 TEST(Units, StandInTheLastBracketsOfATitle) {
-  const struct {
-    const char *title, *left, *unit;
-  } kRows[] = {{"Boost (psi)", "Boost", "psi"},
-               {"Throttle Position(Manifold)(%)", "Throttle Position(Manifold)", "%"},
-               {"Engine RPM (SAE)", "Engine RPM (SAE)", ""},
-               {"AFR [:1]", "AFR", ":1"},
-               {"(rpm)", "(rpm)", ""},
-               {"RPM", "RPM", ""}};
-  for (const auto& row : kRows) {
-    std::string title = row.title;
-    EXPECT_EQ(TakeUnit(title), row.unit) << row.title;
-    EXPECT_EQ(title, row.left);
-  }
+  ExpectTable(
+      [](const TableRow& row) {
+        std::string title = row.All();
+        const std::string unit = TakeUnit(title);
+        return title + " in " + unit;
+      },
+      R"(
+Boost (psi) -> Boost in psi | Throttle Position(Manifold)(%) -> Throttle Position(Manifold) in % | Engine RPM (SAE) -> Engine RPM (SAE) in  | AFR [:1] -> AFR in :1 | (rpm) -> (rpm) in  | RPM -> RPM in 
+)");
 }
 
 const TitleDictionary& Dictionary() {
@@ -204,36 +138,17 @@ const TitleDictionary& Dictionary() {
 }
 
 TEST(TitleDictionary, KnowsTitlesByTheirWords) {
-  const std::pair<const char*, const char*> kRows[] = {
-      {"Engine Speed", "RPM"},
-      {"engine/rpm", "RPM"},
-      {"ENGINE_RPM", "RPM"},
-      {"nmot", "RPM"},
-      {"Motor-Drehzahl", "RPM"},
-      {"XYZ Engine Speed", "RPM"},
-      {"2ByteRPM", "RPM"},
-      {"Engine RPM (SAE)", "RPM"},
-      {"Target Engine Speed", ""},
-      {"MGP", "Boost"},
-      {"Lambda 1", "A/F"},
-      {"AFR1", "A/F"},
-      {"wboAFR", "A/F"},
-      {"Target AFR", "A/F Tgt"},
-      {"sensors/tps1", "TPS"},
-      {"SPK: Spark Advance", "IAdv"},
-      {"K\xFChlmitteltemperatur", "C Temp"},
-      {"Z\xDCNDWINKEL", "IAdv"},
-      {"KM/H", "Speed"},
-      {"Widget", ""},
-      {"Pressure, intake manifold", "MAP"},
-      {"Target, engine speed", ""},
-      {"Boost pressure actual value", "Boost"},
-      {"GPS Speed", "Speed"},
-      {"Air/Fuel Ratio", "A/F"},
-      {"Turbo Boost & Vacuum Gauge", "Boost"},
-      {"", ""},
-  };
-  for (const auto& [title, item] : kRows) EXPECT_EQ(Dictionary().Find(title).item, item) << title;
+  ExpectTable([](const TableRow& row) { return Dictionary().Find(row.All()).item; }, R"(
+Engine Speed -> RPM | engine/rpm -> RPM | ENGINE_RPM -> RPM | nmot -> RPM
+Motor-Drehzahl -> RPM | XYZ Engine Speed -> RPM | 2ByteRPM -> RPM | Engine RPM (SAE) -> RPM
+Target Engine Speed ->  | MGP -> Boost | Lambda 1 -> A/F | AFR1 -> A/F
+wboAFR -> A/F | Target AFR -> A/F Tgt | sensors/tps1 -> TPS | SPK: Spark Advance -> IAdv
+KM/H -> Speed | Widget ->  | Pressure, intake manifold -> MAP | Target, engine speed -> 
+Boost pressure actual value -> Boost | GPS Speed -> Speed | Air/Fuel Ratio -> A/F | Turbo Boost & Vacuum Gauge -> Boost
+
+)");
+  EXPECT_EQ(Dictionary().Find("K\xFChlmitteltemperatur").item, "C Temp");
+  EXPECT_EQ(Dictionary().Find("Z\xDCNDWINKEL").item, "IAdv");
 }
 
 TEST(TitleDictionary, ItsItemsAreThoseOfTheCatalogueAndItsUnitsKnown) {
