@@ -25,6 +25,7 @@ class TableRow {
  public:
   explicit TableRow(const std::string& row) : all_(row), words_(SplitAt(row, ", ")) {}
   const std::string& All() const { return all_; }  ///< where it is one text
+  std::size_t Count() const { return words_.size(); }
   const std::string& Text(std::size_t n) const { return words_.at(n); }
   int Int(std::size_t n) const { return StringToLong(words_.at(n)); }
   double Number(std::size_t n) const { return std::stod(words_.at(n)); }
