@@ -1,72 +1,58 @@
-#include <gtest/gtest.h>
-
+#include "base/Numbers.h"
 #include "model/Catalogue.h"
 #include "model/Column.h"
 #include "samplegraph/ChartTable.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-class ChartTableTest : public ::testing::Test {
- protected:
-  ChartTableTest() {
-    log.Clear(catalogue.gcolFixedDataItems, 20);
-    for (int row = 0; row < 20; ++row) {
-      log.glngDataLog.AddRow();
-      log.glngDataLog.Set(kSample, row, row + 1);
-      log.glngDataLog.Set(kSecs, row, (row + 1) * 819);
-      log.glngDataLog.Set(kRPM, row, 1000 + row);
-      log.glngDataLog.Set(kMAP, row, 403);
-    }
-    log.glngLastSample = 19;
-  }
-  ChartTable Build(const std::vector<int>& items, const PlotWindow& window) {
-    return BuildChartTable(log, items, window,
-                           [this](std::int32_t index) { examined.push_back(index); });
-  }
-
-  Catalogue catalogue = BuildDataItemCatalogue();
+/// Twenty samples 81.9 ms apart, RPM from 1000 up, knock at four; the number of the fifth is out of
+/// order.
+TEST(ChartTable, PlotsEveryStepThRowOfTheRangeByItsStoreIndex) {
+  const Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
-  std::vector<std::int32_t> examined;
-};
-
-TEST_F(ChartTableTest, PlotsEveryStepThRowByItsStoreIndex) {
-  const ChartTable table = Build({ItemOf(kRPM), ItemOf(kMAP)}, {3, 20, 2, 19, 4});
-  // Store rows 4, 8, 12, 16: multiples of the step, not steps from the first row.
-  EXPECT_EQ(table.x, (std::vector<double>{0.4095, 0.7371, 1.0647, 1.3923}));
-  EXPECT_EQ(table.y[0], (std::vector<double>{10.04, 10.08, 10.12, 10.16}));
-  EXPECT_EQ(table.y[1], (std::vector<double>{40.3, 40.3, 40.3, 40.3}));
-  EXPECT_EQ(table.headings, (std::vector<std::string>{"RPM", "MAP"}));
-  EXPECT_EQ(table.LastRow(), 4);
-  EXPECT_EQ(table.X(0), 0);
-  EXPECT_EQ(table.X(1), 0.4095);
-}
-
-TEST_F(ChartTableTest, AKnockBetweenTwoPlottedRowsShowsAtTheNext) {
-  log.glngDataLog.Set(kKnock, 5, 90);
-  log.glngDataLog.Set(kKnock, 8, 30);
-  log.glngDataLog.Set(kKnock, 13, 70);
-  const std::vector<int> knock{ItemOf(kKnock)};
-  EXPECT_EQ(Build(knock, {1, 20, 0, 19, 4}).y[0], (std::vector<double>{0, 0, 90, 0, 70}));
-  // Unthinned it is the plain value.
-  const auto plain = Build(knock, {6, 10, 5, 9, 1}).y[0];
-  EXPECT_EQ(plain, (std::vector<double>{90, 0, 0, 30, 0}));
-}
-
-TEST_F(ChartTableTest, RowsOutsideTheRangeAreLeftOutAndEndThePeak) {
+  log.Clear(catalogue.gcolFixedDataItems, 20);
+  for (int row = 0; row < 20; ++row) {
+    log.glngDataLog.AddRow();
+    log.glngDataLog.Set(kSample, row, row + 1);
+    log.glngDataLog.Set(kSecs, row, (row + 1) * 819);
+    log.glngDataLog.Set(kRPM, row, 1000 + row);
+    log.glngDataLog.Set(kMAP, row, 403);
+    log.glngDataLog.Set(kIAdv, row, -50);
+  }
+  for (const auto& [row, knock] : {std::pair{3, 95}, {5, 90}, {8, 30}, {13, 70}})
+    log.glngDataLog.Set(kKnock, row, knock);
   log.glngDataLog.Set(kSample, 4, 999);
-  log.glngDataLog.Set(kKnock, 4, 90);
-  const ChartTable table = Build({ItemOf(kKnock)}, {1, 8, 0, 7, 1});
-  EXPECT_EQ(table.y[0], (std::vector<double>(7, 0)));
-}
-
-TEST_F(ChartTableTest, TellsTheHighestAndNeverLessThanNothing) {
-  const ChartTable table = Build({ItemOf(kRPM)}, {1, 20, 0, 19, 1});
-  EXPECT_DOUBLE_EQ(table.highestY, 10.19);
-  EXPECT_DOUBLE_EQ(table.lowestX, 0.0819);
-  EXPECT_EQ(examined.size(), 20u);
-  log.glngDataLog.Set(kIAdv, 1, -50);
-  EXPECT_EQ(Build({ItemOf(kIAdv)}, {2, 2, 1, 1, 1}).highestY, 0);
+  log.glngLastSample = 19;
+  const std::map<std::string, Column> columns = {
+      {"RPM", kRPM}, {"MAP", kMAP}, {"Knock", kKnock}, {"IAdv", kIAdv}};
+  const auto told = [&](const TableRow& row) {
+    std::vector<int> items;
+    for (const std::string& name : Split(row.Text(0), ' '))
+      items.push_back(ItemOf(columns.at(name)));
+    int examined = 0;
+    const PlotWindow window{row.Int(1), row.Int(2), row.Int(3), row.Int(4), row.Int(5)};
+    const ChartTable table = BuildChartTable(log, items, window, [&](std::int32_t) { ++examined; });
+    std::string all = "x";
+    for (int n = 0; n <= table.LastRow(); ++n) all += " " + NumberText(table.X(n));
+    for (std::size_t item = 0; item < items.size(); ++item) {
+      all += "; " + table.headings[item];
+      for (const double y : table.y[item]) all += " " + NumberText(y);
+    }
+    return all + "; from " + NumberText(table.lowestX) + " to " + NumberText(table.highestX) +
+           ", up to " + NumberText(table.highestY) + ", down to " + NumberText(table.lowestY) +
+           ", " + std::to_string(examined) + " examined";
+  };
+  ExpectTable(told, R"(
+# Items, the range as sample numbers and as rows, the step: rows of the store that are its multiples.
+RPM MAP, 3, 20, 2, 19, 4 -> x 0 0.7371 1.0647 1.3923; RPM 10.08 10.12 10.16; MAP 40.3 40.3 40.3; from 0.7371 to 1.3923, up to 40.3, down to 0, 0 examined
+# A knock between two plotted rows shows at the next, be that out of the range; unthinned it is the plain value.
+Knock, 1, 20, 0, 19, 4 -> x 0 0.0819 0.7371 1.0647 1.3923; Knock 0 90 0 70; from 0.0819 to 1.3923, up to 90, down to 0, 1 examined
+Knock, 6, 10, 5, 9, 1 -> x 0 0.4914 0.5733 0.6552 0.7371 0.819; Knock 90 0 0 30 0; from 0.4914 to 0.819, up to 90, down to 0, 5 examined
+Knock, 1, 8, 0, 7, 1 -> x 0 0.0819 0.1638 0.2457 0.3276 0.4914 0.5733 0.6552; Knock 0 0 0 95 90 0 0; from 0.0819 to 0.6552, up to 95, down to 0, 8 examined
+IAdv, 2, 3, 1, 2, 1 -> x 0 0.1638 0.2457; IAdv -5 -5; from 0.1638 to 0.2457, up to 0, down to -5, 2 examined
+)");
 }
 
 }  // namespace

@@ -1,71 +1,48 @@
-#include <gtest/gtest.h>
-
 #include "samplegraph/GraphScale.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-TEST(GraphScale, FollowsTheHighestValue) {
-  const struct {
-    double highest;
-    std::int64_t max, divisions;
-  } kRows[] = {
-      {0, 1, 1},        {12, 13, 13},
-      {12.5, 13, 13},   {13, 14, 7},
-      {13.5, 16, 8},    {25, 26, 13},
-      {99.6, 110, 11},  {1250, 1300, 13},
-      {2500, 2600, 26}, {3e11, 300000000100, 3000000001},
-  };
-  for (const auto& row : kRows) {
-    const VerticalScale scale = ScaleForHighest(row.highest);
-    EXPECT_EQ(scale.max, row.max) << row.highest;
-    EXPECT_EQ(scale.divisions, row.divisions) << row.highest;
-  }
+std::string Told(const VerticalScale& scale) {
+  return std::to_string(scale.min) + " to " + std::to_string(scale.max) + " by " +
+         std::to_string(scale.divisions);
 }
 
-TEST(GraphScale, ReachesBelowZeroInWholeSteps) {
-  const struct {
-    double lowest, highest;
-    std::int64_t min, max, divisions;
-  } kRows[] = {{0, 12, 0, 13, 13},        {-0.1, 12, -1, 13, 14},   {-12, 12, -12, 13, 25},
-               {-40, 110, -40, 120, 16},  {-110, 40, -110, 50, 16}, {-3, 0, -3, 1, 4},
-               {-1250, 0, -1300, 100, 14}};
-  for (const auto& row : kRows) {
-    const VerticalScale scale = ScaleForRange(row.lowest, row.highest);
-    EXPECT_EQ(scale.min, row.min) << row.lowest;
-    EXPECT_EQ(scale.max, row.max) << row.lowest;
-    EXPECT_EQ(scale.divisions, row.divisions) << row.lowest;
-  }
-  EXPECT_EQ(ReachingBelow({240, 12}, -25).min, -40);
-  EXPECT_EQ(ReachingBelow({0, 0}, -25).min, 0);  // no steps
+TEST(GraphScale, HoldsTheLowestAndTheHighestValueInWholeSteps) {
+  const auto range = [](const TableRow& row) {
+    return Told(ScaleForRange(row.Number(0), row.Number(1)));
+  };
+  ExpectTable(range, R"(
+0, 0 -> 0 to 1 by 1 | 0, 12 -> 0 to 13 by 13 | 0, 12.5 -> 0 to 13 by 13 | 0, 13 -> 0 to 14 by 7 | 0, 13.5 -> 0 to 16 by 8 | 0, 25 -> 0 to 26 by 13 | 0, 99.6 -> 0 to 110 by 11 | 0, 1250 -> 0 to 1300 by 13 | 0, 2500 -> 0 to 2600 by 26 | 0, 3e11 -> 0 to 300000000100 by 3000000001
+-0.1, 12 -> -1 to 13 by 14 | -12, 12 -> -12 to 13 by 25 | -40, 110 -> -40 to 120 by 16 | -110, 40 -> -110 to 50 by 16 | -3, 0 -> -3 to 1 by 4 | -1250, 0 -> -1300 to 100 by 14
+)");
+  EXPECT_EQ(Told(ReachingBelow({240, 12}, -25)), "-40 to 240 by 14");
+  EXPECT_EQ(Told(ReachingBelow({0, 0}, -25)), "0 to 0 by 0") << "no steps";
 }
 
 TEST(GraphScale, ATypedMaximumMovesOntoTheSteps) {
-  const struct {
-    std::int32_t typed;
-    std::int64_t max, divisions;
-  } kRows[] = {{33, 35, 7},  {27, 25, 5}, {250, 240, 12},  {240, 240, 12},
-               {10, 10, 10}, {0, 0, 0},   {1000, 1000, 10}};
-  for (const auto& row : kRows) {
-    const VerticalScale scale = ScaleForFixedMax(row.typed);
-    EXPECT_EQ(scale.max, row.max) << row.typed;
-    EXPECT_EQ(scale.divisions, row.divisions) << row.typed;
-  }
+  const auto fixed = [](const TableRow& row) { return Told(ScaleForFixedMax(row.Int(0))); };
+  ExpectTable(fixed, R"(
+33 -> 0 to 35 by 7 | 27 -> 0 to 25 by 5 | 250 -> 0 to 240 by 12 | 240 -> 0 to 240 by 12 | 10 -> 0 to 10 by 10 | 0 -> 0 to 0 by 0 | 1000 -> 0 to 1000 by 10
+)");
 }
 
-TEST(GraphScale, ThinsAboveSevenHundredAndFiftyRows) {
-  EXPECT_EQ(ThinStep(500, true), 1);
-  EXPECT_EQ(ThinStep(750, true), 1);  // 748 store rows
-  EXPECT_EQ(ThinStep(751, true), 2);  // 1.5 goes to the even 2
-  EXPECT_EQ(ThinStep(1251, true), 2);
-  EXPECT_EQ(ThinStep(1751, true), 4);
-  EXPECT_EQ(ThinStep(1751, false), 1);
+/// 750 are 748 rows of the store; half a step goes to the even one.
+TEST(GraphScale, QuickGraphThinsAboveSevenHundredAndFiftyRows) {
+  const auto step = [](const TableRow& row) {
+    return std::to_string(ThinStep(row.Int(0), row.Text(1) == "quick"));
+  };
+  ExpectTable(step, R"(
+500, quick -> 1 | 750, quick -> 1 | 751, quick -> 2 | 1251, quick -> 2 | 1751, quick -> 4 | 1751, full -> 1
+)");
 }
 
 TEST(GraphScale, LabelsTheTimeAxisByItsSpan) {
-  EXPECT_EQ(TimeAxisFormat(0.5), "#######0.00");
-  EXPECT_EQ(TimeAxisFormat(5), "#######0.0");
-  EXPECT_EQ(TimeAxisFormat(10), "#######0");
+  const auto format = [](const TableRow& row) { return TimeAxisFormat(row.Number(0)); };
+  ExpectTable(format, R"(
+0.5 -> #######0.00 | 1 -> #######0.0 | 5 -> #######0.0 | 9.9 -> #######0.0 | 10 -> #######0
+)");
 }
 
 }  // namespace

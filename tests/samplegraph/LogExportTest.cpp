@@ -36,7 +36,7 @@ class LogExportTest : public WholeGraph {
 
 TEST_F(LogExportTest, WritesTheItemsOfTheListOverThePlotRange) {
   OpenLog(40);
-  Do("click chkShowCheckedOnly\ntick lvwSampleDetails Knock off");
+  Do("click chkShowCheckedOnly; tick lvwSampleDetails Knock off");
   host.answers = {{Answer::Kind::Ok}, {Answer::Kind::File, "/b.csv"}};
   EXPECT_EQ(Export("2", "3"), R"(TARNVIEW EXPORT FILE
 Original Data Log Path and File Name: /logs/run.txt
@@ -46,14 +46,14 @@ Sample,Secs,RPM
 2,0.164,1002
 3,0.246,1003
 )");
-  EXPECT_EQ(Said() + " " + std::to_string(progress.Max()), "Export complete 1");
+  EXPECT_EQ(foot.Panel(1) + " " + std::to_string(progress.Max()), "Export complete 1");
   EXPECT_TRUE(Export("40", "7").ends_with("RPM\n7,0.573,1007\n")) << "from no later than to";
   EXPECT_EQ(path, "/b.csv");
   files.failWrites = true;
   host.answers = {{Answer::Kind::Ok}};
   Export("1", "2");
   EXPECT_EQ(files.accesses.back(), "write /b.csv") << "the path used last";
-  EXPECT_EQ(Boxes(), (std::vector<int>{64}));
+  EXPECT_EQ(Boxes(), " [64]");
   EXPECT_FALSE(wrote);
 }
 

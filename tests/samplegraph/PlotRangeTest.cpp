@@ -1,65 +1,52 @@
-#include "GraphStandIn.h"
+#include "WholeGraph.h"
 
 namespace tarnview {
 namespace {
 
-using PlotRangeTest = GraphStandIn;
+using PlotRangeTest = WholeGraph;
 
 TEST_F(PlotRangeTest, IsCorrectedBeforeADraw) {
-  Open(2000);
-  const struct {
-    const char *from, *to, *corrected, *grown;
-  } kRows[] = {
-      {"1", "2000", "1-2000", "1-2000"},          {"50", "20", "19-20", "19-21"},
-      {"5000", "20", "19-20", "19-21"},           {"0", "20", "1-20", "1-20"},
-      {"2001", "2001", "1-2000", "1-2000"},       {"1900", "9999", "1900-2000", "1900-2000"},
-      {"1990", "0", "1-2000", "1-2000"},          {"-5", "-1", "1-2000", "1-2000"},
-      {"1990", "1990", "1990-1990", "1990-1992"}, {"1998", "1998", "1998-1998", "1998-2000"},
-      {"1999", "1999", "1999-1999", "1997-1999"}, {"2000", "2000", "2000-2000", "1998-2000"},
-      {"12abc", "40", "12abc-40", "12abc-40"},
-  };
-  for (const auto& row : kRows) {
-    PlotRangeFrom.Text = row.from;
-    PlotRangeTo.Text = row.to;
+  OpenLog(2000);
+  const auto corrected = [this](const TableRow& row) {
+    PlotRangeFrom.Text = row.Text(0);
+    PlotRangeTo.Text = row.Text(1);
     range.CorrectForDraw();
-    EXPECT_EQ(Range(), row.corrected) << row.from << " " << row.to;
+    const std::string before = Range();
     range.EnsureMinimumPlotRange();
-    EXPECT_EQ(Range(), row.grown) << row.from << " " << row.to;
-  }
-  Open(2);
-  Type(1, 2);
-  range.EnsureMinimumPlotRange();
-  EXPECT_EQ(Range(), "1-2") << "no room";
+    return before + (Range() == before ? "" : " then " + Range());
+  };
+  ExpectTable(corrected, R"(
+1, 2000 -> 1-2000 | 50, 20 -> 19-20 then 19-21 | 5000, 20 -> 19-20 then 19-21 | 0, 20 -> 1-20 | 2001, 2001 -> 1-2000
+1900, 9999 -> 1900-2000 | 1990, 0 -> 1-2000 | -5, -1 -> 1-2000 | 1990, 1990 -> 1990-1990 then 1990-1992 | 1998, 1998 -> 1998-1998 then 1998-2000
+1999, 1999 -> 1999-1999 then 1997-1999 | 2000, 2000 -> 2000-2000 then 1998-2000 | 12abc, 40 -> 12abc-40
+)");
+  OpenLog(2);
+  EXPECT_EQ(corrected(TableRow("1, 2")), "1-2") << "no room";
 }
 
-TEST_F(PlotRangeTest, ABoxThatIsLeftIsBroughtIntoTheLogAndForgetsTheSample) {
-  Open(2000);
+TEST_F(PlotRangeTest, BoxesAndArrowsStayInTheLogAndForgetTheSample) {
+  OpenLog(2000);
   EXPECT_TRUE(redraw.TakeRangeEdited());
-  for (const auto& [text, from, to] : {std::tuple{"0", "1", "2000"},
-                                       {"1", "1", "1"},
-                                       {"2000", "2000", "2000"},
-                                       {"2001", "1", "2000"}}) {
+  const auto told = [this](const TableRow& row) {
     selection.Highlight(7);
-    PlotRangeFrom.Do({"type", {text}});
-    PlotRangeTo.Do({"type", {text}});
-    EXPECT_EQ(selection.lngHighlightSample(), 0) << text;
-    window.SetFocus(nullptr);
-    EXPECT_EQ(Range(), std::string(from) + "-" + to) << text;
-    EXPECT_TRUE(redraw.TakeRangeEdited());
-    EXPECT_FALSE(redraw.TakeRangeEdited());
-  }
-}
-
-TEST_F(PlotRangeTest, ArrowsStepWithinTheLog) {
-  Open(2000);
-  Type(1, 1999);
-  updPlotRangeFrom.Do({"step", {"down"}});
-  updPlotRangeTo.Do({"step", {"up"}});
-  EXPECT_EQ(Range(), "1-2000");
-  EXPECT_TRUE(range.IsWholeLog());
-  updPlotRangeTo.Do({"step", {"up"}});
-  updPlotRangeFrom.Do({"step", {"up"}});
-  EXPECT_EQ(Range(), "2-2000");
+    Do(row.Text(0));
+    const bool edited = redraw.TakeRangeEdited();
+    return Range() + " sample " + std::to_string(selection.lngHighlightSample()) +
+           (edited ? " edited" : "") + (redraw.TakeRangeEdited() ? " twice" : "") +
+           (range.IsWholeLog() ? " whole" : "");
+  };
+  ExpectTable(told, R"(
+leave -> - sample 7
+type PlotRangeFrom 0; type PlotRangeTo 0; leave -> 1-2000 sample 0 edited whole
+type PlotRangeFrom 1; type PlotRangeTo 1; leave -> 1-1 sample 0 edited
+type PlotRangeFrom 2000; type PlotRangeTo 2000; leave -> 2000-2000 sample 0 edited
+type PlotRangeFrom 2001; type PlotRangeTo 2001; leave -> 1-2000 sample 0 edited whole
+step updPlotRangeTo down -> 1-1999 sample 7 edited
+step updPlotRangeFrom down -> 1-1999 sample 7
+step updPlotRangeTo up -> 1-2000 sample 7 edited whole
+step updPlotRangeTo up -> 1-2000 sample 7 whole
+step updPlotRangeFrom up -> 2-2000 sample 7 edited
+)");
   range.Clear();
   EXPECT_EQ(Range(), "-");
   EXPECT_FALSE(updPlotRangeTo.Enabled());

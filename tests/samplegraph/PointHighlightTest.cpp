@@ -1,117 +1,76 @@
-#include "GraphWithList.h"
-#include "samplegraph/PointHighlight.h"
+#include "WholeGraph.h"
 
 namespace tarnview {
 namespace {
 
-/// Curves of RPM (falling), MAP and Knock (rising) over ten samples.
-class PointHighlightTest : public GraphWithList, protected PointHighlight::MainWindow {
+/// Curves of Knock (rising), MAP and RPM (falling) over samples 11 to 20 of 30.
+class PointHighlightTest : public WholeGraph {
  protected:
   PointHighlightTest() {
-    details.SetUpSampleGraphSampleListView(kFMLinkLog, catalogue.gcolFixedDataItems);
-    Open(30);
-    Type(11, 20);
-    Draw();
-    drawn.intPlottedItems = {3, 5, 20};
-    drawn.varChartData.headings = {"RPM", "MAP", "Knock"};
-    drawn.varChartData.y.resize(3);
-    for (int row = 0; row < 10; ++row) {
-      drawn.varChartData.x.push_back(row);
-      drawn.varChartData.y[0].push_back(90 - 10 * row);
-      drawn.varChartData.y[1].push_back(45);
-      drawn.varChartData.y[2].push_back(10 * row);
+    OpenLog(30);
+    details.SetCheckedItems({3, 5, 20});
+    for (int row = 0; row < 30; ++row) {
+      log.glngDataLog.Set(kRPM, row, 100 * (110 - 10 * (row - 9)));
+      log.glngDataLog.Set(kMAP, row, 450);
+      log.glngDataLog.Set(kKnock, row, 10 * std::max(row - 10, 0));
     }
-    drawn.lngChartRow = 11;
+    Draw("11", "20");
   }
-  void ScrollOneStep(int direction) override { notes += direction < 0 ? " left" : " right"; }
-  void SampleShown(std::int32_t index) override { notes += " " + std::to_string(index); }
-  std::string Notes() { return std::exchange(notes, ""); }
-  std::string RowSelected() { return lvwSampleDetails.At(lvwSampleDetails.SelectedRow()).texts[0]; }
-
-  PointHighlight highlight{{chSampleGraph}, drawn, selection, range, log, details, status, *this};
-  std::string notes;
+  /// Where the selection stands, and what the list and the foot say of it.
+  std::string Told() const {
+    std::string told = Range();
+    told += " point " + std::to_string(selection.lngSelectedPoint());
+    told += " of " + lvwSampleDetails.At(lvwSampleDetails.SelectedRow()).texts[0];
+    told += " (item " + std::to_string(selection.intSelectedItem());
+    told += ", curve " + std::to_string(chSampleGraph.SelectedSeries());
+    told += "), sample " + std::to_string(selection.lngHighlightSample());
+    told += ", list at " + Shown("1");
+    if (highlight.CanGoLeft()) told += " <";
+    if (highlight.CanGoRight()) told += " >";
+    return told;
+  }
 };
 
-TEST_F(PointHighlightTest, APointTellsItsSampleAndItsCurve) {
-  chSampleGraph.SelectPoint(3, 4);
-  EXPECT_EQ(Notes(), " 13");
-  EXPECT_EQ(selection.lngHighlightSample(), 14);
-  EXPECT_EQ(selection.intSelectedItem(), 5);
-  EXPECT_EQ(RowSelected(), "MAP");
-  EXPECT_EQ(lvwSampleDetails.At(lvwSampleDetails.RowOfTag("1")).texts[1], "14");
-  EXPECT_TRUE(bar.Panel(1).starts_with("Sample: 14, Secs: ")) << bar.Panel(1);
+TEST_F(PointHighlightTest, WalksFromPointToPointAndFromCurveToCurve) {
+  const auto told = [this](const TableRow& row) {
+    Draw(row.Text(0), row.Text(1));
+    Do(row.Text(2));
+    return Told();
+  };
+  ExpectTable(told, R"(
+11, 20, point chSampleGraph 3 4 -> 11-20 point 4 of MAP (item 5, curve 3), sample 14, list at 14 < >
+11, 20, point chSampleGraph 1 5; point_left -> 11-20 point 4 of Knock (item 20, curve 1), sample 14, list at 14 < >
+11, 20, point chSampleGraph 1 5; point_right -> 11-20 point 6 of Knock (item 20, curve 1), sample 16, list at 16 < >
+# At an end the graph scrolls by a step.
+11, 20, point chSampleGraph 1 1; point_left -> 10-18 point 2 of Knock (item 20, curve 1), sample 11, list at 11 < >
+11, 20, point chSampleGraph 1 10; point_right -> 12-20 point 9 of Knock (item 20, curve 1), sample 20, list at 20 < >
+1, 10, point chSampleGraph 1 1; point_left -> 1-10 point 1 of Knock (item 20, curve 1), sample 1, list at 1 >
+1, 10, point chSampleGraph 1 2 -> 1-10 point 2 of Knock (item 20, curve 1), sample 2, list at 2 < >
+21, 30, point chSampleGraph 1 9 -> 21-30 point 9 of Knock (item 20, curve 1), sample 29, list at 29 < >
+21, 30, point chSampleGraph 1 10; point_right -> 21-30 point 10 of Knock (item 20, curve 1), sample 30, list at 30 <
+# Curves by their height there: Knock, MAP and RPM are 1, 3 and 5.
+11, 20, point chSampleGraph 1 1; lower -> 11-20 point 1 of Knock (item 20, curve 1), sample 11, list at 11 < >
+11, 20, point chSampleGraph 3 1; lower -> 11-20 point 1 of Knock (item 20, curve 1), sample 11, list at 11 < >
+11, 20, point chSampleGraph 5 1; lower -> 11-20 point 1 of MAP (item 5, curve 3), sample 11, list at 11 < >
+11, 20, point chSampleGraph 1 1; higher -> 11-20 point 1 of MAP (item 5, curve 3), sample 11, list at 11 < >
+11, 20, point chSampleGraph 1 10; higher -> 11-20 point 10 of Knock (item 20, curve 1), sample 20, list at 20 < >
+11, 20, point chSampleGraph 5 10; higher -> 11-20 point 10 of MAP (item 5, curve 3), sample 20, list at 20 < >
+# A row of the list moves to its curve and nothing else.
+11, 20, point chSampleGraph 5 4; row lvwSampleDetails Knock -> 11-20 point 4 of Knock (item 20, curve 1), sample 14, list at 14 < >
+11, 20, point chSampleGraph 5 4; row lvwSampleDetails Sample -> 11-20 point 4 of Sample (item 3, curve 5), sample 14, list at 14 < >
+11, 20, point chSampleGraph 5 4; row lvwSampleDetails A/F -> 11-20 point 4 of A/F (item 3, curve 5), sample 14, list at 14 < >
+11, 20, no_point; row lvwSampleDetails MAP -> 11-20 point 0 of MAP (item 3, curve 5), sample 14, list at 14 < >
+)");
+  EXPECT_EQ(foot.Panel(1), "Sample: 14, Secs: 1.147");
+}
+
+TEST_F(PointHighlightTest, ThinnedRowsAndLostHeadingsStayInTheLog) {
   drawn.intThinStep = 4;
-  chSampleGraph.SelectPoint(1, 9);
+  Do("point chSampleGraph 1 9");
   EXPECT_EQ(selection.lngHighlightSample(), 30) << "never beyond the log";
   drawn.varChartData.headings = {"gone"};
-  chSampleGraph.SelectPoint(1, 1);
+  Do("point chSampleGraph 3 1");
   EXPECT_EQ(selection.intSelectedItem(), 3) << "RPM, where the heading is no item's";
-}
-
-TEST_F(PointHighlightTest, WalksFromPointToPointAndScrollsAtTheEnds) {
-  const struct {
-    int point;
-    void (PointHighlight::*step)();
-    int then;
-    const char* notes;
-  } kRows[] = {{5, &PointHighlight::cmdDataPointLeft_Click, 4, " 13"},
-               {5, &PointHighlight::cmdDataPointRight_Click, 6, " 15"},
-               {1, &PointHighlight::cmdDataPointLeft_Click, 1, " left"},
-               {10, &PointHighlight::cmdDataPointRight_Click, 10, " right"}};
-  for (const auto& row : kRows) {
-    chSampleGraph.SelectPoint(1, row.point);
-    Notes();
-    (highlight.*row.step)();
-    EXPECT_EQ(selection.lngSelectedPoint(), row.then) << row.point;
-    EXPECT_EQ(Notes(), row.notes) << row.point;
-  }
-}
-
-TEST_F(PointHighlightTest, MayWalkAsFarAsTheLogGoes) {
-  const struct {
-    int from, point;
-    bool left, right;
-  } kRows[] = {{1, 1, false, true},
-               {1, 2, true, true},
-               {2, 1, true, true},
-               {21, 9, true, true},
-               {21, 10, true, false}};
-  for (const auto& row : kRows) {
-    Type(row.from, row.from + 9);
-    selection.Select(1, row.point, 3);
-    EXPECT_EQ(highlight.CanGoLeft(), row.left) << row.from << " " << row.point;
-    EXPECT_EQ(highlight.CanGoRight(), row.right) << row.from << " " << row.point;
-  }
-}
-
-TEST_F(PointHighlightTest, WalksFromCurveToCurveByTheirHeight) {
-  const struct {
-    int point, series, direction, then;
-  } kRows[] = {{1, 1, -1, 3}, {1, 3, -1, 5}, {1, 5, -1, 5}, {1, 1, 1, 1},
-               {10, 1, 1, 3}, {10, 3, 1, 5}, {10, 5, 1, 5}};
-  for (const auto& row : kRows) {
-    chSampleGraph.SelectPoint(row.series, row.point);
-    highlight.MoveBetweenSeries(row.direction);
-    EXPECT_EQ(selection.intSelectedSeries(), row.then)
-        << row.point << " " << row.series << " " << row.direction;
-    EXPECT_EQ(selection.lngSelectedPoint(), row.point);
-  }
-}
-
-TEST_F(PointHighlightTest, ARowOfTheListMovesToItsCurveAndNothingElse) {
-  chSampleGraph.SelectPoint(1, 4);
-  selection.Highlight(99);
-  Notes();
-  lvwSampleDetails.Do({"row", {"Knock"}});
-  EXPECT_EQ(chSampleGraph.SelectedSeries(), 5);
-  EXPECT_EQ(selection.intSelectedItem(), 20);
-  EXPECT_EQ(selection.lngSelectedPoint(), 4);
-  EXPECT_EQ(selection.lngHighlightSample(), 99);
-  EXPECT_EQ(Notes(), "");
-  for (const char* other : {"Sample", "A/F"}) {
-    lvwSampleDetails.Do({"row", {other}});
-    EXPECT_EQ(chSampleGraph.SelectedSeries(), 5) << other;
-  }
 }
 
 }  // namespace

@@ -5,8 +5,6 @@
 namespace tarnview {
 namespace {
 
-using Ids = std::vector<int>;
-
 class PresetGraphsTest : public WholeGraph, protected PresetGraphs::MainWindow {
  protected:
   PresetGraphsTest() {
@@ -16,14 +14,21 @@ class PresetGraphsTest : public WholeGraph, protected PresetGraphs::MainWindow {
     OpenLog(50);
     details.SetCheckedItems({3, 5});
     list.PopulatePresetGraphs(false, kFMLinkLog);
-  }
-  Ids Ticked() const {
-    Ids items;
-    for (const auto& row : lvwSampleDetails.Rows())
-      if (row.checked) items.push_back(std::stoi(row.tag));
-    return items;
+    verbs["update"] = [this] { list.UpdatePreset(); };
+    verbs["add"] = [this] { list.AddPreset("Mine", kFMLinkLog); };
   }
   void DrawGraphChecked() override { graph.DrawGraphChecked(); }
+  std::string Told() {
+    std::string told = "ticked " + Ticked() + (chkFixY.Value() ? "fixed " : "") + txtYMax.Text() +
+                       ", " + std::to_string(lvwSampleDetails.Count()) + " rows";
+    for (int n = 1; n <= presets.Count(); ++n) {
+      const clsSampleGraphPreset& one = presets.Item(n);
+      told += "; " + one.strName + " " + std::to_string(one.lngLogFamily) + ":";
+      for (const int item : one.colDataItems) told += " " + std::to_string(item);
+      told += std::string(one.blnFixGraphMax ? " to " : " not ") + std::to_string(one.lngGraphMax);
+    }
+    return told;
+  }
 
   clsSampleGraphPresets presets;
   ListView lvwPresets{window, "lvwPresets", {{"Preset Graphs"}}};
@@ -33,48 +38,37 @@ class PresetGraphsTest : public WholeGraph, protected PresetGraphs::MainWindow {
                     *this};
 };
 
-TEST_F(PresetGraphsTest, OneTicksItsItemsAndIsDrawnByADoubleClick) {
-  Do("click chkShowCheckedOnly\nrow lvwPresets Knock");
+TEST_F(PresetGraphsTest, GiveAndTakeWhatIsTicked) {
   ASSERT_EQ(lvwPresets.Count(), 2);
-  EXPECT_EQ(Ticked(), (Ids{20, 3}));  // in the order of the list
-  EXPECT_EQ(lvwSampleDetails.Count(), 2);
-  EXPECT_TRUE(chkFixY.Value() && chkShowCheckedOnly.Value());
+  const auto told = [this](const TableRow& row) {
+    Do(row.Text(0));
+    return Told();
+  };
+  ExpectTable(told, R"(
+update -> ticked 5 3 , 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+row lvwPresets Knock -> ticked 20 3 fixed 120, 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+click chkShowCheckedOnly -> ticked 20 3 fixed 120, 2 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+row lvwPresets None -> ticked 10, 0 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+row lvwPresets Knock; click chkShowCheckedOnly -> ticked 20 3 fixed 120, 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+tick lvwSampleDetails MAP on; type txtYMax 7x5; click chkFixY; update -> ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10
+add -> ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10; Mine 1: 20 5 3 not 75
+)");
   EXPECT_TRUE(chSampleGraph.Data().Series().empty());
   Do("double lvwPresets Knock");
-  EXPECT_EQ(chSampleGraph.Data().Series().size(), 2u);
-  EXPECT_EQ(chSampleGraph.Data().y.max, 120);
-  Do("row lvwPresets None");
-  EXPECT_EQ(Ticked(), (Ids{}));
-  EXPECT_FALSE(chkFixY.Value());
-}
-
-TEST_F(PresetGraphsTest, OneTakesWhatIsTicked) {
-  list.UpdatePreset();  // none selected
-  EXPECT_EQ(presets.Item(1).colDataItems, (Ids{20, 3}));
-  Do("row lvwPresets Knock\ntick lvwSampleDetails MAP on\ntype txtYMax 7x5\nclick chkFixY");
-  list.UpdatePreset();
-  list.AddPreset("Mine", kFMLinkLog);
-  for (const int preset : {1, 4}) {
-    EXPECT_EQ(presets.Item(preset).colDataItems, (Ids{20, 5, 3}));
-    EXPECT_EQ(presets.Item(preset).lngGraphMax, 75);
-    EXPECT_FALSE(presets.Item(preset).blnFixGraphMax);
-    EXPECT_EQ(presets.Item(preset).lngLogFamily, 1);
-  }
-  EXPECT_EQ(presets.Item(4).strName, "Mine");
+  EXPECT_EQ(chSampleGraph.Data().Series().size(), 3u);
 }
 
 TEST_F(PresetGraphsTest, ANewOneIsAskedForItsName) {
-  const std::tuple<const char*, const char*, bool> rows[] = {
-      {"type txtName  \nclick cmdOK\nclick cmdCancel", "New", false},
-      {"type txtName Mine\nclick cmdOK", "Mine", true}};
-  for (const auto& [actions, name, accepted] : rows) {
-    frmNewPresetName asked(host, messages, "New");
-    asked.Show();
-    Act(asked, actions);
-    EXPECT_EQ(asked.Accepted(), accepted);
-    EXPECT_TRUE(!accepted || asked.strName() == name);
-    EXPECT_EQ(Boxes(), accepted ? Ids{} : Ids{41});
-  }
+  const auto asked = [this](const TableRow& row) {
+    frmNewPresetName asks(host, messages, "New");
+    asks.Show();
+    Do(row.Text(0));
+    return (asks.Accepted() ? "accepted " + asks.strName() : "no") + Boxes();
+  };
+  ExpectTable(asked, R"(
+type txtName " "; click cmdOK; click cmdCancel -> no [41]
+type txtName Mine; click cmdOK -> accepted Mine
+)");
 }
 
 }  // namespace

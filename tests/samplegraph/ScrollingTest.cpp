@@ -1,106 +1,81 @@
-#include "GraphStandIn.h"
-#include "samplegraph/Scrolling.h"
+#include "WholeGraph.h"
 
 namespace tarnview {
 namespace {
 
-class ScrollingTest : public GraphStandIn, protected Scrolling::MainWindow {
- protected:
-  void DrawSampleGraph() override {
-    Draw();
-    scrolling.SetUp();
-  }
-  void Show(int samples, int from, int to) {
-    Open(samples);
-    scrolling.TakeLog();
-    Type(from, to);
-    DrawSampleGraph();
-  }
-
-  ScrollBar hsbGraphScroll{window, "hsbGraphScroll"};
-  ScrollBar hsbGraphScrollLarge{window, "hsbGraphScrollLarge"};
-  Scrolling scrolling{{hsbGraphScroll, hsbGraphScrollLarge}, drawn, selection, range, log, *this};
-};
+using ScrollingTest = WholeGraph;
 
 TEST_F(ScrollingTest, MovesTheRangeOnEitherBar) {
-  const struct {
-    void (Scrolling::*move)();
-    int from, to;
-    const char* range;
-    bool left, right;
-  } kRows[] = {
-      {&Scrolling::ScrollLeft, 501, 601, "491-591", true, true},
-      {&Scrolling::ScrollRight, 501, 601, "511-611", true, true},
-      {&Scrolling::PageLeft, 501, 601, "401-501", true, true},
-      {&Scrolling::PageRight, 501, 601, "601-701", true, true},
-      {&Scrolling::ScrollStart, 501, 601, "1-101", false, true},
-      {&Scrolling::ScrollFinish, 501, 601, "last", true, false},
-      {&Scrolling::ScrollLeft, 5, 105, "1-101", false, true},
-      {&Scrolling::PageLeft, 90, 190, "1-101", false, true},
-      {&Scrolling::ScrollRight, 501, 504, "502-506", true, true},
+  const auto moved = [this](const TableRow& row) {
+    const std::string told = Moved(row);
+    return told + (scrolling.CanGoLeft() ? " left" : "") + (scrolling.CanGoRight() ? " right" : "");
   };
-  for (const int samples : {2000, 32701, 32702, 300000})
-    for (const auto& row : kRows) {
-      Show(samples, row.from, row.to);
-      EXPECT_EQ(hsbGraphScrollLarge.Visible(), samples > 32701);
-      (scrolling.*row.move)();
-      const std::string last = std::to_string(samples - 100) + "-" + std::to_string(samples);
-      EXPECT_EQ(Range(), row.range == std::string("last") ? last : row.range)
-          << samples << " " << row.from;
-      EXPECT_EQ(scrolling.CanGoLeft(), row.left) << samples << " " << row.range;
-      EXPECT_EQ(scrolling.CanGoRight(), row.right) << samples << " " << row.range;
-    }
+  for (const int samples : {2000, 32701, 32702, 300000}) {
+    OpenLog(samples);
+    EXPECT_EQ(longBar.Visible(), samples > 32701);
+    EXPECT_EQ(bar.Visible(), samples <= 32701);
+    ExpectTable(moved, R"(
+501, 601, left -> 491-591 left right | 501, 601, right -> 511-611 left right | 501, 601, page_left -> 401-501 left right
+501, 601, page_right -> 601-701 left right | 501, 601, start -> 1-101 right | 501, 601, finish; start; right -> 11-111 left right
+5, 105, left -> 1-101 right | 90, 190, page_left -> 1-101 right | 501, 504, right -> 502-506 left right
+)");
+    Do("finish");
+    EXPECT_EQ(Range(), std::to_string(samples - 4) + "-" + std::to_string(samples));
+    EXPECT_FALSE(scrolling.CanGoRight());
+  }
 }
 
-TEST_F(ScrollingTest, StepsFollowTheWidth) {
-  for (const auto& [to, large, small] :
-       {std::tuple{501, 1, 1}, {505, 4, 1}, {515, 14, 1}, {526, 25, 2}, {601, 100, 10}}) {
-    Show(2000, 501, to);
-    EXPECT_EQ(hsbGraphScroll.LargeChange(), large) << to;
-    EXPECT_EQ(hsbGraphScroll.SmallChange(), small) << to;
-  }
-  EXPECT_EQ(hsbGraphScroll.Min(), 50);
-  EXPECT_EQ(hsbGraphScroll.Max(), 1949);
-  EXPECT_EQ(hsbGraphScroll.Value(), 550);
+/// A thumb may be let go where the bar does not reach any more: a zoom came in between.
+TEST_F(ScrollingTest, StepsFollowTheWidthAndAThumbIsBroughtBack) {
+  OpenLog(2000);
+  const auto told = [this](const TableRow& row) {
+    Draw(row.Text(0), row.Text(1));
+    std::string all = "bar";
+    for (const int one : {bar.Min(), bar.Max(), bar.Value(), bar.LargeChange(), bar.SmallChange()})
+      all += " " + std::to_string(one);
+    if (row.Count() <= 2) return all;
+    bar.Value = row.Int(2);
+    return all + ", " + Range();
+  };
+  ExpectTable(told, R"(
+501, 503 -> bar 1 1998 501 2 1 | 501, 505 -> bar 2 1997 502 4 1 | 501, 515 -> bar 7 1992 507 14 1
+501, 526 -> bar 12 1986 512 25 2 | 501, 601 -> bar 50 1949 550 100 10 | 501, 601, 5 -> bar 50 1949 550 100 10, 1-101
+501, 601, 1999 -> bar 50 1949 550 100 10, 1900-2000 | 501, 601, 1000 -> bar 50 1949 550 100 10, 951-1051 | 1, 2000, 1500 -> bar 1000 1000 1000 1999 200, 1-2000
+)");
 }
 
-TEST_F(ScrollingTest, AThumbLetGoBeyondTheBarIsBroughtBack) {
-  Show(2000, 501, 601);
-  for (const auto& [place, shown] :
-       {std::pair{5, "1-101"}, {1999, "1900-2000"}, {1000, "951-1051"}}) {
-    hsbGraphScroll.Value = place;
-    EXPECT_EQ(Range(), shown) << place;
-  }
-  Show(2000, 1, 2000);
-  hsbGraphScroll.Value = 1500;
-  EXPECT_EQ(Range(), "1-2000");
-}
-
-TEST_F(ScrollingTest, ASampleOutsideTheRangeIsForgotten) {
-  for (const auto& [sample, kept] : {std::pair{510, 0}, {511, 511}, {611, 611}, {612, 0}}) {
-    Show(2000, 501, 601);
-    selection.Highlight(sample);
-    scrolling.ScrollRight();
-    EXPECT_EQ(selection.lngHighlightSample(), kept) << sample;
-  }
+TEST_F(ScrollingTest, ASampleOutsideTheRangeIsForgottenForTheMiddle) {
+  OpenLog(2000);
+  const auto sample = [this](const TableRow& row) {
+    const std::string told = Moved(row);
+    return told + " sample " + std::to_string(selection.lngHighlightSample());
+  };
+  ExpectTable(sample, R"(
+501, 601, point chSampleGraph 1 10; right -> 511-611 sample 561
+501, 601, point chSampleGraph 1 11; right -> 511-611 sample 511
+501, 601, point chSampleGraph 1 91; left -> 491-591 sample 591
+501, 601, point chSampleGraph 1 92; left -> 491-591 sample 541
+)");
 }
 
 TEST_F(ScrollingTest, TheLongBarsThumbShowsTheShare) {
-  Show(300000, 1, 150001);
-  // The thumb is as long, against its way, as what is shown against what it moves over.
-  EXPECT_NEAR(hsbGraphScrollLarge.LargeChange(), 32767, 1);
-  Show(300000, 1, 30001);
-  EXPECT_NEAR(hsbGraphScrollLarge.LargeChange(), 32767 / 9, 2);
-  Show(300000, 1, 3);
-  EXPECT_EQ(hsbGraphScrollLarge.LargeChange(), 2) << "never the small step's";
-  hsbGraphScrollLarge.Value = hsbGraphScrollLarge.Value() + 2;
+  OpenLog(300000);
+  const auto share = [this](const TableRow& row) {
+    Draw("1", row.Text(0));
+    return std::to_string(longBar.LargeChange());
+  };
+  // As long, against its way, as what is shown against what it moves over; never the small step's.
+  ExpectTable(share, R"(
+300000 -> 32767 | 150001 -> 32767 | 30001 -> 3641 | 3 -> 2
+)");
+  longBar.Value = longBar.Value() + 2;
   EXPECT_EQ(Range(), "3-5") << "a page is a page";
 }
 
 TEST_F(ScrollingTest, WithNoLogNothingMoves) {
   scrolling.TakeLog();
-  hsbGraphScroll.Value = 77;
-  EXPECT_EQ(draws, 0);
+  bar.Value = 77;
+  EXPECT_EQ(Range(), "-");
 }
 
 }  // namespace

@@ -1,39 +1,58 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cmath>
+#include <map>
 #include <string>
 
-#include "GraphWithList.h"
+#include "model/Catalogue.h"
+#include "model/Column.h"
+#include "model/clsFileTypes.h"
 #include "samplegraph/GraphMouse.h"
 #include "samplegraph/PointHighlight.h"
 #include "samplegraph/SampleGraph.h"
+#include "samplegraph/Scrolling.h"
 #include "samplegraph/Zoom.h"
-#include "support/WindowActions.h"
+#include "support/Table.h"
+#include "ui/ProgressBar.h"
+#include "ui/RecordingHost.h"
+#include "ui/Script.h"
+#include "ui/ScriptUser.h"
 
 namespace tarnview {
 
-/// The parts of the Sample Graph put together as the main window does it, over samples that are
-/// 81.92 ms apart. RPM is 1000 and the sample's number; RPM and Knock are ticked.
-class WholeGraph : public GraphWithList,
+/// The parts of the Sample Graph put together as the main window does it, over samples from 1 that
+/// are 81.92 ms apart. RPM is 1000 and the sample's number; RPM and Knock are ticked.
+class WholeGraph : public ::testing::Test,
                    protected SampleGraph::MainWindow,
                    protected PointHighlight::MainWindow,
                    protected GraphMouse::MainWindow,
-                   protected Zoom::MainWindow {
+                   protected Zoom::MainWindow,
+                   protected Scrolling::MainWindow {
  protected:
   WholeGraph() {
+    window.Show();
     chkQuickGraph.Value = true;
     cmdZoomFull.Click = [this] { zoom.cmdZoomFull_Click(); };
   }
   void OpenLog(int samples) {
     details.SetUpSampleGraphSampleListView(kFMLinkLog, catalogue.gcolFixedDataItems);
     details.SetCheckedItems({3, 20});
-    Open(samples);
+    log.Clear(catalogue.gcolFixedDataItems, samples);
     for (int row = 0; row < samples; ++row) {
+      log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), row + 1);
       log.glngDataLog.Set(kSecs, row, static_cast<int>(std::lround((row + 1) * 819.2)));
       log.glngDataLog.Set(kRPM, row, 1001 + row);
     }
+    log.glngLastSample = samples - 1;
+    log.glngFirstSampleTime = 1;
+    log.glngLastSampleTime = samples;
+    log.gblnSamplesLoaded = true;
     log.gintCurrentFileType = kFMLinkLog;
     log.gstrCurrentFile = "/logs/run.txt";
+    range.TakeLog();
+    scrolling.TakeLog();
     redraw.Force();
   }
   void Draw(const std::string& from, const std::string& to) {
@@ -41,22 +60,42 @@ class WholeGraph : public GraphWithList,
     PlotRangeTo.Text = to;
     graph.DrawGraphChecked();
   }
-  void Do(const std::string& actions) { Act(window, actions); }
-  std::string Said() const { return bar.Panel(1); }
+  /// What a user does, "type txtYMax 7; click chkFixY", and verbs for what buttons call.
+  void Do(const std::string& steps) {
+    for (const ScriptLine& line : ParseScript(Join(Split(steps, ';'), "\n")))
+      if (const auto own = verbs.find(line.words[0]); own != verbs.end())
+        own->second();
+      else
+        user.Work(line.words);
+  }
+  /// A row: a range to draw and what is done then; the range and the boxes that come of it.
+  std::string Moved(const TableRow& row) {
+    Draw(row.Text(0), row.Text(1));
+    if (row.Count() > 2) Do(row.Text(2));
+    return Range() + Boxes();
+  }
+  std::string Range() const { return range.FromText() + "-" + range.ToText(); }
+  /// The ids of the boxes since the last call, " [1]" each.
+  std::string Boxes() {
+    std::string told;
+    for (const Box& box : std::exchange(host.messages, {}))
+      told += " [" + std::to_string(box.id) + "]";
+    return told;
+  }
   std::string Shown(const char* item) const {
     return lvwSampleDetails.At(lvwSampleDetails.RowOfTag(item)).texts[1];
   }
-  /// The ids of the boxes since the last call.
-  std::vector<int> Boxes() {
-    std::vector<int> ids;
-    for (const Box& box : host.messages) ids.push_back(box.id);
-    host.messages.clear();
-    return ids;
+  /// The data items ticked in the list, "3 20 ".
+  std::string Ticked() const {
+    std::string items;
+    for (const auto& row : lvwSampleDetails.Rows())
+      if (row.checked) items += row.tag + " ";
+    return items;
   }
 
-  void SetUpScrollBar() override {}
+  void SetUpScrollBar() override { scrolling.SetUp(); }
   void GraphDrawn() override {}
-  void ScrollOneStep(int) override {}
+  void ScrollOneStep(int direction) override { scrolling.ScrollOneStep(direction); }
   void SampleShown(std::int32_t) override {}
   void DrawGraphChecked() override { graph.DrawGraphChecked(); }
   void DrawSampleGraph() override { graph.DrawSampleGraph(); }
@@ -64,15 +103,39 @@ class WholeGraph : public GraphWithList,
     graph.DrawSampleGraphAfter(history);
   }
 
-  Settings settings;
+  Catalogue catalogue = BuildDataItemCatalogue();
+  FileKinds kinds = SetUpLogFamilies();
+  RecordingHost host;
+  ScriptUser user{host};
   Messages messages{host, [](int) { return ""; }};
-  CheckBox chkQuickGraph{window, "chkQuickGraph", ""};
-  CheckBox chkFixY{window, "chkFixY", ""};
+  Settings settings;
+  tarnview::OpenLog log;
+  DrawnGraph drawn;
+  Selection selection;
+  RedrawRequest redraw;
+  Form window{host, "frmStandIn", ""};
+  TextBox PlotRangeFrom{window, "PlotRangeFrom"}, PlotRangeTo{window, "PlotRangeTo"};
+  UpDown updPlotRangeFrom{window, "updPlotRangeFrom"}, updPlotRangeTo{window, "updPlotRangeTo"};
+  ListView lvwSampleDetails{window, "lvwSampleDetails", {{"Item"}, {"Value", true}}, true};
+  CheckBox chkShowCheckedOnly{window, "chkShowCheckedOnly", ""};
+  CheckBox chkQuickGraph{window, "chkQuickGraph", ""}, chkFixY{window, "chkFixY", ""};
   TextBox txtYMax{window, "txtYMax"};
   UpDown updYMax{window, "updYMax"};
   ComboBox cboZoomAmount{window, "cboZoomAmount", true};
   CommandButton cmdZoomFull{window, "cmdZoomFull", ""};
   Frame fraPicture{window, "fraPicture"};
+  Chart chSampleGraph{window, "chSampleGraph"};
+  ScrollBar bar{window, "bar"}, longBar{window, "longBar"};
+  StatusBar foot{window, "foot", 3};
+  ProgressBar progress{window, "progress"};
+  StatusArea status{window, foot, progress};
+  PlotRange range{
+      {PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log, selection, redraw};
+  SampleDetails details{{lvwSampleDetails, chkShowCheckedOnly, chSampleGraph},
+                        drawn,
+                        selection,
+                        log,
+                        kinds.gcolLogFamilies};
   SampleGraph graph{
       window,
       {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture},
@@ -87,6 +150,25 @@ class WholeGraph : public GraphWithList,
   Zoom zoom{{cboZoomAmount, chkQuickGraph}, drawn, selection, range, log, messages, *this};
   GraphMouse mouse{
       {chSampleGraph, chkQuickGraph, cmdZoomFull}, drawn, selection, range, log, highlight, *this};
+  Scrolling scrolling{{bar, longBar}, drawn, selection, range, log, *this};
+
+  std::map<std::string, std::function<void()>> verbs = {
+      {"in", [this] { zoom.cmdZoomIn_Click(); }},
+      {"out", [this] { zoom.cmdZoomOut_Click(); }},
+      {"back", [this] { zoom.ShowPreviousGraph(); }},
+      {"left", [this] { scrolling.ScrollLeft(); }},
+      {"right", [this] { scrolling.ScrollRight(); }},
+      {"page_left", [this] { scrolling.PageLeft(); }},
+      {"page_right", [this] { scrolling.PageRight(); }},
+      {"start", [this] { scrolling.ScrollStart(); }},
+      {"finish", [this] { scrolling.ScrollFinish(); }},
+      {"point_left", [this] { highlight.cmdDataPointLeft_Click(); }},
+      {"point_right", [this] { highlight.cmdDataPointRight_Click(); }},
+      {"lower", [this] { highlight.MoveBetweenSeries(-1); }},
+      {"higher", [this] { highlight.MoveBetweenSeries(1); }},
+      {"no_point", [this] { selection.ForgetPoint(); }},
+      {"leave", [this] { window.SetFocus(nullptr); }},
+  };
 };
 
 }  // namespace tarnview

@@ -1,42 +1,28 @@
-#include <gtest/gtest.h>
-
+#include "base/Numbers.h"
 #include "model/Catalogue.h"
 #include "model/Column.h"
 #include "samplegraph/ZoneInfluence.h"
 #include "samplegraph/ZoneInfluencePanel.h"
+#include "support/Table.h"
 #include "ui/Form.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
 
-std::string Names(const ZoneInfluence& found) {
-  return found.lowerLow + " " + found.lowerHigh + " " + found.upperLow + " " + found.upperHigh;
-}
-
 TEST(ZoneInfluenceTest, NamesTheFourZonesAndPlacesTheSample) {
-  const struct {
-    double rpm, kPa;
-    bool sixRows;
-    const char* names;
-    double up, across;
-  } kRows[] = {
-      // clang-format off
-      {2600, 60, false, "220 225 320 325", 0, 0.7},    {2499, 39.5, false, "120 125 220 225", 0.4875, 0.498},
-      {2250, 60, false, "220 225 320 325", 0, 0},      {2749, 60, false, "220 225 320 325", 0, 0.998},
-      {100, 20, false, "100 105 200 205", 0, 0},       {7800, 500, false, "570 575 670 675", 0.975, 0.998},
-      {3000, 10, false, "025 030 125 130", 0.75, 0.5}, {3000, 30, true, "125 130 225 230", 0, 0.5},
-      {3000, 43, true, "125 130 225 230", 1, 0.5},     {3000, 69, true, "325 330 425 430", 1, 0.5},
-      {3000, 83, true, "425 430 525 530", 1, 0.5},     {3000, 83.5, true, "525 530 625 630", -0.5 / 12, 0.5},
-      {3000, 200, true, "525 530 625 630", 1, 0.5},    {3000, 10, true, "125 130 225 230", 0, 0.5},
-      // clang-format on
+  const auto told = [](const TableRow& row) {
+    const ZoneInfluence found = FindZoneInfluence(row.Number(0), row.Number(1), row.Count() > 2);
+    return found.lowerLow + " " + found.lowerHigh + " " + found.upperLow + " " + found.upperHigh +
+           ", up " + FixedText(found.up, 4) + ", across " + FixedText(found.across, 4);
   };
-  for (const auto& row : kRows) {
-    const ZoneInfluence found = FindZoneInfluence(row.rpm, row.kPa, row.sixRows);
-    EXPECT_EQ(Names(found), row.names) << row.rpm << " " << row.kPa;
-    EXPECT_DOUBLE_EQ(found.up, row.up) << row.rpm << " " << row.kPa;
-    EXPECT_NEAR(found.across, row.across, 1e-9) << row.rpm << " " << row.kPa;
-  }
+  ExpectTable(told, R"(
+2600, 60 -> 220 225 320 325, up 0.0000, across 0.7000 | 2499, 39.5 -> 120 125 220 225, up 0.4875, across 0.4980 | 2250, 60 -> 220 225 320 325, up 0.0000, across 0.0000
+2749, 60 -> 220 225 320 325, up 0.0000, across 0.9980 | 100, 20 -> 100 105 200 205, up 0.0000, across 0.0000 | 7800, 500 -> 570 575 670 675, up 0.9750, across 0.9980
+3000, 10 -> 025 030 125 130, up 0.7500, across 0.5000 | 3000, 30, six -> 125 130 225 230, up 0.0000, across 0.5000 | 3000, 43, six -> 125 130 225 230, up 1.0000, across 0.5000
+3000, 69, six -> 325 330 425 430, up 1.0000, across 0.5000 | 3000, 83, six -> 425 430 525 530, up 1.0000, across 0.5000 | 3000, 83.5, six -> 525 530 625 630, up -0.0417, across 0.5000
+3000, 200, six -> 525 530 625 630, up 1.0000, across 0.5000 | 3000, 10, six -> 125 130 225 230, up 0.0000, across 0.5000
+)");
 }
 
 TEST(ZoneInfluencePanel, ShowsTheHighlightedSampleWhileItIsWanted) {
@@ -65,22 +51,19 @@ TEST(ZoneInfluencePanel, ShowsTheHighlightedSampleWhileItIsWanted) {
   Selection selection;
   ZoneInfluencePanel panel({window.frame, window.labels, window.picture, window.item, window.draw},
                            selection, log);
-  std::string told;
-  for (const auto& [wanted, sample] :
-       {std::pair{true, 1}, {true, 2}, {true, 0}, {false, 2}, {true, 2}}) {
-    panel.gblnDisplayZoneInfluence = wanted;
-    selection.Highlight(sample);
+  const auto told = [&](const TableRow& row) {
+    panel.gblnDisplayZoneInfluence = row.Text(0) == "on";
+    selection.Highlight(row.Int(1));
     panel.DisplayZoneInfluence();
     panel.RefreshZoneInfluence();
-    for (const auto& label : window.labels) told += label->Caption() + " ";
-    told += std::string(window.frame.Visible() ? "seen" : "") +
-            (window.item.Checked() ? " ticked" : "") + "\n";
-  }
-  EXPECT_EQ(told, R"(105 110 205 210 seen ticked
-115 120 215 220 seen ticked
-115 120 215 220 seen ticked
-115 120 215 220 
-115 120 215 220 seen ticked
+    std::string all;
+    for (const auto& label : window.labels) all += label->Caption() + " ";
+    return all + (window.frame.Visible() ? "seen" : "hidden") +
+           (window.item.Checked() ? " ticked" : "");
+  };
+  ExpectTable(told, R"(
+on, 1 -> 105 110 205 210 seen ticked | on, 2 -> 115 120 215 220 seen ticked | on, 0 -> 115 120 215 220 seen ticked
+off, 1 -> 115 120 215 220 hidden | on, 2 -> 115 120 215 220 seen ticked
 )");
 }
 

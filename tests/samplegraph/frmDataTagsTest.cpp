@@ -1,87 +1,80 @@
-#include <gtest/gtest.h>
-
-#include <optional>
-
 #include "samplegraph/frmDataTags.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
 
 namespace tarnview {
 namespace {
 
+/// The window stays while logs come and go.
 class DataTagsTest : public ::testing::Test, protected frmDataTags::MainWindow {
  protected:
-  bool CurrentRange(clsLogTag& tag) const override {
-    if (range) tag = *range;
-    return range.has_value();
+  DataTagsTest() {
+    const auto whole = [](const std::string& word) { return std::stoi(word); };
+    story.Verb("tag", [=, this](const auto& to) { tags.Add(whole(to[0]), whole(to[1])); });
+    story.Verb("range", [=, this](const auto& to) { range = {whole(to[1]), whole(to[0])}; });
+    story.Verb("no_log", [this](const auto&) {
+      window.LogIsClosing();
+      tags.RemoveAll();
+    });
+    story.Verb("follow", [this](const auto&) { window.FollowOpenLog(); });
+    story.Verb("open", [this](const auto&) { window.Show(); });
+    story.Fact("graph", [this] { return shown; });
+    story.Fact("told", [this] { return std::to_string(told); });
+    story.Fact("tags", [this] { return Tags(); });
   }
-  void ShowRange(const clsLogTag& tag) override { shown = tag.FromSequence; }
-  void TagsChanged() override {}
+  bool CurrentRange(clsLogTag& tag) const override {
+    tag = range;
+    return range.ToSequence > 0;
+  }
+  void ShowRange(const clsLogTag& tag) override {
+    shown = std::to_string(tag.FromSequence) + "-" + std::to_string(tag.ToSequence);
+  }
+  void TagsChanged() override { ++told; }
+  std::string Tags() const {
+    std::string all;
+    for (int n = 1; n <= tags.Count(); ++n)
+      all += (n > 1 ? " " : "") + std::to_string(tags.Item(n).FromSequence);
+    return all;
+  }
 
   RecordingHost host;
   clsLogTags tags;
-  std::optional<clsLogTag> range;
-  int shown = 0;
+  clsLogTag range{0, 0};
+  std::string shown;
+  int told = 0;
   frmDataTags window{host, tags, *this};
+  Story story{host};
 };
 
 TEST_F(DataTagsTest, AddsTheRangeShowsItAndDeletesIt) {
-  tags.Add(10, 20);
-  window.Show();
-  EXPECT_EQ(window.lvwTags.SelectedRow(), 1);
-  window.cmdNew.Press();  // no range within the log
-  EXPECT_EQ(tags.Count(), 1);
-  range = clsLogTag{200, 100};
-  window.cmdNew.Press();
-  EXPECT_EQ(window.lvwTags.SelectedRow(), 2);
-  EXPECT_EQ(window.lvwTags.At(2).texts, (std::vector<std::string>{"100", "200"}));
-
-  window.lvwTags.Do({"double", {"1"}});
-  EXPECT_EQ(shown, 10);
-  window.lvwTags.Do({"row", {"2"}});
-  window.Press({"Enter"});
-  EXPECT_EQ(shown, 100);
-
-  window.lvwTags.Do({"row", {"1"}});
-  window.cmdDelete.Press();
-  EXPECT_EQ(window.lvwTags.At(window.lvwTags.SelectedRow()).texts[0], "100");
-  window.cmdDelete.Press();
-  EXPECT_FALSE(window.cmdShow.Enabled());
-  EXPECT_FALSE(window.cmdDelete.Enabled());
-  window.Press({"F1"});
-  EXPECT_EQ(host.helpTopics.back(), "DataTags");
-  window.Press({"Escape"});
-  EXPECT_FALSE(window.IsShown());
+  EXPECT_STORY(story, R"(
+tag 10 20; open; show cmdShow cmdDelete -> cmdShow=&Show..., cmdDelete=&Delete, +frmDataTags, tags=10
+# No range within the log.
+click cmdNew
+range 100 200; click cmdNew -> told=1, tags=10 100, lvwTags count=2, lvwTags[1] unselected, lvwTags[2]=[100|200], lvwTags[2] selected
+double lvwTags 1 -> graph=10-20, lvwTags[1] selected, lvwTags[2] unselected
+row lvwTags 2; key Enter -> graph=100-200, lvwTags[1] unselected, lvwTags[2] selected
+tag 15 30; follow -> tags=10 100 15
+range 5 9; click cmdNew -> told=2, tags=10 100 15 5, lvwTags count=4, lvwTags[2] unselected, lvwTags[3]=[15|30], lvwTags[3] unselected, lvwTags[4]=[5|9], lvwTags[4] selected
+sort lvwTags From -> lvwTags[1]=[5|9], lvwTags[1] selected, lvwTags[2]=[10|20], lvwTags[4]=[100|200], lvwTags[4] unselected
+double lvwTags 1 -> graph=5-9
+row lvwTags 2; click cmdDelete -> told=3, tags=100 15 5, lvwTags count=3, lvwTags[1]=[100|200], lvwTags[1] unselected, lvwTags[2]=[15|30], lvwTags[2] selected, lvwTags[3]=[5|9], lvwTags[4] selected gone
+click cmdDelete; click cmdDelete; click cmdDelete -> told=6, tags=, lvwTags count=0, cmdShow off, cmdDelete off, lvwTags[1] selected gone, lvwTags[2] selected gone, lvwTags[3] selected gone
+key F1 -> help=DataTags
+key Escape -> -frmDataTags
+)");
 }
 
 TEST_F(DataTagsTest, TheTagsOfALogThatIsGoneAreAListOfTheWindowAlone) {
-  tags.Add(10, 20);
-  tags.Add(30, 40);
-  window.Show();
-  window.LogIsClosing();
-  tags.RemoveAll();
-  tags.Add(500, 600);
-  window.lvwTags.Do({"double", {"2"}});
-  EXPECT_EQ(shown, 30);
-  window.cmdDelete.Press();
-  EXPECT_EQ(window.lvwTags.Count(), 1);
-  EXPECT_EQ(tags.Count(), 1) << "the open log's";
-  window.PopulateList(1);
-  EXPECT_EQ(window.lvwTags.At(1).texts[0], "500");
-  window.LogIsClosing();
-  tags.RemoveAll();
-  range = clsLogTag{200, 100};
-  window.cmdNew.Press();
-  EXPECT_EQ(window.lvwTags.Count(), 1) << "a new tag is one of the open log";
-  EXPECT_EQ(window.lvwTags.At(1).texts[0], "100");
-}
-
-TEST_F(DataTagsTest, ASortedListShowsTheRowsOwnTag) {
-  tags.Add(300, 400);
-  tags.Add(20, 30);
-  window.Show();
-  window.lvwTags.Do({"sort", {"From"}});
-  window.lvwTags.Do({"double", {"1"}});
-  EXPECT_EQ(shown, 20);
+  EXPECT_STORY(story, R"(
+tag 10 20; tag 30 40; open -> +frmDataTags, tags=10 30
+no_log; tag 500 600 -> tags=500
+double lvwTags 2 -> graph=30-40, lvwTags[1] unselected, lvwTags[2] selected
+click cmdDelete -> told=1, lvwTags count=1, lvwTags[1] selected, lvwTags[2] selected gone
+follow -> lvwTags[1]=[500|600]
+no_log; range 100 200 -> tags=
+# A new tag is one of the open log.
+click cmdNew -> told=2, tags=100, lvwTags[1]=[100|200]
+)");
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "model/Catalogue.h"
 #include "model/Column.h"
 #include "samplegraph/ClosestSample.h"
 #include "samplegraph/frmGoto.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -26,55 +25,42 @@ class GotoTest : public ::testing::Test {
 
   const Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
-  RecordingHost host;
 };
 
 TEST_F(GotoTest, TheClosestSampleIsWalkedToFromAGuess) {
-  const struct {
-    std::int32_t time, index;
-  } kRows[] = {{0, 0},     {10000, 0}, {12000, 1}, {15000, 1}, {19999, 1}, {30000, 2},
-               {39999, 2}, {40000, 3}, {44000, 3}, {45000, 4}, {90000, 4}};
-  for (const auto& row : kRows)
-    EXPECT_EQ(ClosestSampleNumberToTime(log, row.time), row.index) << row.time;
+  const auto closest = [this](const TableRow& row) {
+    return std::to_string(ClosestSampleNumberToTime(log, row.Int(0)));
+  };
+  ExpectTable(closest, R"(
+0 -> 0 | 10000 -> 0 | 12000 -> 1 | 15000 -> 1 | 19999 -> 1 | 30000 -> 2 | 39999 -> 2 | 40000 -> 3 | 44000 -> 3 | 45000 -> 4 | 90000 -> 4
+)");
   log.glngLastSample = 0;
   log.glngLastSampleTime = 5;
   EXPECT_EQ(ClosestSampleNumberToTime(log, 99), 0) << "one sample alone";
 }
 
-TEST_F(GotoTest, NumberAndTimeFollowEachOther) {
+TEST_F(GotoTest, NumberAndTimeFollowEachOtherAndEnterTakesThem) {
+  RecordingHost host;
   frmGoto window(host, log, 6, true);
+  Story story(host);
   window.Show();
-  EXPECT_EQ(window.txtSampleTime.Text(), "1.5");
-  const struct {
-    TextBox& box;
-    const char *typed, *number, *time;
-  } kRows[] = {
-      {window.txtSampleNumber, "7", "7", "2"},        {window.txtSampleNumber, "6.5x", "6", "1.5"},
-      {window.txtSampleNumber, "-3", "5", "1"},       {window.txtSampleNumber, "8", "8", "2"},
-      {window.txtSampleNumber, "99999", "11", "4.5"}, {window.txtSampleTime, "4", "10", "4"},
-      {window.txtSampleTime, "-1", "5", "1"},         {window.txtSampleTime, "1e9", "11", "4.5"},
-      {window.txtSampleTime, "x", "5", "1"}};
-  for (const auto& row : kRows) {
-    row.box.Do({"type", {row.typed}});
-    window.cmdCancel.SetFocus();
-    EXPECT_EQ(window.txtSampleNumber.Text() + " " + window.txtSampleTime.Text(),
-              std::string(row.number) + " " + row.time)
-        << row.typed;
-  }
-}
-
-TEST_F(GotoTest, EnterTakesWhatIsTypedAndEscapeNothing) {
-  frmGoto accepted(host, log, 6, false);
-  accepted.Show();
-  accepted.txtSampleTime.SetFocus();
-  accepted.txtSampleTime.Text = std::string("2");
-  accepted.chkShowPointWidth.Value = true;
-  accepted.Press({"Enter"});
-  EXPECT_FALSE(accepted.IsShown());
-  EXPECT_TRUE(accepted.Accepted());
-  EXPECT_EQ(accepted.lngSampleNumber(), 7);
-  EXPECT_TRUE(accepted.blnShowPointWidth());
-
+  EXPECT_STORY(story, R"(
+show txtSampleNumber txtSampleTime chkShowPointWidth -> txtSampleNumber=6, txtSampleTime=1.5, chkShowPointWidth=&Use Show Point Width, chkShowPointWidth checked
+type txtSampleNumber 7 -> txtSampleNumber=7, txtSampleTime=2
+type txtSampleNumber 6.5x -> txtSampleNumber=6, txtSampleTime=1.5
+type txtSampleNumber -3 -> txtSampleNumber=5, txtSampleTime=1
+type txtSampleNumber 8 -> txtSampleNumber=8, txtSampleTime=2
+type txtSampleNumber 99999 -> txtSampleNumber=11, txtSampleTime=4.5
+type txtSampleTime 4 -> txtSampleNumber=10, txtSampleTime=4
+type txtSampleTime -1 -> txtSampleNumber=5, txtSampleTime=1
+type txtSampleTime 1e9 -> txtSampleNumber=11, txtSampleTime=4.5
+type txtSampleTime x -> txtSampleNumber=5, txtSampleTime=1
+click chkShowPointWidth -> chkShowPointWidth unchecked
+write txtSampleTime 2; key Enter -> -frmGoto
+)");
+  EXPECT_TRUE(window.Accepted());
+  EXPECT_EQ(window.lngSampleNumber(), 7);
+  EXPECT_FALSE(window.blnShowPointWidth());
   frmGoto cancelled(host, log, 6, false);
   cancelled.Show();
   cancelled.Press({"Escape"});

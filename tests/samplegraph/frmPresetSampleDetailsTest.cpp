@@ -1,12 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "support/PresetWindows.h"
+#include "support/Story.h"
 
 namespace tarnview {
 namespace {
-
-using Items = std::vector<int>;
 
 class PresetDetailsTest : public PresetWindowsTest {
  protected:
@@ -16,91 +13,73 @@ class PresetDetailsTest : public PresetWindowsTest {
     preset.colDataItems = {5, 3};
     preset.lngGraphMax = 10;
     window.emplace(host, Surroundings(), preset);
+    story.Fact("ticked", [this] { return Ticked(); });
+    story.Fact("disk", [this] { return Join(files.accesses, ", "); });
+    story.PassOver("lvwDataItems");
     window->Show();
   }
-  Items Ticked() const {
-    Items items;
+  std::string Ticked() const {
+    std::vector<std::string> items;
     for (const auto& row : window->lvwDataItems.Rows())
-      if (row.checked) items.push_back(std::stoi(row.tag));
-    return items;
+      if (row.checked) items.push_back(row.tag);
+    return Join(items, " ");
   }
-  void Load(const std::string& lines) {
-    files.files["/p/a.sam"] = "Preset Sample Graph Details:\r\n" + lines;
-    host.answers.push_front({Answer::Kind::File, "/p/a.sam"});
-    window->cmdLoad.Press();
+  void File(const std::string& name, const std::string& lines) {
+    files.files[name] = "Preset Sample Graph Details:\n" + lines;
   }
 
   clsSampleGraphPreset preset;
   std::optional<frmPresetSampleDetails> window;
+  Story story{host};
 };
 
 TEST_F(PresetDetailsTest, EditsAPreset) {
-  EXPECT_EQ(Ticked(), (Items{5, 3}));
-  EXPECT_FALSE(window->txtYMax.Enabled());
-  window->lvwDataItems.Do({"sort", {"Item"}});
-  window->lvwDataItems.Do({"double", {std::to_string(window->lvwDataItems.RowOfTag("20"))}});
-  window->chkFixY.Do({"click", {}});
-  window->txtYMax.Do({"type", {"33"}});
-  window->txtName.Do({"type", {"  "}});
-  window->cmdOK.Press();
-  EXPECT_EQ(Boxes(), (Items{41}));
-  EXPECT_TRUE(window->IsShown());
-  window->txtName.Do({"type", {"All"}});
-  window->cboLogFamily.SetListIndex(5);
-  window->cmdOK.Press();
+  EXPECT_EQ(Ticked(), "5 3");
+  EXPECT_STORY(story, R"(
+show txtName txtYMax chkFixY -> txtName=Boost, txtYMax off, txtYMax=10, chkFixY=Fi&x Graph Max, chkFixY unchecked
+sort lvwDataItems Item; double lvwDataItems 20 -> ticked=66 5 3
+click chkFixY -> chkFixY checked, txtYMax on
+type txtYMax 33 -> txtYMax=35
+type txtYMax 0; click chkFixY; click chkFixY -> txtYMax=250
+type txtYMax 33; type txtName "  "; click cmdOK -> [41 ok], txtName=  , txtYMax=35
+type txtName All -> txtName=All
+choose cboLogFamily #5 -> ticked=5 3, cboLogFamily=TurboXS UTEC Data Log
+click cmdOK -> -frmPresetSampleDetails
+)");
   EXPECT_TRUE(window->Accepted());
   EXPECT_EQ(window->ColItem().strName, "All");
   EXPECT_EQ(window->ColItem().lngLogFamily, 6);
   EXPECT_EQ(window->ColItem().lngGraphMax, 35);
   EXPECT_TRUE(window->ColItem().blnFixGraphMax);
-  for (const int item : window->ColItem().colDataItems)
-    EXPECT_TRUE(catalogue.gcolFixedDataItems.Item(item).InFamily(6)) << item;
 }
 
 TEST_F(PresetDetailsTest, SavesAndProposesTheSameFileAgain) {
-  host.answers.push_back({Answer::Kind::No});
-  host.answers.push_back({Answer::Kind::Ok});  // the name proposed
-  window->cmdSave.Press();
-  ASSERT_TRUE(files.files.contains("/logs/Boost.sam"));
+  EXPECT_STORY(story, R"(
+# The name is proposed, and then the file used last.
+answer no; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? no], [save "Save As" ok], disk=write /logs/Boost.sam
+answer yes; answer file /p/b.sam; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" /p/b.sam], disk=write /logs/Boost.sam, write /p/b.sam
+write txtName a/b; answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" ok], disk=write /logs/Boost.sam, write /p/b.sam, write /p/b.sam, txtName=a/b
+)");
   EXPECT_TRUE(files.files["/logs/Boost.sam"].ends_with(
-      "Graph 1 Data Items=5,3\r\nGraph 1 Fix Graph Max=N\r\n"
-      "Graph 1 Graph Max=10\r\n"));
-  host.answers.push_back({Answer::Kind::Yes});
-  host.answers.push_back({Answer::Kind::File, "/p/b.sam"});
-  window->cmdSave.Press();
+      "Graph 1 Data Items=5,3\r\nGraph 1 Fix Graph Max=N\r\nGraph 1 Graph Max=10\r\n"));
   EXPECT_TRUE(files.files["/p/b.sam"].ends_with("Graph 1 Log Family=1\r\n"));
-  window->txtName.Text = std::string("a/b");
   files.failWrites = true;
-  host.answers.push_back({Answer::Kind::Yes});
-  host.answers.push_back({Answer::Kind::Ok});
-  Boxes();
-  window->cmdSave.Press();
-  EXPECT_EQ(Boxes(), (Items{-1, 19}));
-  EXPECT_EQ(files.accesses.back(), "write /p/b.sam");
+  EXPECT_STORY(story, R"(
+answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" ok], [19 ok], disk=write /logs/Boost.sam, write /p/b.sam, write /p/b.sam, write /p/b.sam
+)");
 }
 
 TEST_F(PresetDetailsTest, LoadsExactlyTheItemsOfAFile) {
-  Load(
-      "Graph 1 Name=Knock\nGraph 1 Data Items=20,99,47,21\nGraph 1 Fix Graph Max=Y\n"
-      "Graph 1 Graph Max=120");
-  EXPECT_TRUE(host.messages[0].text.ends_with("Data Item(s): 99, 47"));
-  EXPECT_EQ(Boxes(), (Items{92}));
-  EXPECT_EQ(window->txtName.Text(), "Knock");
-  EXPECT_EQ(window->txtYMax.Text(), "120");
-  EXPECT_EQ(Ticked(), (Items{21, 20}));
-
-  host.answers.push_back({Answer::Kind::No});
-  Load("Graph 1 Name=Other\nGraph 1 Log Family=6");
-  EXPECT_EQ(window->txtName.Text(), "Knock");
-  Load("Graph 1 Name=Other\nGraph 1 Log Family=6");
-  EXPECT_EQ(Boxes(), (Items{-1, -1}));
-  EXPECT_EQ(window->txtName.Text(), "Other");
-  EXPECT_EQ(window->cboLogFamily.ListIndex(), 0);
-  EXPECT_EQ(Ticked(), (Items{}));
-
-  host.answers.push_back({Answer::Kind::File, "/p/none.sam"});
-  window->cmdLoad.Press();
-  EXPECT_EQ(Boxes(), (Items{58}));
+  File("/p/a.sam",
+       "Graph 1 Name=Knock\nGraph 1 Data Items=20,99,47,21\nGraph 1 Fix Graph Max=Y\n"
+       "Graph 1 Graph Max=120");
+  File("/p/b.sam", "Graph 1 Name=Other\nGraph 1 Log Family=6");
+  EXPECT_STORY(story, R"(
+answer file /p/a.sam; click cmdLoad -> [open "Load" /p/a.sam], [92 ok], ticked=21 20, disk=read /p/a.sam, txtName=Knock, chkFixY checked, txtYMax on, txtYMax=120
+answer file /p/b.sam; answer no; click cmdLoad -> [open "Load" /p/b.sam], [The preset graph definition you are loading is for a different Log Family than that\ncurrently selected, and may contain data items that are not relevant.\n\nAre you sure you want to continue? no], disk=read /p/a.sam, read /p/b.sam
+answer file /p/b.sam; answer yes; click cmdLoad -> [open "Load" /p/b.sam], [The preset graph definition you are loading is for a different Log Family than that\ncurrently selected, and may contain data items that are not relevant.\n\nAre you sure you want to continue? yes], ticked=, disk=read /p/a.sam, read /p/b.sam, read /p/b.sam, txtName=Other, chkFixY unchecked, txtYMax off, txtYMax=0
+answer file /p/none.sam; click cmdLoad -> [open "Load" /p/none.sam], [58 ok], disk=read /p/a.sam, read /p/b.sam, read /p/b.sam, read /p/none.sam
+)");
 }
 
 }  // namespace
