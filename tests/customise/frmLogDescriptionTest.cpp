@@ -133,9 +133,16 @@ TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
 }
 
 TEST_F(LogDescription, OfRubbishCannotBeAccepted) {
-  const frmLogDescription window = Open("no log\nat all\n");
-  EXPECT_FALSE(window.cmdOK.Enabled());
-  EXPECT_TRUE(Open(kLog).cmdOK.Enabled());
+  frmLogDescription rubbish = Open("no log\nat all\n"),
+                    clockBehind = Open("RPM\tTime\n900\t1\n901\t2\n902\t3\n");
+  rubbish.Show();
+  EXPECT_STORY(story, R"(
+show cmdOK lvwHead -> cmdOK off, cmdOK=OK, lvwHead columns=[Line|Is|Text], lvwHead count=2, lvwHead[1]=[1|Preamble|no log], lvwHead[1] unselected, lvwHead[2]=[2|Preamble|at all], lvwHead[2] unselected
+)");
+  clockBehind.Show();
+  EXPECT_STORY(story, R"(
+show cmdOK lvwHead[1] lvwColumns[1] lvwColumns[2] -> cmdOK=OK, lvwHead[1]=[1|Titles|RPM Time], lvwHead[1] unselected, lvwColumns[1]=[RPM||900  901  902|900|902|RPM||0|Yes], lvwColumns[1] selected, lvwColumns[2]=[Time||1  2  3|1|3|Secs||0|Yes], lvwColumns[2] unselected
+)");
 }
 
 TEST_F(LogDescription, ALineFrequencyIsHeldToItsLimits) {

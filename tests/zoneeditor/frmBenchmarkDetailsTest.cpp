@@ -1,6 +1,5 @@
 #include "EditorWorld.h"
 #include "model/clsLogFamilies.h"
-#include "support/WindowActions.h"
 #include "zoneeditor/frmBenchmarkDetails.h"
 
 namespace tarnview {
@@ -17,6 +16,7 @@ class BenchmarkDetailsTest : public ::testing::Test, protected EditorWorld {
         " Atmospheric Pressure: 101\r\n";
     files.files["/car/no.map"] = "none";
     settings.gstrDefaultWorkingDirectory = "/logs";
+    story.Fact("edited", [this] { return edited; });
   }
   void Open(const clsBenchmark& benchmark) {
     const frmBenchmarkDetails::Surroundings around{kinds.gcolFileTypes,
@@ -32,18 +32,6 @@ class BenchmarkDetailsTest : public ::testing::Test, protected EditorWorld {
     details.emplace(host, around, benchmark);
     details->Show();
   }
-  /// The boxes that came, whether it is open still, which buttons may be pressed, what has the
-  /// focus.
-  std::string Do(const std::string& actions) {
-    host.messages.clear();
-    Act(*details, actions);
-    std::string told;
-    for (const Box& box : host.messages) told += std::to_string(box.id) + " ";
-    if (!details->IsShown()) return told + (details->Accepted() ? "accepted" : "left");
-    return told + Enabled(*details, "cmdSave cmdZones");
-  }
-  void WillChoose(const char* path) { host.nextFile = Answer{Answer::Kind::File, path}; }
-
   FileKinds kinds = SetUpLogFamilies();
   std::optional<frmBenchmarkDetails> details;
   std::string edited;
@@ -52,19 +40,18 @@ class BenchmarkDetailsTest : public ::testing::Test, protected EditorWorld {
 
 TEST_F(BenchmarkDetailsTest, ANewOneNeedsANameAndAFileThatLoads) {
   Open({});
-  EXPECT_EQ(Do("type txtName  \nclick cmdOK"), "47 ");
-  EXPECT_EQ(details->ActiveControl(), &details->txtName);
-  EXPECT_EQ(Do("type txtName Mine\nclick cmdOK"), "15 ");
-  WillChoose("/car/no.map");
-  EXPECT_EQ(Do("click cmdBrowse\nclick cmdOK"), "16 ");
-  WillChoose("/car/a.map");
-  EXPECT_EQ(Do("click cmdBrowse"), "");
-  EXPECT_EQ(Do("click cmdLoad"), "cmdSave cmdZones ");
-  WillChoose("/car/b.map");
-  EXPECT_EQ(Do("click cmdZones\nclick cmdSave"), "cmdSave cmdZones ");
+  EXPECT_STORY(story, R"(
+show caption cmdSave cmdZones -> caption=Benchmark Details, cmdSave off, cmdSave=&Save..., cmdZones off, cmdZones=&Zones...
+type txtName ""; click cmdOK; show focus -> focus txtName, [47 ok]
+type txtName Mine; click cmdOK -> [15 ok], txtName=Mine
+answer file /car/no.map; click cmdBrowse; click cmdOK -> [open "Open" of FM Link Data Logs (*.txt) /car/no.map], [16 ok], txtFile=/car/no.map
+answer file /car/a.map; click cmdBrowse -> [open "Open" of FM Link Data Logs (*.txt) /car/a.map], txtFile=/car/a.map
+click cmdLoad -> cmdSave on, cmdZones on
+answer file /car/b.map; click cmdZones; click cmdSave -> [save "Save" of FM Link MAP Files (*.map) /car/b.map], edited=Mine (benchmark)
+click cmdOK -> -frmBenchmarkDetails
+)");
   EXPECT_NE(files.files["/car/b.map"].find(" 050 050 050 050 050 050 003 050"), std::string::npos);
-  EXPECT_EQ(edited, "Mine (benchmark)");
-  EXPECT_EQ(Do("click cmdOK"), "accepted");
+  EXPECT_TRUE(details->Accepted());
   const clsBenchmark& mine = details->ColItem();
   EXPECT_EQ(mine.strName + " " + mine.File, "Mine /car/a.map");
   EXPECT_EQ(mine.ZoneSettings(6), 3);
@@ -76,22 +63,23 @@ TEST_F(BenchmarkDetailsTest, OneThatIsThereIsLoadedAgainOnlyFromAnotherFile) {
   old.strName = "Old";
   old.File = "/gone/old.map";
   Open(old);
-  EXPECT_EQ(Texts(*details, "txtName txtFile"), "Old|/gone/old.map");
   changes = false;
-  EXPECT_EQ(Do("click cmdZones"), "cmdSave cmdZones ");
-  EXPECT_EQ(details->ColItem().ZoneSettings(6), 0);
   files.failWrites = true;
-  WillChoose("/car/b.map");
-  EXPECT_EQ(Do("click cmdSave"), "19 cmdSave cmdZones ");
-  EXPECT_EQ(Do("click cmdOK"), "accepted");
+  EXPECT_STORY(story, R"(
+show txtName txtFile -> txtName=Old, txtFile=/gone/old.map
+click cmdZones -> edited=Old (benchmark)
+answer file /car/b.map; click cmdSave -> [save "Save" of FM Link MAP Files (*.map) /car/b.map], [19 ok]
+type txtFile ""; click cmdLoad -> [15 ok], txtFile=
+type txtFile /gone/a.map; click cmdLoad -> [15 ok], txtFile=/gone/a.map
+type txtFile /gone/old.map; click cmdOK -> -frmBenchmarkDetails
+)");
+  EXPECT_TRUE(details->Accepted());
+  EXPECT_EQ(details->ColItem().ZoneSettings(6), 0);
   details->Show();
-  WillChoose("/car/a.map");
-  EXPECT_EQ(Do("click cmdBrowse\nclick cmdOK"), "accepted");
+  EXPECT_STORY(story, R"(
+answer file /car/a.map; click cmdBrowse; click cmdOK -> [open "Open" of FM Link Data Logs (*.txt) /car/a.map], -frmBenchmarkDetails
+)");
   EXPECT_EQ(details->ColItem().ZoneSettings(6), 50);
-  for (const char* path : {"", "/gone/a.map"}) {
-    Open(old);
-    EXPECT_EQ(Do(std::string("type txtFile ") + path + "\nclick cmdLoad"), "15 cmdSave cmdZones ");
-  }
 }
 
 }  // namespace
