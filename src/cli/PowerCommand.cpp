@@ -139,7 +139,10 @@ Json ChartJson(const ChartDescription& chart, const std::vector<Box>& messages) 
 }
 
 int DrawPower(LogSession& session, const PowerOptions& options) {
-  if (!options.carFile.empty() && !LoadCar(session, options.carFile)) return kFailed;
+  if (!options.carFile.empty() && !LoadCar(session, options.carFile)) {
+    if (options.json) Print(ChartJson({}, session.Host().messages));
+    return kFailed;
+  }
   frmPowerGraph& window = session.Window().Power().Open();
   const bool filled = FillIn(window, options);
   if (filled) window.cmdDrawGraph.Press();
