@@ -99,7 +99,8 @@ std::vector<Command> frmZoneData::ButtonCommands() {
   return rows;
 }
 
-/// What the 3D graph shows of a grid. Cells that are no zones have a number there, too.
+/// What the 3D graph shows of a grid. Of the map's own two, cells that are no zones have a number
+/// there, too; what is compared with has none.
 GridGraphRequest frmZoneData::GraphOf(SheetGrid grid) const {
   const int index = static_cast<int>(grid);
   const StartingAngles angles = AnglesOf(around_.settings.angles, index);
@@ -111,7 +112,7 @@ GridGraphRequest frmZoneData::GraphOf(SheetGrid grid) const {
   request.table = TableOf(Grids.At(grid));
   for (int row = 1; row <= kGridRows; ++row)
     for (int column = 1; column <= kGridColumns; ++column)
-      if (request.table.IsLocked(row, column))
+      if (IsSheetGrid(grid) && request.table.IsLocked(row, column))
         request.table.Text(row, column) =
             std::to_string(Sheet().Shown(ZoneOfCell(grid, row, column)));
   request.caption = tabZoneData2.Tabs()[tab].caption + " (" + fraData(index).Caption() + ")";

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "base/Numbers.h"
 #include "zoneeditor/EditorWorld.h"
 #include "zoneeditor/RandomHand.h"
 #include "zoneeditor/frmBenchmarkDetails.h"
 #include "zoneeditor/frmCopyBench.h"
+#include "zoneeditor/frmGridGraph.h"
 #include "zoneeditor/frmLoadBenchmark.h"
 #include "zoneeditor/frmOffset.h"
 #include "zones/ZoneNames.h"
@@ -174,6 +176,24 @@ TEST_F(frmZoneDataTest, NormallyAspirated) {
   EXPECT_STORY(story, R"(
 show fraBoost fraBoostTargets txtZone(3) chkBoost(0) grdData(6)[1][1] grdData(0)[6][0] grdData(0)[6][1] -> fraBoost off, fraBoost=Wastegate, fraBoostTargets off, fraBoostTargets=Boost &Targets, txtZone(3) off, txtZone(3)=100, chkBoost(0) off, chkBoost(0)= TPS Target Cont., chkBoost(0) unchecked, grdData(6)[1][1]=100, grdData(0)[6][0]=97 kPa 600, grdData(0)[6][1]=100
 )");
+}
+
+/// Of each graph a cell that is no zone, and one near it that is.
+TEST_F(frmZoneDataTest, GraphsDrawTheNumbersOfTheirOwnGrid) {
+  OpenMap();
+  Do("txtZone", 112, {"type", {"7"}});
+  std::string told;
+  host.work = [&](Form& form) {
+    const Surface& surface = *dynamic_cast<frmGridGraph&>(form).chGridGraph.Data().AsSurface();
+    told += surface.subtitle;
+    for (const std::size_t column : {0u, 2u}) told += " " + NumberText(surface.At(5, column));
+    told += "\n";
+  };
+  for (int grid = 0; grid < 6; ++grid) Do("cmdGraph", grid, {"click", {}});
+  EXPECT_EQ(told,
+            "This Data Log 7 100\nBenchmark Track 0 200\nComparison with Benchmark Track 0 100\n"
+            "This Data Log 100 100\nBenchmark Track 0 200\n"
+            "Comparison with Benchmark Track 0 100\n");
 }
 
 TEST_F(frmZoneDataTest, ClosingAsksForChanges) {
