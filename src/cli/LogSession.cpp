@@ -10,12 +10,6 @@
 namespace tarnview {
 namespace {
 
-/// Sample numbers, as a user would type them.
-std::string CheckNumber(const std::string& text) {
-  if (IsNumeric(text)) return "";
-  return "\"" + text + "\" is no number";
-}
-
 /// "all", or item numbers with commas between them.
 std::string CheckItems(const std::string& text) {
   if (text == "all") return "";
@@ -31,8 +25,18 @@ std::string CheckItems(const std::string& text) {
 
 }  // namespace
 
+std::string CheckNumber(const std::string& text) {
+  if (IsNumeric(text)) return "";
+  return "\"" + text + "\" is no number";
+}
+
 void LogOptions::AddTo(CLI::App& command) {
-  command.add_option("LOG", log, "The log to open")->required();
+  AddOpeningTo(command, "LOG", "The log to open");
+  command.add_option("--to", to, "Last Sample of the range")->check(CheckNumber);
+}
+
+void LogOptions::AddOpeningTo(CLI::App& command, const char* name, const char* description) {
+  command.add_option(name, log, description)->required();
   command
       .add_option("--type", fileType,
                   "File type, 1 to 8, or auto: by the content; without it the type is guessed")
@@ -44,7 +48,6 @@ void LogOptions::AddTo(CLI::App& command) {
   command.add_option("--definition", definition,
                      "Read Universal logs through this definition file");
   command.add_option("--from", from, "First Sample of the range")->check(CheckNumber);
-  command.add_option("--to", to, "Last Sample of the range")->check(CheckNumber);
   command.add_option("--items", items, "Data item numbers with commas, or \"all\"")
       ->check(CheckItems);
 }

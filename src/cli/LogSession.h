@@ -20,7 +20,12 @@ struct LogOptions {
   std::string items;
 
   void AddTo(CLI::App& command);
+  /// All but `--to`, for a command that has a use of its own for it.
+  void AddOpeningTo(CLI::App& command, const char* name, const char* description);
 };
+
+/// A check of Sample numbers, as a user would type them.
+std::string CheckNumber(const std::string& text);
 
 /// The folder of what is installed, with a separator at its end; "" if it is not there.
 std::string DataFolder(FileSystem& files);

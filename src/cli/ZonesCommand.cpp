@@ -19,7 +19,8 @@ namespace {
 
 struct ZonesOptions {
   LogOptions file;
-  std::string compareWith, mapToWrite, grid;
+  std::string compareWith, grid;
+  std::string to;  ///< the map to write; with a grid, the last Sample of its range
   bool json = false;
 };
 
@@ -161,7 +162,13 @@ Json GridJson(const OpenLog& log, const LogOnMap& drive, GridShow show) {
 
 /// What the drive of a log says of each cell.
 int GridOfLog(const ZonesOptions& options) {
-  LogSession session(options.file);
+  LogOptions file = options.file;
+  if (!options.to.empty()) {
+    if (const std::string fault = CheckNumber(options.to); !fault.empty())
+      throw CLI::ValidationError("--to", fault);
+    file.to = options.to;
+  }
+  LogSession session(file);
   if (!session.Open() || !session.Log().gblnSamplesLoaded) return kFailed;
   session.EnterRange();
   const OpenLog& log = session.Log();
@@ -177,15 +184,15 @@ int Zones(const ZonesOptions& options) {
   if (!options.grid.empty()) return GridOfLog(options);
   const auto map = ZonesOf(options.file);
   if (!map) return kFailed;
-  if (!options.mapToWrite.empty()) {
+  if (!options.to.empty()) {
     RealFileSystem files;
-    if (!WriteMapFile(files, options.mapToWrite, *map, RealClock().Now())) {
+    if (!WriteMapFile(files, options.to, *map, RealClock().Now())) {
       LogSession(options.file).TellMessage(Message::SomethingWentWrong);
       return kFailed;
     }
   }
   if (!options.compareWith.empty()) return Compare(options, *map);
-  if (options.json || options.mapToWrite.empty()) Print(MapJson(*map));
+  if (options.json || options.to.empty()) Print(MapJson(*map));
   return kDone;
 }
 
@@ -196,20 +203,13 @@ void AddZonesCommand(CLI::App& program, int& status) {
       "zones", "Tells, compares or writes the zone settings of a map or a log");
   command->footer(
       "Example:\n  tarnview-cli zones run.txt --to run.map\n"
-      "  tarnview-cli zones run.txt --grid error");
+      "  tarnview-cli zones run.txt --grid error --from 1200 --to 1900");
   auto options = std::make_shared<ZonesOptions>();
-  command->add_option("FILE", options->file.log, "A MAP file, or a log with zones")->required();
-  command
-      ->add_option("--type", options->file.fileType,
-                   "File type, 1 or 2; without it the type is guessed")
-      ->check(CLI::Range(1, 2));
-  command
-      ->add_option("--settings", options->file.settings,
-                   "Read this Tarnview.ini for what a file does not say")
-      ->check(CLI::ExistingFile);
+  options->file.AddOpeningTo(*command, "FILE", "A MAP file, or a log with zones");
   command->add_flag("--json", options->json, "Every value as the zone editor shows it");
   command->add_option("--compare", options->compareWith, "The differences to this map or log");
-  command->add_option("--to", options->mapToWrite, "Write a MAP file");
+  command->add_option("--to", options->to,
+                      "Write a MAP file; with --grid, the last Sample of the range");
   command
       ->add_option("--grid", options->grid,
                    "What the drive says of each cell: visits, error (air/fuel, per cent off its "

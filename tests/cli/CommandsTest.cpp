@@ -68,6 +68,19 @@ TEST(CommandLineProgram, ZonesTellWhatADriveSaysOfThem) {
   EXPECT_EQ(told["value"][3][11], Json()) << "too few to say anything";
   const auto knock = RunCli({"zones", Example("turbo.txt"), "--grid", "knock"});
   EXPECT_EQ(Json::parse(knock.out)["value"][3][10], 75);
+  const auto visited = [](std::vector<std::string> range) {
+    std::vector<std::string> words{"zones", Example("turbo.txt"), "--grid", "visits"};
+    words.insert(words.end(), range.begin(), range.end());
+    int count = 0;
+    const Json grid = Json::parse(RunCli(words).out);
+    for (const Json& row : grid["count"])
+      for (const Json& cell : row) count += cell.get<int>();
+    return count;
+  };
+  EXPECT_EQ(visited({}), 6988);
+  EXPECT_EQ(visited({"--type", "auto", "--from", "300", "--to", "900"}), 601);
+  EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "knock", "--to", "a.map"}).status,
+            kWrongCommandLine);
   EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "heat"}).status, kWrongCommandLine);
   EXPECT_EQ(RunCli({"zones", Example("utec.csv"), "--grid", "knock"}).status, kFailed);
 }
