@@ -169,7 +169,12 @@ int GridOfLog(const ZonesOptions& options) {
     file.to = options.to;
   }
   LogSession session(file);
-  if (!session.Open() || !session.Log().gblnSamplesLoaded) return kFailed;
+  if (!session.Open()) return kFailed;
+  if (!session.Log().gblnZonesLoaded || !session.Log().gblnSamplesLoaded) {
+    session.TellMessage(session.Log().gblnZonesLoaded ? Message::TooFewRecords
+                                                      : Message::ZonesNotLoaded);
+    return kFailed;
+  }
   session.EnterRange();
   const OpenLog& log = session.Log();
   const DrivenRange range =

@@ -82,7 +82,9 @@ TEST(CommandLineProgram, ZonesTellWhatADriveSaysOfThem) {
   EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "knock", "--to", "a.map"}).status,
             kWrongCommandLine);
   EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "heat"}).status, kWrongCommandLine);
-  EXPECT_EQ(RunCli({"zones", Example("utec.csv"), "--grid", "knock"}).status, kFailed);
+  const Ran none = RunCli({"zones", Example("utec.csv"), "--type", "6", "--grid", "knock"});
+  EXPECT_EQ(none.status, kFailed);
+  EXPECT_EQ(none.err, "message 16: Problem loading zone settings.\n");
 }
 
 TEST(CommandLineProgram, TablePrintsARangeOfItems) {
