@@ -1,7 +1,6 @@
 #include "qt/binder/Binder.h"
 
 #include <QAction>
-#include <QPointer>
 #include <QVariant>
 #include <QWidget>
 #include <algorithm>
@@ -18,20 +17,25 @@ constexpr std::size_t kMostRounds = 4;
 /// Milliseconds until what is dirty even then is shown: short for the eye, long for the processor.
 constexpr int kLater = 20;
 
+/// All at once: to look through hundreds of widgets for each control is most of what a large window
+/// costs.
+Views ViewsIn(const QWidget& window) {
+  const auto children = window.findChildren<QObject*>();
+  Views views;
+  for (QObject* child : children)
+    if (const QString name = child->objectName(); !name.isEmpty() && !views.contains(name))
+      views[name] = {child};
+  for (QObject* child : children)
+    if (const QString shown = child->property("control").toString(); !shown.isEmpty())
+      views[shown].push_back(child);
+  return views;
+}
+
 }  // namespace
 
 std::string ViewName(const Control& control) {
   if (control.index < 0) return control.name;
   return control.name + "_" + std::to_string(control.index);
-}
-
-std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window) {
-  const QString name = QString::fromStdString(ViewName(control));
-  std::vector<QObject*> views;
-  if (auto* first = window.findChild<QObject*>(name)) views.push_back(first);
-  for (QObject* child : window.findChildren<QObject*>())
-    if (child->property("control").toString() == name) views.push_back(child);
-  return views;
 }
 
 Binder::Binder(Form& form, QWidget& window) : window_(window) {
@@ -41,13 +45,14 @@ Binder::Binder(Form& form, QWidget& window) : window_(window) {
       if (self) self->Flush();
     });
   });
-  for (Control* control : form.Controls()) Bind(*control);
+  const Views views = ViewsIn(window);
+  for (Control* control : form.Controls()) Bind(*control, views);
   Flush();
 }
 
-void Binder::Bind(Control& control) {
+void Binder::Bind(Control& control, const Views& views) {
   if (auto adapter = MakeAdapter(control, nullptr, *this)) return Add(std::move(adapter));
-  for (QObject* view : ViewsOf(control, window_))
+  for (QObject* view : views.value(QString::fromStdString(ViewName(control))))
     if (auto adapter = MakeAdapter(control, view, *this)) Add(std::move(adapter));
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
+#include <QPointer>
+#include <QString>
 #include <QTimer>
 #include <memory>
 #include <string>
@@ -16,9 +19,10 @@ class Form;
 
 /// "txtFrom"; "mnuRecentlyUsed_2" for a member of an array.
 std::string ViewName(const Control& control);
-/// Everything in the window that shows the control: what bears its name first, then what names it
-/// in its property "control".
-std::vector<QObject*> ViewsOf(const Control& control, const QWidget& window);
+
+/// Everything in a window that shows a control, by the control's name: what bears the name first,
+/// then what names it in its property "control".
+using Views = QHash<QString, std::vector<QPointer<QObject>>>;
 
 /// Ties the controls of a form to the widgets of its window by their names. What changes in the
 /// controls is shown once per turn of the event loop, or at once by Flush. What a refresh changes
@@ -37,7 +41,7 @@ class Binder : public QObject {
   QObject* ViewOf(const Control& control) const;
 
  private:
-  void Bind(Control& control);
+  void Bind(Control& control, const Views& views);
   void Add(std::unique_ptr<Adapter> adapter);
 
   QWidget& window_;
