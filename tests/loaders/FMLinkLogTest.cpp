@@ -3,6 +3,7 @@
 #include "LoadedLog.h"
 #include "loaders/FMLinkLog.h"
 #include "support/FMLinkLogBuilder.h"
+#include "zones/ChipIdentity.h"
 
 namespace tarnview {
 namespace {
@@ -45,59 +46,19 @@ Initial zone map
 )" + JoinLines(kZones) + R"( ATM = 101            OBD209-Aug-05
 No lambda/knock zone changes
 )");
-  EXPECT_TRUE(loaded.outcome.loaded);
-  EXPECT_EQ(loaded.outcome.messages, Ids{});
-  EXPECT_EQ(loaded.Table(), R"(Sample: 1040 1041 1042 1043 1044
-CAS Err: 0 0 1 0 0
-RPM: 850 3250 7900 3250 850
-Dwell: 2 1 1 1 2
-MAP: 340 900 1010 1020 340
-Lambda: 2 0 4 4 2
-O2: 91 88 88 88 91
-O2 A: 0 1 2 0 0
-WGCM: 0 0 1 0 0
-WG%: 0 0 25 0 0
-EGR: 12 12 0 12 12
-Fuel P: 1 1 0 1 1
-Inj W: 200 980 980 980 200
-Inj %: 40 980 980 980 40
-Throttle: 1 0 2 0 1
-IAC: 0 45 40 40 0
-TPS: 1000 5000 4500 4500 1000
-Neutral: 0 1 1 1 0
-Comp: 0 1 1 1 0
-Knock: 3 12 12 12 3
-IAdv: 95 125 125 -25 95
-Volt: 138 138 138 136 133
-C Temp: 80 80 80 85 90
-Speed: 570 570 570 590 610
-Eng Fan: 1 1 0 0 0
-Cnd Fan: 1 1 0 0 0
-A/C: 1 1 0 0 0
-PRC: 1 1 1 1 1
-Ch Purge: 1 1 0 0 0
-Knock C: 10 10 10 11 12
-A Temp: 200 200 200 50 -100
-Aux NS: 2500 2500 2500 2450 2400
-Knock T: 13 13 32 13 13
-L3: 0 0 4 0 0
-A/F: 13000 13600 13600 13600 13000
-Boost: 0 0 0 1 0
-Vacuum: 198 32 0 0 198
-Aux NF: 520 0 1250 0 520
-Aux CS: 11156 11156 11156 11082 11008
-Aux CF: 8867 0 9612 0 8867
-Knock E: 0 1 1 1 0
-MAP Lmt: 0 0 1 0 0
-Rev Lmt: 0 0 1 0 0
-CR: 1000 1000 1000 1000 1000
-Secs: 851968 852787 853606 854426 855245
-Zone: 205 630 675 630 205
-Fuel ZV: 49 118 127 118 49
-Ign ZV: 145 14 23 14 145
-L3 Idle: 0 0 0 15 0
-Fuel% M: 1000 1000 1000 1000 1000
-A/F Tgt: 14700 14700 14700 14700 14700
+  EXPECT_EQ(loaded.Told(), " samples zones changes");
+  ExpectTold(loaded.Table(), R"(
+Sample: 1040 1041 1042 1043 1044 | CAS Err: 0 0 1 0 0 | RPM: 850 3250 7900 3250 850 | Dwell: 2 1 1 1 2 | MAP: 340 900 1010 1020 340
+Lambda: 2 0 4 4 2 | O2: 91 88 88 88 91 | O2 A: 0 1 2 0 0 | WGCM: 0 0 1 0 0 | WG%: 0 0 25 0 0 | EGR: 12 12 0 12 12 | Fuel P: 1 1 0 1 1
+Inj W: 200 980 980 980 200 | Inj %: 40 980 980 980 40 | Throttle: 1 0 2 0 1 | IAC: 0 45 40 40 0 | TPS: 1000 5000 4500 4500 1000
+Neutral: 0 1 1 1 0 | Comp: 0 1 1 1 0 | Knock: 3 12 12 12 3 | IAdv: 95 125 125 -25 95 | Volt: 138 138 138 136 133
+C Temp: 80 80 80 85 90 | Speed: 570 570 570 590 610 | Eng Fan: 1 1 0 0 0 | Cnd Fan: 1 1 0 0 0 | A/C: 1 1 0 0 0 | PRC: 1 1 1 1 1
+Ch Purge: 1 1 0 0 0 | Knock C: 10 10 10 11 12 | A Temp: 200 200 200 50 -100 | Aux NS: 2500 2500 2500 2450 2400
+Knock T: 13 13 32 13 13 | L3: 0 0 4 0 0 | A/F: 13000 13600 13600 13600 13000 | Boost: 0 0 0 1 0 | Vacuum: 198 32 0 0 198
+Aux NF: 520 0 1250 0 520 | Aux CS: 11156 11156 11156 11082 11008 | Aux CF: 8867 0 9612 0 8867 | Knock E: 0 1 1 1 0
+MAP Lmt: 0 0 1 0 0 | Rev Lmt: 0 0 1 0 0 | CR: 1000 1000 1000 1000 1000 | Secs: 851968 852787 853606 854426 855245
+Zone: 205 630 675 630 205 | Fuel ZV: 49 118 127 118 49 | Ign ZV: 145 14 23 14 145 | L3 Idle: 0 0 0 15 0
+Fuel% M: 1000 1000 1000 1000 1000 | A/F Tgt: 14700 14700 14700 14700 14700
 )");
   EXPECT_EQ(loaded.log.glngFirstPlotSample, 0);
   EXPECT_EQ(loaded.log.glngLowestAirTemp, -10);
@@ -121,36 +82,28 @@ TEST(FMLinkLog, BadInputsAndWhatTheyTell) {
   const struct {
     const char* what;
     std::string text;
-    bool samples, zones, changes;
-    Ids messages;
+    const char* told;
   } cases[] = {
       // clang-format off
-      {"empty", "", false, false, false, {52}},
-      {"wrong kind", "SAMPLE\n", false, false, false, {52}},
-      {"heading alone", "Sample", false, false, false, {16}},
-      {"two samples", Log(Samples(2)), false, false, false, {16}},
-      {"no zones", Log(Samples(3)), true, false, false, {16}},
-      {"heading without an ATM row", Log(Samples(3), heading), true, false, false, {16}},
-      {"two samples and zones", Log(Samples(2), kZones, {kSettingsLine, kNoChanges}), false, true, true, {}},
-      {"unknown zone", Log(Samples(3), ZoneSectionLines(unknownZone)), true, false, false, {16}},
-      {"zone beyond 16 bits", Log(Samples(3), ZoneSectionLines(beyond16Bits)), true, false, false, {16}},
-      {"too many zones", Log(Samples(3), ZoneSectionLines(tooMany)), true, false, false, {16}},
-      {"no settings line", Log(Samples(3), kZones, {kNoChanges}), true, true, true, {7, 8, 9}},
-      {"no changes heading", Log(Samples(3), kZones, {kSettingsLine}), true, true, false, {17}},
-      {"changes cut off", Log(Samples(3), kZones, {kSettingsLine, kChanges, " ATM 1"}), true, true, false, {17}},
-      {"NUL bytes", Log({std::string(100, '\0')}), false, false, false, {16}},
-      {"a long line", "Sample" + std::string(10'000'000, '1'), false, false, false, {16}},
-      {"a long line of zones", Log(Samples(3), {" ATM" + std::string(1'000'000, '9')}), true, false, false, {16}},
+      {"empty", "", "52"},
+      {"wrong kind", "SAMPLE\n", "52"},
+      {"heading alone", "Sample", "16"},
+      {"two samples", Log(Samples(2)), "16"},
+      {"no zones", Log(Samples(3)), "16 samples"},
+      {"heading without an ATM row", Log(Samples(3), heading), "16 samples"},
+      {"two samples and zones", Log(Samples(2), kZones, {kSettingsLine, kNoChanges}), " zones changes"},
+      {"unknown zone", Log(Samples(3), ZoneSectionLines(unknownZone)), "16 samples"},
+      {"zone beyond 16 bits", Log(Samples(3), ZoneSectionLines(beyond16Bits)), "16 samples"},
+      {"too many zones", Log(Samples(3), ZoneSectionLines(tooMany)), "16 samples"},
+      {"no settings line", Log(Samples(3), kZones, {kNoChanges}), "7, 8, 9 samples zones changes"},
+      {"no changes heading", Log(Samples(3), kZones, {kSettingsLine}), "17 samples zones"},
+      {"changes cut off", Log(Samples(3), kZones, {kSettingsLine, kChanges, " ATM 1"}), "17 samples zones"},
+      {"NUL bytes", Log({std::string(100, '\0')}), "16"},
+      {"a long line", "Sample" + std::string(10'000'000, '1'), "16"},
+      {"a long line of zones", Log(Samples(3), {" ATM" + std::string(1'000'000, '9')}), "16 samples"},
       // clang-format on
   };
-  for (const auto& c : cases) {
-    const LoadedLog loaded(c.text);
-    EXPECT_EQ(loaded.log.gblnSamplesLoaded, c.samples) << c.what;
-    EXPECT_EQ(loaded.log.gblnZonesLoaded, c.zones) << c.what;
-    EXPECT_EQ(loaded.log.gblnChangesLoaded, c.changes) << c.what;
-    EXPECT_EQ(loaded.outcome.messages, c.messages) << c.what;
-    EXPECT_EQ(loaded.outcome.loaded, c.samples || c.zones || c.changes) << c.what;
-  }
+  for (const auto& c : cases) EXPECT_EQ(LoadedLog(c.text).Told(), c.told) << c.what;
 }
 
 TEST(FMLinkLog, EveryTruncationIsHarmless) {
@@ -208,26 +161,19 @@ TEST(FMLinkLog, ChangesKeepTheZonesOwnValues) {
 }
 
 TEST(FMLinkLog, SettingsLines) {
-  const struct {
-    const char* line;
-    double size;
-    int version, pressure;
-    const char* date;
-  } cases[] = {
-      {" ATM =  98  1.8 18-Sep-01", 1.8, 2, 98, "2001-09-18"},
-      {" ATM =  98  MK-II 18-Sep-01", 1.6, 2, 98, "2001-09-18"},
-      {" ATM =  98  1.6  18-Sep-01", 1.6, 1, 98, "2001-09-18"},
-      {" ATM =  98            MK-2X18-Sep-01", 1.6, 2, 98, "2001-09-18"},
-      {" ATM =  98            OBD218Sep2001 ", 1.8, 3, 98, "2001-09-18"},
-      {" ATM =   0            1.6 01-Jan-00 ", 1.6, 1, 75, "2000-01-01"},
-  };
-  for (const auto& c : cases) {
-    const LoadedLog loaded(Log(Samples(3), kZones, {kSettingsLine, c.line, kNoChanges}));
-    EXPECT_EQ(loaded.log.zones.chip.dblEngineSize, c.size) << c.line;
-    EXPECT_EQ(loaded.log.zones.chip.intChipVersion, c.version) << c.line;
-    EXPECT_EQ(loaded.log.zones.intAtmosphericPressure, c.pressure) << c.line;
-    EXPECT_EQ(DateText(loaded.log.zones.chip.datChipDate), c.date) << c.line;
-  }
+  ExpectTable(
+      [](const TableRow& row) {
+        const LoadedLog loaded(
+            Log(Samples(3), kZones, {kSettingsLine, " ATM = " + row.All(), kNoChanges}));
+        const LoadedZones& zones = loaded.log.zones;
+        return std::string(EngineSizeText(zones.chip.dblEngineSize)) + " v" +
+               std::to_string(zones.chip.intChipVersion) + " " + DateText(zones.chip.datChipDate) +
+               " " + std::to_string(zones.intAtmosphericPressure);
+      },
+      R"(
+ 98  1.8 18-Sep-01 -> 1.8 v2 2001-09-18 98 |  98  MK-II 18-Sep-01 -> 1.6 v2 2001-09-18 98 |  98  1.6  18-Sep-01 -> 1.6 v1 2001-09-18 98
+ 98            MK-2X18-Sep-01 -> 1.6 v2 2001-09-18 98 |  98            OBD218Sep2001 -> 1.8 v3 2001-09-18 98 |   0            1.6 01-Jan-00 -> 1.6 v1 2000-01-01 75
+)");
 }
 
 TEST(FMLinkLog, DefaultsAreSilentWhereAsked) {

@@ -24,30 +24,11 @@ too|few|fields
 102|6400|75.0|99.99|99|81.5|14|675|98|-3|45|250|30|33|120|4|127|23|9||?|more
 )"));
   EXPECT_EQ(loaded.outcome.messages, std::vector<int>{});
-  EXPECT_EQ(loaded.Table(), R"(Sample: 100 101 102
-RPM: 3250 850 6400
-MAP: 1013 346 750
-O2: 75 40 99
-WG%: 30 0 45
-Inj %: 45 4 98
-IAC: 33 40 33
-TPS: 1825 0 9999
-Knock: 12 3 250
-IAdv: 28 12 -3
-Volt: 138 138 140
-C Temp: 79 80 82
-Speed: 58 0 120
-Knock C: 3 3 4
-A Temp: 255 -26 300
-A/F: 13900 15000 11000
-Boost: 38 0 0
-Vacuum: 0 119 0
-CR: 1000 1000 1000
-Secs: 150150 151652 153153
-Zone: 630 205 675
-Fuel ZV: 118 49 127
-Ign ZV: 14 145 23
-Fuel% M: 1000 1000 1000
+  ExpectTold(loaded.Table(), R"(
+Sample: 100 101 102 | RPM: 3250 850 6400 | MAP: 1013 346 750 | O2: 75 40 99 | WG%: 30 0 45 | Inj %: 45 4 98 | IAC: 33 40 33
+TPS: 1825 0 9999 | Knock: 12 3 250 | IAdv: 28 12 -3 | Volt: 138 138 140 | C Temp: 79 80 82 | Speed: 58 0 120 | Knock C: 3 3 4
+A Temp: 255 -26 300 | A/F: 13900 15000 11000 | Boost: 38 0 0 | Vacuum: 0 119 0 | CR: 1000 1000 1000 | Secs: 150150 151652 153153
+Zone: 630 205 675 | Fuel ZV: 118 49 127 | Ign ZV: 14 145 23 | Fuel% M: 1000 1000 1000
 )");
   EXPECT_EQ(loaded.log.glngLowestAirTemp, -3);
   EXPECT_EQ(loaded.log.glngFirstPlotSample, 0);
@@ -61,24 +42,10 @@ TEST(LinkPlusLog, NumberedColumnsSwitchesAndMarks) {
 0.25|850|.8||X |on|Off|On|On|On|On|Open|Open|Off
 9|6400|70|*|*|Off|Off|Off|Off|Off|Off|On|open|
 )"));
-  EXPECT_EQ(loaded.Table(), R"(Sample: 1 2 3
-RPM: 3250 850 6400
-Lambda: 2 4 12
-O2: 75 80 7000
-Throttle: 1 1 0
-Neutral: 1 0 0
-Comp: 0 1 0
-Eng Fan: 1 0 0
-A/F: 13900 13600 11000
-Vacuum: 221 221 221
-Knock E: 1 0 0
-MAP Lmt: 0 1 0
-Rev Lmt: 0 1 0
-CR: 1000 1000 1000
-Secs: 5000 2500 90000
-Idle Sp: 9 11 0
-Tumble: 0 1 0
-Fuel% M: 1000 1000 1000
+  ExpectTold(loaded.Table(), R"(
+Sample: 1 2 3 | RPM: 3250 850 6400 | Lambda: 2 4 12 | O2: 75 80 7000 | Throttle: 1 1 0 | Neutral: 1 0 0 | Comp: 0 1 0
+Eng Fan: 1 0 0 | A/F: 13900 13600 11000 | Vacuum: 221 221 221 | Knock E: 1 0 0 | MAP Lmt: 0 1 0 | Rev Lmt: 0 1 0 | CR: 1000 1000 1000
+Secs: 5000 2500 90000 | Idle Sp: 9 11 0 | Tumble: 0 1 0 | Fuel% M: 1000 1000 1000
 )");
   EXPECT_EQ(loaded.log.glngLowestAirTemp, kNoAirTemp);
 }

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "loaders/FMLinkLog.h"
 #include "model/Catalogue.h"
 #include "support/LoadMessages.h"
+#include "support/Table.h"
 
 namespace tarnview {
 
@@ -24,17 +27,31 @@ struct LoadedLog {
       text += (row ? " " : "") + std::to_string(log.glngDataLog(column, row));
     return text;
   }
-  /// A line for each column that is not 0 throughout: "RPM: 3250 850".
+  /// Each column that is not 0 throughout, several to a line: "RPM: 3250 850".
   std::string Table() const {
-    std::string text;
-    for (int column = 0; column < log.glngDataLog.Columns(); ++column)
-      for (const std::int32_t cell : log.glngDataLog.Column(column)) {
-        if (!cell) continue;
-        text += catalogue.gcolFixedDataItems.Item(column + 1).strShortName + ": " + Cells(column) +
-                "\n";
-        break;
-      }
-    return text;
+    constexpr std::size_t kWidth = 130;
+    std::string text, line;
+    for (int column = 0; column < log.glngDataLog.Columns(); ++column) {
+      const auto cells = log.glngDataLog.Column(column);
+      if (std::all_of(cells.begin(), cells.end(), [](std::int32_t cell) { return cell == 0; }))
+        continue;
+      const std::string told =
+          catalogue.gcolFixedDataItems.Item(column + 1).strShortName + ": " + Cells(column);
+      if (line.size() + told.size() > kWidth) text += std::exchange(line, "") + "\n";
+      line += (line.empty() ? "" : " | ") + told;
+    }
+    return "\n" + text + line + "\n";
+  }
+  /// The ids of the messages, and whether there are samples, zones and changes: "16, 51 samples".
+  std::string Told() const {
+    std::string told;
+    for (const auto& message : outcome.messages)
+      told += (told.empty() ? "" : ", ") + std::to_string(static_cast<int>(message.id));
+    if (log.gblnSamplesLoaded) told += " samples";
+    if (log.gblnZonesLoaded) told += " zones";
+    if (log.gblnChangesLoaded) told += " changes";
+    const bool any = log.gblnSamplesLoaded || log.gblnZonesLoaded || log.gblnChangesLoaded;
+    return told + (outcome.loaded == any ? "" : " ?");
   }
 
   struct Progress : LoadProgress {

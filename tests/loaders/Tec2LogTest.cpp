@@ -22,27 +22,11 @@ SECONDS  RPM   AD MAP   CLT GAMA MAT TPS  EGO   AF    EGOV  GPO1   BATT  KNK   D
 )");
   EXPECT_TRUE(loaded.outcome.loaded);
   EXPECT_EQ(loaded.outcome.messages, std::vector<int>{});
-  EXPECT_EQ(loaded.Table(), R"(Sample: 1 2 3
-RPM: 3250 850 6400
-MAP: 1013 345 750
-Inj W: 815 217 1150
-Inj %: 452 40 1010
-TPS: 1850 0 9998
-Knock: 12 4 250
-IAdv: 280 120 -30
-Volt: 138 138 138
-C Temp: 88 79 90
-A Temp: 250 -50 310
-A/F: 14700 13200 12050
-Boost: 38 0 0
-Vacuum: 0 120 0
-PWOFF: 52 50 52
-GAMA: 102 110 90
-CR: 990 1012 1000
-EGOV: 45 81 90
-GPO1: 0 1250 10000
-Secs: 123400 125000 126250
-Fuel% M: 1000 1000 1000
+  ExpectTold(loaded.Table(), R"(
+Sample: 1 2 3 | RPM: 3250 850 6400 | MAP: 1013 345 750 | Inj W: 815 217 1150 | Inj %: 452 40 1010 | TPS: 1850 0 9998
+Knock: 12 4 250 | IAdv: 280 120 -30 | Volt: 138 138 138 | C Temp: 88 79 90 | A Temp: 250 -50 310 | A/F: 14700 13200 12050
+Boost: 38 0 0 | Vacuum: 0 120 0 | PWOFF: 52 50 52 | GAMA: 102 110 90 | CR: 990 1012 1000 | EGOV: 45 81 90 | GPO1: 0 1250 10000
+Secs: 123400 125000 126250 | Fuel% M: 1000 1000 1000
 )");
   EXPECT_EQ(loaded.log.glngLowestAirTemp, -5);
   EXPECT_EQ(loaded.log.glngFirstPlotSample, 0);

@@ -164,6 +164,15 @@ TEST(Settings, TakeFromTheInstallFileWhatIsEmpty) {
   EXPECT_EQ(settings.gstrInitialDirectory, "");
 }
 
+TEST(Settings, BeyondTheOthersAreWrittenWhereTheyDiffer) {
+  BeyondSettings beyond;
+  beyond.linesASecond = 25;
+  IniWriter file;
+  WriteBeyondSettings({}, file);
+  WriteBeyondSettings(beyond, file);
+  EXPECT_EQ(file.Text(), "Lines A Second=25\r\n");
+}
+
 TEST(Settings, WriteTheShortestDecimal) {
   ExpectTable(
       [](const TableRow& row) { return ShortestText(row.Number(0)); },

@@ -17,7 +17,7 @@ TEST(OpenLog, ClearDropsTheLog) {
 
   log.gcolLogTags.Add(1, 2);
   log.gblnSamplesLoaded = log.gblnZonesLoaded = true;
-  log.glngFirstPlotSample = 7;
+  log.glngFirstPlotSample = log.glngFirstSample = log.glngLastSample = 7;
   log.glngLowestAirTemp = -3;
   log.zones.zones[5] = 1;
   log.Clear(catalogue.gcolFixedDataItems, 0);
@@ -26,6 +26,7 @@ TEST(OpenLog, ClearDropsTheLog) {
   EXPECT_EQ(log.gcolLogTags.Count(), 0);
   EXPECT_FALSE(log.gblnSamplesLoaded || log.gblnZonesLoaded);
   EXPECT_EQ(log.glngFirstPlotSample, -1);
+  EXPECT_EQ(log.glngFirstSample + log.glngLastSample, 0);
   EXPECT_EQ(log.glngLowestAirTemp, kNoAirTemp);
   EXPECT_EQ(log.zones.zones[5], 0);
 }
