@@ -1,38 +1,30 @@
-#include <gtest/gtest.h>
-
 #include "power/Air.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-constexpr auto kRelative = HumidityType::Relative;
-constexpr auto kWetBulb = HumidityType::WetBulb;
-
 TEST(Air, TheFactorOfTheDaysAir) {
-  const struct {
-    Air air;
-    const char* factor;
-  } kRows[] = {
-      {{25, 99, "0", kRelative}, "1.000"},   {{25, 100, "50", kRelative}, "1.007"},
-      {{20, 101, "50", kRelative}, "0.980"}, {{35, 75, "80", kRelative}, "1.505"},
-      {{-30, 115, "0", kRelative}, "0.737"}, {{25, 99, "100", kRelative}, "1.039"},
-      {{20, 101, "15", kWetBulb}, "0.982"},  {{30, 100, "20", kWetBulb}, "1.018"},
-      {{30, 95, "31", kWetBulb}, "1.118"},   {{10, 101, "-5", kWetBulb}, "0.947"},
-      {{25, 99, "dry", kRelative}, "1.000"}, {{60, 10, "100", kRelative}, ""},
-      {{20, 1, "50", kRelative}, ""},        {{-300, 99, "0", kRelative}, ""},
-      {{20, 0, "0", kRelative}, ""},
+  const auto factor = [](const TableRow& row) {
+    const bool wet = row.Text(3) == "wet bulb";
+    return CorrectionFactor({row.Int(0), row.Int(1), row.Text(2),
+                             wet ? HumidityType::WetBulb : HumidityType::Relative});
   };
-  for (const auto& row : kRows)
-    EXPECT_EQ(CorrectionFactor(row.air), row.factor)
-        << row.air.temperature << " " << row.air.humidity;
+  ExpectTable(factor, R"(
+25, 99, 0, relative -> 1.000 | 25, 100, 50, relative -> 1.007 | 20, 101, 50, relative -> 0.980 | 35, 75, 80, relative -> 1.505 | -30, 115, 0, relative -> 0.737 | 25, 99, 100, relative -> 1.039
+20, 101, 15, wet bulb -> 0.982 | 30, 100, 20, wet bulb -> 1.018 | 30, 95, 31, wet bulb -> 1.118 | 10, 101, -5, wet bulb -> 0.947 | 25, 99, dry, relative -> 1.000
+# Air that is none has no factor.
+60, 10, 100, relative ->  | 20, 1, 50, relative ->  | -300, 99, 0, relative ->  | 20, 0, 0, relative -> 
+)");
 }
 
 TEST(Air, HumidityOfAWetBulbIsAWholePerCent) {
-  EXPECT_EQ(RelativeHumidity(20, 15, 1010), 58);
-  EXPECT_EQ(RelativeHumidity(30, 20, 1000), 39);
-  EXPECT_EQ(RelativeHumidity(20, 20, 1010), 100);
-  EXPECT_EQ(RelativeHumidity(20, 25, 1010), 100);
-  EXPECT_EQ(RelativeHumidity(40, 5, 1010), 0);
+  const auto humidity = [](const TableRow& row) {
+    return NumberText(RelativeHumidity(row.Int(0), row.Int(1), row.Int(2)));
+  };
+  ExpectTable(humidity, R"(
+20, 15, 1010 -> 58 | 30, 20, 1000 -> 39 | 20, 20, 1010 -> 100 | 20, 25, 1010 -> 100 | 40, 5, 1010 -> 0
+)");
 }
 
 }  // namespace

@@ -1,72 +1,38 @@
-#include <gtest/gtest.h>
-
 #include "power/CarDefSettings.h"
+#include "power/CarFile.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-clsCarDefs Read(const std::string& lines) {
+/// What each car has other than a new one.
+std::string Read(const std::string& lines) {
   clsCarDefs cars;
   ReadCarDefs(ReadINIFileToArray("[Power Graph]\n" + lines), cars);
-  return cars;
+  const auto linesOf = [](const clsCarDef& car) {
+    return SplitAt(CarFileText(FieldsOf(car), {}), "\r\n");
+  };
+  const auto plain = linesOf(clsCarDefs::BlankPreset());
+  std::vector<std::string> told;
+  for (int n = 1; n <= cars.Count(); ++n) {
+    const auto own = linesOf(cars.Item(n));
+    std::string car = std::to_string(n);
+    for (std::size_t line = 0; line < own.size(); ++line)
+      if (own[line] != plain[line]) car += " " + own[line] + ",";
+    told.push_back(car);
+  }
+  return Join(told, "; ");
 }
 
-TEST(CarDefSettings, CarsAreReadWhileTheyHaveUnitsAndHeldToTheirLimits) {
-  const clsCarDefs cars = Read(
-      "Units Car Def 1=M\nName Car Def 1=One\nDrag Coefficient Car Def 1=7\nFrontal Area Car Def "
-      "1=0\n"
-      "Default Gear Car Def 1=6\nTyre Size Method Car Def 1=9\nUse Drag Coefficient Car Def 1=Y\n"
-      "Units Car Def 2=m\nDefault Gear Car Def 2=0\nTyre Size Method Car Def 2=2\nUnits Car Def "
-      "4=M\n");
-  ASSERT_EQ(cars.Count(), 2);
-  const clsCarDef& one = cars.Item(1);
-  EXPECT_EQ(one.strName, "One");
-  EXPECT_FALSE(one.blnImperialUnits);
-  EXPECT_EQ(one.dblCD, 0.99);
-  EXPECT_EQ(one.dblFrontalArea, 0.01);
-  EXPECT_EQ(one.lngPowerRunGear, 5);
-  EXPECT_EQ(one.lngTyreSizeMethod, kTyreRadius);
-  EXPECT_TRUE(one.blnUseCD);
-  EXPECT_EQ(one.dblDiffRatio, clsCarDefs::BlankPreset().dblDiffRatio);
-  EXPECT_TRUE(cars.Item(2).blnImperialUnits);
-  EXPECT_EQ(cars.Item(2).lngPowerRunGear, 0);
-  EXPECT_EQ(cars.Item(2).lngTyreSizeMethod, kTyreRevolutions);
-}
-
-TEST(CarDefSettings, TheOneCarOfAnOldFileBecomesTheOriginal) {
-  const clsCarDefs cars = Read(
-      "Units=M\nGear Ratio 0=3.5\nGear Ratio 5=0.7\nGear Ratio 6=3.9\nGear Loss 0=20\nGear Loss "
-      "5=4\n"
-      "Drive Wheel Radius=290\nSet Point Power=75\nSet Point Speed=180\nUse Drag "
-      "Coefficient=Y\nDefault Gear=2\n"
-      "Default Car Weight=1100\nDefault Dyno Factor=5\n");
-  ASSERT_EQ(cars.Count(), 1);
-  const clsCarDef& car = cars.Item(1);
-  EXPECT_EQ(car.strName, "Original");
-  EXPECT_EQ(car.strDesc, "QVX original power graph settings");
-  EXPECT_FALSE(car.blnImperialUnits);
-  EXPECT_EQ(car.dbl1stGearRatio, 3.5);
-  EXPECT_EQ(car.dbl6thGearRatio, 0.7);
-  EXPECT_EQ(car.dblDiffRatio, 3.9);
-  EXPECT_EQ(car.lng1stGearLoss, 20);
-  EXPECT_EQ(car.lng6thGearLoss, 4);
-  EXPECT_EQ(car.dblDriveWheelRadius, 290);
-  EXPECT_EQ(car.lngAeroLossPower, 75);
-  EXPECT_EQ(car.lngAeroLossSpeed, 180);
-  EXPECT_TRUE(car.blnUseCD);
-  EXPECT_EQ(car.lngPowerRunGear, 2);
-  EXPECT_EQ(car.lngCarWeight, 1100);
-  EXPECT_EQ(car.lngDynoCorrectionFactor, 5);
-  EXPECT_EQ(car.lngTyreSizeMethod, kTyreRadius);
-  EXPECT_EQ(car.lngCarContentsWeight, 0);
-  EXPECT_EQ(car.lngSmoothingFactor, 6);
-}
-
-TEST(CarDefSettings, AnEmptyFileStillHasACarThatDrives) {
-  const clsCarDefs cars = Read("");
-  ASSERT_EQ(cars.Count(), 1);
-  EXPECT_GT(cars.Item(1).dbl1stGearRatio, 0);
-  EXPECT_GT(cars.Item(1).dblDriveWheelRadius, 0);
+TEST(CarDefSettings, AreReadWhileTheyHaveUnitsAndHeldToTheirLimits) {
+  const auto told = [](const TableRow& row) { return Read(Join(SplitAt(row.All(), "; "), "\n")); };
+  ExpectTable(told, R"(
+Units Car Def 1=M; Name Car Def 1=One; Drag Coefficient Car Def 1=7; Frontal Area Car Def 1=0; Default Gear Car Def 1=6; Tyre Size Method Car Def 1=9; Use Drag Coefficient Car Def 1=Y -> 1 Name=One, Units=M, Tyre Size Method=3, Use Drag Coefficient=Y, Drag Coefficient=0.99, Frontal Area=0.01, Default Gear=6,
+Units Car Def 1=m; Default Gear Car Def 1=0; Tyre Size Method Car Def 1=2; Units Car Def 2=I; Units Car Def 4=M -> 1 Tyre Size Method=2, Default Gear=1,; 2
+# The one car of an old file; an empty file still has a car that drives.
+Units=M; Gear Ratio 0=3.5; Gear Ratio 5=0.7; Gear Ratio 6=3.9; Gear Loss 0=20; Gear Loss 5=4; Drive Wheel Radius=290; Set Point Power=75; Set Point Speed=180; Use Drag Coefficient=Y; Default Gear=2; Default Car Weight=1100; Default Dyno Factor=5 -> 1 Name=Original, Description=QVX original power graph settings, Units=M, 1st Gear Ratio=3.500, 6th Gear Ratio=0.700, Diff Ratio=3.900, 1st Gear Relative Loss=20, 6th Gear Relative Loss=4, Drive Wheel Radius=290.00, Tyre Size Method=3, Set Point Power=75, Set Point Speed=180, Use Drag Coefficient=Y, Default Gear=3, Car Weight=1100, Car Contents Weight=0, Smoothing Factor=6, Dyno Factor=5,
+Name=empty -> 1 Name=Original, Description=QVX original power graph settings, Tyre Size Method=3, Car Contents Weight=0, Smoothing Factor=6,
+)");
 }
 
 }  // namespace

@@ -1,14 +1,14 @@
-#include <gtest/gtest.h>
-
 #include "power/CarFields.h"
 #include "power/CarFile.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
 std::string Measures(const CarFields& f) {
-  return f.radius + " " + f.setPointPower + " " + f.setPointSpeed + " " + f.carWeight + " " +
-         f.contentsWeight + " " + f.tyreRpm + " " + f.frontalArea;
+  return Join({f.radius, f.setPointPower, f.setPointSpeed, f.carWeight, f.contentsWeight, f.tyreRpm,
+               f.frontalArea},
+              " ");
 }
 
 TEST(CarFields, ShowACarAndGiveItBack) {
@@ -22,9 +22,7 @@ TEST(CarFields, ShowACarAndGiveItBack) {
   car.lngPowerRunGear = 2;
   const CarFields fields = FieldsOf(car);
   EXPECT_EQ(Measures(fields), "11.50 100 115 2420 180 887 2.00");
-  EXPECT_EQ(fields.ratios[2], "1.334");
-  EXPECT_EQ(fields.diffRatio, "4.100");
-  EXPECT_EQ(fields.cd, "0.40");
+  EXPECT_EQ(fields.ratios[2] + " " + fields.diffRatio + " " + fields.cd, "1.334 4.100 0.40");
   const clsCarDef back = CarOf(fields);
   EXPECT_EQ(back.strName, "Mine");
   EXPECT_EQ(back.dbl3rdGearRatio, 1.334);
@@ -47,31 +45,13 @@ TEST(CarFields, ChangeTheirUnitsAndBack) {
   EXPECT_EQ(Measures(fields), "11.50 101 115 2421 181 887 2.05");
 }
 
-TEST(CarFields, EachUnitHasItsLabels) {
-  std::string text;
-  for (int unit = 0; unit < kCarUnits; ++unit) {
-    const CarUnitRow& row = CarUnitOf(static_cast<CarUnit>(unit));
-    text += std::string(row.imperialLabel) + " / " + row.metricLabel + "\n";
-  }
-  EXPECT_EQ(
-      text,
-      "Drive Wheel Radius (inches) / Drive Wheel Radius (mm)\nWheel Power (hp) / Wheel Power (kW)\n"
-      "Speed (mph) / Speed (kmh)\nCar Kerb Weight (lb) / Car Kerb Weight (kg)\n"
-      "Car Contents Weight (lb) / Car Contents Weight (kg)\nTotal Car Weight (lb) / Total Car "
-      "Weight (kg)\n"
-      "Revs per Mile / Revs per km\nFrontal Area (ft2) / Frontal Area (m2)\n");
-}
-
 TEST(CarFields, DragIsHeldToItsLimits) {
-  const char* kRows[][3] = {{"1", "0.99", "1.00"},         {"0", "0.01", "0.01"},
-                            {"abc", "0.01", "0.01"},       {"50", "0.99", "49.99"},
-                            {"49.994", "0.99", "49.99"},   {"0.345", "0.34", "0.34"},
-                            {"0.3 or so", "0.30", "0.30"}, {"-1", "0.01", "0.01"},
-                            {"0.996", "0.99", "1.00"},     {"", "0.01", "0.01"}};
-  for (const auto& [text, cd, area] : kRows) {
-    EXPECT_EQ(ValidateCD(text), cd) << text;
-    EXPECT_EQ(ValidateFrontalArea(text), area) << text;
-  }
+  const auto held = [](const TableRow& row) {
+    return ValidateCD(row.All()) + ", " + ValidateFrontalArea(row.All());
+  };
+  ExpectTable(held, R"(
+1 -> 0.99, 1.00 | 0 -> 0.01, 0.01 | abc -> 0.01, 0.01 | 50 -> 0.99, 49.99 | 49.994 -> 0.99, 49.99 | 0.345 -> 0.34, 0.34 | 0.3 or so -> 0.30, 0.30 | -1 -> 0.01, 0.01 | 0.996 -> 0.99, 1.00
+)");
 }
 
 }  // namespace

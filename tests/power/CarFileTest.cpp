@@ -1,55 +1,60 @@
-#include <gtest/gtest.h>
-
 #include "power/CarFile.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-constexpr const char* kFile =
-    "Tarnview Car Definition File\r\n"
-    "File Created: 24-Nov-2026 14:05\r\n"
-    "\r\n"
-    "Car Definition Details:\r\n"
-    "Name=Mine = fast\r\n"
-    "Description=\r\n"
-    "Units=M\r\n"
-    "1st Gear Ratio=3.100\r\n"
-    "2nd Gear Ratio=2.200\r\n"
-    "3rd Gear Ratio=1.330\r\n"
-    "4th Gear Ratio=1.040\r\n"
-    "5th Gear Ratio=0.850\r\n"
-    "6th Gear Ratio=0.760\r\n"
-    "Diff Ratio=4.300\r\n"
-    "1st Gear Relative Loss=1\r\n"
-    "2nd Gear Relative Loss=2\r\n"
-    "3rd Gear Relative Loss=3\r\n"
-    "4th Gear Relative Loss=4\r\n"
-    "5th Gear Relative Loss=5\r\n"
-    "6th Gear Relative Loss=6\r\n"
-    "Drive Wheel Radius=290.00\r\n"
-    "Tyre Width=195\r\n"
-    "Tyre Profile=50\r\n"
-    "Wheel Diameter=15\r\n"
-    "Tyre RPM=540\r\n"
-    "Tyre Size Method=2\r\n"
-    "Set Point Power=74\r\n"
-    "Set Point Speed=185\r\n"
-    "Use Drag Coefficient=Y\r\n"
-    "Drag Coefficient=0.38\r\n"
-    "Frontal Area=1.80\r\n"
-    "Default Gear=4\r\n"
-    "Car Weight=1010\r\n"
-    "Car Contents Weight=80\r\n"
-    "Smoothing Factor=5\r\n"
-    "Dyno Factor=-2\r\n";
+/// With CR LF behind each line.
+std::string File() {
+  std::string text;
+  for (const std::string& line : Split(R"(Tarnview Car Definition File
+File Created: 24-Nov-2026 14:05
+
+Car Definition Details:
+Name=Mine = fast
+Description=
+Units=M
+1st Gear Ratio=3.100
+2nd Gear Ratio=2.200
+3rd Gear Ratio=1.330
+4th Gear Ratio=1.040
+5th Gear Ratio=0.850
+6th Gear Ratio=0.760
+Diff Ratio=4.300
+1st Gear Relative Loss=1
+2nd Gear Relative Loss=2
+3rd Gear Relative Loss=3
+4th Gear Relative Loss=4
+5th Gear Relative Loss=5
+6th Gear Relative Loss=6
+Drive Wheel Radius=290.00
+Tyre Width=195
+Tyre Profile=50
+Wheel Diameter=15
+Tyre RPM=540
+Tyre Size Method=2
+Set Point Power=74
+Set Point Speed=185
+Use Drag Coefficient=Y
+Drag Coefficient=0.38
+Frontal Area=1.80
+Default Gear=4
+Car Weight=1010
+Car Contents Weight=80
+Smoothing Factor=5
+Dyno Factor=-2)",
+                                       '\n'))
+    text += line + "\r\n";
+  return text;
+}
 
 constexpr Moment kNow{2026, 11, 24, 14, 5, 9};
 constexpr const char* kStart = "x\nCar Definition Details:\n";
 
 TEST(CarFile, IsWrittenAsItWasRead) {
   CarFields fields;
-  ASSERT_TRUE(ReadCarFile(kFile, fields));
-  EXPECT_EQ(CarFileText(fields, kNow), kFile);
+  ASSERT_TRUE(ReadCarFile(File(), fields));
+  EXPECT_EQ(CarFileText(fields, kNow), File());
   EXPECT_FALSE(fields.imperial);
   EXPECT_EQ(fields.gear, 3);
 }
@@ -66,24 +71,18 @@ TEST(CarFile, WhatAFileDoesNotNameStays) {
 }
 
 TEST(CarFile, EachKeyByItself) {
-  const auto with = [](const std::string& lines) {
-    CarFields fields = FieldsOf({});
-    ReadCarFile(kStart + lines, fields);
-    return fields;
+  const auto told = [](const TableRow& row) {
+    CarFields f = FieldsOf({});
+    ReadCarFile(kStart + Join(SplitAt(row.All(), "; "), "\n"), f);
+    return Join({f.imperial ? "imperial" : "metric", std::to_string(f.tyreSizeMethod),
+                 f.useCd ? "drag" : "set point", f.ratios[1], f.diffRatio, f.carWeight,
+                 std::to_string(f.gear), f.name},
+                " ");
   };
-  EXPECT_TRUE(with("Units=X").imperial);
-  EXPECT_FALSE(with("Units=M").imperial);
-  EXPECT_EQ(with("Tyre Size Method=1").tyreSizeMethod, kTyreSize);
-  EXPECT_EQ(with("Tyre Size Method=2").tyreSizeMethod, kTyreRevolutions);
-  EXPECT_EQ(with("Tyre Size Method= 1").tyreSizeMethod, kTyreRadius);
-  EXPECT_FALSE(with("Use Drag Coefficient=y").useCd);
-  EXPECT_EQ(with("2nd Gear Ratio=1.88849x").ratios[1], "1.888");
-  EXPECT_EQ(with("Diff Ratio=abc").diffRatio, "0.000");
-  EXPECT_EQ(with("Car Weight=heavy").carWeight, "heavy");
-  EXPECT_EQ(with("Default Gear=1").gear, 0);
-  EXPECT_EQ(with("Default Gear=0").gear, 0);
-  EXPECT_EQ(with("Default Gear=99").gear, 5);
-  EXPECT_EQ(with("Name=a\nName=b=c").name, "b=c");
+  ExpectTable(told, R"(
+Units=X -> imperial 1 set point 1.888 4.100 2420 3 New | Units=M -> metric 1 set point 1.888 4.100 2420 3 New | Tyre Size Method=1 -> imperial 1 set point 1.888 4.100 2420 3 New | Tyre Size Method=2 -> imperial 2 set point 1.888 4.100 2420 3 New | Tyre Size Method= 1 -> imperial 3 set point 1.888 4.100 2420 3 New | Use Drag Coefficient=y -> imperial 1 set point 1.888 4.100 2420 3 New
+2nd Gear Ratio=1.88849x -> imperial 1 set point 1.888 4.100 2420 3 New | Diff Ratio=abc -> imperial 1 set point 1.888 0.000 2420 3 New | Car Weight=heavy -> imperial 1 set point 1.888 4.100 heavy 3 New | Default Gear=1 -> imperial 1 set point 1.888 4.100 2420 0 New | Default Gear=0 -> imperial 1 set point 1.888 4.100 2420 0 New | Default Gear=99 -> imperial 1 set point 1.888 4.100 2420 5 New | Name=a; Name=b=c -> imperial 1 set point 1.888 4.100 2420 3 b=c
+)");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "base/Numbers.h"
 #include "power/PowerChart.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -24,16 +23,14 @@ TEST(PowerChart, LegendsNamePeaksAndTopSpeed) {
 }
 
 TEST(PowerChart, AxesEndAtRoundNumbers) {
-  const std::pair<double, const char*> kRpm[] = {
-      {0, "1000-8000/7 halved"},    {7999, "1000-8000/7 halved"},  {7999.5, "1000-9000/8 halved"},
-      {8999, "1000-9000/8 halved"}, {9000, "1000-10000/9 halved"}, {14000, "1000-10000/9 halved"}};
-  for (const auto& [rpm, axis] : kRpm) EXPECT_EQ(Axis(RpmAxis(rpm)), axis) << rpm;
-  const std::pair<double, const char*> kPower[] = {
-      {-5, "0-20/1"},           {0, "0-20/1"},      {19.9, "0-20/1"},   {20, "0-40/2"},
-      {299, "0-300/15"},        {300, "0-320/16"},  {300.1, "0-350/7"}, {350, "0-400/8"},
-      {500, "0-550/11"},        {500.1, "0-600/6"}, {600, "0-700/7"},   {999.9, "0-1000/10"},
-      {109690, "0-109700/1097"}};
-  for (const auto& [top, axis] : kPower) EXPECT_EQ(Axis(PowerAxis(top)), axis) << top;
+  const auto rpm = [](const TableRow& row) { return Axis(RpmAxis(row.Number(0))); };
+  ExpectTable(rpm, R"(
+0 -> 1000-8000/7 halved | 7999 -> 1000-8000/7 halved | 7999.5 -> 1000-9000/8 halved | 8999 -> 1000-9000/8 halved | 9000 -> 1000-10000/9 halved | 14000 -> 1000-10000/9 halved
+)");
+  const auto power = [](const TableRow& row) { return Axis(PowerAxis(row.Number(0))); };
+  ExpectTable(power, R"(
+-5 -> 0-20/1 | 0 -> 0-20/1 | 19.9 -> 0-20/1 | 20 -> 0-40/2 | 299 -> 0-300/15 | 300 -> 0-320/16 | 300.1 -> 0-350/7 | 350 -> 0-400/8 | 500 -> 0-550/11 | 500.1 -> 0-600/6 | 600 -> 0-700/7 | 999.9 -> 0-1000/10 | 109690 -> 0-109700/1097
+)");
 }
 
 TEST(PowerChart, ABenchmarkAddsItsPairAndCountsForTheAxes) {

@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <limits>
 
 #include "base/Numbers.h"
 #include "power/PowerLog.h"
 #include "power/PowerRun.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -28,7 +27,7 @@ std::string Printed(const PowerCurves& curves) {
   std::string text;
   for (std::size_t i = 0; i < curves.speed.size(); ++i) {
     const SpeedPoint& s = curves.speed[i];
-    const std::string speed = Line({{s.seconds, 2}, {s.speed, 3}}) + "\n";
+    const std::string speed = Line({{s.seconds, 2}, {s.speed, 3}}) + "; ";
     if (i == curves.points.size()) return text + "no point " + speed;
     const PowerPoint& p = curves.points[i];
     text += Line({{p.rpm, 1}, {p.power, 2}, {p.torque, 2}}) + " " + speed;
@@ -69,46 +68,29 @@ PowerRun MetricRun() {
   return run;
 }
 
-// A repeated time and a standing engine give no point, and the next interval starts from them;
-// falling rpm give less than no power.
 TEST(PowerRun, EachIntervalGivesAPointThatIsNotClamped) {
-  EXPECT_EQ(Printed(CurvesOf(RunOf(kRough, 3, 0))),
-            "2030.0 107.28 277.56 0.00 15.195\n2095.0 128.91 323.17 0.10 15.712\n2130.0 2.85 7.04 "
-            "0.20 15.712\n"
-            "2245.0 177.21 414.57 0.30 16.892\n2330.0 164.14 369.98 0.40 17.482\n1185.0 -2416.21 "
-            "-10709.03 0.50 0.000\n"
-            "2545.0 201.97 416.80 0.60 19.105\n2630.0 186.42 372.29 0.70 19.695\n2655.0 -63.01 "
-            "-124.65 0.80 19.474\n"
-            "peaks 201.97 2545.0 416.80 2545.0 2655.0 top 145.4");
-}
-
-TEST(PowerRun, OnlyALastSampleWithoutAPointKeepsItsSpeed) {
-  const std::vector<RunSample> samples{{0, 2000}, {.1, 2060}, {.1, 2100}, {.2, 2130}, {.2, 2150}};
-  EXPECT_EQ(Printed(CurvesOf(RunOf(samples, 3, 0))),
-            "2030.0 107.28 277.56 0.00 15.195\n2115.0 57.39 142.52 0.10 15.712\n"
-            "no point 0.00 15.859\n");
-}
-
-TEST(PowerRun, CurvesAreSmoothedAndTheirPeaksTakenBehindIt) {
-  EXPECT_EQ(Printed(CurvesOf(RunOf(kSmooth, 3, 3))),
-            "2031.0 138.77 339.48 0.00 15.210\n2088.5 139.23 338.42 0.08 15.601\n2148.5 139.05 "
-            "335.12 0.16 16.095\n"
-            "2211.0 139.94 331.36 0.24 16.523\n2264.5 141.02 327.38 0.32 16.884\n2320.5 141.30 "
-            "321.68 0.40 17.349\n"
-            "2379.0 142.30 317.70 0.48 17.748\n2428.5 142.98 313.94 0.56 18.079\n2480.5 142.49 "
-            "308.43 0.64 18.515\n"
-            "2535.0 142.69 307.07 0.72 18.883\npeaks 142.98 2428.5 339.48 2031.0 2535.0 top 129.6");
-}
-
-TEST(PowerRun, AMetricCarWithADragCoefficientCorrectedInThirdGear) {
-  EXPECT_EQ(Printed(CurvesOf(MetricRun())),
-            "2031.0 67.37 305.84 0.00 11.484\n2088.5 66.85 301.65 0.08 11.779\n2148.5 67.10 297.32 "
-            "0.16 12.152\n"
-            "2211.0 67.91 294.46 0.24 12.475\n2264.5 68.10 287.96 0.32 12.748\n2320.5 68.21 281.46 "
-            "0.40 13.099\n"
-            "2379.0 68.25 274.96 0.48 13.399\n2428.5 68.85 272.11 0.56 13.650\n2480.5 68.75 267.77 "
-            "0.64 13.979\n"
-            "2535.0 69.69 268.37 0.72 14.257\npeaks 69.69 2535.0 305.84 2031.0 2535.0 top 203.6");
+  const std::vector<RunSample> repeated{{0, 2000}, {.1, 2060}, {.1, 2100}, {.2, 2130}, {.2, 2150}};
+  const std::vector<PowerPoint> benchmark{
+      {2000, 50, 100}, {2200, 60, 120}, {2200, 99, 99}, {2400, 80, 140}};
+  const auto told = [&](const TableRow& row) {
+    const std::string& samples = row.Text(0);
+    PowerRun run = MetricRun();
+    if (samples == "rough") run = RunOf(kRough, 3, row.Int(1));
+    if (samples == "repeated") run = RunOf(repeated, 3, row.Int(1));
+    if (samples == "smooth") run = RunOf(kSmooth, 3, row.Int(1));
+    return Printed(CurvesOf(run, row.Count() > 2 ? &benchmark : nullptr));
+  };
+  ExpectTable(told, R"(
+# A repeated time and a standing engine give no point, and the next interval starts from them; falling rpm give less than no power.
+rough, 0 -> 2030.0 107.28 277.56 0.00 15.195; 2095.0 128.91 323.17 0.10 15.712; 2130.0 2.85 7.04 0.20 15.712; 2245.0 177.21 414.57 0.30 16.892; 2330.0 164.14 369.98 0.40 17.482; 1185.0 -2416.21 -10709.03 0.50 0.000; 2545.0 201.97 416.80 0.60 19.105; 2630.0 186.42 372.29 0.70 19.695; 2655.0 -63.01 -124.65 0.80 19.474; peaks 201.97 2545.0 416.80 2545.0 2655.0 top 145.4
+# Only a last sample without a point keeps its speed.
+repeated, 0 -> 2030.0 107.28 277.56 0.00 15.195; 2115.0 57.39 142.52 0.10 15.712; no point 0.00 15.859; 
+# Peaks are taken behind smoothing, and averaging comes in between.
+smooth, 3 -> 2031.0 138.77 339.48 0.00 15.210; 2088.5 139.23 338.42 0.08 15.601; 2148.5 139.05 335.12 0.16 16.095; 2211.0 139.94 331.36 0.24 16.523; 2264.5 141.02 327.38 0.32 16.884; 2320.5 141.30 321.68 0.40 17.349; 2379.0 142.30 317.70 0.48 17.748; 2428.5 142.98 313.94 0.56 18.079; 2480.5 142.49 308.43 0.64 18.515; 2535.0 142.69 307.07 0.72 18.883; peaks 142.98 2428.5 339.48 2031.0 2535.0 top 129.6
+smooth, 3, averaged -> 2031.0 95.16 221.29 0.00 15.210; 2088.5 96.83 223.64 0.08 15.601; 2148.5 98.24 224.98 0.16 16.095; 2211.0 118.95 216.31 0.24 16.523; 2264.5 116.95 219.80 0.32 16.884; 2320.5 114.43 222.69 0.40 17.349; 2379.0 112.15 226.70 0.48 17.748; 2428.5 142.98 313.94 0.56 18.079; 2480.5 142.49 308.43 0.64 18.515; 2535.0 142.69 307.07 0.72 18.883; peaks 142.98 2428.5 313.94 2428.5 2535.0 top 129.6
+# With a drag coefficient, corrected, in third gear.
+metric, 2 -> 2031.0 67.37 305.84 0.00 11.484; 2088.5 66.85 301.65 0.08 11.779; 2148.5 67.10 297.32 0.16 12.152; 2211.0 67.91 294.46 0.24 12.475; 2264.5 68.10 287.96 0.32 12.748; 2320.5 68.21 281.46 0.40 13.099; 2379.0 68.25 274.96 0.48 13.399; 2428.5 68.85 272.11 0.56 13.650; 2480.5 68.75 267.77 0.64 13.979; 2535.0 69.69 268.37 0.72 14.257; peaks 69.69 2535.0 305.84 2031.0 2535.0 top 203.6
+)");
 }
 
 TEST(PowerRun, AFactorCountsOnlyForACorrectedRunAndNoneAtAllIsNoPower) {
@@ -121,19 +103,6 @@ TEST(PowerRun, AFactorCountsOnlyForACorrectedRunAndNoneAtAllIsNoPower) {
   EXPECT_EQ(none.peaks.power, 0);
   EXPECT_EQ(none.peaks.powerRpm, 0);
   EXPECT_EQ(none.peaks.topSpeed, 0);
-}
-
-TEST(PowerRun, AveragingComesBehindSmoothingAndAheadOfThePeaks) {
-  const std::vector<PowerPoint> benchmark{
-      {2000, 50, 100}, {2200, 60, 120}, {2200, 99, 99}, {2400, 80, 140}};
-  EXPECT_EQ(Printed(CurvesOf(RunOf(kSmooth, 3, 3), &benchmark)),
-            "2031.0 95.16 221.29 0.00 15.210\n2088.5 96.83 223.64 0.08 15.601\n2148.5 98.24 224.98 "
-            "0.16 16.095\n"
-            "2211.0 118.95 216.31 0.24 16.523\n2264.5 116.95 219.80 0.32 16.884\n2320.5 114.43 "
-            "222.69 0.40 17.349\n"
-            "2379.0 112.15 226.70 0.48 17.748\n2428.5 142.98 313.94 0.56 18.079\n2480.5 142.49 "
-            "308.43 0.64 18.515\n"
-            "2535.0 142.69 307.07 0.72 18.883\npeaks 142.98 2428.5 313.94 2428.5 2535.0 top 129.6");
 }
 
 TEST(PowerRun, ACarThatCannotBeReckonedWithFailsAndSaysWhichField) {
@@ -164,20 +133,18 @@ TEST(PowerRun, ACarThatCannotBeReckonedWithFailsAndSaysWhichField) {
   }
 }
 
-std::string Samples(const PowerLog& made, std::int32_t from, std::int32_t to) {
-  std::string text;
-  for (const RunSample& s : SamplesOfRun(made.log, from, to))
-    text += FixedText(s.seconds, 2) + ":" + NumberText(s.rpm) + " ";
-  return text;
-}
-
 TEST(PowerRun, ItsSamplesAreThoseOfTheRangeThatTheLogHas) {
   const PowerLog made("10 0.5 2000\n11 0.6 2100\n14 0.8 2300\n15 0.9 2400\n");
-  EXPECT_EQ(Samples(made, 11, 14), "0.60:2100 0.80:2300 ");
-  EXPECT_EQ(Samples(made, 12, 99), "0.80:2300 0.90:2400 ");
-  EXPECT_EQ(Samples(made, 1, 10), "0.50:2000 ");
-  EXPECT_EQ(Samples(made, 12, 13), "");
-  EXPECT_EQ(Samples(PowerLog(""), 1, 10), "");
+  const auto samples = [&](const TableRow& row) {
+    std::string text;
+    for (const RunSample& s : SamplesOfRun(made.log, row.Int(0), row.Int(1)))
+      text += FixedText(s.seconds, 2) + ":" + NumberText(s.rpm) + " ";
+    return text;
+  };
+  ExpectTable(samples, R"(
+11, 14 -> 0.60:2100 0.80:2300  | 12, 99 -> 0.80:2300 0.90:2400  | 1, 10 -> 0.50:2000  | 12, 13 -> 
+)");
+  EXPECT_TRUE(SamplesOfRun(PowerLog("").log, 1, 10).empty());
   std::string same;
   for (int i = 0; i < 1200; ++i) same += "7 1 2000\n";
   EXPECT_EQ(SamplesOfRun(PowerLog(same).log, 7, 7).size(), 1001u);

@@ -10,13 +10,20 @@
 #include "power/frmPowerGraph.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
 
 namespace tarnview {
 
 /// A power graph window over a small log, before a desktop that records.
 class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWindow {
  protected:
+  PowerWindowsTest() {
+    story.Verb("draw", [this](const auto& ends) { Draw(ends[0], ends[1]); });
+    story.PassOver("chPowerGraph");
+    story.Fact("curves", [this] { return Names(); });
+    story.Fact("main", [this] { return plotted; });
+    story.Fact("disk", [this] { return files.accesses.empty() ? "" : files.accesses.back(); });
+  }
   /// 1201 samples from number 100 on, a tenth of a second each, 2000 rpm and 20 more with each.
   static std::string Lines() {
     std::string lines;
@@ -39,31 +46,24 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
     window->txtPlotRangeTo.Do({"type", {to}});
     window->cmdDrawGraph.Do({"click", {}});
   }
-  std::string Range() const {
-    return window->txtPlotRangeFrom.Text() + "-" + window->txtPlotRangeTo.Text();
-  }
   std::string Names() const {
     std::string names;
-    for (const ChartSeries& series : window->chPowerGraph.Data().Series())
-      names += series.name + "\n";
+    if (window)
+      for (const ChartSeries& series : window->chPowerGraph.Data().Series())
+        names += (names.empty() ? "" : "; ") + series.name;
     return names;
   }
-  /// The ids of the boxes since the last call.
-  std::vector<int> Boxes() {
-    std::vector<int> ids;
-    for (const Box& box : host.messages) ids.push_back(box.id);
-    host.messages.clear();
-    return ids;
-  }
-  const std::string& Panel(int panel) const { return window->staPowerGraph.Panel(panel); }
 
   SampleRange MainRange() const override { return mainRange; }
   void PlotRun(const SampleRange& range, std::int32_t sample) override {
-    plotted += std::to_string(range.from) + "-" + std::to_string(range.to) + " at " +
-               std::to_string(sample);
+    plotted = std::to_string(range.from) + "-" + std::to_string(range.to) + " at " +
+              std::to_string(sample);
   }
   double AutoGearSpeedFactor() const override { return speedFactor; }
-  void OpenSpeedGraph(const SpeedGraphInput& input) override { speedGraphs.push_back(input); }
+  void OpenSpeedGraph(const SpeedGraphInput& input) override {
+    plotted = std::to_string(input.run.size()) + " speeds against " +
+              std::to_string(input.benchmark.size());
+  }
   void RecentPowerFilesChanged() override { window->ListRecentFiles(); }
   void PowerGraphClosed(int) override {}
 
@@ -75,11 +75,11 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
   Settings settings;
   clsCarDefs cars;
   SampleRange mainRange{120, 180};
-  std::string plotted;
+  std::string plotted;  ///< what was last asked of the main window
   double speedFactor = 0;
-  std::vector<SpeedGraphInput> speedGraphs;
   std::unique_ptr<PowerLog> made;
   std::unique_ptr<frmPowerGraph> window;
+  Story story{host};
 };
 
 }  // namespace tarnview

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "base/Numbers.h"
 #include "power/SavedRun.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -14,19 +13,10 @@ PowerCurves SmallCurves(bool imperial) {
   return curves;
 }
 
-std::string Texts(const PowerFile& f) {
-  return f.file + " " + f.plotFrom + "-" + f.plotTo + " " + f.comments + "; " + f.gearRatios[2] +
-         " " + f.finalDrive + " " + f.gearLosses[0] + "; " + f.driveWheel + "; " + f.setPointPower +
-         " " + f.setPointSpeed + "; " + f.dragCoefficient + " " + f.frontalArea + "; " + f.gear +
-         " " + f.carWeight + " " + f.smoothing + " " + f.dyno + " " + f.units + "; " +
-         f.temperature + " " + f.pressure + " " + f.humidity + "; " + f.correctionFactor;
-}
-
-std::string Speeds(const PowerFile& f) {
-  std::string text;
-  for (const SpeedPoint& p : f.speed)
-    text += FixedText(p.seconds, 2) + " " + FixedText(p.speed, 3) + "; ";
-  return text;
+/// What is written of the run from its gears on, on one line.
+std::string Told(const PowerFile& f) {
+  const std::string text = Join(SplitAt(PowerFileText(f, {}), "\r\n"), "; ");
+  return text.substr(text.find("File="));
 }
 
 TEST(SavedRun, TellsTheRunInWords) {
@@ -34,56 +24,48 @@ TEST(SavedRun, TellsTheRunInWords) {
   run.gear = 2;
   run.contentsWeight = 180;
   run.smoothing = 7;
-  PowerFile f = SavedRun(run, SmallCurves(true), {"/logs/a.txt", "12", "90", "wet"}, "0.980");
-  EXPECT_EQ(
-      Texts(f),
-      "/logs/a.txt 12-90 wet; 1.330 4.100 15; Tyre size 185/60 R14; 100 hp 115 mph; 0.4 2 ft2; "
-      "3rd 2600 lb 7 0 Imperial; 20 'C 101 kPa 50 %; ");
-  EXPECT_EQ(Speeds(f), "0.00 44.739; 0.08 45.857; ");
-  EXPECT_FALSE(f.usesDrag);
-
-  run.corrected = run.car.blnUseCD = true;
-  run.car.blnImperialUnits = false;
-  run.car.lngTyreSizeMethod = kTyreRadius;
-  run.car.dblDriveWheelRadius = 290.5;
-  run.air.humidityType = HumidityType::WetBulb;
-  run.air.humidity = "15";
-  f = SavedRun(run, SmallCurves(false), {}, "0.980");
-  EXPECT_EQ(Texts(f),
-            " - ; 1.330 4.100 15; 290.5 mm drive wheel radius; 100 kW 115 kmh; 0.4 2 m2; "
-            "3rd 2600 kg 7 0 Metric; 20 'C 101 kPa 15 'C WB; 0.980");
-  EXPECT_EQ(Speeds(f), "0.00 71.999; 0.08 73.799; ");
-  EXPECT_TRUE(f.usesDrag && f.wetBulb);
+  const auto told = [&](const TableRow& row) {
+    const bool metric = row.All() == "metric";
+    if (metric) {
+      run.corrected = run.car.blnUseCD = true;
+      run.car.blnImperialUnits = false;
+      run.car.lngTyreSizeMethod = kTyreRadius;
+      run.car.dblDriveWheelRadius = 290.5;
+      run.air.humidityType = HumidityType::WetBulb;
+      run.air.humidity = "15";
+    }
+    return Told(SavedRun(run, SmallCurves(!metric), {"/logs/a.txt", "12", "90", "wet"}, "0.980"));
+  };
+  ExpectTable(told, R"(
+imperial -> File=/logs/a.txt; Plot Range From=12; Plot Range To=90; Comments=wet; ; Calculation Parameters:; ; 1st Gear Ratio=3.136; 2nd Gear Ratio=1.888; 3rd Gear Ratio=1.330; 4th Gear Ratio=1.000; 5th Gear Ratio=0.814; 6th Gear Ratio=0.814; Diff Ratio=4.100; 1st Gear Relative Loss=15; 2nd Gear Relative Loss=10; 3rd Gear Relative Loss=7; 4th Gear Relative Loss=0; 5th Gear Relative Loss=3; 6th Gear Relative Loss=6; Drive Wheel Dimensions=Tyre size 185/60 R14; Set Point Power=100 hp; Set Point Speed=115 mph; Gear=3rd; Car Weight=2600 lb; Smoothing Factor=7; Dyno Factor=0; Calculation Units=Imperial; Air Temperature=20 'C; Atmospheric Pressure=101 kPa; Relative Humidity=50 %; ; Graph Power & Torque Data (RPM, Power, Torque):; ; 6480,141.2,114.4; ; Graph Speed Data (Time, Speed):; ; 000.08,045.86; 
+metric -> File=/logs/a.txt; Plot Range From=12; Plot Range To=90; Comments=wet; ; Calculation Parameters:; ; 1st Gear Ratio=3.136; 2nd Gear Ratio=1.888; 3rd Gear Ratio=1.330; 4th Gear Ratio=1.000; 5th Gear Ratio=0.814; 6th Gear Ratio=0.814; Diff Ratio=4.100; 1st Gear Relative Loss=15; 2nd Gear Relative Loss=10; 3rd Gear Relative Loss=7; 4th Gear Relative Loss=0; 5th Gear Relative Loss=3; 6th Gear Relative Loss=6; Drive Wheel Dimensions=290.5 mm drive wheel radius; Drag Coefficient=0.4; Frontal Area=2 m2; Gear=3rd; Car Weight=2600 kg; Smoothing Factor=7; Dyno Factor=0; Calculation Units=Metric; Air Temperature=20 'C; Atmospheric Pressure=101 kPa; Wet Bulb Air Temperature=15 'C WB; SAE Correction Factor=0.980; ; Graph Power & Torque Data (RPM, Power, Torque):; ; 6480,141.2,114.4; ; Graph Speed Data (Time, Speed):; ; 000.08,073.80; 
+)");
 }
 
 TEST(SavedRun, TyresByTheirRevolutionsAndRadiusInInches) {
-  PowerRun run;
-  const auto wheel = [&](int method, bool imperial) {
-    run.car.lngTyreSizeMethod = method;
-    run.car.blnImperialUnits = imperial;
+  const auto wheel = [](const TableRow& row) {
+    PowerRun run;
+    run.car.lngTyreSizeMethod = row.Int(0);
+    run.car.blnImperialUnits = row.Text(1) == "imperial";
     return SavedRun(run, {}, {}, "").driveWheel;
   };
-  EXPECT_EQ(wheel(kTyreRevolutions, true), "887 Revolutions per Mile ");
-  EXPECT_EQ(wheel(kTyreRevolutions, false), "887 Revolutions per Km ");
-  EXPECT_EQ(wheel(kTyreRadius, true), "11.5 in drive wheel radius");
+  ExpectTable(wheel, R"(
+2, imperial -> 887 Revolutions per Mile  | 2, metric -> 887 Revolutions per Km  | 3, imperial -> 11.5 in drive wheel radius
+)");
 }
 
 TEST(SavedRun, DragOfASavedGraphByItsOwnTexts) {
-  const auto drag = [](bool usesDrag, const char* first, const char* second) {
+  const auto drag = [](const TableRow& row) {
     PowerFile f;
-    f.usesDrag = usesDrag;
-    (usesDrag ? f.dragCoefficient : f.setPointPower) = first;
-    (usesDrag ? f.frontalArea : f.setPointSpeed) = second;
+    f.usesDrag = row.Text(0) == "drag";
+    (f.usesDrag ? f.dragCoefficient : f.setPointPower) = row.Text(1);
+    (f.usesDrag ? f.frontalArea : f.setPointSpeed) = row.Text(2);
     const auto k = DragOf(f, {30, 98, "", {}});
     return k ? FixedText(*k, 6) : "none";
   };
-  EXPECT_EQ(drag(false, "100 hp", "115 mph"), "0.548822");
-  EXPECT_EQ(drag(false, "75 kW", "180 kmh"), "0.599986");
-  EXPECT_EQ(drag(true, "0.36", "1.9 m2"), "0.385156");
-  EXPECT_EQ(drag(true, "0.36", "1.9 ft2"), "0.035782");
-  EXPECT_EQ(drag(false, "", ""), "none");
-  EXPECT_EQ(drag(false, "100 hp", "0 mph"), "none");
-  EXPECT_EQ(drag(false, "some", "115 mph"), "none");
+  ExpectTable(drag, R"(
+point, 100 hp, 115 mph -> 0.548822 | point, 75 kW, 180 kmh -> 0.599986 | drag, 0.36, 1.9 m2 -> 0.385156 | drag, 0.36, 1.9 ft2 -> 0.035782 | point, x, y -> none | point, 100 hp, 0 mph -> none | point, some, 115 mph -> none
+)");
 }
 
 TEST(SavedRun, GearsAreNamed) {

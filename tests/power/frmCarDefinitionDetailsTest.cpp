@@ -1,36 +1,26 @@
-#include <gtest/gtest.h>
-
 #include "power/CarFile.h"
 #include "power/frmCarDefinitionDetails.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
 
 namespace tarnview {
 namespace {
 
 class CarDetails : public ::testing::Test {
  protected:
+  CarDetails() {
+    story.Verb("open", [this](const auto&) { Open(); });
+    story.Fact("car", [this] {
+      if (!window) return std::string();
+      const clsCarDef car = window->ColItem();
+      return std::string(window->Accepted() ? "accepted " : "") + car.strName + ", " + car.strDesc;
+    });
+  }
   void Open(const clsCarDef& car = {}) {
     window.emplace(
         host, frmCarDefinitionDetails::Surroundings{folder, files, clock, errors, messages}, car);
     window->Show();
-  }
-  void Answer(Answer::Kind kind, const std::string& path = "") {
-    host.answers.push_back({kind, path});
-  }
-  std::string Questions() {
-    std::string texts;
-    for (const Box& box : host.messages) texts += box.text + "\n";
-    host.messages.clear();
-    return texts;
-  }
-  std::string Measures() const {
-    return window->txtWheelRadius.Text() + " " + window->txtSetPointPower.Text() + " " +
-           window->txtSetPointSpeed.Text() + " " + window->txtCarWeight.Text() + "+" +
-           window->txtCarContentsWeight.Text() + "=" + window->txtTotalWeight.Text() + " " +
-           window->txtTyreRPM.Text() + " " + window->txtFrontalArea.Text() + " " +
-           window->lblCarWeight.Caption();
   }
 
   RecordingHost host;
@@ -40,36 +30,31 @@ class CarDetails : public ::testing::Test {
   Messages messages{host, [](int) { return ""; }};
   std::string folder = "/cars";
   std::optional<frmCarDefinitionDetails> window;
+  Story story{host};
 };
 
 TEST_F(CarDetails, ShowsACarAndGivesItBackOnOK) {
   Open();
-  EXPECT_EQ(Measures(), "11.50 100 115 2420+180=2600 887 2.00 Car Kerb Weight (lb)");
-  EXPECT_EQ(window->txtGearRatios(2).Text() + " " + window->txtGearRatios(6).Text(), "1.330 4.100");
-  EXPECT_EQ(
-      window->cboTyreWidth.Text() + window->cboTyreProfile.Text() + window->cboWheelDiameter.Text(),
-      "1856014");
-  EXPECT_EQ(window->cboDefGear.Text(), "4th");
-  window->txtName.Do({"type", {"Mine"}});
-  window->txtGearRatios(6).Do({"type", {"3.9"}});
-  window->cboWheelDiameter.Do({"choose", {"15"}});
-  window->cboDefGear.Do({"choose", {"2nd"}});
-  window->cmdOK.Do({"click", {}});
-  EXPECT_TRUE(window->Accepted());
-  EXPECT_EQ(window->ColItem().strName, "Mine");
-  EXPECT_EQ(window->ColItem().dblDiffRatio, 3.9);
-  EXPECT_EQ(window->ColItem().lngWheelDiameter, 15);
-  EXPECT_EQ(window->ColItem().lngPowerRunGear, 1);
-  EXPECT_EQ(Questions(), "");
-}
-
-TEST_F(CarDetails, EnterLeavesTheFieldFirst) {
-  Open();
-  window->optAeroCD.Do({"click", {}});
-  window->txtCD.SetFocus();
-  window->txtCD.Text = std::string("5");
-  window->cmdOK.Press();
-  EXPECT_EQ(window->ColItem().dblCD, 0.99);
+  EXPECT_STORY(story, R"(
+show txtWheelRadius txtSetPointPower txtSetPointSpeed txtCarWeight txtCarContentsWeight txtTotalWeight txtTyreRPM txtFrontalArea lblCarWeight -> txtWheelRadius off, txtWheelRadius=11.50, txtSetPointPower=100, txtSetPointSpeed=115, txtCarWeight=2420, txtCarContentsWeight=180, txtTotalWeight=2600, txtTyreRPM off, txtTyreRPM=887, txtFrontalArea off, txtFrontalArea=2.00, lblCarWeight=Car Kerb Weight (lb)
+show txtGearRatios(2) txtGearRatios(6) cboTyreWidth cboTyreProfile cboWheelDiameter cboDefGear txtCD -> txtGearRatios(2)=1.330, txtGearRatios(6)=4.100, cboTyreWidth list=[125|135|145|155|165|175|185|195|205|215|225|235|245|255|265|275|285|295|305|315|325|335|345|355], cboTyreWidth=185, cboTyreProfile list=[25|30|35|40|45|50|55|60|65|70|75|80|85], cboTyreProfile=60, cboWheelDiameter list=[10|11|12|13|14|15|16|17|18|19|20|21|22], cboWheelDiameter=14, cboDefGear list=[1st|2nd|3rd|4th|5th|6th], cboDefGear=4th, txtCD off, txtCD=0.40
+type txtName Mine; type txtGearRatios(6) 3.9; choose cboWheelDiameter 15; choose cboDefGear 2nd -> txtName=Mine, cboWheelDiameter=15, txtGearRatios(6)=3.9, cboDefGear=2nd
+type txtCarWeight 2400 -> txtCarWeight=2400, txtTotalWeight=2580
+click optRevsPerMile -> optTyreSize unchecked, cboTyreWidth off, cboTyreProfile off, cboWheelDiameter off, optRevsPerMile checked, txtTyreRPM on
+click optRadius -> optRevsPerMile unchecked, txtTyreRPM off, optRadius checked, txtWheelRadius on
+click optAeroCD -> optAeroSetPoint unchecked, txtSetPointPower off, txtSetPointSpeed off, optAeroCD checked, txtCD on, txtFrontalArea on
+type txtCD 1.2 -> txtCD=0.99
+type txtFrontalArea abc -> txtFrontalArea=0.01
+# OK leaves the field first.
+write txtCD 5; click cmdOK -> -frmCarDefinitionDetails, car=accepted Mine, New Car Definition
+)");
+  const clsCarDef& car = window->ColItem();
+  EXPECT_EQ(car.dblDiffRatio, 3.9);
+  EXPECT_EQ(car.lngWheelDiameter, 15);
+  EXPECT_EQ(car.lngPowerRunGear, 1);
+  EXPECT_EQ(car.lngTyreSizeMethod, kTyreRadius);
+  EXPECT_TRUE(car.blnUseCD);
+  EXPECT_EQ(car.dblCD, 0.99);
 }
 
 TEST_F(CarDetails, ASizeThatNoTyreListHasIsKept) {
@@ -81,93 +66,39 @@ TEST_F(CarDetails, ASizeThatNoTyreListHasIsKept) {
   EXPECT_EQ(window->ColItem().lngTyreWidth, 187);
 }
 
-TEST_F(CarDetails, OptionsEnableTheirOwnFields) {
-  Open();
-  const auto enabled = [this] {
-    std::string text;
-    for (Control* control : std::initializer_list<Control*>{
-             &window->cboTyreWidth, &window->cboTyreProfile, &window->cboWheelDiameter,
-             &window->txtTyreRPM, &window->txtWheelRadius, &window->txtSetPointPower,
-             &window->txtSetPointSpeed, &window->txtCD, &window->txtFrontalArea})
-      text += control->Enabled() ? "1" : "0";
-    return text;
-  };
-  EXPECT_EQ(enabled(), "111001100");
-  window->optRevsPerMile.Do({"click", {}});
-  EXPECT_EQ(enabled(), "000101100");
-  window->optRadius.Do({"click", {}});
-  window->optAeroCD.Do({"click", {}});
-  EXPECT_EQ(enabled(), "000010011");
-  window->txtCD.Do({"type", {"1.2"}});
-  window->txtFrontalArea.Do({"type", {"abc"}});
-  EXPECT_EQ(window->txtCD.Text() + " " + window->txtFrontalArea.Text(), "0.99 0.01");
-  window->cmdOK.Press();
-  EXPECT_EQ(window->ColItem().lngTyreSizeMethod, kTyreRadius);
-  EXPECT_TRUE(window->ColItem().blnUseCD);
-}
-
 TEST_F(CarDetails, OtherUnitsAskToConvertAndChangeTheLabelsInAnyCase) {
   Open();
-  Answer(Answer::Kind::Yes);
-  window->optUnits(1).Do({"click", {}});
-  EXPECT_EQ(Questions(), "Convert field entries from imperial to metric as well?\n");
-  EXPECT_EQ(Measures(), "292.10 75 185 1098+82=1180 551 0.19 Car Kerb Weight (kg)");
-  Answer(Answer::Kind::No);
-  window->optUnits(0).Do({"click", {}});
-  EXPECT_EQ(Questions(), "Convert field entries from metric to imperial as well?\n");
-  EXPECT_EQ(Measures(), "292.10 75 185 1098+82=1180 551 0.19 Car Kerb Weight (lb)");
-  EXPECT_EQ(window->optRevsPerMile.Caption() + ", " + window->optRadius.Caption(),
-            "Revs per Mile, Drive Wheel Radius (inches)");
+  EXPECT_STORY(story, R"(
+answer yes; click optUnits(1) -> [Convert field entries from imperial to metric as well? yes], optUnits(0) unchecked, optUnits(1) checked, optRevsPerMile=Revs per km, txtTyreRPM=551, optRadius=Drive Wheel Radius (mm), txtWheelRadius=292.10, lblSetPointPower=Wheel Power (kW), txtSetPointPower=75, lblSetPointSpeed=Speed (kmh), txtSetPointSpeed=185, lblFrontalArea=Frontal Area (m2), txtFrontalArea=0.19, lblCarWeight=Car Kerb Weight (kg), txtCarWeight=1098, lblCarContentsWeight=Car Contents Weight (kg), txtCarContentsWeight=82, lblTotalWeight=Total Car Weight (kg), txtTotalWeight=1180
+answer no; click optUnits(0) -> [Convert field entries from metric to imperial as well? no], optUnits(0) checked, optUnits(1) unchecked, optRevsPerMile=Revs per Mile, optRadius=Drive Wheel Radius (inches), lblSetPointPower=Wheel Power (hp), lblSetPointSpeed=Speed (mph), lblFrontalArea=Frontal Area (ft2), lblCarWeight=Car Kerb Weight (lb), lblCarContentsWeight=Car Contents Weight (lb), lblTotalWeight=Total Car Weight (lb)
+)");
 }
 
 TEST_F(CarDetails, AChangedFormAsksBeforeItIsLeft) {
-  Open();
-  window->cmdCancel.Press();
-  EXPECT_EQ(Questions(), "");
-  EXPECT_FALSE(window->Accepted());
-  for (const bool keep : {false, true}) {
-    Open();
-    window->txtDesc.Do({"type", {"changed"}});
-    Answer(keep ? Answer::Kind::Yes : Answer::Kind::No);
-    window->cmdCancel.Press();
-    EXPECT_EQ(Questions(), "Do you want to keep Car Definition changes?\n");
-    EXPECT_EQ(window->Accepted(), keep);
-    EXPECT_EQ(window->ColItem().strDesc, keep ? "changed" : "New Car Definition");
-    EXPECT_FALSE(window->IsShown());
-  }
+  EXPECT_STORY(story, R"(
+open; click cmdCancel -> car=New, New Car Definition
+open; type txtDesc changed; answer no; click cmdCancel -> [Do you want to keep Car Definition changes? no]
+open; type txtDesc changed; answer yes; click cmdCancel -> [Do you want to keep Car Definition changes? yes], car=accepted New, changed
+)");
 }
 
 TEST_F(CarDetails, SavesAndLoadsFilesOfItsFields) {
   Open();
-  window->txtName.Do({"type", {"Mine"}});
-  Answer(Answer::Kind::File, "/cars/mine");
-  window->cmdSave.Press();
-  EXPECT_EQ(host.boxes.size(), 1u);
+  files.files["/cars/other.car"] =
+      "Car Definition Details:\nName=Other\nUnits=M\nTyre Size Method=3\nTyre Width=187\n";
+  files.files["/cars/none.car"] = "Name=Other\n";
+  // A file that is none leaves the fields; the units of one that is ask nothing.
+  EXPECT_STORY(story, R"(
+type txtName Mine -> txtName=Mine
+answer file /cars/mine; click cmdSave -> [save "Save As" of Car Definition files (*.car) /cars/mine]
+answer file /cars/none.car; click cmdLoad -> [open "Load" of Car Definition files (*.car) /cars/none.car], [57 ok]
+answer file /cars/missing.car; click cmdLoad -> [open "Load" of Car Definition files (*.car) /cars/missing.car], [57 ok]
+answer file /cars/other.car; click cmdLoad -> [open "Load" of Car Definition files (*.car) /cars/other.car], txtName=Other, optUnits(0) unchecked, optUnits(1) checked, optTyreSize unchecked, cboTyreWidth off, cboTyreWidth list=[125|135|145|155|165|175|185|195|205|215|225|235|245|255|265|275|285|295|305|315|325|335|345|355|187], cboTyreWidth=187, cboTyreProfile off, cboWheelDiameter off, optRevsPerMile=Revs per km, optRadius=Drive Wheel Radius (mm), optRadius checked, txtWheelRadius on, lblSetPointPower=Wheel Power (kW), lblSetPointSpeed=Speed (kmh), lblFrontalArea=Frontal Area (m2), lblCarWeight=Car Kerb Weight (kg), lblCarContentsWeight=Car Contents Weight (kg), lblTotalWeight=Total Car Weight (kg)
+)");
   const std::string text = files.files["/cars/mine.car"];
   EXPECT_NE(text.find("Name=Mine\r\nDescription=New Car Definition\r\nUnits=I\r\n"),
             std::string::npos)
       << text;
-  files.files["/cars/other.car"] =
-      "Car Definition Details:\nName=Other\nUnits=M\nTyre Size Method=3\nTyre Width=187\n";
-  Answer(Answer::Kind::File, "/cars/other.car");
-  window->cmdLoad.Press();
-  EXPECT_EQ(Questions(), "") << "a file's units ask nothing";
-  EXPECT_EQ(window->txtName.Text() + " " + window->cboTyreWidth.Text(), "Other 187");
-  EXPECT_TRUE(window->optRadius.Value());
-  EXPECT_EQ(Measures(), "11.50 100 115 2420+180=2600 887 2.00 Car Kerb Weight (kg)");
-}
-
-TEST_F(CarDetails, AFileThatIsNoneTellsSoAndLeavesTheFields) {
-  Open();
-  files.files["/cars/none.car"] = "Name=Other\n";
-  for (const char* path : {"/cars/none.car", "/cars/missing.car"}) {
-    Answer(Answer::Kind::File, path);
-    window->cmdLoad.Press();
-    ASSERT_EQ(host.messages.size(), 1u);
-    EXPECT_EQ(host.messages[0].id, 57);
-    Questions();
-    EXPECT_EQ(window->txtName.Text(), "New");
-  }
 }
 
 }  // namespace

@@ -1,41 +1,27 @@
-#include <gtest/gtest.h>
-
 #include "base/Numbers.h"
 #include "power/SpeedChart.h"
 #include "power/frmSpeedGraph.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
 class SpeedGraphTest : public ::testing::Test {
  protected:
-  void Open(bool withBenchmark, bool imperial = true) {
-    SpeedGraphInput input;
+  SpeedGraphTest() {
     input.file = "/logs/run.txt";
-    input.imperial = imperial;
-    input.run = {
-        {0, 0}, {0.1, 22.352}, {1.1, 26.8224}, {2.1, 35.7633}};  // 50, 60 and a little over 80 mph
-    if (withBenchmark) input.benchmark = {{0, 50}, {2, 60}, {4, 80}};
+    input.imperial = true;
+    // 50, 60 and a little over 80 mph
+    input.run = {{0, 0}, {0.1, 22.352}, {1.1, 26.8224}, {2.1, 35.7633}};
+    input.benchmark = {{0, 50}, {2, 60}, {4, 80}};
+  }
+  void Open() {
     window.emplace(host, frmSpeedGraph::Surroundings{settings, errors, messages}, input,
                    [](int) {});
     window->Show();
-  }
-  std::string Query(const std::string& from, const std::string& to) {
-    window->txtSpeedFrom.Do({"type", {from}});
-    window->txtSpeedTo.Do({"type", {to}});
-    window->cmdCalc.Do({"click", {}});
-    return window->txtSpeedFrom.Text() + "-" + window->txtSpeedTo.Text() + ": " +
-           window->txtResYou.Text() + " " + window->txtResBench.Text();
-  }
-  std::string Curve(std::size_t place) const {
-    const ChartSeries& series = window->chSpeedGraph.Data().Series()[place];
-    std::string text = series.name;
-    for (std::size_t i = 0; i < series.x.size(); ++i)
-      text += " " + NumberText(series.x[i]) + ":" + FixedText(series.y[i], 1);
-    return text;
   }
 
   RecordingHost host;
@@ -44,80 +30,42 @@ class SpeedGraphTest : public ::testing::Test {
   ErrorLog errors{files, clock, ""};
   Messages messages{host, [](int) { return ""; }};
   Settings settings;
+  SpeedGraphInput input;
   std::optional<frmSpeedGraph> window;
+  Story story{host};
 };
 
-TEST_F(SpeedGraphTest, ShowsSpeedsAboveZeroInTheUnitsOfItsGraph) {
-  Open(true);
-  EXPECT_EQ(window->Caption(), "Tarnview Speed Graph - run.txt");
-  EXPECT_EQ(Curve(0), "You 0.1:50.0 1.1:60.0 2.1:80.0");
-  EXPECT_EQ(Curve(1), "Benchmark 0:50.0 2:60.0 4:80.0");
+TEST_F(SpeedGraphTest, ShowsSpeedsAboveZeroAndAsksHowLongFromOneToTheOther) {
+  Open();
+  EXPECT_STORY(story, R"(
+show caption txtSpeedFrom txtSpeedTo txtOffset "chSpeedGraph series" "chSpeedGraph x_axis" "chSpeedGraph y_axis" -> caption=Tarnview Speed Graph - run.txt, txtSpeedFrom=0, txtSpeedTo=0, txtOffset=0, chSpeedGraph series count=2, chSpeedGraph series[0] item=0, chSpeedGraph series[0] name=You, chSpeedGraph series[0] x=[0.1|1.1|2.1], chSpeedGraph series[0] y=[50|60|80.0002236936292], chSpeedGraph series[0] colour=255, chSpeedGraph series[0] style=1, chSpeedGraph series[0] width=3, chSpeedGraph series[1] item=0, chSpeedGraph series[1] name=Benchmark, chSpeedGraph series[1] x=[0|2|4], chSpeedGraph series[1] y=[50|60|80], chSpeedGraph series[1] colour=16711680, chSpeedGraph series[1] style=1, chSpeedGraph series[1] width=3, chSpeedGraph x_axis min=0, chSpeedGraph x_axis max=4, chSpeedGraph x_axis format=#######0.0, chSpeedGraph y_axis max=90, chSpeedGraph y_axis divisions=9
+type txtSpeedFrom 50; type txtSpeedTo 80; click cmdCalc -> txtSpeedFrom=50, txtSpeedTo=80, txtResYou=02.00, txtResBench=04.00
+type txtSpeedFrom 60; type txtSpeedTo 30; click cmdCalc -> txtSpeedFrom=60, txtSpeedTo=60, txtResYou=00.00, txtResBench=00.00
+type txtSpeedFrom 55; type txtSpeedTo 70; click cmdCalc -> txtSpeedFrom=55, txtSpeedTo=70, txtResYou=01.00, txtResBench=02.00
+type txtSpeedFrom 40; type txtSpeedTo 70; click cmdCalc -> txtSpeedFrom=40, txtResYou=N/A, txtResBench=N/A
+type txtSpeedFrom 60; type txtSpeedTo 90; click cmdCalc -> txtSpeedFrom=60, txtSpeedTo=90
+type txtSpeedFrom 60; type txtSpeedTo 70; click cmdCalc -> txtSpeedTo=70, txtResYou=00.50, txtResBench=01.00
+click optSpeedUnits(1) -> optSpeedUnits(0) unchecked, optSpeedUnits(1) checked, txtSpeedFrom=97, txtSpeedTo=113, chSpeedGraph series[0] y=[80.4665562675498|96.5598675210598|128.7468500252], chSpeedGraph series[1] y=[80.4665562675498|96.5598675210598|128.74649002808], chSpeedGraph y_axis max=140, chSpeedGraph y_axis divisions=7
+click optSpeedUnits(0) -> optSpeedUnits(0) checked, optSpeedUnits(1) unchecked, txtSpeedFrom=60, txtSpeedTo=70, chSpeedGraph series[0] y=[50|60|80.0002236936292], chSpeedGraph series[1] y=[50|60|80], chSpeedGraph y_axis max=90, chSpeedGraph y_axis divisions=9
+# The offset moves the benchmark and leaves the results.
+type txtOffset -0.5 -> txtOffset=-0.5, chSpeedGraph series[1] x=[-0.5|1.5|3.5], chSpeedGraph x_axis min=-0.5, chSpeedGraph x_axis max=3.5
+step updOffset up -> txtOffset=-0.4, chSpeedGraph series[1] x=[-0.4|1.6|3.6], chSpeedGraph x_axis max=4
+step updSpeedFrom down -> txtSpeedFrom=59
+)");
   const ChartDescription& chart = window->chSpeedGraph.Data();
   EXPECT_EQ(chart.y.title + ", " + chart.x.title, "Speed (MPH), Time (Seconds)");
-  EXPECT_EQ(chart.y.max, 90);
-  EXPECT_EQ(chart.y.divisions, 9);
-  EXPECT_EQ(chart.x.max, 4);
-}
-
-TEST_F(SpeedGraphTest, AsksHowLongFromOneSpeedToTheOther) {
-  Open(true);
-  EXPECT_EQ(Query("50", "80"), "50-80: 02.00 04.00");
-  EXPECT_EQ(Query("60", "30"), "60-60: 00.00 00.00");
-  EXPECT_EQ(Query("55", "70"), "55-70: 01.00 02.00");
-  EXPECT_EQ(Query("40", "70"), "40-70: N/A N/A");
-  EXPECT_EQ(Query("60", "90"), "60-90: N/A N/A");
-}
-
-TEST_F(SpeedGraphTest, OtherUnitsConvertTheQueryAndTheCurves) {
-  Open(true);
-  Query("60", "70");
-  window->optSpeedUnits(1).Do({"click", {}});
-  EXPECT_EQ(window->txtSpeedFrom.Text() + "-" + window->txtSpeedTo.Text(), "97-113");
-  EXPECT_EQ(window->txtResYou.Text(), "00.50");
-  EXPECT_EQ(Curve(0), "You 0.1:80.5 1.1:96.6 2.1:128.7");
-  EXPECT_EQ(Curve(1), "Benchmark 0:80.5 2:96.6 4:128.7");
-  EXPECT_EQ(window->chSpeedGraph.Data().y.title, "Speed (KPH)");
-  window->optSpeedUnits(0).Do({"click", {}});
-  EXPECT_EQ(window->txtSpeedFrom.Text() + "-" + window->txtSpeedTo.Text(), "60-70");
-}
-
-TEST_F(SpeedGraphTest, TheOffsetMovesTheBenchmarkAndLeavesTheResults) {
-  Open(true);
-  Query("50", "80");
-  window->txtOffset.Do({"type", {"-0.5"}});
-  EXPECT_EQ(Curve(1), "Benchmark -0.5:50.0 1.5:60.0 3.5:80.0");
-  const ChartAxis& x = window->chSpeedGraph.Data().x;
-  EXPECT_EQ(std::tuple(x.min, x.max, x.divisions, x.format),
-            std::tuple(-0.5, 3.5, 8, std::string("#######0.0")));
-  EXPECT_EQ(window->txtResBench.Text(), "04.00");
-  window->updOffset.Do({"step", {"up"}});
-  EXPECT_EQ(window->txtOffset.Text(), "-0.4");
-  window->updSpeedFrom.Do({"step", {"down"}});
-  EXPECT_EQ(window->txtSpeedFrom.Text(), "49");
-}
-
-TEST(SpeedChart, AxesTellTheirStepsApart) {
-  const auto axis = [](const std::vector<SpeedPoint>& run) {
-    const ChartAxis x = SpeedChart(run, nullptr, true).x;
-    return NumberText(x.max) + "/" + std::to_string(x.divisions) + " " + x.format.substr(7);
-  };
-  EXPECT_EQ(axis({}), "1/1 0");
-  EXPECT_EQ(axis({{0.009, 20}}), "0.009/9 0.000");
-  EXPECT_EQ(axis({{0.11, 20}}), "0.11/11 0.00");
-  EXPECT_EQ(axis({{12, 20}}), "12/12 0");
 }
 
 TEST_F(SpeedGraphTest, WithoutABenchmarkItsFieldsAreHidden) {
-  Open(false, false);
-  for (const Control* control :
-       std::initializer_list<Control*>{&window->lblOffset, &window->txtOffset, &window->updOffset,
-                                       &window->lblResBench, &window->txtResBench})
-    EXPECT_FALSE(control->Visible()) << control->name;
-  EXPECT_EQ(window->chSpeedGraph.Data().Series().size(), 1u);
-  host.answers = {{Answer::Kind::Printer}, {Answer::Kind::Printer}};
-  window->mnuFilePrint.Do({"click", {}});
-  EXPECT_EQ(Query("90", "100"), "90-100: 00.51 ");
-  window->mnuFilePrint.Do({"click", {}});
+  input.benchmark.clear();
+  input.imperial = false;
+  Open();
+  EXPECT_STORY(story, R"(
+show lblOffset txtOffset updOffset lblResBench txtResBench "chSpeedGraph series count" -> lblOffset hidden, lblOffset=Benchmark &Offset (Secs), txtOffset hidden, txtOffset=0, updOffset hidden, updOffset min=0, updOffset max=10, lblResBench hidden, lblResBench=Benchmark (Secs), txtResBench hidden, txtResBench=, chSpeedGraph series count=1
+answer printer; click mnuFilePrint -> [printer "" ok], pages=1
+type txtSpeedFrom 90; type txtSpeedTo 100; click cmdCalc -> txtSpeedFrom=90, txtSpeedTo=100, txtResYou=00.51
+answer printer; click mnuFilePrint -> [printer "" ok], pages=2
+)");
   std::string told;
   for (const auto& page : host.pages)
     for (const auto& text : page.texts) told += text.text + "|";
@@ -127,13 +75,26 @@ TEST_F(SpeedGraphTest, WithoutABenchmarkItsFieldsAreHidden) {
 }
 
 TEST_F(SpeedGraphTest, ASpeedWithoutEndIsNotShown) {
-  SpeedGraphInput input;
+  input.run.clear();
   input.benchmark = {{0, 1e308}, {1, 20}};
-  window.emplace(host, frmSpeedGraph::Surroundings{settings, errors, messages}, input, [](int) {});
-  window->Show();
-  window->optSpeedUnits(1).Do({"click", {}});
-  EXPECT_EQ(Curve(1), "Benchmark 1:32.2");
-  EXPECT_EQ(window->chSpeedGraph.Data().y.max, 35);
+  Open();
+  EXPECT_STORY(story, R"(
+click optSpeedUnits(1) -> optSpeedUnits(0) unchecked, optSpeedUnits(1) checked, chSpeedGraph series[1] y=[32.1866225070199], chSpeedGraph y_axis max=35, chSpeedGraph y_axis divisions=7
+show "chSpeedGraph series[0] x" "chSpeedGraph series[1] x" "chSpeedGraph y_axis max" -> chSpeedGraph series[0] x count=0, chSpeedGraph series[1] x=[1], chSpeedGraph y_axis max=35
+)");
+  EXPECT_EQ(window->chSpeedGraph.Data().y.title, "Speed (KPH)");
+}
+
+TEST(SpeedChart, AxesTellTheirStepsApart) {
+  const auto axis = [](const TableRow& row) {
+    std::vector<SpeedPoint> run;
+    if (row.Number(0) > 0) run.push_back({row.Number(0), 20});
+    const ChartAxis x = SpeedChart(run, nullptr, true).x;
+    return NumberText(x.max) + "/" + std::to_string(x.divisions) + " " + x.format.substr(7);
+  };
+  ExpectTable(axis, R"(
+0 -> 1/1 0 | 0.009 -> 0.009/9 0.000 | 0.11 -> 0.11/11 0.00 | 12 -> 12/12 0
+)");
 }
 
 }  // namespace
