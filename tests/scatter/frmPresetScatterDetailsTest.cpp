@@ -1,15 +1,8 @@
-#include <gtest/gtest.h>
-
-#include "base/Text.h"
 #include "scatter/frmPresetScatterDetails.h"
-#include "scatter/frmScatterFilter.h"
 #include "support/PresetWindows.h"
 
 namespace tarnview {
 namespace {
-
-using Ids = std::vector<int>;
-using Texts = std::vector<std::string>;
 
 class ScatterDetailsTest : public PresetWindowsTest {
  protected:
@@ -24,140 +17,95 @@ class ScatterDetailsTest : public PresetWindowsTest {
     preset.objFilters.AddDirect({.dblFrom = 100, .lngDataItemSeq = 5});
     preset.objFilters.AddDirect({.dblTo = 9, .dblFrom = 1, .lngDataItemSeq = 15});
     Open(preset);
+    // The text of a file to load: lines with "/" between them.
+    story.Verb("file", [this](const auto& words) {
+      std::string lines = words[0];
+      std::replace(lines.begin(), lines.end(), '/', '\n');
+      files.files["/p/a.sca"] = "Preset Scatter Graph Details:\r\n" + lines;
+    });
+    story.Verb("failWrites", [this](const auto&) { files.failWrites = true; });
+    story.Fact("last box",
+               [this] { return host.messages.empty() ? "" : host.messages.back().text; });
   }
   void Open(const clsScatterGraphPreset& preset) {
     window.emplace(host, Surroundings(), preset);
     window->Show();
   }
-  Texts Rows() const {
-    Texts rows;
-    for (const auto& row : window->lvwFilters.Rows()) rows.push_back(Join(row.texts, " "));
-    return rows;
-  }
-  void Load(const std::string& lines) {
-    files.files["/p/a.sca"] = "Preset Scatter Graph Details:\r\n" + lines;
-    host.answers.push_front({Answer::Kind::File, "/p/a.sca"});
-    window->cmdLoad.Press();
+  std::string Preset() const {
+    const clsScatterGraphPreset& preset = window->ColItem();
+    return preset.strName + " " + std::to_string(preset.lngXAxisDataItem) + " " +
+           std::to_string(preset.lngYAxisDataItem) + " " + std::to_string(preset.lngPointShape) +
+           " " + std::to_string(preset.lngPointSize) + " " + std::to_string(preset.lngPointColour) +
+           " " + std::to_string(preset.objFilters.Count()) + (preset.FileOpenDraw ? " drawn" : "");
   }
 
   std::optional<frmPresetScatterDetails> window;
 };
 
 TEST_F(ScatterDetailsTest, EditsAPreset) {
-  EXPECT_EQ(window->imgcboXAxis.Text(), "RPM");
-  window->imgcboYAxis.Do({"choose", {"Seconds"}});
-  window->cboPointShape.Do({"choose", {"Up Tri"}});
-  window->cboPointSize.Do({"type", {"11"}});
-  EXPECT_EQ(window->cboPointSize.Text(), "1");
-  window->cboPointSize.Do({"choose", {"10"}});
-  host.answers.push_back({Answer::Kind::Colour, "", 0x80FF});
-  window->cmdColourSelector.Press();
-  window->txtName.Do({"type", {" "}});
-  window->cmdOK.Press();
-  EXPECT_EQ(Boxes(), (Ids{41}));
-  window->txtName.Do({"type", {"All"}});
-  window->cmdOK.Press();
+  EXPECT_STORY(story, R"(
+type txtName Boost
+choose imgcboYAxis Seconds -> imgcboYAxis=Seconds
+choose cboPointShape "Up Tri" -> cboPointShape=Up Tri
+type cboPointSize 11 -> cboPointSize=1
+choose cboPointSize 10 -> cboPointSize=10
+answer colour 33023; click cmdColourSelector -> [colour "Point Colour" ok], picColour colour=33023
+type txtName " "; click cmdOK -> [41 ok], last box=The name is not optional., txtName= 
+type txtName All; click cmdOK -> -frmPresetScatterDetails
+)");
   EXPECT_TRUE(window->Accepted());
-  const clsScatterGraphPreset& preset = window->ColItem();
-  EXPECT_EQ(preset.strName, "All");
-  EXPECT_EQ(preset.lngXAxisDataItem, 3);
-  EXPECT_EQ(preset.lngYAxisDataItem, 63);
-  EXPECT_EQ(preset.lngPointShape, 8);
-  EXPECT_EQ(preset.lngPointSize, 10);
-  EXPECT_EQ(preset.lngPointColour, 0x80FF);
-  EXPECT_TRUE(preset.FileOpenDraw);
-  EXPECT_EQ(preset.objFilters.Count(), 2);
+  EXPECT_EQ(Preset(), "All 3 63 8 10 33023 2 drawn");
 }
 
 TEST_F(ScatterDetailsTest, KeepsItsFilters) {
-  EXPECT_EQ(Rows(), (Texts{"MAP 100 -", "Throttle Idle -"}));
-  const auto answer = [this](const char* item, const char* from) {
-    host.work = [=](Form& form) {
-      auto& filter = dynamic_cast<frmScatterFilter&>(form);
-      if (item) filter.imgcboDataItem.Do({"choose", {item}});
-      filter.cboFrom.Text = std::string(from);
-      filter.cmdOK.Press();
-    };
-  };
-  answer("Knock Sensor", "3");
-  window->cmdFilterNew.Press();
-  EXPECT_EQ(window->lvwFilters.SelectedRow(), 3);
-  answer(nullptr, "50");
-  window->lvwFilters.Do({"double", {"1"}});
-  EXPECT_EQ(Rows(), (Texts{"MAP 50 -", "Throttle Idle -", "Knock 3 -"}));
-  host.work = nullptr;  // Cancel
-  window->cmdFilterNew.Press();
-
-  host.answers.push_back({Answer::Kind::No});
-  window->cmdFilterDelete.Press();
-  EXPECT_EQ(host.messages.back().text, "Are you sure you want to delete this filter?");
-  window->lvwFilters.Do(
-      {"sort", {"Item"}});  // Knock, MAP, Throttle: the filters know their places all the same
-  window->lvwFilters.Do({"row", {"Knock"}});
-  host.answers.push_back({Answer::Kind::Yes});
-  window->cmdFilterDelete.Press();
-  EXPECT_EQ(Rows(), (Texts{"MAP 50 -", "Throttle Idle -"}));
-  EXPECT_EQ(window->ActiveControl(), &window->lvwFilters);
-  Boxes();
+  EXPECT_STORY(story, R"(
+show lvwFilters -> lvwFilters columns=[Item|From|To], lvwFilters count=2, lvwFilters[1]=[MAP|100|-], lvwFilters[1] selected, lvwFilters[2]=[Throttle|Idle|-], lvwFilters[2] unselected
+click cmdFilterNew -> +frmScatterFilter
+choose imgcboDataItem "Knock Sensor"; type cboFrom 3; click cmdOK -> -frmScatterFilter, lvwFilters count=3, lvwFilters[1] unselected, lvwFilters[3]=[Knock|3|-], lvwFilters[3] selected
+double lvwFilters 1 -> +frmScatterFilter, frmPresetScatterDetails/lvwFilters[1] selected, frmPresetScatterDetails/lvwFilters[3] unselected
+type cboFrom 50; click cmdOK -> -frmScatterFilter, lvwFilters[1]=[MAP|50|-]
+click cmdFilterNew -> +frmScatterFilter
+click cmdCancel -> -frmScatterFilter
+answer no; click cmdFilterDelete -> [Are you sure you want to delete this filter? no], last box=Are you sure you want to delete this filter?
+# Sorted, the filters know their places all the same.
+sort lvwFilters Item -> lvwFilters[1]=[Knock|3|-], lvwFilters[1] unselected, lvwFilters[2]=[MAP|50|-], lvwFilters[2] selected, lvwFilters[3]=[Throttle|Idle|-]
+row lvwFilters Knock -> lvwFilters[1] selected, lvwFilters[2] unselected
+answer yes; click cmdFilterDelete; show focus -> focus lvwFilters, [Are you sure you want to delete this filter? yes], lvwFilters count=2, lvwFilters[1]=[MAP|50|-], lvwFilters[2]=[Throttle|Idle|-], lvwFilters[3] selected gone
+)");
   window->lvwFilters.Select(0);
-  window->cmdFilterMod.Press();
-  window->cmdFilterDelete.Press();
-  EXPECT_EQ(Boxes(), (Ids{}));
+  EXPECT_STORY(story, "click cmdFilterMod; click cmdFilterDelete");
 }
 
 TEST_F(ScatterDetailsTest, AnotherFamilyHasOtherItems) {
-  window->cboLogFamily.SetListIndex(2);
-  EXPECT_EQ(window->imgcboXAxis.Text(), "RPM");
-  EXPECT_EQ(Rows(), (Texts{"MAP 100 -"}));
+  EXPECT_STORY(story, R"(
+choose cboLogFamily #2 -> cboLogFamily=Electromotive Tec-2 Data Log, imgcboXAxis list=[Sample No.|Seconds|Air Temperature|A/F Ratio|Boost|O2 Closed Loop Correction|Coolant Temperature|O2 Sensor Voltage|GAMA Fuelling Correction|General Purpose Output 1|Ignition Advance|Injector %|Injector Width|Knock Sensor|Manifold Air Pressure|Power|Injector Off Width|RPM|Torque|Throttle Position Sensor|Vacuum|Voltage], imgcboYAxis list=[Sample No.|Seconds|Air Temperature|A/F Ratio|Boost|O2 Closed Loop Correction|Coolant Temperature|O2 Sensor Voltage|GAMA Fuelling Correction|General Purpose Output 1|Ignition Advance|Injector %|Injector Width|Knock Sensor|Manifold Air Pressure|Power|Injector Off Width|RPM|Torque|Throttle Position Sensor|Vacuum|Voltage], lvwFilters count=1, lvwFilters[2] selected gone
+)");
   clsScatterGraphPreset other;
   other.lngXAxisDataItem = 47;
   other.lngYAxisDataItem = 3;
   Open(other);
-  EXPECT_EQ(Boxes(), (Ids{43}));
+  EXPECT_EQ(Boxes(), (std::vector<int>{43}));
   EXPECT_EQ(window->imgcboXAxis.Text(), "Sample No.");
   Open(clsScatterGraphPresets::BlankPreset());
-  EXPECT_EQ(Boxes(), (Ids{}));
-  EXPECT_EQ(window->imgcboXAxis.Text(), "RPM");
-  EXPECT_EQ(window->cboPointSize.Text(), "1");
+  EXPECT_EQ(window->imgcboXAxis.Text() + window->cboPointSize.Text(), "RPM1");
+  EXPECT_TRUE(host.messages.empty());
 }
 
 TEST_F(ScatterDetailsTest, SavesAndLoads) {
-  host.answers.push_back({Answer::Kind::No});
-  host.answers.push_back({Answer::Kind::Ok});  // the name proposed
-  window->cmdSave.Press();
+  EXPECT_STORY(story, R"(
+# The name proposed.
+answer no; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? no], [save "Save As" of Preset Scatter Graph files (*.sca) ok], last box=Do you want to include the Log Family in the preset graph file?
+failWrites; answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" of Preset Scatter Graph files (*.sca) ok], [19 ok], last box=Something went wrong...
+file "Graph 1 Name=Knock/Graph 1 X Axis=47/Graph 1 Y Axis=20/Graph 1 Filter 1 Data Item=48/Graph 1 Filter 2 Data Item=3/Graph 1 Filter 2 To=900/Graph 1 Filter 3 Data Item=49"
+answer file /p/a.sca; click cmdLoad -> [open "Load" of Preset Scatter Graph files (*.sca) /p/a.sca], [92 ok], last box=Problem loading preset graph - data item(s) in preset graph file\nare not relevant to selected Log Family:\n\nX Axis: 47, Filters: 48, 49, txtName=Knock, imgcboXAxis=Sample No., imgcboYAxis=Knock Sensor, cboPointSize=1, lvwFilters count=1, lvwFilters[1]=[RPM|-|900], lvwFilters[2] selected gone
+file "Graph 1 Name=Other/Graph 1 X Axis=3/Graph 1 Y Axis=5/Graph 1 Log Family=6"
+answer file /p/a.sca; answer no; click cmdLoad -> [open "Load" of Preset Scatter Graph files (*.sca) /p/a.sca], [The preset graph definition you are loading is for a different Log Family than that\ncurrently selected, and may contain data items that are not relevant.\n\nAre you sure you want to continue? no], last box=The preset graph definition you are loading is for a different Log Family than that\ncurrently selected, and may contain data items that are not relevant.\n\nAre you sure you want to continue?
+answer file /p/a.sca; answer yes; click cmdLoad -> [open "Load" of Preset Scatter Graph files (*.sca) /p/a.sca], [The preset graph definition you are loading is for a different Log Family than that\ncurrently selected, and may contain data items that are not relevant.\n\nAre you sure you want to continue? yes], txtName=Other, imgcboXAxis=RPM, imgcboYAxis=Manifold Air Pressure, lvwFilters count=0, lvwFilters[1] selected gone
+answer file /p/none.sca; click cmdLoad -> [open "Load" of Preset Scatter Graph files (*.sca) /p/none.sca], [58 ok], last box=Problem loading preset sample graph file.
+)");
   EXPECT_TRUE(files.files["/logs/Boost.sca"].ends_with(
       "Graph 1 Filter 2 Data Item=15\r\nGraph 1 Filter 2 From=1\r\n"
       "Graph 1 Filter 2 To=9\r\n"));
-  files.failWrites = true;
-  host.answers.push_back({Answer::Kind::Yes});
-  host.answers.push_back({Answer::Kind::Ok});
-  window->cmdSave.Press();
-  EXPECT_EQ(Boxes(), (Ids{-1, -1, 19}));
-
-  Load(
-      "Graph 1 Name=Knock\nGraph 1 X Axis=47\nGraph 1 Y Axis=20\nGraph 1 Filter 1 Data Item=48\n"
-      "Graph 1 Filter 2 Data Item=3\nGraph 1 Filter 2 To=900\nGraph 1 Filter 3 Data Item=49");
-  EXPECT_TRUE(host.messages.back().text.ends_with("\r\n\r\nX Axis: 47, Filters: 48, 49"));
-  EXPECT_EQ(Boxes(), (Ids{92}));
-  EXPECT_EQ(window->txtName.Text(), "Knock");
-  EXPECT_EQ(window->imgcboXAxis.Text(), "Sample No.");
-  EXPECT_EQ(window->imgcboYAxis.Text(), "Knock Sensor");
-  EXPECT_EQ(Rows(), (Texts{"RPM - 900"}));
-  EXPECT_TRUE(window->chkFileOpenDraw.Value());
-
-  const std::string other =
-      "Graph 1 Name=Other\nGraph 1 X Axis=3\nGraph 1 Y Axis=5\nGraph 1 Log Family=6";
-  host.answers.push_back({Answer::Kind::No});
-  Load(other);
-  EXPECT_EQ(window->txtName.Text(), "Knock");
-  host.answers.push_back({Answer::Kind::Yes});
-  Load(other);
-  EXPECT_EQ(Boxes(), (Ids{-1, -1}));
-  EXPECT_EQ(window->txtName.Text(), "Other");
-  EXPECT_EQ(window->cboLogFamily.ListIndex(), 0);
-  host.answers.push_back({Answer::Kind::File, "/p/none.sca"});
-  window->cmdLoad.Press();
-  EXPECT_EQ(Boxes(), (Ids{58}));
 }
 
 }  // namespace

@@ -1,14 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "scatter/frmScatterGraph.h"
 #include "support/PresetWindows.h"
-#include "support/WindowActions.h"
 
 namespace tarnview {
 namespace {
-
-using Ids = std::vector<int>;
-using Numbers = std::vector<double>;
 
 /// Two scatter windows over a log, and a main window that only notes what it is asked for.
 class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::MainWindow {
@@ -19,6 +13,36 @@ class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::Ma
     boost.lngLogFamily = 1;
     presets.AddDirect(boost);
     presets.AddDirect(boost).lngLogFamily = 6;
+    story.PassOver("lvwSampleDetails");
+    story.PassOver("mnu");
+    story.Fact("main window", [this] { return shown + told; });
+    story.Fact("points", [this] { return Looks(); });
+    // ITEM FROM TO; "-": no bound
+    story.Verb("filter", [this](const auto& words) {
+      const auto bound = [&](std::size_t n) {
+        return words[n] == "-" ? kBoundNotSet : std::stod(words[n]);
+      };
+      window->AddFilter({bound(2), bound(1), std::stoi(words[0])});
+    });
+    story.Verb("axes", [this](const auto& words) {
+      window->ChooseAxes(std::stoi(words[0]), std::stoi(words[1]));
+    });
+    story.Verb("drawQuietly", [this](const auto&) { window->DrawScatter(true); });
+    story.Verb("takesOffers", [this](const auto& words) { host.takesOffers = words[0] == "yes"; });
+    story.Verb("failWrites", [this](const auto& words) { files.failWrites = words[0] == "yes"; });
+    story.Verb("read", [this](const auto& words) { shown = files.files[words[0]]; });
+    story.Verb("logCloses", [this](const auto&) { window->LogIsClosing(); });
+  }
+  /// Shape, size and colour of the points, and what they are tinted by.
+  std::string Looks() const {
+    if (!window || !window->chScatterGraph.Data().Cloud()) return "none";
+    const PointCloud& cloud = Points();
+    return std::to_string(static_cast<int>(cloud.shape)) + " " + std::to_string(cloud.size) + " " +
+           std::to_string(cloud.colour) + (cloud.density ? " density" : "") +
+           (cloud.tint.empty()
+                ? ""
+                : " by " + cloud.tintAxis.title + " from " + NumberText(cloud.tint.front()) +
+                      " to " + NumberText(cloud.tint.back()));
   }
   /// Samples from 1 at 1000 RPM and their number; 40 kPa, and 120 kPa in each tenth.
   void Open(int samples) {
@@ -44,9 +68,7 @@ class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::Ma
       (*one)->Show();
     }
   }
-  void Do(const std::string& actions) { Act(*window, actions); }
   const PointCloud& Points() const { return *window->chScatterGraph.Data().Cloud(); }
-  std::string Panel() const { return window->staScatterGraph.Panel(1); }
 
   void ShowPoint(std::int32_t sample) override { shown += std::to_string(sample) + " "; }
   std::optional<clsScatterFilter> RangeFilter() const override { return rangeFilter; }
@@ -65,28 +87,22 @@ class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::Ma
   std::unique_ptr<frmScatterGraph> other, window;
 };
 
-constexpr const char* kOfAGraph =
-    "cmdShowPoint mnuFilePrint mnuFilePrintPreview mnuFileSavePicture mnuFileExport mnuEditCopy "
-    "mnuRightClickCopy mnuRightClickPrint chScatterGraph fraSampleDetails";
-
 TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxesAndTheRangeOnShow) {
   rangeFilter = {30, 10, 1};
-  for (const bool wanted : {true, false}) {
-    settings.gblnAutoScatterFilter = wanted;
-    catalogue.gcolFixedDataItems.Item(20).blnDisplay = wanted;
-    Open(50);
-    EXPECT_EQ(window->lvwFilters.Count(), wanted ? 1 : 0);
-    EXPECT_EQ(window->lvwSampleDetails.RowOfTag("20") > 0, wanted);
-  }
-  EXPECT_EQ(window->Caption() + "|" + Texts(*window, "cboXAxis cboYAxis cboColourBy lblEmptyPlace"),
-            "Tarnview Scatter Graph - run.txt|RPM|Sample No.|None|Choose two data items and "
-            "press Draw");
-  EXPECT_EQ(Texts(*window, "cboPointShape cboPointSize"), "3D Ball|4");
-  EXPECT_EQ(window->lvwPresets.Count(), 1);
-  EXPECT_EQ(Enabled(*window, kOfAGraph), "");
+  settings.gblnAutoScatterFilter = false;
+  catalogue.gcolFixedDataItems.Item(20).blnDisplay = false;
+  Open(50);
+  EXPECT_EQ(window->lvwFilters.Count(), 0);
+  EXPECT_EQ(window->lvwSampleDetails.RowOfTag("20"), 0);
+  settings.gblnAutoScatterFilter = true;
+  catalogue.gcolFixedDataItems.Item(20).blnDisplay = true;
+  Open(50);
   log.blnTooLong = true;
-  Do("click cmdDrawGraph");
-  EXPECT_EQ(window->Caption(), "Tarnview Scatter Graph - run.txt Sample Load Range 1 - 50");
+  EXPECT_GT(window->lvwSampleDetails.RowOfTag("20"), 0);
+  EXPECT_STORY(story, R"(
+show caption lblEmptyPlace cboPointShape cboPointSize lvwFilters lvwPresets cmdShowPoint chScatterGraph -> caption=Tarnview Scatter Graph - run.txt, lblEmptyPlace=Choose two data items and press Draw, cboPointShape list=[3D Ball|Circle|Dash|Diamond|Down Tri|Plus|Square|Star|Up Tri|X], cboPointShape=3D Ball, cboPointSize list=[1|2|3|4|5|6|7|8|9|10], cboPointSize=4, lvwFilters columns=[Item|From|To], lvwFilters count=1, lvwFilters[1]=[Sample|10|30], lvwFilters[1] selected, lvwPresets columns=[Preset Graphs], lvwPresets count=1, lvwPresets[1]=[Boost], lvwPresets[1] unselected, cmdShowPoint off, cmdShowPoint=&Show Point..., chScatterGraph series count=0, chScatterGraph x_axis min=0, chScatterGraph x_axis max=1, chScatterGraph x_axis format=, chScatterGraph y_axis max=1, chScatterGraph y_axis divisions=10, chScatterGraph selected=[0|0]
+click cmdDrawGraph -> points=0 4 12607488, caption=Tarnview Scatter Graph - run.txt Sample Load Range 1 - 50, cmdShowPoint on, chScatterGraph filters count=1, chScatterGraph filters[0]=Sample [Sample No.] from 10 to 30, chScatterGraph x_item=3, chScatterGraph y_item=1, chScatterGraph points=21 from [1010|10|10] to [1030|30|30], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=21 points, prgProgInd value=20
+)");
 }
 
 TEST_F(ScatterGraphTest, WhatIsKeptOfItsPlace) {
@@ -99,158 +115,87 @@ TEST_F(ScatterGraphTest, WhatIsKeptOfItsPlace) {
   window->Show();
   EXPECT_EQ(std::pair(window->Left, window->Top), std::pair(1620, 1320));
   window->Dividers = "1,2";
-  Do("click mnuFileClose");
+  EXPECT_STORY(story, "click mnuFileClose -> -frmScatterGraph.2, main window=closed 0closed 3");
   EXPECT_EQ(settings.windows.scatterGraph->lngLeft, 900);
-  EXPECT_EQ(settings.beyond.scatterDividers + told, "1,2closed 0closed 3");
+  EXPECT_EQ(settings.beyond.scatterDividers, "1,2");
 }
 
 TEST_F(ScatterGraphTest, DrawsTheSamplesThatPass) {
   Open(40);
-  EXPECT_TRUE(window->ChooseAxes(3, 5));
-  window->AddFilter({kBoundNotSet, 100, 5});
-  window->AddFilter({35, 15, 1});
-  Do("click cmdDrawGraph");
-  EXPECT_EQ(Points().sample, (Numbers{20, 30}));
-  EXPECT_EQ(Points().x, (Numbers{1020, 1030}));
-  EXPECT_EQ(Points().y, (Numbers{120, 120}));
-  const ChartDescription& chart = window->chScatterGraph.Data();
-  EXPECT_EQ(chart.x.title + chart.y.title + window->Subtitle(),
-            "RPMManifold Air PressureMAP against RPM");
-  EXPECT_EQ(Panel() + window->staScatterGraph.Panel(3), "Graph draw complete2 points");
-  EXPECT_EQ(window->chScatterGraph.Visible(), !window->fraPicture.Visible());
-  EXPECT_FALSE(window->prgProgInd.Visible());
-  EXPECT_EQ(Enabled(*window, kOfAGraph), std::string(kOfAGraph) + " ");
-  EXPECT_FALSE(window->ChooseAxes(1, 47)) << "not offered";
-  EXPECT_EQ(window->cboXAxis.Text(), "RPM");
-
-  host.answers = {{Answer::Kind::Cancel}, {Answer::Kind::Printer}};
-  Do("click mnuFilePrint\nclick mnuRightClickPrint\nclick mnuEditCopy");
-  ASSERT_EQ(host.pages.size(), 1u) << "the first printer dialog was cancelled";
+  EXPECT_STORY(story, R"(
+axes 3 5; filter 5 100 -; filter 1 15 35 -> cboYAxis=Manifold Air Pressure, lvwFilters count=2, lvwFilters[1]=[MAP|100|-], lvwFilters[1] unselected, lvwFilters[2]=[Sample|15|35], lvwFilters[2] selected
+click cmdDrawGraph -> points=0 4 12607488, cmdShowPoint on, chScatterGraph filters count=2, chScatterGraph filters[0]=MAP [Manifold Air Pressure] from 100, chScatterGraph filters[1]=Sample [Sample No.] from 15 to 35, chScatterGraph x_item=3, chScatterGraph y_item=5, chScatterGraph points count=2, chScatterGraph points[0]=[1020|120|20], chScatterGraph points[1]=[1030|120|30], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=2 points, prgProgInd value=20
+show mnuFilePrint mnuFilePrintPreview mnuFileSavePicture mnuFileExport mnuEditCopy mnuRightClickCopy mnuRightClickPrint -> mnuFilePrint=&Print..., mnuFilePrintPreview=Print Pre&view..., mnuFileSavePicture=Save Pict&ure As..., mnuFileExport=&Export..., mnuEditCopy=&Copy Graph, mnuRightClickCopy=&Copy Graph, mnuRightClickPrint=&Print...
+# An item that is not offered.
+axes 1 47
+answer cancel; click mnuFilePrint -> [printer "" cancel]
+answer printer; click mnuRightClickPrint; click mnuEditCopy -> [printer "" ok], pages=1, copied=1
+)");
   std::string page;
   for (const auto& text : host.pages[0].texts) page += text.text + "|";
   EXPECT_EQ(page,
             "Tarnview Scatter Graph|File : |/logs/run.txt|Filters : |MAP [Manifold Air Pressure] "
             "from 100|Sample [Sample No.] from 15 to 35|");
-  EXPECT_EQ(host.copied.size(), 1u);
 }
 
 TEST_F(ScatterGraphTest, AFaultLeavesNoGraph) {
   Open(6000);
-  const clsScatterFilter none{}, all{kBoundNotSet, 0, 3}, tooHigh{kBoundNotSet, 9000, 3};
-  const char* const kTooMany =
-      "Too many samples for a graph without a filter: add a filter, or choose Draw All";
-  const struct {
-    const char* what;
-    bool quiet, takesOffers;
-    clsScatterFilter filter;
-    Ids boxes;
-    std::size_t points;
-    const char* said;
-  } kRows[] = {
-      {"too many, quietly", true, false, none, {}, 0, kTooMany},
-      {"too many", false, false, none, {3}, 0, kTooMany},
-      {"Draw All", false, true, none, {3}, 6000, "Graph draw complete"},
-      {"and that once", false, false, none, {3}, 0, kTooMany},
-      {"a filter lifts the limit", false, false, all, {}, 6000, "Graph draw complete"},
-      {"none passes, quietly", true, false, tooHigh, {}, 0, ""},
-      {"none passes", false, false, none, {46}, 0, ""},
-  };
-  for (const auto& row : kRows) {
-    if (row.filter.lngDataItemSeq) window->AddFilter(row.filter);
-    host.takesOffers = row.takesOffers;
-    if (row.quiet)
-      window->DrawScatter(true);
-    else
-      Do("click cmdDrawGraph");
-    EXPECT_EQ(Boxes(), row.boxes) << row.what;
-    EXPECT_EQ(window->chScatterGraph.Data().Cloud() ? Points().x.size() : 0, row.points);
-    EXPECT_EQ(window->chScatterGraph.Visible(), row.points > 0) << row.what;
-    EXPECT_EQ(window->fraPicture.Visible(), row.points == 0) << row.what;
-    EXPECT_EQ(Enabled(*window, kOfAGraph).empty(), row.points == 0) << row.what;
-    EXPECT_EQ(Panel(), row.said) << row.what;
-    EXPECT_EQ(window->lblEmptyPlace.Caption() == kTooMany, row.said == kTooMany) << row.what;
-    EXPECT_EQ(window->Pointer(), MousePointer::Default);
-  }
+  EXPECT_STORY(story, R"(
+drawQuietly -> lblEmptyPlace=Too many samples for a graph without a filter: add a filter, or choose Draw All, staScatterGraph[0]=Too many samples for a graph without a filter: add a filter, or choose Draw All
+click cmdDrawGraph; show mnuFileExport mnuFilePrint -> mnuFileExport off, mnuFileExport=&Export..., mnuFilePrint off, mnuFilePrint=&Print..., [3 ok]
+# Draw All, and that once.
+takesOffers yes; click cmdDrawGraph; show mnuFileExport mnuFilePrint -> mnuFileExport=&Export..., mnuFilePrint=&Print..., [3 ok], points=0 4 12607488, cmdShowPoint on, chScatterGraph filters count=0, chScatterGraph x_item=3, chScatterGraph y_item=1, chScatterGraph points=6000 from [1001|1|1] to [7000|6000|6000], fraPicture hidden, lblEmptyPlace=Choose two data items and press Draw, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=6000 points, prgProgInd value=5999
+takesOffers no; click cmdDrawGraph -> [3 ok], points=none, cmdShowPoint off, chScatterGraph series count=0, chScatterGraph x_axis min=0, chScatterGraph x_axis max=1, chScatterGraph x_axis format=, chScatterGraph y_axis max=1, chScatterGraph y_axis divisions=10, fraPicture shown, lblEmptyPlace=Too many samples for a graph without a filter: add a filter, or choose Draw All, fraSampleDetails off, staScatterGraph[0]=Too many samples for a graph without a filter: add a filter, or choose Draw All, staScatterGraph[2]=
+# A filter lifts the limit.
+filter 3 0 -; click cmdDrawGraph -> points=0 4 12607488, cmdShowPoint on, lvwFilters count=1, lvwFilters[1]=[RPM|0|-], lvwFilters[1] selected, chScatterGraph filters count=1, chScatterGraph filters[0]=RPM [RPM] from 0, chScatterGraph x_item=3, chScatterGraph y_item=1, chScatterGraph points=6000 from [1001|1|1] to [7000|6000|6000], fraPicture hidden, lblEmptyPlace=Choose two data items and press Draw, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=6000 points
+# None passes.
+filter 3 9000 -; drawQuietly -> points=none, cmdShowPoint off, lvwFilters count=2, lvwFilters[1] unselected, lvwFilters[2]=[RPM|9000|-], lvwFilters[2] selected, chScatterGraph series count=0, chScatterGraph x_axis min=0, chScatterGraph x_axis max=1, chScatterGraph x_axis format=, chScatterGraph y_axis max=1, chScatterGraph y_axis divisions=10, fraPicture shown, fraSampleDetails off, staScatterGraph[0] to [2]=, prgProgInd value=5970
+click cmdDrawGraph; show mnuFileExport mnuFilePrint -> mnuFileExport off, mnuFileExport=&Export..., mnuFilePrint off, mnuFilePrint=&Print..., [46 ok]
+)");
 }
 
 TEST_F(ScatterGraphTest, ExportsThePoints) {
   Open(40);
-  window->ChooseAxes(5, 3);
-  window->AddFilter({kBoundNotSet, 100, 5});
-  window->AddFilter({30, kBoundNotSet, 1});
-  Do("click cmdDrawGraph");
-  window->AddFilter({kBoundNotSet, 1, 3});  // not drawn with
-  const auto exportTo = [&](const char* path, bool fails) {
-    files.failWrites = fails;
-    host.nextFile = Answer{Answer::Kind::File, path};
-    Do("click mnuFileExport");
-    std::string text = files.files[path];
-    std::erase(text, '\r');
-    return text;
-  };
-  EXPECT_EQ(exportTo("/a.csv", false), R"(TARNVIEW SCATTER GRAPH EXPORT FILE
-Original Data Log Path and File Name: /logs/run.txt
-Original Data Log File Type: FM Link Data Logs
-
-Filters:
-MAP [Manifold Air Pressure] from 100
-Sample [Sample No.] to 30
-
-Sample,MAP,RPM
-10,120.0,1010
-20,120.0,1020
-30,120.0,1030
+  EXPECT_STORY(story, R"(
+axes 5 3; filter 5 100 -; filter 1 - 30; click cmdDrawGraph -> points=0 4 12607488, cboXAxis=Manifold Air Pressure, cboYAxis=RPM, cmdShowPoint on, lvwFilters count=2, lvwFilters[1]=[MAP|100|-], lvwFilters[1] unselected, lvwFilters[2]=[Sample|-|30], lvwFilters[2] selected, chScatterGraph filters count=2, chScatterGraph filters[0]=MAP [Manifold Air Pressure] from 100, chScatterGraph filters[1]=Sample [Sample No.] to 30, chScatterGraph x_item=5, chScatterGraph y_item=3, chScatterGraph points count=3, chScatterGraph points[0]=[120|1010|10], chScatterGraph points[1]=[120|1020|20], chScatterGraph points[2]=[120|1030|30], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=3 points, prgProgInd value=29
+# Not drawn with.
+filter 3 1 - -> lvwFilters count=3, lvwFilters[2] unselected, lvwFilters[3]=[RPM|1|-], lvwFilters[3] selected
+answer file /a.csv; click mnuFileExport; read /a.csv -> [save "Export" of CSV files (*.csv) /a.csv], main window=TARNVIEW SCATTER GRAPH EXPORT FILE\nOriginal Data Log Path and File Name: /logs/run.txt\nOriginal Data Log File Type: FM Link Data Logs\n\nFilters:\nMAP [Manifold Air Pressure] from 100\nSample [Sample No.] to 30\n\nSample,MAP,RPM\n10,120.0,1010\n20,120.0,1020\n30,120.0,1030\n, staScatterGraph[0]=Export complete, prgProgInd value=2
+failWrites yes; answer file /a.csv; click mnuFileExport -> [save "Export" of CSV files (*.csv) /a.csv], [64 ok], staScatterGraph[0]=
+failWrites no; axes 1 3; click cmdDrawGraph; answer file /b.csv; click mnuFileExport; read /b.csv -> [save "Export" of CSV files (*.csv) /b.csv], main window=TARNVIEW SCATTER GRAPH EXPORT FILE\nOriginal Data Log Path and File Name: /logs/run.txt\nOriginal Data Log File Type: FM Link Data Logs\n\nFilters:\nMAP [Manifold Air Pressure] from 100\nSample [Sample No.] to 30\nRPM [RPM] from 1\n\nSample,Sample,RPM,MAP\n10,10,1010,120.0\n20,20,1020,120.0\n30,30,1030,120.0\n, cboXAxis=Sample No., chScatterGraph filters count=3, chScatterGraph filters[2]=RPM [RPM] from 1, chScatterGraph x_item=1, chScatterGraph points[0]=[10|1010|10], chScatterGraph points[1]=[20|1020|20], chScatterGraph points[2]=[30|1030|30], staScatterGraph[0]=Export complete
 )");
-  EXPECT_EQ(Panel() + " " + std::to_string(window->prgProgInd.Max()), "Export complete 3");
-  EXPECT_TRUE(window->Exported());
-  exportTo("/a.csv", true);
-  EXPECT_EQ(Boxes(), Ids{64});
-  EXPECT_FALSE(window->Exported());
-  window->ChooseAxes(1, 3);
-  Do("click cmdDrawGraph");
-  EXPECT_NE(exportTo("/b.csv", false).find("\nSample,Sample,RPM,MAP\n10,10,1010,120.0\n"),
-            std::string::npos);
 }
 
 TEST_F(ScatterGraphTest, APointLeadsBackToTheSampleGraphAsLongAsItsLogIsOpen) {
   Open(500);
-  window->ChooseAxes(3, 5);
-  Do("click cmdDrawGraph\nclick cmdShowPoint");
-  const auto choose = [&] {
-    window->chScatterGraph.Do({"point", {"1", "100"}});
+  story.Fact("rpm", [this] {
     return window->lvwSampleDetails.At(window->lvwSampleDetails.RowOfTag("3")).texts[1];
-  };
-  EXPECT_EQ(choose() + shown, "1100") << "no point, nothing to show";
-  Do("click cmdShowPoint");
-  EXPECT_EQ(shown, "100 ");
-  window->LogIsClosing();
-  EXPECT_FALSE(window->mnuFileExport.Enabled());
-  EXPECT_TRUE(window->mnuFilePrint.Enabled());
-  Do("click cmdShowPoint");
-  EXPECT_EQ(choose(), "") << "chosen in the graph of the log before";
-  Do("click cmdShowPoint\nclick mnuViewSampleDetails");
-  EXPECT_EQ(shown, "100 ");
-  EXPECT_FALSE(window->fraSampleDetails.Visible() || window->mnuViewSampleDetails.Checked());
+  });
+  EXPECT_STORY(story, R"(
+axes 3 5; click cmdDrawGraph -> points=0 4 12607488, cboYAxis=Manifold Air Pressure, cmdShowPoint on, chScatterGraph filters count=0, chScatterGraph x_item=3, chScatterGraph y_item=5, chScatterGraph points=500 from [1001|40|1] to [1500|120|500], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=500 points, prgProgInd value=499
+# No point, nothing to show.
+click cmdShowPoint
+point chScatterGraph 1 100 -> rpm=1100, chScatterGraph selected=[1|100]
+click cmdShowPoint -> main window=100 
+logCloses; show mnuFileExport mnuFilePrint -> mnuFileExport off, mnuFileExport=&Export..., mnuFilePrint=&Print..., rpm=
+# Of the log that was open before.
+click cmdShowPoint
+point chScatterGraph 1 100
+click cmdShowPoint
+click mnuViewSampleDetails; show mnuViewSampleDetails -> mnuViewSampleDetails=&Sample Details, fraSampleDetails hidden
+)");
 }
 
 TEST_F(ScatterGraphTest, ColoursAndDensityChangeTheGraphOnShow) {
   Open(40);
-  Do("click cmdDrawGraph");
-  EXPECT_TRUE(Points().tint.empty());
-  window->chScatterGraph.Do({"point", {"1", "7"}});
-  window->AddFilter({kBoundNotSet, 100, 5});  // waits for Draw
-  Do("choose cboColourBy Manifold Air Pressure");
-  ASSERT_EQ(Points().tint.size(), 40u);
-  EXPECT_EQ(Points().tint[9], 120);
-  EXPECT_EQ(Points().tintAxis.title, "Manifold Air Pressure");
-  EXPECT_EQ(window->chScatterGraph.SelectedPoint(), 7);
-  EXPECT_FALSE(window->mnuViewDensity.Enabled()) << "the points have a colour already";
-  Do("choose cboColourBy None");
-  EXPECT_TRUE(Points().tint.empty());
-  Do("click mnuViewDensity");
-  EXPECT_TRUE(Points().density);
-  Do("choose cboColourBy Manifold Air Pressure");
-  EXPECT_FALSE(Points().density);
+  EXPECT_STORY(story, R"(
+click cmdDrawGraph; point chScatterGraph 1 7 -> points=0 4 12607488, cmdShowPoint on, chScatterGraph filters count=0, chScatterGraph x_item=3, chScatterGraph y_item=1, chScatterGraph points=40 from [1001|1|1] to [1040|40|40], chScatterGraph selected=[1|7], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=40 points, prgProgInd value=39
+# A new filter waits for Draw.
+filter 5 100 -; choose cboColourBy "Manifold Air Pressure"; show mnuViewDensity -> mnuViewDensity off, mnuViewDensity=&Density, points=0 4 12607488 by Manifold Air Pressure from 40 to 120, cboColourBy=Manifold Air Pressure, lvwFilters count=1, lvwFilters[1]=[MAP|100|-], lvwFilters[1] selected
+choose cboColourBy None; show mnuViewDensity -> mnuViewDensity=&Density, points=0 4 12607488, cboColourBy=None
+click mnuViewDensity -> points=0 4 12607488 density
+choose cboColourBy "Manifold Air Pressure" -> points=0 4 12607488 by Manifold Air Pressure from 40 to 120, cboColourBy=Manifold Air Pressure
+)");
   settings.gintGraphColourScheme = 2;
   window->OptionsChanged();
   EXPECT_EQ(window->chScatterGraph.Data().colours.backdrop, 0);
@@ -258,39 +203,30 @@ TEST_F(ScatterGraphTest, ColoursAndDensityChangeTheGraphOnShow) {
 
 TEST_F(ScatterGraphTest, PresetsAreAppliedUpdatedAndAdded) {
   Open(40);
-  Do("click mnuEditUpdatePreset");  // none selected
-  EXPECT_EQ(presets.Item(1).lngPointSize, 6);
-  Do("row lvwPresets Boost");
-  EXPECT_EQ(Texts(*window, "cboXAxis cboYAxis cboPointShape cboPointSize"),
-            "RPM|Manifold Air Pressure|Up Tri|6");
-  EXPECT_EQ(window->lvwFilters.Count(), 1);
-  EXPECT_FALSE(window->chScatterGraph.Visible());
-  Do("double lvwPresets Boost");
-  EXPECT_EQ(Points().x.size(), 4u);
-  EXPECT_EQ(Points().colour, 255);
-  EXPECT_EQ(static_cast<int>(Points().shape) * 10 + Points().size, 86);
-
-  Do("type cboPointSize 9\nchoose cboYAxis Knock Sensor");
-  window->AddFilter({2000, kBoundNotSet, 3});
-  Do("click mnuEditUpdatePreset");
-  const clsScatterGraphPreset& boost = presets.Item(1);
-  EXPECT_EQ(boost.lngYAxisDataItem * 10 + boost.lngPointSize, 209);
-  EXPECT_EQ(boost.objFilters.Count(), 2);
-  EXPECT_TRUE(boost.FileOpenDraw) << "not the window's to change";
-  EXPECT_EQ(window->lvwPresets.SelectedRow(), 1);
-  host.work = [](Form& form) { Act(form, "type txtName Mine\nclick cmdOK"); };
-  Do("click mnuEditNewPreset");
-  EXPECT_EQ(presets.Item(3).strName, "Mine");
+  // Of the first: axes, style, filters, drawn on opening.
+  story.Fact("boost", [this] {
+    const clsScatterGraphPreset& boost = presets.Item(1);
+    return std::to_string(boost.lngXAxisDataItem) + " " + std::to_string(boost.lngYAxisDataItem) +
+           " " + std::to_string(boost.lngPointSize) + " " +
+           std::to_string(boost.objFilters.Count()) + (boost.FileOpenDraw ? " drawn" : "");
+  });
+  story.Verb("style", [this](const auto& words) {
+    presets.Item(1).lngPointShape = presets.Item(1).lngPointSize = std::stoi(words[0]);
+  });
+  EXPECT_STORY(story, R"(
+# None is selected.
+click mnuEditUpdatePreset
+row lvwPresets Boost -> cboYAxis=Manifold Air Pressure, cboPointShape=Up Tri, cboPointSize=6, picColour colour=255, lvwFilters count=1, lvwFilters[1]=[MAP|100|-], lvwFilters[1] selected, lvwPresets[1] selected
+double lvwPresets Boost -> points=8 6 255, cmdShowPoint on, chScatterGraph filters count=1, chScatterGraph filters[0]=MAP [Manifold Air Pressure] from 100, chScatterGraph x_item=3, chScatterGraph y_item=5, chScatterGraph points count=4, chScatterGraph points[0]=[1010|120|10], chScatterGraph points[1]=[1020|120|20], chScatterGraph points[2]=[1030|120|30], chScatterGraph points[3]=[1040|120|40], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=4 points, prgProgInd value=39
+type cboPointSize 9; choose cboYAxis "Knock Sensor"; filter 3 - 2000 -> cboYAxis=Knock Sensor, cboPointSize=9, lvwFilters count=2, lvwFilters[1] unselected, lvwFilters[2]=[RPM|-|2000], lvwFilters[2] selected
+click mnuEditUpdatePreset -> main window=changed , boost=3 20 9 2 drawn
+click mnuEditNewPreset -> +frmNewPresetName
+type txtName Mine; click cmdOK -> -frmNewPresetName, main window=changed added , frmScatterGraph/lvwPresets count=2, frmScatterGraph/lvwPresets[2]=[Mine], frmScatterGraph/lvwPresets[2] unselected, lvwPresets count=2, lvwPresets[1] unselected, lvwPresets[2]=[Mine], lvwPresets[2] selected
+style 99; row lvwPresets Boost -> boost=3 20 99 2 drawn, cboPointShape=X, cboPointSize=10, lvwFilters[1] selected, lvwFilters[2] unselected, lvwPresets[1] selected, lvwPresets[2] unselected
+style -1; row lvwPresets Boost -> boost=3 20 -1 2 drawn, cboPointShape=3D Ball, cboPointSize=1
+)");
   EXPECT_EQ(presets.Item(3).lngLogFamily, 1);
-  EXPECT_EQ(told, "changed added ");
-  EXPECT_EQ(window->lvwPresets.SelectedRow(), 2);
-  EXPECT_EQ(other->lvwPresets.Count(), 2);
   EXPECT_EQ(other->objFilters().Count(), 0) << "each window has filters of its own";
-  for (const auto& [number, style] : {std::pair{99, "X|10"}, {-1, "3D Ball|1"}}) {
-    presets.Item(1).lngPointShape = presets.Item(1).lngPointSize = number;
-    Do("row lvwPresets Boost");
-    EXPECT_EQ(Texts(*window, "cboPointShape cboPointSize"), style);
-  }
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include "samplegraph/PresetExchange.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/RecordingHost.h"
+#include "support/Story.h"
 
 namespace tarnview {
 
@@ -35,6 +35,7 @@ class PresetWindowsTest : public ::testing::Test {
   FileKinds kinds = SetUpLogFamilies();
   Catalogue catalogue = BuildDataItemCatalogue();
   std::string folder = "/logs";
+  Story story{host};
 };
 
 }  // namespace tarnview

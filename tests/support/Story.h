@@ -7,6 +7,7 @@
 
 #include "support/Accept.h"
 #include "support/WindowFacts.h"
+#include "ui/ComboBox.h"
 #include "ui/Script.h"
 #include "ui/ScriptUser.h"
 #include "ui/TextBox.h"
@@ -89,7 +90,10 @@ class Story {
   void Write(const Words& words) {
     Control& field = user_.FindControl(WordAt(words, 0));
     field.SetFocus();
-    dynamic_cast<TextBox&>(field).Text = WordAt(words, 1);
+    if (auto* combo = dynamic_cast<ComboBox*>(&field))
+      combo->Text = WordAt(words, 1);
+    else
+      dynamic_cast<TextBox&>(field).Text = WordAt(words, 1);
   }
   /// A key; told where nothing takes it.
   void Press(const Words& words) {

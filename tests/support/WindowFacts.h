@@ -33,6 +33,7 @@ class WindowFacts {
     if (const auto* flag = std::get_if<bool>(&held)) return *flag ? "true" : "false";
     if (const auto* whole = std::get_if<long long>(&held)) return std::to_string(*whole);
     if (const auto* number = std::get_if<double>(&held)) return NumberText(*number);
+    if (const auto* list = std::get_if<List>(&held)) return Joined(*list);
     return "";
   }
 
@@ -64,6 +65,8 @@ class WindowFacts {
     const auto* list = std::get_if<List>(&value.Get());
     if (!list) return Add(name, Text(value));
     if (AreNumbers(*list)) return Add(name, Numbers(*list));
+    if (list->size() > kMostInFull && std::get_if<List>(&list->front().Get()))
+      return Add(name, Numbers(*list));
     Add(name + " count", std::to_string(list->size()));
     for (std::size_t n = 0; n < list->size(); ++n)
       AddValue(name + "[" + std::to_string(n + first) + "]", (*list)[n], 0);
@@ -89,13 +92,13 @@ class WindowFacts {
     };
     return !list.empty() && std::all_of(list.begin(), list.end(), isNumber);
   }
-  /// Of a curve's many, how many and the first and last.
+  /// Of many, how many and the first and last.
   static std::string Numbers(const List& list) {
-    constexpr std::size_t kMost = 6;
-    if (list.size() <= kMost) return Joined(list);
+    if (list.size() <= kMostInFull) return Joined(list);
     return std::to_string(list.size()) + " from " + Text(list.front()) + " to " + Text(list.back());
   }
 
+  static constexpr std::size_t kMostInFull = 6;
   std::vector<Fact> facts_;
 };
 
