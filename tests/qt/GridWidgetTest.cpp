@@ -6,6 +6,8 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cstdlib>
 
 #include "qt/TestApplication.h"
 #include "qt/binder/Binder.h"
@@ -144,6 +146,24 @@ TEST_F(GridWidgetTest, RingMarksAndBlackoutsAreDrawn) {
   grid.SetCell(2, 3, black);
   Settle();
   EXPECT_LT(qGray(view->grab().toImage().pixel(Middle(2, 3))), 0x70);
+}
+
+TEST_F(GridWidgetTest, ARingIsSeenInLightAndDark) {
+  grid.Ring = GridPoint{1.5, 1.5};
+  for (const int base : {0xFF, 0x20}) {
+    QPalette palette(QColor(base, base, base));
+    palette.setColor(QPalette::Base, QColor(base, base, base));
+    palette.setColor(QPalette::Text, base > 0x80 ? Qt::black : Qt::white);
+    view->setPalette(palette);
+    Settle();
+    const QPoint between = (Middle(1, 1) + Middle(2, 2)) / 2;
+    const QImage shown = view->grab().toImage();
+    int contrast = 0;
+    for (int along = -16; along <= 16; ++along)
+      contrast =
+          std::max(contrast, std::abs(qGray(shown.pixel(between + QPoint(along, 3))) - base));
+    EXPECT_GT(contrast, 0x80) << base;
+  }
 }
 
 TEST_F(GridWidgetTest, TabsAndChoicesFollowBothWays) {

@@ -138,11 +138,11 @@ void GridPainter::Current(const QRect& place) const {
 void GridPainter::Ring(const QPointF& centre, double radius) const {
   painter_.setRenderHint(QPainter::Antialiasing, true);
   painter_.setBrush(Qt::NoBrush);
-  // A light line under a dark one is seen on every colour; numbers shine through both.
-  QColor light = Qt::white, dark = Qt::black;
-  light.setAlphaF(0.5F);
-  dark.setAlphaF(0.8F);
-  for (const QPen& pen : {QPen(light, 3.5), QPen(dark, 1.5)}) {
+  // A line on a wider one of the opposite colour is seen on every colour; numbers shine through.
+  QColor line = palette_.color(QPalette::Text), under = palette_.color(QPalette::Base);
+  line.setAlphaF(0.8F);
+  under.setAlphaF(0.7F);
+  for (const QPen& pen : {QPen(under, 3.5), QPen(line, 1.5)}) {
     painter_.setPen(pen);
     painter_.drawEllipse(centre, radius, radius);
   }
