@@ -32,6 +32,7 @@ TEST_F(GraphMouseTest, MovesTheRange) {
 # Never beyond the log, never below three samples, and each notch does something.
 101, 301, wheel chSampleGraph @201 -9 -> 1-1602
 101, 301, wheel chSampleGraph @201 -1e9 -> 1-2000
+1901, 2000, wheel chSampleGraph @1950 -3 -> 1802-2000
 101, 301, wheel chSampleGraph @201 1e9 -> 200-202
 200, 202, wheel chSampleGraph @201 1 -> 200-202
 200, 202, wheel chSampleGraph @200 -1 -> 200-203

@@ -49,6 +49,9 @@ Sample,Secs,RPM
   EXPECT_EQ(foot.Panel(1) + " " + std::to_string(progress.Max()), "Export complete 1");
   EXPECT_TRUE(Export("40", "7").ends_with("RPM\n7,0.573,1007\n")) << "from no later than to";
   EXPECT_EQ(path, "/b.csv");
+  host.answers = {{Answer::Kind::Cancel}};
+  Export("1", "2");
+  EXPECT_FALSE(wrote);
   files.failWrites = true;
   host.answers = {{Answer::Kind::Ok}};
   Export("1", "2");

@@ -95,6 +95,8 @@ TEST_F(SampleGraphTest, HiddenRowsKeepTheirChecks) {
            std::to_string(lvwSampleDetails.SelectedRow());
   };
   EXPECT_EQ(lvwSampleDetails.RowOfTag("36"), 0);
+  details.SetCheckedItems({0, 1, 3, 20, 9999});
+  EXPECT_EQ(Ticked(), "20 3 ") << "those that can be plotted";
   ExpectTable(told, R"(
 click chkShowCheckedOnly -> 2 rows, ticked 3 20, at 1
 knock -> 2 rows, ticked 3 20, at 1
@@ -103,6 +105,8 @@ tick lvwSampleDetails RPM off -> 2 rows, ticked 20, at 1
 click chkShowCheckedOnly -> 52 rows, ticked 20, at 1
 map -> 52 rows, ticked 20, at 35
 )");
+  details.SetUpSampleGraphSampleListView(9999, catalogue.gcolFixedDataItems);
+  EXPECT_EQ(lvwSampleDetails.Count(), 52) << "a file of no family changes nothing";
 }
 
 }  // namespace

@@ -12,12 +12,13 @@ TEST_F(ScrollingTest, MovesTheRangeOnEitherBar) {
   };
   for (const int samples : {2000, 32701, 32702, 300000}) {
     OpenLog(samples);
+    EXPECT_TRUE(bar.Enabled() && longBar.Enabled());
     EXPECT_EQ(longBar.Visible(), samples > 32701);
     EXPECT_EQ(bar.Visible(), samples <= 32701);
     ExpectTable(moved, R"(
 501, 601, left -> 491-591 left right | 501, 601, right -> 511-611 left right | 501, 601, page_left -> 401-501 left right
 501, 601, page_right -> 601-701 left right | 501, 601, start -> 1-101 right | 501, 601, finish; start; right -> 11-111 left right
-5, 105, left -> 1-101 right | 90, 190, page_left -> 1-101 right | 501, 504, right -> 502-506 left right
+5, 105, left -> 1-101 right | 90, 190, page_left -> 1-101 right | 3, 12, start -> 1-9 right | 501, 504, right -> 502-506 left right
 )");
     Do("finish");
     EXPECT_EQ(Range(), std::to_string(samples - 4) + "-" + std::to_string(samples));
