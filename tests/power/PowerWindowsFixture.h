@@ -61,8 +61,11 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
   }
   double AutoGearSpeedFactor() const override { return speedFactor; }
   void OpenSpeedGraph(const SpeedGraphInput& input) override {
-    plotted = std::to_string(input.run.size()) + " speeds against " +
-              std::to_string(input.benchmark.size());
+    const auto curve = [](std::size_t speeds, bool imperial) {
+      return std::to_string(speeds) + (imperial ? " imperial" : " metric");
+    };
+    plotted = curve(input.run.size(), input.imperial) + " speeds against " +
+              curve(input.benchmark.size(), input.benchmarkImperial);
   }
   void RecentPowerFilesChanged() override { window->ListRecentFiles(); }
   void PowerGraphClosed(int) override {}

@@ -45,8 +45,8 @@ click optRadius -> optRevsPerMile unchecked, txtTyreRPM off, optRadius checked, 
 click optAeroCD -> optAeroSetPoint unchecked, txtSetPointPower off, txtSetPointSpeed off, optAeroCD checked, txtCD on, txtFrontalArea on
 type txtCD 1.2 -> txtCD=0.99
 type txtFrontalArea abc -> txtFrontalArea=0.01
-# OK leaves the field first.
-write txtCD 5; click cmdOK -> -frmCarDefinitionDetails, car=accepted Mine, New Car Definition
+# Enter leaves the field first.
+write txtCD 5; key Enter -> -frmCarDefinitionDetails, car=accepted Mine, New Car Definition
 )");
   const clsCarDef& car = window->ColItem();
   EXPECT_EQ(car.dblDiffRatio, 3.9);

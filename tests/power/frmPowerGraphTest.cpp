@@ -95,12 +95,12 @@ TEST_F(PowerGraphTest, ABenchmarkIsShownAveragedOrHidden) {
   EXPECT_STORY(story, R"(
 answer file /b/stock.pow; click mnuFileOpen -> [open "Open Power Graph" of Power Graph files (*.pow) /b/stock.pow], disk=read /b/stock.pow, lblBenchmark2=stock, cboBenchMarkAction on, cboBenchMarkAction=Show, staPowerGraph[0]=Loading complete, mnuSepRecent shown, mnuFileRecent(0) shown, mnuFileRecent(0)=&1 /b/stock.pow, mnuBench on, mnuBenchCalcDet on
 draw 100 200 -> curves=Your Power (85.1 hp @ 3990 rpm, Vmax 109 mph); Your Torque (114.2 lbft @ 3990 rpm); Benchmark Power (199.9 hp @ 4000 rpm, Vmax 144.9 mph); Benchmark Torque (100.0 lbft @ 4000 rpm), txtPlotRangeFrom=100, txtPlotRangeTo=200, fraPicture hidden, staPowerGraph[0]=Graph draw complete, mnuFileSave on, mnuFileSaveAs on, mnuFilePrint on, mnuFilePrintPreview on, mnuFileSavePicture on, mnuEditCopy on, mnuToolsSpeed on, mnuToolsCopy on, mnuRightClickCopy on, mnuRightClickPrint on
-click mnuToolsSpeed -> main=100 speeds against 2
+click mnuToolsSpeed -> main=100 imperial speeds against 2 metric
 choose cboBenchMarkAction Average -> cboBenchMarkAction=Average
 click cmdDrawGraph -> curves=Your Power (142.3 hp @ 3990 rpm, Vmax 129.3 mph); Your Torque (107.0 lbft @ 3990 rpm); Benchmark Power (199.9 hp @ 4000 rpm, Vmax 144.9 mph); Benchmark Torque (100.0 lbft @ 4000 rpm)
 choose cboBenchMarkAction Hide -> cboBenchMarkAction=Hide
 click cmdDrawGraph -> curves=Your Power (85.1 hp @ 3990 rpm, Vmax 109 mph); Your Torque (114.2 lbft @ 3990 rpm)
-click mnuToolsSpeed -> main=100 speeds against 0
+click mnuToolsSpeed -> main=100 imperial speeds against 0 imperial
 choose cboUnits Metric; choose cboBenchMarkAction Show; click cmdDrawGraph -> curves=Your Power (63.5 kW @ 3990 rpm, Vmax 175.4 kmh); Your Torque (154.9 Nm @ 3990 rpm); Benchmark Power (149.1 kW @ 4000 rpm, Vmax 233.2 kmh); Benchmark Torque (135.7 Nm @ 4000 rpm), cboUnits=Metric, cboBenchMarkAction=Show
 # One that cannot be read takes the old one away.
 answer file /b/none.pow; click mnuFileOpen -> [open "Open Power Graph" of Power Graph files (*.pow) /b/none.pow], [33 ok], [Can't do anything with that file I'm afraid. ok], disk=read /b/none.pow, lblBenchmark2=, cboBenchMarkAction off, cboBenchMarkAction=Hide, staPowerGraph[0]=Loading failed, mnuBench off, mnuBenchCalcDet off
@@ -133,7 +133,8 @@ draw 1288 1299; click mnuToolsCopy -> curves=Your Power (5574.8 hp @ 25970 rpm, 
 }
 
 TEST_F(PowerGraphTest, TheRoadSpeedTellsTheGear) {
-  // 22.5 of a speed unit at 1360 rpm: in 4th those are mph. Without a speed nothing is proposed.
+  // 22.5 of a speed unit at 1360 rpm: in 4th those are mph. Without a speed nothing is proposed;
+  // another car has it worked out again.
   const auto gears = [this](const TableRow& row) {
     Open("100 0 1350 4.5 22.0\n101 0.1 1360 4.5 22.5\n102 0.2 1370 4.5 0\n");
     made->log.gintCurrentFileType = row.Int(0);
@@ -147,11 +148,14 @@ TEST_F(PowerGraphTest, TheRoadSpeedTellsTheGear) {
       window->txtPlotRangeFrom.Text = from;
       told += (told.empty() ? "" : " ") + window->cboGear.Text();
     }
+    window->txtPlotRangeFrom.Text = "100";
+    window->cboCarDefs.Do({"choose", {"New"}});
+    told += " " + window->cboGear.Text();
     return told;
   };
   // The file type, the units of the setting, the factor of the main window.
   ExpectTable(gears, R"(
-1, 1, 0, auto -> 4th 6th | 1, 2, 0, auto -> 3rd 6th | 5, 1, 0, auto -> 3rd 6th | 8, 1, 0.27778, auto -> 3rd 6th | 8, 2, 0, auto -> 3rd 6th | 8, 3, 0, auto -> 4th 6th | 1, 3, 0.1, auto -> 4th 6th | 1, 1, 0, off -> 6th 6th
+1, 1, 0, auto -> 4th 6th 4th | 1, 2, 0, auto -> 3rd 6th 3rd | 5, 1, 0, auto -> 3rd 6th 3rd | 8, 1, 0.27778, auto -> 3rd 6th 3rd | 8, 2, 0, auto -> 3rd 6th 3rd | 8, 3, 0, auto -> 4th 6th 4th | 1, 3, 0.1, auto -> 4th 6th 4th | 1, 1, 0, off -> 6th 6th 6th
 )");
 }
 

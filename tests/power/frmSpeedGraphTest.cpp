@@ -51,6 +51,8 @@ click optSpeedUnits(0) -> optSpeedUnits(0) checked, optSpeedUnits(1) unchecked, 
 type txtOffset -0.5 -> txtOffset=-0.5, chSpeedGraph series[1] x=[-0.5|1.5|3.5], chSpeedGraph x_axis min=-0.5, chSpeedGraph x_axis max=3.5
 step updOffset up -> txtOffset=-0.4, chSpeedGraph series[1] x=[-0.4|1.6|3.6], chSpeedGraph x_axis max=4
 step updSpeedFrom down -> txtSpeedFrom=59
+step updSpeedFrom up; step updSpeedTo up -> txtSpeedFrom=60, txtSpeedTo=71
+step updSpeedTo down; step updOffset down -> txtSpeedTo=70, txtOffset=-0.5, chSpeedGraph series[1] x=[-0.5|1.5|3.5], chSpeedGraph x_axis max=3.5
 )");
   const ChartDescription& chart = window->chSpeedGraph.Data();
   EXPECT_EQ(chart.y.title + ", " + chart.x.title, "Speed (MPH), Time (Seconds)");
