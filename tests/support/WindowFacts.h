@@ -64,9 +64,8 @@ class WindowFacts {
     if (const auto* facts = std::get_if<Object>(&value.Get())) return AddObject(name, *facts);
     const auto* list = std::get_if<List>(&value.Get());
     if (!list) return Add(name, Text(value));
-    if (AreNumbers(*list)) return Add(name, Numbers(*list));
-    if (list->size() > kMostInFull && std::get_if<List>(&list->front().Get()))
-      return Add(name, Numbers(*list));
+    if (AreNumbers(value)) return Add(name, Numbers(*list));
+    if (list->size() > kMostInFull && AreNumbers(list->front())) return Add(name, Numbers(*list));
     Add(name + " count", std::to_string(list->size()));
     for (std::size_t n = 0; n < list->size(); ++n)
       AddValue(name + "[" + std::to_string(n + first) + "]", (*list)[n], 0);
@@ -86,11 +85,12 @@ class WindowFacts {
     for (const Value& one : list) texts.push_back(Text(one));
     return "[" + Join(texts, "|") + "]";
   }
-  static bool AreNumbers(const List& list) {
+  static bool AreNumbers(const Value& value) {
     const auto isNumber = [](const Value& one) {
       return std::get_if<double>(&one.Get()) || std::get_if<long long>(&one.Get());
     };
-    return !list.empty() && std::all_of(list.begin(), list.end(), isNumber);
+    const auto* list = std::get_if<List>(&value.Get());
+    return list && !list->empty() && std::all_of(list->begin(), list->end(), isNumber);
   }
   /// Of many, how many and the first and last.
   static std::string Numbers(const List& list) {

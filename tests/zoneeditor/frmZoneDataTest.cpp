@@ -181,19 +181,23 @@ show fraBoost fraBoostTargets txtZone(3) chkBoost(0) grdData(6)[1][1] grdData(0)
 /// Of each graph a cell that is no zone, and one near it that is.
 TEST_F(frmZoneDataTest, GraphsDrawTheNumbersOfTheirOwnGrid) {
   OpenMap();
-  Do("txtZone", 112, {"type", {"7"}});
-  std::string told;
-  host.work = [&](Form& form) {
-    const Surface& surface = *dynamic_cast<frmGridGraph&>(form).chGridGraph.Data().AsSurface();
-    told += surface.subtitle;
-    for (const std::size_t column : {0u, 2u}) told += " " + NumberText(surface.At(5, column));
-    told += "\n";
-  };
-  for (int grid = 0; grid < 6; ++grid) Do("cmdGraph", grid, {"click", {}});
-  EXPECT_EQ(told,
-            "This Data Log 7 100\nBenchmark Track 0 200\nComparison with Benchmark Track 0 100\n"
-            "This Data Log 100 100\nBenchmark Track 0 200\n"
-            "Comparison with Benchmark Track 0 100\n");
+  story.Fact("heights", [this] {
+    const auto* graph = dynamic_cast<frmGridGraph*>(host.Front());
+    if (!graph) return std::string();
+    const Surface& surface = *graph->chGridGraph.Data().AsSurface();
+    return surface.subtitle + " " + NumberText(surface.At(5, 0)) + " " +
+           NumberText(surface.At(5, 2));
+  });
+  EXPECT_STORY(story, R"(
+type txtZone(112) 7 -> step=Closed Lp -ve 100 to 7: z112=7, txtZone(112)=7, lblStatus=Closed Lp -ve 100 to 7
+click cmdGraph(0) -> +frmGridGraph, heights=This Data Log 7 100
+close; click cmdGraph(1) -> heights=Benchmark Track 0 200, caption=Tarnview 3D Graph - Fuel (Selected Benchmark), chGridGraph subtitle=Benchmark Track, chGridGraph values[0] to [4]=16 from 200 to 200, chGridGraph values[5]=16 from 0 to 200, chGridGraph height_axis max=200, chGridGraph height_axis divisions=4, cmdOK hidden, cmdCancel=&Close
+close; click cmdGraph(2) -> heights=Comparison with Benchmark Track 0 100, caption=Tarnview 3D Graph - Fuel (Difference), chGridGraph subtitle=Comparison with Benchmark Track, chGridGraph values[0] to [4]=16 from 100 to 100, chGridGraph values[5]=16 from 0 to 100, chGridGraph height_axis max=100, chGridGraph height_axis divisions=5
+close; click cmdGraph(3) -> heights=This Data Log 100 100, caption=Tarnview 3D Graph - Ignition (This MAP File), chGridGraph title=Ignition Zone Graph, chGridGraph subtitle=This Data Log, chGridGraph elevation=130, chGridGraph values[5]=16 from 100 to 100, chGridGraph height_axis min=100, chGridGraph height_axis max=101, chGridGraph height_axis divisions=1, txtElevation=130, cmdOK shown, cmdCancel=Cancel
+close; click cmdGraph(4) -> heights=Benchmark Track 0 200, caption=Tarnview 3D Graph - Ignition (Selected Benchmark), chGridGraph subtitle=Benchmark Track, chGridGraph values[0] to [4]=16 from 200 to 200, chGridGraph values[5]=16 from 0 to 200, chGridGraph height_axis min=0, chGridGraph height_axis max=200, chGridGraph height_axis divisions=4, cmdOK hidden, cmdCancel=&Close
+close; click cmdGraph(5) -> heights=Comparison with Benchmark Track 0 100, caption=Tarnview 3D Graph - Ignition (Difference), chGridGraph subtitle=Comparison with Benchmark Track, chGridGraph values[0] to [4]=16 from 100 to 100, chGridGraph values[5]=16 from 0 to 100, chGridGraph height_axis max=100, chGridGraph height_axis divisions=5
+close -> -frmGridGraph, heights=
+)");
 }
 
 TEST_F(frmZoneDataTest, ClosingAsksForChanges) {
