@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "desk/EXEFunctions.h"
 #include "support/RecordingProcesses.h"
+#include "support/Table.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -14,26 +13,15 @@ TEST(EXEFunctions, TellWhyADocumentDidNotOpen) {
   EXPECT_EQ(programs.ShellOpen("a.htm"), 33);
   EXPECT_TRUE(host.messages.empty());
 
-  std::string told;
+  std::string told = "\n";
   for (processes.openCode = 0; processes.openCode <= 32; ++processes.openCode) {
     programs.ShellOpen("b.htm");
-    const std::string& text = host.messages.back().text;
-    if (text != "Unknown error") told += std::to_string(processes.openCode) + " " + text + "\n";
-    EXPECT_EQ(host.messages.back().style, kBoxOk);
+    const Box& box = host.messages.back();
+    if (box.text != "Unknown error" || box.style != kBoxOk)
+      told += std::to_string(processes.openCode) + " " + box.text + "; ";
   }
-  EXPECT_EQ(told, R"(2 File not found
-3 Path not found
-5 Access denied
-8 Out of memory
-11 Invalid EXE file or error in EXE image
-26 A sharing violation occurred
-27 Incomplete or invalid file association
-28 DDE Time out
-29 DDE transaction failed
-30 DDE busy
-31 No association for file extension
-32 DLL not found
-)");
+  ExpectTold(told, R"(
+2 File not found; 3 Path not found; 5 Access denied; 8 Out of memory; 11 Invalid EXE file or error in EXE image; 26 A sharing violation occurred; 27 Incomplete or invalid file association; 28 DDE Time out; 29 DDE transaction failed; 30 DDE busy; 31 No association for file extension; 32 DLL not found; )");
   EXPECT_EQ(processes.opened.size(), 34u);
 }
 

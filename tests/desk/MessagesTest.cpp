@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "desk/Messages.h"
+#include "support/Table.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -8,62 +7,34 @@ namespace {
 
 class MessagesTest : public testing::Test {
  protected:
-  static std::string Description(int type) {
-    static const char* const kNames[] = {"",
-                                         "FM Link Data Logs",
-                                         "FM Link MAP Files",
-                                         "Tec-2 Data Logs",
-                                         "Tec-3 Data Logs",
-                                         "LinkPlus Data Logs",
-                                         "UTEC CSV Data Logs",
-                                         "UTEC Fixed-Width Data Logs"};
-    return kNames[type];
-  }
   RecordingHost host;
-  Messages messages{host, &Description};
+  Messages messages{host, [](int type) { return "type " + std::to_string(type) + "s"; }};
 };
 
 TEST_F(MessagesTest, HaveTextAndStyle) {
-  struct Row {
-    int id, style;
-    const char* text;
-  };
-  const Row rows[] = {
-      // clang-format off
-      {4, 48, "Unable to load Conversion File.\rApplication default values will be used instead."},
-      {8, 48,
-       "Problem loading chip date - default assumed.\rWARNING: Before uploading zone data from this file\r"
-       "ensure that ALL zone settings contain valid data."},
-      {22, 48, "An error occurred loading the Change Comparison File.\rA full upload will take place instead."},
-      {34, 48,
-       "Error opening Zone Data Editor.  Are you sure your Regional Settings are either \r"
-       "English (United Kingdom) or English (United States) ?"},
-      {43, 64, "Data Item not found from preset graph definition.\r\nDefault value will be used instead."},
-      {51, 48, "Data log too long - only first 300000 lines loaded."},
-      {86, 64, "Data log definition loaded successfully."},
-      {92, 64,
-       "Problem loading preset graph - data item(s) in preset graph file\r\nare not relevant to selected Log Family:"},
-      {101, 48, "Unknown error loading data log definition"},
-      {0, 48, "Unknown error."},
-      {49, 48, "Unknown error."},
-      {102, 48, "Unknown error."},
-      // clang-format on
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(messages.Text(static_cast<Message>(row.id)), row.text);
-    EXPECT_EQ(Messages::Style(static_cast<Message>(row.id)), row.style) << row.id;
-  }
-}
-
-TEST_F(MessagesTest, NameTheWrongKindOfFile) {
-  const std::pair<int, const char*> rows[] = {{52, "FM Link Data Log"}, {53, "LinkPlus Data Log"},
-                                              {54, "Tec-2 Data Log"},   {55, "Tec-3 Data Log"},
-                                              {56, "FM Link MAP File"}, {59, "UTEC CSV Data Log"},
-                                              {60, "UTEC Fixed-Width "}};
-  for (const auto& [id, name] : rows)
-    EXPECT_EQ(messages.Text(static_cast<Message>(id)),
-              std::string("That doesn't look like a ") + name +
-                  " file to me.\r\nPlease ensure correct file type is chosen when opening a file.");
+  ExpectTable(
+      [this](const TableRow& row) {
+        const auto id = static_cast<Message>(row.Int(0));
+        std::string text = std::to_string(Messages::Style(id)) + " " + messages.Text(id);
+        for (const char* end : {"\r\n", "\r"})
+          for (std::size_t at; (at = text.find(end)) != text.npos;)
+            text.replace(at, std::string_view(end).size(), "/");
+        return text;
+      },
+      R"(
+0 -> 48 Unknown error. | 49 -> 48 Unknown error. | 102 -> 48 Unknown error.
+4 -> 48 Unable to load Conversion File./Application default values will be used instead.
+8 -> 48 Problem loading chip date - default assumed./WARNING: Before uploading zone data from this file/ensure that ALL zone settings contain valid data.
+22 -> 48 An error occurred loading the Change Comparison File./A full upload will take place instead.
+34 -> 48 Error opening Zone Data Editor.  Are you sure your Regional Settings are either /English (United Kingdom) or English (United States) ?
+43 -> 64 Data Item not found from preset graph definition./Default value will be used instead.
+51 -> 48 Data log too long - only first 300000 lines loaded. | 86 -> 64 Data log definition loaded successfully. | 101 -> 48 Unknown error loading data log definition
+52 -> 48 That doesn't look like a type 1 file to me./Please ensure correct file type is chosen when opening a file.
+53 -> 48 That doesn't look like a type 5 file to me./Please ensure correct file type is chosen when opening a file.
+54 -> 48 That doesn't look like a type 3 file to me./Please ensure correct file type is chosen when opening a file. | 55 -> 48 That doesn't look like a type 4 file to me./Please ensure correct file type is chosen when opening a file.
+56 -> 48 That doesn't look like a type 2 file to me./Please ensure correct file type is chosen when opening a file. | 59 -> 48 That doesn't look like a type 6 file to me./Please ensure correct file type is chosen when opening a file. | 60 -> 48 That doesn't look like a type 7 file to me./Please ensure correct file type is chosen when opening a file.
+92 -> 64 Problem loading preset graph - data item(s) in preset graph file/are not relevant to selected Log Family:
+)");
 }
 
 TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgram) {

@@ -1,32 +1,26 @@
-#include <gtest/gtest.h>
-
-#include "base/Numbers.h"
 #include "desk/PageLayout.h"
+#include "support/Table.h"
 #include "ui/RecordingPage.h"
 
 namespace tarnview {
 namespace {
 
 TEST(PageLayoutTest, APictureFillsTheWidthOrTheHeightAndKeepsItsShape) {
-  const struct {
-    double pageWidth, pageHeight, top, width, height;
-    PageRect place;
-  } rows[] = {
-      // clang-format off
-      {12240, 15840, 3000, 1400, 700, {720, 3000, 10800, 5400}},   // wide, on a portrait page: the width
-      {15840, 12240, 3520, 1000, 1000, {3920, 3520, 8000, 8000}},  // on a landscape page: the height
-      {12240, 15840, 3000, 3, 1.5, {720, 3000, 10800, 5400}},      // in another unit
-      {1440, 15840, 3000, 1400, 700, {}},                          // no room between the margins
-      {12240, 15840, 15120, 1400, 700, {}},                        // nor above the lower one
-      // clang-format on
-  };
-  for (const auto& row : rows) {
-    const PageRect at = PicturePlace(row.pageWidth, row.pageHeight, row.top, row.width, row.height);
-    EXPECT_DOUBLE_EQ(at.left, row.place.left) << row.width;
-    EXPECT_DOUBLE_EQ(at.top, row.place.top);
-    EXPECT_DOUBLE_EQ(at.width, row.place.width);
-    EXPECT_DOUBLE_EQ(at.height, row.place.height);
-  }
+  // What, width and height of the page, where the picture may begin, and its own width and height.
+  ExpectTable(
+      [](const TableRow& row) {
+        const PageRect at =
+            PicturePlace(row.Number(1), row.Number(2), row.Number(3), row.Number(4), row.Number(5));
+        return NumberText(at.left) + " " + NumberText(at.top) + " " + NumberText(at.width) + " x " +
+               NumberText(at.height);
+      },
+      R"(
+wide on a portrait page: the width, 12240, 15840, 3000, 1400, 700 -> 720 3000 10800 x 5400
+on a landscape page: the height, 15840, 12240, 3520, 1000, 1000 -> 3920 3520 8000 x 8000
+in another unit, 12240, 15840, 3000, 3, 1.5 -> 720 3000 10800 x 5400
+no room between the margins, 1440, 15840, 3000, 1400, 700 -> 0 0 0 x 0
+nor above the lower one, 12240, 15840, 15120, 1400, 700 -> 0 0 0 x 0
+)");
 }
 
 /// Each text at its place, then the picture. A letter of 10 points is 100 twips wide, a line 200
