@@ -2,6 +2,7 @@
 #include "customise/frmLogDescription.h"
 #include "model/Catalogue.h"
 #include "support/Story.h"
+#include "support/Table.h"
 #include "support/WindowActions.h"
 #include "universal/BuiltInTitles.h"
 #include "universal/DefinitionWriter.h"
@@ -26,13 +27,13 @@ class LogDescription : public ::testing::Test {
              &window.txtTitleLine, &window.txtUnitsLine, &window.txtDataLine, &window.cboTimeColumn,
              &window.cboTimeForm, &window.txtLineFrequency})
       text += TextOf(*control) + " ";
-    text += "|";
+    text += "/";
     for (const auto& row : window.lvwHead.Rows()) text += " " + row.texts[1];
     for (const auto& row : window.lvwColumns.Rows()) {
-      text += " | " + row.texts[0];
+      text += " / " + row.texts[0];
       for (const std::size_t part : {5u, 6u, 7u, 8u}) text += " " + row.texts[part];
     }
-    text += " | " + std::to_string(window.lvwColumns.SelectedRow()) + ":";
+    text += " / " + std::to_string(window.lvwColumns.SelectedRow()) + ":";
     for (const Control* control : std::initializer_list<const Control*>{
              &window.cboItem, &window.txtFactor, &window.txtOffset, &window.txtUnit,
              &window.txtDecimals})
@@ -52,63 +53,44 @@ class LogDescription : public ::testing::Test {
   const TitleDictionary titles{BuiltInTitles()};
 };
 
-#define FORM "UTF-8 semicolon Comma 2 3 4 Time Seconds -! | Preamble Titles Units Data Data Data"
-#define NO_CLOCK "UTF-8 semicolon Comma 2 3 4 No clock -! "
-#define LINES " | Preamble Titles Units Data Data Data"
-#define TIME " | Time Secs  0 Yes"
-#define OWN_TIME " | Time Own  0 Yes"
-#define RPM " | RPM RPM  0 Yes"
-#define SPEED " | Speed Speed x 0.6214 1 Yes"
-#define ODD " | Odd Own  1 Yes"
-#define OWN "An item of the log's own"
-#define ON_RPM " | 2: RPM 1 0 rpm 0 shown"
-
 TEST_F(LogDescription, FollowsEachChoice) {
-  struct Row {
-    const char* actions;
-    const char* shown;
-  };
-  const Row rows[] = {
-      // clang-format off
-      {"", FORM TIME RPM SPEED ODD ON_RPM},
-      {"type txtUnitsLine ", "UTF-8 semicolon Comma 2 - 4 Time Seconds -! | Preamble Titles Preamble Data Data Data" TIME RPM SPEED ODD ON_RPM},
-      {"type txtTitleLine 1", "UTF-8 semicolon Comma 1 3 4 made up Seconds -! | Titles Preamble Units Data Data Data | made up Secs  0 Yes | 1: Secs! 1! 0! s! 0! shown"},
-      {"type txtDataLine 5", "UTF-8 semicolon Comma 2 3 5 No clock -! - | Preamble Titles Units Preamble Data Data" OWN_TIME RPM SPEED ODD ON_RPM},
-      {"choose cboDelimiter comma", "UTF-8 comma Point - - 4 No clock -! - | Preamble Preamble Preamble Data Data Data | Column 1 Own  0 Yes | Column 2 Own  0 Yes | 2: " OWN " 1 0 - 0 shown"},
-      {"choose cboDecimalSign Point", "UTF-8 semicolon Point 2 3 4 Time Seconds -!" LINES TIME RPM SPEED " | Odd Own  0 Yes" ON_RPM},
-      {"choose cboEncoding WINDOWS-1252", "WINDOWS-1252 semicolon Comma 2 3 4 Time Seconds -!" LINES TIME RPM SPEED ODD ON_RPM},
-      {"choose cboTimeForm Days", "UTF-8 semicolon Comma 2 3 4 Time Days -!" LINES TIME RPM SPEED ODD ON_RPM},
-      {"choose cboTimeColumn No clock", NO_CLOCK "-" LINES OWN_TIME RPM SPEED ODD ON_RPM},
-      {"choose cboTimeColumn No clock\ntype txtLineFrequency 25", NO_CLOCK "25" LINES OWN_TIME RPM SPEED ODD ON_RPM},
-      {"choose cboTimeColumn No clock\ntype txtLineFrequency 100001", NO_CLOCK "100000" LINES OWN_TIME RPM SPEED ODD ON_RPM},
-      {"choose cboTimeColumn No clock\ntype txtLineFrequency 25\ntype txtLineFrequency 0", NO_CLOCK "-" LINES OWN_TIME RPM SPEED ODD ON_RPM},
-      {"choose cboTimeColumn RPM", "UTF-8 semicolon Comma 2 3 4 RPM Seconds -!" LINES OWN_TIME " | RPM Secs  0 Yes" SPEED ODD " | 2: Secs! 1! 0! s! 0! shown"},
-      // Columns, which keep through choices what was made of them.
-      {"row lvwColumns 1", FORM TIME RPM SPEED ODD " | 1: Secs! 1! 0! s! 0! shown"},
-      {"row lvwColumns 3", FORM TIME RPM SPEED ODD " | 3: Speed 0.621371192237334 0 mph 1 shown"},
-      {"row lvwColumns 4\nchoose cboItem MAP\ntype txtFactor 100\ntype txtOffset -2\ntype txtDecimals 9\n"
-       "type txtUnit psi\nclick chkShown\nchoose cboTimeForm Minutes",
-       "UTF-8 semicolon Comma 2 3 4 Time Minutes -!" LINES TIME RPM SPEED " | Odd MAP x 100 - 2 5 No | 4: MAP 100 -2 psi 5"},
-      {"row lvwColumns 4\nchoose cboItem RPM\nrow lvwColumns 2\ntype txtDecimals -1\ntype txtOffset 3",
-       FORM TIME " | RPM Own + 3 0 Yes" SPEED " | Odd RPM  1 Yes | 2: " OWN " 1 3 rpm 0 shown"},
-      {"choose cboItem Not read", FORM TIME " | RPM Not read  0 Yes" SPEED ODD " | 2: Not read 1 0 rpm 0 shown"},
-      {"choose cboItem " OWN, FORM TIME " | RPM Own  0 Yes" SPEED ODD " | 2: " OWN " 1 0 rpm 0 shown"},
-      // clang-format on
-  };
-  for (const Row& row : rows) {
+  const auto shown = [this](const TableRow& row) {
     frmLogDescription window = Open(kLog);
     window.Show();
-    if (*row.actions) Act(window, row.actions);
-    EXPECT_EQ(Shown(window), row.shown) << row.actions;
-  }
+    if (row.All() != "nothing") Act(window, Join(SplitAt(row.All(), "; "), "\n"));
+    return Shown(window);
+  };
+  ExpectTable(shown, R"(
+nothing -> UTF-8 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+type txtUnitsLine  -> UTF-8 semicolon Comma 2 - 4 Time Seconds -! / Preamble Titles Preamble Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+type txtTitleLine 1 -> UTF-8 semicolon Comma 1 3 4 made up Seconds -! / Titles Preamble Units Data Data Data / made up Secs  0 Yes / 1: Secs! 1! 0! s! 0! shown
+type txtDataLine 5 -> UTF-8 semicolon Comma 2 3 5 No clock -! - / Preamble Titles Units Preamble Data Data / Time Own  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboDelimiter comma -> UTF-8 comma Point - - 4 No clock -! - / Preamble Preamble Preamble Data Data Data / Column 1 Own  0 Yes / Column 2 Own  0 Yes / 2: An item of the log's own 1 0 - 0 shown
+choose cboDecimalSign Point -> UTF-8 semicolon Point 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  0 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboEncoding WINDOWS-1252 -> WINDOWS-1252 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboTimeForm Days -> UTF-8 semicolon Comma 2 3 4 Time Days -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboTimeColumn No clock -> UTF-8 semicolon Comma 2 3 4 No clock -! - / Preamble Titles Units Data Data Data / Time Own  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboTimeColumn No clock; type txtLineFrequency 25 -> UTF-8 semicolon Comma 2 3 4 No clock -! 25 / Preamble Titles Units Data Data Data / Time Own  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboTimeColumn No clock; type txtLineFrequency 100001 -> UTF-8 semicolon Comma 2 3 4 No clock -! 100000 / Preamble Titles Units Data Data Data / Time Own  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboTimeColumn No clock; type txtLineFrequency 25; type txtLineFrequency 0 -> UTF-8 semicolon Comma 2 3 4 No clock -! - / Preamble Titles Units Data Data Data / Time Own  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: RPM 1 0 rpm 0 shown
+choose cboTimeColumn RPM -> UTF-8 semicolon Comma 2 3 4 RPM Seconds -! / Preamble Titles Units Data Data Data / Time Own  0 Yes / RPM Secs  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: Secs! 1! 0! s! 0! shown
+# Columns, which keep through choices what was made of them.
+row lvwColumns 1 -> UTF-8 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 1: Secs! 1! 0! s! 0! shown
+row lvwColumns 3 -> UTF-8 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 3: Speed 0.621371192237334 0 mph 1 shown
+row lvwColumns 4; choose cboItem MAP; type txtFactor 100; type txtOffset -2; type txtDecimals 9; type txtUnit psi; click chkShown; choose cboTimeForm Minutes -> UTF-8 semicolon Comma 2 3 4 Time Minutes -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM RPM  0 Yes / Speed Speed x 0.6214 1 Yes / Odd MAP x 100 - 2 5 No / 4: MAP 100 -2 psi 5
+row lvwColumns 4; choose cboItem RPM; row lvwColumns 2; type txtDecimals -1; type txtOffset 3 -> UTF-8 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM Own + 3 0 Yes / Speed Speed x 0.6214 1 Yes / Odd RPM  1 Yes / 2: An item of the log's own 1 3 rpm 0 shown
+choose cboItem Not read -> UTF-8 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM Not read  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: Not read 1 0 rpm 0 shown
+choose cboItem An item of the log's own -> UTF-8 semicolon Comma 2 3 4 Time Seconds -! / Preamble Titles Units Data Data Data / Time Secs  0 Yes / RPM Own  0 Yes / Speed Speed x 0.6214 1 Yes / Odd Own  1 Yes / 2: An item of the log's own 1 0 rpm 0 shown
+)");
 }
 
 TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
   frmLogDescription window = Open(kLog);
   window.Show();
   EXPECT_EQ(window.txtName.Text(), "my run");
-  Act(window, "choose cboItem Not read\nrow lvwColumns 3\nchoose cboItem " OWN
-              "\nchoose cboTimeForm Minutes\ntype txtName ");
+  Act(window,
+      "choose cboItem Not read\nrow lvwColumns 3\nchoose cboItem An item of the log's own"
+      "\nchoose cboTimeForm Minutes\ntype txtName ");
   const clsDataLog made = window.Definition();
   EXPECT_EQ(made.strName + " " + made.strFileExtension + " " + made.strTimeForm,
             "My Logger csv MINUTES");
@@ -119,9 +101,10 @@ TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
 
   frmLogDescription again = Open(kLog, &made);
   EXPECT_EQ(again.Caption() + " " + again.txtName.Text(), "Edit Definition My Logger");
-  EXPECT_EQ(Shown(again), "UTF-8 semicolon Comma 2 3 4 Time Minutes -!" LINES TIME
-                          " | RPM Not read  0 Yes | Speed Own x 0.6214 1 Yes" ODD
-                          " | 2: Not read 1 0 rpm 0 shown");
+  EXPECT_EQ(Shown(again),
+            "UTF-8 semicolon Comma 2 3 4 Time Minutes -! / Preamble Titles Units Data Data Data / "
+            "Time Secs  0 Yes / RPM Not read  0 Yes / Speed Own x 0.6214 1 Yes / Odd Own  1 Yes / "
+            "2: Not read 1 0 rpm 0 shown");
   EXPECT_EQ(DefinitionFileText(again.Definition()), DefinitionFileText(made));
   Act(window, "choose cboTimeColumn RPM");
   const clsDataLog byRPM = window.Definition();

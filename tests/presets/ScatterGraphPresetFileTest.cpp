@@ -82,6 +82,15 @@ Graph 1 Filter 1 Colour=3; Graph 1 Filters=4; Graph 1 Filter 9; Graph 2 Filter 1
 )");
 }
 
+TEST_F(ScatterPresetFile, ABoundOfAListIsShownByItsPlace) {
+  const auto shown = [this](const TableRow& row) {
+    return FilterBoundText(row.Number(0), catalogue.gcolFixedDataItems.Item(27));
+  };
+  ExpectTable(shown, R"(
+-1 -> -1 | 0 -> Off | 0.5 -> 0.5 | 1 -> On | 2 -> 2
+)");
+}
+
 TEST_F(ScatterPresetFile, FiltersOnWhatIsNotDisplayedGo) {
   catalogue.gcolFixedDataItems.Item(5).blnDisplay = false;
   catalogue.gcolFixedDataItems.Item(1).blnDisplay = false;  // the time axes always stay

@@ -1,9 +1,8 @@
-#include <gtest/gtest.h>
-
 #include <random>
 
 #include "model/Catalogue.h"
 #include "scatter/ScatterPoints.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -36,32 +35,25 @@ struct Samples {
 };
 
 TEST(ScatterRange, FollowsTheFiltersOnSample) {
-  constexpr double kNone = kBoundNotSet;
   const Samples samples(8000, 100);  // 100 to 8099
-  const struct {
+  const auto range = [&](const TableRow& row) {
     clsScatterFilters filters;
-    std::int32_t from, to;
-    bool hasFilter, tooWide;
-  } kRows[] = {
-      {Filters({}), 100, 8099, false, true},
-      {Filters({On(1, 200, 5200)}), 200, 5200, false, false},
-      {Filters({On(1, 200, 5201)}), 200, 5201, false, true},
-      {Filters({On(1, 200.5, 300.5)}), 200, 300, false, false},  // halves go to the even number
-      {Filters({On(1, 6000, kNone)}), 6000, 8099, false, false},
-      {Filters({On(1, 9000, kNone)}), 100, 8099, false, true},  // beyond the log: its start
-      {Filters({On(1, kNone, 50)}), 100, 8099, false, true},    // before the log: its end
-      {Filters({On(1, 5000, kNone), On(1, kNone, 200)}), 5000, 8099, false, false},
-      {Filters({On(1, 4000, 5000), On(1, 4500, kNone)}), 4500, 8099, false, false},
-      {Filters({On(1, 700, 800), On(1, 300, 400)}), 400, 400, false, false},
-      {Filters({On(3, 0, kNone)}), 100, 8099, true, false},
+    for (const std::string& one : SplitAt(row.All(), "; ")) {
+      const auto words = Split(one, ' ');  // the item, from, to
+      const auto bound = [&](std::size_t n) {
+        return words[n] == "-" ? kBoundNotSet : std::stod(words[n]);
+      };
+      if (words.size() == 3) filters.AddDirect(On(std::stoi(words[0]), bound(1), bound(2)));
+    }
+    const ScatterRange found = RangeOfFilters(samples.log, filters);
+    return std::to_string(found.from) + "-" + std::to_string(found.to) +
+           (found.blnHasFilter ? " filtered" : "") + (found.tooWide ? " too wide" : "");
   };
-  for (const auto& row : kRows) {
-    const ScatterRange range = RangeOfFilters(samples.log, row.filters);
-    EXPECT_EQ(range.from, row.from) << &row - kRows;
-    EXPECT_EQ(range.to, row.to) << &row - kRows;
-    EXPECT_EQ(range.blnHasFilter, row.hasFilter) << &row - kRows;
-    EXPECT_EQ(range.tooWide, row.tooWide) << &row - kRows;
-  }
+  // Halves go to the even number; what lies beyond an end of the log is that end.
+  ExpectTable(range, R"(
+none -> 100-8099 too wide | 1 200 5200 -> 200-5200 | 1 200 5201 -> 200-5201 too wide | 1 200.5 300.5 -> 200-300 | 1 6000 - -> 6000-8099 | 1 9000 - -> 100-8099 too wide | 1 - 50 -> 100-8099 too wide
+1 5000 -; 1 - 200 -> 5000-8099 | 1 4000 5000; 1 4500 - -> 4500-8099 | 1 700 800; 1 300 400 -> 400-400 | 3 0 - -> 100-8099 filtered
+)");
 }
 
 TEST(ScatterRange, AFilterOnSampleIsNotTestedSampleBySample) {
