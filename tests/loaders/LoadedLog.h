@@ -2,23 +2,61 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "loaders/FMLinkLog.h"
+#include "loaders/LoadContext.h"
 #include "model/Catalogue.h"
-#include "support/LoadMessages.h"
-#include "support/Table.h"
+#include "support/Accept.h"
 
 namespace tarnview {
 
 /// A log loaded from a text, with the default tables.
 struct LoadedLog {
-  explicit LoadedLog(std::string_view text, const Settings& itsSettings = {}, bool silent = false)
+  using Loader = LoadOutcome (*)(std::string_view bytes, const LoadContext& context);
+
+  LoadedLog(Loader load, std::string_view text, const Settings& itsSettings = {})
       : settings(itsSettings) {
-    outcome = LoadFMLinkLog(text, {log, catalogue.gcolFixedDataItems, settings, tables, progress},
-                            silent);
+    outcome = load(text, {log, catalogue.gcolFixedDataItems, settings, tables, progress});
   }
+
+  /// "samples zones, plots from 0, air from -10, says 7 8": what came of it, but for the cells.
+  std::string Outcome() const {
+    std::string text = outcome.loaded ? "" : "nothing";
+    if (log.gblnSamplesLoaded) text += "samples ";
+    if (log.gblnZonesLoaded) text += "zones ";
+    if (log.gblnChangesLoaded) text += "changes ";
+    if (text.back() == ' ') text.pop_back();
+    if (log.glngFirstPlotSample >= 0)
+      text += ", plots from " + std::to_string(log.glngFirstPlotSample);
+    if (log.glngLowestAirTemp != kNoAirTemp)
+      text += ", air from " + std::to_string(log.glngLowestAirTemp);
+    if (!outcome.messages.empty()) text += ", says";
+    for (const LoadMessage& message : outcome.messages)
+      text += " " + std::to_string(static_cast<int>(message.id));
+    return text;
+  }
+
+  /// The stored cells of all columns that are not 0 throughout, side by side: a line for each
+  /// sample, begun anew where it gets too long.
+  std::string Table() const {
+    constexpr std::size_t kLongest = 150;
+    const auto rows = static_cast<std::size_t>(log.glngDataLog.Rows());
+    std::string text;
+    std::vector<std::string> block(rows + 1);
+    for (int column = 0; column < log.glngDataLog.Columns(); ++column) {
+      std::vector<std::string> cells{catalogue.gcolFixedDataItems.Item(column + 1).strShortName};
+      bool any = false;
+      for (const std::int32_t cell : log.glngDataLog.Column(column)) {
+        any = any || cell != 0;
+        cells.push_back(std::to_string(cell));
+      }
+      if (any) Append(cells, block);
+      if (block[0].size() > kLongest) text += Flush(block);
+    }
+    return text + Flush(block);
+  }
+
+  std::string Told() const { return Outcome() + "\n" + Table(); }
 
   /// The stored cells of a column: "3250 850".
   std::string Cells(int column) const {
@@ -26,32 +64,6 @@ struct LoadedLog {
     for (int row = 0; row < log.glngDataLog.Rows(); ++row)
       text += (row ? " " : "") + std::to_string(log.glngDataLog(column, row));
     return text;
-  }
-  /// Each column that is not 0 throughout, several to a line: "RPM: 3250 850".
-  std::string Table() const {
-    constexpr std::size_t kWidth = 130;
-    std::string text, line;
-    for (int column = 0; column < log.glngDataLog.Columns(); ++column) {
-      const auto cells = log.glngDataLog.Column(column);
-      if (std::all_of(cells.begin(), cells.end(), [](std::int32_t cell) { return cell == 0; }))
-        continue;
-      const std::string told =
-          catalogue.gcolFixedDataItems.Item(column + 1).strShortName + ": " + Cells(column);
-      if (line.size() + told.size() > kWidth) text += std::exchange(line, "") + "\n";
-      line += (line.empty() ? "" : " | ") + told;
-    }
-    return "\n" + text + line + "\n";
-  }
-  /// The ids of the messages, and whether there are samples, zones and changes: "16, 51 samples".
-  std::string Told() const {
-    std::string told;
-    for (const auto& message : outcome.messages)
-      told += (told.empty() ? "" : ", ") + std::to_string(static_cast<int>(message.id));
-    if (log.gblnSamplesLoaded) told += " samples";
-    if (log.gblnZonesLoaded) told += " zones";
-    if (log.gblnChangesLoaded) told += " changes";
-    const bool any = log.gblnSamplesLoaded || log.gblnZonesLoaded || log.gblnChangesLoaded;
-    return told + (outcome.loaded == any ? "" : " ?");
   }
 
   struct Progress : LoadProgress {
@@ -67,6 +79,42 @@ struct LoadedLog {
   Progress progress;
   OpenLog log;
   LoadOutcome outcome;
+
+ private:
+  static void Append(const std::vector<std::string>& cells, std::vector<std::string>& block) {
+    std::size_t width = 0;
+    for (const std::string& cell : cells) width = std::max(width, cell.size());
+    for (std::size_t row = 0; row < cells.size(); ++row) {
+      const std::size_t gap = block[row].empty() ? 0 : 2;
+      block[row] += std::string(gap + width - cells[row].size(), ' ') + cells[row];
+    }
+  }
+  static std::string Flush(std::vector<std::string>& block) {
+    std::string text;
+    for (std::string& line : block) {
+      if (!line.empty()) text += line + "\n";
+      line.clear();
+    }
+    return text;
+  }
 };
+
+/// Lines that are all alike, behind a heading.
+inline std::string Repeated(std::string text, std::string_view line, int count) {
+  text.reserve(text.size() + (line.size() + 1) * static_cast<std::size_t>(count));
+  while (count-- > 0) text.append(line).append("\n");
+  return text;
+}
+
+/// A file that is no log, or not enough of one, and what came of it.
+struct BadLog {
+  const char* what;
+  std::string text;
+  const char* outcome;
+};
+inline void ExpectBad(LoadedLog::Loader load, const std::vector<BadLog>& logs) {
+  for (const BadLog& bad : logs)
+    EXPECT_EQ(LoadedLog(load, bad.text).Outcome(), bad.outcome) << bad.what;
+}
 
 }  // namespace tarnview
