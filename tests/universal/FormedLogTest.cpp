@@ -4,13 +4,9 @@
 
 #include <cmath>
 
-#include "DefinitionText.h"
-#include "model/Catalogue.h"
-#include "universal/DefinitionReader.h"
+#include "LoadedUniversal.h"
 #include "universal/LogTimes.h"
 #include "universal/PlainLog.h"
-#include "universal/UniversalDataItems.h"
-#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
@@ -19,23 +15,8 @@ namespace {
 /// the second row.
 std::string CellsOf(const std::string& header, const std::string& text,
                     const std::string& column = "", const char* time = "Time") {
-  const Catalogue catalogue = BuildDataItemCatalogue();
   const DefinitionText file{header, {ColumnText(time, 63, 3), ColumnText("A", 5, 0, column)}, ""};
-  const clsDataLog definition =
-      ReadDataLogDefinition(file.Text(), "", catalogue.gcolFixedDataItems);
-  const clsLogDataItems items =
-      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
-  const Settings settings;
-  const ConversionTables tables;
-  NoProgress progress;
-  OpenLog log;
-  LoadGenericDataLog(text, {log, items, settings, tables, progress}, definition);
-  std::string cells;
-  for (int row = 0; row < log.glngDataLog.Rows(); ++row) {
-    cells += (row ? " " : "") + std::to_string(log.glngDataLog(4, row));
-    if (!log.glngDataLog.IsLogged(4, row)) cells += "~";
-  }
-  return cells;
+  return LoadedUniversal(file, text).Cells(5, /*marked=*/true);
 }
 
 TEST(FormedLog, EachKeyByItself) {

@@ -1,13 +1,10 @@
+#include "LoadedUniversal.h"
 #include "MadeLogs.h"
 #include "base/FileSystem.h"
-#include "model/Catalogue.h"
 #include "support/Table.h"
-#include "universal/DefinitionReader.h"
 #include "universal/DefinitionWriter.h"
 #include "universal/LogShape.h"
 #include "universal/ShapeDefinition.h"
-#include "universal/UniversalDataItems.h"
-#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
@@ -39,7 +36,7 @@ std::string Printed(const LogShape& shape) {
   text += shape.form.quoted ? " quoted" : "";
   text += " titles " + std::to_string(shape.rows.titleLine + 1) + " units " +
           std::to_string(shape.rows.unitsLine + 1) + " data " +
-          std::to_string(shape.rows.dataLine + 1) + "\ntime " + std::to_string(shape.time.column) +
+          std::to_string(shape.rows.dataLine + 1) + ", time " + std::to_string(shape.time.column) +
           " " + std::string(TimeFormName(shape.time.form)) + " " + number(shape.time.step) +
           " rate " + number(shape.lineFrequency) + "\n";
   for (const ShapeItem& item : shape.items)
@@ -76,9 +73,6 @@ std::string PrintedLog(const LogShape& shape, const OpenLog& log) {
 
 TEST(LogShape, ALogLoadsByTheDefinitionOfItsShapeAndByTheFileOfThat) {
   const Catalogue catalogue = BuildDataItemCatalogue();
-  const Settings settings;
-  const ConversionTables tables;
-  NoProgress progress;
   for (const MadeLog& made : MadeLogs()) {
     const LogShape shape = ShapeOf(made.text);
     const clsDataLog direct = DefinitionOfShape(shape, "Made", "csv", 10);
@@ -86,13 +80,9 @@ TEST(LogShape, ALogLoadsByTheDefinitionOfItsShapeAndByTheFileOfThat) {
     const clsDataLog read = ReadDataLogDefinition(file, "made.txt", catalogue.gcolFixedDataItems);
     EXPECT_EQ(DefinitionFileText(read), file) << made.name;
     for (const clsDataLog* definition : {&direct, &read}) {
-      const clsLogDataItems items =
-          GenerateLogDataItemsGeneric(*definition, catalogue.gcolFixedDataItems);
-      OpenLog log;
-      const LoadOutcome outcome =
-          LoadGenericDataLog(made.text, {log, items, settings, tables, progress}, *definition);
-      EXPECT_TRUE(outcome.loaded && outcome.unknownColumns.size() < 3) << made.name;
-      EXPECT_EQ(PrintedLog(shape, log), made.loaded) << made.name;
+      const LoadedUniversal loaded(*definition, made.text);
+      EXPECT_TRUE(loaded.outcome.loaded && loaded.outcome.unknownColumns.size() < 3) << made.name;
+      EXPECT_EQ(PrintedLog(shape, loaded.log), made.loaded) << made.name;
     }
   }
 }
@@ -152,29 +142,25 @@ Throttle Position (V), 1, 4 -> 101 Throttle Position [V] | Target Engine Speed (
 }
 
 TEST(LogShape, RowsOfTitlesAndTheDecimalSignAreToldApart) {
-  const std::pair<const char*, const char*> kRows[] = {
-      {"Engine,,Temps\nTime (s),RPM,CLT (C)\n",
-       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
-       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
-      {"Engine,Engine,Temps\nTime (s),RPM,CLT (C)\n",
-       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
-       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
-      {"Pump A,Pump B,Pump B\nTime,Flow,Flow\n",
-       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
-       "| 63 Secs [s] | 101 Flow | 102 Flow 2\n"},
-      {"[1],[2],[3]\n",
-       "UTF-8 comma . titles 0 units 0 data 2\ntime 0 SECONDS 1 rate 0\n"
-       "| 63 Secs [s] | 101 Column 2 | 102 Column 3\n"},
-      {"s,rpm,C\nTime,RPM,CLT\n",
-       "UTF-8 comma . titles 2 units 0 data 3\ntime 0 SECONDS 1 rate 0\n"
-       "| 63 Secs [s] | 3 RPM [rpm] | 23 C Temp [C]\n"},
+  const auto tell = [](const TableRow& row) {
+    std::string head = row.All();
+    std::replace(head.begin(), head.end(), '/', '\n');
+    const LogShape shape = ShapeOf(head + "\n0,900,80\n1,950,81\n2,980,82\n3,990,83\n");
+    std::string told = "titles " + std::to_string(shape.rows.titleLine + 1) + " data " +
+                       std::to_string(shape.rows.dataLine + 1) + ":";
+    for (const ShapeItem& item : shape.items) told += " " + PrintedItem(item);
+    return told;
   };
-  for (const auto& [head, printed] : kRows)
-    EXPECT_EQ(Printed(ShapeOf(std::string(head) + "0,900,80\n1,950,81\n2,980,82\n3,990,83\n")),
-              printed);
+  ExpectTable(tell, R"(
+Engine,,Temps/Time (s),RPM,CLT (C) -> titles 2 data 3: 63 Secs [s] 3 RPM [rpm] 23 C Temp [C]
+Engine,Engine,Temps/Time (s),RPM,CLT (C) -> titles 2 data 3: 63 Secs [s] 3 RPM [rpm] 23 C Temp [C]
+Pump A,Pump B,Pump B/Time,Flow,Flow -> titles 2 data 3: 63 Secs [s] 101 Flow 102 Flow 2
+[1],[2],[3] -> titles 0 data 2: 63 Secs [s] 101 Column 2 102 Column 3
+s,rpm,C/Time,RPM,CLT -> titles 2 data 3: 63 Secs [s] 3 RPM [rpm] 23 C Temp [C]
+)");
   EXPECT_EQ(Printed(ShapeOf(",Group A:,'003,\n,Clock,Load,Boost\n,TIME,,\nMarker,STAMP, %, mbar\n"
                             ",0,40,800\n,1,50,900\n,2,55,1100\n,3,60,1200\n")),
-            "UTF-8 comma . titles 2 units 4 data 5\ntime 1 SECONDS 1 rate 0\n"
+            "UTF-8 comma . titles 2 units 4 data 5, time 1 SECONDS 1 rate 0\n"
             "| 101 Column 1 [Marker] | 63 Secs [s] | 102 Load [%] | 5 MAP [kPa] x0.1+0\n");
   const LogShape untitled = ShapeOf("0.5,900,80\n0.6,950,81\n# 1,2\n0.7,980,82\n0.8,990,83\n");
   EXPECT_EQ(untitled.rows.commentPrefix + " " + NumberText(untitled.rows.dataShare), "# 0.8");
@@ -192,13 +178,13 @@ TEST(LogShape, WhatAUserSettlesStands) {
   choices.unitsLine = -1;
   choices.decimalSign = '.';
   EXPECT_EQ(Printed(ShapeOf(log, choices)),
-            "UTF-8 semicolon . titles 2 units 0 data 4\ntime -1  0 rate 25\n"
+            "UTF-8 semicolon . titles 2 units 0 data 4, time -1  0 rate 25\n"
             "| 101 Time | 3 RPM [rpm] | 102 Load list\n");
   ShapeChoices others;
   others.titleLine = -1;
   others.timeForm = TimeForm::Minutes;
   EXPECT_EQ(Printed(ShapeOf(log, others)),
-            "UTF-8 semicolon , titles 0 units 0 data 4\ntime 0 MINUTES 1 rate 0\n"
+            "UTF-8 semicolon , titles 0 units 0 data 4, time 0 MINUTES 1 rate 0\n"
             "| 63 Secs [s] | 101 Column 2 | 102 Column 3\n");
 }
 

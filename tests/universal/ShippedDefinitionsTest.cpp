@@ -2,16 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "LoadedUniversal.h"
 #include "base/FileSystem.h"
-#include "model/Catalogue.h"
 #include "support/LoadMessages.h"
 #include "universal/BuiltInTitles.h"
-#include "universal/DefinitionReader.h"
 #include "universal/ShapeItems.h"
 #include "universal/TitleDictionary.h"
 #include "universal/Units.h"
-#include "universal/UniversalDataItems.h"
-#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
@@ -37,75 +34,59 @@ constexpr Shipped kShipped[] = {
     {"Torque", "torque.csv", 3},
 };
 
+clsDataLog DefinitionOf(const Shipped& shipped) {
+  static const Catalogue catalogue = BuildDataItemCatalogue();
+  const auto text = RealFileSystem().Read(kFolder + shipped.definition + ".txt");
+  return ReadDataLogDefinition(*text, "", catalogue.gcolFixedDataItems);
+}
+std::string LogOf(const Shipped& shipped) {
+  return std::string(
+      *RealFileSystem().Read(std::string(TARNVIEW_EXAMPLES) + "/universal/" + shipped.log));
+}
+
+/// The last moment of the drive: every log tells it in its own units.
+constexpr struct {
+  Column column;
+  double value, within;
+} kLastMoment[] = {{kSecs, 2.75, 1e-3}, {kRPM, 6500, 0},   {kMAP, 185.4, 0.3},
+                   {kTPS, 96, 0.1},     {kCTemp, 86, 0.3}, {kATemp, 33, 0.3},
+                   {kAF, 11.5, 0.01},   {kIAdv, 16, 0.1},  {kSpeed, 93, 0.1}};
+
 TEST(ShippedDefinitions, EachReadsItsLog) {
-  const Catalogue catalogue = BuildDataItemCatalogue();
   for (const Shipped& shipped : kShipped) {
     SCOPED_TRACE(shipped.definition);
-    RealFileSystem files;
-    const auto text = files.Read(kFolder + shipped.definition + ".txt");
-    const auto bytes = files.Read(std::string(TARNVIEW_EXAMPLES) + "/universal/" + shipped.log);
-    ASSERT_TRUE(text && bytes);
-    const clsDataLog definition = ReadDataLogDefinition(*text, "", catalogue.gcolFixedDataItems);
-    const clsLogDataItems items =
-        GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
-    OpenLog log;
-    NoProgress progress;
-    const LoadOutcome outcome = LoadGenericDataLog(
-        *bytes, {log, items, Settings{}, ConversionTables{}, progress}, definition);
-    EXPECT_EQ(outcome.messages, std::vector<int>{});
-    EXPECT_TRUE(definition.objColumns.OffsetDataItems()
-                    .empty());  // the graph would draw them that much higher
-    EXPECT_EQ(outcome.unknownColumns.size(), shipped.unknown);
-    ASSERT_EQ(log.glngDataLog.Rows(), 12);
-    // The last moment of the drive: every log tells it in its own units.
-    const auto value = [&](Column column) {
-      return items.Item(ItemOf(column)).GetRawData(log.glngDataLog(column, 11));
-    };
-    EXPECT_NEAR(value(kSecs), 2.75, 1e-3);
-    EXPECT_EQ(value(kRPM), 6500);
-    EXPECT_NEAR(value(kMAP), 185.4, 0.3);
-    EXPECT_NEAR(value(kTPS), 96, 0.1);
-    EXPECT_NEAR(value(kCTemp), 86, 0.3);
-    EXPECT_NEAR(value(kATemp), 33, 0.3);
-    EXPECT_NEAR(value(kAF), 11.5, 0.01);
-    EXPECT_NEAR(value(kIAdv), 16, 0.1);
-    if (!log.glngDataLog.Column(kSpeed).empty()) {
-      EXPECT_NEAR(value(kSpeed), 93, 0.1);
-    }
+    const LoadedUniversal loaded(DefinitionOf(shipped), LogOf(shipped));
+    EXPECT_EQ(loaded.outcome.messages, std::vector<int>{});
+    EXPECT_EQ(loaded.outcome.unknownColumns.size(), shipped.unknown);
+    // The graph would draw an item with an offset that much higher.
+    EXPECT_TRUE(loaded.definition.objColumns.OffsetDataItems().empty());
+    const SampleStore& store = loaded.log.glngDataLog;
+    ASSERT_EQ(store.Rows(), 12);
+    for (const auto& [column, value, within] : kLastMoment)
+      if (column != kSpeed || !store.Column(kSpeed).empty()) {
+        EXPECT_NEAR(loaded.items.Item(ItemOf(column)).GetRawData(store(column, 11)), value, within);
+      }
   }
 }
 
 /// Two more lines of preamble: what is told of the log's own lines counts for little.
 TEST(ShippedDefinitions, ThoseWithAPreambleFindTheirTitlesWhereverTheyStand) {
-  const Catalogue catalogue = BuildDataItemCatalogue();
   int found = 0;
   for (const Shipped& shipped : kShipped) {
-    RealFileSystem files;
-    const clsDataLog definition = ReadDataLogDefinition(
-        *files.Read(kFolder + shipped.definition + ".txt"), "", catalogue.gcolFixedDataItems);
+    const clsDataLog definition = DefinitionOf(shipped);
     if (definition.strTitlesStart.empty()) continue;
     ++found;
-    const std::string text(std::string_view(
-        *files.Read(std::string(TARNVIEW_EXAMPLES) + "/universal/" + shipped.log)));
-    const auto first = text.find('\n') + 1;
-    const clsLogDataItems items =
-        GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
-    OpenLog log;
-    NoProgress progress;
-    LoadGenericDataLog(text.substr(0, first) + "One more: 1\n\n" + text.substr(first),
-                       {log, items, Settings{}, ConversionTables{}, progress}, definition);
-    EXPECT_EQ(log.glngDataLog.Rows(), 12) << shipped.definition;
+    std::string text = LogOf(shipped);
+    text.insert(text.find('\n') + 1, "One more: 1\n\n");
+    EXPECT_EQ(LoadedUniversal(definition, text).log.glngDataLog.Rows(), 12) << shipped.definition;
   }
   EXPECT_EQ(found, 6);
 }
 
 TEST(ShippedDefinitions, TheDictionaryHasTheirTitles) {
-  const Catalogue catalogue = BuildDataItemCatalogue();
   const TitleDictionary dictionary(BuiltInTitles());
   for (const Shipped& shipped : kShipped) {
-    const clsDataLog definition =
-        ReadDataLogDefinition(*RealFileSystem().Read(kFolder + shipped.definition + ".txt"), "",
-                              catalogue.gcolFixedDataItems);
+    const clsDataLog definition = DefinitionOf(shipped);
     for (const clsDataLogColumn& column : definition.objColumns) {
       if (UnitOfItem(column.lngDataItemID).empty()) continue;  // an item that only stands in
       std::string title = column.strColumnTitle;

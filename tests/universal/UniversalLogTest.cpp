@@ -1,53 +1,17 @@
 #include <gtest/gtest.h>
 
-#include "DefinitionText.h"
-#include "model/Catalogue.h"
+#include "LoadedUniversal.h"
 #include "support/LoadMessages.h"
+#include "support/Table.h"
 #include "universal/DefaultDataLogDefinition.h"
-#include "universal/DefinitionReader.h"
 #include "universal/HeaderMap.h"
 #include "universal/Smoothing.h"
-#include "universal/UniversalDataItems.h"
-#include "universal/UniversalLog.h"
 
 namespace tarnview {
 namespace {
 
 using Ids = std::vector<int>;
-
-/// A log loaded from a text through a definition.
-struct Loaded {
-  Loaded(clsDataLog itsDefinition, std::string_view text, const Settings& settings = {})
-      : definition(std::move(itsDefinition)),
-        items(GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems)) {
-    log.gstrCurrentFile = "/run.csv";
-    NoProgress progress;
-    outcome =
-        LoadGenericDataLog(text, {log, items, settings, ConversionTables{}, progress}, definition);
-  }
-  Loaded(const DefinitionText& text, std::string_view logText, const Settings& settings = {})
-      : Loaded(ReadDataLogDefinition(text.Text(), "", BuildDataItemCatalogue().gcolFixedDataItems),
-               logText, settings) {}
-
-  /// The stored cells of an item: "3250 850".
-  std::string Cells(int item) const {
-    std::string text;
-    for (int row = 0; row < log.glngDataLog.Rows(); ++row)
-      text += (row ? " " : "") + std::to_string(log.glngDataLog(item - 1, row));
-    return text;
-  }
-  std::string FirstMessage() const {
-    return outcome.messages.empty() ? ""
-                                    : std::to_string(static_cast<int>(outcome.messages[0].id)) +
-                                          ": " + outcome.messages[0].extra;
-  }
-
-  Catalogue catalogue = BuildDataItemCatalogue();
-  clsDataLog definition;
-  clsLogDataItems items;
-  OpenLog log;
-  LoadOutcome outcome;
-};
+using Loaded = LoadedUniversal;
 
 /// The cells of one column "A" of item 5, for fields one a line.
 std::string CellsOf(const std::string& attributes, const std::vector<std::string>& fields,
@@ -104,40 +68,43 @@ TEST(UniversalLog, AWholeLogOfTheBuiltInDefinition) {
   EXPECT_EQ(loaded.outcome.unknownColumns, std::vector<std::string>{"Foo"});
 }
 
+/// The stored number of a field in brackets.
 TEST(UniversalLog, NumbersAreConverted) {
-  const struct {
-    const char* attributes;
-    const char* field;
-    const char* stored;
-    int places;
-  } kRows[] = {
-      {"CONVERSIONFACTOR=2\nCONVERSIONOFFSET=3\n", "10", "26", 0},
-      {"CONVERSIONFACTOR=2\nCONVERSIONOFFSET=3\nCONVERSIONFACTORFIRST=Y\n", "10", "23", 0},
-      {"CONVERSIONFACTOR=0\nCONVERSIONOFFSET=3\n", "10", "13", 0},
-      {"COLUMNMINIMUMVALUE=5\nALLOWSETTOMINIMUMVALUE=N\n", "5", "0", 0},
-      {"COLUMNMINIMUMVALUE=5\nALLOWSETTOMINIMUMVALUE=N\n", "5.6", "6", 0},
-      {"COLUMNMINIMUMVALUE=5\n", "-1", "5", 0},
-      {"COLUMNMAXIMUMVALUE=5\n", "7", "5", 0},
-      {"COLUMNMAXIMUMVALUE=5\nALLOWSETTOMAXIMUMVALUE=N\n", "5", "0", 0},
-      {"", "-3", "0", 0},
-      {"SIGNED=Y\n", "-3", "-300", 2},
-      {"SIGNED=Y\nCONVERSIONFACTOR=2\n", "-2.5", "-50", 1},
-      {"SIGNED=Y\n", "-2147483647", "-2147483647", 0},
-      {"SIGNED=Y\nCOLUMNMINIMUMVALUE=-1\n", "-3", "-1", 0},
-      {"OFFSET=10\n", "-3", "700", 2},
-      {"OFFSET=10\n", "-30", "0", 2},
-      {"", "2.5", "2", 0},
-      {"", " 12.345kPa", "123", 1},
-      {"", "1e3", "1", 0},
-      {"", "2147483647.4", "2147483647", 0},
-      {"", "99999999999", "0", 0},
-      {"", "", "0", 0},
-      {"CONVERSIONTYPE=1\n", "rubbish", "0", 0},
+  const auto tell = [](const TableRow& row) {
+    std::string attributes;
+    int places = 0;
+    for (std::size_t n = 1; n < row.Count(); ++n)
+      if (row.Text(n).ends_with(" places"))
+        places = row.Int(n);
+      else
+        attributes += row.Text(n) + "\n";
+    const std::string field = row.Text(0).substr(1, row.Text(0).size() - 2);
+    return CellsOf(attributes, {field}, places);
   };
-  for (const auto& row : kRows)
-    EXPECT_EQ(CellsOf(row.attributes, {row.field, row.field, row.field}, row.places),
-              std::string(row.stored) + " " + row.stored + " " + row.stored)
-        << row.attributes << row.field;
+  ExpectTable(tell, R"(
+[10], CONVERSIONFACTOR=2, CONVERSIONOFFSET=3 -> 26
+[10], CONVERSIONFACTOR=2, CONVERSIONOFFSET=3, CONVERSIONFACTORFIRST=Y -> 23
+[10], CONVERSIONFACTOR=0, CONVERSIONOFFSET=3 -> 13
+[5], COLUMNMINIMUMVALUE=5, ALLOWSETTOMINIMUMVALUE=N -> 0
+[5.6], COLUMNMINIMUMVALUE=5, ALLOWSETTOMINIMUMVALUE=N -> 6
+[-1], COLUMNMINIMUMVALUE=5 -> 5
+[7], COLUMNMAXIMUMVALUE=5 -> 5
+[5], COLUMNMAXIMUMVALUE=5, ALLOWSETTOMAXIMUMVALUE=N -> 0
+[-3] -> 0
+[-3], 2 places, SIGNED=Y -> -300
+[-2.5], 1 places, SIGNED=Y, CONVERSIONFACTOR=2 -> -50
+[-2147483647], SIGNED=Y -> -2147483647
+[-3], SIGNED=Y, COLUMNMINIMUMVALUE=-1 -> -1
+[-3], 2 places, OFFSET=10 -> 700
+[-30], 2 places, OFFSET=10 -> 0
+[2.5] -> 2
+[ 12.345kPa], 1 places -> 123
+[1e3] -> 1
+[2147483647.4] -> 2147483647
+[99999999999] -> 0
+[] -> 0
+[rubbish], CONVERSIONTYPE=1 -> 0
+)");
 }
 
 TEST(UniversalLog, RepeatedFieldsAndOddOnesMix) {
