@@ -4,47 +4,20 @@
 namespace tarnview {
 namespace {
 
-/// With CR LF behind each line.
+/// Its lines stand apart by "; " here, by CR LF in the file.
 std::string File() {
   std::string text;
-  for (const std::string& line : Split(R"(Tarnview Car Definition File
-File Created: 24-Nov-2026 14:05
-
-Car Definition Details:
-Name=Mine = fast
-Description=
-Units=M
-1st Gear Ratio=3.100
-2nd Gear Ratio=2.200
-3rd Gear Ratio=1.330
-4th Gear Ratio=1.040
-5th Gear Ratio=0.850
-6th Gear Ratio=0.760
-Diff Ratio=4.300
-1st Gear Relative Loss=1
-2nd Gear Relative Loss=2
-3rd Gear Relative Loss=3
-4th Gear Relative Loss=4
-5th Gear Relative Loss=5
-6th Gear Relative Loss=6
-Drive Wheel Radius=290.00
-Tyre Width=195
-Tyre Profile=50
-Wheel Diameter=15
-Tyre RPM=540
-Tyre Size Method=2
+  for (const std::string& some :
+       Split(R"(Tarnview Car Definition File; File Created: 24-Nov-2026 14:05; 
+Car Definition Details:; Name=Mine = fast; Description=; Units=M
+1st Gear Ratio=3.100; 2nd Gear Ratio=2.200; 3rd Gear Ratio=1.330; 4th Gear Ratio=1.040; 5th Gear Ratio=0.850; 6th Gear Ratio=0.760; Diff Ratio=4.300
+1st Gear Relative Loss=1; 2nd Gear Relative Loss=2; 3rd Gear Relative Loss=3; 4th Gear Relative Loss=4; 5th Gear Relative Loss=5; 6th Gear Relative Loss=6
+Drive Wheel Radius=290.00; Tyre Width=195; Tyre Profile=50; Wheel Diameter=15; Tyre RPM=540; Tyre Size Method=2
 Set Point Power=74
-Set Point Speed=185
-Use Drag Coefficient=Y
-Drag Coefficient=0.38
-Frontal Area=1.80
-Default Gear=4
-Car Weight=1010
-Car Contents Weight=80
-Smoothing Factor=5
-Dyno Factor=-2)",
-                                       '\n'))
-    text += line + "\r\n";
+Set Point Speed=185; Use Drag Coefficient=Y; Drag Coefficient=0.38; Frontal Area=1.80
+Default Gear=4; Car Weight=1010; Car Contents Weight=80; Smoothing Factor=5; Dyno Factor=-2)",
+             '\n'))
+    text += Join(SplitAt(some, "; "), "\r\n") + "\r\n";
   return text;
 }
 

@@ -7,14 +7,6 @@
 namespace tarnview {
 namespace {
 
-TEST(Drag, BothWaysInBothUnits) {
-  EXPECT_EQ(FixedText(GetSetPointDragCalcPart(100, 115, true), 6), "0.548822");
-  EXPECT_EQ(FixedText(GetSetPointDragCalcPart(75, 180, false), 6), "0.599986");
-  EXPECT_EQ(FixedText(GetCdDragCalcPart(0.36, 1.9, 98, 30, false), 6), "0.385156");
-  EXPECT_EQ(FixedText(GetCdDragCalcPart(0.36, 1.9, 98, 30, true), 6), "0.035782");
-  EXPECT_FALSE(std::isfinite(GetSetPointDragCalcPart(100, 0, true)));
-}
-
 TEST(Drag, TopSpeedIsWhereDragTakesAllPower) {
   const auto speed = [](const TableRow& row) {
     const bool imperial = row.Text(3) == "imperial";

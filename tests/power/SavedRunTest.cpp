@@ -13,7 +13,7 @@ PowerCurves SmallCurves(bool imperial) {
   return curves;
 }
 
-/// What is written of the run from its gears on, on one line.
+/// What is written of the run, on one line.
 std::string Told(const PowerFile& f) {
   const std::string text = Join(SplitAt(PowerFileText(f, {}), "\r\n"), "; ");
   return text.substr(text.find("File="));
@@ -66,12 +66,6 @@ TEST(SavedRun, DragOfASavedGraphByItsOwnTexts) {
   ExpectTable(drag, R"(
 point, 100 hp, 115 mph -> 0.548822 | point, 75 kW, 180 kmh -> 0.599986 | drag, 0.36, 1.9 m2 -> 0.385156 | drag, 0.36, 1.9 ft2 -> 0.035782 | point, x, y -> none | point, 100 hp, 0 mph -> none | point, some, 115 mph -> none
 )");
-}
-
-TEST(SavedRun, GearsAreNamed) {
-  std::string names;
-  for (int gear = 0; gear < kGears; ++gear) names += std::string(GearName(gear)) + " ";
-  EXPECT_EQ(names, "1st 2nd 3rd 4th 5th 6th ");
 }
 
 }  // namespace

@@ -75,6 +75,7 @@ TEST_F(GraphMouseTest, TheListFollowsThePointerAndComesBack) {
 101, 301, hover chSampleGraph @201.4 ; pan chSampleGraph @205 @215 -> Sample: 205, Secs: 16.794; RPM 1205; line 16.7936; point 61 is 151
 101, 301, hover chSampleGraph @999 -> Sample: 301, Secs: 24.658; RPM 1301; line 24.6579; point 51 is 151
 101, 301, hover chSampleGraph @201.4 ; hover chSampleGraph -> Sample: 151, Secs: 12.370; RPM 1151; line none; point 51 is 151
+101, 301, hover chSampleGraph @201.4 ; hover chSampleGraph ; wheel chSampleGraph @201 1 -> Sample: 151, Secs: 12.370; RPM 1151; line none; point 31 is 151
 )");
 }
 
