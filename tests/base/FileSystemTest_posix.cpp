@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,6 +5,7 @@
 #include <filesystem>
 
 #include "base/FileSystem.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -170,18 +170,15 @@ TEST_F(FileSystemTest, FindsByNameAndByWildcard) {
 }
 
 TEST(MatchesPattern, KnowsStarAndQuestionMark) {
-  struct Row {
-    const char* name;
-    const char* pattern;
-    bool matches;
+  const auto tell = [](const TableRow& row) {
+    return MatchesPattern(row.Text(0), row.Text(1)) ? "yes" : "no";
   };
-  const Row rows[] = {{"a.txt", "*.TXT", true}, {"a.txt", "*.*", true},
-                      {"a", "*.*", false},      {"", "*", true},
-                      {"ab", "?", false},       {"abcbc", "a*bc", true},
-                      {"abcbd", "a*bc", false}, {"a", "a**", true},
-                      {"", "?", false},         {"a.txt.bak", "*.txt", false}};
-  for (const Row& row : rows)
-    EXPECT_EQ(MatchesPattern(row.name, row.pattern), row.matches) << row.name << row.pattern;
+  ExpectTable(tell, R"(
+a.txt, *.TXT -> yes | a.txt, *.* -> yes | a, *.* -> no | ab, ? -> no | abcbc, a*bc -> yes | abcbd, a*bc -> no | a, a** -> yes
+a.txt.bak, *.txt -> no
+)");
+  EXPECT_TRUE(MatchesPattern("", "*"));
+  EXPECT_FALSE(MatchesPattern("", "?"));
   EXPECT_FALSE(MatchesPattern(std::string(5000, 'a'), "*a*a*a*a*a*a*a*a*b"));
 }
 

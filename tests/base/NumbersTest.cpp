@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
@@ -8,58 +6,30 @@
 
 #include "base/DigitText.h"
 #include "base/Numbers.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
+/// What stands in brackets: the number at its start, with "numeric" where it is nothing else, the
+/// whole number, and the number without an exponent where that differs.
 TEST(Numbers, ReadsTextTolerantly) {
-  struct Row {
-    const char* text;
-    bool numeric;
-    double number;
-    double val;
-    int whole;
+  const auto tell = [](const TableRow& row) {
+    const std::string text = row.Text(0).substr(1, row.Text(0).size() - 2);
+    const double number = StringToDouble(text);
+    std::string told = NumberText(number) + (IsNumeric(text) ? " numeric" : "");
+    if (StringToLong(text) != number) told += ", whole " + std::to_string(StringToLong(text));
+    return told + (ValDouble(text) == number ? "" : ", plain " + NumberText(ValDouble(text)));
   };
-  const Row rows[] = {
-      {"", false, 0, 0, 0},
-      {"   ", false, 0, 0, 0},
-      {"12abc", false, 12, 12, 12},
-      {"2.5", true, 2.5, 2.5, 2},
-      {"3.5", true, 3.5, 3.5, 4},
-      {"-2.5", true, -2.5, -2.5, -2},
-      {" \t7 \t", true, 7, 7, 7},
-      {"+7", true, 7, 7, 7},
-      {"- 7", false, 0, 0, 0},
-      {"1 2", false, 1, 1, 1},
-      {".", false, 0, 0, 0},
-      {"-", false, 0, 0, 0},
-      {".5", true, .5, .5, 0},
-      {"5.", true, 5, 5, 5},
-      {"1.2.3", false, 1.2, 1.2, 1},
-      {"1,5", false, 1, 1, 1},
-      {"1e3", true, 1000, 1, 1000},
-      {"1E-1 ", true, .1, 1, 0},
-      {"1e", false, 1, 1, 1},
-      {"1e+x", false, 1, 1, 1},
-      {"e3", false, 0, 0, 0},
-      {"0x10", false, 0, 0, 0},
-      {"nan", false, 0, 0, 0},
-      {"inf", false, 0, 0, 0},
-      {"1e999", true, 0, 1, 0},
-      {"2147483647", true, 2147483647, 2147483647, 2147483647},
-      {"2147483647.5", true, 2147483647.5, 2147483647.5, 0},
-      {"-2147483648", true, -2147483648.0, -2147483648.0, -2147483647 - 1},
-      {"4294967297", true, 4294967297, 4294967297, 0},
-      {"123456789012345678901", true, 123456789012345678901.0, 123456789012345678901.0, 0},
-      {"0000000000000000000012", true, 12, 12, 12},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.text);
-    EXPECT_EQ(IsNumeric(row.text), row.numeric);
-    EXPECT_EQ(StringToDouble(row.text), row.number);
-    EXPECT_EQ(ValDouble(row.text), row.val);
-    EXPECT_EQ(StringToLong(row.text), row.whole);
-  }
+  ExpectTable(tell, R"(
+[] -> 0 | [   ] -> 0 | [12abc] -> 12 | [2.5] -> 2.5 numeric, whole 2 | [3.5] -> 3.5 numeric, whole 4 | [-2.5] -> -2.5 numeric, whole -2 | [ 7 ] -> 7 numeric
+[+7] -> 7 numeric | [- 7] -> 0 | [1 2] -> 1 | [.] -> 0 | [-] -> 0 | [.5] -> 0.5 numeric, whole 0 | [5.] -> 5 numeric
+[1.2.3] -> 1.2, whole 1 | [1,5] -> 1 | [1e3] -> 1000 numeric, plain 1 | [1E-1 ] -> 0.1 numeric, whole 0, plain 1 | [1e] -> 1 | [1e+x] -> 1 | [e3] -> 0
+[0x10] -> 0 | [nan] -> 0 | [inf] -> 0 | [1e999] -> 0 numeric, plain 1 | [2147483647] -> 2147483647 numeric
+[2147483647.5] -> 2147483647.5 numeric, whole 0 | [-2147483648] -> -2147483648 numeric | [4294967297] -> 4294967297 numeric, whole 0
+[123456789012345678901] -> 1.23456789012346E+20 numeric, whole 0 | [0000000000000000000012] -> 12 numeric
+)");
+  EXPECT_EQ(StringToDouble(" \t7 \t"), 7);
 }
 
 std::string WithoutSign(const std::string& text) {
@@ -122,41 +92,19 @@ TEST(Numbers, RoundsHalvesToEven) {
 }
 
 TEST(Numbers, WritesPlainDecimals) {
-  const std::pair<double, const char*> rows[] = {
-      {0, "0"},
-      {-0.0, "0"},
-      {-0.5, "-0.5"},
-      {6.66, "6.66"},
-      {0.1 + 0.2, "0.3"},
-      {1234567.25, "1234567.25"},
-      {100, "100"},
-      {123456789012345, "123456789012345"},
-      {1e20, "1E+20"},
-      {-1.5e300, "-1.5E+300"},
-      {0.00001, "0.00001"},
-      {1.25e-20, "1.25E-20"},
-      {2.0 / 3, "0.666666666666667"},
-  };
-  for (const auto& [value, text] : rows) EXPECT_EQ(NumberText(value), text);
+  ExpectTable([](const TableRow& row) { return NumberText(row.Number(0)); }, R"(
+0 -> 0 | -0.0 -> 0 | -0.5 -> -0.5 | 6.66 -> 6.66 | 0.30000000000000004 -> 0.3 | 1234567.25 -> 1234567.25 | 100 -> 100
+123456789012345 -> 123456789012345 | 1e20 -> 1E+20 | -1.5e300 -> -1.5E+300 | 0.00001 -> 0.00001 | 1.25e-20 -> 1.25E-20
+0.6666666666666666 -> 0.666666666666667
+)");
 }
 
 TEST(Numbers, WritesFixedPlaces) {
-  struct Row {
-    double value;
-    int places;
-    const char* text;
-  };
-  const Row rows[] = {
-      {14.705, 2, "14.70"}, {14.715, 2, "14.72"},
-      {0.5, 0, "0"},        {2.5, 0, "2"},
-      {0.05, 1, "0.0"},     {-0.004, 2, "0.00"},
-      {-1.25, 1, "-1.2"},   {1000, 3, "1000.000"},
-      {-0.75, 2, "-0.75"},  {1e20, 0, "100000000000000000000"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(FixedText(row.value, row.places), row.text);
-  EXPECT_EQ(PaddedText(5, 2), "05");
-  EXPECT_EQ(PaddedText(123, 2), "123");
-  EXPECT_EQ(PaddedText(-5, 3), "-005");
+  ExpectTable([](const TableRow& row) { return FixedText(row.Number(0), row.Int(1)); }, R"(
+14.705, 2 -> 14.70 | 14.715, 2 -> 14.72 | 0.5, 0 -> 0 | 2.5, 0 -> 2 | 0.05, 1 -> 0.0 | -0.004, 2 -> 0.00
+-1.25, 1 -> -1.2 | 1000, 3 -> 1000.000 | -0.75, 2 -> -0.75 | 1e20, 0 -> 100000000000000000000
+)");
+  EXPECT_EQ(PaddedText(5, 2) + " " + PaddedText(123, 2) + " " + PaddedText(-5, 3), "05 123 -005");
 }
 
 TEST(Numbers, KnowNoLocale) {
