@@ -1,45 +1,31 @@
-#include <gtest/gtest.h>
+#include <map>
 
 #include "model/ConversionFiles.h"
 #include "model/ConversionTables.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
 TEST(ConversionTables, LooksUpAndInterpolates) {
-  const ConversionTable one{{5, 77}}, equalEnds{{5, 77}, {9, 80}, {5, 78}},
-      down{{30, 100}, {20, 200}, {0, 1000}},
-      uneven{{0, 0}, {1, 10}, {2, 20}, {100, 30}, {1000, 40}};
-  const struct {
-    const ConversionTable& table;
-    std::int32_t value, result;
-  } cases[] = {
-      {DefaultO2Table(), 83, 14700},
-      {DefaultO2Table(), 200, 10900},
-      {DefaultO2Table(), 50, 14700},
-      {DefaultO2Table(), 85, 14300},
-      {DefaultAuxTable(), 78, 8465},
-      {DefaultAuxTable(), 4991, 19432},
-      {DefaultAuxTable(), -1, 8410},
-      {DefaultAuxTable(), 624, 8980},
-      {one, -3, 77},
-      {one, 5, 77},
-      {one, 500, 77},
-      {equalEnds, 7, 77},
-      {down, 40, 100},
-      {down, 25, 150},
-      {down, 10, 600},
-      {down, -1, 1000},
-      {uneven, 51, 25},
-      {uneven, 550, 35},
-      {uneven, 2, 20},
-      {DefaultO2Table(), INT32_MIN, 14700},
-      {DefaultO2Table(), INT32_MAX, 10900},
+  const std::map<std::string, ConversionTable> tables{
+      {"O2", DefaultO2Table()},
+      {"aux", DefaultAuxTable()},
+      {"one", {{5, 77}}},
+      {"equal ends", {{5, 77}, {9, 80}, {5, 78}}},
+      {"down", {{30, 100}, {20, 200}, {0, 1000}}},
+      {"uneven", {{0, 0}, {1, 10}, {2, 20}, {100, 30}, {1000, 40}}}};
+  const auto tell = [&](const TableRow& row) {
+    return std::to_string(TableLookup(row.Int(1), tables.at(row.Text(0)), true, false));
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(TableLookup(c.value, c.table, true, false), c.result) << c.value;
+  ExpectTable(tell, R"(
+O2, 83 -> 14700 | O2, 200 -> 10900 | O2, 50 -> 14700 | O2, 85 -> 14300 | aux, 78 -> 8465 | aux, 4991 -> 19432 | aux, -1 -> 8410
+aux, 624 -> 8980 | one, -3 -> 77 | one, 5 -> 77 | one, 500 -> 77 | equal ends, 7 -> 77 | down, 40 -> 100 | down, 25 -> 150
+down, 10 -> 600 | down, -1 -> 1000 | uneven, 51 -> 25 | uneven, 550 -> 35 | uneven, 2 -> 20 | O2, -2147483648 -> 14700
+O2, 2147483647 -> 10900
+)");
   EXPECT_EQ(TableLookup(1, {}, true, false), 0);
 }
 

@@ -1,8 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "model/Catalogue.h"
 #include "model/clsFileTypes.h"
 #include "model/clsLogFamilies.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -45,15 +44,13 @@ TEST_F(FileKindsTest, PlacesCountEnabledTypesOnly) {
 }
 
 TEST_F(FileKindsTest, AreGuessedFromTheExtension) {
-  struct Row {
-    const char* path;
-    int defaultType, guess;
+  const auto tell = [&](const TableRow& row) {
+    return std::to_string(types.GuessFileType(row.Text(0), row.Int(1)));
   };
-  const Row rows[] = {{"log.dat", 1, 6}, {"log.txt", 1, 1},   {"log.TXT", 7, 7}, {"log.txt", 2, 8},
-                      {"log.map", 1, 2}, {"log.csv", 4, 6},   {"log.dat", 4, 4}, {"log", 5, 5},
-                      {"log.xyz", 5, 5}, {"a.map/log", 5, 5}, {"log.txt", 99, 8}};
-  for (const Row& row : rows)
-    EXPECT_EQ(types.GuessFileType(row.path, row.defaultType), row.guess) << row.path;
+  ExpectTable(tell, R"(
+log.dat, 1 -> 6 | log.txt, 1 -> 1 | log.TXT, 7 -> 7 | log.txt, 2 -> 8 | log.map, 1 -> 2 | log.csv, 4 -> 6 | log.dat, 4 -> 4
+log, 5 -> 5 | log.xyz, 5 -> 5 | a.map/log, 5 -> 5 | log.txt, 99 -> 8
+)");
   types.Item(2).blnEnabled = false;
   EXPECT_EQ(types.GuessFileType("log.map", 1), 1);
 }

@@ -1,77 +1,55 @@
-#include <gtest/gtest.h>
-
-#include <limits>
+#include <map>
 
 #include "model/clsLogDataItem.h"
 #include "model/clsLogDataItems.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-clsLogDataItem Item(int type, double factor, int places, int offset, bool zero = true) {
+clsLogDataItem Item(int type, double factor, int places, int offset) {
   clsLogDataItem item;
   item.intType = type;
   item.dblFactor = factor;
   item.SetDisplayDecimalPlaces(places);
   item.lngStorageOffset = offset;
-  item.blnDisplayZero = zero;
   item.varDescList = {"Off", "On"};
   return item;
 }
 
+/// Kind, factor, decimal places, offset.
+clsLogDataItem ItemOf(const TableRow& row) {
+  const std::map<std::string, int> kinds{
+      {"plain", kPlainItem}, {"scaled", kScaledItem}, {"list", kListItem}};
+  return Item(kinds.at(row.Text(0)), row.Number(1), row.Int(2), row.Int(3));
+}
+
+/// What is stored, and whether no zeros are shown: text and value.
 TEST(clsLogDataItem, TurnsStoredIntegersIntoTextAndValue) {
-  struct Row {
-    clsLogDataItem item;
-    std::int32_t stored;
-    const char* text;
-    double value;
+  const auto tell = [](const TableRow& row) {
+    clsLogDataItem item = ItemOf(row);
+    item.blnDisplayZero = row.Count() == 5;
+    return "'" + item.GetFormattedData(row.Int(4)) + "' " + NumberText(item.GetRawData(row.Int(4)));
   };
-  constexpr auto kLeast = std::numeric_limits<std::int32_t>::min();
-  const Row rows[] = {
-      // clang-format off
-      {Item(kPlainItem, 10, 1, 0), 1234, "1234", 1234},  // the factor of a plain item does not count
-      {Item(kPlainItem, 1, 0, 1000), 995, "-5", -5},
-      {Item(kPlainItem, 1, 0, 1), kLeast, "-2147483649", -2147483649.0},
-      {Item(kPlainItem, 1, 0, 0), 0, "0", 0},
-      {Item(kPlainItem, 1, 0, 0, false), 0, "", 0},
-      {Item(kScaledItem, 1000, 2, 0), 14705, "14.70", 14.705},
-      {Item(kScaledItem, 1000, 2, 0), 14715, "14.72", 14.715},
-      {Item(kScaledItem, 10, 1, 0), 5, "0.5", .5},
-      {Item(kScaledItem, 10, 1, 0), -5, "-0.5", -.5},
-      {Item(kScaledItem, 1000, 3, 1000), 1000, "0.000", 0},
-      {Item(kScaledItem, 1000, 3, 1000, false), 1000, "", 0},
-      {Item(kScaledItem, 1000, 3, 1000, false), 0, "-1.000", -1},
-      {Item(kScaledItem, 10000, 3, 0), 5, "0.000", .0005},  // shown, since the value is not zero
-      {Item(kScaledItem, 0, 3, 0), 5, "", 0},
-      {Item(kListItem, 10, 1, 1), 1, "On", 1},
-      {Item(kListItem, 1, 0, 0, false), 0, "Off", 0},
-      {Item(kListItem, 1, 0, 0), 2, "", 2},
-      {Item(kListItem, 1, 0, 0), -1, "", -1},
-      // clang-format on
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.item.GetFormattedData(row.stored), row.text) << row.stored;
-    EXPECT_EQ(row.item.GetRawData(row.stored), row.value) << row.stored;
-  }
+  ExpectTable(tell, R"(
+plain, 10, 1, 0, 1234 -> '1234' 1234 | plain, 1, 0, 1000, 995 -> '-5' -5 | plain, 1, 0, 1, -2147483648 -> '-2147483649' -2147483649
+plain, 1, 0, 0, 0 -> '0' 0 | plain, 1, 0, 0, 0, no zeros -> '' 0 | scaled, 1000, 2, 0, 14705 -> '14.70' 14.705
+scaled, 1000, 2, 0, 14715 -> '14.72' 14.715 | scaled, 10, 1, 0, 5 -> '0.5' 0.5 | scaled, 10, 1, 0, -5 -> '-0.5' -0.5
+scaled, 1000, 3, 1000, 1000 -> '0.000' 0 | scaled, 1000, 3, 1000, 1000, no zeros -> '' 0
+scaled, 1000, 3, 1000, 0, no zeros -> '-1.000' -1 | scaled, 10000, 3, 0, 5 -> '0.000' 0.0005 | scaled, 0, 3, 0, 5 -> '' 0
+list, 10, 1, 1, 1 -> 'On' 1 | list, 1, 0, 0, 0, no zeros -> 'Off' 0 | list, 1, 0, 0, 2 -> '' 2 | list, 1, 0, 0, -1 -> '' -1
+)");
 }
 
 TEST(clsLogDataItem, StoresValuesRoundedAndNeverBelowZero) {
-  struct Row {
-    clsLogDataItem item;
-    double value;
-    std::int32_t stored;
+  // 1.015 is kept as 101.49999999999999 hundredths and reads as 101.5.
+  const auto tell = [](const TableRow& row) {
+    return std::to_string(ItemOf(row).SetRawData(row.Number(4)));
   };
-  const Row rows[] = {
-      {Item(kPlainItem, 1, 0, 0), -5, 0},
-      {Item(kPlainItem, 1, 0, 1000), -5, 995},
-      {Item(kPlainItem, 1, 0, 0), 2.5, 2},
-      {Item(kScaledItem, 1000, 2, 0), 14.7, 14700},
-      {Item(kScaledItem, 100, 2, 0), 1.015, 102},  // 101.49999999999999 reads as 101.5
-      {Item(kScaledItem, 1000, 3, 1000), -0.25, 750},
-      {Item(kListItem, 10, 1, 5), 1, 1},
-      {Item(kPlainItem, 1, 0, 0), 1e12, 0},
-  };
-  for (const Row& row : rows) EXPECT_EQ(row.item.SetRawData(row.value), row.stored) << row.value;
+  ExpectTable(tell, R"(
+plain, 1, 0, 0, -5 -> 0 | plain, 1, 0, 1000, -5 -> 995 | plain, 1, 0, 0, 2.5 -> 2 | scaled, 1000, 2, 0, 14.7 -> 14700
+scaled, 100, 2, 0, 1.015 -> 102 | scaled, 1000, 3, 1000, -0.25 -> 750 | list, 10, 1, 5, 1 -> 1 | plain, 1, 0, 0, 1e12 -> 0
+)");
 
   clsLogDataItem bounded = Item(kScaledItem, 10, 1, 0);
   EXPECT_FALSE(bounded.blnMinValueSet() || bounded.blnMaxValueSet());

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <sstream>
 
+#include "support/Table.h"
 #include "ui/Form.h"
 #include "ui/Grid.h"
 #include "ui/RecordingHost.h"
@@ -57,53 +56,23 @@ class GridTest : public testing::Test {
 
 TEST_F(GridTest, KeysMoveMarkAndEdit) {
   grid.SetFocus();
-  const struct {
-    const char* key;
-    const char* state;
-  } kKeys[] = {
-      {"Right", "selected @1,2 1,2:1,2"},
-      {"Down", "selected @2,2 2,2:2,2"},
-      {"Ctrl+Right", "selected @2,3 2,3:2,3"},
-      {"Right", "@2,3 2,3:2,3"},
-      {"Shift+Left", "selected @2,3 2,2:2,3"},
-      {"Shift+Up", "selected @2,3 1,2:2,3"},
-      {"Shift+Ctrl+Home", "selected @2,3 1,1:2,3"},
-      {"Home", "selected @2,1 2,1:2,1"},
-      {"End", "selected @2,3 2,3:2,3"},
-      {"PageUp", "selected @1,3 1,3:1,3"},
-      {"Ctrl+Down", "selected @3,3 3,3:3,3"},
-      {"F2", "@3,3 3,3:3,3"},  // blacked out
-      {"5", "@3,3 3,3:3,3"},
-      {"Ctrl+Left", "selected @3,1 3,1:3,1"},
-      {"Ctrl+Up", "selected @1,1 1,1:1,1"},
-      {"PageDown", "selected @3,1 3,1:3,1"},
-      {"Up", "selected @2,1 2,1:2,1"},
-      {"Shift+Right", "selected @2,1 2,1:2,2"},
-      {"Enter", "selected @2,1 2,1:2,1 [21]"},  // one cell is edited
-      {"Up", "@2,1 2,1:2,1 [22]"},
-      {"Escape", "@2,1 2,1:2,1"},
-      {"F2", "@2,1 2,1:2,1 [21]"},
-      {"Down", "@2,1 2,1:2,1 [20]"},
-      {"Backspace", "@2,1 2,1:2,1 [2]"},
-      {"7", "@2,1 2,1:2,1 [27]"},
-      {"Enter", "edited 2,1 '27' @2,1 2,1:2,1"},
-      {"Delete", "@2,1 2,1:2,1 []"},
-      {"Backspace", "@2,1 2,1:2,1 []"},
-      {"Enter", "edited 2,1 '' @2,1 2,1:2,1"},
-      {"Minus", "@2,1 2,1:2,1 [-]"},
-      {"Shift+A", "@2,1 2,1:2,1 [-A]"},
-      {"B", "@2,1 2,1:2,1 [-Ab]"},
-      {"Ctrl+C", "@2,1 2,1:2,1 [-Ab]"},
-      {"Ctrl+Home", "@2,1 2,1:2,1 [-Ab]"},  // the field's own
-      {"Escape", "@2,1 2,1:2,1"},
-      {"Ctrl+A", "selected @1,1 1,1:3,3"},
-      {"Ctrl+End", "selected @3,3 3,3:3,3"},
-      {"Ctrl+Home", "selected @1,1 1,1:1,1"},
+  const auto tell = [&](const TableRow& row) {
+    form.Press(*ParseKeys(row.Text(0)));
+    return State();
   };
-  for (const auto& row : kKeys) {
-    form.Press(*ParseKeys(row.key));
-    EXPECT_EQ(State(), row.state) << row.key;
-  }
+  // The cell at 3,3 is blacked out; of several cells one is edited; Ctrl+Home is the field's own.
+  ExpectTable(tell, R"(
+Right -> selected @1,2 1,2:1,2 | Down -> selected @2,2 2,2:2,2 | Ctrl+Right -> selected @2,3 2,3:2,3 | Right -> @2,3 2,3:2,3
+Shift+Left -> selected @2,3 2,2:2,3 | Shift+Up -> selected @2,3 1,2:2,3 | Shift+Ctrl+Home -> selected @2,3 1,1:2,3
+Home -> selected @2,1 2,1:2,1 | End -> selected @2,3 2,3:2,3 | PageUp -> selected @1,3 1,3:1,3 | Ctrl+Down -> selected @3,3 3,3:3,3
+F2 -> @3,3 3,3:3,3 | 5 -> @3,3 3,3:3,3 | Ctrl+Left -> selected @3,1 3,1:3,1 | Ctrl+Up -> selected @1,1 1,1:1,1
+PageDown -> selected @3,1 3,1:3,1 | Up -> selected @2,1 2,1:2,1 | Shift+Right -> selected @2,1 2,1:2,2
+Enter -> selected @2,1 2,1:2,1 [21] | Up -> @2,1 2,1:2,1 [22] | Escape -> @2,1 2,1:2,1 | F2 -> @2,1 2,1:2,1 [21]
+Down -> @2,1 2,1:2,1 [20] | Backspace -> @2,1 2,1:2,1 [2] | 7 -> @2,1 2,1:2,1 [27] | Enter -> edited 2,1 '27' @2,1 2,1:2,1
+Delete -> @2,1 2,1:2,1 [] | Backspace -> @2,1 2,1:2,1 [] | Enter -> edited 2,1 '' @2,1 2,1:2,1 | Minus -> @2,1 2,1:2,1 [-]
+Shift+A -> @2,1 2,1:2,1 [-A] | B -> @2,1 2,1:2,1 [-Ab] | Ctrl+C -> @2,1 2,1:2,1 [-Ab] | Ctrl+Home -> @2,1 2,1:2,1 [-Ab]
+Escape -> @2,1 2,1:2,1 | Ctrl+A -> selected @1,1 1,1:3,3 | Ctrl+End -> selected @3,3 3,3:3,3 | Ctrl+Home -> selected @1,1 1,1:1,1
+)");
 }
 
 TEST_F(GridTest, HandsClickDragAndLeave) {
@@ -154,18 +123,16 @@ TEST_F(GridTest, ScriptsSelectEditAndAreRefused) {
 TEST_F(GridTest, ArrowsOfTheFieldStayWithinTheRange) {
   grid.Min = -5;
   grid.Max = 30;
-  const struct {
-    const char* typed;
-    int by;
-    const char* result;
-  } kSteps[] = {{"12", 1, "13"},  {"30", 1, "30"},  {"-5", -1, "-5"},
-                {"99", -1, "29"}, {"-99", 1, "-4"}, {"x", -1, "-1"}};
-  for (const auto& row : kSteps) {
-    grid.BeginEdit(row.typed);
-    grid.StepEdit(row.by);
-    EXPECT_EQ(grid.EditText(), row.result) << row.typed;
+  const auto tell = [&](const TableRow& row) {
+    grid.BeginEdit(row.Text(0));
+    grid.StepEdit(row.Int(1));
+    const std::string text = grid.EditText();
     grid.DiscardEdit();
-  }
+    return text;
+  };
+  ExpectTable(tell, R"(
+12, 1 -> 13 | 30, 1 -> 30 | -5, -1 -> -5 | 99, -1 -> 29 | -99, 1 -> -4 | x, -1 -> -1
+)");
   grid.StepEdit(1);
   EXPECT_FALSE(grid.IsEditing());
 }

@@ -1,9 +1,8 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <sstream>
 
 #include "base/Numbers.h"
+#include "support/Table.h"
 #include "ui/SurfaceScene.h"
 
 namespace tarnview {
@@ -35,59 +34,41 @@ std::string Texts(const SurfaceScene& scene) {
 }
 
 TEST(SurfaceEye, LooksFromTheFrontOverTheTopAndFromBehindAndNeverFromBelow) {
-  const struct {
-    int rotation, elevation;
-    const char*
-        seen;  ///< where the front, the right side and the top are on the screen (right, up)
-  } kViews[] = {
-      {0, 0, "front 0,0 right 1,0 top 0,1"},
-      {0, 90, "front 0,-1 right 1,0 top 0,0"},
-      {90, 90, "front 1,0 right 0,1 top 0,0"},
-      {0, 180, "front 0,0 right -1,0 top 0,1"},
-      {0, 150, "front 0,0.5 right -1,0 top 0,0.87"},
-      {0, 210, "front 0,0.5 right -1,0 top 0,0.87"},
-      {0, 300, "front 0,-0.87 right 1,0 top 0,0.5"},
-      {0, 359, "front 0,-0.02 right 1,0 top 0,1"},
-      {360, 450, "front 0,-1 right 1,0 top 0,0"},
-      {-90, 90, "front -1,0 right 0,-1 top 0,0"},
-      {20, 240, "front -0.34,0.81 right -0.94,-0.3 top 0,0.5"},
-  };
-  for (const auto& view : kViews) {
-    const SurfaceEye eye({view.rotation, view.elevation, 1});
+  // Where the front, the right side and the top are on the screen (right, up).
+  const auto tell = [](const TableRow& row) {
+    const SurfaceEye eye({row.Int(0), row.Int(1), 1});
     std::ostringstream seen;
-    const auto tell = [&](const char* name, double x, double y, double z) {
+    const auto place = [&](const char* name, double x, double y, double z) {
       const auto two = [](double value) { return std::round(value * 100) / 100 + 0.0; };
       seen << name << two(eye.Right(x, y)) << "," << two(eye.Up(x, y, z));
     };
-    tell("front ", 0, -1, 0);
-    tell(" right ", 1, 0, 0);
-    tell(" top ", 0, 0, 1);
-    EXPECT_EQ(seen.str(), view.seen) << view.rotation << " " << view.elevation;
-  }
+    place("front ", 0, -1, 0);
+    place(" right ", 1, 0, 0);
+    place(" top ", 0, 0, 1);
+    return seen.str();
+  };
+  ExpectTable(tell, R"(
+0, 0 -> front 0,0 right 1,0 top 0,1 | 0, 90 -> front 0,-1 right 1,0 top 0,0 | 90, 90 -> front 1,0 right 0,1 top 0,0
+0, 180 -> front 0,0 right -1,0 top 0,1 | 0, 150 -> front 0,0.5 right -1,0 top 0,0.87 | 0, 210 -> front 0,0.5 right -1,0 top 0,0.87
+0, 300 -> front 0,-0.87 right 1,0 top 0,0.5 | 0, 359 -> front 0,-0.02 right 1,0 top 0,1 | 360, 450 -> front 0,-1 right 1,0 top 0,0
+-90, 90 -> front -1,0 right 0,-1 top 0,0 | 20, 240 -> front -0.34,0.81 right -0.94,-0.3 top 0,0.5
+)");
 }
 
 TEST(SurfaceEye, AHandTurnsItAndStopsAtTheFloorAndTheTop) {
-  const struct {
-    SurfaceView from;
-    double right, up;
-    SurfaceView to;
-  } kTurns[] = {
-      // clang-format off
-      {{20, 30, 1}, 15, 0, {35, 30, 1}},  {{350, 30, 1}, 15, 0, {5, 30, 1}},     {{5, 30, 1}, -15, 0, {350, 30, 1}},
-      {{0, 30, 1}, 0, -10, {0, 40, 1}},   {{0, 30, 1}, 0, 10, {0, 20, 1}},       {{0, 30, 1}, 0, 99, {0, 0, 1}},
-      {{0, 30, 1}, 0, -99, {0, 90, 1}},   {{0, 130, 1}, 0, -10, {0, 120, 1}},    {{0, 130, 1}, 0, 99, {0, 180, 1}},
-      {{0, 130, 1}, 0, -99, {0, 91, 1}},  {{0, 240, 1}, 0, -10, {0, 250, 1}},    {{0, 240, 1}, 0, 99, {0, 180, 1}},
-      {{0, 240, 1}, 0, -99, {0, 269, 1}}, {{0, 300, 1}, 0, -10, {0, 290, 1}},    {{0, 300, 1}, 0, 99, {0, 0, 1}},
-      {{0, 300, 2}, 0, -99, {0, 270, 2}}, {{0, 30, 1}, 1e300, 1e300, {0, 0, 1}},
-      // clang-format on
+  const auto tell = [](const TableRow& row) {
+    const SurfaceView to = Turned({row.Int(0), row.Int(1), 2}, row.Number(2), row.Number(3));
+    return std::to_string(to.rotation) + " " + std::to_string(to.elevation) +
+           (to.zoom == 2 ? "" : " zoom");
   };
-  for (const auto& turn : kTurns) {
-    SurfaceView to = Turned(turn.from, turn.right, turn.up);
-    if (turn.right > 1e9) to.rotation = 0;
-    EXPECT_EQ(to, turn.to) << turn.from.rotation << "," << turn.from.elevation << " by "
-                           << turn.right << "," << turn.up << " gave " << to.rotation << ","
-                           << to.elevation;
-  }
+  // Rotation, elevation, how far to the right and up.
+  ExpectTable(tell, R"(
+20, 30, 15, 0 -> 35 30 | 350, 30, 15, 0 -> 5 30 | 5, 30, -15, 0 -> 350 30 | 0, 30, 0, -10 -> 0 40 | 0, 30, 0, 10 -> 0 20
+0, 30, 0, 99 -> 0 0 | 0, 30, 0, -99 -> 0 90 | 0, 130, 0, -10 -> 0 120 | 0, 130, 0, 99 -> 0 180 | 0, 130, 0, -99 -> 0 91
+0, 240, 0, -10 -> 0 250 | 0, 240, 0, 99 -> 0 180 | 0, 240, 0, -99 -> 0 269 | 0, 300, 0, -10 -> 0 290 | 0, 300, 0, 99 -> 0 0
+0, 300, 0, -99 -> 0 270
+)");
+  EXPECT_EQ(Turned({0, 30, 1}, 1e300, 1e300).elevation, 0);
   EXPECT_DOUBLE_EQ(Zoomed({0, 0, 1}, 1).zoom, 1.15);
   EXPECT_EQ(Zoomed({0, 0, 3.9}, 5).zoom, 4);
   EXPECT_EQ(Zoomed({0, 0, 0.6}, -5).zoom, 0.5);
