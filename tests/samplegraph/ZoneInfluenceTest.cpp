@@ -1,11 +1,7 @@
+#include "WholeGraph.h"
 #include "base/Numbers.h"
-#include "model/Catalogue.h"
-#include "model/Column.h"
 #include "samplegraph/ZoneInfluence.h"
 #include "samplegraph/ZoneInfluencePanel.h"
-#include "support/Table.h"
-#include "ui/Form.h"
-#include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
@@ -25,41 +21,28 @@ TEST(ZoneInfluenceTest, NamesTheFourZonesAndPlacesTheSample) {
 )");
 }
 
-TEST(ZoneInfluencePanel, ShowsTheHighlightedSampleWhileItIsWanted) {
-  struct Window : Form {
-    explicit Window(Host& itsHost) : Form(itsHost, "frmTry", "") {}
-    Frame frame{*this, "fra", ""};
-    ControlArray<Label> labels{*this, "lbl", UpTo(4), ""};
-    Picture picture{*this, "pic", 1500, 900};
-    MenuItem item{*this, "mnu", ""};
-    CommandButton draw{*this, "cmd", ""};
-  };
-  RecordingHost host;
-  Window window(host);
-  const Catalogue catalogue = BuildDataItemCatalogue();
-  OpenLog log;
-  log.Clear(catalogue.gcolFixedDataItems, 2);
-  for (int n = 1; n <= 2; ++n) {
-    log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), n);
-    log.glngDataLog.Set(kRPM, n - 1, 1000 * n);
-    log.glngDataLog.Set(kMAP, n - 1, 400);
+using ZoneInfluencePanelTest = WholeGraph;
+
+TEST_F(ZoneInfluencePanelTest, ShowsTheHighlightedSampleWhileItIsWanted) {
+  Frame frame{window, "fra", ""};
+  ControlArray<Label> labels{window, "lbl", UpTo(4), ""};
+  Picture picture{window, "pic", 1500, 900};
+  MenuItem item{window, "mnu", ""};
+  CommandButton draw{window, "cmd", ""};
+  OpenLog(2);
+  for (const int row : {0, 1}) {
+    log.glngDataLog.Set(kRPM, row, 1000 * (row + 1));
+    log.glngDataLog.Set(kMAP, row, 400);
   }
-  log.glngLastSample = 1;
-  log.glngFirstSampleTime = 1;
-  log.glngLastSampleTime = 2;
-  log.gblnSamplesLoaded = log.gblnZonesLoaded = true;
-  Selection selection;
-  ZoneInfluencePanel panel({window.frame, window.labels, window.picture, window.item, window.draw},
-                           selection, log);
+  ZoneInfluencePanel panel({frame, labels, picture, item, draw}, selection, log);
   const auto told = [&](const TableRow& row) {
     panel.gblnDisplayZoneInfluence = row.Text(0) == "on";
     selection.Highlight(row.Int(1));
     panel.DisplayZoneInfluence();
     panel.RefreshZoneInfluence();
     std::string all;
-    for (const auto& label : window.labels) all += label->Caption() + " ";
-    return all + (window.frame.Visible() ? "seen" : "hidden") +
-           (window.item.Checked() ? " ticked" : "");
+    for (const auto& label : labels) all += label->Caption() + " ";
+    return all + (frame.Visible() ? "seen" : "hidden") + (item.Checked() ? " ticked" : "");
   };
   ExpectTable(told, R"(
 on, 1 -> 105 110 205 210 seen ticked | on, 2 -> 115 120 215 220 seen ticked | on, 0 -> 115 120 215 220 seen ticked
