@@ -142,7 +142,7 @@ step updElevation(1) down -> txt3DSpec(3)=129
 type txtFactor 0 -> item=Sample 1 1 10000 0.01, txtFactor=0.01
 type txtFactor 101 -> item=Sample 1 1 10000 100, txtFactor=100
 # Enter presses OK with the caret still in the field.
-write txtComPort 33; click cmdOK -> -frmOptions, item=
+write txtComPort 33; key Enter -> -frmOptions, item=
 )");
   EXPECT_EQ(window->Draft().settings.gstrSerialComPort, "1");
 }

@@ -24,6 +24,10 @@ TEST_F(ScrollingTest, MovesTheRangeOnEitherBar) {
     EXPECT_EQ(Range(), std::to_string(samples - 4) + "-" + std::to_string(samples));
     EXPECT_FALSE(scrolling.CanGoRight());
   }
+  OpenLog(2001);
+  Draw("3", "12");
+  Do("finish");
+  EXPECT_EQ(Range(), "1993-2001") << "half an odd width goes to the even row";
 }
 
 /// A thumb may be let go where the bar does not reach any more: a zoom came in between.
