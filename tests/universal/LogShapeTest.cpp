@@ -137,6 +137,7 @@ Knock Count, 0, 3 -> 30 Knock C | Feedback Knock (deg), -2.8, 0 -> 62 KNR [deg] 
 Ignition Timing (KW), 5, 30 -> 21 IAdv [deg] | Power (KW), 5, 30 -> 101 Power [KW]
 Coolant (*C), 80, 90 -> 23 C Temp [C] | AFR, 0.8, 1.1 -> 36 A/F [AFR] x14.7+0
 Lambda, 11.5, 14.7 -> 36 A/F [AFR] | CLT, 170, 190 -> 23 C Temp [C] x0.5556+-17.78
+CLT, 100, 130 -> 23 C Temp [C] | CLT, 100, 131 -> 23 C Temp [C] x0.5556+-17.78 | MAP, 40, 500 -> 5 MAP [kPa] | MAP, 40, 501 -> 5 MAP [kPa] x0.1+0 | MAP, 4, 5 -> 5 MAP [kPa] | MAP, 4, 4.9 -> 5 MAP [kPa] x100+0 | Boost (psi), 2, 75 -> 37 Boost [psi] | Boost, 2, 75 -> 37 Boost [psi] | Boost, 2, 76 -> 37 Boost [psi] x0.145+0
 Throttle Position (V), 1, 4 -> 101 Throttle Position [V] | Target Engine Speed (rpm), 1, 4 -> 101 Target Engine Speed [rpm]
 )");
 }

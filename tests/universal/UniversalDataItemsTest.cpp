@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "DefinitionText.h"
 #include "model/Catalogue.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/DefinitionReader.h"
+#include "universal/DefinitionWriter.h"
 #include "universal/UniversalDataItems.h"
 
 namespace tarnview {
@@ -63,14 +66,13 @@ TEST(UniversalDataItems, ItemsOfTheDefinitionAndOfEveryLogBelongToTheFamily) {
   EXPECT_EQ(family, "1 3 5 24 45 46 63 ");
 }
 
-TEST(UniversalDataItems, OfTheBuiltInDefinition) {
-  const clsLogDataItems items =
-      GenerateLogDataItemsGeneric(DefaultDataLogDefinition(), Built().gcolFixedDataItems);
-  EXPECT_EQ(items.Item(62).strLongName, "Knock Retard (deg.)");
-  EXPECT_EQ(items.Item(62).lngColour, 8404992);
-  EXPECT_EQ(items.Item(63).dblFactor, 1000);
-  EXPECT_EQ(items.Item(5).dblMinValue(), 99);
-  EXPECT_EQ(items.Item(5).dblMaxValue(), 100);
+/// The definition that serves where no other is chosen, as its file.
+TEST(DefaultDataLogDefinition, HoldsWhatItsFileSays) {
+  std::ifstream file(TARNVIEW_TESTS "/universal/built_in.txt", std::ios::binary);
+  const std::string wanted(std::istreambuf_iterator<char>(file), {});
+  std::string printed = DefinitionFileText(DefaultDataLogDefinition());
+  std::erase(printed, '\r');
+  EXPECT_EQ(printed, wanted);
 }
 
 }  // namespace
