@@ -57,7 +57,7 @@ TEST_F(LogDescription, FollowsEachChoice) {
   const auto shown = [this](const TableRow& row) {
     frmLogDescription window = Open(kLog);
     window.Show();
-    if (row.All() != "nothing") Act(window, Join(SplitAt(row.All(), "; "), "\n"));
+    if (row.All() != "nothing") Act(window, row.Lines());
     return Shown(window);
   };
   ExpectTable(shown, R"(

@@ -25,7 +25,7 @@ std::string Read(const std::string& lines) {
 }
 
 TEST(CarDefSettings, AreReadWhileTheyHaveUnitsAndHeldToTheirLimits) {
-  const auto told = [](const TableRow& row) { return Read(Join(SplitAt(row.All(), "; "), "\n")); };
+  const auto told = [](const TableRow& row) { return Read(row.Lines()); };
   ExpectTable(told, R"(
 Units Car Def 1=M; Name Car Def 1=One; Drag Coefficient Car Def 1=7; Frontal Area Car Def 1=0; Default Gear Car Def 1=6; Tyre Size Method Car Def 1=9; Use Drag Coefficient Car Def 1=Y -> 1 Name=One, Units=M, Tyre Size Method=3, Use Drag Coefficient=Y, Drag Coefficient=0.99, Frontal Area=0.01, Default Gear=6,
 Units Car Def 1=m; Default Gear Car Def 1=0; Tyre Size Method Car Def 1=2; Units Car Def 2=I; Units Car Def 4=M -> 1 Tyre Size Method=2, Default Gear=1,; 2

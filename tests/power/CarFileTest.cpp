@@ -46,7 +46,7 @@ TEST(CarFile, WhatAFileDoesNotNameStays) {
 TEST(CarFile, EachKeyByItself) {
   const auto told = [](const TableRow& row) {
     CarFields f = FieldsOf({});
-    ReadCarFile(kStart + Join(SplitAt(row.All(), "; "), "\n"), f);
+    ReadCarFile(kStart + row.Lines(), f);
     return Join({f.imperial ? "imperial" : "metric", std::to_string(f.tyreSizeMethod),
                  f.useCd ? "drag" : "set point", f.ratios[1], f.diffRatio, f.carWeight,
                  std::to_string(f.gear), f.name},

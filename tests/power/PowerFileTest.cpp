@@ -34,8 +34,6 @@ std::string Rows(const PowerFile& f) {
 
 /// What is written of it, on one line.
 std::string Told(const PowerFile& f) { return Join(SplitAt(PowerFileText(f, {}), "\r\n"), "; "); }
-/// The lines of a file, which stand apart by "; " in a table.
-std::string Lines(const TableRow& row) { return Join(SplitAt(row.All(), "; "), "\n"); }
 
 TEST(PowerFile, IsWrittenAsItWasRead) {
   const PowerFile f = ReadPowerFile(File());
@@ -44,7 +42,7 @@ TEST(PowerFile, IsWrittenAsItWasRead) {
 }
 
 TEST(PowerFile, TheKeysOfTheEarlierGenerationAreSynonyms) {
-  const auto told = [](const TableRow& row) { return Told(ReadPowerFile(Lines(row))); };
+  const auto told = [](const TableRow& row) { return Told(ReadPowerFile(row.Lines())); };
   ExpectTable(told, R"(
 # It has neither log details nor speeds.
 Calculation Parameters:; Gear Ratio 1=3.1; Gear Ratio 2=2; Gear Ratio 3=1.5; Gear Ratio 4=1.1; Gear Ratio 5=0.9; Gear Ratio 6=0.8; Final Drive=4.3; Gear Loss 1=9; Gear Loss 2=8; Gear Loss 3=7; Gear Loss 4=6; Gear Loss 5=5; Gear Loss 6=4; Drive Wheel Radius=11.5 in; Known Set Point Power=75 kW; Known Set Point Speed=180 kmh; Gear=4th; Car Weight=1200 kg; Graph Smoothing Factor=6; Dyno Correction Factor=2; Power Units=kW; SAE Correction=On; Air Temperature=20; Graph Data (RPM, Power, Torque):; 3000,050.0,100.0 -> Tarnview Power Graph File; File Created: 01-Jan-2000 00:00; ; Data Log Details:; ; File=; Plot Range From=; Plot Range To=; Comments=; ; Calculation Parameters:; ; 1st Gear Ratio=3.1; 2nd Gear Ratio=2; 3rd Gear Ratio=1.5; 4th Gear Ratio=1.1; 5th Gear Ratio=0.9; 6th Gear Ratio=0.8; Diff Ratio=4.3; 1st Gear Relative Loss=9; 2nd Gear Relative Loss=8; 3rd Gear Relative Loss=7; 4th Gear Relative Loss=6; 5th Gear Relative Loss=5; 6th Gear Relative Loss=4; Drive Wheel Dimensions=11.5 in drive wheel radius; Set Point Power=75 kW; Set Point Speed=180 kmh; Gear=4th; Car Weight=1200 kg; Smoothing Factor=6; Dyno Factor=2; Calculation Units=Metric; Air Temperature=20; Atmospheric Pressure=N/A; Relative Humidity=N/A; ; Graph Power & Torque Data (RPM, Power, Torque):; ; 3000,050.0,100.0; ; Graph Speed Data (Time, Speed):; ; 
@@ -53,7 +51,7 @@ Calculation Parameters:; Gear Ratio 1=3.1; Gear Ratio 2=2; Gear Ratio 3=1.5; Gea
 
 TEST(PowerFile, EachAttributeByItself) {
   const auto told = [](const TableRow& row) {
-    const PowerFile f = ReadPowerFile("Calculation Parameters:\n" + Lines(row));
+    const PowerFile f = ReadPowerFile("Calculation Parameters:\n" + row.Lines());
     return "units " + f.units + ", gear " + f.gear + ", file " + f.file +
            (f.usesDrag ? ", drag" : "") + ", humidity " + f.humidity + (f.wetBulb ? " wet" : "") +
            ", correction " + f.correctionSummary;
@@ -77,7 +75,7 @@ Gear= 1st=2  -> units , gear  1st=2 , file , humidity N/A, correction N/A
 TEST(PowerFile, FieldsStandAtFixedPlaces) {
   const auto told = [](const TableRow& row) {
     return Rows(
-        ReadPowerFile("Calculation Parameters:\nGraph Data (RPM, Power, Torque):\n" + Lines(row)));
+        ReadPowerFile("Calculation Parameters:\nGraph Data (RPM, Power, Torque):\n" + row.Lines()));
   };
   ExpectTable(told, R"(
 6000,100.0,200.0 -> 6000,100,200 / 
@@ -92,7 +90,7 @@ Graph Speed Data (Time, Speed):  -> 0,0,0 /
 
 TEST(PowerFile, ATextWithoutItsHeadingsIsAnEmptyGraph) {
   const auto told = [](const TableRow& row) {
-    const PowerFile f = ReadPowerFile(Lines(row));
+    const PowerFile f = ReadPowerFile(row.Lines());
     return "file " + f.file + ", gear " + f.gear + ", " + Rows(f);
   };
   ExpectTable(told, R"(

@@ -28,7 +28,7 @@ TEST(SampleGraphPresetFile, IsWrittenLineByLineAndReadBack) {
 TEST(SampleGraphPresetFile, ReadsWhatItFinds) {
   const std::string heading = "anything\r\nPreset Sample Graph Details:\r\n";
   const auto read = [&](const TableRow& row) {
-    std::string lines = Join(SplitAt(row.All(), "; "), "\n");
+    std::string lines = row.Lines();
     std::replace(lines.begin(), lines.end(), '@', '\0');
     const std::string text =
         Flat(SampleGraphPresetFileText(*ReadSampleGraphPresetFile(heading + lines), true, {}));

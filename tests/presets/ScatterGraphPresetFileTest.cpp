@@ -48,7 +48,7 @@ TEST_F(ScatterPresetFile, IsWrittenLineByLineAndReadBack) {
 
 TEST_F(ScatterPresetFile, HoldsNumbersToTheirLimits) {
   const auto held = [this](const TableRow& row) {
-    const auto read = Read(Join(SplitAt(row.All(), "; "), "\n"));
+    const auto read = Read(row.Lines());
     std::string told;
     for (const long one :
          std::vector<long>{read.lngPointSize, read.lngPointShape, read.lngPointColour,
@@ -66,7 +66,7 @@ Graph 1 Point Size=99; Graph 1 Point Shape=12; Graph 1 Point Colour=99999999 -> 
 TEST_F(ScatterPresetFile, GroupsTheLinesOfAFilterByItsNumber) {
   const auto filters = [this](const TableRow& row) {
     std::vector<std::string> told;
-    for (const auto& filter : Read(Join(SplitAt(row.All(), "; "), "\n")).objFilters)
+    for (const auto& filter : Read(row.Lines()).objFilters)
       told.push_back(FilterPrintString(filter, catalogue.gcolFixedDataItems));
     return Join(told, "; ");
   };
