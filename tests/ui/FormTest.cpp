@@ -186,7 +186,7 @@ TEST_F(FormTest, OpensOnceAndClosesWhenItAgrees) {
 TEST_F(FormTest, FindsControlsByNameAndIndex) {
   EXPECT_EQ(form.Find("txtName"), &form.txtName);
   EXPECT_EQ(form.Find("mnuRecent", 2), &form.mnuRecent(2));
-  EXPECT_EQ(form.mnuRecent(2).FullName(), "mnuRecent(2)");
+  EXPECT_EQ(form.mnuRecent(0).FullName(), "mnuRecent(0)");
   EXPECT_EQ(form.Find("mnuRecent", 1), nullptr);
   EXPECT_EQ(form.Find("mnuRecent"), nullptr);
   EXPECT_EQ(form.Find("txtname"), nullptr);

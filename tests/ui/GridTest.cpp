@@ -57,20 +57,20 @@ class GridTest : public testing::Test {
 TEST_F(GridTest, KeysMoveMarkAndEdit) {
   grid.SetFocus();
   const auto tell = [&](const TableRow& row) {
-    form.Press(*ParseKeys(row.Text(0)));
-    return State();
+    const bool taken = form.Press(*ParseKeys(row.Text(0)));
+    return (taken ? "" : "not taken ") + State();
   };
   // The cell at 3,3 is blacked out; of several cells one is edited; Ctrl+Home is the field's own.
   ExpectTable(tell, R"(
 Right -> selected @1,2 1,2:1,2 | Down -> selected @2,2 2,2:2,2 | Ctrl+Right -> selected @2,3 2,3:2,3 | Right -> @2,3 2,3:2,3
 Shift+Left -> selected @2,3 2,2:2,3 | Shift+Up -> selected @2,3 1,2:2,3 | Shift+Ctrl+Home -> selected @2,3 1,1:2,3
 Home -> selected @2,1 2,1:2,1 | End -> selected @2,3 2,3:2,3 | PageUp -> selected @1,3 1,3:1,3 | Ctrl+Down -> selected @3,3 3,3:3,3
-F2 -> @3,3 3,3:3,3 | 5 -> @3,3 3,3:3,3 | Ctrl+Left -> selected @3,1 3,1:3,1 | Ctrl+Up -> selected @1,1 1,1:1,1
+F2 -> not taken @3,3 3,3:3,3 | 5 -> not taken @3,3 3,3:3,3 | Ctrl+Left -> selected @3,1 3,1:3,1 | Ctrl+Up -> selected @1,1 1,1:1,1
 PageDown -> selected @3,1 3,1:3,1 | Up -> selected @2,1 2,1:2,1 | Shift+Right -> selected @2,1 2,1:2,2
 Enter -> selected @2,1 2,1:2,1 [21] | Up -> @2,1 2,1:2,1 [22] | Escape -> @2,1 2,1:2,1 | F2 -> @2,1 2,1:2,1 [21]
 Down -> @2,1 2,1:2,1 [20] | Backspace -> @2,1 2,1:2,1 [2] | 7 -> @2,1 2,1:2,1 [27] | Enter -> edited 2,1 '27' @2,1 2,1:2,1
 Delete -> @2,1 2,1:2,1 [] | Backspace -> @2,1 2,1:2,1 [] | Enter -> edited 2,1 '' @2,1 2,1:2,1 | Minus -> @2,1 2,1:2,1 [-]
-Shift+A -> @2,1 2,1:2,1 [-A] | B -> @2,1 2,1:2,1 [-Ab] | Ctrl+C -> @2,1 2,1:2,1 [-Ab] | Ctrl+Home -> @2,1 2,1:2,1 [-Ab]
+Shift+A -> @2,1 2,1:2,1 [-A] | B -> @2,1 2,1:2,1 [-Ab] | Ctrl+C -> not taken @2,1 2,1:2,1 [-Ab] | Ctrl+Home -> not taken @2,1 2,1:2,1 [-Ab]
 Escape -> @2,1 2,1:2,1 | Ctrl+A -> selected @1,1 1,1:3,3 | Ctrl+End -> selected @3,3 3,3:3,3 | Ctrl+Home -> selected @1,1 1,1:1,1
 )");
 }
@@ -146,7 +146,8 @@ TEST_F(GridTest, ToldTextIsTakenWhereNobodyHears) {
   EXPECT_FALSE(plain.IsEditing());
   plain.Do({"cell", {"1", "2", "y"}});
   EXPECT_EQ(plain.Text(1, 2), "y");
-  EXPECT_THROW(plain.Text(3, 0), std::out_of_range);
+  for (const auto& [row, column] : {std::pair(3, 0), {0, 3}, {-1, 0}, {0, -1}})
+    EXPECT_THROW(plain.Text(row, column), std::out_of_range);
   plain.SetSize(1, 5);
   EXPECT_EQ(plain.Current(), (GridPlace{0, 0}));
   EXPECT_FALSE(plain.BeginEdit(""));

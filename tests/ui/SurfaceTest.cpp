@@ -196,12 +196,38 @@ TEST(SurfaceScene, LinesRunFromCellToCellAndTheLightComesFromTheLeft) {
   }
 }
 
-TEST(SurfaceScene, EachFaceHasItsLight) {
-  std::string told;
+TEST(SurfaceScene, EachLineAndFaceHasItsPlaceAndItsLight) {
+  std::string told = "\n";
   Surface map = SmallMap(30, 40);
   map.values = {0, 50, 10, 40, 5, 30};
-  for (const SceneFace& face : MakeScene(map, Room()).faces) told += FixedText(face.light, 2) + " ";
-  EXPECT_EQ(told, "0.77 0.80 0.88 0.91 1.00 0.99 0.95 0.95 1.00 1.00 1.00 1.00 0.80 0.80 ");
+  const SurfaceScene scene = MakeScene(map, Room());
+  for (const SceneLine& line : scene.walls)
+    told += (line.edge ? "edge " : "line ") + FixedText(line.from.x, 0) + "," +
+            FixedText(line.from.y, 0) + " " + FixedText(line.to.x, 0) + "," +
+            FixedText(line.to.y, 0) + (&line == &scene.walls.back() ? "\n" : " | ");
+  for (const SceneFace& face : scene.faces) {
+    told += FixedText(face.light, 2) + " at";
+    for (const ScenePoint& corner : face.corners)
+      told += " " + FixedText(corner.x, 0) + "," + FixedText(corner.y, 0);
+    told += "\n";
+  }
+  ExpectTold(told, R"(
+line 210,358 107,244 | line 107,244 107,163 | line 351,306 249,192 | line 249,192 249,110 | line 493,253 390,139 | line 390,139 390,58 | line 107,244 390,139 | line 390,139 390,58 | line 210,358 493,253 | line 493,253 493,172 | line 107,204 390,99 | line 493,212 390,99 | line 107,163 390,58 | line 493,172 390,58 | edge 210,358 493,253 | edge 210,358 107,244 | edge 107,244 107,163 | edge 493,253 493,172 | edge 390,139 390,58
+0.77 at 320,117 390,123 441,164 371,184
+0.80 at 249,110 320,117 371,184 300,204
+0.88 at 371,184 441,164 493,204 422,251
+0.91 at 300,204 371,184 422,251 351,297
+1.00 at 178,177 249,110 300,204 229,236
+0.99 at 107,244 178,177 229,236 159,269
+0.95 at 229,236 300,204 351,297 280,295
+0.95 at 159,269 229,236 280,295 210,293
+1.00 at 210,293 280,295 280,332 210,358
+1.00 at 280,295 351,297 351,306 280,332
+1.00 at 351,297 422,251 422,279 351,306
+1.00 at 422,251 493,204 493,253 422,279
+0.80 at 107,244 159,269 159,301 107,244
+0.80 at 159,269 210,293 210,358 159,301
+)");
 }
 
 TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
