@@ -236,29 +236,25 @@ click cmdReset -> item=RPM 1 3 4227072 0.01, lvwDataItems[44] checked, picDataCo
 }
 
 TEST_F(Options, CheckAndUncheckTheItemsOfAFamily) {
-  frmOptions& options = Open();
-  const clsLogDataItems& items = options.Draft().catalogue.gcolFixedDataItems;
-  const auto displayed = [&] {
+  Open();
+  story.PassOver("lvwDataItems");
+  // Of the family, as a list where they are few.
+  story.Fact("displayed", [this] {
     std::string names;
-    for (int id = 1; id <= items.Count(); ++id)
-      if (items.Item(id).InFamily(1) && items.Item(id).blnDisplay)
-        names += items.Item(id).strShortName + " ";
-    return names;
-  };
-  Act(options, "click cmdUnCheckAll");
-  std::string mandatory;
-  for (int id = 1; id <= items.Count(); ++id)
-    if (items.Item(id).InFamily(1) && items.Item(id).blnMandatory)
-      mandatory += items.Item(id).strShortName + " ";
-  EXPECT_FALSE(mandatory.empty());
-  EXPECT_EQ(displayed(), mandatory);
-  Act(options, "tick lvwDataItems RPM on");
-  EXPECT_TRUE(items.Item(3).blnDisplay);
-  Act(options, "choose cboLogFamily #2\nchoose cboLogFamily #0");
-  EXPECT_TRUE(options.lvwDataItems.At(options.lvwDataItems.RowOfTag("3")).checked);
-  EXPECT_FALSE(options.lvwDataItems.At(options.lvwDataItems.RowOfTag("5")).checked);
-  Act(options, "click cmdCheckAll");
-  EXPECT_TRUE(items.Item(5).blnDisplay);
+    int count = 0;
+    for (const auto* item : window->Draft().catalogue.gcolFixedDataItems.InDisplayOrder()) {
+      if (!item->InFamily(1) || !item->blnDisplay) continue;
+      names += (count > 0 ? " " : "") + item->strShortName + (item->blnMandatory ? "!" : "");
+      ++count;
+    }
+    return count < 10 ? names : std::to_string(count);
+  });
+  EXPECT_STORY(story, R"(
+click cmdUnCheckAll -> displayed=Sample! Secs! Power! RPM! Speed! Torque!
+tick lvwDataItems MAP on -> displayed=Sample! Secs! MAP Power! RPM! Speed! Torque!
+choose cboLogFamily #2; choose cboLogFamily #0; show lvwDataItems[36] lvwDataItems[5] -> lvwDataItems[36]=[MAP|Manifold Air Pressure], lvwDataItems[36] checked, lvwDataItems[36] unselected, lvwDataItems[5]=[A/F|A/F Ratio], lvwDataItems[5] unchecked, lvwDataItems[5] unselected
+click cmdCheckAll -> displayed=53
+)");
 }
 
 TEST_F(Options, LetTheFieldsOfThePowerGraphFollow) {

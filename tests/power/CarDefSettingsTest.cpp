@@ -35,5 +35,18 @@ Name=empty -> 1 Name=Original, Description=QVX original power graph settings, Ty
 )");
 }
 
+TEST(CarDefSettings, AreWrittenInTheOrderOfTheirTable) {
+  const auto written = [](const TableRow& row) {
+    clsCarDefs cars;
+    ReadCarDefs(ReadINIFileToArray("[Power Graph]\n" + row.Lines()), cars);
+    IniWriter file;
+    WriteCarDefs(cars, file);
+    return Join(SplitAt(file.Text(), "\r\n"), "; ");
+  };
+  ExpectTable(written, R"(
+Units Car Def 1=M; Description Car Def 1=Mine -> Name Car Def 1=New; Description Car Def 1=Mine; Units Car Def 1=M; 1st Gear Ratio Car Def 1=3.136; 2nd Gear Ratio Car Def 1=1.888; 3rd Gear Ratio Car Def 1=1.33; 4th Gear Ratio Car Def 1=1; 5th Gear Ratio Car Def 1=0.814; 6th Gear Ratio Car Def 1=0.814; Diff Ratio Car Def 1=4.1; 1st Gear Relative Loss Car Def 1=15; 2nd Gear Relative Loss Car Def 1=10; 3rd Gear Relative Loss Car Def 1=7; 4th Gear Relative Loss Car Def 1=0; 5th Gear Relative Loss Car Def 1=3; 6th Gear Relative Loss Car Def 1=6; Drive Wheel Radius Car Def 1=11.5; Tyre Width Car Def 1=185; Tyre Profile Car Def 1=60; Wheel Diameter Car Def 1=14; Tyre RPM Car Def 1=887; Tyre Size Method Car Def 1=1; Set Point Power Car Def 1=100; Set Point Speed Car Def 1=115; Use Drag Coefficient Car Def 1=N; Drag Coefficient Car Def 1=0.4; Frontal Area Car Def 1=2; Default Gear Car Def 1=4; Car Weight Car Def 1=2420; Car Contents Weight Car Def 1=180; Smoothing Factor Car Def 1=7; Dyno Factor Car Def 1=0; 
+)");
+}
+
 }  // namespace
 }  // namespace tarnview
