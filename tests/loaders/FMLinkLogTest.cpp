@@ -152,14 +152,6 @@ TEST(FMLinkLog, WhatComesOfPartsOfALog) {
 )");
 }
 
-TEST(FMLinkLog, EveryTruncationIsHarmless) {
-  const std::string text = Log(Samples(3), kZones, {kSettingsLine, kNoChanges});
-  for (std::size_t length = 0; length < text.size(); ++length) {
-    const LoadedLog loaded = Loaded(std::string_view(text).substr(0, length));
-    EXPECT_LE(loaded.outcome.messages.size(), 4u);
-  }
-}
-
 TEST(FMLinkLog, AFailedZoneSectionKeepsWhatItReadAndTheSummarysChip) {
   Lines zones = kZones;
   zones.resize(4);

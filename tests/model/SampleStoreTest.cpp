@@ -37,7 +37,7 @@ TEST(SampleStore, GrowsFarPastTheGuessAndKeepsEveryCell) {
   }
 }
 
-TEST(SampleStore, FillsAStretch) {
+TEST(SampleStore, FillsAStretchAndMakesNoColumnOfZeros) {
   SampleStore store;
   store.Prepare(2, 0);
   for (int i = 0; i < 5; ++i) store.AddRow();
@@ -46,21 +46,16 @@ TEST(SampleStore, FillsAStretch) {
   store.Fill(0, 1, 3, 9);
   store.Fill(0, 2, 3, 0);
   store.Fill(0, 4, 4, 8);
-  EXPECT_EQ(std::vector<std::int32_t>(store.Column(0).begin(), store.Column(0).end()),
-            (std::vector<std::int32_t>{0, 9, 0, 0, 0}));
-}
-
-TEST(SampleStore, RowsOfZerosMakeNoColumn) {
-  SampleStore store;
-  store.Prepare(2, 0);
-  for (int i = 0; i < 5; ++i) store.AddRow();
+  const auto cells = [&store](int column) {
+    return std::vector<std::int32_t>(store.Column(column).begin(), store.Column(column).end());
+  };
+  EXPECT_EQ(cells(0), (std::vector<std::int32_t>{0, 9, 0, 0, 0}));
   const std::int32_t zeros[] = {0, 0}, values[] = {7, 0, 9};
-  store.SetRows(0, 1, zeros);
-  EXPECT_TRUE(store.Column(0).empty());
-  store.SetRows(0, 2, values);
-  store.SetRows(0, 3, zeros);
-  EXPECT_EQ(std::vector<std::int32_t>(store.Column(0).begin(), store.Column(0).end()),
-            (std::vector<std::int32_t>{0, 0, 7, 0, 0}));
+  store.SetRows(1, 1, zeros);
+  EXPECT_TRUE(store.Column(1).empty());
+  store.SetRows(1, 2, values);
+  store.SetRows(1, 3, zeros);
+  EXPECT_EQ(cells(1), (std::vector<std::int32_t>{0, 0, 7, 0, 0}));
 }
 
 TEST(SampleStore, PrepareEmptiesIt) {
