@@ -16,6 +16,16 @@ TEST(RecordingHost, AnswersFromItsQueueThenByDefault) {
   EXPECT_EQ(host.boxes.size(), 4u);
 }
 
+TEST(RecordingHost, AWaitGoesOnUnlessTheNextAnswerStopsIt) {
+  RecordingHost host;
+  EXPECT_TRUE(host.Wait("program")->GoOn());
+  host.answers = {{Answer::Kind::No, "", 0}, {Answer::Kind::Stop, "", 0}};
+  EXPECT_TRUE(host.Wait("program")->GoOn());
+  host.answers.pop_front();
+  EXPECT_FALSE(host.Wait("program")->GoOn());
+  EXPECT_TRUE(host.answers.empty());
+}
+
 TEST(RecordingHost, ChoosesWhatTheScriptSays) {
   RecordingHost host;
   Dialog dialog;
