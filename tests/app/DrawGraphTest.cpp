@@ -9,72 +9,53 @@ using DrawGraph = ProgramFixture;
 
 TEST_F(DrawGraph, WithoutALogNothingIsDrawn) {
   Open(50);
-  Main().LoadDataFile("/logs/none.txt", 1);
-  Main().lvwSampleDetails.SetChecked(Main().lvwSampleDetails.RowOfTag("3"), true);
+  EXPECT_STORY(story, R"(
+click cmdDrawGraph -> graph=1-50 at 26, txtYMax=240, staDataLogViewer[0]=Sample: 26, Secs: 2.130
+load /logs/none.txt 1 -> [15 ok], [12 ok], graph=none, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+tick lvwSampleDetails Knock on; key Ctrl+I; key Ctrl+End; key Alt+Left; key Shift+Left; type hsbGraphScroll 20 -> not taken, cannot: hsbGraphScroll is disabled
+click cmdDrawGraph -> cannot: cmdDrawGraph is disabled
+)");
   Main().DrawGraph();
-  for (const char* keys : {"Ctrl+I", "Ctrl+End", "Alt+Left", "Shift+Left"})
-    Main().Press(*ParseKeys(keys));
-  Main().hsbGraphScroll.Value = 20;
-  EXPECT_TRUE(Main().chSampleGraph.Data().Series().empty());
-  EXPECT_TRUE(Main().fraPicture.Visible());
-  EXPECT_FALSE(Main().mnuFilePrint.Enabled());
+  EXPECT_EQ(Graph(), "none");
 }
 
-TEST_F(DrawGraph, EnterLeavesTheBoxBeforeItDraws) {
-  Open(2000);
-  Main().cmdDrawGraph.Press();
-  Main().PlotRangeFrom.SetFocus();
-  Main().PlotRangeFrom.Text = "1001";
-  Main().Press({"Enter"});
-  EXPECT_EQ(Shown("1"), "1499") << "the middle of 1001 to 2000, every second one drawn";
-  // A key that draws from within a box keeps what is selected.
-  Main().PlotRangeTo.SetFocus();
-  Main().Press({"I", false, true});
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 1499);
-  EXPECT_EQ(Shown("1"), "1499");
+TEST_F(DrawGraph, TheSelectedSampleFollowsTheRangeAndTheKeys) {
+  Open(2000, "", [](SmallSample& one) { one.rpm = 1000 + one.sample; });
+  EXPECT_STORY(story, R"(
+click cmdDrawGraph -> graph=1-2000 at 997, txtYMax=240, staDataLogViewer[0]=Sample: 997, Secs: 81.674
+# Enter leaves the box before it draws; every second sample is drawn.
+write PlotRangeFrom 1001; key Enter; show lvwSampleDetails[1] -> lvwSampleDetails[1]=[Sample|1499], lvwSampleDetails[1] unchecked, lvwSampleDetails[1] unselected, graph=1001-2000 at 1499, PlotRangeFrom=1001, staDataLogViewer[0]=Sample: 1499, Secs: 122.798
+# A key that draws from within a box keeps what is selected.
+write PlotRangeTo 2000; key Ctrl+I; show lvwSampleDetails[1] -> lvwSampleDetails[1]=[Sample|1499], lvwSampleDetails[1] unchecked, lvwSampleDetails[1] unselected, graph=1251-1751 at 1499, PlotRangeFrom=1251, PlotRangeTo=1751
+click mnuViewZoomFull -> graph=1-2000 at 1501, PlotRangeFrom=1, PlotRangeTo=2000, staDataLogViewer[0]=Sample: 1501, Secs: 122.962
+# A point is each fourth sample here.
+point chSampleGraph 3 10; show lvwSampleDetails[1] lvwSampleDetails[2] -> lvwSampleDetails[1]=[Sample|37], lvwSampleDetails[1] unchecked, lvwSampleDetails[1] unselected, lvwSampleDetails[2]=[Secs|3.031], lvwSampleDetails[2] unchecked, lvwSampleDetails[2] unselected, graph=1-2000 at 37, staDataLogViewer[0]=Sample: 37, Secs: 3.031
+key Right -> graph=1-2000 at 41, staDataLogViewer[0]=Sample: 41, Secs: 3.359
+key Shift+Up
+range 30 60; show "chSampleGraph selected" -> chSampleGraph selected=[1|12], graph=30-60 at 41, PlotRangeFrom=30, PlotRangeTo=60
+)");
 }
 
 TEST_F(DrawGraph, TheFixedMaximumStepsWithinItsLimits) {
   Open(50);
-  Main().chkFixY.Value = true;
-  const char* kRows[][3] = {{"240", "up", "250"},
-                            {"240", "down", "230"},
-                            {"995", "up", "1000"},
-                            {"2147483647", "up", "1000"},
-                            {"-2147483648", "down", "10"}};
-  for (const auto& [text, way, wanted] : kRows) {
-    Main().txtYMax.Text = std::string(text);
-    Main().updYMax.Do({"step", {way}});
-    EXPECT_EQ(Main().txtYMax.Text(), wanted) << text << " " << way;
-  }
-}
-
-TEST_F(DrawGraph, ASelectedPointShowsItsSample) {
-  Open(2000, "", [](SmallSample& one) { one.rpm = 1000 + one.sample; });
-  Main().cmdDrawGraph.Press();  // step 4
-  Main().chSampleGraph.SelectPoint(3, 10);
-  EXPECT_EQ(Said() + Shown("3") + Shown("1"), "Sample: 37, Secs: 3.031103737");
-  Main().Press({"Right"});
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 41);
-  Main().Press({"Up", true});
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 41);
-
-  // The sample stays selected when the range moves about it.
-  Draw("30", "60");
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 41);
-  EXPECT_EQ(Main().chSampleGraph.SelectedPoint(), 12);
+  EXPECT_STORY(story, R"(
+click chkFixY -> chkFixY checked
+type txtYMax 240; step updYMax up
+type txtYMax 240; step updYMax down -> txtYMax=230
+type txtYMax 995; step updYMax up -> txtYMax=1000
+type txtYMax 2147483647; step updYMax up
+type txtYMax -2147483648; step updYMax down -> txtYMax=10
+)");
 }
 
 TEST_F(DrawGraph, TheWalkAlongThePointsHasOneRule) {
   Open(50);
-  Main().cmdDrawGraph.Press();
-  for (const auto& [point, left, right] :
-       {std::tuple{1, false, true}, {2, true, true}, {50, true, false}}) {
-    Main().chSampleGraph.SelectPoint(1, point);
-    Main().chSampleGraph.RightClick();
-    EXPECT_EQ(Main().cmdDataPointLeft.Enabled(), left) << point;
-    EXPECT_EQ(Main().cmdDataPointRight.Enabled(), right) << point;
-  }
+  EXPECT_STORY(story, R"(
+click cmdDrawGraph -> graph=1-50 at 26, txtYMax=240, staDataLogViewer[0]=Sample: 26, Secs: 2.130
+point chSampleGraph 1 1; popup chSampleGraph mnuRightClickPlotTo; show "cmdDataPointLeft enabled" "cmdDataPointRight enabled" -> cmdDataPointLeft off, graph=1-50 at 1, PlotRangeTo=1, staDataLogViewer[0]=Sample: 1, Secs: 0.082
+point chSampleGraph 1 2; popup chSampleGraph mnuRightClickPlotTo; show "cmdDataPointLeft enabled" "cmdDataPointRight enabled" -> graph=1-50 at 2, PlotRangeTo=2, staDataLogViewer[0]=Sample: 2, Secs: 0.164
+point chSampleGraph 1 50; popup chSampleGraph mnuRightClickPlotTo; show "cmdDataPointLeft enabled" "cmdDataPointRight enabled" -> cmdDataPointRight off, graph=1-50 at 50, PlotRangeTo=50, staDataLogViewer[0]=Sample: 50, Secs: 4.096
+)");
 }
 
 }  // namespace

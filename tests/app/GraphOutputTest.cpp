@@ -1,40 +1,30 @@
 // What the main window hands out of its graph.
 
-#include <gmock/gmock.h>
-
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
 namespace {
 
-using ::testing::ElementsAre;
-
-class GraphOutput : public ProgramFixture {
- protected:
-  GraphOutput() { Open(50, "[General]\r\nChecked Data Items=3,5\r\n"); }
-};
+using GraphOutput = ProgramFixture;
 
 TEST_F(GraphOutput, ThePageTellsFileAndRangeAsTheGraphWasDrawn) {
-  Draw("11", "31");
-  host.answers = {{Answer::Kind::Printer}, {Answer::Kind::Printer}};
-  Do("type PlotRangeTo 40\nclick mnuFilePrint\nclick mnuFilePrintPreview\n"
-     "click mnuRightClickPrint");
-  ASSERT_EQ(host.pages.size(), 3u);
-  std::vector<std::string> texts;
-  for (const auto& text : host.pages[0].texts) texts.push_back(text.text);
-  const OpenLog& log = Log();
-  EXPECT_THAT(texts, ElementsAre("Tarnview Sample Graph", "File : ", "/logs/run.txt",
-                                 "Sample Range From : ", "11 to 31", "Time Range From : ",
-                                 log.FormatDataItem(63, 10) + " secs to " +
-                                     log.FormatDataItem(63, 30) + " secs"));
-}
-
-TEST_F(GraphOutput, TheGraphIsCopiedAndSavedUnderTheLogsName) {
-  Do("click cmdDrawGraph\nclick mnuCopy\nclick mnuRightClickCopy");
-  EXPECT_THAT(host.copied, ElementsAre(&Main().chSampleGraph, &Main().chSampleGraph));
-  host.answers = {{Answer::Kind::Ok}};
-  Do("click mnuFileSavePicture");
-  EXPECT_THAT(host.pictures, ElementsAre("/logs/run.png"));
+  Open(50, "[General]\r\nChecked Data Items=3,5\r\n");
+  story.Fact("page", [this] {
+    std::string told;
+    if (host.pages.empty()) return told;
+    for (const auto& text : host.pages.back().texts) told += text.text + "|";
+    return told;
+  });
+  EXPECT_STORY(story, R"(
+range 11 31 -> graph=11-31 at 21, PlotRangeFrom=11, PlotRangeTo=31, txtYMax=240, staDataLogViewer[0]=Sample: 21, Secs: 1.720
+type PlotRangeTo 40; answer printer; click mnuFilePrint -> [printer "" ok], pages=1, graph=11-31 at 0, page=Tarnview Sample Graph|File : |/logs/run.txt|Sample Range From : |11 to 31|Time Range From : |0.901 secs to 2.540 secs|, PlotRangeTo=40
+click mnuFilePrintPreview -> pages=2
+answer printer; click mnuRightClickPrint -> [printer "" ok], pages=3
+click mnuCopy -> copied=1
+click mnuRightClickCopy -> copied=2
+answer ok; click mnuFileSavePicture -> [save "Save Picture As" of PNG picture (*.png) ok], pictures=/logs/run.png
+)");
+  EXPECT_EQ(host.copied, std::vector<const Chart*>(2, &Main().chSampleGraph));
 }
 
 }  // namespace

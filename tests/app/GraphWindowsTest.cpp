@@ -8,12 +8,25 @@ namespace {
 
 class GraphWindows : public ProgramFixture {
  protected:
-  /// What a user does in the windows of those names, then in the main window.
-  void Do(const std::string& action, std::map<std::string, std::string> inWindows = {}) {
-    host.work = [=](Form& form) {
-      if (inWindows.contains(form.name)) Act(form, inWindows.at(form.name));
-    };
-    Act(Main(), action);
+  GraphWindows() {
+    story.Fact("presets", [this] {
+      std::string told;
+      if (!Runs()) return told;
+      for (const auto& preset : program->Global().gcolSampleGraphPresets) {
+        told += (told.empty() ? "" : "; ") + preset.strName + " of " +
+                std::to_string(preset.lngLogFamily) + ":";
+        for (const int item : preset.colDataItems) told += " " + std::to_string(item);
+        told += " to " + std::to_string(preset.lngGraphMax);
+      }
+      return told;
+    });
+    story.Fact("scatters", [this] {
+      if (!Runs() || program->Global().gcolScatterGraphPresets.Count() == 0) return std::string();
+      const auto& presets = program->Global().gcolScatterGraphPresets;
+      const auto& last = presets.Item(presets.Count());
+      return last.strName + ": " + std::to_string(last.lngXAxisDataItem) + " " +
+             std::to_string(last.lngYAxisDataItem);
+    });
   }
 };
 
@@ -33,92 +46,84 @@ Graph 3 Data Items=
 Graph 3 Log Family=1
 )";
 
-TEST_F(GraphWindows, PresetsAreUpdatedAddedAndKept) {
+TEST_F(GraphWindows, PresetsAreUpdatedAddedAndEdited) {
   Open(50, kPresets);
-  auto& presets = program->Global().gcolSampleGraphPresets;
-  Do("row lvwPresets Knock\ntick lvwSampleDetails MAP on\ntype txtYMax 7x5\n"
-     "click mnuEditUpdatePreset");
-  EXPECT_EQ(presets.Item(1).colDataItems, (Ids{20, 5, 3}));
-  EXPECT_EQ(presets.Item(1).lngGraphMax, 75);
-  Do("click mnuEditNewPreset",
-     {{"frmNewPresetName", "type txtName  \nclick cmdOK\ntype txtName Mine\nclick cmdOK"}});
-  EXPECT_EQ(Boxes(), (Ids{41}));
-  EXPECT_EQ(Main().lvwPresets.At(Main().lvwPresets.SelectedRow()).texts[0], "Mine");
-  EXPECT_EQ(presets.Item(4).colDataItems, (Ids{20, 5, 3}));
-  EXPECT_EQ(presets.Item(4).lngLogFamily, 1);
-}
-
-TEST_F(GraphWindows, TheEditorsOfPresetsWorkOnACopyOfTheirList) {
-  Open(50, kPresets);
-  Do("click mnuCustomisePresetSample",
-     {{"frmMaint", "double lvwNameList Knock\nclick cmdCancel"},
-      {"frmPresetSampleDetails", "type txtName Renamed\nclick cmdOK"}});
-  EXPECT_EQ(Main().lvwPresets.At(1).texts[0], "Knock");
-  Do("click mnuCustomisePresetSample",
-     {{"frmMaint", "double lvwNameList Knock\nclick cmdOK"},
-      {"frmPresetSampleDetails", "type txtName Renamed\nclick cmdOK"}});
-  EXPECT_EQ(Main().lvwPresets.At(1).texts[0], "Renamed");
-
-  const auto& presets = program->Global().gcolScatterGraphPresets;
-  const int before = presets.Count();
-  Do("click mnuCustomisePresetScatter",
-     {{"frmMaint", "click cmdNew\nclick cmdOK"},
-      {"frmPresetScatterDetails", "choose imgcboYAxis Knock Sensor\nclick cmdOK"}});
-  ASSERT_EQ(presets.Count(), before + 1);
-  EXPECT_EQ(presets.Item(before + 1).strName, "New Preset");
-  EXPECT_EQ(presets.Item(before + 1).lngXAxisDataItem, 3);
-  EXPECT_EQ(presets.Item(before + 1).lngYAxisDataItem, 20);
+  EXPECT_STORY(story, R"(
+row lvwPresets Knock -> chkFixY checked, txtYMax=120
+tick lvwSampleDetails MAP on; write txtYMax 7x5; click mnuEditUpdatePreset -> presets=Knock of 1: 20 5 3 to 75; Other of 6: 1 to 0; None of 1: to 0, txtYMax=7x5
+click mnuEditNewPreset -> +frmNewPresetName
+type txtName " "; click cmdOK -> [41 ok], txtName= 
+type txtName Mine; click cmdOK -> -frmNewPresetName, presets=Knock of 1: 20 5 3 to 75; Other of 6: 1 to 0; None of 1: to 0; Mine of 1: 20 5 3 to 75
+show lvwPresets -> lvwPresets columns=[Preset Graphs], lvwPresets count=3, lvwPresets[1]=[Knock], lvwPresets[1] unselected, lvwPresets[2]=[None], lvwPresets[2] unselected, lvwPresets[3]=[Mine], lvwPresets[3] selected
+# The editors work on a copy of their list.
+click mnuCustomisePresetSample -> +frmMaint
+double lvwNameList Knock -> +frmPresetSampleDetails
+type txtName Renamed; click cmdOK -> -frmPresetSampleDetails
+click cmdCancel -> -frmMaint
+show lvwPresets[1] -> lvwPresets[1]=[Knock], lvwPresets[1] unselected
+click mnuCustomisePresetSample -> +frmMaint
+double lvwNameList Knock -> +frmPresetSampleDetails
+type txtName Renamed; click cmdOK -> -frmPresetSampleDetails
+click cmdOK -> -frmMaint, presets=Renamed of 1: 20 5 3 to 80; Other of 6: 1 to 0; None of 1: to 0; Mine of 1: 20 5 3 to 75
+show lvwPresets[1] -> lvwPresets[1]=[Renamed], lvwPresets[1] unselected
+click mnuCustomisePresetScatter -> +frmMaint
+click cmdNew -> +frmPresetScatterDetails
+choose imgcboYAxis "Knock Sensor"; click cmdOK -> -frmPresetScatterDetails
+click cmdOK -> -frmMaint, scatters=New Preset: 3 20
+)");
 }
 
 TEST_F(GraphWindows, GoesToASampleInAGraphOfTheSameWidth) {
   Open(2000);
-  EXPECT_FALSE(Main().mnuViewGoto.Enabled());
-  const struct {
-    const char *from, *to, *inWindow, *range;
-    std::int32_t highlight;
-  } kRows[] = {
-      {"100", "175", "type txtSampleNumber 1000\nclick cmdOK", "962-1038", 1000},  // to even halves
-      {"100", "175", "type txtSampleNumber 20\nclick chkShowPointWidth\nclick cmdOK", "1-70", 20},
-      {"100", "109", "type txtSampleNumber 500\nclick chkShowPointWidth\nclick cmdOK", "450-550",
-       500},
-      {"100", "110", "type txtSampleNumber 500\nclick cmdOK", "495-505", 500},
-      {"100", "175", "type txtSampleNumber 500\nclick cmdCancel", "100-175", 137},
-  };
-  for (const auto& row : kRows) {
+  story.Verb("draw", [this](const auto& words) {
     Main().Selected().Forget();
-    Draw(row.from, row.to);
+    Draw(words[0], words[1]);
     Main().PlotRangeFrom.SetFocus();
-    Do("click mnuViewGoto", {{"frmGoto", row.inWindow}});
-    EXPECT_EQ(Range(), row.range) << row.inWindow;
-    EXPECT_EQ(Main().Selected().lngHighlightSample(), row.highlight) << row.inWindow;
-  }
+  });
+  EXPECT_STORY(story, R"(
+click mnuViewGoto -> cannot: mnuViewGoto is disabled
+draw 100 175 -> graph=100-175 at 137, PlotRangeFrom=100, PlotRangeTo=175, txtYMax=240, staDataLogViewer[0]=Sample: 137, Secs: 11.223
+# To even halves.
+click mnuViewGoto -> +frmGoto
+type txtSampleNumber 1000; click cmdOK -> -frmGoto, graph=962-1038 at 1000, PlotRangeFrom=962, PlotRangeTo=1038, staDataLogViewer[0]=Sample: 1000, Secs: 81.920
+draw 100 175 -> graph=100-175 at 137, PlotRangeFrom=100, PlotRangeTo=175, staDataLogViewer[0]=Sample: 137, Secs: 11.223
+click mnuViewGoto -> +frmGoto
+type txtSampleNumber 20; click chkShowPointWidth; click cmdOK -> -frmGoto, graph=1-70 at 20, PlotRangeFrom=1, PlotRangeTo=70, staDataLogViewer[0]=Sample: 20, Secs: 1.638
+draw 100 109 -> graph=100-109 at 105, PlotRangeFrom=100, PlotRangeTo=109, staDataLogViewer[0]=Sample: 105, Secs: 8.602
+click mnuViewGoto -> +frmGoto
+type txtSampleNumber 500; click chkShowPointWidth; click cmdOK -> -frmGoto, graph=450-550 at 500, PlotRangeFrom=450, PlotRangeTo=550, staDataLogViewer[0]=Sample: 500, Secs: 40.960
+draw 100 110 -> graph=100-110 at 105, PlotRangeFrom=100, PlotRangeTo=110, staDataLogViewer[0]=Sample: 105, Secs: 8.602
+click mnuViewGoto -> +frmGoto
+type txtSampleNumber 500; click cmdOK -> -frmGoto, graph=495-505 at 500, PlotRangeFrom=495, PlotRangeTo=505, staDataLogViewer[0]=Sample: 500, Secs: 40.960
+draw 100 175 -> graph=100-175 at 137, PlotRangeFrom=100, PlotRangeTo=175, staDataLogViewer[0]=Sample: 137, Secs: 11.223
+click mnuViewGoto -> +frmGoto
+type txtSampleNumber 500; click cmdCancel -> -frmGoto
+)");
 }
 
 TEST_F(GraphWindows, AnExportKeepsItsPathUntilTheNextLog) {
   Open(40);
-  host.answers = {{Answer::Kind::File, "/logs/other.csv"}, {Answer::Kind::Ok}};
-  Do("click mnuFileExport");
-  EXPECT_TRUE(Main().Exported());
-  files.failWrites = true;
-  Do("click mnuFileExport");
-  EXPECT_EQ(files.accesses.back(), "write /logs/other.csv") << "the path used last";
-  EXPECT_EQ(Boxes(), (Ids{64}));
-  EXPECT_FALSE(Main().Exported());
-  files.failWrites = false;
-  Main().LoadDataFile("/logs/run.txt", 0);
-  host.answers = {{Answer::Kind::Ok}};
-  Do("click mnuFileExport");
+  EXPECT_STORY(story, R"(
+answer file /logs/other.csv; click mnuFileExport -> [save "Export" of CSV files (*.csv) /logs/other.csv], wrote other.csv, staDataLogViewer[0]=Export complete
+disk full; answer ok; click mnuFileExport -> [save "Export" of CSV files (*.csv) ok], [64 ok], wrote other.csv, staDataLogViewer[0]=
+disk well; load /logs/run.txt -> [16 ok], staDataLogViewer[0]=Loading complete
+answer ok; click mnuFileExport -> [save "Export" of CSV files (*.csv) ok], wrote run.csv, staDataLogViewer[0]=Export complete
+)");
   EXPECT_NE(files.files["/logs/run.csv"].find("File Type: FM Link Data Logs\r\n"),
             std::string::npos);
 }
 
 TEST_F(GraphWindows, ZoneInfluenceFollowsTheSelectedSampleOfALinkLog) {
   Open(40, "", [](SmallSample& one) { one.rpm += one.sample; });
-  EXPECT_TRUE(Main().fraZoneInfl.Visible() && Main().mnuViewZoneInfl.Checked());
-  const char* const kZones = "lblZoneInfl(0) lblZoneInfl(1) lblZoneInfl(2) lblZoneInfl(3)";
-  EXPECT_EQ(Texts(Main(), kZones), "|||");
+  EXPECT_STORY(story, R"(
+show fraZoneInfl mnuViewZoneInfl lblZoneInfl(0) -> fraZoneInfl=Zone Influence, mnuViewZoneInfl=&Zone Influence, mnuViewZoneInfl checked, lblZoneInfl(0)=
+click cmdDrawGraph; show lblZoneInfl(0) lblZoneInfl(1) lblZoneInfl(2) lblZoneInfl(3) -> lblZoneInfl(0)=105, lblZoneInfl(1)=110, lblZoneInfl(2)=205, lblZoneInfl(3)=210, graph=1-40 at 20, txtYMax=240, staDataLogViewer[0]=Sample: 20, Secs: 1.638
+click mnuViewZoneInfl; show "fraZoneInfl visible" "mnuViewZoneInfl checked" -> fraZoneInfl hidden
+click mnuViewZoneInfl; show "fraZoneInfl visible" "mnuViewZoneInfl checked" -> mnuViewZoneInfl checked
+load /logs/none.txt; show lblZoneInfl(0) lblZoneInfl(1) lblZoneInfl(2) lblZoneInfl(3) "mnuViewZoneInfl enabled" -> lblZoneInfl(0)=, lblZoneInfl(1)=, lblZoneInfl(2)=, lblZoneInfl(3)=, mnuViewZoneInfl off, [15 ok], [12 ok], graph=none, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+)");
+  Main().LoadDataFile("/logs/run.txt", 0);
   Do("click cmdDrawGraph");
-  EXPECT_EQ(Texts(Main(), kZones), "105|110|205|210");
   Main().picZoneInfl.SetSize(1120, 460);
   const auto& shapes = Main().picZoneInfl.Shapes();
   ASSERT_EQ(shapes.circles.size(), 2u);
@@ -126,12 +131,6 @@ TEST_F(GraphWindows, ZoneInfluenceFollowsTheSelectedSampleOfALinkLog) {
   // 20 and 60.
   EXPECT_EQ(shapes.circles[0], (Drawing::Circle{600, 230, 30, true}));
   EXPECT_EQ(shapes.lines[0], (Drawing::Line{0, 230, 1120, 230}));
-  Do("click mnuViewZoneInfl");
-  EXPECT_FALSE(Main().fraZoneInfl.Visible() || Set().gblnDisplayZoneInfluence);
-  Do("click mnuViewZoneInfl");
-  Main().LoadDataFile("/logs/none.txt", 0);
-  EXPECT_EQ(Texts(Main(), kZones), "|||");
-  EXPECT_FALSE(Main().mnuViewZoneInfl.Enabled());
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // Every key and every menu entry that moves through the log: what it does to the range and to the
 // selected point.
 
-#include <set>
-
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
@@ -13,140 +11,136 @@ class Moving : public ProgramFixture {
   Moving() {
     Open(2000, "", [](SmallSample& one) { one.rpm = 1000 + one.sample % 100; });
     Main().cmdDrawGraph.Press();
+    story.Verb("key",
+               [this](const auto& words) { taken_ = Main().Press(*ParseKeys(words.at(0))); });
+    story.Verb("at", [this](const auto& words) { Main().Find(words.at(0))->SetFocus(); });
   }
-  /// Samples 501 to 601 after the whole log, the middle one selected.
+  /// Lines of what a user does, each with samples 501 to 601 on show after the whole log and the
+  /// middle one selected; behind " -> " the range, the graph with its point, and the zoom amount.
+  void ExpectMoves(const std::string& moves, int line) {
+    std::string told;
+    for (const std::string& move : Split(moves, '\n')) {
+      const std::string steps = move.substr(0, move.find(" -> "));
+      told += steps + "\n";
+      if (steps.empty() || steps[0] == '#') continue;
+      Reset();
+      story.Play(steps);
+      told.back() = ' ';
+      told += "-> " + Range() + ", " + Graph() + " #" +
+              std::to_string(Main().Selected().lngSelectedPoint()) + " x" +
+              Main().cboZoomAmount.Text() + (taken_ ? "\n" : " left\n");
+    }
+    told.pop_back();
+    ExpectTold(told, moves, __FILE__, line);
+  }
+
+ private:
   void Reset() {
-    DrawAnew("1", "2000");
-    DrawAnew("501", "601");
+    for (const auto& [from, to] : {std::pair{"1", "2000"}, {"501", "601"}}) {
+      Main().Selected().Forget();
+      Draw(from, to);
+    }
     Main().cboZoomAmount.Text = "2";
     Main().lvwSampleDetails.SetFocus();
-    host.messages.clear();
+    taken_ = true;
   }
-  void DrawAnew(const char* from, const char* to) {
-    Main().Selected().Forget();
-    Draw(from, to);
-  }
-  std::string Drawn() {
-    const DrawnGraph& plot = Main().Drawn();
-    return std::to_string(plot.lngPlotFirstIndex + 1) + "-" +
-           std::to_string(plot.lngPlotLastIndex + 1);
-  }
+  bool taken_ = true;
 };
 
 TEST_F(Moving, MenuEntries) {
-  const struct {
-    const char* name;
-    int index;
-    const char* range;
-    const char* drawn;
-  } kRows[] = {
-      {"mnuViewScrollLeft", -1, "491-591", "491-591"},
-      {"mnuViewScrollRight", -1, "511-611", "511-611"},
-      {"mnuViewPageLeft", -1, "401-501", "401-501"},
-      {"mnuViewPageRight", -1, "601-701", "601-701"},
-      {"mnuViewStart", -1, "1-101", "1-101"},
-      {"mnuViewFinish", -1, "1900-2000", "1900-2000"},
-      {"mnuViewZoomIn", -1, "527-577", "527-577"},
-      {"mnuViewZoomInAmount", 10, "547-557", "547-557"},
-      {"mnuViewZoomOut", -1, "452-652", "452-652"},
-      {"mnuViewZoomOutAmount", 3, "402-702", "402-702"},
-      {"mnuViewZoomFull", -1, "1-2000", "1-2000"},
-      {"mnuViewPrevious", -1, "1-2000", "1-2000"},
-      {"mnuRightClickDrawGraph", -1, "501-601", "501-601"},
-      {"mnuRightClickZoomIn", -1, "527-577", "527-577"},
-      {"mnuRightClickZoomInAmount", 5, "542-562", "542-562"},
-      {"mnuRightClickZoomOut", -1, "452-652", "452-652"},
-      {"mnuRightClickZoomOutAmount", 100, "1-2000", "1-2000"},
-      {"mnuRightClickZoomOutFull", -1, "1-2000", "1-2000"},
-      {"mnuRightClickPrevGraph", -1, "1-2000", "1-2000"},
-      {"mnuRightClickPlotFrom", -1, "551-601", "501-601"},
-      {"mnuRightClickPlotTo", -1, "501-551", "501-601"},
-      {"mnuRightClickPlotFromAnd", -1, "551-601", "551-601"},
-      {"mnuRightClickPlotToAnd", -1, "501-551", "501-551"},
-  };
-  for (const auto& row : kRows) {
-    Reset();
-    Main().chSampleGraph.RightClick();
-    Control* entry = Main().Find(row.name, row.index);
-    ASSERT_TRUE(entry) << row.name;
-    entry->Do({"click", {}});
-    EXPECT_EQ(Range(), row.range) << row.name;
-    EXPECT_EQ(Drawn(), row.drawn) << row.name;
-    if (row.index > 0) {
-      EXPECT_EQ(Main().cboZoomAmount.Text(), std::to_string(row.index)) << row.name;
-    }
-  }
+  ExpectMoves(R"(
+
+click mnuViewScrollLeft -> 491-591, 491-591 at 551 #61 x2
+click mnuViewScrollRight -> 511-611, 511-611 at 551 #41 x2
+click mnuViewPageLeft -> 401-501, 401-501 at 451 #51 x2
+click mnuViewPageRight -> 601-701, 601-701 at 651 #51 x2
+click mnuViewStart -> 1-101, 1-101 at 51 #51 x2
+click mnuViewFinish -> 1900-2000, 1900-2000 at 1950 #51 x2
+click mnuViewZoomIn -> 527-577, 527-577 at 551 #25 x2
+click mnuViewZoomInAmount(10) -> 547-557, 547-557 at 551 #5 x10
+click mnuViewZoomOut -> 452-652, 452-652 at 551 #100 x2
+click mnuViewZoomOutAmount(3) -> 402-702, 402-702 at 551 #150 x3
+click mnuViewZoomFull -> 1-2000, 1-2000 at 553 #139 x2
+click mnuViewPrevious -> 1-2000, 1-2000 at 997 #250 x2
+popup chSampleGraph mnuRightClickDrawGraph -> 501-601, 501-601 at 551 #51 x2
+popup chSampleGraph mnuRightClickZoomIn -> 527-577, 527-577 at 551 #25 x2
+popup chSampleGraph mnuRightClickZoomInAmount(5) -> 542-562, 542-562 at 551 #10 x5
+popup chSampleGraph mnuRightClickZoomOut -> 452-652, 452-652 at 551 #100 x2
+popup chSampleGraph mnuRightClickZoomOutAmount(100) -> 1-2000, 1-2000 at 553 #139 x100
+popup chSampleGraph mnuRightClickZoomOutFull -> 1-2000, 1-2000 at 553 #139 x2
+popup chSampleGraph mnuRightClickPrevGraph -> 1-2000, 1-2000 at 997 #250 x2
+popup chSampleGraph mnuRightClickPlotFrom -> 551-601, 501-601 at 551 #51 x2
+popup chSampleGraph mnuRightClickPlotTo -> 501-551, 501-601 at 551 #51 x2
+popup chSampleGraph mnuRightClickPlotFromAnd -> 551-601, 551-601 at 576 #26 x2
+popup chSampleGraph mnuRightClickPlotToAnd -> 501-551, 501-551 at 526 #26 x2
+)",
+              __LINE__);
 }
 
+/// Where they stand in another field than the graph, some keys are left to it.
 TEST_F(Moving, Keys) {
-  const struct {
-    const char* keys;
-    const char* control;
-    const char* range;
-    int point;
-    bool taken;
-  } kRows[] = {
-      // clang-format off
-      {"Shift+Left", "chSampleGraph", "501-601", 50, true},    {"Shift+Right", "chSampleGraph", "501-601", 52, true},
-      {"Shift+Left", "lvwSampleDetails", "501-601", 50, true}, {"Shift+Right", "lvwSampleDetails", "501-601", 52, true},
-      {"Shift+Left", "PlotRangeFrom", "501-601", 51, false},   {"Left", "chSampleGraph", "501-601", 50, true},
-      {"Right", "chSampleGraph", "501-601", 52, true},         {"Left", "lvwSampleDetails", "501-601", 51, false},
-      {"Ctrl+Left", "cboZoomAmount", "401-501", 51, true},     {"Ctrl+Right", "PlotRangeTo", "601-701", 51, true},
-      {"Alt+Left", "lvwSampleDetails", "491-591", 61, true},   {"Alt+Right", "cmdDrawGraph", "511-611", 41, true},
-      {"Ctrl+Alt+Left", "chSampleGraph", "491-591", 61, true}, {"Ctrl+Alt+Right", "chSampleGraph", "511-611", 41, true},
-      {"Ctrl+Home", "PlotRangeFrom", "1-101", 51, true},       {"Ctrl+End", "lvwPresets", "1900-2000", 51, true},
-      {"Ctrl+F", "chSampleGraph", "1-2000", 139, true},        {"Ctrl+I", "PlotRangeFrom", "527-577", 25, true},
-      {"Ctrl+O", "cboZoomAmount", "452-652", 100, true},
-      // clang-format on
-  };
-  for (const auto& row : kRows) {
-    Reset();
-    Main().Find(row.control)->SetFocus();
-    EXPECT_EQ(Main().Press(*ParseKeys(row.keys)), row.taken) << row.keys << " " << row.control;
-    EXPECT_EQ(Range(), row.range) << row.keys << " " << row.control;
-    EXPECT_EQ(Main().Selected().lngSelectedPoint(), row.point) << row.keys << " " << row.control;
-  }
+  ExpectMoves(R"(
+
+at chSampleGraph; key Shift+Left -> 501-601, 501-601 at 550 #50 x2
+at chSampleGraph; key Shift+Right -> 501-601, 501-601 at 552 #52 x2
+at lvwSampleDetails; key Shift+Left -> 501-601, 501-601 at 550 #50 x2
+at lvwSampleDetails; key Shift+Right -> 501-601, 501-601 at 552 #52 x2
+at PlotRangeFrom; key Shift+Left -> 501-601, 501-601 at 551 #51 x2 left
+at chSampleGraph; key Left -> 501-601, 501-601 at 550 #50 x2
+at chSampleGraph; key Right -> 501-601, 501-601 at 552 #52 x2
+at lvwSampleDetails; key Left -> 501-601, 501-601 at 551 #51 x2 left
+at cboZoomAmount; key Ctrl+Left -> 401-501, 401-501 at 451 #51 x2
+at PlotRangeTo; key Ctrl+Right -> 601-701, 601-701 at 651 #51 x2
+at lvwSampleDetails; key Alt+Left -> 491-591, 491-591 at 551 #61 x2
+at cmdDrawGraph; key Alt+Right -> 511-611, 511-611 at 551 #41 x2
+at chSampleGraph; key Ctrl+Alt+Left -> 491-591, 491-591 at 551 #61 x2
+at chSampleGraph; key Ctrl+Alt+Right -> 511-611, 511-611 at 551 #41 x2
+at PlotRangeFrom; key Ctrl+Home -> 1-101, 1-101 at 51 #51 x2
+at lvwPresets; key Ctrl+End -> 1900-2000, 1900-2000 at 1950 #51 x2
+at chSampleGraph; key Ctrl+F -> 1-2000, 1-2000 at 553 #139 x2
+at PlotRangeFrom; key Ctrl+I -> 527-577, 527-577 at 551 #25 x2
+at cboZoomAmount; key Ctrl+O -> 452-652, 452-652 at 551 #100 x2
+# Keys of what may not run do nothing.
+range 1 2000; key Ctrl+F -> 1-2000, 1-2000 at 553 #139 x2
+range 1 2000; key Ctrl+O -> 1-2000, 1-2000 at 553 #139 x2
+range 501 509; key Ctrl+I -> 501-509, 501-509 at 509 #9 x2
+range 1 101; point chSampleGraph 1 1; key Shift+Left -> 1-101, 1-101 at 1 #1 x2
+range 1 101; point chSampleGraph 1 1; key Alt+Left -> 1-101, 1-101 at 1 #1 x2
+range 1 101; point chSampleGraph 1 1; key Ctrl+Left -> 1-101, 1-101 at 1 #1 x2
+range 1 101; point chSampleGraph 1 1; key Ctrl+Home -> 1-101, 1-101 at 1 #1 x2
+)",
+              __LINE__);
 }
 
-TEST_F(Moving, KeysOfDisabledButtonsDoNothing) {
-  for (const char* keys : {"Ctrl+F", "Ctrl+O"}) {
-    DrawAnew("1", "2000");
-    Main().Press(*ParseKeys(keys));
-    EXPECT_EQ(Range(), "1-2000") << keys;
-  }
-  DrawAnew("501", "509");
-  Main().Press(*ParseKeys("Ctrl+I"));
-  EXPECT_EQ(Range(), "501-509");
-  DrawAnew("1", "101");
-  Main().chSampleGraph.SelectPoint(1, 1);
-  for (const char* keys : {"Shift+Left", "Alt+Left", "Ctrl+Left", "Ctrl+Home"}) {
-    Main().Press(*ParseKeys(keys));
-    EXPECT_EQ(Range(), "1-101") << keys;
-    EXPECT_EQ(Main().Selected().lngSelectedPoint(), 1) << keys;
-  }
-}
-
+/// Two of the eight curves are at 40.
 TEST_F(Moving, ShiftUpAndDownWalkTheCurvesByTheirHeightAndStopAtTheEnds) {
-  Reset();
-  const auto& series = Main().chSampleGraph.Data().Series();
-  ASSERT_GE(series.size(), 3u);
-  const auto height = [&] {
-    const Selection& plot = Main().Selected();
-    return series[static_cast<std::size_t>(plot.intSelectedSeries() / 2)]
-        .y[static_cast<std::size_t>(plot.lngSelectedPoint() - 1)];
-  };
-  for (const auto& [keys, sign] : {std::pair{"Shift+Down", -1}, std::pair{"Shift+Up", 1}}) {
-    std::set<int> seen;
-    for (std::size_t i = 0; i < 2 * series.size(); ++i) {
-      const double before = height();
-      seen.insert(Main().Selected().intSelectedSeries());
-      Main().Press(*ParseKeys(keys));
-      EXPECT_GE((height() - before) * sign, 0) << keys;
-      EXPECT_EQ(Main().Selected().lngSelectedPoint(), 51);
-    }
-    EXPECT_EQ(seen.size(), sign < 0 ? seen.size() : series.size())
-        << "from the lowest to the highest";
-  }
+  story.Fact("height", [this] {
+    const Selection& now = Main().Selected();
+    const auto& series = Main().chSampleGraph.Data().Series();
+    if (now.lngSelectedPoint() == 0) return std::string();
+    return NumberText(series[static_cast<std::size_t>(now.intSelectedSeries() / 2)]
+                          .y[static_cast<std::size_t>(now.lngSelectedPoint() - 1)]);
+  });
+  story.PassOver("graph");
+  EXPECT_STORY(story, R"(
+range 501 601 -> height=10.01, PlotRangeFrom=501, PlotRangeTo=601, staDataLogViewer[0]=Sample: 601, Secs: 49.234
+key Shift+Down -> height=10
+key Shift+Down -> height=9
+key Shift+Down -> height=0
+key Shift+Down
+key Shift+Down
+key Shift+Down
+key Shift+Down
+key Shift+Down
+key Shift+Up -> height=9
+key Shift+Up -> height=10
+key Shift+Up -> height=10.01
+key Shift+Up -> height=40
+key Shift+Up
+key Shift+Up -> height=80
+key Shift+Up -> height=147
+key Shift+Up
+)");
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
 #include "support/SmallLog.h"
+#include "support/Story.h"
 #include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
 
@@ -17,9 +18,30 @@ namespace tarnview {
 
 using Ids = std::vector<int>;
 
-/// The whole program on a disk in memory, before a desktop that records.
+/// The whole program on a disk in memory, before a desktop that records. Its story passes over what
+/// a command may do (a table in MenusTest), lists and the main chart: "show" tells of them.
 class ProgramFixture : public ::testing::Test {
  protected:
+  ProgramFixture() {
+    for (const char* part : {" enabled", "lvw", "chSampleGraph", "hsb", "ZoneInfl", "mnu",
+                             "proProgInd", "fraPicture", "updPlot"})
+      story.PassOver(part);
+    story.Verb("start", [this](const Words& words) { Start(WordOr(words, 0)); });
+    story.Verb("load", [this](const Words& words) {
+      Main().LoadDataFile(words[0], StringToLong(WordOr(words, 1)));
+    });
+    story.Verb("open", [this](const Words& words) {
+      Main().Files().OpenFile(words[0], StringToLong(WordOr(words, 1)));
+    });
+    story.Verb("drop", [this](const Words& words) { Main().DropFile(words[0]); });
+    story.Verb("range", [this](const Words& words) { Draw(words[0], words[1]); });
+    story.Verb("put", [this](const Words& words) { files.files[words[0]] = WordOr(words, 1); });
+    story.Verb("lose", [this](const Words& words) { files.files.erase(words[0]); });
+    story.Verb("disk", [this](const Words& words) { files.failWrites = words[0] == "full"; });
+    story.Fact("graph", [this] { return Graph(); });
+    story.Fact("edited", [this] { return Runs() && Log().gblnZonesDirty ? "yes" : "no"; });
+    story.Event("wrote", [this] { return Written(); });
+  }
   void Start(const std::string& commandLine = "", const std::string& settings = "") {
     files.files["/car/error.log"] = "old";
     if (!settings.empty()) files.files["/car/Tarnview.ini"] = settings;
@@ -67,13 +89,43 @@ class ProgramFixture : public ::testing::Test {
     return ids;
   }
 
+  /// Whether the main window is open.
+  bool Runs() const {
+    return program && std::any_of(host.open.begin(), host.open.end(), [](const Form* form) {
+             return form->name == "frmDataLogViewer";
+           });
+  }
+  /// What the chart shows and the sample that is selected in it: "501-601 at 551".
+  std::string Graph() {
+    if (!Runs() || !Main().chSampleGraph.Visible()) return "none";
+    const DrawnGraph& drawn = Main().Drawn();
+    return std::to_string(drawn.lngPlotFirstIndex + 1) + "-" +
+           std::to_string(drawn.lngPlotLastIndex + 1) + " at " +
+           std::to_string(Main().Selected().lngHighlightSample());
+  }
+
   RecordingHost host;
   MemoryFileSystem files;
   FixedClock clock;
   RecordingProcesses processes;
   std::unique_ptr<Program> program;
+  Story story{host};
 
  private:
+  using Words = Story::Words;
+  static std::string WordOr(const Words& words, std::size_t n) {
+    return n < words.size() ? words[n] : "";
+  }
+  /// The files that were written, renamed or deleted since the last time.
+  std::string Written() {
+    std::string told;
+    for (; seen_ < files.accesses.size(); ++seen_)
+      for (const char* verb : {"write ", "append ", "delete "})
+        if (const std::string& access = files.accesses[seen_];
+            access.starts_with(verb) && !access.ends_with("error.log"))
+          told += (told.empty() ? "" : " ") + FileTitle(access);
+    return told;
+  }
   void Run(const std::string& commandLine, const ProgramFolders& folders,
            const std::string& settingsFile) {
     program.reset();
@@ -81,6 +133,7 @@ class ProgramFixture : public ::testing::Test {
     program = std::make_unique<Program>(host, files, clock, processes, folders, settingsFile);
     program->Start(commandLine, false);
   }
+  std::size_t seen_ = 0;
 };
 
 }  // namespace tarnview

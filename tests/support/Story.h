@@ -36,6 +36,10 @@ class Story {
   void Fact(const std::string& name, std::function<std::string()> tell) {
     facts_.emplace_back(name, tell);
   }
+  /// What may happen at a line, such as a file written: told where it is not empty.
+  void Event(const std::string& name, std::function<std::string()> take) {
+    events_.emplace_back(name, take);
+  }
   /// Leaves out what changes at every step: facts with that in their names.
   void PassOver(const std::string& part) { passedOver_.push_back(part); }
 
@@ -46,6 +50,7 @@ class Story {
     told_.clear();
     boxes_ = host_.boxes.size();
     before_ = Look();
+    for (const auto& [name, take] : events_) take();
     while (Step()) {
     }
     return told_;
@@ -162,6 +167,9 @@ class Story {
     const Sight now = Look();
     std::vector<std::string> changes = std::exchange(shown_, {});
     for (; boxes_ < host_.boxes.size(); ++boxes_) changes.push_back(ToldBox(host_.boxes[boxes_]));
+    for (const auto& [name, take] : events_)
+      if (const std::string what = take(); !what.empty())
+        changes.push_back(name + " " + OneLine(what));
     for (const std::string& window : before_.windows)
       if (!now.facts.contains(window)) changes.push_back("-" + window);
     for (const std::string& window : now.windows)
@@ -244,7 +252,7 @@ class Story {
   RecordingHost& host_;
   ScriptUser user_;
   std::map<std::string, std::function<void(const Words&)>> verbs_;
-  std::vector<std::pair<std::string, std::function<std::string()>>> facts_;
+  std::vector<std::pair<std::string, std::function<std::string()>>> facts_, events_;
   std::vector<std::string> passedOver_, lines_, shown_;
   std::size_t next_ = 0, boxes_ = 0;
   std::string told_;
