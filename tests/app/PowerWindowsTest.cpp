@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
+// The main window and its power windows.
 
-#include "power/frmCarDefinitionDetails.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
@@ -9,94 +8,47 @@ namespace {
 class PowerWindowsOfProgram : public ProgramFixture {
  protected:
   /// 60 samples of rising rpm.
-  void OpenLog() {
+  PowerWindowsOfProgram() {
     Open(60, "", [](SmallSample& sample) { sample.rpm = 2000 + sample.sample * 40; });
+    files.files["/other.txt"] = SmallLog(30);
+    files.files["/a.pow"] = "Calculation Parameters:\n";
+    for (const char* part : {"chPowerGraph", "chSpeedGraph", "lblWarning"}) story.PassOver(part);
   }
-  frmPowerGraph& Front() { return dynamic_cast<frmPowerGraph&>(*host.Front()); }
 };
 
-TEST_F(PowerWindowsOfProgram, AreOpenedFromTheMenuOnceALogIsThere) {
-  Start();
-  EXPECT_FALSE(Main().mnuModulesPowerGraph.Enabled());
-  OpenLog();
-  Main().mnuModulesPowerGraph.Do({"click", {}});
-  EXPECT_EQ(Front().Caption(), "Tarnview Power Graph - run.txt");
-  EXPECT_EQ(Front().txtPlotRangeFrom.Text() + "-" + Front().txtPlotRangeTo.Text(), "1-60");
-  EXPECT_EQ(Front().cboCarDefs.Text(), "Original");
-  Front().cmdDrawGraph.Do({"click", {}});
-  EXPECT_TRUE(Front().Drawn());
-}
-
 TEST_F(PowerWindowsOfProgram, KeepTheirGraphWhenTheLogGoes) {
-  OpenLog();
-  frmPowerGraph& window = Main().Power().Open();
-  window.cmdDrawGraph.Press();
-  EXPECT_TRUE(window.mnuToolsCopy.Enabled());
-  files.files["/other.txt"] = SmallLog(30);
-  Main().LoadDataFile("/other.txt", 1);
-  EXPECT_TRUE(window.IsShown());
-  EXPECT_EQ(window.chPowerGraph.Data().Series().size(), 2u);
-  EXPECT_FALSE(window.mnuToolsCopy.Enabled());
-  EXPECT_EQ(window.txtPlotRangeTo.Text(), "30");
-  EXPECT_EQ(window.Caption(), "Tarnview Power Graph - run.txt");
-  Main().Unload();
-  EXPECT_FALSE(window.IsShown());
+  EXPECT_STORY(story, R"(
+click mnuModulesPowerGraph; show caption txtPlotRangeFrom txtPlotRangeTo cboCarDefs -> caption=Tarnview Power Graph - run.txt, txtPlotRangeFrom=1, txtPlotRangeTo=60, cboCarDefs list=[Original], cboCarDefs=Original, +frmPowerGraph
+click cmdDrawGraph; show "mnuToolsCopy enabled" "chPowerGraph series count" -> chPowerGraph series count=2, staPowerGraph[0]=Graph draw complete
+load /other.txt 1; show caption "mnuToolsCopy enabled" "chPowerGraph series count" -> caption=Tarnview Power Graph - run.txt, mnuToolsCopy off, chPowerGraph series count=2, [16 ok], frmDataLogViewer/caption=Tarnview - other.txt (FM Link Data Log), frmDataLogViewer/PlotRangeTo=30, frmDataLogViewer/staDataLogViewer[2]=Sample Load Range 1 - 30, txtPlotRangeTo=30
+click frmPowerGraph/mnuToolsSpeed; show caption -> caption=Tarnview Speed Graph - run.txt, +frmSpeedGraph
+close frmDataLogViewer -> -frmDataLogViewer, -frmPowerGraph, -frmSpeedGraph
+)");
 }
 
 TEST_F(PowerWindowsOfProgram, CopyTheRunToTheSampleGraph) {
-  OpenLog();
-  frmPowerGraph& window = Main().Power().Open();
   Main().Details().SetCheckedItems({ItemOf(kPower)});
-  Draw("10", "40");
-  Act(window,
-      "type txtPlotRangeFrom 10\ntype txtPlotRangeTo 40\nclick cmdDrawGraph\n"
-      "click mnuToolsCopy");
-  EXPECT_GT(Main().chSampleGraph.Data().Series().at(0).y.at(10), 0) << "drawn anew";
-  EXPECT_EQ(Range(), "10-40");
-  EXPECT_EQ(Main().Selected().lngHighlightSample(), 25);
-  EXPECT_GT(Log().glngDataLog(kPower, 20), 0);
+  EXPECT_STORY(story, R"(
+range 10 40; show "chSampleGraph series[0] y" -> chSampleGraph series[0] y=31 from 0 to 0, graph=10-40 at 25, PlotRangeFrom=10, PlotRangeTo=40, txtYMax=240, staDataLogViewer[0]=Sample: 25, Secs: 2.048
+click mnuModulesPowerGraph -> +frmPowerGraph
+type txtPlotRangeFrom 10; type txtPlotRangeTo 40; click cmdDrawGraph -> staPowerGraph[0]=Graph draw complete
+click mnuToolsCopy
+close; show "chSampleGraph series[0] y" -> chSampleGraph series[0] y=31 from 0 to 151, -frmPowerGraph
+)");
   EXPECT_EQ(Log().glngDataLog(kPower, 5), 0);
 }
 
-TEST_F(PowerWindowsOfProgram, CarsAreKeptInTheirEditorAndListedAtOnce) {
-  OpenLog();
-  frmPowerGraph& window = Main().Power().Open();
-  host.work = [](Form& form) {
-    if (auto* details = dynamic_cast<frmCarDefinitionDetails*>(&form)) {
-      details->txtName.Text = "Mine";
-      return details->cmdOK.Press();
-    }
-    auto& list = dynamic_cast<frmMaint&>(form);
-    EXPECT_EQ(list.Caption(), "Car Definition Editor Editor");
-    EXPECT_EQ(list.fraNameList.Caption(), "&Car Definitions");
-    EXPECT_FALSE(list.cboLogFamily.Visible());
-    list.cmdNew.Press();
-    list.cmdPresetUp.Press();
-    list.cmdOK.Press();
-  };
-  Main().mnuCustomiseCarDefs.Do({"click", {}});
-  EXPECT_EQ(window.cboCarDefs.Entries(), (std::vector<std::string>{"Mine", "Original"}));
-  EXPECT_EQ(window.cboCarDefs.Text(), "Original");
-}
-
-TEST_F(PowerWindowsOfProgram, SpeedGraphsOpenBesideThem) {
-  OpenLog();
-  frmPowerGraph& window = Main().Power().Open();
-  window.cmdDrawGraph.Press();
-  window.mnuToolsSpeed.Do({"click", {}});
-  EXPECT_EQ(host.Front()->name, "frmSpeedGraph");
-  EXPECT_EQ(host.Front()->Caption(), "Tarnview Speed Graph - run.txt");
-}
-
-TEST_F(PowerWindowsOfProgram, RecentGraphsAreTheSameInAll) {
-  OpenLog();
-  frmPowerGraph& one = Main().Power().Open();
-  frmPowerGraph& other = Main().Power().Open();
-  files.files["/a.pow"] = "Calculation Parameters:\n";
-  EXPECT_TRUE(one.LoadBenchmark("/a.pow"));
-  EXPECT_EQ(other.mnuFileRecent(0).Caption(), "&1 /a.pow");
-  other.mnuFileRecent(0).Do({"click", {}});
-  EXPECT_EQ(other.lblBenchmark2.Caption(), "a");
+TEST_F(PowerWindowsOfProgram, CarsAndRecentGraphsAreTheSameInAll) {
+  EXPECT_STORY(story, R"(
+click mnuModulesPowerGraph; click frmDataLogViewer/mnuModulesPowerGraph -> +frmPowerGraph, +frmPowerGraph.2
+answer file /a.pow; click mnuFileOpen; show mnuFileRecent(0) -> mnuFileRecent(0)=&1 /a.pow, [open "Open Power Graph" of Power Graph files (*.pow) /a.pow], lblBenchmark2=a, cboBenchMarkAction=Show, staPowerGraph[0]=Loading complete
+show lblBenchmark2 -> lblBenchmark2=a
+click frmPowerGraph/mnuFileRecent(0) -> frmPowerGraph/lblBenchmark2=a, frmPowerGraph/cboBenchMarkAction=Show, frmPowerGraph/staPowerGraph[0]=Loading complete
+click frmDataLogViewer/mnuCustomiseCarDefs -> +frmMaint
+show caption fraNameList "cboLogFamily visible"; click cmdNew -> caption=Car Definition Editor Editor, fraNameList=&Car Definitions, cboLogFamily hidden, +frmCarDefinitionDetails
+type txtName Mine; click cmdOK -> -frmCarDefinitionDetails
+click cmdPresetUp; click cmdOK -> -frmMaint, frmPowerGraph/cboCarDefs list=[Mine|Original], cboCarDefs list=[Mine|Original]
+)");
   EXPECT_EQ(Set().recentPowerGraphFiles, (std::vector<std::string>{"/a.pow"}));
 }
 
