@@ -10,55 +10,41 @@ class CustomisingTest : public ProgramFixture {
  protected:
   CustomisingTest() {
     files.files["/car/run.txt"] = SmallLog(40);
-    files.files["/car/mine.txt"] =
-        std::string_view(kDefinitionOfOptions)
-            .substr(0, std::string_view(kDefinitionOfOptions).size() - 2);
-    files.files["/car/mine.txt"] += "[SAMPLE GRAPH]\r\nNAME=Its own\r\nDATA ITEMS=3\r\n\r\n";
+    const std::string definition = kDefinitionOfOptions;
+    files.files["/car/mine.txt"] = definition.substr(0, definition.size() - 2) +
+                                   "[SAMPLE GRAPH]\r\nNAME=Its own\r\nDATA ITEMS=3\r\n\r\n";
     files.files["/car/old.csv"] =
         "timestamp,Engine Speed (RPM)\r\n100,1000\r\n200,1100\r\n300,1200\r\n400,1300\r\n";
     files.folders.insert("/logs");
-  }
-  /// Opens the Options, does that in them, and forgets the boxes of before.
-  void InOptions(const std::string& actions) {
-    host.messages.clear();
-    host.work = [actions](Form& form) {
-      if (form.name == "frmOptions") Act(form, actions);
-    };
-    Do("click mnuCustomiseOptions");
-  }
-  std::string Boxes() {
-    std::string texts;
-    for (const Box& box : host.messages)
-      texts += std::to_string(box.id) + "/" + std::to_string(box.style) + " ";
-    return texts;
-  }
-  int PresetsNamed(const std::string& name) {
-    int count = 0;
-    for (const auto& preset : program->Global().gcolSampleGraphPresets)
-      count += preset.strName == name;
-    return count;
+    story.Fact("definition", [this] {
+      if (!Runs()) return std::string();
+      const Globals& globals = program->Global();
+      return globals.gclsDataLogDefinition.strName + ", " +
+             globals.kinds.gcolLogFamilies.Item(7).strDescription + ", " +
+             globals.catalogue.gcolUniversalDataItems.Item(3).strShortName;
+    });
+    story.Fact("presets", [this] {
+      std::string told;
+      if (!Runs()) return told;
+      for (const auto& preset : program->Global().gcolSampleGraphPresets)
+        if (preset.strName == "Its own" || preset.strName == "A/F Investigation")
+          told += preset.strName + "; ";
+      return told;
+    });
+    story.Fact("looks", [this] {
+      if (!Runs()) return std::string();
+      const ListView& list = Main().lvwSampleDetails;
+      std::string told = std::to_string(Main().chSampleGraph.Data().colours.backdrop);
+      if (auto* scatter = dynamic_cast<frmScatterGraph*>(host.Front()))
+        told += " " + std::to_string(scatter->chScatterGraph.Data().colours.backdrop);
+      return told + ", RPM " + std::to_string(list.At(list.RowOfTag("3")).colour) +
+             (list.RowOfTag("5") > 0 ? ", MAP" : "");
+    });
+    story.Fact("width", [this] { return std::to_string(Runs() ? Set().glngShowPointWidth : 0); });
+    for (const char* part : {"txtS", "cboG", "chk", "lbl", "chScatterGraph values"})
+      story.PassOver(part);
   }
 };
-
-TEST_F(CustomisingTest, AcceptedOptionsStandAfterARestartAndCancelledOnesDoNot) {
-  Start("", "[General]\r\n");
-  program->WriteSettingsTo("/car/Tarnview.ini");
-  InOptions(
-      "type txtSampleWidth 500\nchoose cboGraphColourScheme White\nclick chkScatterAutoDraw\nclick "
-      "cmdOK");
-  const std::string written = files.files["/car/Tarnview.ini"];
-  EXPECT_NE(written.find("\r\nShow Point Sample Graph Width=500\r\n"), std::string::npos);
-  EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
-  Start("", written);
-  EXPECT_EQ(Set().glngShowPointWidth, 500);
-  EXPECT_EQ(Set().gintGraphColourScheme, 3);
-  EXPECT_TRUE(Main().mnuFileDrawScatter.Checked());
-
-  InOptions("type txtSampleWidth 600\nrow lvwDataItems RPM\nclick cmdUnCheckAll\nclick cmdCancel");
-  EXPECT_EQ(Set().glngShowPointWidth, 500);
-  EXPECT_TRUE(program->Global().catalogue.gcolFixedDataItems.Item(3).blnDisplay);
-  EXPECT_EQ(files.files["/car/Tarnview.ini"], written);
-}
 
 /// The whole table of settings, as the next start of the program has them.
 TEST_F(CustomisingTest, EachSettingStandsAfterOkAndARestartAndNoneMovesOnCancel) {
@@ -80,6 +66,7 @@ TEST_F(CustomisingTest, EachSettingStandsAfterOkAndARestartAndNoneMovesOnCancel)
     };
     Do("click mnuCustomiseOptions");
     int changed = 0;
+    EXPECT_EQ(files.files["/car/Tarnview.ini"] == before, !ok);
     if (ok) Start("", files.files["/car/Tarnview.ini"]);
     for (const SettingRow& row : AllSettings()) {
       const std::string now = row.text(Set());
@@ -89,67 +76,38 @@ TEST_F(CustomisingTest, EachSettingStandsAfterOkAndARestartAndNoneMovesOnCancel)
       }
     }
     EXPECT_EQ(changed, ok ? 40 : 0);
-    if (!ok) {
-      EXPECT_EQ(files.files["/car/Tarnview.ini"], before);
-    }
   }
 }
 
 TEST_F(CustomisingTest, OpenWindowsFollowAtOnce) {
-  Start("/car/run.txt");
-  Main().Scatter().OpenScatterGraph().DrawScatter(true);
-  frmScatterGraph& scatter = *dynamic_cast<frmScatterGraph*>(host.Front());
-  ASSERT_TRUE(Main().chSampleGraph.Visible());
-  host.answers = {{Answer::Kind::Colour, "", 0x123456}};
-  InOptions(
-      "choose cboGraphColourScheme Black\nrow lvwDataItems RPM\nclick cmdDataColour\ntick "
-      "lvwDataItems MAP off\n"
-      "click cmdOK");
-  EXPECT_EQ(Main().chSampleGraph.Data().colours.backdrop, 0);
-  EXPECT_EQ(scatter.chScatterGraph.Data().colours.backdrop, 0);
-  EXPECT_EQ(Main().lvwSampleDetails.RowOfTag("5"), 0);
-  EXPECT_EQ(Main().lvwSampleDetails.At(Main().lvwSampleDetails.RowOfTag("3")).colour, 0x123456);
-  EXPECT_EQ(program->Global().catalogue.gcolFixedDataItems.Item(3).lngColour, 0x123456);
+  EXPECT_STORY(story, R"(
+start /car/run.txt -> [16 ok], +frmDataLogViewer, graph=1-40 at 20, definition=Hydra Nemesis 2.1 (MX-5 Miata), Universal - Hydra Nemesis 2.1 (MX-5 Miata), RPM, presets=A/F Investigation; , looks=12632256, RPM 4227072, MAP, width=100
+click mnuModulesScatterGraph; click cmdDrawGraph -> +frmScatterGraph, looks=12632256 12632256, RPM 4227072, MAP
+click frmDataLogViewer/mnuCustomiseOptions -> +frmOptions, looks=12632256, RPM 4227072, MAP
+choose cboGraphColourScheme Black; row lvwDataItems RPM; answer colour 1193046; click cmdDataColour; tick lvwDataItems MAP off; click chkScatterAutoDraw; click cmdOK -> [colour "Data Item Colour" ok], -frmOptions, looks=0 0, RPM 1193046
+close; show "mnuFileDrawScatter checked" -> mnuFileDrawScatter checked, -frmScatterGraph, looks=0, RPM 1193046
+click mnuCustomiseOptions -> +frmOptions
+row lvwDataItems RPM; click cmdUnCheckAll; click cmdCancel -> -frmOptions
+)");
 }
 
-TEST_F(CustomisingTest, ANewDefinitionIsTakenWithOrWithoutItsPresets) {
-  struct Row {
-    Answer::Kind answer;
-    int own, builtIn;
-  };
-  for (const Row& row : {Row{Answer::Kind::Yes, 1, 0}, Row{Answer::Kind::No, 1, 1},
-                         Row{Answer::Kind::Cancel, 0, 1}}) {
-    Start();
-    host.answers = {{Answer::Kind::Ok}, {row.answer}};
-    InOptions("type txtPath(6) /car/mine.txt\nclick cmdOK");
-    EXPECT_EQ(Boxes(), "86/64 0/291 ");
-    EXPECT_EQ(PresetsNamed("Its own"), row.own);
-    EXPECT_EQ(PresetsNamed("A/F Investigation"), row.builtIn);
-    EXPECT_EQ(program->Global().gclsDataLogDefinition.strName, "Mine");
-    EXPECT_EQ(program->Global().kinds.gcolLogFamilies.Item(7).strDescription, "Universal - Mine");
-    EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(3).strShortName, "Revs");
-  }
-}
-
-TEST_F(CustomisingTest, ALogOfTheOldDefinitionIsClosedFirstOrKeptWithIt) {
-  Start("/car/old.csv|8");
-  ASSERT_TRUE(Log().gblnSamplesLoaded);
-  const std::string caption = Main().Caption();
-  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::No}};
-  InOptions("type txtPath(6) /car/mine.txt\ntype txtSampleWidth 500\nclick cmdOK");
-  EXPECT_EQ(Boxes(), "86/64 0/36 ");
-  EXPECT_TRUE(Log().gblnSamplesLoaded);
-  EXPECT_EQ(Main().Caption(), caption);
-  EXPECT_NE(program->Global().gclsDataLogDefinition.strName, "Mine");
-  EXPECT_EQ(Set().gstrGenericDefinitionFile, "");
-  EXPECT_EQ(Set().glngShowPointWidth, 500);
-
-  host.answers = {{Answer::Kind::Ok}, {Answer::Kind::Yes}, {Answer::Kind::No}};
-  InOptions("type txtPath(6) /car/mine.txt\nclick cmdOK");
-  EXPECT_EQ(Boxes(), "86/64 0/36 0/291 ");
-  EXPECT_FALSE(Log().gblnSamplesLoaded);
-  EXPECT_EQ(Main().Caption(), "Tarnview");
-  EXPECT_EQ(Set().gstrGenericDefinitionFile, "/car/mine.txt");
+TEST_F(CustomisingTest, ANewDefinitionIsTakenWithOrWithoutItsPresetsOrKeptOutByALogOfTheOld) {
+  EXPECT_STORY(story, R"(
+start -> +frmDataLogViewer, definition=Hydra Nemesis 2.1 (MX-5 Miata), Universal - Hydra Nemesis 2.1 (MX-5 Miata), RPM, presets=A/F Investigation; , looks=16777215, RPM 4227072, MAP, width=100
+click mnuCustomiseOptions -> +frmOptions
+type txtPath(6) /car/mine.txt; answer ok; answer yes; click cmdOK -> [86 ok], [The Data Log Definition you have loaded contains Preset Sample Graphs or Preset Scatter Graphs.\nDo you want to clear your existing sets of Universal log family preset graphs before adding the new ones? yes], -frmOptions, definition=Mine, Universal - Mine, Revs, presets=Its own; 
+start -> definition=Hydra Nemesis 2.1 (MX-5 Miata), Universal - Hydra Nemesis 2.1 (MX-5 Miata), RPM, presets=A/F Investigation; 
+click mnuCustomiseOptions -> +frmOptions
+type txtPath(6) /car/mine.txt; answer ok; answer no; click cmdOK -> [86 ok], [The Data Log Definition you have loaded contains Preset Sample Graphs or Preset Scatter Graphs.\nDo you want to clear your existing sets of Universal log family preset graphs before adding the new ones? no], -frmOptions, definition=Mine, Universal - Mine, Revs, presets=A/F Investigation; Its own; 
+start -> definition=Hydra Nemesis 2.1 (MX-5 Miata), Universal - Hydra Nemesis 2.1 (MX-5 Miata), RPM, presets=A/F Investigation; 
+click mnuCustomiseOptions -> +frmOptions
+type txtPath(6) /car/mine.txt; answer ok; answer cancel; click cmdOK -> [86 ok], [The Data Log Definition you have loaded contains Preset Sample Graphs or Preset Scatter Graphs.\nDo you want to clear your existing sets of Universal log family preset graphs before adding the new ones? cancel], -frmOptions, definition=Mine, Universal - Mine, Revs
+start /car/old.csv|8 -> graph=1-4 at 2, definition=Hydra Nemesis 2.1 (MX-5 Miata), Universal - Hydra Nemesis 2.1 (MX-5 Miata), RPM, looks=12632256, RPM 4227072, MAP, caption=Tarnview - old.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata)), PlotRangeFrom=1, PlotRangeTo=4, txtYMax=240, staDataLogViewer[0]=Sample: 2, Secs: 0.200, staDataLogViewer[2]=Sample Load Range 1 - 4
+click mnuCustomiseOptions -> +frmOptions
+type txtPath(6) /car/mine.txt; type txtSampleWidth 500; answer ok; answer no; click cmdOK -> [86 ok], [Loading the new Universal Data Log definition file will close the currently loaded datalog.\n\nAre you sure you want to continue? no], -frmOptions, width=500
+click mnuCustomiseOptions -> +frmOptions
+show txtPath(6); type txtPath(6) /car/mine.txt; answer ok; answer yes; answer no; click cmdOK -> txtPath(6)=, [86 ok], [Loading the new Universal Data Log definition file will close the currently loaded datalog.\n\nAre you sure you want to continue? yes], [The Data Log Definition you have loaded contains Preset Sample Graphs or Preset Scatter Graphs.\nDo you want to clear your existing sets of Universal log family preset graphs before adding the new ones? no], -frmOptions, graph=none, definition=Mine, Universal - Mine, Revs, presets=A/F Investigation; Its own; , looks=16777215, RPM 4227072, MAP, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, staDataLogViewer[2]=
+)");
 }
 
 }  // namespace

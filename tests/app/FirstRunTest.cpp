@@ -1,37 +1,17 @@
 // The first run: which log, which template, what is written into it; and the templates that are
 // shipped.
 
-#include <gmock/gmock.h>
-
 #include "app/FirstRun.h"
-#include "app/frmFindINIFile.h"
 #include "model/ConversionTables.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
 namespace {
 
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-
 constexpr const char* kPath = "/tv/bin/Tarnview.ini";
-
-/// A desktop whose user fills the first run's window in.
-class Desktop : public RecordingHost {
- public:
-  std::function<void(frmFindINIFile&)> user;
-
- protected:
-  void RunModal(Form& form) override {
-    if (user) user(dynamic_cast<frmFindINIFile&>(form));
-    form.Unload();
-  }
-};
-
 constexpr const char* kDefinition = "/tv/data/Universal Data Log Formats/OBDLink.txt";
 
-class FirstRunTest : public ::testing::Test {
+class FirstRunTest : public ProgramFixture {
  protected:
   FirstRunTest() {
     files.folders = {"/tv", "/tv/bin", "/tv/data"};
@@ -39,149 +19,121 @@ class FirstRunTest : public ::testing::Test {
       files.files["/tv/data/" + name] = Shipped(name);
     files.files[kDefinition] = Shipped("Universal Data Log Formats/OBDLink.txt");
     files.files["/tv/data/Universal Data Log Formats/bad.txt"] = "no definition";
+    story.Verb("first", [this](const auto&) { First(); });
+    story.Verb("bare", [this](const auto&) { files.files.clear(); });
+    story.PassOver("tmrTimer");
   }
   std::string Shipped(const std::string& name) {
     const auto bytes = disk.Read(TARNVIEW_DATA "/" + name);
     EXPECT_TRUE(bytes) << name;
     return std::string(bytes ? std::string_view(*bytes) : "");
   }
-  void Start() {
-    program = std::make_unique<Program>(host, files, clock, processes,
-                                        ProgramFolders{"/tv/bin/", "/tv/data/"});
+  void First(const ProgramFolders& folders = {"/tv/bin/", "/tv/data/"}) {
+    program.reset();
+    host.open.clear();
+    program = std::make_unique<Program>(host, files, clock, processes, folders);
     program->Start("", true);
   }
-  void Choose(const std::string& entry) {
-    host.user = [entry](frmFindINIFile& window) {
-      Act(window, "choose lstFileType " + entry + "\nclick cmdOK");
-    };
-  }
-  std::vector<int> MessageIds() const {
-    std::vector<int> ids;
-    for (const Box& box : host.messages) ids.push_back(box.id);
-    return ids;
-  }
-  std::string Value(const char* key, const char* path = kPath) {
-    return std::string(
-        GetINIValue(ReadINIFileToArray(files.files[path]), "General", key).value_or("(missing)"));
+  /// The settings file's lines of those keys.
+  std::string Written(const std::string& keys, const char* path = kPath) {
+    std::string told;
+    for (const std::string& key : Split(keys, '|'))
+      told += key + "=" +
+              std::string(GetINIValue(ReadINIFileToArray(files.files[path]), "General", key)
+                              .value_or("(missing)")) +
+              "\n";
+    return told;
   }
 
   RealFileSystem disk;
-  Desktop host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  RecordingProcesses processes;
-  std::unique_ptr<Program> program;
 };
 
-TEST_F(FirstRunTest, LogsOfAUserWithAFolderOfHisOwnLieInHisDocuments) {
-  Choose("Tec-2 Data Logs");
-  const ProgramFolders folders{"/home/me/.config/tarnview/", "/tv/data/", "/home/me/Documents/"};
-  program = std::make_unique<Program>(host, files, clock, processes, folders);
-  program->Start("", true);
-  for (const char* key : {"Default Working Directory", "Initial Directory"})
-    EXPECT_EQ(Value(key, "/home/me/.config/tarnview/Tarnview.ini"), "/home/me/Documents/");
-}
-
-TEST_F(FirstRunTest, TheListIsSortedAndEndsWithOther) {
-  host.user = [this](frmFindINIFile& window) {
-    EXPECT_THAT(window.lstFileType.Entries(),
-                ElementsAre("FM Link Data Logs", "FM Link MAP Files", "LinkPlus Data Logs",
-                            "OBDLink Data Logs", "Tec-2 Data Logs", "Tec-3 Data Logs",
-                            "UTEC CSV Data Logs", "UTEC Fixed-Width Data Logs", "<Other>"));
-    EXPECT_EQ(window.lstFileType.ListIndex(), 0);
-    const char* const kOther = "txtPathOther lblPathOther cmdBrowse";
-    EXPECT_EQ(Enabled(window, kOther), "");
-    Act(window, "choose lstFileType <Other>");
-    EXPECT_EQ(Enabled(window, kOther), std::string(kOther) + " ");
-    host.nextFile = Answer{Answer::Kind::File, "/logs/my.txt"};
-    window.cmdBrowse.Press();
-    EXPECT_EQ(window.ActiveControl(), &window.cmdOK) << "Enter goes on from there";
-    Act(window, "choose lstFileType #3");
-    EXPECT_EQ(Enabled(window, kOther), "");
-  };
-  Start();
-}
-
-TEST_F(FirstRunTest, CancelEndsTheProgramWithNoFile) {
-  Start();
-  EXPECT_THAT(MessageIds(), ElementsAre(65));
-  EXPECT_TRUE(host.open.empty());
-  EXPECT_FALSE(files.files.contains(kPath));
+TEST_F(FirstRunTest, AsksWhichLogOnceAndOtherNeedsAGoodDefinition) {
+  EXPECT_STORY(story, R"(
+first -> +frmSplash, +frmFindINIFile
+click cmdCancel -> [65 ok], -frmSplash, -frmFindINIFile
+first -> +frmSplash, +frmFindINIFile
+show lstFileType txtPathOther lblPathOther cmdBrowse -> lstFileType list=[FM Link Data Logs|FM Link MAP Files|LinkPlus Data Logs|OBDLink Data Logs|Tec-2 Data Logs|Tec-3 Data Logs|UTEC CSV Data Logs|UTEC Fixed-Width Data Logs|<Other>], lstFileType=FM Link Data Logs, txtPathOther off, txtPathOther=, lblPathOther off, lblPathOther=Data log &definition file, cmdBrowse off, cmdBrowse=&Browse...
+choose lstFileType <Other>; show "txtPathOther enabled" "lblPathOther enabled" "cmdBrowse enabled" -> lstFileType=<Other>
+choose lstFileType #3; show "txtPathOther enabled" "lblPathOther enabled" "cmdBrowse enabled" -> txtPathOther off, lblPathOther off, cmdBrowse off, lstFileType=OBDLink Data Logs
+choose lstFileType <Other>; click cmdOK -> [78 ok], lstFileType=<Other>
+type txtPathOther /tv/none.txt; click cmdOK -> [70 ok], txtPathOther=/tv/none.txt
+answer file "/tv/data/Universal Data Log Formats/OBDLink.txt"; click cmdBrowse; show focus -> focus cmdOK, [open "Open" of Text Files /tv/data/Universal Data Log Formats/OBDLink.txt], txtPathOther=/tv/data/Universal Data Log Formats/OBDLink.txt
+click cmdOK -> wrote Tarnview.ini, -frmFindINIFile, +frmDataLogViewer
+first
+close frmDataLogViewer; bare -> wrote Tarnview.ini.old Tarnview.ini, -frmDataLogViewer
+first -> +frmFindINIFile
+choose lstFileType "Tec-2 Data Logs"; click cmdOK -> [29 ok], -frmFindINIFile, +frmDataLogViewer
+close frmDataLogViewer -> wrote Tarnview.ini, -frmDataLogViewer
+)");
+  EXPECT_TRUE(files.files[kPath].find("[General]\r\n") == 0);
 }
 
 TEST_F(FirstRunTest, ATemplateIsCopiedAndFilledIn) {
+  const std::string keys =
+      "Initial Directory|Default Working Directory|Alternative Background Picture|Log EXE|"
+      "Conversion EXE|O2 Input Conversion File|Zoom Amount|Default File Type|"
+      "Generic Data Log Definition File";
   files.files["/tv/bin/Tarnview_Install1.ini"] =
       "[General]\r\nFirst Run Indicator=Y\r\nAlternative Background "
       "Picture=C:\\old\\car.bmp\r\nZoom Amount=30\r\n";
-  Choose("FM Link Data Logs");
-  Start();
-  const std::pair<const char*, const char*> values[] = {
-      {"Initial Directory", "/tv/"},
-      {"Default Working Directory", "/tv/"},
-      {"Alternative Background Picture", "/tv/Images/car.bmp"},
-      {"Log EXE", "/tv/LinkWin/LinkWin.exe"},
-      {"Conversion EXE", "/tv/MDOS/MDOS_AT.exe"},
-      {"O2 Input Conversion File", "/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt"},
-      {"Zoom Amount", "30"},
-      {"Generic Data Log Definition File", "(missing)"}};
-  for (const auto& [key, value] : values) EXPECT_EQ(Value(key), value) << key;
-  EXPECT_EQ(program->MainWindow().cboZoomAmount.Text(), "30");
+  story.Play("first\nchoose lstFileType #0; click cmdOK");
+  ExpectTold(Written(keys), R"(Initial Directory=/tv/
+Default Working Directory=/tv/
+Alternative Background Picture=/tv/Images/car.bmp
+Log EXE=/tv/LinkWin/LinkWin.exe
+Conversion EXE=/tv/MDOS/MDOS_AT.exe
+O2 Input Conversion File=/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt
+Zoom Amount=30
+Default File Type=(missing)
+Generic Data Log Definition File=(missing)
+)");
+  EXPECT_EQ(Main().cboZoomAmount.Text(), "30");
+
+  files.files.erase(kPath);
+  files.files["/tv/data/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt"] =
+      "TARNVIEW CONVERSION TABLE\r\n";
+  story.Play("first\nchoose lstFileType \"FM Link MAP Files\"; click cmdOK");
+  ExpectTold(Written(keys), R"(Initial Directory=/tv/
+Default Working Directory=/tv/
+Alternative Background Picture=
+Log EXE=/tv/LinkWin/LinkWin.exe
+Conversion EXE=/tv/MDOS/MDOS_AT.exe
+O2 Input Conversion File=/tv/data/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt
+Zoom Amount=2
+Default File Type=2
+Generic Data Log Definition File=
+)");
+
+  files.files.erase(kPath);
+  host.messages.clear();
+  story.Play("first\nchoose lstFileType \"OBDLink Data Logs\"; click cmdOK");
+  ExpectTold(Written(keys), R"(Initial Directory=/tv/
+Default Working Directory=/tv/
+Alternative Background Picture=
+Log EXE=
+Conversion EXE=
+O2 Input Conversion File=
+Zoom Amount=2
+Default File Type=8
+Generic Data Log Definition File=/tv/data/Universal Data Log Formats/OBDLink.txt
+)");
+  EXPECT_EQ(Boxes(), Ids{});
+  EXPECT_EQ(program->Global().gclsDataLogDefinition.strName, "OBDLink");
 }
 
-TEST_F(FirstRunTest, ATableInTheDataFolderIsFoundThere) {
-  const std::string table = "/tv/data/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt";
-  files.files[table] = "TARNVIEW CONVERSION TABLE\r\n";
-  Choose("FM Link MAP Files");
-  Start();
-  EXPECT_EQ(Value("O2 Input Conversion File"), table);
-  EXPECT_EQ(Value("Default File Type"), "2");
+TEST_F(FirstRunTest, LogsOfAUserWithAFolderOfHisOwnLieInHisDocuments) {
+  story.Verb("home", [this](const auto&) {
+    First({"/home/me/.config/tarnview/", "/tv/data/", "/home/me/Documents/"});
+  });
+  story.Play("home\nchoose lstFileType \"Tec-2 Data Logs\"; click cmdOK");
+  EXPECT_EQ(Written("Default Working Directory|Initial Directory",
+                    "/home/me/.config/tarnview/Tarnview.ini"),
+            "Default Working Directory=/home/me/Documents/\n"
+            "Initial Directory=/home/me/Documents/\n");
 }
 
-TEST_F(FirstRunTest, ADefinitionIsTakenWithItsPresets) {
-  Choose("OBDLink Data Logs");
-  Start();
-  EXPECT_THAT(MessageIds(), ElementsAre());
-  EXPECT_EQ(Value("Generic Data Log Definition File"), kDefinition);
-  EXPECT_EQ(Value("Log EXE"), "");
-  const Globals& globals = program->Global();
-  EXPECT_EQ(globals.gclsDataLogDefinition.strName, "OBDLink");
-  EXPECT_EQ(globals.settings.gintDefaultFileType, kUniversalLog);
-}
-
-TEST_F(FirstRunTest, OtherNeedsAGoodDefinition) {
-  host.user = [this](frmFindINIFile& window) {
-    Act(window, "choose lstFileType <Other>\nclick cmdOK");
-    EXPECT_TRUE(window.IsShown());
-    Act(window, "type txtPathOther /tv/none.txt\nclick cmdOK");
-    EXPECT_TRUE(window.IsShown());
-    host.answers = {{Answer::Kind::File, kDefinition}};
-    Act(window, "click cmdBrowse\nclick cmdOK");
-    EXPECT_FALSE(window.IsShown());
-  };
-  Start();
-  EXPECT_THAT(MessageIds(), ElementsAre(78, 70));
-  EXPECT_EQ(Value("Generic Data Log Definition File"), kDefinition);
-}
-
-TEST_F(FirstRunTest, WithoutATemplateTheDefaultsServe) {
-  files.files.clear();
-  Choose("Tec-2 Data Logs");
-  Start();
-  EXPECT_THAT(MessageIds(), Contains(29));
-  EXPECT_TRUE(program->MainWindow().IsShown());
-  EXPECT_FALSE(files.files.contains(kPath));
-  program->MainWindow().Unload();
-  EXPECT_THAT(files.files[kPath], HasSubstr("[General]\r\n"));
-}
-
-TEST_F(FirstRunTest, AFileThatIsThereAsksNothing) {
-  files.files[kPath] = "[General]\r\n";
-  host.user = [](frmFindINIFile&) { ADD_FAILURE(); };
-  Start();
-  EXPECT_TRUE(program->MainWindow().IsShown());
-}
-
-/// Presets of a family, and a fault for each item that its logs do not have.
+/// How many presets of a family, and a fault for each item that its logs do not have.
 template <class Presets, class Items>
 int PresetsOf(int family, const Presets& presets, const clsLogDataItems& items,
               const Items& itemsOf) {
@@ -196,35 +148,37 @@ int PresetsOf(int family, const Presets& presets, const clsLogDataItems& items,
   return count;
 }
 
+std::vector<int> ItemsOfSample(const clsSampleGraphPreset& preset) {
+  return {preset.colDataItems.begin(), preset.colDataItems.end()};
+}
+
+std::vector<int> ItemsOfScatter(const clsScatterGraphPreset& preset) {
+  std::vector<int> all{preset.lngXAxisDataItem, preset.lngYAxisDataItem};
+  for (const clsScatterFilter& filter : preset.objFilters) all.push_back(filter.lngDataItemSeq);
+  return all;
+}
+
 TEST_F(FirstRunTest, TheShippedTemplatesHoldGoodData) {
   for (int type = 1; type <= kUniversalLog; ++type) {
     SCOPED_TRACE(type);
     files.files[kPath] = Shipped("Tarnview_Install" + std::to_string(type) + ".ini");
-    Start();
-    EXPECT_THAT(MessageIds(), ElementsAre());
+    First();
+    EXPECT_EQ(Boxes(), Ids{});
     const Globals& globals = program->Global();
     const clsLogDataItems& items = globals.catalogue.gcolFixedDataItems;
     EXPECT_EQ(globals.settings.gintDefaultFileType, type);
     EXPECT_EQ(globals.gcolCarDefs.Count(), 5);
     const int own = globals.kinds.gcolLogFamilies.FirstLogFamily(type);
-    for (const int item : globals.settings.gcolCheckedDataItems) {
+    for (const int item : globals.settings.gcolCheckedDataItems)
       EXPECT_TRUE(own == kUniversalLogFamily || items.Item(item).InFamily(own)) << item;
-    }
     for (int family = 1; family <= 6; ++family) {
-      const int samples =
-          PresetsOf(family, globals.gcolSampleGraphPresets, items,
-                    [](const clsSampleGraphPreset& preset) { return preset.colDataItems; });
-      const int scatters = PresetsOf(
-          family, globals.gcolScatterGraphPresets, items, [](const clsScatterGraphPreset& preset) {
-            std::vector<int> all{preset.lngXAxisDataItem, preset.lngYAxisDataItem};
-            for (const clsScatterFilter& filter : preset.objFilters)
-              all.push_back(filter.lngDataItemSeq);
-            return all;
-          });
+      const int samples = PresetsOf(family, globals.gcolSampleGraphPresets, items, ItemsOfSample);
+      const int scatters =
+          PresetsOf(family, globals.gcolScatterGraphPresets, items, ItemsOfScatter);
       EXPECT_TRUE(samples >= 4 && samples <= 8) << samples;
       EXPECT_TRUE(scatters >= 6 && scatters <= 10) << scatters;
     }
-    program->MainWindow().Unload();
+    Main().Unload();
   }
 }
 

@@ -14,6 +14,17 @@ namespace {
 
 class Roads : public ProgramFixture {
  protected:
+  Roads() {
+    story.Verb("content", [this](const auto& words) { Main().Files().OpenByContent(words[0]); });
+    story.Fact("as", [this] { return Runs() ? program->Global().takenAs : std::string(); });
+    story.Fact("cells", [this] {
+      std::string cells;
+      if (Runs() && Log().glngDataLog.Rows() > 3)
+        for (const int item : {63, 3, 101})
+          if (item <= Log().gcolDataItems->Count()) cells += Log().FormatDataItem(item, 3) + " ";
+      return cells;
+    });
+  }
   /// A log that no definition knows: opened by its shape, or by a definition beside the program.
   void StartWith(const std::string& log, const std::string& definition = "") {
     files.files["/run.csv"] = log;
@@ -42,35 +53,38 @@ constexpr const char* kByMine = "Universal: Test Logs";
 
 TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   StartWith(kStrange);
-  EXPECT_TRUE(Main().DropFile("/run.csv"));
-  ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(host.messages[0].text,
-            "This looks like a log of an unknown logger: 3 of 3 columns. Open it so?");
-  EXPECT_EQ(std::count(files.accesses.begin(), files.accesses.end(), "read /run.csv"), 1);
-  EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal: by its shape)");
-  EXPECT_EQ(Said(),
-            "Loading complete: Universal: by its shape. Time: \"Time\" rises; milliseconds: its "
-            "unit is told");
-  EXPECT_EQ(Cells({63, 3, 101}), "0.150 1050 1.7 ");
-  EXPECT_GT(Main().lvwSampleDetails.RowOfTag("101"), 0);  // in the list as any other
+  files.files["/good.txt"] = SmallLog(5);
+  files.files["/notes.txt"] = "nothing\r\nof a log\r\n";
+  files.files["/hydra.csv"] =
+      "timestamp,Engine Speed (RPM)\n0,1000\n100,2000\n200,3000\n300,4000\n";
+  EXPECT_STORY(story, R"(
+drop /run.csv -> [This looks like a log of an unknown logger: 3 of 3 columns. Open it so? yes], as=Universal: by its shape, cells=0.150 1050 1.7 , caption=Tarnview - run.csv (Universal: by its shape), PlotRangeFrom=1, PlotRangeTo=4, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete: Universal: by its shape. Time: "Time" rises; milliseconds: its unit is told, staDataLogViewer[2]=Sample Load Range 1 - 4
+# The definition of the settings is back for the next log.
+load /hydra.csv 8 -> as=, cells=0.300 4000 , caption=Tarnview - hydra.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata)), staDataLogViewer[0]=Loading complete
+open /good.txt -> [16 ok], cells=0.328 1000 , caption=Tarnview - good.txt (FM Link Data Log), PlotRangeTo=5, staDataLogViewer[2]=Sample Load Range 1 - 5
+# The open log stays where the kind of another was only guessed.
+answer no; open /run.csv -> [This looks like a log of an unknown logger: 3 of 3 columns. Open it so? no]
+open /notes.txt -> [52 ok], [12 ok], staDataLogViewer[0]=Loading failed
+# Whoever chose another type is told so.
+open /good.txt 3 -> [good.txt does not load as Tec-2 Data Log.\nThis looks like a log of the kind FM Link Data Log. Open it so? yes], [16 ok], as=FM Link Data Log, staDataLogViewer[0]=Loading complete: FM Link Data Log
+answer no; open /good.txt 3 -> [good.txt does not load as Tec-2 Data Log.\nThis looks like a log of the kind FM Link Data Log. Open it so? no], [54 ok], [12 ok], as=, cells=, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+)");
+  EXPECT_EQ(std::count(files.accesses.begin(), files.accesses.end(), "read /run.csv"), 2);
 }
 
 TEST_F(Roads, ALogWithoutAClockIsAskedAboutOnceAndReadOnce) {
   StartWith("RPM;MAP\n900;30\n910;31\n930;29\n905;30\n");
-  const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-      {"10", "5", "click cmdCancel", ""},
-      {"10", "0", "click cmdOK", "300.000 "},  // the least there is
-      {"0.01", "4", "click cmdOK", "0.750 "}};
-  for (const auto& [offered, typed, button, seconds] : rows) {
-    host.work = [&, offered = offered, typed = typed, button = button](Form& form) {
-      EXPECT_EQ(Texts(form, "txtLineFrequency"), offered);
-      Act(form, std::string("type txtLineFrequency ") + typed + "\n" + button);
-    };
-    EXPECT_EQ(Main().Files().OpenFile("/run.csv", kUnknownFile), *seconds != 0);
-    EXPECT_TRUE(!*seconds || Cells({63}) == seconds) << typed;
-  }
-  TakenAs();  // with no question, as it was last answered
-  EXPECT_EQ(Cells({63}), "0.750 ");
+  EXPECT_STORY(story, R"(
+open /run.csv -> [This looks like a log of an unknown logger: 2 of 2 columns. Open it so? yes], +frmLineFrequency
+show txtLineFrequency; type txtLineFrequency 5; click cmdCancel -> txtLineFrequency=10, -frmLineFrequency
+# The least there is.
+open /run.csv -> [This looks like a log of an unknown logger: 2 of 2 columns. Open it so? yes], +frmLineFrequency
+type txtLineFrequency 0; click cmdOK -> -frmLineFrequency, as=Universal: by its shape, cells=300.000 905 , caption=Tarnview - run.csv (Universal: by its shape), PlotRangeFrom=1, PlotRangeTo=4, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete: Universal: by its shape, staDataLogViewer[2]=Sample Load Range 1 - 4
+open /run.csv -> [This looks like a log of an unknown logger: 2 of 2 columns. Open it so? yes], +frmLineFrequency
+show txtLineFrequency; type txtLineFrequency 4; click cmdOK -> txtLineFrequency=0.01, -frmLineFrequency, cells=0.750 905 
+load /none.txt 1 -> [15 ok], [12 ok], as=, cells=, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+content /run.csv -> as=Universal: by its shape, cells=0.750 905 , caption=Tarnview - run.csv (Universal: by its shape), PlotRangeFrom=1, PlotRangeTo=4, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete: Universal: by its shape, staDataLogViewer[2]=Sample Load Range 1 - 4
+)");
 }
 
 TEST_F(Roads, OwnItemsAreDrawnAsTheirTitlesWere) {
@@ -123,47 +137,6 @@ TEST_F(Roads, ADefinitionIsEditedOverTheOpenLog) {
        {"COMMENTS=kept", "SMOOTH=Y", "UNIT=1/min", "COLUMNTITLE=Gone", "DATA ITEMS=3,5",
         "DATAITEMID=101", "OWNDATAITEMS=Y", "CONVERSIONFACTOR=0.001"})
     EXPECT_NE(text.find(part), std::string::npos) << part;
-}
-
-TEST_F(Roads, WhoeverChoseAnotherTypeIsToldSo) {
-  StartWith(SmallLog(5));
-  EXPECT_TRUE(Main().Files().OpenFile("/run.csv", kLinkPlusLog));
-  EXPECT_EQ(host.messages[0].text,
-            "run.csv does not load as LinkPlus Data Log.\r\n"
-            "This looks like a log of the kind FM Link Data Log. Open it so?");
-  EXPECT_EQ(Log().gintCurrentFileType, kFMLinkLog);
-  host.messages.clear();
-  host.answers.push_back({Answer::Kind::No});
-  EXPECT_FALSE(Main().Files().OpenFile("/run.csv", kLinkPlusLog));  // as ever
-  EXPECT_EQ(Boxes(), (Ids{0, 53, 12}));
-}
-
-TEST_F(Roads, TheOpenLogStaysWhereTheKindWasOnlyGuessed) {
-  files.files["/good.txt"] = SmallLog(5);
-  files.files["/notes.txt"] = "nothing\r\nof a log\r\n";
-  StartWith(kStrange);
-  ASSERT_TRUE(Main().Files().OpenFile("/good.txt", kUnknownFile));
-  host.answers.push_back({Answer::Kind::No});
-  Main().Files().OpenFile("/run.csv", kUnknownFile);
-  EXPECT_EQ(Main().Caption(), "Tarnview - good.txt (FM Link Data Log)");
-  host.messages.clear();
-  EXPECT_FALSE(Main().Files().OpenFile("/notes.txt", kUnknownFile));
-  EXPECT_EQ(MessageIds().back(), 12);
-  EXPECT_EQ(Main().Caption(), "Tarnview - good.txt (FM Link Data Log)");
-  EXPECT_EQ(Log().glngDataLog.Rows(), 5);
-  EXPECT_TRUE(Main().cmdDrawGraph.Enabled());
-}
-
-TEST_F(Roads, TheDefinitionOfTheSettingsIsBackForTheNextLog) {
-  files.files["/hydra.csv"] = "timestamp,Engine Speed (RPM)\n0,1000\n100,2000\n200,3000\n";
-  StartWith(kStrange);
-  TakenAs();
-  const std::string settings = program->Global().gclsDataLogDefinition.strName;
-  ASSERT_TRUE(Main().LoadDataFile("/hydra.csv", kUniversalLog));
-  EXPECT_EQ(settings, "run.csv");
-  EXPECT_EQ(program->Global().gclsDataLogDefinition.strName, "Hydra Nemesis 2.1 (MX-5 Miata)");
-  EXPECT_EQ(Main().Caption(), "Tarnview - hydra.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata))");
-  EXPECT_EQ(Cells({3}, 2), "3000 ");
 }
 
 TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
