@@ -9,167 +9,99 @@ constexpr const char* kJournal = "/car/Tarnview_Zones.journal";
 
 class ZoneWindowsTest : public ProgramFixture {
  protected:
-  /// A program that keeps its settings, so that it keeps a journal beside them.
-  void StartKeeping(const std::string& commandLine = "") {
-    files.files["/car/Tarnview.ini"] = "[General]\r\nDefault Engine Size=1.8\r\n";
-    program = std::make_unique<Program>(host, files, clock, processes, ProgramFolders{},
-                                        "/car/Tarnview.ini");
-    program->WriteSettingsTo("/car/Tarnview.ini");
-    program->Start(commandLine, false);
-  }
-  void WriteMap() {
-    std::string text;
+  ZoneWindowsTest() {
+    std::string map;
     for (int line = 0; line < 16; ++line) {
-      for (int c = 0; c < 16; ++c) text += " 050";
-      text += "\r\n";
+      for (int c = 0; c < 16; ++c) map += " 050";
+      map += "\r\n";
     }
-    files.files["/car/a.map"] =
-        text +
-        " Engine Size: 1.8\r\n Chip Date: 2004-07-02\r\n Chip Version: 3\r\n"
-        " Atmospheric Pressure: 101\r\n";
+    files.files["/car/a.map"] = map +
+                                " Engine Size: 1.8\r\n Chip Date: 2004-07-02\r\n Chip Version: 3"
+                                "\r\n Atmospheric Pressure: 101\r\n";
+    files.folders.insert("/car/data");
+    // A program that keeps its settings, so that it keeps a journal beside them.
+    story.Verb("keep", [this](const auto& words) {
+      StartKeeping("[General]\r\nDefault Engine Size=1.8\r\n", {"/car/", "/car/data/"},
+                   words.empty() ? "" : words[0]);
+    });
+    story.Verb("note", [this](const auto&) { noted = files.files[kJournal]; });
+    story.Verb("crash", [this](const auto&) {
+      program.reset();
+      host.open.clear();
+      files.files[kJournal] = noted;
+    });
+    story.Fact("zones", [this] {
+      if (!Runs() || !Log().gblnZonesLoaded) return std::string();
+      return std::to_string(Log().zones.zones[6]) + " " + std::to_string(Log().zones.zones[7]);
+    });
+    story.Fact("journal", [this] { return files.files.contains(kJournal) ? "kept" : "none"; });
+    story.PassOver("grdD");
   }
-  /// Types a Choke Scale and presses a button of the editor.
-  void EditAnd(const char* button, const char* choke = "7") {
-    InEditor(std::string("type txtZone(6) ") + choke + "\nclick " + button);
-  }
-  void InEditor(const std::string& actions) {
-    host.work = [actions](Form& form) { Act(form, actions); };
-    Do("click mnuModulesZoneData");
-    host.work = nullptr;
-  }
-  int ChokeScale() { return Log().zones.zones[6]; }
+  std::string noted;
 };
 
-TEST_F(ZoneWindowsTest, WhatIsAcceptedIsTakenOver) {
-  WriteMap();
-  StartKeeping("/car/a.map");
-  EXPECT_TRUE(Main().mnuModulesZoneData.Enabled);
-  EditAnd("cmdOK");
-  EXPECT_EQ(ChokeScale(), 7);
-  EXPECT_TRUE(Log().gblnZonesDirty);
-  EXPECT_TRUE(files.files.contains(kJournal));
-  Do("click mnuFileSave");
-  EXPECT_FALSE(Log().gblnZonesDirty);
-  EXPECT_FALSE(files.files.contains(kJournal));
-
-  host.answers = {{Answer::Kind::Yes}};  // throws the edit away
-  EditAnd("cmdCancel", "9");
-  EXPECT_EQ(ChokeScale(), 7);
-  EXPECT_FALSE(Log().gblnZonesDirty);
-  EXPECT_FALSE(files.files.contains(kJournal));
-  InEditor("click cmdOK");
-  EXPECT_FALSE(Log().gblnZonesDirty);
+TEST_F(ZoneWindowsTest, WhatIsAcceptedIsTakenOverAndWhatACrashCutOffIsOfferedOnce) {
+  EXPECT_STORY(story, R"(
+keep /car/a.map -> +frmDataLogViewer, zones=50 50
+click mnuModulesZoneData -> +frmZoneData
+type txtZone(6) 7; click cmdOK -> wrote Tarnview_Zones.journal, -frmZoneData, edited=yes, zones=7 50, journal=kept
+click mnuFileSave -> wrote a.map Tarnview_Zones.journal, edited=no, journal=none, staDataLogViewer[0]=Saving complete
+click mnuModulesZoneData -> +frmZoneData
+# Throws the edit away.
+type txtZone(6) 9; answer yes; click cmdCancel -> [Are you sure you want to throw away those changes? yes], wrote Tarnview_Zones.journal Tarnview_Zones.journal, -frmZoneData
+click mnuModulesZoneData -> +frmZoneData
+click cmdOK -> -frmZoneData
+click mnuModulesZoneData -> +frmZoneData
+type txtZone(6) 8; type txtZone(7) 9; note; click cmdOK -> wrote Tarnview_Zones.journal Tarnview_Zones.journal, -frmZoneData, edited=yes, zones=8 9, journal=kept
+crash -> -frmDataLogViewer, edited=no, zones=
+answer yes; keep -> [Edits of the zones of a.map were not saved when Tarnview ended.\nDo you want to go on with them? yes], wrote Tarnview_Zones.journal Tarnview_Zones.journal, +frmDataLogViewer, +frmZoneData, zones=7 50
+show txtZone(6) txtZone(7) mnuEditUndo -> txtZone(6)=8, txtZone(7)=9, mnuEditUndo=&Undo Speedo. Calib. 50 to 9
+click mnuEditUndo; note; click cmdOK -> wrote Tarnview_Zones.journal, -frmZoneData, edited=yes, zones=8 50
+show caption; answer no; close -> caption=Tarnview - a.map (FM Link MAP File), [Do you want to save the changes made to a.map? no], wrote Tarnview_Zones.journal Tarnview.ini.old Tarnview.ini, -frmDataLogViewer, edited=no, zones=, journal=none
+# Its file has gone.
+crash; lose /car/a.map -> journal=kept
+answer no; keep -> [Edits of the zones of a.map were not saved when Tarnview ended.\nDo you want to go on with them? no], wrote Tarnview_Zones.journal, +frmDataLogViewer, journal=none
+crash -> -frmDataLogViewer, journal=kept
+answer yes; keep -> [Edits of the zones of a.map were not saved when Tarnview ended.\nDo you want to go on with them? yes], [53, File not found ok], [56 ok], [12 ok], wrote Tarnview_Zones.journal Tarnview_Zones.journal, +frmDataLogViewer, +frmZoneData, edited=yes, zones=7 50
+click cmdOK -> -frmZoneData, zones=8 50
+show "mnuFileSave enabled"
+put /car/Tarnview_Zones.journal nonsense; note; crash -> -frmDataLogViewer, edited=no, zones=
+keep -> wrote Tarnview_Zones.journal, +frmDataLogViewer, journal=none
+)");
 }
 
 TEST_F(ZoneWindowsTest, ACellGoesThroughItsSamplesInTheGraph) {
   const auto shape = [](SmallSample& one) { one.rpm = one.sample > 20 ? 2000 : 1000; };
   files.files["/car/a.txt"] = SmallLog(60, shape) + JoinLines(ZoneSectionLines(CountingZoneRows()));
-  StartKeeping("/car/a.txt");
-  Draw("25", "40");
-  std::string told;
-  const auto tell = [&](const Form& editor) {
-    const auto ring = dynamic_cast<const frmZoneData&>(editor).Grids.At(SheetGrid::Fuel).Ring();
-    told += std::to_string(Main().Selected().lngHighlightSample()) + " " +
-            std::to_string(static_cast<int>(ring->column * 10)) + " in " + Range() + "\n";
-  };
-  host.work = [&](Form& editor) {
-    Act(editor, "choose cboShowOnGrid Visits");
-    editor.Find("grdDrive", 0)->Do({"cell", {"2", "5"}});
-    tell(editor);
-    Act(editor, "click cmdNextInCell");
-    tell(editor);
-    Act(editor, "click chkWholeLog");
-    editor.Find("grdDrive", 1)->Do({"cell", {"2", "3"}});
-    tell(editor);
-  };
-  Do("click mnuModulesZoneData");
-  EXPECT_EQ(told, "25 45 in 25-40\n26 45 in 25-40\n1 25 in 1-8\n");
-}
-
-TEST_F(ZoneWindowsTest, EditsThatACrashCutOffAreOfferedOnce) {
-  WriteMap();
-  StartKeeping("/car/a.map");
-  EditAnd("cmdOK");
-  std::string lost;
-  host.work = [&](Form& form) {
-    Act(form, "type txtZone(6) 8\ntype txtZone(7) 9");
-    lost = files.files[kJournal];
-    Act(form, "click cmdOK");
-  };
-  Do("click mnuModulesZoneData");
-  program.reset();
-  host.open.clear();
-  host.messages.clear();
-
-  files.files[kJournal] = lost;
-  std::string steps;
-  host.answers = {{Answer::Kind::Yes}};
-  host.work = [&](Form& form) {
-    auto& editor = dynamic_cast<frmZoneData&>(form);
-    for (const auto& step : editor.History().Steps()) steps += step.name + "; ";
-    Act(editor, "click mnuEditUndo\nclick cmdOK");
-  };
-  StartKeeping();
-  EXPECT_EQ(host.messages[0].text,
-            "Edits of the zones of a.map were not saved when Tarnview ended.\r\nDo you want to go "
-            "on with them?");
-  EXPECT_EQ(steps, "Choke Scale 7 to 8; Speedo. Calib. 50 to 9; ");
-  EXPECT_EQ(ChokeScale(), 8);
-  EXPECT_EQ(Log().zones.zones[7], 50);
-  EXPECT_TRUE(Log().gblnZonesDirty);
-  EXPECT_EQ(Main().Caption(), "Tarnview - a.map (FM Link MAP File)");
-  host.answers = {{Answer::Kind::No}};
-  Main().Unload();
-  EXPECT_FALSE(files.files.contains(kJournal));
-}
-
-TEST_F(ZoneWindowsTest, LostEditsOfAFileThatHasGone) {
-  WriteMap();
-  StartKeeping("/car/a.map");
-  EditAnd("cmdOK");
-  const std::string lost = files.files[kJournal];
-  program.reset();
-  host.open.clear();
-  for (const auto answer : {Answer::Kind::No, Answer::Kind::Yes}) {
-    files.files.erase("/car/a.map");
-    files.files[kJournal] = lost;
-    host.answers = {{answer}};
-    host.work = [](Form& form) { Act(form, "click cmdOK"); };
-    StartKeeping();
-    EXPECT_EQ(Log().gblnZonesLoaded, answer == Answer::Kind::Yes);
-    if (answer == Answer::Kind::No) {
-      EXPECT_FALSE(files.files.contains(kJournal));
-    } else {
-      EXPECT_EQ(ChokeScale(), 7);
-      EXPECT_TRUE(Main().mnuFileSave.Enabled);
-    }
-    program.reset();
-    host.open.clear();
-  }
-  files.files[kJournal] = "nonsense";
-  host.messages.clear();
-  StartKeeping();
-  EXPECT_EQ(Boxes(), Ids{});
+  story.Fact("ring", [this] {
+    const auto* editor = host.Front() ? dynamic_cast<frmZoneData*>(host.Front()) : nullptr;
+    const auto ring = editor ? editor->Grids.At(SheetGrid::Fuel).Ring() : std::nullopt;
+    return ring ? NumberText(ring->column) : "none";
+  });
+  EXPECT_STORY(story, R"(
+keep /car/a.txt -> [17 ok], [8 ok], [9 ok], +frmDataLogViewer, graph=1-60 at 30, zones=6 7
+range 25 40 -> graph=25-40 at 30, PlotRangeFrom=25, PlotRangeTo=40
+click mnuModulesZoneData -> +frmZoneData, ring=4.5
+choose cboShowOnGrid Visits -> fraDrive(0) shown, fraDrive(0)=Visits (Samples), fraDrive(1) shown, fraDrive(1)=Visits (Samples), cboShowOnGrid=Visits
+cell grdDrive(0) 2 5 -> graph=25-40 at 25, frmDataLogViewer/staDataLogViewer[0]=Sample: 25, Secs: 2.048, lblStatus=Sample 25, one of 16 in this cell.
+click cmdNextInCell -> graph=25-40 at 26, frmDataLogViewer/staDataLogViewer[0]=Sample: 26, Secs: 2.130, lblStatus=Sample 26, one of 16 in this cell.
+click chkWholeLog -> chkWholeLog checked
+cell grdDrive(1) 2 3 -> graph=1-8 at 1, ring=2.5, frmDataLogViewer/PlotRangeFrom=1, frmDataLogViewer/PlotRangeTo=8, frmDataLogViewer/staDataLogViewer[0]=Sample: 1, Secs: 0.082, lblStatus=Sample 1, one of 20 in this cell.
+answer yes; click cmdCancel -> [Are you sure you want to throw away those changes? yes], -frmZoneData, ring=none
+)");
 }
 
 TEST_F(ZoneWindowsTest, Benchmarks) {
-  WriteMap();
-  StartKeeping("/car/a.map");
-  std::string told;
-  host.answers = {{Answer::Kind::File, "/car/a.map"}};
-  host.work = [&](Form& form) {
-    if (form.name == "frmMaint") {
-      told += form.Caption() + ": ";
-      Act(form, "click cmdNew\nclick cmdOK");
-    } else if (form.name == "frmBenchmarkDetails") {
-      Act(form, "type txtName Mine\nclick cmdBrowse\nclick cmdLoad\nclick cmdZones\nclick cmdOK");
-    } else {
-      told += form.Caption();
-      Act(form, "type txtZone(6) 3\nclick cmdOK");
-    }
-  };
-  Do("click mnuCustomiseBenchmarks");
-  EXPECT_EQ(told, "Zone Data Benchmark Editor: Tarnview Zone Data - Mine (benchmark)");
+  EXPECT_STORY(story, R"(
+keep /car/a.map -> +frmDataLogViewer, zones=50 50
+click mnuCustomiseBenchmarks -> +frmMaint
+show caption; click cmdNew -> caption=Zone Data Benchmark Editor, +frmBenchmarkDetails
+type txtName Mine; answer file /car/a.map; click cmdBrowse; click cmdLoad -> [open "Open" of FM Link Data Logs (*.txt) /car/a.map], txtName=Mine, txtFile=/car/a.map
+click cmdZones -> +frmZoneData
+show caption; type txtZone(6) 3; click cmdOK -> caption=Tarnview Zone Data - Mine (benchmark), -frmZoneData
+click cmdOK -> -frmBenchmarkDetails
+click cmdOK -> -frmMaint
+)");
   const clsBenchmarks& benchmarks = program->Global().gcolBenchmarks;
   ASSERT_EQ(benchmarks.Count(), 2);
   EXPECT_EQ(benchmarks.Item(2).strName + " " + benchmarks.Item(2).File, "Mine /car/a.map");
