@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "ui/Script.h"
 
 namespace tarnview {
@@ -15,6 +17,17 @@ TEST(Script, SplitsWordsAndPassesCommentsOver) {
   EXPECT_EQ(lines[0].words, (Words{"type", "txtName", "a \"b\" \\ c\nd"}));
   EXPECT_EQ(lines[1].words, (Words{"choose", "cboX", "#2"}));
   EXPECT_EQ(lines[2].words, (Words{""}));
+}
+
+TEST(Script, ComesLineByLineAndEnds) {
+  std::istringstream stream("one\r\n\ntwo\n");
+  for (const ScriptSource& next : {FromLines(ParseScript("one\n#\ntwo")), FromStream(stream)}) {
+    EXPECT_EQ(next()->words, Words{"one"});
+    const auto second = next();
+    EXPECT_EQ(second->words[0] + std::to_string(second->number), "two3");
+    EXPECT_FALSE(next());
+    EXPECT_FALSE(next());
+  }
 }
 
 TEST(Script, AnOpenQuoteNamesItsLine) {

@@ -30,6 +30,7 @@ struct AllKinds : Form {
     list.SetList({"a", "b"});
     combo.SetList({"a", "b"});
     timer.Enabled = true;
+    tabs.SetTabs({{"A"}, {"B"}});
     ListView::Row row;
     row.texts = {"a", "1"};
     view.SetRows({row});
@@ -62,15 +63,20 @@ struct AllKinds : Form {
 TEST(Verbs, EachKindTakesItsOwn) {
   RecordingHost host;
   AllKinds form(host);
-  const Action kActions[] = {
-      {"click", {}},         {"type", {"5"}},      {"choose", {"#0"}},    {"step", {"up"}},
-      {"scroll", {"3"}},     {"row", {"1"}},       {"tick", {"1", "on"}}, {"sort", {"A"}},
-      {"double", {"1"}},     {"cell", {"1", "1"}}, {"popup", {}},         {"point", {"1", "1"}},
-      {"wheel", {"1", "2"}}, {"hover", {}},        {"nonsense", {}},      {"", {}}};
-  // Behind a verb, "*" for each time that the control's content changes.
+  const Action kActions[] = {{"click", {}},         {"type", {"5"}},   {"choose", {"#0"}},
+                             {"step", {"up"}},      {"scroll", {"3"}}, {"row", {"1"}},
+                             {"tick", {"1", "on"}}, {"sort", {"A"}},   {"double", {"1"}},
+                             {"cell", {"1", "1"}},  {"popup", {}},     {"point", {"1", "1"}},
+                             {"wheel", {"1", "2"}}, {"hover", {}},     {"tab", {"B"}},
+                             {"nonsense", {}},      {"", {}}};
+  // Behind a verb, "*" for each time that the control's content changes, "^" where it gets the
+  // focus.
   std::string told = "\n";
   for (Control* control : form.Controls()) {
-    control->Watch([&](What what) { told += what == What::Content ? "*" : ""; });
+    control->Watch([&](What what) {
+      if (what == What::Content) told += "*";
+      if (what == What::Focus) told += "^";
+    });
     told += std::string(control->Kind()) + ":";
     for (const Action& action : kActions) {
       const std::string before = told;
@@ -84,9 +90,9 @@ TEST(Verbs, EachKindTakesItsOwn) {
     told += "\n";
   }
   ExpectTold(told, R"(
-check box: click*
-option button: click*
-button: click
+check box: click^*
+option button: click^*
+button: click^
 menu item: click
 list box: choose
 combo box: choose*
@@ -98,7 +104,7 @@ timer: click
 list: row tick* sort* double
 grid: cell popup
 chart: double popup point wheel hover
-tab strip:
+tab strip: tab*
 label:
 frame:
 picture:
