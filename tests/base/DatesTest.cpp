@@ -14,6 +14,9 @@ TEST(Dates, CountDaysAndRunOver) {
   EXPECT_EQ(MakeDate(2001, 0, 1), MakeDate(2000, 12, 1));
   EXPECT_EQ(MakeDate(2001, -12, 0), MakeDate(1999, 11, 30));
   EXPECT_EQ(MakeDate(2147483647, 2147483647, 2147483647), kNoDate);
+  for (const int year : {99, 10000}) EXPECT_EQ(MakeDate(year, 1, 1), kNoDate);
+  EXPECT_EQ(DateText(MakeDate(9999, 12, 31)) + DateText(MakeDate(100, 1, 1)),
+            "9999-12-310100-01-01");
   EXPECT_EQ(MakeDate(2001, 1, 2147483647), kNoDate);
   EXPECT_EQ(DateText(36951), "2001-03-01");
   EXPECT_EQ(DateText(MakeDate(2000, 2, 29)), "2000-02-29");
@@ -31,7 +34,7 @@ TEST(Dates, AreReadInManyForms) {
       {" 18 September 2001 ", "2001-09-18"}, {"Sep 18, 2001", "2001-09-18"}, {"2001-09-18", "2001-09-18"},
       {"2001-Sep-18", "2001-09-18"},         {"18/09/2001", "2001-09-18"},   {"09/10/2001", "2001-10-09"},
       {"09/18/2001", "2001-09-18"},          {"01-Jan-29", "2029-01-01"},    {"01-Jan-30", "1930-01-01"},
-      {"29-Feb-2000", "2000-02-29"},
+      {"29-Feb-2000", "2000-02-29"},         {"01-Jan-00", "2000-01-01"},
       // clang-format on
   };
   for (const auto& [text, date] : rows)

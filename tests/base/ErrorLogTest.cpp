@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "base/ErrorLog.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
@@ -54,6 +56,11 @@ TEST_F(ErrorLogTest, TellsOtherFailuresAsNumberFive) {
   EXPECT_FALSE(TrapEvent(log, "m", "p", [] { throw std::out_of_range("index"); }));
   EXPECT_NE(files.files["error.log"].find("Number       : 5 index\r\n"), std::string::npos);
   EXPECT_TRUE(TrapEvent(log, "m", "p", [] {}));
+}
+
+TEST_F(ErrorLogTest, TellsWantOfMemoryAndPassesItOn) {
+  EXPECT_THROW(TrapEvent(log, "m", "p", [] { throw std::bad_alloc(); }), std::bad_alloc);
+  EXPECT_NE(files.files["error.log"].find("Location     : Tarnview/m/p\r\n"), std::string::npos);
 }
 
 TEST_F(ErrorLogTest, IsGivenUpInSilence) {

@@ -12,6 +12,7 @@ TEST(Text, IsTrimmed) {
   EXPECT_EQ(TrimControlCharacters("\xe9 "), "\xe9");
   EXPECT_EQ(StripQuotes("\"a\"b\""), "a\"b");
   EXPECT_EQ(StripQuotes("\""), "");
+  EXPECT_EQ(OrElse("", "b") + OrElse("a", "b"), "ba");
 }
 
 TEST(Text, LosesSpecifiedCharsOnceAtEachEnd) {
