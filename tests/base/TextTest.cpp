@@ -51,9 +51,9 @@ TEST(Text, HasCapitalsBeyondAsciiInEitherEncoding) {
       {"Temp\u00e9rature", "TEMP\u00c9RATURE", "TEMP\u00c9RATURE"},  // UTF-8
       {"Temp\xe9rature", "TEMP\xc9RATURE", "TEMP\u00c9RATURE"},
       {"\xff\x9a\xf7\xdf", "\x9f\x8a\xf7\xdf", "\u0178\u0160\u00f7\u00df"},
-      {"\u0161\u0142\u017e \u03c9 \u044f\u0451 \U0001f600",
-       "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600",
-       "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0001f600"},
+      {"\u0161\u0142\u017e \u03c9 \u044f\u0451 \U0010f600",
+       "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0010f600",
+       "\u0160\u0141\u017d \u03a9 \u042f\u0401 \U0010f600"},
   };
   for (const auto& row : kRows) {
     EXPECT_EQ(Upper(row.text), row.upper);
