@@ -21,8 +21,10 @@ class ZoneWindowsTest : public ProgramFixture {
     files.folders.insert("/car/data");
     // A program that keeps its settings, so that it keeps a journal beside them.
     story.Verb("keep", [this](const auto& words) {
-      StartKeeping("[General]\r\nDefault Engine Size=1.8\r\n", {"/car/", "/car/data/"},
-                   words.empty() ? "" : words[0]);
+      StartKeeping(
+          "[General]\r\nDefault Engine Size=1.8\r\nDefault Chip Version=3\r\nDefault Chip "
+          "Date=2004-07-02\r\n",
+          {"/car/", "/car/data/"}, words.empty() ? "" : words[0]);
     });
     story.Verb("note", [this](const auto&) { noted = files.files[kJournal]; });
     story.Verb("crash", [this](const auto&) {
@@ -46,6 +48,9 @@ keep /car/a.map -> +frmDataLogViewer, zones=50 50
 click mnuModulesZoneData -> +frmZoneData
 type txtZone(6) 7; click cmdOK -> wrote Tarnview_Zones.journal, -frmZoneData, edited=yes, zones=7 50, journal=kept
 click mnuFileSave -> wrote a.map Tarnview_Zones.journal, edited=no, journal=none, staDataLogViewer[0]=Saving complete
+click mnuModulesZoneData -> +frmZoneData
+click cmdUpload -> [6 ok]
+close -> -frmZoneData
 click mnuModulesZoneData -> +frmZoneData
 # Throws the edit away.
 type txtZone(6) 9; answer yes; click cmdCancel -> [Are you sure you want to throw away those changes? yes], wrote Tarnview_Zones.journal Tarnview_Zones.journal, -frmZoneData
