@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -69,7 +70,8 @@ int YearOf(std::string_view text) {
   const int year = NumberOfDigits(text, 4);
   if (text.size() > 2) return year;
   if (year < 0) return -1;
-  return year + (year < 30 ? 2000 : 1900);
+  if (year < 30) return 2000 + year;
+  return 1900 + year;
 }
 
 std::optional<Date> InOrder(const std::array<std::string_view, 3>& parts, const Order& order) {
@@ -93,7 +95,8 @@ Date MakeDate(int year, int month, int day) {
                             chr::month(static_cast<unsigned>(months - wholeYear * 12) + 1) / 1};
   const std::int64_t days = std::int64_t{first.time_since_epoch().count()} + day - 1 + kDayOfEpoch;
   constexpr std::int64_t kFarthest = 3'000'000;  // past the year 9999
-  return days > -kFarthest && days < kFarthest ? static_cast<Date>(days) : kNoDate;
+  if (std::abs(days) >= kFarthest) return kNoDate;
+  return static_cast<Date>(days);
 }
 
 std::string DateText(Date date) {

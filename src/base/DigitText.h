@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 namespace tarnview {
@@ -31,7 +32,7 @@ class ShortNumberText {
     if (std::endian::native != std::endian::little || whole <= -kTooLong || whole >= kTooLong ||
         places > 7)
       return false;
-    const auto digits = EightDigitsOf(static_cast<std::uint32_t>(whole < 0 ? -whole : whole));
+    const auto digits = EightDigitsOf(static_cast<std::uint32_t>(std::abs(whole)));
     const int zeros = std::min(std::countr_zero(digits) / 8, 7 - places);  // in front of all
     const std::uint64_t text = (digits | kZeros) >> 8 * zeros;
     int length = 8 - zeros;

@@ -19,7 +19,7 @@ std::vector<std::string> NamesIn(const std::string& folder, const std::string& p
                                  bool foldersToo) {
   std::vector<std::string> names;
   std::error_code failed;
-  for (fs::directory_iterator at(folder.empty() ? "." : folder, failed), end; !failed && at != end;
+  for (fs::directory_iterator at(OrElse(folder, "."), failed), end; !failed && at != end;
        at.increment(failed)) {
     std::error_code unknown;
     const std::string name = at->path().filename().string();
@@ -65,7 +65,8 @@ std::string RealFileSystem::Absolute(const std::string& path) {
   if (failed) return path;
   // ".." behind a link to a folder leads elsewhere than its text says.
   const std::string plain = whole.lexically_normal().string();
-  return SameFile(whole.string(), plain) ? plain : whole.string();
+  if (SameFile(whole.string(), plain)) return plain;
+  return whole.string();
 }
 
 bool RealFileSystem::CopyFile(const std::string& from, const std::string& to) {

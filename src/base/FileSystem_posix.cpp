@@ -15,6 +15,7 @@
 
 #include "base/FileSystem.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 
 namespace tarnview {
 namespace {
@@ -111,9 +112,8 @@ void ClearLeftover(const std::string& path) {
 /// Brings a folder's new entry to the disk, so that it outlives a power cut; a disk that cannot do
 /// it is no failure.
 void FlushFolderOf(const std::string& path) {
-  const std::string folder = FolderOf(path);
-  const Descriptor opened(
-      ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const std::string folder = OrElse(FolderOf(path), ".");
+  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (opened) ::fsync(opened());
 }
 

@@ -3,6 +3,7 @@
 #undef CopyFile
 #undef DeleteFile
 
+#include <algorithm>
 #include <exception>
 #include <system_error>
 #include <utility>
@@ -33,6 +34,9 @@ class Handle {
 
 /// The most that one call moves; the calls count in 32 bits.
 constexpr std::size_t kMostAtOnce = 1u << 30;
+DWORD AtOnce(std::size_t bytes) {
+  return static_cast<DWORD>(std::min<std::size_t>(bytes, kMostAtOnce));
+}
 
 bool IsFolder(const std::string& path) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
@@ -50,7 +54,7 @@ void ClearAttributes(const std::string& path) {
 bool WriteAll(HANDLE file, std::string_view bytes) {
   while (!bytes.empty()) {
     DWORD written = 0;
-    const auto part = static_cast<DWORD>(bytes.size() < kMostAtOnce ? bytes.size() : kMostAtOnce);
+    const auto part = AtOnce(bytes.size());
     if (!WriteFile(file, bytes.data(), part, &written, nullptr) || written == 0) return false;
     bytes.remove_prefix(written);
   }
@@ -61,10 +65,7 @@ bool ReadAll(HANDLE file, FileBytes& bytes, std::size_t size) {
   bytes.Reserve(size);
   while (bytes.Room() > 0) {
     DWORD got = 0;
-    const std::size_t left = bytes.Room();
-    if (!ReadFile(file, bytes.End(), static_cast<DWORD>(left < kMostAtOnce ? left : kMostAtOnce),
-                  &got, nullptr))
-      return false;
+    if (!ReadFile(file, bytes.End(), AtOnce(bytes.Room()), &got, nullptr)) return false;
     if (got == 0) break;
     bytes.Add(got);
   }

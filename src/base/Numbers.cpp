@@ -4,6 +4,8 @@
 #include <charconv>
 #include <iterator>
 
+#include "base/Text.h"
+
 namespace tarnview {
 namespace {
 
@@ -88,7 +90,7 @@ Digits SignificantDigits(double value) {
   const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
   const auto e = text.find('e');
   Digits result;
-  result.sign = value < 0 ? "-" : "";
+  result.sign = TextIf(value < 0, "-");
   result.digits = std::string(text.substr(0, 1)) + std::string(text.substr(2, e - 2));
   result.digits.erase(result.digits.find_last_not_of('0') + 1);
   result.exponent = StringToLong(text.substr(e + 1));
@@ -102,7 +104,8 @@ bool IsNumeric(std::string_view text) { return EndOfNumeric(text, ScanNumber(tex
 double detail::StringToDoubleSlowly(std::string_view text) {
   const Scan scan = ScanNumber(text);
   const char* end = EndOfNumeric(text, scan);
-  return Convert(scan, end ? end : scan.end);
+  if (!end) end = scan.end;
+  return Convert(scan, end);
 }
 
 double detail::ValDoubleSlowly(std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -57,7 +58,7 @@ std::string FixedText(double value, int places);
 /// Writes a number of `places` decimals, told as a whole one of the last of them, in front of
 /// `end`; up to 39 bytes. Answers where it begins.
 inline char* PutBefore(char* end, std::int64_t whole, int places) {
-  auto rest = static_cast<std::uint64_t>(whole < 0 ? -whole : whole);
+  auto rest = static_cast<std::uint64_t>(std::abs(whole));
   for (int written = 0; rest != 0 || written <= places; ++written) {
     if (written == places && places > 0) *--end = '.';
     *--end = static_cast<char>('0' + rest % 10);

@@ -59,6 +59,11 @@ std::string AddBackslash(std::string_view path) {
   return folder;
 }
 
+std::string PathIn(std::string_view folder, std::string_view name) {
+  if (folder.empty()) return std::string(name);
+  return AddBackslash(folder) + std::string(name);
+}
+
 std::string FileTitle(std::string_view path) { return std::string(Title(path)); }
 
 std::string WithoutExtension(std::string_view path) {
@@ -73,8 +78,8 @@ std::string ShortPath(std::string_view path, std::size_t length) {
   // What stays in front is the drive or root, what stays behind is as many of the last folders as
   // fit.
   const auto first = path.find_first_of(kSeparators);
-  const auto head =
-      first == std::string_view::npos ? std::string_view() : path.substr(0, first + 1);
+  std::string_view head;
+  if (first != std::string_view::npos) head = path.substr(0, first + 1);
   for (auto at = head.size(); (at = path.find_first_of(kSeparators, at)) != std::string_view::npos;
        ++at)
     if (head.size() + kDots.size() + path.size() - at <= length)

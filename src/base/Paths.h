@@ -14,6 +14,8 @@ std::string GetExtension(std::string_view path);
 /// "C:\A\B\" gives "C:\A\".
 std::string GetParentFolder(std::string_view path);
 std::string AddBackslash(std::string_view path);
+/// The name behind its folder; alone where there is none.
+std::string PathIn(std::string_view folder, std::string_view name);
 /// The name without its folder.
 std::string FileTitle(std::string_view path);
 /// `path` without its last extension and the point before it.

@@ -78,8 +78,9 @@ std::optional<int> ExitCodeOf(pid_t process, int options) {
   while (ended < 0 && errno == EINTR);
   if (ended == 0) return std::nullopt;
   if (ended < 0) return 0;  // somebody else has taken its status
+  int code = WEXITSTATUS(status);
   // A program that a signal ended has the status that shells give it.
-  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+  if (WIFSIGNALED(status)) code = 128 + WTERMSIG(status);
   if (code < 128) return code;
   return code - 256;
 }

@@ -169,6 +169,15 @@ std::string CaseKey(std::string_view text) {
   return UpperUtf8(ToUtf8(text));
 }
 
+std::string WithLead(std::string_view lead, std::string_view text) {
+  if (text.empty()) return "";
+  return std::string(lead) + std::string(text);
+}
+
+std::string Counted(std::size_t count, std::string_view one) {
+  return std::to_string(count) + " " + std::string(one) + TextIf(count != 1, "s");
+}
+
 bool SameIgnoringCase(std::string_view a, std::string_view b) {
   if (IsAscii(a) != IsAscii(b)) return false;
   if (!IsAscii(a)) return CaseKey(a) == CaseKey(b);
@@ -251,7 +260,7 @@ bool TakeLine(std::string_view& rest, std::string_view& line) {
   if (rest.empty()) return false;
   const auto end = rest.find('\n');
   line = rest.substr(0, end);
-  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  rest.remove_prefix(std::min(line.size() + 1, rest.size()));
   if (line.ends_with('\r')) line.remove_suffix(1);
   return true;
 }

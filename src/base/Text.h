@@ -26,6 +26,15 @@ inline std::string OrElse(std::string_view text, std::string_view instead) {
   if (text.empty()) text = instead;
   return std::string(text);
 }
+/// The text where it is wanted, else none.
+inline std::string TextIf(bool wanted, std::string_view text) {
+  if (!wanted) text = {};
+  return std::string(text);
+}
+/// The text behind a lead; an empty text has none.
+std::string WithLead(std::string_view lead, std::string_view text);
+/// "1 sample", "2 samples".
+std::string Counted(std::size_t count, std::string_view one);
 /// In the text's own encoding: UTF-8 where all of it reads as such, else Windows-1252.
 std::string Upper(std::string_view text);
 /// Upper case as UTF-8, so that one word is the same in either encoding.
