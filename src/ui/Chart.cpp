@@ -73,9 +73,11 @@ void Chart::PerformPoint(const Action& action) {
 std::size_t Chart::PointsOf(int series) const {
   if (series < 1) return 0;
   const auto number = static_cast<std::size_t>(series);
-  if (const Surface* surface = data_.AsSurface())
-    return number <= surface->rows.size() ? surface->columns.size() : 0;
-  if (const PointCloud* cloud = data_.Cloud()) return number == 1 ? cloud->x.size() : 0;
+  const Surface* surface = data_.AsSurface();
+  if (surface && number <= surface->rows.size()) return surface->columns.size();
+  const PointCloud* cloud = data_.Cloud();
+  if (cloud && number == 1) return cloud->x.size();
+  if (surface || cloud) return 0;
   const std::size_t place = (number - 1) / 2;
   if (number % 2 == 1 && place < data_.Series().size()) return data_.Series()[place].x.size();
   return 0;

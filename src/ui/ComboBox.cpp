@@ -37,6 +37,13 @@ void ComboBox::SetListIndex(int entry) {
   if (Text() != before || ListIndex() != entryBefore) Click();
 }
 
+bool ComboBox::Choose(const std::string& text) {
+  const auto found = std::find(entries_.begin(), entries_.end(), text);
+  if (found == entries_.end()) return false;
+  SetListIndex(static_cast<int>(found - entries_.begin()));
+  return true;
+}
+
 void ComboBox::Describe(Object& facts) const {
   facts.emplace_back("list", MakeList(entries_));
   facts.emplace_back("selected", ListIndex());

@@ -23,6 +23,8 @@ class ComboBox : public Control {
   int ListIndex() const;
   /// Chooses an entry; an index outside the list empties Text.
   void SetListIndex(int entry);
+  /// Chooses the first entry of this text; false, and nothing changes, where there is none.
+  bool Choose(const std::string& text);
 
   std::string_view Kind() const override { return "combo box"; }
   bool TakesFocus() const override { return true; }

@@ -85,8 +85,8 @@ bool Form::KeyGoesDown(const KeyPress& key) {
 }
 
 bool Form::PressEnter() {
-  auto* focused = dynamic_cast<CommandButton*>(active_);
-  CommandButton* button = focused ? focused : DefaultButton;
+  auto* button = dynamic_cast<CommandButton*>(active_);
+  if (!button) button = DefaultButton;
   if (!button || !button->Enabled) return false;
   SetFocus(button);
   if (active_ == button) button->Press();

@@ -32,8 +32,9 @@ std::string Written(const KeyPress& key) {
   if (key.ctrl || key.alt) return "";
   if (key.key == "Minus") return "-";
   if (key.key.size() != 1) return "";
-  const auto letter = static_cast<unsigned char>(key.key[0]);
-  return std::string(1, static_cast<char>(key.shift ? letter : std::tolower(letter)));
+  if (key.shift) return key.key;
+  const int letter = std::tolower(static_cast<unsigned char>(key.key[0]));
+  return std::string(1, static_cast<char>(letter));
 }
 
 }  // namespace

@@ -17,8 +17,7 @@ std::weak_ordering Compare(const std::string& a, const std::string& b) {
   const bool yIsNumber =
       std::from_chars(b.data(), b.data() + b.size(), y).ptr == b.data() + b.size() && !b.empty();
   if (xIsNumber && yIsNumber) return std::weak_order(x, y);
-  if (xIsNumber != yIsNumber)
-    return xIsNumber ? std::weak_ordering::less : std::weak_ordering::greater;
+  if (xIsNumber != yIsNumber) return yIsNumber <=> xIsNumber;  // numbers before texts
   return a <=> b;
 }
 

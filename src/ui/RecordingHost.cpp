@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "base/Text.h"
 #include "ui/Form.h"
@@ -65,7 +66,8 @@ const char* Name(DialogKind kind) {
 
 Reply RecordingHost::Ask(const Box& box) {
   const auto answer = Next(answers);
-  const Reply reply = answer ? ReplyFor(box, answer->kind) : box.DefaultReply();
+  Reply reply = box.DefaultReply();
+  if (answer) reply = ReplyFor(box, answer->kind);
   messages.push_back(box);
   boxes.emplace_back(Object{{"id", box.id},
                             {"text", box.TextWithin(kMostDetailsTold)},
@@ -76,9 +78,9 @@ Reply RecordingHost::Ask(const Box& box) {
 }
 
 bool RecordingHost::Choose(Dialog& dialog) {
-  const Answer answer =
-      nextFile ? *nextFile : Next(answers).value_or(Answer{Answer::Kind::Cancel, {}, 0, 0});
-  nextFile.reset();
+  auto given = std::exchange(nextFile, std::nullopt);
+  if (!given) given = Next(answers);
+  const Answer answer = given.value_or(Answer{Answer::Kind::Cancel, {}, 0, 0});
   const bool chosen = answer.kind != Answer::Kind::Cancel && answer.kind != Answer::Kind::No;
   std::string reply = "cancel";
   if (chosen) {

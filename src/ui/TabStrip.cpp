@@ -45,8 +45,9 @@ void TabStrip::Describe(Object& facts) const {
   for (const Tab& tab : tabs_) captions.emplace_back(tab.caption);
   facts.emplace_back("list", std::move(captions));
   facts.emplace_back("selected", selected_ - 1);
-  facts.emplace_back("text", selected_ > 0 ? tabs_[static_cast<std::size_t>(selected_ - 1)].caption
-                                           : std::string());
+  std::string shown;
+  if (selected_ > 0) shown = tabs_[static_cast<std::size_t>(selected_ - 1)].caption;
+  facts.emplace_back("text", std::move(shown));
 }
 
 void TabStrip::Perform(const Action& action) {
