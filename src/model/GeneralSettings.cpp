@@ -41,9 +41,9 @@ void ReadEngineSize(S& settings, std::string_view text) {
 }
 
 void ReadComPort(S& settings, std::string_view text) {
-  const int port = StringToLong(text);
-  settings.gstrSerialComPort =
-      std::to_string(kComPortLimits.Allow(port) ? port : kComPortLimits.least);
+  int port = StringToLong(text);
+  if (!kComPortLimits.Allow(port)) port = kComPortLimits.least;
+  settings.gstrSerialComPort = std::to_string(port);
 }
 
 void ReadLineFrequency(S& settings, std::string_view text) {
@@ -94,7 +94,7 @@ constexpr Rule kUploadDefault{
     [](S& settings, std::string_view text) {
       settings.gblnUploadDefaults[N] = StringToDouble(text) != 0;
     },
-    [](const S& settings) { return std::string(settings.gblnUploadDefaults[N] ? "1" : "0"); },
+    [](const S& settings) { return FlagText(settings.gblnUploadDefaults[N], IniFlagForm::Number); },
     "1 or 0"};
 
 const IniKey<S> kUpToWindows[] = {

@@ -40,8 +40,8 @@ IniTable ReadINIFileToArray(std::string_view text) {
       continue;
     }
     const auto equals = line.find('=');
-    std::string value(equals == std::string_view::npos ? std::string_view()
-                                                       : line.substr(equals + 1));
+    std::string value;
+    if (equals != std::string_view::npos) value = line.substr(equals + 1);
     const auto unwritable = [](char c) { return c == '\r' || c == '\0'; };
     std::replace_if(value.begin(), value.end(), unwritable, ' ');  // as it would be written
     table.Add({section, std::string(line.substr(0, equals)), std::string(Trim(value))});

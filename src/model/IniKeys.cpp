@@ -34,15 +34,14 @@ std::string detail::LimitsText(Limits limits) {
   return std::to_string(limits.least) + " to " + std::to_string(limits.most);
 }
 
-std::string detail::FlagText(bool value, IniFlagForm form) {
-  switch (form) {
-    case IniFlagForm::Number:
-      return value ? "1" : "0";
-    case IniFlagForm::TrueOrNot:
-      return value ? "True" : "False";
-    default:
-      return value ? "Y" : "N";
-  }
+std::string FlagText(bool value, IniFlagForm form) {
+  struct Texts {
+    const char *off, *on;
+  };
+  constexpr Texts kTexts[] = {{"0", "1"}, {"N", "Y"}, {"N", "Y"}, {"False", "True"}};
+  const Texts& texts = kTexts[static_cast<std::size_t>(form)];
+  if (value) return texts.on;
+  return texts.off;
 }
 
 bool detail::ReadFlag(std::string_view text, IniFlagForm form) {

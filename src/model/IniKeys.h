@@ -22,7 +22,7 @@ namespace tarnview {
 /// What a whole or floating number outside its limits becomes.
 enum class IniBeyond { Clamped, Left };
 
-/// How a flag is read and written.
+/// How a flag is read and written; FlagText has the texts in this order.
 enum class IniFlagForm {
   Number,      ///< "1" or "0"; any number but 0 is on
   OnUnlessN,   ///< "Y" or "N"; any text but "N" is on
@@ -99,10 +99,10 @@ std::string ShortestText(double value);
 /// Item numbers with commas, each once; parts that are no number count as 0.
 std::vector<int> ReadItemNumbers(std::string_view text);
 std::string ItemNumbersText(const std::vector<int>& items);
+std::string FlagText(bool value, IniFlagForm form);
 
 namespace detail {
 
-std::string FlagText(bool value, IniFlagForm form);
 bool ReadFlag(std::string_view text, IniFlagForm form);
 std::string LimitsText(Limits limits);
 

@@ -12,9 +12,10 @@ using Rows = std::vector<IniRow>;
 /// Puts a row where it stands in the other program's order: behind the row that is ahead of it
 /// there.
 void Insert(Rows& rows, const IniRow& row, const IniRow* ahead) {
-  const auto found = std::find_if(
-      rows.begin(), rows.end(), [&](const IniRow& one) { return ahead && one.key == ahead->key; });
-  rows.insert(found == rows.end() ? found : found + 1, row);
+  auto place = std::find_if(rows.begin(), rows.end(),
+                            [&](const IniRow& one) { return ahead && one.key == ahead->key; });
+  if (place != rows.end()) ++place;
+  rows.insert(place, row);
 }
 
 }  // namespace
@@ -43,7 +44,8 @@ std::string MergeKeys(const SectionVersions& section) {
 }
 
 std::string MergeWhole(const SectionVersions& section) {
-  return std::string(section.held == section.read ? section.inFile : section.held);
+  if (section.held == section.read) return std::string(section.inFile);
+  return std::string(section.held);
 }
 
 }  // namespace tarnview

@@ -28,7 +28,8 @@ std::string TitleOf(const clsLogDataItem& item) {
 
 std::string EntryOf(const clsLogDataItem& item) {
   return std::to_string(item.lngColour) + "," + std::to_string(item.lngLineStyle) + "," +
-         std::to_string(item.lngLineWidth) + "," + (item.blnDisplay ? "Y" : "N") + "," +
+         std::to_string(item.lngLineWidth) + "," +
+         FlagText(item.blnDisplay, IniFlagForm::OnUnlessN) + "," +
          NumberText(item.dblSampleDisplayFactor) + "," + TitleOf(item);
 }
 

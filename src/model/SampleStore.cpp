@@ -23,7 +23,8 @@ LargeMemory MemoryFor(std::size_t columns, int capacity) {
 }  // namespace
 
 void SampleStore::Prepare(int columns, int expectedRows) {
-  capacity_ = columns > 0 ? std::clamp(expectedRows, kFewestRows, kMostSamples) : 0;
+  capacity_ = 0;
+  if (columns > 0) capacity_ = std::clamp(expectedRows, kFewestRows, kMostSamples);
   columns_.assign(static_cast<std::size_t>(std::max(columns, 0)), nullptr);
   gaps_.assign(columns_.size(), {});
   memory_ = LargeMemory();  // the old one goes before the new one comes
@@ -47,8 +48,8 @@ void SampleStore::Make(int column) {
 }
 
 void SampleStore::Grow() {
-  const int larger = std::max(capacity_ + capacity_ / 2, kFewestRows);
-  const int grown = capacity_ < kMostSamples ? std::min(larger, kMostSamples) : larger;
+  int grown = std::max(capacity_ + capacity_ / 2, kFewestRows);
+  if (capacity_ < kMostSamples) grown = std::min(grown, kMostSamples);
   LargeMemory memory = MemoryFor(columns_.size(), grown);
   const auto* const old = static_cast<const std::int32_t*>(memory_.Data());
   auto* const start = static_cast<std::int32_t*>(memory.Data());
@@ -81,7 +82,8 @@ void SampleStore::Fill(int column, int first, int end, std::int32_t value) {
 
 std::span<const std::int32_t> SampleStore::Column(int column) const {
   const std::int32_t* cells = columns_[static_cast<std::size_t>(column)];
-  return {cells, cells ? static_cast<std::size_t>(rows_) : 0};
+  if (!cells) return {};
+  return {cells, static_cast<std::size_t>(rows_)};
 }
 
 std::span<std::int32_t> SampleStore::Writable(int column) {

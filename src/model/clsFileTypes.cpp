@@ -19,14 +19,15 @@ std::string clsFileType::CommonDialogFilter() const {
 }
 
 std::string clsFileType::GetSingularDescription() const {
-  const bool plural = strDescription.ends_with('s') || strDescription.ends_with('S');
-  return strDescription.substr(0, strDescription.size() - (plural ? 1 : 0));
+  std::string one = strDescription;
+  if (one.ends_with('s') || one.ends_with('S')) one.pop_back();
+  return one;
 }
 
 void clsFileType::UpdateDescription(const std::string& name, const std::string& extension,
                                     bool force) {
-  strDescription =
-      (force || lngID == kUniversalLog ? clsFileTypes::GetGenericFileTypeNamePrefix() : "") + name;
+  const bool universal = force || lngID == kUniversalLog;
+  strDescription = TextIf(universal, clsFileTypes::GetGenericFileTypeNamePrefix()) + name;
   strFileExtension = extension;
 }
 

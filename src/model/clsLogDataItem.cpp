@@ -20,7 +20,8 @@ std::string WholeText(std::int64_t value) {
 std::int32_t RoundAsText(double value) {
   const double fraction = std::fabs(value - std::floor(value) - 0.5);
   constexpr double kFarFromHalf = 1e-4;  // the 15 digits of a number of 32 bits reach further
-  return fraction > kFarFromHalf ? RoundToLong(value) : StringToLong(NumberText(value));
+  if (fraction > kFarFromHalf) return RoundToLong(value);
+  return StringToLong(NumberText(value));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Text.h"
+
 namespace tarnview {
 namespace {
 
@@ -45,8 +47,8 @@ constexpr FamilyRow kLogFamilies[] = {
 }  // namespace
 
 void clsLogFamily::UpdateDescription(const std::string& name) {
-  strDescription =
-      (lngID == kUniversalFamily ? clsLogFamilies::GetGenericLogFamilyNamePrefix() : "") + name;
+  const bool universal = lngID == kUniversalFamily;
+  strDescription = TextIf(universal, clsLogFamilies::GetGenericLogFamilyNamePrefix()) + name;
 }
 
 bool clsLogFamily::Holds(int fileType) const {
