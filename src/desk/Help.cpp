@@ -3,6 +3,8 @@
 #include <cctype>
 #include <string_view>
 
+#include "base/Text.h"
+
 namespace tarnview {
 namespace {
 
@@ -30,8 +32,7 @@ std::string UrlOf(const std::string& path) {
 
 void Help::ShowHelp(const std::string& topic) {
   const std::string contents = UrlOf(folder_ + "Contents.htm");
-  const std::string instructions =
-      UrlOf(folder_ + "Instructions.htm") + (topic.empty() ? "" : "#" + topic);
+  const std::string instructions = UrlOf(folder_ + "Instructions.htm") + WithLead("#", topic);
   const std::string page =
       "<HEAD><title>Tarnview Instructions</title></HEAD>\r\n"
       "<frameset cols=\"216,1*\">\r\n"

@@ -53,8 +53,9 @@ void Messages::ShowMessageWithOffer(Message id, const std::string& extra, const 
 }
 
 bool Messages::AskQuestion(Question id, bool defaultNo) {
-  return Tell(QuestionText(id), kBoxYesNo | kBoxQuestion | (defaultNo ? kBoxSecondIsDefault : 0)) ==
-         Reply::Yes;
+  int style = kBoxYesNo | kBoxQuestion;
+  if (defaultNo) style |= kBoxSecondIsDefault;
+  return Tell(QuestionText(id), style) == Reply::Yes;
 }
 
 TellMessage Messages::Teller() {
@@ -83,15 +84,16 @@ std::string Messages::Text(Message id) const {
     if (fileTypeDescription_) return fileTypeDescription_(type);
     return "";
   };
-  const std::size_t length = description(wrong->lengthFrom).size();
-  return "That doesn't look like a " +
-         description(wrong->fileType).substr(0, length > 0 ? length - 1 : 0) +
+  std::size_t length = description(wrong->lengthFrom).size();
+  if (length > 0) --length;
+  return "That doesn't look like a " + description(wrong->fileType).substr(0, length) +
          " file to me.\r\nPlease ensure correct file type is chosen when opening a file.";
 }
 
 int Messages::Style(Message id) {
   const MessageRow* row = FindMessage(id);
-  return static_cast<int>(row ? row->icon : MessageIcon::Exclamation);
+  if (!row) return kBoxExclamation;
+  return static_cast<int>(row->icon);
 }
 
 }  // namespace tarnview

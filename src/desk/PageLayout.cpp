@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Text.h"
+
 namespace tarnview {
 namespace {
 
@@ -22,12 +24,16 @@ std::size_t FittingLength(const Page& page, const std::string& text, int points,
   std::size_t fits = 0;
   for (std::size_t most = text.size() + 1; most - fits > 1;) {
     const std::size_t middle = (fits + most) / 2;
-    (page.TextWidth(text.substr(0, middle), points) <= room ? fits : most) = middle;
+    if (page.TextWidth(text.substr(0, middle), points) <= room)
+      fits = middle;
+    else
+      most = middle;
   }
   if (fits == text.size()) return fits;
-  std::size_t stop = std::string::npos;
-  if (fits != 0) stop = text.find_last_of(" /\\", fits - 1);
-  return std::max<std::size_t>(stop == std::string::npos ? fits : stop + 1, 1);
+  if (fits == 0) return 1;
+  const std::size_t stop = text.find_last_of(" /\\", fits - 1);
+  if (stop == std::string::npos) return fits;
+  return stop + 1;
 }
 
 /// The details at one size: a label, or none, and a value that fits, for each line.
@@ -50,7 +56,7 @@ Details BreakIntoLines(const Page& page, const DetailRows& rows, int points) {
     for (bool first = true; first || !rest.empty(); first = false) {
       const std::string line = rest.substr(0, FittingLength(page, rest, points, room));
       rest.erase(0, line.size());
-      details.lines.emplace_back(first ? label : "", line);
+      details.lines.emplace_back(TextIf(first, label), line);
       details.value = std::max(details.value, page.TextWidth(line, points));
     }
   }

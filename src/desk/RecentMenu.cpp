@@ -4,16 +4,15 @@
 #include "base/Text.h"
 
 namespace tarnview {
-namespace {
 
-/// "&1 run.pow"; a "&" of a name is no mark of a letter to press.
-std::string CaptionOf(int place, const std::string& path) {
+std::string RecentCaption(int place, const std::string& path) {
   std::string caption = "&" + std::to_string(place) + " ";
-  for (const char one : ShortPath(path)) caption.append(one == '&' ? 2 : 1, one);
+  for (const char one : ShortPath(path)) {
+    caption += one;
+    if (one == '&') caption += one;  // doubled, it is no mark of a letter to press
+  }
   return caption;
 }
-
-}  // namespace
 
 void AddRecentPath(std::vector<std::string>& paths, const std::string& path, std::size_t most) {
   std::erase_if(paths, [&](const std::string& other) { return SameIgnoringCase(other, path); });
@@ -29,7 +28,7 @@ void ShowRecentPaths(ControlArray<MenuItem>& entries, MenuItem& separator,
     entry->Visible = place < paths.size();
     if (place >= paths.size()) continue;
     entry->Tag = entry->ToolTip = paths[place];
-    entry->Caption = CaptionOf(entry->index + 1, paths[place]);
+    entry->Caption = RecentCaption(entry->index + 1, paths[place]);
   }
 }
 

@@ -12,6 +12,9 @@ namespace tarnview {
 /// there.
 void AddRecentPath(std::vector<std::string>& paths, const std::string& path, std::size_t most);
 
+/// "&1 run.pow", of the entry at a place that counts from 1.
+std::string RecentCaption(int place, const std::string& path);
+
 /// Shows the paths, the latest first, as the entries of a menu; the rule before them is there with
 /// the first.
 void ShowRecentPaths(ControlArray<MenuItem>& entries, MenuItem& separator,
