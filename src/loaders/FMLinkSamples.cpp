@@ -24,7 +24,8 @@ constexpr Spread kSpreads[] = {{kVolt, 1, 1},   {kCTemp, 0, 1}, {kSpeed, 1, 10},
 constexpr Column kSwitches[] = {kEngFan, kCndFan, kAC, kPRC, kChPurge};
 
 std::int32_t Stored(const Spread& spread, double value) {
-  const double rounded = spread.places == 1 ? RoundHalfEven(value * 10) / 10 : RoundHalfEven(value);
+  double rounded = RoundHalfEven(value);
+  if (spread.places == 1) rounded = RoundHalfEven(value * 10) / 10;
   return RoundToLong(rounded * spread.factor);
 }
 
@@ -127,8 +128,10 @@ void FMLinkSamples::FinishTags() {
   MarkTag(false);
   const SampleStore& store = log_.glngDataLog;
   const int rows = store.Rows();
-  log_.gcolLogTags.Validate(rows > 0 ? store(kSample, 0) : 0,
-                            rows > 0 ? store(kSample, rows - 1) : 0);
+  if (rows > 0)
+    log_.gcolLogTags.Validate(store(kSample, 0), store(kSample, rows - 1));
+  else
+    log_.gcolLogTags.Validate(0, 0);
 }
 
 }  // namespace tarnview

@@ -144,9 +144,8 @@ std::size_t LinkPlusLog::ReadHeading() {
   for (const std::string& text : Split(lines_.Current(), kDelimiter))
     fields_.push_back(FindHeading(text));
   TextLines behind = lines_;
-  const std::size_t length = behind.AtEnd() ? 0 : behind.Next().size();
-  if (length > 0) return length;
-  return kUsualLineLength;
+  if (behind.AtEnd() || behind.Next().empty()) return kUsualLineLength;
+  return behind.Current().size();
 }
 
 void LinkPlusLog::ReadSamples(long lineStep) {

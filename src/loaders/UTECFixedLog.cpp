@@ -99,7 +99,7 @@ constexpr std::size_t kHeadingMayDiffer =
     2;  ///< so many characters, in a heading and in a line of data
 constexpr SampleLogKind kUTECFixedLog{.wrongFile = Message::NotAUTECFixedLog};
 
-std::size_t Apart(std::size_t a, std::size_t b) { return a > b ? a - b : b - a; }
+std::size_t Apart(std::size_t a, std::size_t b) { return std::max(a, b) - std::min(a, b); }
 bool Says(std::string_view line, const Heading& heading) {
   return SameIgnoringCase(Trim(line), Trim(heading.text));
 }
@@ -192,8 +192,8 @@ void UTECFixedLog::Store(const Known& known, std::string_view line) {
     case AirFuel:
       return StoreAirFuel(text, line);
     case ModifiedAdvance:
-      return IsECUs(text) ? samples_.KeepAdvance()
-                          : samples_.Set(known.rule, known.column, StringToDouble(text));
+      if (IsECUs(text)) return samples_.KeepAdvance();
+      return samples_.Set(known.rule, known.column, StringToDouble(text));
     case CoolantTemp:
     case AirTemp:
       return samples_.Set(known.rule, known.column, StringToLong(text));
