@@ -33,9 +33,9 @@ std::string_view RetrieveAutoTuneType(double, Date chipDate, int chipVersion,
   const int flags = zones[zone::kFlags];
   if (!BitIsSet(flags, z5::kAutoTune)) return "Off";
   if (!BitIsSet(flags, z5::kL3)) return "Lambda";
-  if (chipDate >= GetL4DisableDate(chipVersion))
-    return BitIsSet(zones[zone::kMoreFlags], z800::kL3Alone) ? "L3" : "L3+L4";
-  if (chipDate >= GetL4EnableDate(chipVersion)) return "L3+L4";
+  const bool chooses = chipDate >= GetL4DisableDate(chipVersion);
+  if (chooses && BitIsSet(zones[zone::kMoreFlags], z800::kL3Alone)) return "L3";
+  if (chooses || chipDate >= GetL4EnableDate(chipVersion)) return "L3+L4";
   if (chipDate >= kFirstL3) return "L3";
   return "Lambda";
 }
@@ -61,7 +61,9 @@ void SetAutoTuneType(std::string_view type, const ChipIdentity& chip, int& flags
 std::vector<std::string_view> O2Sensors(const ChipIdentity& chip, bool EGRInUse,
                                         std::string_view autoTuneType) {
   const bool first = chip.intChipVersion == 1;
-  const bool wideBand = chip.datChipDate >= (first ? MakeDate(2003, 3, 15) : MakeDate(2002, 6, 10));
+  Date firstWideBand = MakeDate(2002, 6, 10);
+  if (first) firstWideBand = MakeDate(2003, 3, 15);
+  const bool wideBand = chip.datChipDate >= firstWideBand;
   std::vector<std::string_view> sensors{"NB"};
   if (!wideBand || (EGRInUse && !first)) return sensors;
   sensors.push_back("WB");
@@ -72,9 +74,10 @@ std::vector<std::string_view> O2Sensors(const ChipIdentity& chip, bool EGRInUse,
 
 O2Sensor GetO2Sensor(bool bit3, bool bit4, int chipVersion, Date chipDate) {
   if (chipDate < MakeDate(2002, 6, 10)) return {"", bit3, bit4};
-  if (chipDate < MakeDate(2004, 5, 8)) return {bit4 ? "WB" : "NB", bit3};
   if (!bit4) return {"NB", bit3};
-  return {bit3 && chipVersion == 3 ? "NB+WB" : "WB", false};
+  if (chipDate < MakeDate(2004, 5, 8)) return {"WB", bit3};
+  if (bit3 && chipVersion == 3) return {"NB+WB", false};
+  return {"WB", false};
 }
 
 }  // namespace tarnview

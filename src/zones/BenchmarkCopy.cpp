@@ -164,10 +164,11 @@ class Copy {
   /// By the source's rule, so that a number means what it meant there.
   void CopyZone(int zone) {
     const GeneralZone* field = FindGeneralZone(zone, source_.chip);
-    const int raw = source_.zones[static_cast<std::size_t>(zone)];
-    const int shown = field ? field->ToShown(raw) : raw;
-    const bool held = SizeMatters(zone) && source_.chip.dblEngineSize != Sheet().chip.dblEngineSize;
-    Sheet().Shown(zone) = held ? Forced(Sheet(), zone, shown) : shown;
+    int shown = source_.zones[static_cast<std::size_t>(zone)];
+    if (field) shown = field->ToShown(shown);
+    if (SizeMatters(zone) && source_.chip.dblEngineSize != Sheet().chip.dblEngineSize)
+      shown = Forced(Sheet(), zone, shown);
+    Sheet().Shown(zone) = shown;
   }
 
   void CopyFields() {

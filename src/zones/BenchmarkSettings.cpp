@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "base/Text.h"
 #include "model/IniKeys.h"
 #include "zones/ChipIdentity.h"
 
@@ -69,7 +70,7 @@ std::string LineText(const B& benchmark, int line) {
   for (int c = 0; c < kZonesOfLine; ++c) {
     const int value = std::clamp<int>(benchmark.ZoneSettings(kZonesOfLine * line + c),
                                       kLeastOfField, kMostOfField);
-    text += (value < 0 ? "" : " ") + PaddedText(value, 3);
+    text += TextIf(value >= 0, " ") + PaddedText(value, 3);
   }
   return text;
 }

@@ -39,7 +39,8 @@ std::optional<Date> DateByPosition(std::string_view text) {
   const int day = StringToLong(From(text, 0, 2));
   const int month = MonthIn(From(text, hyphens ? 3 : 2, 3));
   const bool shortYear = hyphens && text.size() <= 9;
-  const int year = shortYear ? 2000 + StringToLong(Last(text, 2)) : StringToLong(Last(text, 4));
+  int year = StringToLong(Last(text, 4));
+  if (shortYear) year = 2000 + StringToLong(Last(text, 2));
   if (year == 0 || month == 0 || day == 0) return std::nullopt;
   return MakeDate(year, month, day);
 }

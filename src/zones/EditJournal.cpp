@@ -72,12 +72,12 @@ const Date kLastDate = MakeDate(9999, 12, 31);
 Facts FactsOf(const ZoneSheet& sheet) {
   Facts facts;
   for (const int shown : sheet.shown) facts.push_back(std::to_string(shown));
-  for (const bool tick : sheet.ticks) facts.push_back(tick ? "1" : "0");
-  facts.insert(facts.end(),
-               {std::string(EngineSizeText(sheet.chip.dblEngineSize)),
-                std::to_string(sheet.chip.datChipDate),
-                std::to_string(sheet.intAtmosphericPressure), sheet.strNotes, sheet.MAPID,
-                sheet.autoTuneType, sheet.O2Sensor, sheet.boostTargets ? "1" : "0"});
+  for (const bool tick : sheet.ticks) facts.push_back(FlagText(tick, IniFlagForm::Number));
+  facts.insert(facts.end(), {std::string(EngineSizeText(sheet.chip.dblEngineSize)),
+                             std::to_string(sheet.chip.datChipDate),
+                             std::to_string(sheet.intAtmosphericPressure), sheet.strNotes,
+                             sheet.MAPID, sheet.autoTuneType, sheet.O2Sensor,
+                             FlagText(sheet.boostTargets, IniFlagForm::Number)});
   return facts;
 }
 

@@ -38,7 +38,8 @@ std::string ChosenType(const std::string& chosen, const std::vector<std::string_
 /// The sensor lists begin alike, so that a place on a longer one, held to a shorter, is this.
 std::string ChosenSensor(const std::string& chosen, const std::vector<std::string_view>& sensors) {
   if (std::find(sensors.begin(), sensors.end(), chosen) != sensors.end()) return chosen;
-  return std::string(chosen == "NB+WB" ? sensors.back() : sensors.front());
+  if (chosen == "NB+WB") return std::string(sensors.back());
+  return std::string(sensors.front());
 }
 
 ZoneSheet WithSensorRules(ZoneSheet sheet) {
@@ -153,8 +154,9 @@ bool MeanSaysBoostTargets(const ZoneSheet& sheet) {
 
 ZoneSheet WithCell(ZoneSheet sheet, int zone, std::string_view text) {
   if (IsBlackedOut(sheet, zone)) return sheet;
-  const int least = FieldRange(sheet, zone).low;
-  sheet.Shown(zone) = Forced(sheet, zone, IsNumeric(text) ? StringToLong(text) : least);
+  int number = FieldRange(sheet, zone).low;
+  if (IsNumeric(text)) number = StringToLong(text);
+  sheet.Shown(zone) = Forced(sheet, zone, number);
   return sheet;
 }
 

@@ -45,9 +45,13 @@ bool GetTPSIdleValue(const ZoneSettings& zones) {
 }
 
 void SetTPSIdleValue(ZoneSettings& zones, int chipVersion, bool on) {
-  const bool first = chipVersion == 1;
-  auto& flags = zones[first ? zone::kFlags : zone::kMoreFlags];
-  flags = static_cast<std::int16_t>(SetBit(flags, first ? z5::kByChip : z800::kTPSIdle, on));
+  const auto set = [&](std::size_t zone, int bit) {
+    zones[zone] = static_cast<std::int16_t>(SetBit(zones[zone], bit, on));
+  };
+  if (chipVersion == 1)
+    set(zone::kFlags, z5::kByChip);
+  else
+    set(zone::kMoreFlags, z800::kTPSIdle);
 }
 
 }  // namespace tarnview

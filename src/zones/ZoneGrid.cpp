@@ -58,8 +58,8 @@ ZoneRows RowAndRowMAPCalc(bool normallyAspirated, std::int32_t MAP) {
 ZoneRows CalcZoneRowBoundaries(std::int32_t MAP, bool normallyAspirated, std::string_view O2Sensor,
                                std::string_view autoTuneType, std::int32_t RPM) {
   constexpr std::int32_t kNarrowBandBelow = 640;
-  const std::int32_t held =
-      normallyAspirated ? std::clamp(MAP, 300, 960) : std::clamp(MAP, 200, 2190);
+  std::int32_t held = std::clamp(MAP, 200, 2190);
+  if (normallyAspirated) held = std::clamp(MAP, 300, 960);
   ZoneRows rows;
   if (O2Sensor == "NB+WB" && held < kNarrowBandBelow &&
       (autoTuneType == "L3" || autoTuneType == "L3+L4")) {

@@ -14,7 +14,9 @@ ZoneRange ParseZoneRange(std::string_view text) {
 
 std::string PrimeFactorRange(int masterFuel) {
   constexpr int kMost = 13150;
-  return "000/" + PaddedText(masterFuel > 0 ? std::min(255, kMost / masterFuel) : 255, 3);
+  int most = 255;
+  if (masterFuel > 0) most = std::min(most, kMost / masterFuel);
+  return "000/" + PaddedText(most, 3);
 }
 
 }  // namespace tarnview

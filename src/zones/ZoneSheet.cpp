@@ -15,7 +15,8 @@ constexpr std::string_view kFuelRange = "000/255", kIgnitionRange = "000/239";
 const Date kFirstSensorDate = MakeDate(2002, 6, 10);  ///< before it, bit 4 of z5 is " M. Fuel"
 
 std::int16_t Raw(const GeneralZone* field, int shown) {
-  return static_cast<std::int16_t>(field ? field->ToRaw(shown) : shown);
+  if (field) shown = field->ToRaw(shown);
+  return static_cast<std::int16_t>(shown);
 }
 
 /// z5, but for its auto tune type, from nothing: what no box stands for is lost.
@@ -79,8 +80,10 @@ std::string_view RangeOf(const ZoneSheet& sheet, int zone) {
 ZoneSheet OpenSheet(const ZoneMap& map) {
   ZoneSheet sheet;
   const auto fields = GeneralZonesOf(map.chip);
-  for (std::size_t zone = 0; zone < map.zones.size(); ++zone)
-    sheet.shown[zone] = fields[zone] ? fields[zone]->ToShown(map.zones[zone]) : map.zones[zone];
+  for (std::size_t zone = 0; zone < map.zones.size(); ++zone) {
+    sheet.shown[zone] = map.zones[zone];
+    if (fields[zone]) sheet.shown[zone] = fields[zone]->ToShown(map.zones[zone]);
+  }
   sheet.chip = map.chip;
   sheet.intAtmosphericPressure = map.intAtmosphericPressure;
   sheet.strNotes = map.strNotes;

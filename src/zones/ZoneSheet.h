@@ -42,6 +42,12 @@ inline ZoneMap Rebuild(const ZoneSheet& sheet, const ZoneMap& source) {
   return Rebuild(sheet, source, sheet.chip);
 }
 
+/// Of z725 to z775: "kPa", or "Pct" of the wastegate's cycle.
+inline std::string_view BoostUnit(const ZoneSheet& sheet) {
+  if (sheet.boostTargets) return "kPa";
+  return "Pct";
+}
+
 // What a sheet's chip has.
 
 bool FieldExists(const ZoneSheet& sheet, int zone);
