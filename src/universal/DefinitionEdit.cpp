@@ -13,7 +13,7 @@ bool IsTime(const clsDataLogColumn& column) { return column.lngDataItemID == Ite
 
 /// The definition column reads this column of a log.
 bool Reads(const clsDataLogColumn& column, const ShapeColumn& of) {
-  const std::string& title = of.header.empty() ? of.title : of.header;
+  const std::string title = OrElse(of.header, of.title);
   return SameIgnoringCase(Trim(title), Trim(column.strColumnTitle)) &&
          (column.lngTitleOccurrence == 0 || column.lngTitleOccurrence == of.occurrence);
 }
@@ -23,7 +23,8 @@ const clsDataLogColumn* ColumnFor(const clsDataLog& definition, const ShapeColum
   const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& column) {
     return !IsTime(column) && Reads(column, of);
   });
-  return found == columns.end() ? nullptr : &*found;
+  if (found == columns.end()) return nullptr;
+  return &*found;
 }
 
 ShapeItem ItemOfColumn(const clsDataLogColumn& column) {
@@ -84,8 +85,9 @@ class Merge {
       : old_(definition), shape_(shape), edits_(edits) {
     for (const clsDataLogColumn& column : old_.objColumns)
       nextOwn_ = std::max(nextOwn_, column.lngDataItemID + 1);
-    made_ = DefinitionOfShape(Numbered(), edits.name, old_.strFileExtension,
-                              old_.dblLineFrequency > 0 ? old_.dblLineFrequency : 10);
+    double linesASecond = 10;
+    if (old_.dblLineFrequency > 0) linesASecond = old_.dblLineFrequency;
+    made_ = DefinitionOfShape(Numbered(), edits.name, old_.strFileExtension, linesASecond);
   }
 
   clsDataLog Run() {
@@ -152,8 +154,8 @@ class Merge {
 ShapeChoices ChoicesOf(const clsDataLog& definition) {
   ShapeChoices choices;
   choices.encoding = EncodingOfName(definition.strEncoding);
-  choices.delimiter =
-      definition.blnDelimiterRuns ? ' ' : static_cast<char>(definition.lngDelimiterAsciiCharacter);
+  choices.delimiter = static_cast<char>(definition.lngDelimiterAsciiCharacter);
+  if (definition.blnDelimiterRuns) choices.delimiter = ' ';
   choices.decimalSign = definition.strDecimalSign == "," ? ',' : '.';
   if (!definition.strTimeForm.empty()) choices.timeForm = TimeFormOfName(definition.strTimeForm);
   if (definition.dblLineFrequency > 0) choices.lineFrequency = definition.dblLineFrequency;

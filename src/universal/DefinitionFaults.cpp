@@ -122,13 +122,13 @@ Texts NameAndItem(const ColumnBlock& c) {
 constexpr Check<ColumnBlock> kColumnChecks[] = {
     {Message::ColumnIncomplete, IsIncomplete,
      [](const ColumnBlock& c) {
-       return Texts{
-           Line("Column Name: ", c.it.strName),
-           Line("Column Title: ", c.it.strColumnTitle),
-           Line("Description: ", c.it.strDescription),
-           Line("Data Item ID: ", c.it.lngDataItemID),
-           Line("Column Data Type: ", c.it.lngType),
-           Line("Column Decimal Places Set: ", c.it.lngColumnDecimalPlaces.IsSet() ? "Y" : "N")};
+       return Texts{Line("Column Name: ", c.it.strName),
+                    Line("Column Title: ", c.it.strColumnTitle),
+                    Line("Description: ", c.it.strDescription),
+                    Line("Data Item ID: ", c.it.lngDataItemID),
+                    Line("Column Data Type: ", c.it.lngType),
+                    Line("Column Decimal Places Set: ",
+                         FlagText(c.it.lngColumnDecimalPlaces.IsSet(), IniFlagForm::OnUnlessN))};
      }},
     {Message::DataItemCannotBeUsed, FeedsSample, NameAndItem},
     {Message::NoValidRange, HasNoRange,

@@ -41,9 +41,10 @@ std::optional<clsDataLog> DefinitionFiles::LoadDataLogDefinition(const std::stri
 }
 
 clsDataLog DefinitionFiles::LoadDataLogDefinitionWrapper(const std::string& strFileName) {
-  auto definition = strFileName.empty() ? std::nullopt : LoadDataLogDefinition(strFileName);
-  if (definition) return std::move(*definition);
-  return DefaultDataLogDefinition();
+  if (strFileName.empty()) return DefaultDataLogDefinition();
+  auto definition = LoadDataLogDefinition(strFileName);
+  if (!definition) return DefaultDataLogDefinition();
+  return std::move(*definition);
 }
 
 std::vector<DefinitionChoice> DefinitionFiles::GenericFileLocation(const std::string& folder) {

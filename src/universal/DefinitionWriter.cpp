@@ -4,6 +4,7 @@
 #include <variant>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "universal/DefinitionAttributes.h"
 
 namespace tarnview {
@@ -34,9 +35,9 @@ std::string TextOf(const Clamped<kPlainNumber, kDateAndTime>& value) {
   return std::to_string(std::int32_t{value});
 }
 std::string TextOf(const std::vector<int>& values) {
-  std::string text;
-  for (const int value : values) text += (text.empty() ? "" : ",") + std::to_string(value);
-  return text;
+  std::vector<std::string> texts;
+  for (const int value : values) texts.push_back(std::to_string(value));
+  return Join(texts, ",");
 }
 
 template <class T>

@@ -22,8 +22,8 @@ bool IsUtf8(const clsDataLog& definition) {
 /// to hold delimiters.
 std::vector<std::string> TitlesOfLine(std::string_view line, std::size_t fieldsOfData,
                                       const clsDataLog& definition) {
-  const std::string decoded =
-      IsUtf8(definition) ? PlainBytes(line, TextEncoding::Utf8) : std::string(line);
+  std::string decoded(line);
+  if (IsUtf8(definition)) decoded = PlainBytes(line, TextEncoding::Utf8);
   std::string_view text = decoded;
   text.remove_prefix(TitleMarkOf(text).size());
   const auto fields = SplitFields(text, definition.lngDelimiterAsciiCharacter);

@@ -48,18 +48,24 @@ std::int32_t ValueLookup::operator()(std::string_view field) {
 
 FieldTarget::FieldTarget(const clsDataLogColumn& it)
     : column(it.lngDataItemID - 1),
-      factor(it.dblConversionFactor != 0 ? it.dblConversionFactor.Value() : 1),
+      factor(it.dblConversionFactor),
       bounded(it.dblMinValue.IsSet() || it.dblMaxValue.IsSet()),
       setToMin(it.blnSetToMinimum),
       setToMax(it.blnSetToMaximum),
       negative(it.blnSigned),
-      min(it.dblMinValue.IsSet() ? it.dblMinValue.Value() : -kBeyond),
-      max(it.dblMaxValue.IsSet() ? it.dblMaxValue.Value() : kBeyond),
+      min(-kBeyond),
+      max(kBeyond),
       scale(it.Scale()),
       storedOffset(it.Scale() * it.dblOffset) {
-  (it.blnConversionFactorFirst ? after : before) = it.dblConversionOffset;
-  if (it.lngType == kNumericColumn)
-    kind = it.lngConversionType == kDateAndTime ? Kind::Date : Kind::Number;
+  if (factor == 0) factor = 1;
+  if (it.dblMinValue.IsSet()) min = it.dblMinValue;
+  if (it.dblMaxValue.IsSet()) max = it.dblMaxValue;
+  if (it.blnConversionFactorFirst)
+    after = it.dblConversionOffset;
+  else
+    before = it.dblConversionOffset;
+  if (it.lngType == kNumericColumn) kind = Kind::Number;
+  if (kind == Kind::Number && it.lngConversionType == kDateAndTime) kind = Kind::Date;
   if (kind == Kind::Number && !bounded && factor == 1 && before == 0 && after == 0 &&
       storedOffset == 0)
     tens = TensOf(scale);
@@ -134,8 +140,8 @@ std::vector<std::string_view> SplitFields(std::string_view line, std::int32_t de
   std::vector<std::string_view> fields;
   if (line.empty()) return fields;
   while (fields.size() < kMostFields) {
-    const auto end =
-        delimiter <= 255 ? line.find(static_cast<char>(delimiter)) : std::string_view::npos;
+    auto end = std::string_view::npos;
+    if (delimiter <= 255) end = line.find(static_cast<char>(delimiter));
     fields.push_back(line.substr(0, end));
     if (end == std::string_view::npos) return fields;
     line.remove_prefix(end + 1);

@@ -67,7 +67,7 @@ class Reader {
       return false;
     }
     Tell("Lines: " + TitleLinesText(rows) +
-         (rows.unitsLine < 0 ? "" : ", units in line " + std::to_string(rows.unitsLine + 1)) +
+         TextIf(rows.unitsLine >= 0, ", units in line " + std::to_string(rows.unitsLine + 1)) +
          ", data from line " + std::to_string(rows.dataLine + 1));
     return true;
   }
@@ -235,12 +235,14 @@ class Reader {
 
   int Score() const {
     if (table_.size() < kFewestLines) return 0;
-    const double titles = shape_.rows.titleLine >= 0 || shape_.channelTitles ? 1 : 0;
-    double time = 0;
+    double titles = 0, time = 0;
+    if (shape_.rows.titleLine >= 0 || shape_.channelTitles) titles = 1;
     if (shape_.HasClock()) time = shape_.time.score / 100.0;
     if (shape_.lineFrequency > 0) time = 0.8;
-    const double score = 35 * shape_.rows.dataShare + 20 * titles + 25 * time + 20 * guess_.numeric;
-    return static_cast<int>(std::min(score, 100.0) * (guess_.form.delimiter == ' ' ? 0.9 : 1));
+    double score = 35 * shape_.rows.dataShare + 20 * titles + 25 * time + 20 * guess_.numeric;
+    score = std::min(score, 100.0);
+    if (guess_.form.delimiter == ' ') score *= 0.9;
+    return static_cast<int>(score);
   }
 
   const ShapeText& text_;
@@ -258,11 +260,12 @@ class Reader {
 LogShape ReadLogShape(std::string_view bytes, const TitleDictionary& dictionary,
                       const clsLogDataItems& catalogue, const ShapeChoices& choices) {
   const ShapeText text(bytes, choices.encoding);
-  if (text.encoding.score == 0 || text.head.size() < kFewestLines) {
-    LogShape none;
-    none.why.emplace_back(text.encoding.score == 0 ? text.encoding.why : "fewer than three lines");
-    return none;
-  }
+  LogShape none;
+  if (text.encoding.score == 0)
+    none.why.push_back(text.encoding.why);
+  else if (text.head.size() < kFewestLines)
+    none.why.emplace_back("fewer than three lines");
+  if (!none.why.empty()) return none;
   return Reader(text, dictionary, catalogue, choices).Read();
 }
 

@@ -98,8 +98,10 @@ void NoValues::Write(SampleStore& store, int column, int first, std::size_t line
   if (gaps != 0) store.SetGaps(column, first, lines, gaps);
   const auto known = last_.find(column);
   if (known == last_.end() && gaps == BitsOf(lines)) return;  // nothing yet
-  std::int32_t last = known != last_.end() ? known->second : 0;
-  if (known == last_.end()) {
+  std::int32_t last = 0;
+  if (known != last_.end()) {
+    last = known->second;
+  } else {
     last = cells[static_cast<std::size_t>(std::countr_zero(~gaps))];
     store.Fill(column, 0, first, last);
   }

@@ -17,11 +17,10 @@ void TakeForm(clsDataLog& definition, const LogShape& shape) {
   if (shape.form.decimalSign == ',') definition.strDecimalSign = ",";
   definition.strEncoding = EncodingName(shape.encoding);
   definition.strCommentPrefix = shape.rows.commentPrefix;
-  std::string texts;
-  for (const std::string_view text : NoValueTexts())
-    texts += (texts.empty() ? "" : "|") + std::string(text);
-  for (const std::string& text : shape.noValueTexts) texts += "|" + text;
-  definition.strNoValueTexts = texts;
+  const auto known = NoValueTexts();
+  std::vector<std::string> texts(known.begin(), known.end());
+  texts.insert(texts.end(), shape.noValueTexts.begin(), shape.noValueTexts.end());
+  definition.strNoValueTexts = Join(texts, "|");
 }
 
 /// The first two titles are enough to find their line again, however long the preamble of another
@@ -109,8 +108,10 @@ clsDataLog DefinitionOfShape(const LogShape& shape, const std::string& name,
   TakeLines(definition, shape);
   if (shape.HasClock())
     definition.strTimeForm = TimeFormName(shape.time.form);
+  else if (shape.lineFrequency > 0)
+    definition.dblLineFrequency = shape.lineFrequency;
   else
-    definition.dblLineFrequency = shape.lineFrequency > 0 ? shape.lineFrequency : linesASecond;
+    definition.dblLineFrequency = linesASecond;
   for (std::size_t at = 0; at < shape.columns.size(); ++at) {
     if (shape.items[at].item <= 0) continue;
     const bool clock = static_cast<int>(at) == shape.time.column;

@@ -148,7 +148,8 @@ std::optional<FieldNumber> ReadShapeNumber(std::string_view text, char decimalSi
   if (!Simplify(text, decimalSign, simple)) return std::nullopt;
   const auto value = ValueOf(simple);
   if (!value) return std::nullopt;
-  FieldNumber number{negative ? -*value : *value, 0, unit};
+  FieldNumber number{*value, 0, unit};
+  if (negative) number.value = -number.value;
   const auto point = simple.find('.');
   for (std::size_t at = point;
        at != std::string::npos && ++at < simple.size() && IsDigit(simple[at]);)

@@ -79,7 +79,8 @@ std::string PressureUnitByValues(const std::string& assumed, const ShapeColumn& 
 std::string UnitByValues(const std::string& assumed, const ShapeColumn& column) {
   const Unit* unit = FindUnit(assumed);
   if (!unit) return assumed;
-  if (unit->quantity == Quantity::AirFuel) return column.median < 3 ? "lambda" : "AFR";
+  if (unit->quantity == Quantity::AirFuel && column.median < 3) return "lambda";
+  if (unit->quantity == Quantity::AirFuel) return "AFR";
   if (unit->quantity == Quantity::Temperature && column.highest > 130) return "F";
   if (unit->quantity == Quantity::Pressure) return PressureUnitByValues(assumed, column);
   return assumed;
@@ -108,7 +109,8 @@ Match MatchOf(const ShapeColumn& column, const TitleDictionary& dictionary,
   if (known.score > 0) item = catalogue.ByShortName(known.item);
   if (!item || item->intSeq == ItemOf(kSecs) || column.content != ColumnContent::Number)
     return match;
-  const std::string unitText = IsUnit(column.unit) ? column.unit : UnitByValues(known.unit, column);
+  std::string unitText = column.unit;
+  if (!IsUnit(unitText)) unitText = UnitByValues(known.unit, column);
   const Unit* unit = FindUnit(unitText);
   int seq = item->intSeq;
   if (unit && unit->quantity == Quantity::Pressure)
@@ -130,7 +132,8 @@ Match MatchOf(const ShapeColumn& column, const TitleDictionary& dictionary,
   }
   match.conversion.factor *= column.scale;
   match.kept = kept;
-  match.score = known.score + (column.gaps > 0 ? 0 : 2);
+  match.score = known.score;
+  if (column.gaps <= 0) match.score += 2;
   return match;
 }
 
@@ -159,11 +162,12 @@ ShapeItem KnownItem(const ShapeColumn& column, const Match& match) {
   item.offset = match.conversion.offset;
   const bool converted = item.factor != column.scale || item.offset != 0;
   const double factor = item.factor / column.scale;
+  int places = match.kept->places;
+  if (!converted) places = std::max(places, column.places);
   item.places =
-      PlacesOf(column.lowest * factor + item.offset, column.highest * factor + item.offset,
-               converted ? match.kept->places : std::max(match.kept->places, column.places));
+      PlacesOf(column.lowest * factor + item.offset, column.highest * factor + item.offset, places);
   item.displayFactor = match.kept->displayFactor;
-  item.why = "known by its title" + (match.why.empty() ? "" : "; " + match.why);
+  item.why = "known by its title" + WithLead("; ", match.why);
   return item;
 }
 
@@ -226,8 +230,10 @@ std::vector<ShapeItem> ChooseItems(const std::vector<ShapeColumn>& columns, cons
                        best.at(matches[at].kept->item) == at;
     if (static_cast<int>(at) == time.column)
       items.push_back(TimeItem());
+    else if (known)
+      items.push_back(KnownItem(columns[at], matches[at]));
     else
-      items.push_back(known ? KnownItem(columns[at], matches[at]) : OwnItem(columns[at], next++));
+      items.push_back(OwnItem(columns[at], next++));
   }
   return items;
 }

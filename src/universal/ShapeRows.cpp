@@ -199,8 +199,9 @@ void SetTitleLines(ShapeRows& rows, const std::vector<std::string_view>& lines,
                    const FieldFormGuess& guess, const TitleLines& settled) {
   const int count = static_cast<int>(lines.size());
   const auto lineAt = [&](int at) { return lines[static_cast<std::size_t>(at)]; };
-  rows.titleLine = settled.titles < count ? settled.titles : -1;
-  rows.unitsLine = settled.units < count && rows.titleLine >= 0 ? settled.units : -1;
+  rows.titleLine = rows.unitsLine = -1;
+  if (settled.titles < count) rows.titleLine = settled.titles;
+  if (settled.units < count && rows.titleLine >= 0) rows.unitsLine = settled.units;
   rows.titleRows = 1;
   rows.titles.clear();
   rows.units.clear();

@@ -13,8 +13,8 @@ std::string_view WithoutLastLine(std::string_view text) {
 }
 
 std::string_view WithoutFirstLine(std::string_view text) {
-  const auto end = text.find('\n');
-  const auto at = end == std::string_view::npos ? text.find('\r') : end;
+  auto at = text.find('\n');
+  if (at == std::string_view::npos) at = text.find('\r');
   if (at == std::string_view::npos) return std::string_view();
   return text.substr(at + 1);
 }

@@ -178,8 +178,9 @@ TimeForm PlausibleForm(double step) {
 
 TimeForm FormOf(const ShapeColumn& column, const Candidate& candidate, double step,
                 std::string& why) {
-  if (column.content == ColumnContent::Time)
-    return candidate.dates ? TimeForm::DateAndTime : TimeForm::Clock;
+  const bool times = column.content == ColumnContent::Time;
+  if (times && candidate.dates) return TimeForm::DateAndTime;
+  if (times) return TimeForm::Clock;
   const TimeForm unix = UnixForm(candidate.stamps.front());
   if (unix != TimeForm::None) return unix;
   const TimeForm named = NamedForm(column);
@@ -258,9 +259,10 @@ TimeBase FindTimeBase(const std::vector<ShapeColumn>& columns, const ShapeTable&
   }
   base.column = best->column;
   base.step = step * SecondsOf(base.form);
-  base.score = (IsPlausibleStep(base.step) ? 80 : 50) + std::min(best->worth, 20);
+  base.score = 50 + std::min(best->worth, 20);
+  if (IsPlausibleStep(base.step)) base.score += 30;
   base.why = "\"" + column.title + "\" rises; " + std::string(RowOf(base.form).words) +
-             (why.empty() ? "" : ": " + why);
+             WithLead(": ", why);
   return base;
 }
 
@@ -268,7 +270,8 @@ double RateOfPreamble(const std::vector<std::string_view>& lines, int count) {
   for (int at = 0; at < std::min(count, static_cast<int>(lines.size())); ++at) {
     const std::string line = Upper(lines[static_cast<std::size_t>(at)]);
     const auto named = std::min(line.find("SAMPLE RATE"), line.find("FREQUENCY"));
-    const auto digit = named == std::string::npos ? named : line.find_first_of("0123456789", named);
+    if (named == std::string::npos) continue;
+    const auto digit = line.find_first_of("0123456789", named);
     if (digit == std::string::npos) continue;
     const double rate = ValDouble(std::string_view(line).substr(digit));
     if (rate >= 0.1 && rate <= 1000) return rate;

@@ -154,7 +154,8 @@ std::optional<TimeText> ReadNamedDay(std::string_view text) {
   TakeWord(text);
   SkipBlanks(text);
   const auto year = TakeNumber(text, 4);
-  const auto date = year ? DayOf(*year, month, *day) : std::nullopt;
+  if (!year) return std::nullopt;
+  const auto date = DayOf(*year, month, *day);
   if (!date || !text.empty()) return std::nullopt;
   clock->seconds += *date * kSecondsPerDay;
   return TimeText{*clock, true, true};

@@ -32,7 +32,10 @@ Letter LetterOf(char c) {
   return Letter::Sign;
 }
 
-char SmallOf(char c) { return LetterOf(c) == Letter::Capital ? static_cast<char>(c + 32) : c; }
+char SmallOf(char c) {
+  if (LetterOf(c) != Letter::Capital) return c;
+  return static_cast<char>(c + 32);
+}
 
 std::string Joined(const std::vector<std::string>& words) { return Join(words, " "); }
 
