@@ -77,7 +77,8 @@ std::string Held(std::string_view text, double beyond, double most) {
   constexpr double kLeast = 0.01;
   const double value = RoundPlaces(ValDouble(text), kMeasurePlaces);
   if (value < kLeast) return FixedText(kLeast, kMeasurePlaces);
-  return FixedText(value >= beyond ? most : value, kMeasurePlaces);
+  if (value >= beyond) return FixedText(most, kMeasurePlaces);
+  return FixedText(value, kMeasurePlaces);
 }
 
 }  // namespace
@@ -120,8 +121,12 @@ void ConvertFields(CarFields& fields, bool toMetric) {
   for (const CarUnitRow& row : kUnits) {
     if (!row.field) continue;
     std::string& text = fields.*row.field;
-    const double value = StringToDouble(text);
-    text = FixedText(toMetric ? value * row.toMetric : value / row.toMetric, row.places);
+    double value = StringToDouble(text);
+    if (toMetric)
+      value *= row.toMetric;
+    else
+      value /= row.toMetric;
+    text = FixedText(value, row.places);
   }
 }
 

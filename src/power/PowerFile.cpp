@@ -111,7 +111,8 @@ std::string Lines(const Attribute (&rows)[N], const F& graph) {
 template <std::size_t N>
 void Take(const Attribute (&rows)[N], std::string_view line, F& file) {
   const auto equals = line.find('=');
-  const std::string_view key = line.substr(0, equals == std::string_view::npos ? 0 : equals);
+  if (equals == std::string_view::npos) return;
+  const std::string_view key = line.substr(0, equals);
   if (key.empty()) return;
   for (const Attribute& row : rows) {
     if (key != row.key && key != row.olderKey) continue;
@@ -215,8 +216,7 @@ std::string PowerFileText(const PowerFile& graph, const Moment& now) {
 
 PowerFile ReadPowerFile(std::string_view text, const std::function<void(const char*)>& loading) {
   PowerFile file;
-  ReadSections(
-      text, file, loading ? loading : [](const char*) {});
+  ReadSections(text, file, loading);
   if (file.temperature == "N/A" && file.pressure == "N/A" && file.humidity == "N/A")
     file.correctionSummary = "N/A";
   return file;

@@ -54,7 +54,8 @@ std::string PowerFileText(const PowerFile& graph, const Moment& now);
 /// What any text holds of a power graph, at most so many rows of each kind; a text without its
 /// headings gives an empty one. `loading` is told what is being read, for the status bar.
 inline constexpr std::size_t kMostPowerRows = 300000;
-PowerFile ReadPowerFile(std::string_view text,
-                        const std::function<void(const char* what)>& loading = {});
+PowerFile ReadPowerFile(
+    std::string_view text,
+    const std::function<void(const char* what)>& loading = [](const char*) {});
 
 }  // namespace tarnview

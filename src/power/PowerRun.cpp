@@ -57,7 +57,8 @@ std::string FaultOf(const PowerRun& run) {
   if (TotalWeight(run) <= 0) return "Car Weight";
   const double drag = DragOf(car, run.air);
   if (std::isfinite(drag) && drag != 0) return "";
-  if (car.blnUseCD) return run.air.pressure == 0 ? "Atmospheric Pressure" : "Drag Coefficient";
+  if (car.blnUseCD && run.air.pressure == 0) return "Atmospheric Pressure";
+  if (car.blnUseCD) return "Drag Coefficient";
   if (car.lngAeroLossSpeed == 0) return "Set Point Speed";
   return "Set Point Power";
 }

@@ -91,10 +91,8 @@ void RunFields::ListCars() {
   const std::string chosen = w_.cboCarDefs.Text();
   std::vector<std::string> names;
   for (const clsCarDef& car : cars_) names.push_back(car.strName);
-  const auto found = std::find(names.begin(), names.end(), chosen);
-  const auto place = found == names.end() ? 0 : found - names.begin();
   w_.cboCarDefs.SetList(std::move(names));
-  w_.cboCarDefs.SetListIndex(static_cast<int>(place));
+  if (!w_.cboCarDefs.Choose(chosen)) w_.cboCarDefs.SetListIndex(0);
 }
 
 const clsCarDef* RunFields::Car() const {

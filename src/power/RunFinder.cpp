@@ -111,7 +111,8 @@ class Finder {
 }  // namespace
 
 std::vector<FoundRun> FindRuns(const OpenLog& log) {
-  return log.glngDataLog.Rows() > 0 ? Finder(log).Runs() : std::vector<FoundRun>{};
+  if (log.glngDataLog.Rows() == 0) return {};
+  return Finder(log).Runs();
 }
 
 }  // namespace tarnview

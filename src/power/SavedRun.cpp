@@ -102,7 +102,8 @@ std::vector<SpeedPoint> SpeedsIn(std::vector<SpeedPoint> speed, bool imperial) {
 }
 
 std::optional<double> DragOf(const PowerFile& graph, const Air& air) {
-  const std::optional<double> k = graph.usesDrag ? CdDragOf(graph, air) : SetPointDragOf(graph);
+  std::optional<double> k = SetPointDragOf(graph);
+  if (graph.usesDrag) k = CdDragOf(graph, air);
   if (!k || !std::isfinite(*k) || *k == 0) return std::nullopt;
   return k;
 }

@@ -67,7 +67,8 @@ std::vector<SpeedPoint> ShownSpeeds(const std::vector<SpeedPoint>& speed, double
       1e9;  // a file may hold any number; beyond it an axis would have no end
   std::vector<SpeedPoint> shown;
   for (const SpeedPoint& point : speed) {
-    const double converted = from == to ? point.speed : point.speed * from / to;
+    double converted = point.speed;
+    if (from != to) converted = converted * from / to;
     if (converted > 0 && converted <= kFastest)
       shown.push_back({point.seconds + offset, converted});
   }

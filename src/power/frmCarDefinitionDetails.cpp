@@ -106,14 +106,11 @@ std::vector<frmCarDefinitionDetails::FieldBox> frmCarDefinitionDetails::Boxes() 
 
 /// A size that the list lacks joins it.
 void frmCarDefinitionDetails::ChooseOrAdd(ComboBox& list, const std::string& text) {
+  if (list.Choose(text)) return;
   std::vector<std::string> entries = list.Entries();
-  const auto found = std::find(entries.begin(), entries.end(), text);
-  const auto place = found - entries.begin();
-  if (found == entries.end()) {
-    entries.push_back(text);
-    list.SetList(std::move(entries));
-  }
-  list.SetListIndex(static_cast<int>(place));
+  entries.push_back(text);
+  list.SetList(std::move(entries));
+  list.Choose(text);
 }
 
 void frmCarDefinitionDetails::ShowFields(const CarFields& fields) {
@@ -179,9 +176,9 @@ void frmCarDefinitionDetails::UnitsChosen() {
   if (showing_ || shownImperial_ == optUnits(0).Value) return;
   ShowLabels();
   const bool toMetric = !shownImperial_;
-  if (!around_.messages.AskQuestion(toMetric ? Question::ConvertToMetric
-                                             : Question::ConvertToImperial))
-    return;
+  Question question = Question::ConvertToImperial;
+  if (toMetric) question = Question::ConvertToMetric;
+  if (!around_.messages.AskQuestion(question)) return;
   CarFields fields = FieldsNow();
   ConvertFields(fields, toMetric);
   ShowFields(fields);
@@ -235,10 +232,8 @@ Dialog frmCarDefinitionDetails::FileDialog(DialogKind kind, const char* title) c
 void frmCarDefinitionDetails::cmdSave_Click() {
   Dialog dialog = FileDialog(DialogKind::Save, "Save As");
   dialog.path = lastFile_;
-  if (lastFile_.empty() && IsLegalFileName(txtName.Text())) {
-    const std::string& folder = around_.workingDirectory;
-    dialog.path = (folder.empty() ? "" : AddBackslash(folder)) + txtName.Text() + ".car";
-  }
+  if (lastFile_.empty() && IsLegalFileName(txtName.Text()))
+    dialog.path = PathIn(around_.workingDirectory, txtName.Text() + ".car");
   const auto withEnding = [](Dialog& chosen) {
     if (GetExtension(chosen.path).empty()) chosen.path += ".car";
   };

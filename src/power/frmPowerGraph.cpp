@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "desk/ColourScheme.h"
 #include "desk/Placement.h"
 #include "power/Drag.h"
@@ -99,7 +100,7 @@ void frmPowerGraph::Form_Unload() {
 
 void frmPowerGraph::SetCaption() {
   const std::string& title = around_.log.gstrCurrentFileTitle;
-  Caption = "Tarnview Power Graph" + (title.empty() ? "" : " - " + title);
+  Caption = "Tarnview Power Graph" + WithLead(" - ", title);
 }
 
 void frmPowerGraph::LogIsClosing() {
@@ -204,8 +205,10 @@ void frmPowerGraph::FindTheRuns() {
     rows.push_back(std::move(row));
   }
   lvwRuns.SetRows(std::move(rows));
-  status_.Say(runs_.empty() ? "No run at full throttle found"
-                            : std::to_string(runs_.size()) + " found");
+  if (runs_.empty())
+    status_.Say("No run at full throttle found");
+  else
+    status_.Say(std::to_string(runs_.size()) + " found");
 }
 
 std::optional<double> frmPowerGraph::ShowReadingAt(double rpm) {

@@ -1,6 +1,8 @@
 // What a power graph window keeps and gives away: saved graphs, the recent list, copies into the
 // log, the printed page.
 
+#include <utility>
+
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/Text.h"
@@ -186,9 +188,9 @@ PrintDetails frmPowerGraph::DetailsForPrint() const {
                   {"Smoothing Factor", told.smoothing},
                   {"SAE Correction Factor", drawn_->run.corrected ? drawn_->correctionFactor : "Off"}};
   // clang-format on
+  std::string label = "Curves";  // of the first alone
   for (const ChartSeries& series : chPowerGraph.Data().Series())
-    details.rows.emplace_back(&series == &chPowerGraph.Data().Series().front() ? "Curves" : "",
-                              series.name);
+    details.rows.emplace_back(std::exchange(label, ""), series.name);
   return details;
 }
 
