@@ -76,12 +76,13 @@ void CLongScroll::TakeFromThumb() {
 
 void CLongScroll::ClientChanged() {
   if (blnInternal_) return;
-  const int moved = (m_Client->Value() - clientValue_) * (Reversed() ? -1 : 1);
-  const int sign = moved < 0 ? -1 : 1;
+  int moved = m_Client->Value() - clientValue_;
+  if (Reversed()) moved = -moved;
   const bool page = std::abs(moved) == m_Client->LargeChange();
   if (page || std::abs(moved) == m_Client->SmallChange()) {
-    const std::int64_t wanted =
-        static_cast<std::int64_t>(value_) + sign * (page ? LargeChange : SmallChange);
+    std::int64_t step = page ? LargeChange : SmallChange;
+    if (moved < 0) step = -step;
+    const std::int64_t wanted = value_ + step;
     value_ = static_cast<std::int32_t>(std::clamp<std::int64_t>(wanted, Lower(), Higher()));
   } else {
     TakeFromThumb();

@@ -32,9 +32,8 @@ std::vector<Curve> CurvesOf(const std::vector<int>& plottedItems, const clsLogDa
 
 /// About 30 reports in a range, or one for each 50 rows that are plotted.
 std::int32_t ReportInterval(const PlotWindow& window) {
-  const std::int32_t interval =
-      window.step < 2 ? (window.lastIndex - window.firstIndex) / 30 : window.step * 50;
-  return std::max(interval, 1);
+  if (window.step >= 2) return window.step * 50;
+  return std::max((window.lastIndex - window.firstIndex) / 30, 1);
 }
 
 void AddRow(ChartTable& table, const OpenLog& log, const std::vector<Curve>& curves,

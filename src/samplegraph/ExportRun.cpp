@@ -1,5 +1,6 @@
 #include "samplegraph/ExportRun.h"
 
+#include "base/Text.h"
 #include "desk/SaveDialog.h"
 
 namespace tarnview {
@@ -17,7 +18,7 @@ bool ExportRun::Run(std::string& path, const std::function<void(const std::strin
     const AtWork work(window, status);
     write(path);
   });
-  status.Say(exported ? "Export complete" : "");
+  status.Say(TextIf(exported, "Export complete"));
   if (!exported) messages.ShowMessage(Message::ExportFailed);
   return exported;
 }

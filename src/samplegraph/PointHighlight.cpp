@@ -26,9 +26,11 @@ PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn
 void PointHighlight::Note(int intSeries, int lngDataPoint) {
   const auto& headings = drawn_.varChartData.headings;
   const auto place = static_cast<std::size_t>((intSeries - 1) / 2);
-  const auto* item =
-      place < headings.size() ? log_.gcolDataItems->ByShortName(headings[place]) : nullptr;
-  selection_.Select(intSeries, lngDataPoint, item ? item->intSeq : ItemOf(kRPM));
+  const clsLogDataItem* item = nullptr;
+  if (place < headings.size()) item = log_.gcolDataItems->ByShortName(headings[place]);
+  int number = ItemOf(kRPM);
+  if (item) number = item->intSeq;
+  selection_.Select(intSeries, lngDataPoint, number);
 }
 
 void PointHighlight::chSampleGraph_PointSelected(int intSeries, int lngDataPoint) {

@@ -39,8 +39,7 @@ std::string PresetExchange::ProposedFile() const {
   if (!lastFile_.empty()) return lastFile_;
   const std::string name(Trim(txtName_.Text()));
   if (!IsLegalFileName(name)) return "";
-  const std::string& folder = around_.workingDirectory;
-  return (folder.empty() ? "" : AddBackslash(folder)) + name + kind_.extension;
+  return PathIn(around_.workingDirectory, name + kind_.extension);
 }
 
 void PresetExchange::Save(

@@ -151,10 +151,9 @@ ChartDescription SampleGraph::Describe() const {
     series.push_back({item.intSeq, table.headings[j], table.x, table.y[j], pen});
   }
   chart.x = {table.lowestX, table.highestX, 10, TimeAxisFormat(table.highestX - table.lowestX)};
-  const VerticalScale scale =
-      controls_.chkFixY.Value
-          ? ReachingBelow({drawn_.lngFixedGraphMax, drawn_.intFixedGraphDivisions}, table.lowestY)
-          : ScaleForRange(table.lowestY, table.highestY);
+  VerticalScale scale = ScaleForRange(table.lowestY, table.highestY);
+  if (controls_.chkFixY.Value)
+    scale = ReachingBelow({drawn_.lngFixedGraphMax, drawn_.intFixedGraphDivisions}, table.lowestY);
   chart.y = {static_cast<double>(scale.min), static_cast<double>(scale.max),
              static_cast<int>(scale.divisions), "#######0"};
   SetGraphColourScheme(chart, settings_.gintGraphColourScheme);

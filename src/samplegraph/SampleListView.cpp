@@ -1,6 +1,7 @@
 #include "samplegraph/SampleListView.h"
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace tarnview {
 namespace {
@@ -42,9 +43,9 @@ ListView::Row MakeRow(const clsLogDataItem& item, const SampleListForm& form) {
     row.texts.push_back(item.strLongName);
   else
     row.toolTip = item.strLongName;
-  if (!item.strColumnTitles.empty())
-    row.toolTip +=
-        (row.toolTip.empty() ? "" : "\r\n") + ("Data log column(s): " + item.strColumnTitles);
+  const std::string titles = WithLead("Data log column(s): ", item.strColumnTitles);
+  if (!row.toolTip.empty() && !titles.empty()) row.toolTip += "\r\n";
+  row.toolTip += titles;
   row.tag = std::to_string(item.intSeq);
   if (!form.pictures) return row;
   if (item.blnDisplay)
@@ -81,10 +82,11 @@ void SetUpSampleListView(ListView& lvw, CheckedKeys& objCheckedKeys, const Sampl
 }
 
 void PopulateSampleListView(std::int32_t lngIndex, ListView& lvw, const OpenLog& log) {
-  for (int row = 1; row <= lvw.Count(); ++row)
-    lvw.SetText(
-        row, kValueColumn,
-        lngIndex < 0 ? std::string() : log.FormatDataItem(StringToLong(lvw.At(row).tag), lngIndex));
+  for (int row = 1; row <= lvw.Count(); ++row) {
+    std::string value;
+    if (lngIndex >= 0) value = log.FormatDataItem(StringToLong(lvw.At(row).tag), lngIndex);
+    lvw.SetText(row, kValueColumn, std::move(value));
+  }
 }
 
 std::vector<int> ItemsOfRows(const ListView& lvw, bool checkedOnly) {

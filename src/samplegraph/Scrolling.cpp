@@ -48,7 +48,8 @@ void Scrolling::SetUp() {
   const std::int32_t width = drawn_.Width();
   const std::int32_t min = RoundToLong(width / 2.0);
   const std::int32_t max = RoundToLong(log_.glngLastSample - width / 2.0);
-  const std::int32_t large = range_.Span() < 1 ? 1 : width;
+  std::int32_t large = width;
+  if (range_.Span() < 1) large = 1;
   const std::int32_t small = std::max(RoundToLong(large / 10.0), 1);
   const std::int32_t value = RoundToLong(width / 2.0 + drawn_.lngPlotFirstIndex);
   blnIgnoreScroll_ = true;
@@ -73,7 +74,8 @@ void Scrolling::SetUp() {
 void Scrolling::ShowShare(std::int32_t large, std::int32_t way) {
   ScrollBar& bar = controls_.hsbGraphScrollLarge;
   const double travel = bar.Max() - bar.Min();
-  const double page = way > 0 ? std::min(large * travel / way, travel) : travel;
+  double page = travel;
+  if (way > 0) page = std::min(large * travel / way, travel);
   // More than the small step, from which the bar could not tell it.
   bar.LargeChange = std::max(RoundToLong(page), bar.SmallChange() + 1);
 }
@@ -109,9 +111,8 @@ void Scrolling::Moved() {
   const Bar bar = Read();
   const std::int32_t middle =
       std::clamp(bar.value, std::min(bar.min, bar.max), std::max(bar.min, bar.max));
-  range_.SetFrom(log_.Sample(middle - half > 0 ? middle - half : 0));
-  range_.SetTo(
-      log_.Sample(middle + half <= log_.glngLastSample ? middle + half : log_.glngLastSample));
+  range_.SetFrom(log_.Sample(std::max(middle - half, 0)));
+  range_.SetTo(log_.Sample(std::min(middle + half, log_.glngLastSample)));
   if (range_.From() < log_.glngFirstSampleTime) {
     range_.SetFromToFirst();
     range_.SetTo(range_.From() + width);

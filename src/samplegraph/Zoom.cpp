@@ -38,10 +38,9 @@ void Zoom::SetAmount(int amount) { controls_.cboZoomAmount.Text = std::to_string
 
 std::int32_t Zoom::Centre() const {
   // The selected point's own number, one row further on than its sample: kept as it is.
-  const std::int32_t index =
-      selection_.lngSelectedPoint() > 0
-          ? selection_.lngSelectedPoint() * drawn_.intThinStep + drawn_.lngPlotFirstIndex
-          : RoundToLong(drawn_.lngPlotFirstIndex + drawn_.Width() / 2.0);
+  std::int32_t index = RoundToLong(drawn_.lngPlotFirstIndex + drawn_.Width() / 2.0);
+  if (selection_.lngSelectedPoint() > 0)
+    index = selection_.lngSelectedPoint() * drawn_.intThinStep + drawn_.lngPlotFirstIndex;
   return log_.Sample(std::clamp(index, log_.glngFirstSample, log_.glngLastSample));
 }
 

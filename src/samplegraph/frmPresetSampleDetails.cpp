@@ -109,11 +109,10 @@ void frmPresetSampleDetails::LoadPreset(std::string_view bytes) {
   auto preset = ReadSampleGraphPresetFile(bytes);
   if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily, Family())) return;
   preset->lngLogFamily = Family();
-  std::string unknown;
+  std::vector<std::string> unknown;
   for (const int item : preset->colDataItems)
-    if (lvwDataItems.RowOfTag(std::to_string(item)) == 0)
-      unknown += (unknown.empty() ? "Data Item(s): " : ", ") + std::to_string(item);
-  exchange_.TellNotRelevant(unknown);
+    if (lvwDataItems.RowOfTag(std::to_string(item)) == 0) unknown.push_back(std::to_string(item));
+  exchange_.TellNotRelevant(WithLead("Data Item(s): ", Join(unknown, ", ")));
   ShowPreset(*preset);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Text.h"
 #include "desk/ColourScheme.h"
 #include "presets/ScatterFilters.h"
 #include "scatter/ScatterPoints.h"
@@ -85,7 +86,7 @@ void ScatterDrawing::Build(const ScatterRequest& request, bool blnQuiet) {
   controls_.chScatterGraph.Enabled = controls_.chScatterGraph.Visible = true;
   controls_.fraSampleDetails.Enabled = true;
   status_.Say("Graph draw complete");
-  status_.SayLoaded(std::to_string(rows_.size()) + (rows_.size() == 1 ? " point" : " points"));
+  status_.SayLoaded(Counted(rows_.size(), "point"));
 }
 
 ChartDescription ScatterDrawing::Describe(const ScatterRequest& request) const {

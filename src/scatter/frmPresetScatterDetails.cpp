@@ -91,8 +91,9 @@ void frmPresetScatterDetails::TakeWhatFits(clsScatterGraphPreset& preset) {
   takeAxis(xAxis_, preset.lngXAxisDataItem, "X Axis: ");
   takeAxis(yAxis_, preset.lngYAxisDataItem, "Y Axis: ");
   const auto removed = RemoveNonDisplayFilters(preset.objFilters, around_.catalogue, Family());
-  for (std::size_t i = 0; i < removed.size(); ++i)
-    missing.push_back((i == 0 ? "Filters: " : "") + std::to_string(removed[i]));
+  std::vector<std::string> filters;
+  for (const int number : removed) filters.push_back(std::to_string(number));
+  if (!filters.empty()) missing.push_back("Filters: " + Join(filters, ", "));
   exchange_.TellNotRelevant(Join(missing, ", "));
 }
 

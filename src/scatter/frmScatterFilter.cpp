@@ -54,7 +54,9 @@ void frmScatterFilter::SetScatterFilter(const clsScatterFilter& objFilter, int l
 }
 
 void frmScatterFilter::imgcboDataItem_Click() {
-  cboFrom.SetList(IsList() ? Item()->varDescList : std::vector<std::string>());
+  std::vector<std::string> values;
+  if (IsList()) values = Item()->varDescList;
+  cboFrom.SetList(std::move(values));
   cboFrom.SetListIndex(0);  // the first value of a list item, else empty
   cboTo.Text = std::string();
   cboTo.Enabled = !IsList();

@@ -1,5 +1,7 @@
 // What a scatter window keeps and gives away: presets, the export, the page for the printer.
 
+#include <utility>
+
 #include "samplegraph/ExportRun.h"
 #include "samplegraph/LogExport.h"
 #include "samplegraph/frmNewPresetName.h"
@@ -10,7 +12,8 @@ namespace tarnview {
 
 void frmScatterGraph::PopulatePresets(bool selectLast) {
   const int selected = lvwPresets.SelectedRow();
-  const ListView::Row before = selected > 0 ? lvwPresets.At(selected) : ListView::Row{};
+  ListView::Row before;
+  if (selected > 0) before = lvwPresets.At(selected);
   presets_.Populate(selectLast, FileType());
   // The same place may hold another preset by now.
   int row = 0;
@@ -68,8 +71,9 @@ void frmScatterGraph::ExportGraph(const std::string& strFile) {
 
 PrintDetails frmScatterGraph::DetailsForPrint() const {
   PrintDetails details{" Scatter Graph", {{"File", drawing_.strGraphedFile()}}};
+  std::string label = "Filters";  // of the first alone
   for (const std::string& filter : drawing_.Filters())
-    details.rows.emplace_back(details.rows.size() == 1 ? "Filters" : "", filter);
+    details.rows.emplace_back(std::exchange(label, ""), filter);
   return details;
 }
 
