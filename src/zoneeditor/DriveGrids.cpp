@@ -202,11 +202,14 @@ void DriveGrids::Propose() {
   ReadDrive();
   proposal_ = tarnview::Propose(facts_, keeper_.Sheet());
   const int cells = proposal_->Cells();
-  if (cells == 0) proposal_.reset();
-  keeper_.Say(cells == 0 ? "No fuel cell with " + std::to_string(FuelProposal::kFewestSamples) +
-                               " samples is off its target."
-                         : CountOf(SheetGrid::Fuel, static_cast<std::size_t>(cells)) +
-                               " would be changed. Nothing is changed yet.");
+  std::string told = CountOf(SheetGrid::Fuel, static_cast<std::size_t>(cells)) +
+                     " would be changed. Nothing is changed yet.";
+  if (cells == 0) {
+    proposal_.reset();
+    told = "No fuel cell with " + std::to_string(FuelProposal::kFewestSamples) +
+           " samples is off its target.";
+  }
+  keeper_.Say(told);
   Show();
 }
 

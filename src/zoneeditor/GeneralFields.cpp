@@ -182,9 +182,9 @@ void GeneralFields::LeaveTrim(const std::string& degrees) {
 /// A text that is no date is put back.
 void GeneralFields::LeaveChipDate() {
   const auto date = ParseDate(txtChipDate.Text());
-  const ZoneSheet& before = keeper_.Sheet();
-  const bool taken = date && *date != before.chip.datChipDate;
-  keeper_.Do("Chip Date " + txtChipDate.Text(), taken ? WithChipDate(before, *date) : before);
+  ZoneSheet sheet = keeper_.Sheet();
+  if (date && *date != sheet.chip.datChipDate) sheet = WithChipDate(std::move(sheet), *date);
+  keeper_.Do("Chip Date " + txtChipDate.Text(), std::move(sheet));
 }
 
 void GeneralFields::Show(const ZoneSheet& sheet, bool readOnly) {

@@ -13,11 +13,10 @@ namespace {
 struct Shape {
   int rows, columns;
   int firstZone;
-  const char* one;
-  const char* several;
+  const char* cell;
 };
-constexpr Shape kFuel{7, 17, 32, "fuel cell", "fuel cells"};
-constexpr Shape kIgnition{7, 17, 128, "ignition cell", "ignition cells"};
+constexpr Shape kFuel{7, 17, 32, "fuel cell"};
+constexpr Shape kIgnition{7, 17, 128, "ignition cell"};
 constexpr Shape kShapes[kSheetGrids] = {
     kFuel,
     kFuel,
@@ -25,9 +24,9 @@ constexpr Shape kShapes[kSheetGrids] = {
     kIgnition,
     kIgnition,
     kIgnition,
-    {2, 12, zone::kFirstBoostTarget, "boost target", "boost targets"},
-    {2, 5, 22, "fuel value", "fuel values"},
-    {3, 7, zone::kFirstTarget, "air/fuel target", "air/fuel targets"},
+    {2, 12, zone::kFirstBoostTarget, "boost target"},
+    {2, 5, 22, "fuel value"},
+    {3, 7, zone::kFirstTarget, "air/fuel target"},
 };
 const Shape& ShapeOf(SheetGrid grid) { return kShapes[static_cast<std::size_t>(grid)]; }
 
@@ -63,11 +62,9 @@ int ZoneOfCell(SheetGrid grid, int row, int column) {
 }
 
 std::string HeadingOf(SheetGrid grid, int row, int column, const ZoneSheet& sheet) {
-  if (row == 0 && column == 0)
-    return grid != SheetGrid::BoostTargets ? "" : std::string(sheet.boostTargets ? "kPa" : "Pct");
-  if (IsZoneGrid(grid))
-    return row == 0 ? ZoneColumnHeading(column - 1)
-                    : std::string(ZoneRowHeading(sheet.normallyAspirated, row));
+  if (row == 0 && column == 0) return TextIf(grid == SheetGrid::BoostTargets, BoostUnit(sheet));
+  if (IsZoneGrid(grid) && row == 0) return ZoneColumnHeading(column - 1);
+  if (IsZoneGrid(grid)) return std::string(ZoneRowHeading(sheet.normallyAspirated, row));
   if (row == 0) return std::string(FieldLabel(sheet, ZoneOfCell(grid, kValueRow, column)));
   if (grid == SheetGrid::BoostTargets) return "";
   if (row == kValueRow) return "Val";
@@ -80,7 +77,7 @@ std::string SignedText(int number) {
 }
 
 std::string CountOf(SheetGrid grid, std::size_t cells) {
-  return std::to_string(cells) + " " + (cells == 1 ? ShapeOf(grid).one : ShapeOf(grid).several);
+  return Counted(cells, ShapeOf(grid).cell);
 }
 
 std::vector<int> CellsOf(SheetGrid grid, const GridRange& range, const ZoneSheet& sheet) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "zones/ZoneEdits.h"
 
 namespace tarnview {
@@ -43,17 +44,17 @@ std::string GraphKind(int grid) {
 
 std::string GraphSource(int grid, const std::string& benchmark) {
   const int place = grid % 3;
-  return kSources[place] + (place == 0 ? std::string() : benchmark);
+  return kSources[place] + TextIf(place != 0, benchmark);
 }
 
 StartingAngles AnglesOf(const GraphAngles& settings, int grid) {
-  return IsFuelGrid(grid)
-             ? StartingAngles{settings.lngFuelRotation, settings.lngFuelElevation}
-             : StartingAngles{settings.lngIgnitionRotation, settings.lngIgnitionElevation};
+  if (IsFuelGrid(grid)) return {settings.lngFuelRotation, settings.lngFuelElevation};
+  return {settings.lngIgnitionRotation, settings.lngIgnitionElevation};
 }
 
 std::string GraphRowLabel(bool normallyAspirated, int row) {
-  const int kPa = normallyAspirated ? kLabelKPa[row - 1] : (row - 1) * kTurboRowKPa;
+  int kPa = (row - 1) * kTurboRowKPa;
+  if (normallyAspirated) kPa = kLabelKPa[row - 1];
   return std::to_string(kPa) + "kPa " + std::to_string(row * 100);
 }
 

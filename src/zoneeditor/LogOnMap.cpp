@@ -5,6 +5,7 @@
 #include <span>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "zones/RowsAround.h"
@@ -76,8 +77,8 @@ std::string Signed(double value, int places) {
 std::optional<double> LogOnMap::Value(GridShow show, int row, int column) const {
   const CellFacts& cell = At(row, column);
   const bool error = show == GridShow::Error;
-  if (show == GridShow::Nothing || (error ? cell.mixtures : cell.samples) < kFewestSamples)
-    return std::nullopt;
+  const int samples = error ? cell.mixtures : cell.samples;
+  if (show == GridShow::Nothing || samples < kFewestSamples) return std::nullopt;
   if (error) return cell.MeanError();
   if (show == GridShow::Visits) return cell.samples;
   return cell.highestKnock;
@@ -93,7 +94,7 @@ std::string LogOnMap::Text(GridShow show, int row, int column) const {
 std::string LogOnMap::ToolTip(int row, int column) const {
   const CellFacts& cell = At(row, column);
   if (cell.samples == 0) return "No samples";
-  std::string text = std::to_string(cell.samples) + (cell.samples == 1 ? " sample" : " samples");
+  std::string text = Counted(static_cast<std::size_t>(cell.samples), "sample");
   if (cell.mixtures >= kFewestSamples) text += ", air/fuel " + Signed(cell.MeanError(), 1) + " %";
   if (cell.samples >= kFewestSamples) text += ", knock up to " + std::to_string(cell.highestKnock);
   return text;

@@ -118,9 +118,9 @@ void ZoneGrids::CellEdited(SheetGrid grid, int row, int column, const std::strin
   if (zone < 0) return;
   const ZoneSheet& before = keeper_.Sheet();
   ZoneSheet after = WithCell(before, zone, text);
-  std::string step = (IsZoneGrid(grid) ? GridCellName(zone) : ZoneName(zone)) + " " +
-                     std::to_string(before.Shown(zone)) + " to " +
-                     std::to_string(after.Shown(zone));
+  std::string step = ZoneName(zone);
+  if (IsZoneGrid(grid)) step = GridCellName(zone);
+  step += " " + std::to_string(before.Shown(zone)) + " to " + std::to_string(after.Shown(zone));
   if (grid == SheetGrid::BoostTargets && column == 1 && window_.CopyFirstToAll()) {
     after = WithFirstBoostTargetInAll(std::move(after));
     step = "All boost targets " + std::to_string(after.Shown(zone));

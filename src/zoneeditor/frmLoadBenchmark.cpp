@@ -43,8 +43,10 @@ void frmLoadBenchmark::Load() {
   if (map) {
     proProgInd.Value = proProgInd.Max() / 2;
     Refresh();
+    Take(ParseMap(text, settings_, false));
+  } else {
+    Take(ReadLog(text));
   }
-  Take(map ? ParseMap(text, settings_, false) : ReadLog(text));
   proProgInd.Value = proProgInd.Max();
 }
 

@@ -69,7 +69,8 @@ void frmZoneData::SetHelpTopic() {
 void frmZoneData::SetUpCaptions() {
   const bool map = Upper(parameters_.fileName).ends_with("MAP");
   const bool benchmark = ReadOnly() || (!map && !parameters_.comparison);
-  std::string own = map ? "This MAP File" : "This Datalog";
+  std::string own = "This Datalog";
+  if (map) own = "This MAP File";
   if (benchmark) own = "This Benchmark";
   for (const auto& frame : fraData) {
     const SheetGrid grid{frame->index};
@@ -122,9 +123,8 @@ void frmZoneData::SetUpComparison() {
   if (ReadOnly()) return;
   const std::vector<std::string> names = comparison_.Names();
   cboBenchmark.SetList(names);
-  const auto last = std::find(names.begin(), names.end(), around_.settings.gstrDefaultBenchmark);
-  const bool found = last != names.end();
-  if (!names.empty()) cboBenchmark.SetListIndex(found ? static_cast<int>(last - names.begin()) : 0);
+  if (!cboBenchmark.Choose(around_.settings.gstrDefaultBenchmark) && !names.empty())
+    cboBenchmark.SetListIndex(0);
   cboBenchmark_Click();
 }
 
@@ -177,7 +177,10 @@ void frmZoneData::Do(std::string step, ZoneSheet after) {
 void frmZoneData::GoTo(std::size_t done) {
   if (done == history_.Done()) return;
   history_.GoTo(done);
-  Say(done == 0 ? "As opened" : history_.UndoName());
+  if (done == 0)
+    Say("As opened");
+  else
+    Say(history_.UndoName());
   ShowSheet();
   if (around_.stepped) around_.stepped(history_);
 }
@@ -230,7 +233,7 @@ void frmZoneData::cmdDetails_Click() {
   ZoneEditorParameters parameters;
   parameters.map = comparison_.Map(Map());
   parameters.detailsOnly = true;
-  parameters.fileName = cboBenchmark.Text() + (comparison_.IsBenchmark() ? " (benchmark)" : "");
+  parameters.fileName = cboBenchmark.Text() + TextIf(comparison_.IsBenchmark(), " (benchmark)");
   Surroundings around = around_;
   around.stepped = nullptr;
   around.drive = nullptr;

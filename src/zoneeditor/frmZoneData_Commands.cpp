@@ -129,9 +129,13 @@ void frmZoneData::cmdGraph_Click(SheetGrid grid) {
   frmGridGraph window(host, {around_.settings.angles, around_.errors, around_.messages}, request);
   window.ShowModal();
   if (request.readOnly || !window.Accepted()) return;
-  const ZoneGrid zones = grid == SheetGrid::Fuel ? ZoneGrid::Fuel : ZoneGrid::Ignition;
-  Do("3D graph of the " + std::string(grid == SheetGrid::Fuel ? "fuel" : "ignition") + " zones",
-     WithGraphTable(Sheet(), zones, request.table, window.Table()));
+  const auto changed = [&](ZoneGrid zones) {
+    return WithGraphTable(Sheet(), zones, request.table, window.Table());
+  };
+  if (grid == SheetGrid::Fuel)
+    Do("3D graph of the fuel zones", changed(ZoneGrid::Fuel));
+  else
+    Do("3D graph of the ignition zones", changed(ZoneGrid::Ignition));
 }
 
 void frmZoneData::GridRightClicked(SheetGrid grid) {
@@ -170,8 +174,9 @@ bool frmZoneData::Form_KeyDown(const KeyPress& key) {
   const auto grid = Grids.Editable(ActiveControl());
   if ((!plus && !minus) || key.ctrl || key.alt || !grid || Grids.At(*grid).IsEditing())
     return false;
-  const int step = key.shift ? kLargeStep : 1;
-  StepCells(plus ? step : -step);
+  int step = key.shift ? kLargeStep : 1;
+  if (minus) step = -step;
+  StepCells(step);
   return true;
 }
 
