@@ -75,8 +75,9 @@ std::string Capture::Captured() const { return LoggerFiles(world_.settings).capt
 
 bool Capture::FindCaptured() {
   if (world_.files.FileExists(Captured())) return true;
-  world_.messages.ShowMessage(file_.type == NewFileType::DataLog ? Message::NoBinaryFileProduced
-                                                                 : Message::NoMapFileProduced);
+  Message missing = Message::NoMapFileProduced;
+  if (file_.type == NewFileType::DataLog) missing = Message::NoBinaryFileProduced;
+  world_.messages.ShowMessage(missing);
   return false;
 }
 

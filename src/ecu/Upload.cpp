@@ -70,7 +70,8 @@ bool Upload::AskHow() {
 bool Upload::MakeMap() {
   const std::string path = LoggerFiles(world_.settings).upload();
   if (world_.files.FileExists(path)) world_.files.DeleteFile(path);
-  const Comparison comparison = options_.blnChangesOnly ? FindComparison() : Comparison{};
+  Comparison comparison;
+  if (options_.blnChangesOnly) comparison = FindComparison();
   if (comparison.fault) world_.messages.ShowMessage(*comparison.fault);
   if (!AirZonesFit(form_.datChipDate, world_.settings.gdatDefaultChipDate))
     world_.messages.ShowMessage(Message::AirTempNotUploaded);

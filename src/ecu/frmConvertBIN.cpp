@@ -27,9 +27,7 @@ constexpr PathRow kPaths[] = {
 
 std::string StartFolder(const Settings& settings, const std::string& currentFile) {
   const std::string& last = settings.gstrLastConvertedBinary;
-  const std::string folder = GetParentFolder(last.empty() ? currentFile : last);
-  if (folder.empty()) return "";
-  return AddBackslash(folder);
+  return PathIn(GetParentFolder(OrElse(last, currentFile)), "");
 }
 
 bool IsBinaryLog(const EcuWorld& world, const std::string& path) {
