@@ -156,9 +156,9 @@ void DataItemPage::cmdReset_Click() {
   clsLogDataItem* item = Item();
   if (!item) return;
   const clsLogDataItems& catalogue = draft_.catalogue.gcolDefaultDataItems;
-  const bool universal = Family() == kUniversalLogFamily;
-  const clsLogDataItems items =
-      universal ? GenerateLogDataItemsGeneric(draft_.definition, catalogue) : catalogue.Duplicate();
+  clsLogDataItems items = catalogue.Duplicate();
+  if (Family() == kUniversalLogFamily)
+    items = GenerateLogDataItemsGeneric(draft_.definition, catalogue);
   const clsLogDataItem& fresh = items.Item(item->intSeq);
   item->lngColour = fresh.lngColour;
   item->lngLineStyle = fresh.lngLineStyle;

@@ -99,8 +99,11 @@ frmLogDescription::frmLogDescription(Host& itsHost, FileBytes bytes, const std::
   CancelButton = &cmdCancel;
   HelpTopic = "LogDescription";
   FillLists();
-  txtName.Text = old_ ? old_->strName : FileTitle(WithoutExtension(path));
-  if (old_) StartFrom(*old_);
+  txtName.Text = FileTitle(WithoutExtension(path));
+  if (old_) {
+    txtName.Text = old_->strName;
+    StartFrom(*old_);
+  }
   Look();
   TieEvents();
 }
@@ -224,18 +227,19 @@ void frmLogDescription::ShowHead() {
 
 void frmLogDescription::ShowColumns() {
   // At first the one behind the clock: of the clock there is nothing to edit.
-  const int first = shape_.time.column == 0 ? 2 : 1;
-  const int selected = lvwColumns.SelectedRow() > 0 ? lvwColumns.SelectedRow() : first;
+  int selected = shape_.time.column == 0 ? 2 : 1;
+  if (lvwColumns.SelectedRow() > 0) selected = lvwColumns.SelectedRow();
   std::vector<ListView::Row> rows;
   for (std::size_t at = 0; at < shape_.columns.size(); ++at) {
     const ShapeColumn& column = shape_.columns[at];
     const ShapeItem& item = shape_.items[at];
     const bool number = column.content == ColumnContent::Number;
-    std::string name = item.item >= kFirstOwnItem ? "Own" : item.name;
+    std::string name = item.name;
+    if (item.item >= kFirstOwnItem) name = "Own";
     if (item.item == 0) name = kNotRead;
     rows.push_back({{column.title, column.unit, Join(column.first, "  "),
-                     number ? NumberText(column.lowest) : "",
-                     number ? NumberText(column.highest) : "", std::move(name),
+                     TextIf(number, NumberText(column.lowest)),
+                     TextIf(number, NumberText(column.highest)), std::move(name),
                      ConversionText(item), std::to_string(item.places), item.shown ? "Yes" : "No"},
                     std::to_string(at),
                     item.why});
@@ -277,8 +281,11 @@ void frmLogDescription::TakeColumn() {
   if (showing_ || !item || item->item == ItemOf(kSecs)) return;
   const auto at = static_cast<std::size_t>(item - shape_.items.data());
   const clsLogDataItem* known = catalogue_.ByShortName(cboItem.Text());
-  const int own = item->item >= kFirstOwnItem ? item->item : OwnNumber(at);
-  int wanted = known ? known->intSeq : own;
+  int wanted = item->item;
+  if (known)
+    wanted = known->intSeq;
+  else if (wanted < kFirstOwnItem)
+    wanted = OwnNumber(at);
   if (cboItem.Text() == kNotRead) wanted = 0;
   if (wanted != item->item) {
     for (std::size_t other = 0; other < shape_.items.size(); ++other)
@@ -313,7 +320,7 @@ std::string frmLogDescription::KeyOf(std::size_t column) const {
 clsDataLog frmLogDescription::Definition() const {
   LogShape shape = shape_;
   if (old_) {
-    DefinitionEdits edits{txtName.Text().empty() ? old_->strName : txtName.Text(), formEdited_, {}};
+    DefinitionEdits edits{OrElse(txtName.Text(), old_->strName), formEdited_, {}};
     for (std::size_t at = 0; at < shape.columns.size(); ++at)
       if (edited_.contains(KeyOf(at))) edits.columns.push_back(at);
     return EditedDefinition(*old_, shape, edits);
@@ -322,7 +329,7 @@ clsDataLog frmLogDescription::Definition() const {
   int next = kFirstOwnItem;
   for (ShapeItem& item : shape.items)
     if (item.item >= kFirstOwnItem) item.item = next++;
-  return DefinitionOfShape(shape, txtName.Text().empty() ? "My Logger" : txtName.Text(), extension_,
+  return DefinitionOfShape(shape, OrElse(txtName.Text(), "My Logger"), extension_,
                            kUsualLinesASecond);
 }
 

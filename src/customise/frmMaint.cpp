@@ -29,7 +29,8 @@ frmMaint::frmMaint(Host& itsHost, MaintainedList& col, const Texts& texts,
   lvwNameList.KeyDown = [this](const KeyPress& key, bool& eaten) {
     // Alone they go from row to row; with a modifier they take the row along.
     if (key.Plain() || (key.key != "Up" && key.key != "Down")) return;
-    (key.key == "Up" ? cmdPresetUp : cmdPresetDown).Press();
+    if (key.key == "Up") cmdPresetUp.Press();
+    if (key.key == "Down") cmdPresetDown.Press();
     eaten = true;
   };
   cmdNew.Click = [this] { cmdNew_Click(); };

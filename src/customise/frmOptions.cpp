@@ -132,10 +132,10 @@ bool frmOptions::ValidatePath(int index) {
 bool frmOptions::LoadDataLogDefinitionLocal() {
   const std::string path = txtPath(DefinitionFile).Text();
   const clsLogDataItems& fixed = draft_.catalogue.gcolFixedDataItems;
-  auto definition = path.empty() ? DefaultDataLogDefinition()
-                                 : DefinitionFiles(around_.files, around_.messages.Teller(),
-                                                   around_.errors, fixed)
-                                       .LoadDataLogDefinition(path);
+  std::optional<clsDataLog> definition = DefaultDataLogDefinition();
+  if (!path.empty())
+    definition = DefinitionFiles(around_.files, around_.messages.Teller(), around_.errors, fixed)
+                     .LoadDataLogDefinition(path);
   if (!definition) return false;
   if (!path.empty()) around_.messages.ShowMessage(Message::DefinitionLoaded);
   draft_.definition = std::move(*definition);
