@@ -44,8 +44,9 @@ std::vector<Command> LogFiles::Rows() {
 void LogFiles::TakeRecentFiles() {
   const std::vector<std::string>& tags = globals_.settings.recentFiles;
   for (auto tag = tags.rbegin(); tag != tags.rend(); ++tag) {
-    const auto [fileType, path] = RecentFiles::ParseTag(*tag);
-    recent_.AddRecentlyUsedFile(path, fileType == kUnknownFile ? Guessed(path) : fileType);
+    auto [fileType, path] = RecentFiles::ParseTag(*tag);
+    if (fileType == kUnknownFile) fileType = Guessed(path);
+    recent_.AddRecentlyUsedFile(path, fileType);
   }
 }
 

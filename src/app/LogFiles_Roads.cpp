@@ -3,6 +3,7 @@
 
 #include "app/LogFiles.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "base/TextFile.h"
 #include "customise/frmLineFrequency.h"
 #include "customise/frmLogDescription.h"
@@ -47,8 +48,8 @@ bool LogFiles::OpenFile(const std::string& path, int fileType) {
     return LoadAsSettings(path, wanted, std::move(bytes));
   auto road = roads_.ByContent(*bytes, path);
   const bool better = road && (!trial.loaded || road->known > asWanted.known);
-  const Agreed agreed =
-      better ? AgreesTo(*road, path, guessed ? kUnknownFile : wanted) : Agreed::No;
+  Agreed agreed = Agreed::No;
+  if (better) agreed = AgreesTo(*road, path, fileType);
   if (agreed == Agreed::Yes)
     return SettleRate(*road) && LoadAs(path, std::move(*road), std::move(bytes));
   if (agreed == Agreed::Otherwise) return DescribeLog(path);
@@ -59,7 +60,8 @@ bool LogFiles::OpenFile(const std::string& path, int fileType) {
 
 bool LogFiles::OpenByContent(const std::string& path) {
   Bytes bytes = ReadText(services_.files, path);
-  auto road = bytes ? roads_.ByContent(*bytes, path) : std::nullopt;
+  std::optional<LogRoad> road;
+  if (bytes) road = roads_.ByContent(*bytes, path);
   if (road) return LoadAs(path, std::move(*road), std::move(bytes));
   return LoadAsSettings(path, kUnknownFile, std::move(bytes));
 }
@@ -83,8 +85,7 @@ bool LogFiles::LoadAs(const std::string& path, LogRoad road, Bytes bytes) {
     definition_.UseDefinitionOfSettings();
   globals_.takenAs = road.takenAs;
   if (!LoadNow(path, road.fileType, std::move(bytes))) return false;
-  status_.Say("Loading complete: " + road.takenAs +
-              (road.notes.empty() ? "" : ". Time: " + road.notes));
+  status_.Say("Loading complete: " + road.takenAs + WithLead(". Time: ", road.notes));
   return true;
 }
 

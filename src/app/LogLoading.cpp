@@ -120,8 +120,9 @@ void LogLoading::TellNotRead(const std::string& path, bool read) {
     services_.messages.Tell(UnreadFileError(services_.files, path), kBoxExclamation);
     return services_.messages.ShowMessage(Message::NotAMapFile);
   }
-  std::string why = read ? "It has a line of more than 16 MB." : services_.files.WhyNotRead(path);
-  if (why != kTooLargeToRead && why != kNoMemoryToRead && !read) why.clear();
+  std::string why = "It has a line of more than 16 MB.";
+  if (!read) why = services_.files.WhyNotRead(path);
+  if (!read && why != kTooLargeToRead && why != kNoMemoryToRead) why.clear();
   services_.messages.ShowMessage(Message::FileNotLoaded, false, why);
 }
 

@@ -31,7 +31,8 @@ constexpr int kKnownOfTen = 9;
 std::string_view HeadOf(std::string_view bytes) {
   if (bytes.size() <= kHead) return bytes;
   const auto end = bytes.substr(0, kHead).find_last_of("\n\r");
-  return bytes.substr(0, end == std::string_view::npos ? kHead : end + 1);
+  if (end == std::string_view::npos) return bytes.substr(0, kHead);
+  return bytes.substr(0, end + 1);
 }
 
 std::string Joined(std::string_view first, std::string_view second) {
@@ -99,9 +100,10 @@ bool IsOwnKind(const std::string& path) {
 const TitleDictionary& LogRoads::Titles() {
   if (titles_) return *titles_;
   std::string text(BuiltInTitles());
-  for (const std::string& folder : {globals_.dataFolder, globals_.gstrProgramFolder})
-    if (const auto own = folder.empty() ? std::nullopt : ReadText(files_, folder + kTitles))
-      text = Joined(text, *own);
+  for (const std::string& folder : {globals_.dataFolder, globals_.gstrProgramFolder}) {
+    if (folder.empty()) continue;
+    if (const auto own = ReadText(files_, folder + kTitles)) text = Joined(text, *own);
+  }
   return titles_.emplace(text);
 }
 
@@ -110,9 +112,8 @@ LoadOutcome LogRoads::Try(std::string_view bytes, int fileType,
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) return {};
   const clsLogDataItems& fixed = globals_.catalogue.gcolFixedDataItems;
-  const bool universal = fileType == kUniversalLog;
-  const clsLogDataItems items =
-      universal ? GenerateLogDataItemsGeneric(definition, fixed) : fixed.Duplicate();
+  clsLogDataItems items = fixed.Duplicate();
+  if (fileType == kUniversalLog) items = GenerateLogDataItemsGeneric(definition, fixed);
   NoProgress progress;
   OpenLog log;
   return loader->load(bytes, {log, items, globals_.settings, globals_.tables, progress},

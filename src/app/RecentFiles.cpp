@@ -3,20 +3,10 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
-#include "base/Paths.h"
 #include "base/Text.h"
+#include "desk/RecentMenu.h"
 
 namespace tarnview {
-namespace {
-
-/// A "&" of a name is no mark of a letter to press.
-std::string WithoutMnemonics(const std::string& name) {
-  std::string caption;
-  for (const char one : name) caption.append(one == '&' ? 2 : 1, one);
-  return caption;
-}
-
-}  // namespace
 
 RecentFiles::RecentFiles(ControlArray<MenuItem>& mnuRecentlyUsed, MenuItem& mnuSepRecentlyUsed)
     : items_(mnuRecentlyUsed), separator_(mnuSepRecentlyUsed) {
@@ -49,7 +39,7 @@ void RecentFiles::Rewrite() {
     if (!used) continue;
     const std::string path = At(item->index).path;
     item->Tag = tags_[static_cast<std::size_t>(item->index)];
-    item->Caption = "&" + std::to_string(item->index + 1) + " " + WithoutMnemonics(ShortPath(path));
+    item->Caption = RecentCaption(item->index + 1, path);
     item->ToolTip = path;
   }
 }

@@ -1,5 +1,6 @@
 #include "app/SettingsFile.h"
 
+#include "base/Text.h"
 #include "base/TextFile.h"
 #include "model/IniRepair.h"
 
@@ -78,9 +79,8 @@ IniTable SettingsFile::ReadTable() {
 /// What is about to be written over is kept. A file that was but cut, or whose last line somebody
 /// wrote without its end, is no news.
 void SettingsFile::TellDamage(const std::string& path, bool hasSettings) {
-  std::string told = hasSettings
-                         ? "The settings file is damaged. What can be read of it holds:\r\n"
-                         : "This is no settings file, so every setting has its default:\r\n";
+  std::string told = "This is no settings file, so every setting has its default:\r\n";
+  if (hasSettings) told = "The settings file is damaged. What can be read of it holds:\r\n";
   told += path;
   if (globals_.gstrINIFileToWrite == path) {
     const std::string kept = SetAside(path);
@@ -98,9 +98,10 @@ void SettingsFile::TellDamage(const std::string& path, bool hasSettings) {
 /// Under a name that no earlier one has, unless it is there already; "" if it cannot be kept.
 std::string SettingsFile::SetAside(const std::string& path) {
   for (int n = 1;; ++n) {
-    const std::string kept = path + ".bad" + (n == 1 ? "" : std::to_string(n));
+    const std::string kept = path + ".bad" + TextIf(n > 1, std::to_string(n));
     if (const auto there = services_.files.Read(kept); there && *there == seen_) return kept;
-    if (!services_.files.FileExists(kept)) return services_.files.Write(kept, seen_) ? kept : "";
+    if (services_.files.FileExists(kept)) continue;
+    return TextIf(services_.files.Write(kept, seen_), kept);
   }
 }
 

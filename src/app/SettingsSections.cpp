@@ -145,7 +145,10 @@ SettingsBodies MergeSettings(const SettingsBodies& read, const SettingsBodies& h
   SettingsBodies merged;
   for (std::size_t n = 0; n < kCount; ++n) {
     const SectionVersions versions{read[n], held[n], inFile[n]};
-    merged.push_back(kSections[n].held == Held::Whole ? MergeWhole(versions) : MergeKeys(versions));
+    if (kSections[n].held == Held::Whole)
+      merged.push_back(MergeWhole(versions));
+    else
+      merged.push_back(MergeKeys(versions));
   }
   return merged;
 }

@@ -74,8 +74,9 @@ void ZoneWindows::OfferLostEdits() {
   const std::string path = JournalPath();
   if (path.empty() || !services_.files.FileExists(path)) return;
   const auto bytes = services_.files.Read(path);
-  const auto journal = bytes ? ReadJournal(*bytes) : std::nullopt;
   services_.files.DeleteFile(path);
+  if (!bytes) return;
+  const auto journal = ReadJournal(*bytes);
   if (!journal) return;
   const std::string text =
       "Edits of the zones of " + FileTitle(journal->file) +

@@ -2,6 +2,7 @@
 
 #include "app/frmAbout.h"
 #include "app/frmDataLogViewer.h"
+#include "base/Text.h"
 
 namespace tarnview {
 
@@ -127,7 +128,7 @@ void frmDataLogViewer::SetUpZoomMenus() {
     const bool in = entries == &mnuViewZoomInAmount || entries == &mnuRightClickZoomInAmount;
     for (const auto& entry : *entries) {
       // A letter to press is one digit, and 20 begins as 2 does.
-      entry->Caption = (entry->index < 10 ? "&" : "") + std::to_string(entry->index) + " x";
+      entry->Caption = TextIf(entry->index < 10, "&") + std::to_string(entry->index) + " x";
       entry->Click = [this, in, amount = entry->index] {
         zoom_.SetAmount(amount);
         (in ? cmdZoomIn : cmdZoomOut).Press();

@@ -80,10 +80,9 @@ void frmDataLogViewer::SetDataLogViewerCaption() {
   const auto& type = globals_.kinds.gcolFileTypes.Item(log_.gintCurrentFileType);
   const std::string kind = OrElse(globals_.takenAs, type.GetSingularDescription());
   Caption = "Tarnview - " + log_.gstrCurrentFileTitle + " (" + kind + ")";
-  status_.SayLoaded(log_.glngLastSampleTime >= 1
-                        ? "Sample Load Range " + std::to_string(log_.glngFirstSampleTime) + " - " +
-                              std::to_string(log_.glngLastSampleTime)
-                        : "");
+  const std::string range =
+      std::to_string(log_.glngFirstSampleTime) + " - " + std::to_string(log_.glngLastSampleTime);
+  status_.SayLoaded(TextIf(log_.glngLastSampleTime >= 1, "Sample Load Range " + range));
 }
 
 bool frmDataLogViewer::CanShowDataTags() const {
