@@ -70,7 +70,8 @@ void Driver::RunModal(Form& form) {
 
 bool Driver::Step() {
   try {
-    const auto line = error_ ? std::nullopt : script_();
+    if (error_) return false;
+    const auto line = script_();
     if (!line) return false;
     line_ = line->number;
     events.Run("Driver", line->words.front(), [&] { DoLine(*line); });
@@ -115,9 +116,8 @@ void Driver::OpenLogFile(const Words& words) {
   const Globals& globals = program_.Global();
   const clsFileTypes& types = globals.kinds.gcolFileTypes;
   const std::string& path = WordAt(words, 0);
-  const int type = words.size() > 1
-                       ? StringToLong(words[1])
-                       : types.GuessFileType(path, globals.settings.gintDefaultFileType);
+  int type = types.GuessFileType(path, globals.settings.gintDefaultFileType);
+  if (words.size() > 1) type = StringToLong(words[1]);
   nextFile = Answer{Answer::Kind::File, path, 0, types.SequenceFromID(type)};
   program_.MainWindow().mnuFileOpen.Do({"click", {}});
 }

@@ -120,7 +120,7 @@ int Load(const LoadOptions& options) {
            {"tags", TagsJson(log.gcolLogTags)}};
   AddZones(out, log);
   const bool universal = log.gintCurrentFileType == kUniversalLog;
-  out["definition"] = universal ? ToUtf8(session.Global().gclsDataLogDefinition.strName) : "";
+  out["definition"] = TextIf(universal, ToUtf8(session.Global().gclsDataLogDefinition.strName));
   out["messages"] = MessagesJson(session.Host().messages);
   if (options.summary) AddSummary(out, session.Global());
   Print(out);

@@ -35,8 +35,8 @@ bool Refuse(const std::string& why) {
 }
 
 std::string CheckAir(const std::string& text) {
-  const std::string_view number =
-      text.starts_with(kWetBulb) ? std::string_view(text).substr(4) : text;
+  std::string_view number = text;
+  if (number.starts_with(kWetBulb)) number.remove_prefix(4);
   if (IsNumeric(number)) return "";
   return "the air is TEMPERATURE PRESSURE HUMIDITY, the last as 50 or wet:15";
 }
@@ -64,9 +64,8 @@ bool ChooseCar(frmPowerGraph& window, const PowerOptions& options) {
   if (!options.carFile.empty()) {
     window.cboCarDefs.SetListIndex(static_cast<int>(names.size()) - 1);
   } else if (!options.car.empty()) {
-    const auto found = std::find(names.begin(), names.end(), FromUtf8(options.car));
-    if (found == names.end()) return Refuse("there is no car definition \"" + options.car + "\"");
-    window.cboCarDefs.SetListIndex(static_cast<int>(found - names.begin()));
+    if (!window.cboCarDefs.Choose(FromUtf8(options.car)))
+      return Refuse("there is no car definition \"" + options.car + "\"");
   }
   return true;
 }

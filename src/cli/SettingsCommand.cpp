@@ -21,13 +21,13 @@ Json PlacementsJson(const WindowPlacements& windows) {
   for (const NamedPlacement& row : AllPlacements()) {
     const auto& config = windows.*row.window;
     if (!config) continue;
-    const std::string prefix = row.prefix;
-    all[prefix.empty() ? "Main" : prefix.substr(0, prefix.size() - 1)] = {
-        {"state", config->lngWindowState},
-        {"left", config->lngLeft},
-        {"top", config->lngTop},
-        {"width", config->lngWidth},
-        {"height", config->lngHeight}};
+    std::string name = row.prefix;
+    if (!name.empty()) name.pop_back();
+    all[OrElse(name, "Main")] = {{"state", config->lngWindowState},
+                                 {"left", config->lngLeft},
+                                 {"top", config->lngTop},
+                                 {"width", config->lngWidth},
+                                 {"height", config->lngHeight}};
   }
   return all;
 }

@@ -51,8 +51,8 @@ class DryRun {
       return kFailed;
     }
     const UploadOptions upload = Chosen();
-    const Comparison comparison =
-        upload.blnChangesOnly ? Compared(upload.strComparisonFile) : Comparison{};
+    Comparison comparison;
+    if (upload.blnChangesOnly) comparison = Compared(upload.strComparisonFile);
     if (comparison.fault) program_.TellMessage(*comparison.fault);
     if (!AirZonesFit(form.datChipDate, settings.gdatDefaultChipDate))
       program_.TellMessage(Message::AirTempNotUploaded);

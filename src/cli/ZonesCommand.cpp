@@ -91,7 +91,7 @@ Json MapJson(const ZoneMap& map) {
           {"map_id", sheet.MAPID},
           {"auto_tune", sheet.autoTuneType},
           {"o2_sensor", sheet.O2Sensor},
-          {"boost_unit", sheet.boostTargets ? "kPa" : "Pct"},
+          {"boost_unit", std::string(BoostUnit(sheet))},
           {"boxes", BoxesJson(sheet)},
           {"shown", ShownJson(sheet)}};
 }
