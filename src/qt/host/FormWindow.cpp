@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Text.h"
 #include "qt/Text.h"
 #include "qt/binder/FormTable.h"
 #include "qt/host/GiveWay.h"
@@ -138,9 +139,7 @@ void FormWindow::RunWhenFree(const char* procedure, std::function<void()> event)
 }
 
 void FormWindow::ShowCaption() {
-  const std::string& subtitle = form_.Subtitle;
-  window_->setWindowTitle(
-      CaptionToQt(subtitle.empty() ? form_.Caption() : form_.Caption() + " - " + subtitle));
+  window_->setWindowTitle(CaptionToQt(form_.Caption() + WithLead(" - ", form_.Subtitle)));
   if (form_.Pointer == MousePointer::Hourglass)
     window_->setCursor(Qt::WaitCursor);
   else
