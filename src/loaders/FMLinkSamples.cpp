@@ -24,8 +24,7 @@ constexpr Spread kSpreads[] = {{kVolt, 1, 1},   {kCTemp, 0, 1}, {kSpeed, 1, 10},
 constexpr Column kSwitches[] = {kEngFan, kCndFan, kAC, kPRC, kChPurge};
 
 std::int32_t Stored(const Spread& spread, double value) {
-  double rounded = RoundHalfEven(value);
-  if (spread.places == 1) rounded = RoundHalfEven(value * 10) / 10;
+  const double rounded = spread.places == 1 ? RoundHalfEven(value * 10) / 10 : RoundHalfEven(value);
   return RoundToLong(rounded * spread.factor);
 }
 
