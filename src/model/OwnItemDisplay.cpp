@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/Catalogue.h"
+#include "model/IniKeys.h"
 #include "model/SettingLimits.h"
 
 namespace tarnview {

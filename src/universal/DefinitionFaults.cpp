@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/Column.h"
+#include "model/IniKeys.h"
 
 namespace tarnview {
 namespace {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "model/IniKeys.h"
 #include "zones/AutoTune.h"
 #include "zones/ChipIdentity.h"
 #include "zones/ZoneFlags.h"
