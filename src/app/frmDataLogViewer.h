@@ -160,6 +160,7 @@ class frmDataLogViewer : public MainWindowControls,
   StatusArea status_{*this, staDataLogViewer, proProgInd};
   PlotRange range_{
       {PlotRangeFrom, updPlotRangeFrom, PlotRangeTo, updPlotRangeTo}, log_, selection_, redraw_};
+  const Plotted plotted_{log_, range_, drawn_, selection_};
   SampleDetails details_;
   SampleGraph graph_;
   PointHighlight highlight_;

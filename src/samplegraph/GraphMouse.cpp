@@ -17,14 +17,13 @@ constexpr std::int32_t kNarrowest = 2;
 
 }  // namespace
 
-GraphMouse::GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-                       PlotRange& range, const OpenLog& log, PointHighlight& highlight,
+GraphMouse::GraphMouse(const Controls& controls, const Plotted& plotted, PointHighlight& highlight,
                        MainWindow& mainWindow)
     : controls_(controls),
-      drawn_(drawn),
-      selection_(selection),
-      range_(range),
-      log_(log),
+      drawn_(plotted.drawn),
+      selection_(plotted.selection),
+      range_(plotted.range),
+      log_(plotted.log),
       highlight_(highlight),
       mainWindow_(mainWindow) {
   Chart& chart = controls_.chSampleGraph;

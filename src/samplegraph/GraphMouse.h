@@ -1,10 +1,7 @@
 #pragma once
 
-#include "model/OpenLog.h"
-#include "samplegraph/DrawnGraph.h"
-#include "samplegraph/PlotRange.h"
+#include "samplegraph/Plotted.h"
 #include "samplegraph/PointHighlight.h"
-#include "samplegraph/Selection.h"
 #include "ui/Chart.h"
 #include "ui/CheckBox.h"
 #include "ui/CommandButton.h"
@@ -27,8 +24,7 @@ class GraphMouse {
     /// Draws as if that had been drawn last: "Previous Graph" will lead back to it.
     virtual void DrawSampleGraphAfter(const RangeHistory& history) = 0;
   };
-  GraphMouse(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-             PlotRange& range, const OpenLog& log, PointHighlight& highlight,
+  GraphMouse(const Controls& controls, const Plotted& plotted, PointHighlight& highlight,
              MainWindow& mainWindow);
 
  private:

@@ -6,14 +6,13 @@
 
 namespace tarnview {
 
-PointHighlight::PointHighlight(const Controls& controls, const DrawnGraph& drawn,
-                               Selection& selection, const PlotRange& range, const OpenLog& log,
+PointHighlight::PointHighlight(const Controls& controls, const Plotted& plotted,
                                SampleDetails& details, StatusArea& status, MainWindow& mainWindow)
     : controls_(controls),
-      drawn_(drawn),
-      selection_(selection),
-      range_(range),
-      log_(log),
+      drawn_(plotted.drawn),
+      selection_(plotted.selection),
+      range_(plotted.range),
+      log_(plotted.log),
       details_(details),
       status_(status),
       mainWindow_(mainWindow) {

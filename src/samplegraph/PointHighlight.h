@@ -3,11 +3,8 @@
 #include <functional>
 
 #include "desk/StatusArea.h"
-#include "model/OpenLog.h"
-#include "samplegraph/DrawnGraph.h"
-#include "samplegraph/PlotRange.h"
+#include "samplegraph/Plotted.h"
 #include "samplegraph/SampleDetails.h"
-#include "samplegraph/Selection.h"
 #include "ui/Chart.h"
 
 namespace tarnview {
@@ -26,8 +23,7 @@ class PointHighlight {
     virtual void SampleShown(
         std::int32_t index) = 0;  ///< the store index whose values are on show now
   };
-  PointHighlight(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-                 const PlotRange& range, const OpenLog& log, SampleDetails& details,
+  PointHighlight(const Controls& controls, const Plotted& plotted, SampleDetails& details,
                  StatusArea& status, MainWindow& mainWindow);
 
   bool CanGoLeft() const;

@@ -23,19 +23,18 @@ bool Note(std::array<std::string, 2>& history, const std::string& text) {
 
 }  // namespace
 
-SampleGraph::SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot,
-                         const OpenLog& log, const Settings& settings, StatusArea& status,
-                         Messages& messages, MainWindow& mainWindow)
+SampleGraph::SampleGraph(Form& window, const Controls& controls, const Plot& plot,
+                         const Surroundings& surroundings, MainWindow& mainWindow)
     : window_(window),
       controls_(controls),
-      range_(range),
+      range_(plot.range),
       drawn_(plot.drawn),
       selection_(plot.selection),
       redraw_(plot.redraw),
-      log_(log),
-      settings_(settings),
-      status_(status),
-      messages_(messages),
+      log_(plot.log),
+      settings_(surroundings.settings),
+      status_(surroundings.status),
+      messages_(surroundings.messages),
       mainWindow_(mainWindow) {
   controls_.chkFixY.Click = [this] { chkFixY_Click(); };
   controls_.txtYMax.Change = [this] { redraw_.Force(); };

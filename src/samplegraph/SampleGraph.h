@@ -31,11 +31,18 @@ class SampleGraph {
     Chart& chSampleGraph;
     Frame& fraPicture;
   };
-  /// What it keeps from one draw to the next.
+  /// What it draws of, and what it keeps from one draw to the next.
   struct Plot {
+    const OpenLog& log;
+    PlotRange& range;
     DrawnGraph& drawn;
     Selection& selection;
     RedrawRequest& redraw;
+  };
+  struct Surroundings {
+    const Settings& settings;
+    StatusArea& status;
+    Messages& messages;
   };
   /// What it needs of the main window.
   struct MainWindow {
@@ -46,9 +53,8 @@ class SampleGraph {
     virtual void GraphDrawn() = 0;
   };
 
-  SampleGraph(Form& window, const Controls& controls, PlotRange& range, const Plot& plot,
-              const OpenLog& log, const Settings& settings, StatusArea& status, Messages& messages,
-              MainWindow& mainWindow);
+  SampleGraph(Form& window, const Controls& controls, const Plot& plot,
+              const Surroundings& surroundings, MainWindow& mainWindow);
 
   /// What Draw does: corrects the range, then draws and shows the chart. Message 10 without a
   /// checked item, 1 where the range is too wide to be drawn without Quick Graph.

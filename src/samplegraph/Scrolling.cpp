@@ -6,13 +6,12 @@
 
 namespace tarnview {
 
-Scrolling::Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-                     PlotRange& range, const OpenLog& log, MainWindow& mainWindow)
+Scrolling::Scrolling(const Controls& controls, const Plotted& plotted, MainWindow& mainWindow)
     : controls_(controls),
-      drawn_(drawn),
-      selection_(selection),
-      range_(range),
-      log_(log),
+      drawn_(plotted.drawn),
+      selection_(plotted.selection),
+      range_(plotted.range),
+      log_(plotted.log),
       mainWindow_(mainWindow) {
   objGraphScrollLarge_.Client(&controls_.hsbGraphScrollLarge);
   controls_.hsbGraphScroll.Change = [this] { Moved(); };

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "model/OpenLog.h"
 #include "samplegraph/CLongScroll.h"
-#include "samplegraph/DrawnGraph.h"
-#include "samplegraph/PlotRange.h"
-#include "samplegraph/Selection.h"
+#include "samplegraph/Plotted.h"
 #include "ui/ScrollBar.h"
 
 namespace tarnview {
@@ -25,8 +22,7 @@ class Scrolling {
     virtual ~MainWindow() = default;
     virtual void DrawSampleGraph() = 0;
   };
-  Scrolling(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-            PlotRange& range, const OpenLog& log, MainWindow& mainWindow);
+  Scrolling(const Controls& controls, const Plotted& plotted, MainWindow& mainWindow);
 
   /// A new log: which bar serves, and both at rest.
   void TakeLog();

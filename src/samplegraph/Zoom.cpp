@@ -15,13 +15,13 @@ constexpr std::int64_t kNarrowestToZoom = 10;
 
 }  // namespace
 
-Zoom::Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection,
-           PlotRange& range, const OpenLog& log, Messages& messages, MainWindow& mainWindow)
+Zoom::Zoom(const Controls& controls, const Plotted& plotted, Messages& messages,
+           MainWindow& mainWindow)
     : controls_(controls),
-      drawn_(drawn),
-      selection_(selection),
-      range_(range),
-      log_(log),
+      drawn_(plotted.drawn),
+      selection_(plotted.selection),
+      range_(plotted.range),
+      log_(plotted.log),
       messages_(messages),
       mainWindow_(mainWindow) {
   controls_.cboZoomAmount.LostFocus = [this] { LeaveAmount(); };

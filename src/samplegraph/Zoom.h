@@ -1,10 +1,7 @@
 #pragma once
 
 #include "desk/Messages.h"
-#include "model/OpenLog.h"
-#include "samplegraph/DrawnGraph.h"
-#include "samplegraph/PlotRange.h"
-#include "samplegraph/Selection.h"
+#include "samplegraph/Plotted.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 
@@ -23,8 +20,8 @@ class Zoom {
     virtual void DrawSampleGraph() = 0;
     virtual void DrawGraphChecked() = 0;
   };
-  Zoom(const Controls& controls, const DrawnGraph& drawn, Selection& selection, PlotRange& range,
-       const OpenLog& log, Messages& messages, MainWindow& mainWindow);
+  Zoom(const Controls& controls, const Plotted& plotted, Messages& messages,
+       MainWindow& mainWindow);
 
   bool CanZoomIn() const;
   bool CanZoomOut() const { return !range_.IsWholeLog(); }

@@ -16,16 +16,15 @@ constexpr const char* kWhatHelps =
 
 }  // namespace
 
-ScatterDrawing::ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log,
-                               const Settings& settings, StatusArea& status, Messages& messages,
-                               ErrorLog& errors)
+ScatterDrawing::ScatterDrawing(Form& window, const Controls& controls,
+                               const Surroundings& surroundings)
     : window_(window),
       controls_(controls),
-      log_(log),
-      settings_(settings),
-      status_(status),
-      messages_(messages),
-      errors_(errors) {
+      log_(surroundings.log),
+      settings_(surroundings.settings),
+      status_(surroundings.status),
+      messages_(surroundings.messages),
+      errors_(surroundings.errors) {
   Clear();
 }
 

@@ -37,9 +37,14 @@ class ScatterDrawing {
     Label& lblEmptyPlace;  ///< what to do while there is no graph
     Frame& fraSampleDetails;
   };
-  ScatterDrawing(Form& window, const Controls& controls, const OpenLog& log,
-                 const Settings& settings, StatusArea& status, Messages& messages,
-                 ErrorLog& errors);
+  struct Surroundings {
+    const OpenLog& log;
+    const Settings& settings;
+    StatusArea& status;
+    Messages& messages;
+    ErrorLog& errors;
+  };
+  ScatterDrawing(Form& window, const Controls& controls, const Surroundings& surroundings);
 
   /// Draws anew; what was drawn before is gone in any case. Message 3, which offers to draw them
   /// all, for too many samples without a filter and 46 for none at all, unless `blnQuiet`.

@@ -23,8 +23,8 @@ frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings
       filters_({lvwFilters, cmdFilterNew, cmdFilterMod, cmdFilterDelete},
                {around_.catalogue, around_.messages}),
       presets_(lvwPresets, around_.presets, around_.kinds.gcolLogFamilies),
-      drawing_(*this, {chScatterGraph, fraPicture, lblEmptyPlace, fraSampleDetails}, around_.log,
-               around_.settings, status_, around_.messages, around_.errors),
+      drawing_(*this, {chScatterGraph, fraPicture, lblEmptyPlace, fraSampleDetails},
+               {around_.log, around_.settings, status_, around_.messages, around_.errors}),
       output_(itsHost, around_.messages, around_.errors),
       commands_(around_.errors, "frmScatterGraph") {
   HelpTopic = "ScatterGraph";

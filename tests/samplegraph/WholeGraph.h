@@ -139,18 +139,14 @@ class WholeGraph : public ::testing::Test,
   SampleGraph graph{
       window,
       {lvwSampleDetails, chkQuickGraph, chkFixY, txtYMax, updYMax, chSampleGraph, fraPicture},
-      range,
-      {drawn, selection, redraw},
-      log,
-      settings,
-      status,
-      messages,
+      {log, range, drawn, selection, redraw},
+      {settings, status, messages},
       *this};
-  PointHighlight highlight{{chSampleGraph}, drawn, selection, range, log, details, status, *this};
-  Zoom zoom{{cboZoomAmount, chkQuickGraph}, drawn, selection, range, log, messages, *this};
-  GraphMouse mouse{
-      {chSampleGraph, chkQuickGraph, cmdZoomFull}, drawn, selection, range, log, highlight, *this};
-  Scrolling scrolling{{bar, longBar}, drawn, selection, range, log, *this};
+  const Plotted plotted{log, range, drawn, selection};
+  PointHighlight highlight{{chSampleGraph}, plotted, details, status, *this};
+  Zoom zoom{{cboZoomAmount, chkQuickGraph}, plotted, messages, *this};
+  GraphMouse mouse{{chSampleGraph, chkQuickGraph, cmdZoomFull}, plotted, highlight, *this};
+  Scrolling scrolling{{bar, longBar}, plotted, *this};
 
   std::map<std::string, std::function<void()>> verbs = {
       {"in", [this] { zoom.cmdZoomIn_Click(); }},
