@@ -23,11 +23,11 @@ std::vector<Command> Customising::Rows() {
   const auto keep = [this](KeptList list) { return [this, list] { MaintainList(list); }; };
   return {
       // clang-format off
-      {&controls_.mnuCustomiseOptions, "mnuCustomiseOptions_Click", [this] { mnuCustomiseOptions_Click(); }, {}},
-      {&controls_.mnuCustomisePresetSample, "mnuCustomisePresetSample_Click", keep(KeptList::SamplePresets), {}},
-      {&controls_.mnuCustomisePresetScatter, "mnuCustomisePresetScatter_Click", keep(KeptList::ScatterPresets), {}},
-      {&controls_.mnuCustomiseCarDefs, "mnuCustomiseCarDefs_Click", keep(KeptList::CarDefs), {}},
-      {&controls_.mnuCustomiseBenchmarks, "mnuCustomiseBenchmarks_Click", keep(KeptList::Benchmarks), {}},
+      {&controls_.mnuCustomiseOptions, [this] { mnuCustomiseOptions_Click(); }, {}},
+      {&controls_.mnuCustomisePresetSample, keep(KeptList::SamplePresets), {}},
+      {&controls_.mnuCustomisePresetScatter, keep(KeptList::ScatterPresets), {}},
+      {&controls_.mnuCustomiseCarDefs, keep(KeptList::CarDefs), {}},
+      {&controls_.mnuCustomiseBenchmarks, keep(KeptList::Benchmarks), {}},
       // clang-format on
   };
 }

@@ -23,11 +23,8 @@ EcuCommands::EcuCommands(MainWindowControls& controls, Globals& globals, Service
 
 std::vector<Command> EcuCommands::Rows() {
   return {
-      {&controls_.mnuFileNew, "mnuFileNew_Click", [this] { capture_.Run(); }, {}},
-      {&controls_.mnuToolsConvert,
-       "mnuToolsConvert_Click",
-       [this] { mnuToolsConvert_Click(); },
-       {}},
+      {&controls_.mnuFileNew, [this] { capture_.Run(); }, {}},
+      {&controls_.mnuToolsConvert, [this] { mnuToolsConvert_Click(); }, {}},
   };
 }
 

@@ -26,18 +26,15 @@ LogFiles::LogFiles(MainWindowControls& controls, Globals& globals, Services& ser
 std::vector<Command> LogFiles::Rows() {
   std::vector<Command> rows{
       // clang-format off
-      {&controls_.mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
-      {&controls_.mnuFileSave, "mnuFileSave_Click", [this] { saving_.Save(); }, [this] { return saving_.MaySave(); }},
-      {&controls_.mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { saving_.SaveAs(); }, [this] { return saving_.MaySaveAs(); }},
-      {&controls_.mnuFileNewLogDescription, "mnuFileNewLogDescription_Click", [this] { mnuFileNewLogDescription_Click(); }, {}},
-      {&controls_.mnuFileEditDefinition, "mnuFileEditDefinition_Click", [this] { mnuFileEditDefinition_Click(); }, {}},
+      {&controls_.mnuFileOpen, [this] { mnuFileOpen_Click(); }, {}},
+      {&controls_.mnuFileSave, [this] { saving_.Save(); }, [this] { return saving_.MaySave(); }},
+      {&controls_.mnuFileSaveAs, [this] { saving_.SaveAs(); }, [this] { return saving_.MaySaveAs(); }},
+      {&controls_.mnuFileNewLogDescription, [this] { mnuFileNewLogDescription_Click(); }, {}},
+      {&controls_.mnuFileEditDefinition, [this] { mnuFileEditDefinition_Click(); }, {}},
       // clang-format on
   };
   for (const auto& item : controls_.mnuRecentlyUsed)
-    rows.push_back({item.get(),
-                    "mnuRecentlyUsed_Click",
-                    [this, index = item->index] { OpenRecentlyUsedFile(index); },
-                    {}});
+    rows.push_back({item.get(), [this, index = item->index] { OpenRecentlyUsedFile(index); }, {}});
   return rows;
 }
 

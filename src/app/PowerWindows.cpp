@@ -14,7 +14,7 @@ PowerWindows::PowerWindows(MainWindowControls& controls, Globals& globals, Servi
       mainWindow_(mainWindow) {}
 
 std::vector<Command> PowerWindows::Rows() {
-  return {{&controls_.mnuModulesPowerGraph, "mnuModulesPowerGraph_Click", [this] { Open(); },
+  return {{&controls_.mnuModulesPowerGraph, [this] { Open(); },
            [this] { return globals_.log.gblnSamplesLoaded; }}};
 }
 

@@ -18,12 +18,9 @@ ScatterWindows::ScatterWindows(MainWindowControls& controls, Globals& globals, S
 
 std::vector<Command> ScatterWindows::Rows() {
   return {
-      {&controls_.mnuFileDrawScatter,
-       "mnuFileDrawScatter_Click",
-       [this] { mnuFileDrawScatter_Click(); },
-       {}},
-      {&controls_.mnuModulesScatterGraph, "mnuModulesScatterGraph_Click",
-       [this] { OpenScatterGraph(); }, [this] { return globals_.log.gblnSamplesLoaded; }},
+      {&controls_.mnuFileDrawScatter, [this] { mnuFileDrawScatter_Click(); }, {}},
+      {&controls_.mnuModulesScatterGraph, [this] { OpenScatterGraph(); },
+       [this] { return globals_.log.gblnSamplesLoaded; }},
   };
 }
 

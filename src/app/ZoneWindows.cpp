@@ -8,7 +8,7 @@
 namespace tarnview {
 
 std::vector<Command> ZoneWindows::Rows() {
-  return {{&controls_.mnuModulesZoneData, "mnuModulesZoneData_Click", [this] { EditZones(); },
+  return {{&controls_.mnuModulesZoneData, [this] { EditZones(); },
            [this] { return globals_.log.gblnZonesLoaded; }}};
 }
 

@@ -10,16 +10,15 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
   const auto loaded = [this] { return log_.gblnSamplesLoaded; };
   return {
       // clang-format off
-      {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); }, loaded},
-      {&mnuFileExit, "mnuFileExit_Click", [this] { Unload(); }, {}},
-      {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { presets_.UpdatePreset(); },
+      {&mnuFileExport, [this] { mnuFileExport_Click(); }, loaded},
+      {&mnuFileExit, [this] { Unload(); }, {}},
+      {&mnuEditUpdatePreset, [this] { presets_.UpdatePreset(); },
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
-      {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, loaded},
+      {&mnuEditNewPreset, [this] { mnuEditNewPreset_Click(); }, loaded},
       // The log as its logger wrote it, in the program that the desktop has for such files.
-      {&mnuToolsDataLogView, "mnuToolsDataLogView_Click", [this] { services_.programs.ShellOpen(log_.gstrCurrentFile); }, loaded},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(""); }, {}},
+      {&mnuToolsDataLogView, [this] { services_.programs.ShellOpen(log_.gstrCurrentFile); }, loaded},
+      {&mnuHelpHelp, [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
-       "mnuHelpAbout_Click",
        [this] {
          const clsDataLog& definition = globals_.gclsDataLogDefinition;
          frmAbout(host, {definition.strName, definition.strVersion, definition.strComments}, [this] {
@@ -38,23 +37,23 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
   const auto wider = [this] { return CanZoomOut(); };
   return {
       // clang-format off
-      {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawGraph(); }, loaded},
-      {&cmdZoomIn, "cmdZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
-      {&cmdZoomOut, "cmdZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
-      {&cmdZoomFull, "cmdZoomFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
-      {&cmdDataPointLeft, "cmdDataPointLeft_Click", [this] { highlight_.cmdDataPointLeft_Click(); },
+      {&cmdDrawGraph, [this] { DrawGraph(); }, loaded},
+      {&cmdZoomIn, [this] { zoom_.cmdZoomIn_Click(); }, narrower},
+      {&cmdZoomOut, [this] { zoom_.cmdZoomOut_Click(); }, wider},
+      {&cmdZoomFull, [this] { zoom_.cmdZoomFull_Click(); }, wider},
+      {&cmdDataPointLeft, [this] { highlight_.cmdDataPointLeft_Click(); },
        [this] { return graph_.Drawn() && highlight_.CanGoLeft(); }},
-      {&cmdDataPointRight, "cmdDataPointRight_Click", [this] { highlight_.cmdDataPointRight_Click(); },
+      {&cmdDataPointRight, [this] { highlight_.cmdDataPointRight_Click(); },
        [this] { return graph_.Drawn() && highlight_.CanGoRight(); }},
-      {&mnuViewZoomIn, "mnuViewZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
-      {&mnuViewZoomOut, "mnuViewZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
-      {&mnuViewZoomFull, "mnuViewZoomFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
-      {&mnuViewPrevious, "mnuViewPrevious_Click", [this] { zoom_.ShowPreviousGraph(); },
+      {&mnuViewZoomIn, [this] { zoom_.cmdZoomIn_Click(); }, narrower},
+      {&mnuViewZoomOut, [this] { zoom_.cmdZoomOut_Click(); }, wider},
+      {&mnuViewZoomFull, [this] { zoom_.cmdZoomFull_Click(); }, wider},
+      {&mnuViewPrevious, [this] { zoom_.ShowPreviousGraph(); },
        [this] { return CanGoBack(); }},
-      {&mnuViewGoto, "mnuViewGoto_Click", [this] { GotoSample(); }, drawn},
-      {&mnuViewNewDataTag, "mnuViewNewDataTag_Click", [this] { tags_.NewDataTag(); }, drawn},
-      {&mnuViewTags, "mnuViewTags_Click", [this] { ShowDataTags(); }, [this] { return CanShowDataTags(); }},
-      {&mnuViewZoneInfl, "mnuViewZoneInfl_Click", [this] { mnuViewZoneInfl_Click(); },
+      {&mnuViewGoto, [this] { GotoSample(); }, drawn},
+      {&mnuViewNewDataTag, [this] { tags_.NewDataTag(); }, drawn},
+      {&mnuViewTags, [this] { ShowDataTags(); }, [this] { return CanShowDataTags(); }},
+      {&mnuViewZoneInfl, [this] { mnuViewZoneInfl_Click(); },
        [this] { return IsLinkLog() && (log_.gblnSamplesLoaded || log_.gblnZonesLoaded); }},
       // clang-format on
   };
@@ -65,12 +64,12 @@ std::vector<Command> frmDataLogViewer::ScrollCommands() {
   const auto right = [this] { return graph_.Drawn() && scrolling_.CanGoRight(); };
   return {
       // clang-format off
-      {&mnuViewScrollLeft, "mnuViewScrollLeft_Click", [this] { scrolling_.ScrollLeft(); }, left},
-      {&mnuViewScrollRight, "mnuViewScrollRight_Click", [this] { scrolling_.ScrollRight(); }, right},
-      {&mnuViewPageLeft, "mnuViewPageLeft_Click", [this] { scrolling_.PageLeft(); }, left},
-      {&mnuViewPageRight, "mnuViewPageRight_Click", [this] { scrolling_.PageRight(); }, right},
-      {&mnuViewStart, "mnuViewStart_Click", [this] { scrolling_.ScrollStart(); }, left},
-      {&mnuViewFinish, "mnuViewFinish_Click", [this] { scrolling_.ScrollFinish(); }, right},
+      {&mnuViewScrollLeft, [this] { scrolling_.ScrollLeft(); }, left},
+      {&mnuViewScrollRight, [this] { scrolling_.ScrollRight(); }, right},
+      {&mnuViewPageLeft, [this] { scrolling_.PageLeft(); }, left},
+      {&mnuViewPageRight, [this] { scrolling_.PageRight(); }, right},
+      {&mnuViewStart, [this] { scrolling_.ScrollStart(); }, left},
+      {&mnuViewFinish, [this] { scrolling_.ScrollFinish(); }, right},
       // clang-format on
   };
 }
@@ -87,20 +86,20 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
   };
   return {
       // clang-format off
-      {&mnuRightClickDrawGraph, "mnuRightClickDrawGraph_Click", [this] { DrawGraph(); },
+      {&mnuRightClickDrawGraph, [this] { DrawGraph(); },
        [this] { return log_.gblnSamplesLoaded; }},
-      {&mnuRightClickZoomIn, "mnuRightClickZoomIn_Click", [this] { zoom_.cmdZoomIn_Click(); }, narrower},
-      {&mnuRightClickZoomOut, "mnuRightClickZoomOut_Click", [this] { zoom_.cmdZoomOut_Click(); }, wider},
-      {&mnuRightClickZoomOutFull, "mnuRightClickZoomOutFull_Click", [this] { zoom_.cmdZoomFull_Click(); }, wider},
-      {&mnuRightClickPrevGraph, "mnuRightClickPrevGraph_Click", [this] { zoom_.ShowPreviousGraph(); },
+      {&mnuRightClickZoomIn, [this] { zoom_.cmdZoomIn_Click(); }, narrower},
+      {&mnuRightClickZoomOut, [this] { zoom_.cmdZoomOut_Click(); }, wider},
+      {&mnuRightClickZoomOutFull, [this] { zoom_.cmdZoomFull_Click(); }, wider},
+      {&mnuRightClickPrevGraph, [this] { zoom_.ShowPreviousGraph(); },
        [this] { return CanGoBack(); }},
-      {&mnuRightClickGoto, "mnuRightClickGoto_Click", [this] { GotoSample(); }, drawn},
-      {&mnuRightClickPlotFrom, "mnuRightClickPlotFrom_Click", [this, set] { set(PlotRangeFrom); }, drawn},
-      {&mnuRightClickPlotTo, "mnuRightClickPlotTo_Click", [this, set] { set(PlotRangeTo); }, drawn},
-      {&mnuRightClickPlotFromAnd, "mnuRightClickPlotFromAnd_Click", [this, setAndDraw] { setAndDraw(PlotRangeFrom); },
+      {&mnuRightClickGoto, [this] { GotoSample(); }, drawn},
+      {&mnuRightClickPlotFrom, [this, set] { set(PlotRangeFrom); }, drawn},
+      {&mnuRightClickPlotTo, [this, set] { set(PlotRangeTo); }, drawn},
+      {&mnuRightClickPlotFromAnd, [this, setAndDraw] { setAndDraw(PlotRangeFrom); },
        drawn},
-      {&mnuRightClickPlotToAnd, "mnuRightClickPlotToAnd_Click", [this, setAndDraw] { setAndDraw(PlotRangeTo); }, drawn},
-      {&mnuRightClickNewDataTag, "mnuRightClickNewDataTag_Click", [this] { tags_.NewDataTag(); }, drawn},
+      {&mnuRightClickPlotToAnd, [this, setAndDraw] { setAndDraw(PlotRangeTo); }, drawn},
+      {&mnuRightClickNewDataTag, [this] { tags_.NewDataTag(); }, drawn},
       // clang-format on
   };
 }

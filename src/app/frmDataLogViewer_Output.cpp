@@ -10,14 +10,14 @@ std::vector<Command> frmDataLogViewer::OutputCommands() {
   const auto copy = [this] { output_.Copy(chSampleGraph); };
   const auto print = [this] { output_.Print(chSampleGraph, DetailsToPrint()); };
   return {
-      {&mnuCopy, "mnuCopy_Click", copy, drawn},
-      {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
-      {&mnuFilePrint, "mnuFilePrint_Click", print, drawn},
-      {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
-      {&mnuFilePrintPreview, "mnuFilePrintPreview_Click",
-       [this] { output_.PrintPreview(chSampleGraph, DetailsToPrint()); }, drawn},
-      {&mnuFileSavePicture, "mnuFileSavePicture_Click",
-       [this] { output_.SavePictureAs(chSampleGraph, log_.gstrCurrentFile); }, drawn},
+      {&mnuCopy, copy, drawn},
+      {&mnuRightClickCopy, copy, drawn},
+      {&mnuFilePrint, print, drawn},
+      {&mnuRightClickPrint, print, drawn},
+      {&mnuFilePrintPreview, [this] { output_.PrintPreview(chSampleGraph, DetailsToPrint()); },
+       drawn},
+      {&mnuFileSavePicture, [this] { output_.SavePictureAs(chSampleGraph, log_.gstrCurrentFile); },
+       drawn},
   };
 }
 

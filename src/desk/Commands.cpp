@@ -6,8 +6,8 @@ void Commands::Bind(std::vector<Command> rows) {
   rows_ = std::move(rows);
   for (const Command& row : rows_) {
     if (!row.run) continue;
-    const auto handler = [this, run = row.run, procedure = row.procedure] {
-      TrapEvent(errors_, module_, procedure, run);
+    const auto handler = [this, run = row.run, procedure = row.control->name + "_Click"] {
+      TrapEvent(errors_, module_, procedure.c_str(), run);
     };
     if (auto* item = dynamic_cast<MenuItem*>(row.control)) item->Click = handler;
     if (auto* button = dynamic_cast<CommandButton*>(row.control)) button->Click = handler;

@@ -9,10 +9,10 @@
 
 namespace tarnview {
 
-/// One command of a window: the control that starts it, what it does, and when it may run.
+/// One command of a window: the control that starts it, what it does, and when it may run. The
+/// error log knows it by its control's name, "mnuFileSave_Click".
 struct Command {
   Control* control;
-  const char* procedure;         ///< for the error log
   std::function<void()> run;     ///< empty: not there yet, the control stays disabled
   std::function<bool()> mayRun;  ///< empty: always
 };

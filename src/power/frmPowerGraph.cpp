@@ -67,19 +67,19 @@ std::vector<Command> frmPowerGraph::CommandRows() {
   const auto print = [this] { output_.Print(chPowerGraph, DetailsForPrint()); };
   return {
       // clang-format off
-      {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { cmdDrawGraph_Click(); },
+      {&cmdDrawGraph, [this] { cmdDrawGraph_Click(); },
        [this] { return around_.log.gblnSamplesLoaded && fields_.Car(); }},
-      {&cmdFindRuns, "cmdFindRuns_Click", [this] { FindTheRuns(); }, loaded},
-      {&mnuToolsFindRuns, "mnuToolsFindRuns_Click", [this] { FindTheRuns(); }, loaded},
-      {&mnuEditCopy, "mnuEditCopy_Click", copy, drawn},
-      {&mnuBenchCalcDet, "mnuBenchCalcDet_Click", [this] { frmPowerBenchDetails(host, benchmark_->graph).ShowModal(); },
+      {&cmdFindRuns, [this] { FindTheRuns(); }, loaded},
+      {&mnuToolsFindRuns, [this] { FindTheRuns(); }, loaded},
+      {&mnuEditCopy, copy, drawn},
+      {&mnuBenchCalcDet, [this] { frmPowerBenchDetails(host, benchmark_->graph).ShowModal(); },
        [this] { return benchmark_.has_value(); }},
-      {&mnuToolsSpeed, "mnuToolsSpeed_Click", [this] { mnuToolsSpeed_Click(); }, drawn},
-      {&mnuToolsCopy, "mnuToolsCopy_Click", [this] { mnuToolsCopy_Click(); },
+      {&mnuToolsSpeed, [this] { mnuToolsSpeed_Click(); }, drawn},
+      {&mnuToolsCopy, [this] { mnuToolsCopy_Click(); },
        [this] { return Drawn() && drawn_->ofOpenLog; }},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
-      {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
-      {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
+      {&mnuHelpHelp, [this] { host.ShowHelp(HelpTopic); }, {}},
+      {&mnuRightClickCopy, copy, drawn},
+      {&mnuRightClickPrint, print, drawn},
       // clang-format on
   };
 }

@@ -21,22 +21,19 @@ std::vector<Command> frmPowerGraph::FileCommandRows() {
   const auto drawn = [this] { return Drawn(); };
   std::vector<Command> rows{
       // clang-format off
-      {&mnuFileOpen, "mnuFileOpen_Click", [this] { mnuFileOpen_Click(); }, {}},
-      {&mnuFileSave, "mnuFileSave_Click", [this] { mnuFileSave_Click(); }, drawn},
-      {&mnuFileSaveAs, "mnuFileSaveAs_Click", [this] { mnuFileSaveAs_Click(); }, drawn},
-      {&mnuFilePrint, "mnuFilePrint_Click", [this] { output_.Print(chPowerGraph, DetailsForPrint()); }, drawn},
-      {&mnuFilePrintPreview, "mnuFilePrintPreview_Click",
+      {&mnuFileOpen, [this] { mnuFileOpen_Click(); }, {}},
+      {&mnuFileSave, [this] { mnuFileSave_Click(); }, drawn},
+      {&mnuFileSaveAs, [this] { mnuFileSaveAs_Click(); }, drawn},
+      {&mnuFilePrint, [this] { output_.Print(chPowerGraph, DetailsForPrint()); }, drawn},
+      {&mnuFilePrintPreview,
        [this] { output_.PrintPreview(chPowerGraph, DetailsForPrint()); }, drawn},
-      {&mnuFileSavePicture, "mnuFileSavePicture_Click", [this] { output_.SavePictureAs(chPowerGraph, drawn_->file); },
+      {&mnuFileSavePicture, [this] { output_.SavePictureAs(chPowerGraph, drawn_->file); },
        drawn},
-      {&mnuFileClose, "mnuFileClose_Click", [this] { Unload(); }, {}},
+      {&mnuFileClose, [this] { Unload(); }, {}},
       // clang-format on
   };
   for (const auto& item : mnuFileRecent)
-    rows.push_back({item.get(),
-                    "mnuFileRecent_Click",
-                    [this, index = item->index] { OpenRecentFile(index); },
-                    {}});
+    rows.push_back({item.get(), [this, index = item->index] { OpenRecentFile(index); }, {}});
   return rows;
 }
 

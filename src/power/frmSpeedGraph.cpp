@@ -81,22 +81,16 @@ std::vector<Command> frmSpeedGraph::CommandRows() {
   const auto copy = [this] { output_.Copy(chSpeedGraph); };
   const auto print = [this] { output_.Print(chSpeedGraph, DetailsForPrint()); };
   return {
-      {&cmdCalc, "cmdCalc_Click", [this] { cmdCalc_Click(); }, {}},
-      {&cmdClose, "cmdClose_Click", [this] { Unload(); }, {}},
-      {&mnuFilePrint, "mnuFilePrint_Click", print, {}},
-      {&mnuFilePrintPreview,
-       "mnuFilePrintPreview_Click",
-       [this] { output_.PrintPreview(chSpeedGraph, DetailsForPrint()); },
-       {}},
-      {&mnuFileSavePicture,
-       "mnuFileSavePicture_Click",
-       [this] { output_.SavePictureAs(chSpeedGraph, input_.file); },
-       {}},
-      {&mnuFileClose, "mnuFileClose_Click", [this] { Unload(); }, {}},
-      {&mnuEditCopy, "mnuEditCopy_Click", copy, {}},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
-      {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, {}},
-      {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, {}},
+      {&cmdCalc, [this] { cmdCalc_Click(); }, {}},
+      {&cmdClose, [this] { Unload(); }, {}},
+      {&mnuFilePrint, print, {}},
+      {&mnuFilePrintPreview, [this] { output_.PrintPreview(chSpeedGraph, DetailsForPrint()); }, {}},
+      {&mnuFileSavePicture, [this] { output_.SavePictureAs(chSpeedGraph, input_.file); }, {}},
+      {&mnuFileClose, [this] { Unload(); }, {}},
+      {&mnuEditCopy, copy, {}},
+      {&mnuHelpHelp, [this] { host.ShowHelp(HelpTopic); }, {}},
+      {&mnuRightClickCopy, copy, {}},
+      {&mnuRightClickPrint, print, {}},
   };
 }
 

@@ -56,31 +56,31 @@ std::vector<Command> frmScatterGraph::CommandRows() {
   const auto print = [this] { output_.Print(chScatterGraph, DetailsForPrint()); };
   return {
       // clang-format off
-      {&cmdDrawGraph, "cmdDrawGraph_Click", [this] { DrawScatter(false); },
+      {&cmdDrawGraph, [this] { DrawScatter(false); },
        [this] { return around_.log.gblnSamplesLoaded; }},
-      {&cmdShowPoint, "cmdShowPoint_Click", [this] { cmdShowPoint_Click(); }, drawn},
-      {&mnuFileExport, "mnuFileExport_Click", [this] { mnuFileExport_Click(); },
+      {&cmdShowPoint, [this] { cmdShowPoint_Click(); }, drawn},
+      {&mnuFileExport, [this] { mnuFileExport_Click(); },
        [this] { return drawing_.OfOpenLog(); }},
-      {&mnuFilePrint, "mnuFilePrint_Click", print, drawn},
-      {&mnuFilePrintPreview, "mnuFilePrintPreview_Click",
+      {&mnuFilePrint, print, drawn},
+      {&mnuFilePrintPreview,
        [this] { output_.PrintPreview(chScatterGraph, DetailsForPrint()); }, drawn},
-      {&mnuFileSavePicture, "mnuFileSavePicture_Click",
+      {&mnuFileSavePicture,
        [this] { output_.SavePictureAs(chScatterGraph, drawing_.strGraphedFile()); }, drawn},
-      {&mnuFileClose, "mnuFileClose_Click", [this] { Unload(); }, {}},
-      {&mnuEditCopy, "mnuEditCopy_Click", copy, drawn},
-      {&mnuEditUpdatePreset, "mnuEditUpdatePreset_Click", [this] { mnuEditUpdatePreset_Click(); },
+      {&mnuFileClose, [this] { Unload(); }, {}},
+      {&mnuEditCopy, copy, drawn},
+      {&mnuEditUpdatePreset, [this] { mnuEditUpdatePreset_Click(); },
        [this] { return presets_.HasRows(); }},
-      {&mnuEditNewPreset, "mnuEditNewPreset_Click", [this] { mnuEditNewPreset_Click(); }, {}},
-      {&mnuViewSampleDetails, "mnuViewSampleDetails_Click", [this] { ShowSampleDetails(!blnShowSampleDetails_); }, {}},
-      {&mnuViewDensity, "mnuViewDensity_Click",
+      {&mnuEditNewPreset, [this] { mnuEditNewPreset_Click(); }, {}},
+      {&mnuViewSampleDetails, [this] { ShowSampleDetails(!blnShowSampleDetails_); }, {}},
+      {&mnuViewDensity,
        [this] {
          mnuViewDensity.Checked = !mnuViewDensity.Checked;
          Recolour();
        },
        [this] { return colourBy_.Item() == 0; }},
-      {&mnuHelpHelp, "mnuHelpHelp_Click", [this] { host.ShowHelp(HelpTopic); }, {}},
-      {&mnuRightClickCopy, "mnuRightClickCopy_Click", copy, drawn},
-      {&mnuRightClickPrint, "mnuRightClickPrint_Click", print, drawn},
+      {&mnuHelpHelp, [this] { host.ShowHelp(HelpTopic); }, {}},
+      {&mnuRightClickCopy, copy, drawn},
+      {&mnuRightClickPrint, print, drawn},
       // clang-format on
   };
 }

@@ -109,13 +109,12 @@ void frmGridGraph::BindButtons() {
   const PrintDetails details{request_.kind, {{"Source", request_.source}}};
   commands_.Bind({
       // clang-format off
-      {&cmdReset, "cmdReset_Click", [this] { Reset(); }, {}},
-      {&cmdOK, "cmdOK_Click", [this] { cmdOK_Click(); }, {}},
-      {&cmdCancel, "cmdCancel_Click", [this] { Unload(); }, {}},
-      {&mnuEditCopy, "mnuEditCopy_Click", [this] { output_.Copy(chGridGraph); }, {}},
-      {&mnuRightClickPrint, "mnuRightClickPrint_Click", [=, this] { output_.Print(chGridGraph, details); }, {}},
+      {&cmdReset, [this] { Reset(); }, {}},
+      {&cmdOK, [this] { cmdOK_Click(); }, {}},
+      {&cmdCancel, [this] { Unload(); }, {}},
+      {&mnuEditCopy, [this] { output_.Copy(chGridGraph); }, {}},
+      {&mnuRightClickPrint, [=, this] { output_.Print(chGridGraph, details); }, {}},
       {&mnuRightClickSavePicture,
-       "mnuRightClickSavePicture_Click",
        [this] { output_.SavePictureAs(chGridGraph, request_.source); },
        {}},
       // clang-format on

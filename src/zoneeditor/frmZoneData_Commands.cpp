@@ -29,20 +29,19 @@ std::vector<Command> frmZoneData::EditCommands() {
   };
   return {
       // clang-format off
-      {&mnuEditUndo, "mnuEditUndo_Click", [this] { GoTo(history_.Done() - 1); }, [this] { return history_.CanUndo(); }},
-      {&mnuEditRedo, "mnuEditRedo_Click", [this] { GoTo(history_.Done() + 1); }, [this] { return history_.CanRedo(); }},
-      {&mnuEditCopy, "mnuEditCopy_Click", [this] { CopyCells(false); }, focused},
-      {&mnuEditCopyHeadings, "mnuEditCopyHeadings_Click", [this] { CopyCells(true); }, focused},
-      {&mnuEditPaste, "mnuEditPaste_Click",
+      {&mnuEditUndo, [this] { GoTo(history_.Done() - 1); }, [this] { return history_.CanUndo(); }},
+      {&mnuEditRedo, [this] { GoTo(history_.Done() + 1); }, [this] { return history_.CanRedo(); }},
+      {&mnuEditCopy, [this] { CopyCells(false); }, focused},
+      {&mnuEditCopyHeadings, [this] { CopyCells(true); }, focused},
+      {&mnuEditPaste,
        [this] {
          if (const auto grid = Grids.Editable(ActiveControl())) Grids.Paste(*grid, host.ClipboardText());
        },
        editable},
-      {&mnuEditInterpolate, "mnuEditInterpolate_Click", onGrid(&ZoneGrids::Interpolate), editable},
-      {&mnuEditSmooth, "mnuEditSmooth_Click", onGrid(&ZoneGrids::Smooth), editable},
-      {&mnuEditReset, "mnuEditReset_Click", onGrid(&ZoneGrids::ResetToOpened), editable},
+      {&mnuEditInterpolate, onGrid(&ZoneGrids::Interpolate), editable},
+      {&mnuEditSmooth, onGrid(&ZoneGrids::Smooth), editable},
+      {&mnuEditReset, onGrid(&ZoneGrids::ResetToOpened), editable},
       {&mnuViewHeat,
-       "mnuViewHeat_Click",
        [this] {
          mnuViewHeat.Checked = !mnuViewHeat.Checked;
          Grids.ShowHeat(mnuViewHeat.Checked);
@@ -56,21 +55,19 @@ std::vector<Command> frmZoneData::GridCommands() {
   const auto edits = [this] { return !ReadOnly(); };
   const auto compares = [this] { return !ReadOnly() && comparison_.Zones(); };
   return {
-      {&mnuApplyOffset, "mnuApplyOffset_Click", [this] { mnuApplyOffset_Click(); }, edits},
-      {&mnuCopytoDatalog, "mnuCopytoDatalog_Click",
-       [this] { Grids.CopyToDatalog(popupGrid_, cboBenchmark.Text()); }, compares},
-      {&mnuCopyOffset, "mnuCopyOffset_Click", [this] { Grids.ApplyDifference(popupGrid_); },
+      {&mnuApplyOffset, [this] { mnuApplyOffset_Click(); }, edits},
+      {&mnuCopytoDatalog, [this] { Grids.CopyToDatalog(popupGrid_, cboBenchmark.Text()); },
        compares},
+      {&mnuCopyOffset, [this] { Grids.ApplyDifference(popupGrid_); }, compares},
   };
 }
 
 std::vector<Command> frmZoneData::DriveCommands() {
   return {
-      {&Driven.cmdNextInCell, "cmdNextInCell_Click", [this] { Driven.NextInCell(); },
+      {&Driven.cmdNextInCell, [this] { Driven.NextInCell(); },
        [this] { return Driven.HasDrive() && Driven.HasCell(); }},
-      {&Driven.cmdPropose, "cmdPropose_Click", [this] { Driven.Propose(); },
-       [this] { return Driven.HasDrive(); }},
-      {&Driven.cmdApplyProposal, "cmdApplyProposal_Click", [this] { Driven.ApplyProposal(); },
+      {&Driven.cmdPropose, [this] { Driven.Propose(); }, [this] { return Driven.HasDrive(); }},
+      {&Driven.cmdApplyProposal, [this] { Driven.ApplyProposal(); },
        [this] { return Driven.HasProposal(); }},
   };
 }
@@ -80,20 +77,20 @@ std::vector<Command> frmZoneData::ButtonCommands() {
   std::vector<Command> rows;
   for (const auto& button : cmdGraph) {
     const SheetGrid grid{button->index};
-    rows.push_back({button.get(), "cmdGraph_Click", [this, grid] { cmdGraph_Click(grid); },
+    rows.push_back({button.get(), [this, grid] { cmdGraph_Click(grid); },
                     [this, grid] { return !ReadOnly() || IsSheetGrid(grid); }});
   }
   const std::vector<Command> others{
-      {&cmdCopyBenchmark, "cmdCopyBenchmark_Click", [this] { cmdCopyBenchmark_Click(); }, compares},
-      {&cmdDetails, "cmdDetails_Click", [this] { cmdDetails_Click(); }, compares},
-      {&cmdDefault, "cmdDefault_Click", [this] { cmdDefault_Click(); }, {}},
-      {&cmdUpload, "cmdUpload_Click",
+      {&cmdCopyBenchmark, [this] { cmdCopyBenchmark_Click(); }, compares},
+      {&cmdDetails, [this] { cmdDetails_Click(); }, compares},
+      {&cmdDefault, [this] { cmdDefault_Click(); }, {}},
+      {&cmdUpload,
        [this] {
          if (around_.upload) around_.upload(Sheet(), parameters_.map);
        },
        [this] { return UploadFits(); }},
-      {&cmdOK, "cmdOK_Click", [this] { cmdOK_Click(); }, {}},
-      {&cmdCancel, "cmdCancel_Click", [this] { Unload(); }, {}},
+      {&cmdOK, [this] { cmdOK_Click(); }, {}},
+      {&cmdCancel, [this] { Unload(); }, {}},
   };
   rows.insert(rows.end(), others.begin(), others.end());
   return rows;
