@@ -16,7 +16,8 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
        [this] { return log_.gblnSamplesLoaded && presets_.HasRows(); }},
       {&mnuEditNewPreset, [this] { mnuEditNewPreset_Click(); }, loaded},
       // The log as its logger wrote it, in the program that the desktop has for such files.
-      {&mnuToolsDataLogView, [this] { services_.programs.ShellOpen(log_.gstrCurrentFile); }, loaded},
+      {&mnuToolsDataLogView, [this] { services_.programs.ShellOpen(log_.gstrCurrentFile); },
+       loaded},
       {&mnuHelpHelp, [this] { host.ShowHelp(""); }, {}},
       {&mnuHelpAbout,
        [this] {
@@ -48,8 +49,7 @@ std::vector<Command> frmDataLogViewer::ViewCommands() {
       {&mnuViewZoomIn, [this] { zoom_.cmdZoomIn_Click(); }, narrower},
       {&mnuViewZoomOut, [this] { zoom_.cmdZoomOut_Click(); }, wider},
       {&mnuViewZoomFull, [this] { zoom_.cmdZoomFull_Click(); }, wider},
-      {&mnuViewPrevious, [this] { zoom_.ShowPreviousGraph(); },
-       [this] { return CanGoBack(); }},
+      {&mnuViewPrevious, [this] { zoom_.ShowPreviousGraph(); }, [this] { return CanGoBack(); }},
       {&mnuViewGoto, [this] { GotoSample(); }, drawn},
       {&mnuViewNewDataTag, [this] { tags_.NewDataTag(); }, drawn},
       {&mnuViewTags, [this] { ShowDataTags(); }, [this] { return CanShowDataTags(); }},
@@ -86,8 +86,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
   };
   return {
       // clang-format off
-      {&mnuRightClickDrawGraph, [this] { DrawGraph(); },
-       [this] { return log_.gblnSamplesLoaded; }},
+      {&mnuRightClickDrawGraph, [this] { DrawGraph(); }, [this] { return log_.gblnSamplesLoaded; }},
       {&mnuRightClickZoomIn, [this] { zoom_.cmdZoomIn_Click(); }, narrower},
       {&mnuRightClickZoomOut, [this] { zoom_.cmdZoomOut_Click(); }, wider},
       {&mnuRightClickZoomOutFull, [this] { zoom_.cmdZoomFull_Click(); }, wider},
@@ -96,8 +95,7 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
       {&mnuRightClickGoto, [this] { GotoSample(); }, drawn},
       {&mnuRightClickPlotFrom, [this, set] { set(PlotRangeFrom); }, drawn},
       {&mnuRightClickPlotTo, [this, set] { set(PlotRangeTo); }, drawn},
-      {&mnuRightClickPlotFromAnd, [this, setAndDraw] { setAndDraw(PlotRangeFrom); },
-       drawn},
+      {&mnuRightClickPlotFromAnd, [this, setAndDraw] { setAndDraw(PlotRangeFrom); }, drawn},
       {&mnuRightClickPlotToAnd, [this, setAndDraw] { setAndDraw(PlotRangeTo); }, drawn},
       {&mnuRightClickNewDataTag, [this] { tags_.NewDataTag(); }, drawn},
       // clang-format on
@@ -105,12 +103,9 @@ std::vector<Command> frmDataLogViewer::GraphMenuCommands() {
 }
 
 void frmDataLogViewer::BindCommands() {
-  std::vector<Command> rows = FileCommands();
-  for (auto&& part :
-       {logFiles_.Rows(), ViewCommands(), ScrollCommands(), GraphMenuCommands(), OutputCommands(),
-        scatter_.Rows(), power_.Rows(), ecu_.Rows(), customising_.Rows(), zones_.Rows()})
-    rows.insert(rows.end(), part.begin(), part.end());
-  commands_.Bind(std::move(rows));
+  commands_.Bind(Joined({FileCommands(), logFiles_.Rows(), ViewCommands(), ScrollCommands(),
+                         GraphMenuCommands(), OutputCommands(), scatter_.Rows(), power_.Rows(),
+                         ecu_.Rows(), customising_.Rows(), zones_.Rows()}));
 
   chSampleGraph.RightClick = [this] {
     commands_.Update();

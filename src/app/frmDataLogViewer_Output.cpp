@@ -1,24 +1,24 @@
 // What the main window hands out of its graph: on paper, on the clipboard, as a picture.
 
 #include "app/frmDataLogViewer.h"
+#include "desk/ChartCommands.h"
 #include "model/Column.h"
 
 namespace tarnview {
 
 std::vector<Command> frmDataLogViewer::OutputCommands() {
-  const auto drawn = [this] { return graph_.Drawn(); };
-  const auto copy = [this] { output_.Copy(chSampleGraph); };
-  const auto print = [this] { output_.Print(chSampleGraph, DetailsToPrint()); };
-  return {
-      {&mnuCopy, copy, drawn},
-      {&mnuRightClickCopy, copy, drawn},
-      {&mnuFilePrint, print, drawn},
-      {&mnuRightClickPrint, print, drawn},
-      {&mnuFilePrintPreview, [this] { output_.PrintPreview(chSampleGraph, DetailsToPrint()); },
-       drawn},
-      {&mnuFileSavePicture, [this] { output_.SavePictureAs(chSampleGraph, log_.gstrCurrentFile); },
-       drawn},
+  const ChartItems items{
+      mnuCopy,
+      mnuRightClickCopy,
+      mnuFilePrint,
+      mnuRightClickPrint,
+      mnuFilePrintPreview,
+      mnuFileSavePicture,
   };
+  return ChartCommands(
+      output_, items,
+      {chSampleGraph, [this] { return DetailsToPrint(); }, [this] { return log_.gstrCurrentFile; },
+       [this] { return graph_.Drawn(); }});
 }
 
 PrintDetails frmDataLogViewer::DetailsToPrint() const {

@@ -2,6 +2,12 @@
 
 namespace tarnview {
 
+std::vector<Command> Joined(std::initializer_list<std::vector<Command>> lists) {
+  std::vector<Command> rows;
+  for (const std::vector<Command>& list : lists) rows.insert(rows.end(), list.begin(), list.end());
+  return rows;
+}
+
 void Commands::Bind(std::vector<Command> rows) {
   rows_ = std::move(rows);
   for (const Command& row : rows_) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <vector>
 
 #include "base/ErrorLog.h"
@@ -16,6 +17,9 @@ struct Command {
   std::function<void()> run;     ///< empty: not there yet, the control stays disabled
   std::function<bool()> mayRun;  ///< empty: always
 };
+
+/// The rows of several lists as one.
+std::vector<Command> Joined(std::initializer_list<std::vector<Command>> lists);
 
 /// The commands of a window as one list. Handlers end errors in the error log; enabled states are
 /// worked out in one place.

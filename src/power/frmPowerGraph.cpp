@@ -40,9 +40,7 @@ frmPowerGraph::frmPowerGraph(Host& itsHost, const Surroundings& surroundings,
   HelpTopic = "PowerGraph";
   chPowerGraph.Visible = false;
   BindControls();
-  std::vector<Command> rows = CommandRows();
-  for (Command& row : FileCommandRows()) rows.push_back(std::move(row));
-  commands_.Bind(std::move(rows));
+  commands_.Bind(Joined({CommandRows(), FileCommandRows(), OutputCommands()}));
 }
 
 void frmPowerGraph::BindControls() {
@@ -63,23 +61,18 @@ void frmPowerGraph::BindControls() {
 std::vector<Command> frmPowerGraph::CommandRows() {
   const auto loaded = [this] { return around_.log.gblnSamplesLoaded; };
   const auto drawn = [this] { return Drawn(); };
-  const auto copy = [this] { output_.Copy(chPowerGraph); };
-  const auto print = [this] { output_.Print(chPowerGraph, DetailsForPrint()); };
   return {
       // clang-format off
       {&cmdDrawGraph, [this] { cmdDrawGraph_Click(); },
        [this] { return around_.log.gblnSamplesLoaded && fields_.Car(); }},
       {&cmdFindRuns, [this] { FindTheRuns(); }, loaded},
       {&mnuToolsFindRuns, [this] { FindTheRuns(); }, loaded},
-      {&mnuEditCopy, copy, drawn},
       {&mnuBenchCalcDet, [this] { frmPowerBenchDetails(host, benchmark_->graph).ShowModal(); },
        [this] { return benchmark_.has_value(); }},
       {&mnuToolsSpeed, [this] { mnuToolsSpeed_Click(); }, drawn},
       {&mnuToolsCopy, [this] { mnuToolsCopy_Click(); },
        [this] { return Drawn() && drawn_->ofOpenLog; }},
       {&mnuHelpHelp, [this] { host.ShowHelp(HelpTopic); }, {}},
-      {&mnuRightClickCopy, copy, drawn},
-      {&mnuRightClickPrint, print, drawn},
       // clang-format on
   };
 }

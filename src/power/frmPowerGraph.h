@@ -86,6 +86,7 @@ class frmPowerGraph : public PowerGraphControls {
 
   std::vector<Command> CommandRows();
   std::vector<Command> FileCommandRows();
+  std::vector<Command> OutputCommands();
   void BindControls();
   void SetCaption();
 

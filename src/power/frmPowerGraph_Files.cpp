@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "base/TextFile.h"
 #include "base/Units.h"
+#include "desk/ChartCommands.h"
 #include "desk/RecentMenu.h"
 #include "desk/SaveDialog.h"
 #include "model/Column.h"
@@ -24,17 +25,20 @@ std::vector<Command> frmPowerGraph::FileCommandRows() {
       {&mnuFileOpen, [this] { mnuFileOpen_Click(); }, {}},
       {&mnuFileSave, [this] { mnuFileSave_Click(); }, drawn},
       {&mnuFileSaveAs, [this] { mnuFileSaveAs_Click(); }, drawn},
-      {&mnuFilePrint, [this] { output_.Print(chPowerGraph, DetailsForPrint()); }, drawn},
-      {&mnuFilePrintPreview,
-       [this] { output_.PrintPreview(chPowerGraph, DetailsForPrint()); }, drawn},
-      {&mnuFileSavePicture, [this] { output_.SavePictureAs(chPowerGraph, drawn_->file); },
-       drawn},
       {&mnuFileClose, [this] { Unload(); }, {}},
       // clang-format on
   };
   for (const auto& item : mnuFileRecent)
     rows.push_back({item.get(), [this, index = item->index] { OpenRecentFile(index); }, {}});
   return rows;
+}
+
+std::vector<Command> frmPowerGraph::OutputCommands() {
+  const ChartItems items{mnuEditCopy,        mnuRightClickCopy,   mnuFilePrint,
+                         mnuRightClickPrint, mnuFilePrintPreview, mnuFileSavePicture};
+  return ChartCommands(output_, items,
+                       {chPowerGraph, [this] { return DetailsForPrint(); },
+                        [this] { return drawn_->file; }, [this] { return Drawn(); }});
 }
 
 Dialog frmPowerGraph::FileDialog(DialogKind kind, const char* title) const {

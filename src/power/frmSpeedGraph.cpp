@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/Units.h"
+#include "desk/ChartCommands.h"
 #include "desk/ColourScheme.h"
 #include "desk/Placement.h"
 #include "power/SpeedChart.h"
@@ -50,7 +51,7 @@ frmSpeedGraph::frmSpeedGraph(Host& itsHost, const Surroundings& surroundings, Sp
   txtResYou.ReadOnly = txtResBench.ReadOnly = true;
   BindControls();
   BindArrows();
-  commands_.Bind(CommandRows());
+  commands_.Bind(Joined({CommandRows(), OutputCommands()}));
 }
 
 void frmSpeedGraph::BindControls() {
@@ -78,20 +79,20 @@ void frmSpeedGraph::BindArrows() {
 }
 
 std::vector<Command> frmSpeedGraph::CommandRows() {
-  const auto copy = [this] { output_.Copy(chSpeedGraph); };
-  const auto print = [this] { output_.Print(chSpeedGraph, DetailsForPrint()); };
   return {
       {&cmdCalc, [this] { cmdCalc_Click(); }, {}},
       {&cmdClose, [this] { Unload(); }, {}},
-      {&mnuFilePrint, print, {}},
-      {&mnuFilePrintPreview, [this] { output_.PrintPreview(chSpeedGraph, DetailsForPrint()); }, {}},
-      {&mnuFileSavePicture, [this] { output_.SavePictureAs(chSpeedGraph, input_.file); }, {}},
       {&mnuFileClose, [this] { Unload(); }, {}},
-      {&mnuEditCopy, copy, {}},
       {&mnuHelpHelp, [this] { host.ShowHelp(HelpTopic); }, {}},
-      {&mnuRightClickCopy, copy, {}},
-      {&mnuRightClickPrint, print, {}},
   };
+}
+
+std::vector<Command> frmSpeedGraph::OutputCommands() {
+  const ChartItems items{mnuEditCopy,        mnuRightClickCopy,   mnuFilePrint,
+                         mnuRightClickPrint, mnuFilePrintPreview, mnuFileSavePicture};
+  return ChartCommands(
+      output_, items,
+      {chSpeedGraph, [this] { return DetailsForPrint(); }, [this] { return input_.file; }, {}});
 }
 
 void frmSpeedGraph::Form_Load() {

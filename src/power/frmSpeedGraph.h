@@ -74,6 +74,7 @@ class frmSpeedGraph : public Form {
 
  private:
   std::vector<Command> CommandRows();
+  std::vector<Command> OutputCommands();
   void BindControls();
   void BindArrows();
   bool HasBenchmark() const { return !input_.benchmark.empty(); }

@@ -1,5 +1,6 @@
 #include "scatter/frmScatterGraph.h"
 
+#include "desk/ChartCommands.h"
 #include "desk/Placement.h"
 #include "samplegraph/SampleListView.h"
 
@@ -32,7 +33,7 @@ frmScatterGraph::frmScatterGraph(Host& itsHost, const Surroundings& surroundings
   style_.Show(kFirstStyle);
   DefaultButton = &cmdDrawGraph;
   BindControls();
-  commands_.Bind(CommandRows());
+  commands_.Bind(Joined({CommandRows(), OutputCommands()}));
 }
 
 void frmScatterGraph::BindControls() {
@@ -52,22 +53,13 @@ void frmScatterGraph::BindControls() {
 
 std::vector<Command> frmScatterGraph::CommandRows() {
   const auto drawn = [this] { return drawing_.Drawn(); };
-  const auto copy = [this] { output_.Copy(chScatterGraph); };
-  const auto print = [this] { output_.Print(chScatterGraph, DetailsForPrint()); };
   return {
       // clang-format off
       {&cmdDrawGraph, [this] { DrawScatter(false); },
        [this] { return around_.log.gblnSamplesLoaded; }},
       {&cmdShowPoint, [this] { cmdShowPoint_Click(); }, drawn},
-      {&mnuFileExport, [this] { mnuFileExport_Click(); },
-       [this] { return drawing_.OfOpenLog(); }},
-      {&mnuFilePrint, print, drawn},
-      {&mnuFilePrintPreview,
-       [this] { output_.PrintPreview(chScatterGraph, DetailsForPrint()); }, drawn},
-      {&mnuFileSavePicture,
-       [this] { output_.SavePictureAs(chScatterGraph, drawing_.strGraphedFile()); }, drawn},
+      {&mnuFileExport, [this] { mnuFileExport_Click(); }, [this] { return drawing_.OfOpenLog(); }},
       {&mnuFileClose, [this] { Unload(); }, {}},
-      {&mnuEditCopy, copy, drawn},
       {&mnuEditUpdatePreset, [this] { mnuEditUpdatePreset_Click(); },
        [this] { return presets_.HasRows(); }},
       {&mnuEditNewPreset, [this] { mnuEditNewPreset_Click(); }, {}},
@@ -79,10 +71,17 @@ std::vector<Command> frmScatterGraph::CommandRows() {
        },
        [this] { return colourBy_.Item() == 0; }},
       {&mnuHelpHelp, [this] { host.ShowHelp(HelpTopic); }, {}},
-      {&mnuRightClickCopy, copy, drawn},
-      {&mnuRightClickPrint, print, drawn},
       // clang-format on
   };
+}
+
+std::vector<Command> frmScatterGraph::OutputCommands() {
+  const ChartItems items{mnuEditCopy,        mnuRightClickCopy,   mnuFilePrint,
+                         mnuRightClickPrint, mnuFilePrintPreview, mnuFileSavePicture};
+  return ChartCommands(
+      output_, items,
+      {chScatterGraph, [this] { return DetailsForPrint(); },
+       [this] { return drawing_.strGraphedFile(); }, [this] { return drawing_.Drawn(); }});
 }
 
 void frmScatterGraph::Form_Load() {

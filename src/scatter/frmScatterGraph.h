@@ -99,6 +99,7 @@ class frmScatterGraph : public ScatterWindowControls {
 
  private:
   std::vector<Command> CommandRows();
+  std::vector<Command> OutputCommands();
   void BindControls();
   int FileType() const;
   int Family() const { return around_.kinds.gcolLogFamilies.FirstLogFamily(FileType()); }

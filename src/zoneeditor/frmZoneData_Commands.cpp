@@ -13,10 +13,7 @@ constexpr int kLargeStep = 10;
 }  // namespace
 
 void frmZoneData::BindCommands() {
-  std::vector<Command> rows = EditCommands();
-  for (auto&& part : {GridCommands(), DriveCommands(), ButtonCommands()})
-    rows.insert(rows.end(), part.begin(), part.end());
-  commands_.Bind(std::move(rows));
+  commands_.Bind(Joined({EditCommands(), GridCommands(), DriveCommands(), ButtonCommands()}));
 }
 
 std::vector<Command> frmZoneData::EditCommands() {
