@@ -3,18 +3,16 @@
 #include <algorithm>
 
 #include "base/Numbers.h"
-#include "base/Paths.h"
+#include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "base/TextFile.h"
-#include "desk/SaveDialog.h"
 #include "power/CarFile.h"
 #include "power/SavedRun.h"
 
 namespace tarnview {
 namespace {
 
-/// "File not found" and "Bad file" of the run-time errors.
-constexpr long kFileNotFound = 53, kInputPastEnd = 62;
+/// "Input past end of file" of the run-time errors.
+constexpr long kInputPastEnd = 62;
 
 std::vector<std::string> Numbers(int from, int to, int step) {
   std::vector<std::string> texts;
@@ -28,16 +26,14 @@ const char* LabelOf(CarUnit unit, bool imperial) {
   return row.metricLabel;
 }
 
-bool IsLegalFileName(std::string_view name) {
-  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." &&
-         name != "..";
-}
-
 }  // namespace
 
 frmCarDefinitionDetails::frmCarDefinitionDetails(Host& itsHost, const Surroundings& surroundings,
                                                  const clsCarDef& ColItem)
-    : CarDefinitionControls(itsHost), around_(surroundings), car_(ColItem) {
+    : CarDefinitionControls(itsHost),
+      around_(surroundings),
+      car_(ColItem),
+      exchange_(*this, around_, {".car", kCarFileFilter, true, Message::CarDefinitionNotLoaded}) {
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "CarDefinitionDetails";
@@ -75,7 +71,10 @@ void frmCarDefinitionDetails::BindControls() {
   txtCarWeight.Change = [this] { ShowTotalWeight(); };
   txtCarContentsWeight.Change = [this] { ShowTotalWeight(); };
   cmdSave.Click = [this] { cmdSave_Click(); };
-  cmdLoad.Click = [this] { cmdLoad_Click(); };
+  cmdLoad.Click = [this] {
+    exchange_.Load(
+        [this](std::string_view bytes, const std::string& path) { LoadFile(bytes, path); });
+  };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { Unload(); };
 }
@@ -220,43 +219,14 @@ bool frmCarDefinitionDetails::Form_QueryUnload() {
   return true;
 }
 
-Dialog frmCarDefinitionDetails::FileDialog(DialogKind kind, const char* title) const {
-  Dialog dialog;
-  dialog.kind = kind;
-  dialog.title = title;
-  dialog.filter = kCarFileFilter;
-  dialog.initialPath = OrElse(lastFile_, around_.workingDirectory);
-  return dialog;
-}
-
 void frmCarDefinitionDetails::cmdSave_Click() {
-  Dialog dialog = FileDialog(DialogKind::Save, "Save As");
-  dialog.path = lastFile_;
-  if (lastFile_.empty() && IsLegalFileName(txtName.Text()))
-    dialog.path = PathIn(around_.workingDirectory, txtName.Text() + ".car");
-  const auto withEnding = [](Dialog& chosen) {
-    if (GetExtension(chosen.path).empty()) chosen.path += ".car";
-  };
-  if (!ChooseFileToSave(host, dialog, withEnding)) return;
-  lastFile_ = dialog.path;
-  if (!around_.files.Write(dialog.path, CarFileText(FieldsNow(), around_.clock.Now())))
-    around_.messages.ShowMessage(Message::SomethingWentWrong);
+  exchange_.Save(txtName.Text(),
+                 [this](const Moment& now) { return CarFileText(FieldsNow(), now); });
 }
 
-void frmCarDefinitionDetails::cmdLoad_Click() {
-  Dialog dialog = FileDialog(DialogKind::Open, "Load");
-  if (!host.Choose(dialog)) return;
-  lastFile_ = dialog.path;
-  const bool loaded = TrapEvent(around_.errors, "frmCarDefinitionDetails", "cmdLoad_Click",
-                                [&] { LoadFile(dialog.path); });
-  if (!loaded) around_.messages.ShowMessage(Message::CarDefinitionNotLoaded);
-}
-
-void frmCarDefinitionDetails::LoadFile(const std::string& path) {
-  const auto bytes = ReadText(around_.files, path);
-  if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + path);
+void frmCarDefinitionDetails::LoadFile(std::string_view bytes, const std::string& path) {
   CarFields fields = FieldsNow();
-  if (!ReadCarFile(*bytes, fields))
+  if (!ReadCarFile(bytes, fields))
     throw RuntimeError(kInputPastEnd, "No car definition in " + path);
   ShowFields(fields);
 }

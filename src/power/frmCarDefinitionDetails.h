@@ -2,10 +2,7 @@
 
 #include <string>
 
-#include "base/Clock.h"
-#include "base/ErrorLog.h"
-#include "base/FileSystem.h"
-#include "desk/Messages.h"
+#include "desk/FileExchange.h"
 #include "power/CarDefinitionControls.h"
 #include "power/CarFields.h"
 
@@ -14,13 +11,7 @@ namespace tarnview {
 /// Edits one car definition, and exchanges it with .car files.
 class frmCarDefinitionDetails : public CarDefinitionControls {
  public:
-  struct Surroundings {
-    const std::string& workingDirectory;  ///< where the first file is looked for
-    FileSystem& files;
-    Clock& clock;
-    ErrorLog& errors;
-    Messages& messages;
-  };
+  using Surroundings = FileExchange::Surroundings;
   frmCarDefinitionDetails(Host& itsHost, const Surroundings& surroundings,
                           const clsCarDef& ColItem);
 
@@ -50,14 +41,12 @@ class frmCarDefinitionDetails : public CarDefinitionControls {
   bool Changed();
   void cmdOK_Click();
   void cmdSave_Click();
-  void cmdLoad_Click();
-  void LoadFile(const std::string& path);
-  Dialog FileDialog(DialogKind kind, const char* title) const;
+  void LoadFile(std::string_view bytes, const std::string& path);
 
   Surroundings around_;
   clsCarDef car_;
   CarFields before_;  ///< as the window opened
-  std::string lastFile_;
+  FileExchange exchange_;
   bool shownImperial_ = true;  ///< units of the fields and labels
   bool showing_ = false;       ///< a definition is put into the fields: nothing is asked
 };

@@ -1,72 +1,48 @@
 #include "samplegraph/PresetExchange.h"
 
-#include "base/Paths.h"
-#include "base/Text.h"
-#include "base/TextFile.h"
-#include "desk/SaveDialog.h"
-
 namespace tarnview {
 namespace {
 
 /// Kept on purpose: it speaks of sample graphs for files of scatter graphs as well.
-/// "File not found" of the run-time errors.
-constexpr long kFileNotFound = 53;
-
-bool IsLegalFileName(std::string_view name) {
-  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." &&
-         name != "..";
-}
+constexpr Message kNotLoaded = Message::SamplePresetNotLoaded;
 
 }  // namespace
 
+PresetExchange::PresetExchange(Form& window, const Controls& controls,
+                               const PresetSurroundings& surroundings, const Kind& kind)
+    : controls_(controls),
+      around_(surroundings),
+      files_(window,
+             {around_.workingDirectory, around_.files, around_.clock, around_.errors,
+              around_.messages},
+             {kind.extension, kind.filter, false, kNotLoaded}) {
+  controls_.cboLogFamily.SetList(around_.families.Descriptions());
+}
+
+void PresetExchange::ShowHead(const std::string& name, int family) {
+  controls_.txtName.Text = name;
+  controls_.cboLogFamily.SetListIndex(around_.families.ValidateLogFamily(family) - 1);
+}
+
 bool PresetExchange::HasName() {
-  if (!Trim(txtName_.Text()).empty()) return true;
+  if (!Name().empty()) return true;
   around_.messages.ShowMessage(Message::NameMissing);
-  txtName_.SetFocus();
+  controls_.txtName.SetFocus();
   return false;
-}
-
-Dialog PresetExchange::DialogFor(DialogKind kind, const char* title) const {
-  Dialog dialog;
-  dialog.kind = kind;
-  dialog.title = title;
-  dialog.filter = kind_.filter;
-  dialog.initialPath = OrElse(lastFile_, around_.workingDirectory);
-  return dialog;
-}
-
-std::string PresetExchange::ProposedFile() const {
-  if (!lastFile_.empty()) return lastFile_;
-  const std::string name(Trim(txtName_.Text()));
-  if (!IsLegalFileName(name)) return "";
-  return PathIn(around_.workingDirectory, name + kind_.extension);
 }
 
 void PresetExchange::Save(
     const std::function<std::string(bool blnWriteFamily, const Moment& now)>& text) {
   const bool withFamily = around_.messages.AskQuestion(Question::IncludeLogFamily);
-  Dialog dialog = DialogFor(DialogKind::Save, "Save As");
-  dialog.path = ProposedFile();
-  if (!ChooseFileToSave(window_.host, dialog)) return;
-  lastFile_ = dialog.path;
-  if (!around_.files.Write(dialog.path, text(withFamily, around_.clock.Now())))
-    around_.messages.ShowMessage(Message::SomethingWentWrong);
+  files_.Save(Name(), [&](const Moment& now) { return text(withFamily, now); });
 }
 
 void PresetExchange::Load(const std::function<void(std::string_view bytes)>& take) {
-  Dialog dialog = DialogFor(DialogKind::Open, "Load");
-  if (!window_.host.Choose(dialog)) return;
-  lastFile_ = dialog.path;
-  const bool loaded = TrapEvent(around_.errors, window_.name.c_str(), "cmdLoad_Click", [&] {
-    const auto bytes = ReadText(around_.files, dialog.path);
-    if (!bytes) throw RuntimeError(kFileNotFound, "File not found: " + dialog.path);
-    take(*bytes);
-  });
-  if (!loaded) around_.messages.ShowMessage(Message::SamplePresetNotLoaded);
+  files_.Load([&](std::string_view bytes, const std::string&) { take(bytes); });
 }
 
-bool PresetExchange::AgreesToFamily(int lngLogFamily, int selected) {
-  return lngLogFamily == 0 || lngLogFamily == selected ||
+bool PresetExchange::AgreesToFamily(int lngLogFamily) {
+  return lngLogFamily == 0 || lngLogFamily == Family() ||
          around_.messages.AskQuestion(Question::PresetOfOtherFamily);
 }
 

@@ -3,13 +3,11 @@
 #include <functional>
 #include <string>
 
-#include "base/Clock.h"
-#include "base/ErrorLog.h"
-#include "base/FileSystem.h"
-#include "desk/Messages.h"
+#include "base/Text.h"
+#include "desk/FileExchange.h"
 #include "model/Catalogue.h"
 #include "model/clsLogFamilies.h"
-#include "ui/Form.h"
+#include "ui/ComboBox.h"
 #include "ui/TextBox.h"
 
 namespace tarnview {
@@ -25,8 +23,8 @@ struct PresetSurroundings {
   Messages& messages;
 };
 
-/// How the details window of a preset exchanges it with files: the dialogs, the file used last
-/// since the window opened, and what the user is asked and told.
+/// What the details windows of presets have in common: a name, a log family, and files to exchange
+/// the preset with, of which the user is asked and told.
 class PresetExchange {
  public:
   /// One kind of file.
@@ -34,9 +32,19 @@ class PresetExchange {
     const char* extension;  ///< with its point
     const char* filter;     ///< of the dialogs
   };
-  PresetExchange(Form& window, TextBox& txtName, const PresetSurroundings& surroundings,
-                 const Kind& kind)
-      : window_(window), txtName_(txtName), around_(surroundings), kind_(kind) {}
+  /// The boxes with what each preset has.
+  struct Controls {
+    TextBox& txtName;
+    ComboBox& cboLogFamily;
+  };
+  PresetExchange(Form& window, const Controls& controls, const PresetSurroundings& surroundings,
+                 const Kind& kind);
+  PresetExchange(const PresetExchange&) = delete;
+  PresetExchange& operator=(const PresetExchange&) = delete;
+
+  int Family() const { return controls_.cboLogFamily.ListIndex() + 1; }
+  void ShowHead(const std::string& name, int family);
+  std::string Name() const { return std::string(Trim(controls_.txtName.Text())); }
 
   /// A preset needs a name; false where there is none, and the user was told.
   bool HasName();
@@ -45,19 +53,14 @@ class PresetExchange {
   /// Asks for the file and hands its bytes over; an error in it is told.
   void Load(const std::function<void(std::string_view bytes)>& take);
   /// Whether a preset of that family (0: of any) is to be taken although another one is selected.
-  bool AgreesToFamily(int lngLogFamily, int selected);
+  bool AgreesToFamily(int lngLogFamily);
   /// Tells which numbers of a file are no items of the family; an empty text tells nothing.
   void TellNotRelevant(const std::string& items);
 
  private:
-  Dialog DialogFor(DialogKind kind, const char* title) const;
-  std::string ProposedFile() const;
-
-  Form& window_;
-  TextBox& txtName_;
+  Controls controls_;
   PresetSurroundings around_;
-  Kind kind_;
-  std::string lastFile_;
+  FileExchange files_;
 };
 
 }  // namespace tarnview

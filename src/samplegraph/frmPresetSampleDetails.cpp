@@ -24,7 +24,6 @@ frmPresetSampleDetails::frmPresetSampleDetails(Host& itsHost,
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "PresetSampleGraphDetails";
-  cboLogFamily.SetList(around_.families.Descriptions());
   BindControls();
   ShowPreset(preset_);
 }
@@ -51,8 +50,7 @@ void frmPresetSampleDetails::BindControls() {
 }
 
 void frmPresetSampleDetails::ShowPreset(const clsSampleGraphPreset& preset) {
-  txtName.Text = preset.strName;
-  cboLogFamily.SetListIndex(around_.families.ValidateLogFamily(preset.lngLogFamily) - 1);
+  exchange_.ShowHead(preset.strName, preset.lngLogFamily);
   ListItems();
   TickItems(preset);
   txtYMax.Text = std::to_string(preset.lngGraphMax);
@@ -89,7 +87,7 @@ bool frmPresetSampleDetails::ValidateControls() {
 
 clsSampleGraphPreset frmPresetSampleDetails::CreatePresetSampleGraphObject() const {
   clsSampleGraphPreset preset;
-  preset.strName = Trim(txtName.Text());
+  preset.strName = exchange_.Name();
   preset.lngLogFamily = Family();
   preset.blnFixGraphMax = chkFixY.Value;
   preset.lngGraphMax = StringToLong(txtYMax.Text());
@@ -107,7 +105,7 @@ void frmPresetSampleDetails::cmdSave_Click() {
 
 void frmPresetSampleDetails::LoadPreset(std::string_view bytes) {
   auto preset = ReadSampleGraphPresetFile(bytes);
-  if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily, Family())) return;
+  if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily)) return;
   preset->lngLogFamily = Family();
   std::vector<std::string> unknown;
   for (const int item : preset->colDataItems)

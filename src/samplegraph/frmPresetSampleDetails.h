@@ -45,13 +45,14 @@ class frmPresetSampleDetails : public Form {
   void ApplyFixedGraphMax();
   bool ValidateControls();
   clsSampleGraphPreset CreatePresetSampleGraphObject() const;
-  int Family() const { return cboLogFamily.ListIndex() + 1; }
+  int Family() const { return exchange_.Family(); }
   void cmdSave_Click();
   void LoadPreset(std::string_view bytes);
   void TickItems(const clsSampleGraphPreset& preset);
 
   PresetSurroundings around_;
-  PresetExchange exchange_{*this, txtName, around_, {".sam", kSampleGraphPresetFilter}};
+  PresetExchange exchange_{
+      *this, {txtName, cboLogFamily}, around_, {".sam", kSampleGraphPresetFilter}};
   CheckedKeys checked_;
   clsSampleGraphPreset preset_;
 };

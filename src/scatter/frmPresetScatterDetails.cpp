@@ -14,7 +14,6 @@ frmPresetScatterDetails::frmPresetScatterDetails(Host& itsHost,
   DefaultButton = &cmdOK;
   CancelButton = &cmdCancel;
   HelpTopic = "PresetScatterGraphDetails";
-  cboLogFamily.SetList(around_.families.Descriptions());
   cboLogFamily.Click = [this] { ListItems(); };
   cmdSave.Click = [this] { cmdSave_Click(); };
   cmdLoad.Click = [this] { exchange_.Load([this](std::string_view bytes) { LoadPreset(bytes); }); };
@@ -36,8 +35,7 @@ void frmPresetScatterDetails::ListItems() {
 }
 
 void frmPresetScatterDetails::ShowPreset(const clsScatterGraphPreset& preset) {
-  txtName.Text = preset.strName;
-  cboLogFamily.SetListIndex(around_.families.ValidateLogFamily(preset.lngLogFamily) - 1);
+  exchange_.ShowHead(preset.strName, preset.lngLogFamily);
   // A new preset has no items yet: it starts as a new scatter graph does.
   const bool isNew = preset.lngXAxisDataItem == 0;
   xAxis_.Choose(isNew ? ItemOf(kRPM) : preset.lngXAxisDataItem, around_.messages, isNew);
@@ -50,7 +48,7 @@ void frmPresetScatterDetails::ShowPreset(const clsScatterGraphPreset& preset) {
 clsScatterGraphPreset frmPresetScatterDetails::CreatePresetScatterGraphObject() const {
   const PointStyle style = points_.Style();
   clsScatterGraphPreset preset;
-  preset.strName = Trim(txtName.Text());
+  preset.strName = exchange_.Name();
   preset.lngLogFamily = Family();
   preset.lngXAxisDataItem = xAxis_.Item();
   preset.lngYAxisDataItem = yAxis_.Item();
@@ -71,7 +69,7 @@ void frmPresetScatterDetails::cmdSave_Click() {
 
 void frmPresetScatterDetails::LoadPreset(std::string_view bytes) {
   auto preset = ReadScatterGraphPresetFile(bytes, ItemsOfFamily(around_.catalogue, Family()));
-  if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily, Family())) return;
+  if (!preset || !exchange_.AgreesToFamily(preset->lngLogFamily)) return;
   preset->lngLogFamily = Family();
   preset->FileOpenDraw = chkFileOpenDraw.Value;
   TakeWhatFits(*preset);

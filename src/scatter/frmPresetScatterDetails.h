@@ -59,7 +59,7 @@ class frmPresetScatterDetails : public Form {
   void Form_Load() override;
 
  private:
-  int Family() const { return cboLogFamily.ListIndex() + 1; }
+  int Family() const { return exchange_.Family(); }
   void ListItems();
   void ShowPreset(const clsScatterGraphPreset& preset);
   clsScatterGraphPreset CreatePresetScatterGraphObject() const;
@@ -68,7 +68,8 @@ class frmPresetScatterDetails : public Form {
   void TakeWhatFits(clsScatterGraphPreset& preset);
 
   PresetSurroundings around_;
-  PresetExchange exchange_{*this, txtName, around_, {".sca", kScatterGraphPresetFilter}};
+  PresetExchange exchange_{
+      *this, {txtName, cboLogFamily}, around_, {".sca", kScatterGraphPresetFilter}};
   DataItemCombo xAxis_{imgcboXAxis};
   DataItemCombo yAxis_{imgcboYAxis};
   PointStyleControls points_{{cboPointShape, cboPointSize, picColour, cmdColourSelector}};

@@ -57,13 +57,13 @@ enum class DialogKind { Open, Save, Folder, Colour, Printer };
 /// and, after OK, what was chosen.
 struct Dialog {
   DialogKind kind = DialogKind::Open;
-  std::string title;
-  std::string filter;       ///< "Text Files|*.txt|All|*.*"
-  int filterIndex = 1;      ///< chosen filter, from 1
-  std::string initialPath;  ///< folder, or a file whose folder is meant
-  std::string path;         ///< file name to start with; the chosen path
-  long colour = 0;          ///< 0xBBGGRR
-  bool ofOpenFile = false;  ///< saves the file that is open, which it may then go over
+  std::string title = {};
+  std::string filter = {};       ///< "Text Files|*.txt|All|*.*"
+  int filterIndex = 1;           ///< chosen filter, from 1
+  std::string initialPath = {};  ///< folder, or a file whose folder is meant
+  std::string path = {};         ///< file name to start with; the chosen path
+  long colour = 0;               ///< 0xBBGGRR
+  bool ofOpenFile = false;       ///< saves the file that is open, which it may then go over
 };
 
 /// One page for the printer.
