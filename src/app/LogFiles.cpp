@@ -4,6 +4,7 @@
 
 #include "app/CommandLine.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "zones/MapFile.h"
 
 namespace tarnview {
@@ -54,13 +55,9 @@ int LogFiles::Guessed(const std::string& path) const {
 /// It begins beside the log that is open.
 Dialog LogFiles::OpenDialog() const {
   const OpenLog& log = globals_.log;
-  Dialog dialog;
-  dialog.title = "Open";
-  dialog.initialPath = log.gstrCurrentFile;
-  if (log.gstrCurrentFile.empty())
-    dialog.initialPath = globals_.settings.gstrDefaultWorkingDirectory;
-  dialog.path = log.gstrCurrentFileTitle;
-  return dialog;
+  return {.title = "Open",
+          .initialPath = OrElse(log.gstrCurrentFile, globals_.settings.gstrDefaultWorkingDirectory),
+          .path = log.gstrCurrentFileTitle};
 }
 
 void LogFiles::mnuFileOpen_Click() {

@@ -131,11 +131,10 @@ bool LogFiles::DescribeLog(const std::string& path) {
 /// Over the log that is open where that is a Universal one, else over one to be chosen.
 void LogFiles::mnuFileEditDefinition_Click() {
   if (!SaveChangesPrompt()) return;
-  Dialog dialog;
-  dialog.title = "Edit Definition";
-  dialog.filter = "Data Log Definitions (*.txt)|*.txt|All Files (*.*)|*.*";
-  dialog.initialPath = globals_.settings.gstrGenericDefinitionFile;
-  if (dialog.initialPath.empty()) dialog.initialPath = globals_.gstrProgramFolder;
+  Dialog dialog{.title = "Edit Definition",
+                .filter = "Data Log Definitions (*.txt)|*.txt|All Files (*.*)|*.*",
+                .initialPath = OrElse(globals_.settings.gstrGenericDefinitionFile,
+                                      globals_.gstrProgramFolder)};
   if (!services_.host.Choose(dialog)) return;
   DefinitionFiles files(services_.files, services_.messages.Teller(), services_.errors,
                         globals_.catalogue.gcolFixedDataItems);

@@ -72,10 +72,8 @@ bool MapSaving::MayOverwrite() {
 
 /// A map goes over its own file; the log that zones came from does not.
 Dialog MapSaving::ToOpenFile() const {
-  Dialog dialog;
-  dialog.ofOpenFile = globals_.log.gintCurrentFileType == kMAPFile;
-  dialog.path = globals_.log.gstrCurrentFile;
-  return dialog;
+  return {.path = globals_.log.gstrCurrentFile,
+          .ofOpenFile = globals_.log.gintCurrentFileType == kMAPFile};
 }
 
 bool MapSaving::SaveAs() {

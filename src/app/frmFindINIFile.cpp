@@ -55,10 +55,8 @@ void frmFindINIFile::lstFileType_Click() {
 }
 
 void frmFindINIFile::cmdBrowse_Click() {
-  Dialog dialog;
-  dialog.title = "Open";
-  dialog.filter = "Text Files|*.txt";
-  dialog.initialPath = dialog.path = txtPathOther.Text();
+  const std::string& path = txtPathOther.Text();
+  Dialog dialog{.title = "Open", .filter = "Text Files|*.txt", .initialPath = path, .path = path};
   if (!host.Choose(dialog)) return;
   txtPathOther.Text = dialog.path;
   // Enter then means OK, and not another look for a file.

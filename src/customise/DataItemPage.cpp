@@ -122,10 +122,9 @@ void DataItemPage::RecordLineWidthChange() {
 
 void DataItemPage::RecordColourChange() {
   clsLogDataItem* item = Item();
-  Dialog dialog;
-  dialog.kind = DialogKind::Colour;
-  dialog.title = "Data Item Colour";
-  dialog.colour = window_.picDataColour.BackColour;
+  Dialog dialog{.kind = DialogKind::Colour,
+                .title = "Data Item Colour",
+                .colour = window_.picDataColour.BackColour};
   if (!item || !window_.host.Choose(dialog)) return;
   item->lngColour = dialog.colour;
   window_.picDataColour.BackColour = dialog.colour;

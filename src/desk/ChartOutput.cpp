@@ -45,10 +45,9 @@ void ChartOutput::PrintPreview(const Chart& chart, const PrintDetails& details) 
 }
 
 void ChartOutput::SavePictureAs(const Chart& chart, const std::string& strLogFile) {
-  Dialog dialog;
-  dialog.title = "Save Picture As";
-  dialog.filter = kPictureFilter;
-  dialog.initialPath = dialog.path = WithoutExtension(strLogFile) + kEndings[0];
+  const std::string path = WithoutExtension(strLogFile) + kEndings[0];
+  Dialog dialog{
+      .title = "Save Picture As", .filter = kPictureFilter, .initialPath = path, .path = path};
   if (!ChooseFileToSave(host_, dialog, AddEnding)) return;
   std::string error;
   if (!host_.SavePicture(chart, dialog.path, error))

@@ -71,10 +71,9 @@ void frmUpload::EnableComparison() {
 }
 
 void frmUpload::cmdCCF_Click() {
-  Dialog dialog;
-  dialog.title = "Open";
-  dialog.filter = choices_.filter;
-  dialog.initialPath = OrElse(txtCCF.Text(), world_.settings.gstrDefaultWorkingDirectory);
+  Dialog dialog{.title = "Open",
+                .filter = choices_.filter,
+                .initialPath = OrElse(txtCCF.Text(), world_.settings.gstrDefaultWorkingDirectory)};
   if (host.Choose(dialog)) txtCCF.Text = dialog.path;
 }
 

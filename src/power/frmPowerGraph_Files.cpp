@@ -42,12 +42,10 @@ std::vector<Command> frmPowerGraph::OutputCommands() {
 }
 
 Dialog frmPowerGraph::FileDialog(DialogKind kind, const char* title) const {
-  Dialog dialog;
-  dialog.kind = kind;
-  dialog.title = title;
-  dialog.filter = kPowerFileFilter;
-  dialog.initialPath = OrElse(savedPath_, around_.settings.gstrDefaultWorkingDirectory);
-  return dialog;
+  return {.kind = kind,
+          .title = title,
+          .filter = kPowerFileFilter,
+          .initialPath = OrElse(savedPath_, around_.settings.gstrDefaultWorkingDirectory)};
 }
 
 void frmPowerGraph::mnuFileOpen_Click() {

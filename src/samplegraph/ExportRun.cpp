@@ -4,13 +4,10 @@
 #include "desk/SaveDialog.h"
 
 namespace tarnview {
-namespace {}  // namespace
 
 bool ExportRun::Run(std::string& path, const std::function<void(const std::string&)>& write) const {
-  Dialog dialog;
-  dialog.title = "Export";
-  dialog.filter = "CSV files (*.csv)|*.csv";
-  dialog.initialPath = dialog.path = path;
+  Dialog dialog{
+      .title = "Export", .filter = "CSV files (*.csv)|*.csv", .initialPath = path, .path = path};
   if (!ChooseFileToSave(window.host, dialog)) return false;
   path = dialog.path;
   status.Say("Exporting...");

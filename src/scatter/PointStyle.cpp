@@ -43,10 +43,9 @@ void PointStyleControls::Show(const PointStyle& style) {
 }
 
 void PointStyleControls::cmdColourSelector_Click() {
-  Dialog dialog;
-  dialog.kind = DialogKind::Colour;
-  dialog.title = "Point Colour";
-  dialog.colour = controls_.picColour.BackColour;
+  Dialog dialog{.kind = DialogKind::Colour,
+                .title = "Point Colour",
+                .colour = controls_.picColour.BackColour};
   if (controls_.picColour.form.host.Choose(dialog)) controls_.picColour.BackColour = dialog.colour;
 }
 

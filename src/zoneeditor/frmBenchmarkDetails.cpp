@@ -40,15 +40,11 @@ void frmBenchmarkDetails::Enable() {
 void frmBenchmarkDetails::cmdBrowse_Click() {
   const clsFileType& log = around_.types.Item(kFMLinkLog);
   const clsFileType& map = around_.types.Item(kMAPFile);
-  Dialog dialog;
-  dialog.title = "Open";
-  dialog.filter = log.CommonDialogFilter() + "|" + map.CommonDialogFilter();
-  if (SameIgnoringCase(GetExtension(txtFile.Text()), map.strFileExtension))
-    dialog.filterIndex = 2;
-  else
-    dialog.filterIndex = 1;
-  dialog.initialPath = OrElse(txtFile.Text(), around_.settings.gstrDefaultWorkingDirectory);
-  dialog.path = FileTitle(txtFile.Text());
+  Dialog dialog{.title = "Open",
+                .filter = log.CommonDialogFilter() + "|" + map.CommonDialogFilter(),
+                .initialPath = OrElse(txtFile.Text(), around_.settings.gstrDefaultWorkingDirectory),
+                .path = FileTitle(txtFile.Text())};
+  if (SameIgnoringCase(GetExtension(txtFile.Text()), map.strFileExtension)) dialog.filterIndex = 2;
   if (!host.Choose(dialog)) return;
   txtFile.Text = dialog.path;
   toLoad_ = true;
@@ -76,12 +72,11 @@ bool frmBenchmarkDetails::Load() {
 }
 
 void frmBenchmarkDetails::cmdSave_Click() {
-  Dialog dialog;
-  dialog.kind = DialogKind::Save;
-  dialog.title = "Save";
-  dialog.filter = around_.types.Item(kMAPFile).CommonDialogFilter();
-  dialog.initialPath = benchmark_.File;
-  dialog.path = WithoutExtension(FileTitle(benchmark_.File)) + ".map";
+  Dialog dialog{.kind = DialogKind::Save,
+                .title = "Save",
+                .filter = around_.types.Item(kMAPFile).CommonDialogFilter(),
+                .initialPath = benchmark_.File,
+                .path = WithoutExtension(FileTitle(benchmark_.File)) + ".map"};
   if (!ChooseFileToSave(host, dialog)) return;
   if (!WriteMapFile(around_.files, dialog.path, MapOf(benchmark_), around_.clock.Now()))
     around_.messages.ShowMessage(Message::SomethingWentWrong);
