@@ -4,13 +4,13 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <numeric>
 
 #include "LogBench.h"
 #include "SyntheticUniversalLog.h"
 #include "base/FileSystem.h"
-#include "base/LargeMemory.h"
 #include "model/Catalogue.h"
-#include "model/CellText.h"
+#include "samplegraph/ExportText.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/UniversalDataItems.h"
 #include "universal/UniversalLog.h"
@@ -23,12 +23,12 @@ void Export(const OpenLog& log, const clsDataLog& definition, const std::string&
   std::vector<int> columns;
   for (const clsDataLogColumn& column : definition.objColumns)
     columns.push_back(column.lngDataItemID);
-  CellTexts cells(log, columns);
+  std::vector<std::int32_t> samples(static_cast<std::size_t>(log.glngDataLog.Rows()));
+  std::iota(samples.begin(), samples.end(), 0);
   std::string out;
-  out.reserve(8 * columns.size() * static_cast<std::size_t>(log.glngDataLog.Rows()));
-  PreferLargePages(out.data(), out.capacity());
-  for (int row = 0; row < log.glngDataLog.Rows(); ++row) out.append(cells.Line(row)).append("\r\n");
-  RealFileSystem().Write(path, out);
+  AddExportTable(out, log, columns, samples, [](std::size_t) {});
+  RealFileSystem files;
+  WriteExport(files, path, out);
 }
 
 void LoadUniversal(benchmark::State& state, const LogFile& file, bool exports) {

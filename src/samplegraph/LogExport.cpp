@@ -1,11 +1,10 @@
 #include "samplegraph/LogExport.h"
 
 #include <algorithm>
+#include <numeric>
 
-#include "base/LargeMemory.h"
 #include "base/Paths.h"
 #include "base/Text.h"
-#include "model/CellText.h"
 #include "model/Column.h"
 #include "model/LocateSample.h"
 #include "samplegraph/ExportText.h"
@@ -36,21 +35,16 @@ void LogExport::ExportDataLog(const std::string& strFile, const std::string& fil
   const std::int32_t first = std::min(LocateSample(log_, from, from), last);
   const std::int32_t interval = std::max((last - first) / kProgressUpdates, 1);
   status_.ShowProgressInStatusBar(std::max(last - first, 1));
-  const std::vector<int> columns = Columns();
+  std::vector<std::int32_t> samples(static_cast<std::size_t>(last - first + 1));
+  std::iota(samples.begin(), samples.end(), first);
   std::string out =
       ExportHead("TARNVIEW EXPORT FILE", log_.gstrCurrentFile, fileType) + kExportLineEnd;
-  CellTexts cells(log_, columns);
-  constexpr std::size_t kUsualCell = 8;
-  out.reserve(out.size() +
-              columns.size() * kUsualCell * static_cast<std::size_t>(last - first + 2));
-  PreferLargePages(out.data(), out.capacity());
-  AddExportNames(out, columns, *log_.gcolDataItems);
-  for (std::int32_t index = first; index <= last; ++index) {
+  AddExportTable(out, log_, Columns(), samples, [&](std::size_t line) {
+    const std::int32_t index = samples[line];
     if (index % interval == 0)
       status_.Progress("Exporting sample " + log_.FormatDataItem(ItemOf(kSample), index),
                        index - first);
-    out.append(cells.Line(index)).append(kExportLineEnd);
-  }
+  });
   WriteExport(files_, strFile, out);
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "model/CellText.h"
 #include "model/Column.h"
 #include "samplegraph/ExportText.h"
 
@@ -31,18 +30,17 @@ void ExportScatterGraph(const std::string& strFile, const ScatterDrawing& graph,
   out += kExportLineEnd + std::string("Filters:") + kExportLineEnd;
   for (const std::string& filter : graph.Filters()) out += filter + kExportLineEnd;
   out += kExportLineEnd;
-  const std::vector<int> columns = Columns(graph.dblScatterData(), listed);
-  CellTexts cells(log, columns);
-  AddExportNames(out, columns, *log.gcolDataItems);
   const int count = static_cast<int>(graph.dblScatterData().x.size());
   const int interval = std::max(count / kProgressUpdates, 1);
+  std::vector<std::int32_t> samples;
+  for (int point = 1; point <= count; ++point) samples.push_back(graph.IndexOfPoint(point));
   status.ShowProgressInStatusBar(count);
-  for (int j = 0; j < count; ++j) {
-    const std::int32_t index = graph.IndexOfPoint(j + 1);
-    if (j % interval == 0)
-      status.Progress("Exporting sample " + std::to_string(log.Sample(index)), j);
-    out.append(cells.Line(index)).append(kExportLineEnd);
-  }
+  const std::vector<int> columns = Columns(graph.dblScatterData(), listed);
+  AddExportTable(out, log, columns, samples, [&](std::size_t line) {
+    const int done = static_cast<int>(line);
+    if (done % interval == 0)
+      status.Progress("Exporting sample " + std::to_string(log.Sample(samples[line])), done);
+  });
   WriteExport(files, strFile, out);
 }
 
