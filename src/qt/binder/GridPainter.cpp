@@ -67,9 +67,9 @@ void GridPainter::Text(const QRect& place, const std::string& text, const QColor
 }
 
 void GridPainter::Heading(const QRect& place, const std::string& text, bool lit) const {
-  const QColor face = palette_.color(QPalette::Button);
-  painter_.fillRect(place,
-                    lit ? Mix(face, palette_.color(QPalette::Highlight), kSelectedTint) : face);
+  QColor face = palette_.color(QPalette::Button);
+  if (lit) face = Mix(face, palette_.color(QPalette::Highlight), kSelectedTint);
+  painter_.fillRect(place, face);
   Text(place, text, palette_.color(QPalette::ButtonText));
 }
 
@@ -86,8 +86,8 @@ QColor GridPainter::BackOf(const GridCell& cell) const {
 /// A text that would vanish on what is behind it is drawn in black or white; red on a dark desktop
 /// is lighter; what cannot be used now is grey.
 QColor GridPainter::TextOf(const GridCell& cell, const QColor& back) const {
-  const QColor wanted =
-      cell.colour == kDesktopColour ? palette_.color(QPalette::Text) : ColourToQt(cell.colour);
+  QColor wanted = palette_.color(QPalette::Text);
+  if (cell.colour != kDesktopColour) wanted = ColourToQt(cell.colour);
   if (palette_.currentColorGroup() == QPalette::Disabled) return palette_.color(QPalette::Text);
   if (wanted.hsvSaturation() > 128) return IsDark(back) ? Mix(wanted, Qt::white, kLighter) : wanted;
   if (cell.backColour == kDesktopColour &&

@@ -152,9 +152,10 @@ void GridWidget::PlaceField() {
   place.moveTop(std::clamp(place.top(), 0, std::max(this->height() - height, 0)));
   field_->setGeometry(place);
   QRect arrows(0, 0, arrows_->sizeHint().width(), height);
-  const bool fits = place.right() + arrows.width() < width();
-  arrows.moveTopLeft(fits ? place.topRight() + QPoint(1, 0)
-                          : place.topLeft() - QPoint(arrows.width(), 0));
+  if (place.right() + arrows.width() < width())
+    arrows.moveTopLeft(place.topRight() + QPoint(1, 0));
+  else
+    arrows.moveTopLeft(place.topLeft() - QPoint(arrows.width(), 0));
   arrows_->setGeometry(arrows);
 }
 
@@ -198,8 +199,10 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
   if (!grid_) return;
-  emit RightClicked(event->reason() == QContextMenuEvent::Keyboard ? grid_->Current()
-                                                                   : PlaceAt(event->pos()));
+  if (event->reason() == QContextMenuEvent::Keyboard)
+    emit RightClicked(grid_->Current());
+  else
+    emit RightClicked(PlaceAt(event->pos()));
 }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {

@@ -18,9 +18,11 @@ bool AllNumbers(const std::vector<ListView::Column>& columns) {
 
 QIcon IconOf(const ListView::Row& row, const QWidget& list, bool chips) {
   // In a list of chips a row without one keeps its place, so that the texts stand below each other.
-  if (chips)
-    return ColourChip(row.colour >= 0 ? ColourToQt(row.colour) : QColor(),
-                      list.fontMetrics().ascent());
+  if (chips) {
+    QColor colour;
+    if (row.colour >= 0) colour = ColourToQt(row.colour);
+    return ColourChip(colour, list.fontMetrics().ascent());
+  }
   if (row.icon == 1) return TintedIcon("shown");
   if (row.icon == 2) return TintedIcon("hidden");
   return QIcon();
@@ -134,8 +136,8 @@ void ListViewAdapter::ShowRow(int number) {
 }
 
 void ListViewAdapter::ShowSelection() {
-  QTreeWidgetItem* wanted =
-      list_.SelectedRow() > 0 ? view_.topLevelItem(list_.SelectedRow() - 1) : nullptr;
+  QTreeWidgetItem* wanted = nullptr;
+  if (list_.SelectedRow() > 0) wanted = view_.topLevelItem(list_.SelectedRow() - 1);
   if (wanted == view_.currentItem()) return;
   const QSignalBlocker quiet(view_);
   view_.setCurrentItem(wanted);

@@ -251,11 +251,11 @@ std::optional<QPointF> ChartWidget::MarkedPoint() const {
   if (surface_) return std::nullopt;
   const auto place = static_cast<std::size_t>(selectedPlace_);
   const auto at = static_cast<std::size_t>(selectedPoint_) - 1;
-  if (selectedPlace_ < 0 || selectedPoint_ < 1 ||
-      place >= (chart_.Cloud() ? 1 : chart_.Series().size()))
-    return std::nullopt;
-  const auto& x = chart_.Cloud() ? chart_.Cloud()->x : chart_.Series()[place].x;
-  const auto& y = chart_.Cloud() ? chart_.Cloud()->y : chart_.Series()[place].y;
+  const PointCloud* cloud = chart_.Cloud();
+  const std::size_t places = cloud ? 1 : chart_.Series().size();
+  if (selectedPlace_ < 0 || selectedPoint_ < 1 || place >= places) return std::nullopt;
+  const auto& x = cloud ? cloud->x : chart_.Series()[place].x;
+  const auto& y = cloud ? cloud->y : chart_.Series()[place].y;
   if (at >= std::min(x.size(), y.size()) || !std::isfinite(x[at]) || !std::isfinite(y[at]))
     return std::nullopt;
   if (cloud_ && !(xAxis->range().contains(x[at]) && yAxis->range().contains(y[at])))

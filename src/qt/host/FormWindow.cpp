@@ -247,7 +247,8 @@ void FormWindow::NoteWhereItIs() {
 bool FormWindow::Receives(QObject* receiver) const {
   // A key that nobody takes travels up through the parents; the window sees it once, before the
   // first of them.
-  QWidget* first = window_->focusWidget() ? window_->focusWidget() : window_.data();
+  QWidget* first = window_->focusWidget();
+  if (!first) first = window_.data();
   return receiver == first && !IsHeldUp();
 }
 
@@ -287,9 +288,10 @@ bool FormWindow::EnterOrEscape(const KeyPress& key) {
   }
   QWidget* focus = window_->focusWidget();
   if (KeepsEnter(focus)) return false;
-  auto* focused = dynamic_cast<CommandButton*>(focus ? binder_.ControlOf(focus) : nullptr);
-  if (CommandButton* button = focused ? focused : form_.DefaultButton)
-    Run("Enter", [button] { button->Press(); });
+  CommandButton* button = nullptr;
+  if (focus) button = dynamic_cast<CommandButton*>(binder_.ControlOf(focus));
+  if (!button) button = form_.DefaultButton;
+  if (button) Run("Enter", [button] { button->Press(); });
   return true;
 }
 

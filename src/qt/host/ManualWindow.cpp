@@ -153,8 +153,8 @@ QLayout* ManualWindow::MakeTools() {
 }
 
 void ManualWindow::Find(bool backward) {
-  const auto way =
-      backward ? QTextDocument::FindFlags(QTextDocument::FindBackward) : QTextDocument::FindFlags();
+  QTextDocument::FindFlags way;
+  way.setFlag(QTextDocument::FindBackward, backward);
   if (find_->text().isEmpty() || instructions_->find(find_->text(), way)) return;
   // Once more from the other end.
   instructions_->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);

@@ -58,9 +58,11 @@ bool FillFile(FileSystem& files, const PrintJob& job, const QPrinter& printer,
 
 bool DrawPage(FileSystem& files, const PrintJob& job, QPrinter& printer, const SizeOfChart& sizeOf,
               std::string& error) {
-  const bool drawn = GoesToFile(printer)
-                         ? FillFile(files, job, printer, sizeOf)
-                         : Fill(job, printer, sizeOf) && printer.printerState() != QPrinter::Error;
+  bool drawn = false;
+  if (GoesToFile(printer))
+    drawn = FillFile(files, job, printer, sizeOf);
+  else
+    drawn = Fill(job, printer, sizeOf) && printer.printerState() != QPrinter::Error;
   if (!drawn) error = Refusal(printer);
   return drawn;
 }

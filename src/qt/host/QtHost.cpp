@@ -163,7 +163,8 @@ std::string QtHost::ClipboardText() { return FromQt(QApplication::clipboard()->t
 
 QSize QtHost::SizeOf(const Chart& chart) const {
   FormWindow* window = WindowOf(chart.form);
-  const auto* view = window ? qobject_cast<QWidget*>(window->binder().ViewOf(chart)) : nullptr;
+  if (!window) return kPictureSize;
+  const auto* view = qobject_cast<QWidget*>(window->binder().ViewOf(chart));
   if (view) return view->size();
   return kPictureSize;
 }
