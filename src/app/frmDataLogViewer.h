@@ -124,6 +124,7 @@ class frmDataLogViewer : public MainWindowControls,
   PrintDetails DetailsToPrint() const;
   void BindCommands();
   void SetUpZoomMenus();
+  void ShowAbout();
   void StartSysInfo();
   void ShowNonModal(const std::string& text);
 

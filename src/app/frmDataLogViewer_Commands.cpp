@@ -19,16 +19,16 @@ std::vector<Command> frmDataLogViewer::FileCommands() {
       {&mnuToolsDataLogView, [this] { services_.programs.ShellOpen(log_.gstrCurrentFile); },
        loaded},
       {&mnuHelpHelp, [this] { host.ShowHelp(""); }, {}},
-      {&mnuHelpAbout,
-       [this] {
-         const clsDataLog& definition = globals_.gclsDataLogDefinition;
-         frmAbout(host, {definition.strName, definition.strVersion, definition.strComments}, [this] {
-           StartSysInfo();
-         }).ShowModal();
-       },
-       {}},
+      {&mnuHelpAbout, [this] { ShowAbout(); }, {}},
       // clang-format on
   };
+}
+
+void frmDataLogViewer::ShowAbout() {
+  const clsDataLog& definition = globals_.gclsDataLogDefinition;
+  frmAbout window(host, {definition.strName, definition.strVersion, definition.strComments},
+                  [this] { StartSysInfo(); });
+  window.ShowModal();
 }
 
 std::vector<Command> frmDataLogViewer::ViewCommands() {

@@ -67,16 +67,24 @@ std::int32_t ItemNamed(std::string_view name) { return NumberOf(kItemNames, name
 
 using Scatter = clsScatterGraphPreset;
 
+void ReadXAxis(Scatter& preset, std::string_view text) {
+  preset.lngXAxisDataItem = ItemNamed(text);
+}
+void ReadYAxis(Scatter& preset, std::string_view text) {
+  preset.lngYAxisDataItem = ItemNamed(text);
+}
+void ReadColour(Scatter& preset, std::string_view text) {
+  preset.lngPointColour = NumberOf(kColourNames, text, 0);
+}
+
 const IniKey<Scatter> kKeys[] = {
     // clang-format off
     {"Name", IniText<Scatter>{&Scatter::strName}},
-    {"XAxis", IniRule<Scatter>{[](Scatter& p, std::string_view text) { p.lngXAxisDataItem = ItemNamed(text); }, {}}},
-    {"YAxis", IniRule<Scatter>{[](Scatter& p, std::string_view text) { p.lngYAxisDataItem = ItemNamed(text); }, {}}},
+    {"XAxis", IniRule<Scatter>{ReadXAxis, {}}},
+    {"YAxis", IniRule<Scatter>{ReadYAxis, {}}},
     {"Point Size", IniWhole<Scatter>{&Scatter::lngPointSize, 1, 10}},
     {"Point Shape", IniWhole<Scatter>{&Scatter::lngPointShape, 0, 9}},
-    {"Point Colour",
-     IniRule<Scatter>{[](Scatter& p, std::string_view text) { p.lngPointColour = NumberOf(kColourNames, text, 0); },
-                      {}}},
+    {"Point Colour", IniRule<Scatter>{ReadColour, {}}},
     // clang-format on
 };
 

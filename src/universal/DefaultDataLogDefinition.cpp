@@ -52,8 +52,8 @@ constexpr ColumnRow kColumns[] = {
     {"FP",        "Fuel Pulse (ms)",             "Fuel Pulse (MS)",     13, 1, 10},
     {"Vac",       "Vacuum (mmHg)",               nullptr,               38, 0, 0.1},
     {"Adv",       "Advance (deg.)",              nullptr,               21, 0, 1},
-    // Of boost and vacuum one is always idle. Each refuses values on the far side of atmospheric pressure, so that
-    // both feed one item and never spoil what the other one wrote.
+    // Of boost and vacuum one is always idle. Each refuses values on the far side of atmospheric
+    // pressure, so that both feed one item and never spoil what the other one wrote.
     {"MAP",       "Manifold Air Pressure (kPa)", "boost (psi)",          5, 0, 1,    {kKPaPerPsi, kAtmosphere, true, 99, {}}},
     {"MAP",       "Manifold Air Pressure (kPa)", "vacuum (mmHg)",        5, 0, 1,    {-kKPaPerMmHg, kAtmosphere, true, {}, 100}},
 };

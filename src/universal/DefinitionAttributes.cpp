@@ -48,7 +48,8 @@ constexpr Attribute<Log> kHeader[] = {
     {"OWNDATAITEMS",             "blnOwnDataItems",             &Log::blnOwnDataItems},
 };
 
-constexpr std::int32_t kAny = std::numeric_limits<std::int32_t>::min(), kAll = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kAny = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kAll = std::numeric_limits<std::int32_t>::max();
 
 constexpr Attribute<Col> kColumn[] = {
     {"NAME",                   "strName",                 &Col::strName},

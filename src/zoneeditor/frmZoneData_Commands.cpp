@@ -32,7 +32,8 @@ std::vector<Command> frmZoneData::EditCommands() {
       {&mnuEditCopyHeadings, [this] { CopyCells(true); }, focused},
       {&mnuEditPaste,
        [this] {
-         if (const auto grid = Grids.Editable(ActiveControl())) Grids.Paste(*grid, host.ClipboardText());
+         const auto grid = Grids.Editable(ActiveControl());
+         if (grid) Grids.Paste(*grid, host.ClipboardText());
        },
        editable},
       {&mnuEditInterpolate, onGrid(&ZoneGrids::Interpolate), editable},
