@@ -139,7 +139,7 @@ void FormWindow::RunWhenFree(const char* procedure, std::function<void()> event)
 }
 
 void FormWindow::ShowCaption() {
-  window_->setWindowTitle(CaptionToQt(form_.Caption() + WithLead(" - ", form_.Subtitle)));
+  window_->setWindowTitle(CaptionToQt(form_.Caption() + WithLead(" - ", form_.Subtitle())));
   if (form_.Pointer == MousePointer::Hourglass)
     window_->setCursor(Qt::WaitCursor);
   else
