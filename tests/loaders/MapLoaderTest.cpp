@@ -30,7 +30,7 @@ std::string Section() {
 std::string Told(const MapReading& reading) {
   if (!reading.read) return "none " + reading.error;
   std::string told;
-  for (const std::size_t zone : {0, 32, 33, 239, 255})
+  for (const std::size_t zone : {0u, 32u, 33u, 239u, 255u})
     told += std::to_string(reading.map.zones[zone]) + " ";
   told += DateText(reading.map.chip.datChipDate) + " " +
           std::to_string(reading.map.intAtmosphericPressure);
