@@ -17,6 +17,7 @@
 #include <atomic>
 #include <csignal>
 #include <cstdio>
+#include <stop_token>
 #include <thread>
 
 #include "../support/FixedClock.h"
@@ -32,21 +33,23 @@ namespace {
 
 constexpr int kPatience = 90;  ///< seconds for one gesture, under sanitizers on a busy machine
 
-/// Ends the program where nothing has happened for too long.
+/// Ends the program where nothing has happened for too long, as long as it lives.
 class Watchdog {
  public:
-  Watchdog() {
-    std::thread([this] {
-      for (int still = 0, last = -1; still < kPatience;
-           std::this_thread::sleep_for(std::chrono::seconds(1))) {
-        still = beats == last ? still + 1 : 0;
-        last = beats;
-      }
-      std::fputs("random_windows_user: it hangs\n", stderr);
-      std::raise(SIGABRT);
-    }).detach();
-  }
   std::atomic<int> beats = 0;
+
+ private:
+  void Watch(const std::stop_token& over) {
+    for (int still = 0, last = -1; still < kPatience;
+         std::this_thread::sleep_for(std::chrono::seconds(1))) {
+      if (over.stop_requested()) return;
+      still = beats == last ? still + 1 : 0;
+      last = beats;
+    }
+    std::fputs("random_windows_user: it hangs\n", stderr);
+    std::raise(SIGABRT);
+  }
+  std::jthread watching_{[this](const std::stop_token& over) { Watch(over); }};
 };
 
 struct Options {
