@@ -73,11 +73,14 @@ void Chart::PerformPoint(const Action& action) {
 std::size_t Chart::PointsOf(int series) const {
   if (series < 1) return 0;
   const auto number = static_cast<std::size_t>(series);
-  const Surface* surface = data_.AsSurface();
-  if (surface && number <= surface->rows.size()) return surface->columns.size();
-  const PointCloud* cloud = data_.Cloud();
-  if (cloud && number == 1) return cloud->x.size();
-  if (surface || cloud) return 0;
+  if (const Surface* surface = data_.AsSurface()) {
+    if (number > surface->rows.size()) return 0;
+    return surface->columns.size();
+  }
+  if (const PointCloud* cloud = data_.Cloud()) {
+    if (number > 1) return 0;
+    return cloud->x.size();
+  }
   const std::size_t place = (number - 1) / 2;
   if (number % 2 == 1 && place < data_.Series().size()) return data_.Series()[place].x.size();
   return 0;
