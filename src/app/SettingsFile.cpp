@@ -101,7 +101,8 @@ std::string SettingsFile::SetAside(const std::string& path) {
     const std::string kept = path + ".bad" + TextIf(n > 1, std::to_string(n));
     if (const auto there = services_.files.Read(kept); there && *there == seen_) return kept;
     if (services_.files.FileExists(kept)) continue;
-    return TextIf(services_.files.Write(kept, seen_), kept);
+    if (!services_.files.Write(kept, seen_)) return {};
+    return kept;
   }
 }
 
