@@ -94,8 +94,11 @@ int CheckDefinition(const DefinitionOptions& options) {
   ErrorLog errors(files, clock, "");
   const Catalogue catalogue = BuildDataItemCatalogue();
   DefinitionFiles loader(files, messages.Teller(), errors, catalogue.gcolFixedDataItems);
-  std::optional<clsDataLog> definition = DefaultDataLogDefinition();
-  if (options.file != "-") definition = loader.LoadDataLogDefinition(options.file);
+  std::optional<clsDataLog> definition;
+  if (options.file == "-")
+    definition = DefaultDataLogDefinition();
+  else
+    definition = loader.LoadDataLogDefinition(options.file);
   const clsDataLog none;
   const clsDataLog& it = definition ? *definition : none;
   Json out{{"ok", definition.has_value()},
