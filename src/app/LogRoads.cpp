@@ -112,8 +112,11 @@ LoadOutcome LogRoads::Try(std::string_view bytes, int fileType,
   const LoaderRow* loader = LoaderFor(fileType);
   if (!loader) return {};
   const clsLogDataItems& fixed = globals_.catalogue.gcolFixedDataItems;
-  clsLogDataItems items = fixed.Duplicate();
-  if (fileType == kUniversalLog) items = GenerateLogDataItemsGeneric(definition, fixed);
+  clsLogDataItems items;
+  if (fileType == kUniversalLog)
+    items = GenerateLogDataItemsGeneric(definition, fixed);
+  else
+    items = fixed.Duplicate();
   NoProgress progress;
   OpenLog log;
   return loader->load(bytes, {log, items, globals_.settings, globals_.tables, progress},

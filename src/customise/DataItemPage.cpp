@@ -155,9 +155,11 @@ void DataItemPage::cmdReset_Click() {
   clsLogDataItem* item = Item();
   if (!item) return;
   const clsLogDataItems& catalogue = draft_.catalogue.gcolDefaultDataItems;
-  clsLogDataItems items = catalogue.Duplicate();
+  clsLogDataItems items;
   if (Family() == kUniversalLogFamily)
     items = GenerateLogDataItemsGeneric(draft_.definition, catalogue);
+  else
+    items = catalogue.Duplicate();
   const clsLogDataItem& fresh = items.Item(item->intSeq);
   item->lngColour = fresh.lngColour;
   item->lngLineStyle = fresh.lngLineStyle;

@@ -132,8 +132,10 @@ bool frmOptions::ValidatePath(int index) {
 bool frmOptions::LoadDataLogDefinitionLocal() {
   const std::string path = txtPath(DefinitionFile).Text();
   const clsLogDataItems& fixed = draft_.catalogue.gcolFixedDataItems;
-  std::optional<clsDataLog> definition = DefaultDataLogDefinition();
-  if (!path.empty())
+  std::optional<clsDataLog> definition;
+  if (path.empty())
+    definition = DefaultDataLogDefinition();
+  else
     definition = DefinitionFiles(around_.files, around_.messages.Teller(), around_.errors, fixed)
                      .LoadDataLogDefinition(path);
   if (!definition) return false;
