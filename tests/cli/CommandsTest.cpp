@@ -1,238 +1,127 @@
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <nlohmann/json.hpp>
-#include <string>
-#include <vector>
 
-#include "cli/Commands.h"
+#include "cli/RunCli.h"
+#include "support/ScratchFolder.h"
 
 namespace tarnview {
 namespace {
 
-using Json = nlohmann::json;
-
-struct Ran {
-  int status;
-  std::string out, err;
-};
-
-Ran RunCli(std::vector<std::string> words) {
-  std::vector<const char*> arguments{"tarnview-cli"};
-  for (const auto& word : words) arguments.push_back(word.c_str());
-  ::testing::internal::CaptureStdout();
-  ::testing::internal::CaptureStderr();
-  const int status = RunCommandLine(static_cast<int>(arguments.size()), arguments.data());
-  const std::string out = ::testing::internal::GetCapturedStdout();
-  return {status, out, ::testing::internal::GetCapturedStderr()};
-}
-
-std::string Example(const char* name) { return std::string(TARNVIEW_EXAMPLES) + "/" + name; }
-
-TEST(CommandLineProgram, LoadTellsWhatALogHolds) {
-  const Ran ran = RunCli({"load", Example("turbo.txt")});
-  EXPECT_EQ(ran.status, kDone);
-  const Json told = Json::parse(ran.out);
-  EXPECT_EQ(told["title"], "Tarnview - turbo.txt (FM Link Data Log)");
-  EXPECT_EQ(told["engine_size"], 1.8);
-  EXPECT_EQ(told["normally_aspirated"], false);
-  EXPECT_EQ(told["zones"].size(), 256u);
-  EXPECT_EQ(told["changes"].size(), 2u);
-  EXPECT_EQ(told["changes"][1], told["zones"]);
-}
-
-TEST(CommandLineProgram, AFailedLoadTellsWhy) {
-  const Ran ran = RunCli({"load", Example("none.txt")});
-  EXPECT_EQ(ran.status, kFailed);
-  const Json told = Json::parse(ran.out);
-  EXPECT_EQ(told["ok"], false);
-  EXPECT_EQ(told["messages"],
-            (Json{{{"id", 15}, {"text", "File could not be loaded."}, {"style", 64}}}));
-  EXPECT_EQ(ran.err, "message 15: File could not be loaded.\n");
-  EXPECT_EQ(RunCli({"table", Example("none.txt")}).status, kFailed);
+TEST(CommandLineProgram, TellsOfALog) {
+  ExpectRuns(R"(
+load turbo.txt, /title /engine_size /normally_aspirated /zones /changes/1 /samples -> 0 Tarnview - turbo.txt (FM Link Data Log) 1.8 false 256 from 22 to 64 256 from 22 to 64 6988
+load none.txt, /ok /messages -> 1 false [{"id":15,"style":64,"text":"File could not be loaded."}]; message 15: File could not be loaded.
+load na.txt, /normally_aspirated /messages -> 0 true []
+# a log without zones
+load na.txt --type 3, /normally_aspirated /messages/1/id -> 1 false 12; message 54: That doesn't look like a Tec-2 Data Log file to me. Please ensure correct file type is chosen when opening a file.
+load universal/torque.csv --definition "../data/Universal Data Log Formats/Torque.txt", /file_type /definition /samples -> 0 8 Torque 12
+table na.txt --items 63,1 --from 2 --to 4, all -> 0 Sample,Secs/2,0.164/3,0.246/4,0.328/
+table na.txt --items 63 --raw --to 1, all -> 0 Secs/819/
+table none.txt -> 1; message 15: File could not be loaded.
+shape universal/torque.csv, /found /score /encoding /delimiter /time /columns/5/name /columns/5/factor -> 0 true 97 UTF-8 comma {"column":"Device Time","form":"DATE","line_frequency":0,"step":0.25} Speed 0.621371192237334
+)");
 }
 
 TEST(CommandLineProgram, ZonesTellWhatADriveSaysOfThem) {
-  const Ran ran = RunCli({"zones", Example("turbo.txt"), "--grid", "visits", "--json"});
-  EXPECT_EQ(ran.status, kDone);
-  const Json told = Json::parse(ran.out);
-  EXPECT_EQ(told["rows"][5], "220 kPa 600");
-  EXPECT_EQ(told["columns"][15], "75");
-  EXPECT_EQ(told["count"][3][10], 18);
-  EXPECT_EQ(told["value"][3][10], 18);
-  EXPECT_EQ(told["count"][3][11], 8);
-  EXPECT_EQ(told["value"][3][11], Json()) << "too few to say anything";
-  const auto knock = RunCli({"zones", Example("turbo.txt"), "--grid", "knock"});
-  EXPECT_EQ(Json::parse(knock.out)["value"][3][10], 75);
-  const auto visited = [](std::vector<std::string> range) {
-    std::vector<std::string> words{"zones", Example("turbo.txt"), "--grid", "visits"};
-    words.insert(words.end(), range.begin(), range.end());
-    int count = 0;
-    const Json grid = Json::parse(RunCli(words).out);
-    for (const Json& row : grid["count"])
-      for (const Json& cell : row) count += cell.get<int>();
-    return count;
-  };
-  EXPECT_EQ(visited({}), 6988);
-  EXPECT_EQ(visited({"--type", "auto", "--from", "300", "--to", "900"}), 601);
-  EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "knock", "--to", "a.map"}).status,
-            kWrongCommandLine);
-  EXPECT_EQ(RunCli({"zones", Example("turbo.txt"), "--grid", "heat"}).status, kWrongCommandLine);
-  const Ran none = RunCli({"zones", Example("utec.csv"), "--type", "6", "--grid", "knock"});
-  EXPECT_EQ(none.status, kFailed);
-  EXPECT_EQ(none.err, "message 16: Problem loading zone settings.\n");
-}
-
-TEST(CommandLineProgram, TablePrintsARangeOfItems) {
-  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63,1", "--from", "2", "--to", "4"}).out,
-            "Sample,Secs\n2,0.164\n3,0.246\n4,0.328\n");
-  EXPECT_EQ(RunCli({"table", Example("na.txt"), "--items", "63", "--raw", "--to", "1"}).out,
-            "Secs\n819\n");
+  // Of too few samples no value is told.
+  ExpectRuns(R"(
+zones turbo.txt --grid visits --json, /rows/5 /columns/15 /count/3 /value/3 -> 0 220 kPa 600 75 [0,0,0,0,0,0,24,10,0,5,18,8,1,5,4,0] [null,null,null,null,null,null,24,10,null,null,18,null,null,null,null,null]
+zones turbo.txt --grid knock, /value/3 -> 0 [null,null,null,null,null,null,21,22,null,null,75,null,null,null,null,null]
+zones turbo.txt --grid visits --type auto --from 300 --to 900, /count/0 /count/1 -> 0 [0,0,270,14,202,0,0,0,0,0,0,0,0,0,0,0] [0,0,0,12,55,0,0,0,0,0,0,0,0,0,0,0]
+zones turbo.txt --grid knock --to a.map -> 2; --to: "a.map" is no number
+zones turbo.txt --grid heat -> 2; --grid: heat not in {visits,error,knock}
+zones utec.csv --type 6 --grid knock -> 1; message 16: Problem loading zone settings.
+)");
 }
 
 TEST(CommandLineProgram, GraphTellsWhatTheChartReceives) {
-  const Ran ran = RunCli({"graph", Example("na.txt"), "--items", "1,3,47,20", "--json", "--from",
-                          "100", "--to", "1600", "--fix-max", "33"});
-  EXPECT_EQ(ran.status, kDone);
-  const Json told = Json::parse(ran.out);
-  EXPECT_EQ(told["from"], 100);
-  EXPECT_EQ(told["thin_step"], 3);
-  EXPECT_EQ(told["rows"], told["series"][0]["x"].size());
-  ASSERT_EQ(told["series"].size(),
-            2u);  // "Sample" cannot be plotted, item 47 is no item of this log
-  EXPECT_EQ(told["series"][0]["item"], 20);
-  EXPECT_EQ(told["series"][1], Json({{"item", 3},
-                                     {"name", "RPM"},
-                                     {"colour", 0x408000},
-                                     {"style", 1},
-                                     {"width", 3},
-                                     {"x", told["series"][1]["x"]},
-                                     {"y", told["series"][1]["y"]}}));
-  EXPECT_EQ(told["y_axis"], Json({{"max", 35}, {"divisions", 7}}));
-  EXPECT_EQ(told["messages"], Json::array());
-}
-
-TEST(CommandLineProgram, ScatterTellsDrawsAndExportsWhatTheWindowDoes) {
-  const std::vector<std::string> words{"scatter",  Example("turbo.txt"),
-                                       "--x",      "3",
-                                       "--y",      "5",
-                                       "--filter", "5:100:",
-                                       "--to",     "900",
-                                       "--json",   "--export"};
-  const auto with = [&](std::vector<std::string> more) {
-    std::vector<std::string> all = words;
-    all.insert(all.end(), more.begin(), more.end());
-    return RunCli(all);
-  };
-  const std::string out = ::testing::TempDir() + "scatter.csv";
-  const Ran ran = with({out, "--items", "3,20", "--filter", "3:1:2000"});
-  EXPECT_EQ(ran.status, kDone);
-  const Json told = Json::parse(ran.out);
-  EXPECT_EQ(told["x_item"], 3);
-  EXPECT_EQ(told["y_item"], 5);
-  EXPECT_EQ(told["filters"],
-            (Json{"Sample [Sample No.] from 1 to 900", "MAP [Manifold Air Pressure] from 100",
-                  "RPM [RPM] from 1 to 2000"}));
-  std::ifstream file(out, std::ios::binary);
-  const std::string text(std::istreambuf_iterator<char>(file), {});
-  EXPECT_NE(text.find("RPM [RPM] from 1 to 2000\r\n\r\nSample,RPM,MAP,Knock\r\n"), text.npos)
-      << text.substr(0, 400);
-  EXPECT_EQ(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')),
-            10 + told["points"].size());
-  for (const Json& point : told["points"]) {
-    EXPECT_GE(point[1], 100);
-    EXPECT_LE(point[2], 900);
-  }
+  // "Sample" cannot be plotted, and item 47 is no item of this log.
+  ExpectRuns(R"(
+graph na.txt --items 1,3,47,20 --json --from 100 --to 1600 --fix-max 72, /from /thin_step /rows /y_axis /messages -> 0 100 3 501 {"divisions":7,"max":70} []
+graph na.txt --items 1,3,47,20 --json --from 100 --to 1600, /y_axis /series/0/item /series/0/x /series/2 -> 0 {"divisions":7,"max":35} 20 501 from 8.192 to 131.072 nothing
+graph na.txt --items 3 --json --to 60, /series/0/name /series/0/colour /series/0/style /series/0/width /series/0/y -> 0 RPM 4227072 1 3 60 from 0 to 13.52
+)");
 }
 
 TEST(CommandLineProgram, ScatterRefusesAsTheWindowsDo) {
-  const struct {
-    std::vector<std::string> words;
-    int status;
-    const char* told;
-  } kRows[] = {
-      {{}, kFailed, "message 3: "},
-      {{"--filter", "3:99999:"}, kFailed, "message 46: "},
-      {{"--filter", "3:9:5"}, kFailed, "message 45: "},
-      {{"--filter", "3::"}, kFailed, "message 44: "},
-      {{"--filter", "25:7:"}, kFailed, "message 42: "},
-      {{"--filter", "99:1:"}, kFailed, "data item 99"},
-      {{"--filter", "3:1"}, kWrongCommandLine, "ITEM:FROM:TO"},
-      {{"--x", "99"}, kFailed, "axes"},
-      {{"--preset", "None such"}, kFailed, "None such"},
-      {{"--size-of-points", "11"}, kWrongCommandLine, "--size-of-points"},
-  };
-  for (const auto& row : kRows) {
-    std::vector<std::string> words{"scatter", Example("turbo.txt"), "--json"};
-    words.insert(words.end(), row.words.begin(), row.words.end());
-    const Ran ran = RunCli(words);
-    EXPECT_EQ(ran.status, row.status) << row.told;
-    EXPECT_NE(ran.err.find(row.told), std::string::npos) << ran.err;
-  }
+  ExpectRuns(R"(
+scatter turbo.txt --json -> 1; message 3: You can't display more than 5000 samples on a Scatter Graph without a filter.
+scatter turbo.txt --json --filter 3:99999: -> 1; message 46: No log data matches all the filters.
+scatter turbo.txt --json --filter 3:9:5 -> 1; message 45: 'From' value greater than 'To' value.
+scatter turbo.txt --json --filter 3:: -> 1; message 44: Filters tend to work best if at least one criteria has been entered!
+scatter turbo.txt --json --filter 25:7: -> 1; message 42: Value not recognised.
+scatter turbo.txt --json --filter 99:1: -> 1; tarnview-cli: no filter can be on data item 99
+scatter turbo.txt --json --filter 3:1 -> 2; --filter: a filter is ITEM:FROM:TO, a bound may be empty
+scatter turbo.txt --json --x 99 -> 1; tarnview-cli: the axes cannot be data items 99 and 1
+scatter turbo.txt --json --preset "None such" -> 1; tarnview-cli: this log has no preset scatter graph "None such"
+scatter turbo.txt --json --size-of-points 11 -> 2; --size-of-points: Value 11 not in range 1 to 10
+)");
 }
 
-TEST(CommandLineProgram, ALogWithoutZonesIsNotNormallyAspirated) {
-  EXPECT_EQ(Json::parse(RunCli({"load", Example("na.txt")}).out)["normally_aspirated"], true);
-  EXPECT_EQ(
-      Json::parse(RunCli({"load", Example("na.txt"), "--type", "3"}).out)["normally_aspirated"],
-      false);
+TEST(CommandLineProgram, ScatterTellsAndExportsWhatTheWindowDoes) {
+  const ScratchFolder folder;
+  const std::string out = folder.Path("out.csv");
+  const Ran ran = RunCli("scatter turbo.txt --x 3 --y 5 --filter 5:100: --to 900 --json --items " +
+                         ("3,20 --filter 3:1:2000 --export \"" + out + "\""));
+  ExpectTold(
+      ran.Told("/x_item /y_item /filters /points"),
+      R"(0 3 5 ["Sample [Sample No.] from 1 to 900","MAP [Manifold Air Pressure] from 100","RPM [RPM] from 1 to 2000"] [[188,100,23],[223,100,24],[245,100,25],[243,100,26],[226,100,27],[230,100,28],[197,100,29],[230,100,30],[236,100,31],[211,100,32],[195,100,33],[242,100,34]])");
+  ExpectTold(
+      OneLine(folder.Get("out.csv")),
+      R"(TARNVIEW SCATTER GRAPH EXPORT FILE\r/Original Data Log Path and File Name: turbo.txt\r/Original Data Log File Type: FM Link Data Logs\r/\r/Filters:\r/Sample [Sample No.] from 1 to 900\r/MAP [Manifold Air Pressure] from 100\r/RPM [RPM] from 1 to 2000\r/\r/Sample,RPM,MAP,Knock\r/23,188,100.0,0\r/24,223,100.0,0\r/25,245,100.0,0\r/26,243,100.0,0\r/27,226,100.0,0\r/28,230,100.0,0\r/29,197,100.0,0\r/30,230,100.0,0\r/31,236,100.0,0\r/32,211,100.0,0\r/33,195,100.0,0\r/34,242,100.0,0\r/)");
+}
+
+TEST(CommandLineProgram, TellsOfADefinition) {
+  ExpectRuns(R"(
+definition -, /ok /messages /name /extension /columns /sample_presets /scatter_presets -> 0 true [] Hydra Nemesis 2.1 (MX-5 Miata) csv 19 6 12
+definition - --full, /columns/18/dblConversionFactor /columns/18/blnMaxValueSet /columns/18/blnMinValueSet -> 0 -0.133333 true false
+definition - --full, /sample_presets/0/colDataItems /scatter_presets/6/objFilters -> 0 [20,5,3,17,37,38] [{"dblFrom":60,"dblTo":100,"lngDataItemSeq":5}]
+definition /no/such/file, /ok /messages/0/id -> 1 false 70; message 70: Error loading data log definition - file not found: /no/such/file
+)");
 }
 
 TEST(CommandLineProgram, AnExportNeverGoesOverItsLog) {
-  const std::string log = ::testing::TempDir() + "own.txt";
-  std::filesystem::copy_file(Example("na.txt"), log,
-                             std::filesystem::copy_options::overwrite_existing);
-  const Ran ran = RunCli({"export", log, ::testing::TempDir() + "./own.txt"});
-  EXPECT_EQ(ran.status, kFailed);
-  EXPECT_NE(ran.err.find("message 0: The log that is open is never written over:"),
-            std::string::npos)
-      << ran.err;
-  EXPECT_EQ(std::filesystem::file_size(log), std::filesystem::file_size(Example("na.txt")));
+  const ScratchFolder folder;
+  std::filesystem::copy_file(TARNVIEW_EXAMPLES "/na.txt", folder.path / "own.txt");
+  const std::string log = folder.Get("own.txt");
+  ExpectRuns(R"(
+export own.txt ./own.txt -> 1; message 0: The log that is open is never written over: ./own.txt Please choose another name.
+)",
+             folder.path.string());
+  EXPECT_EQ(folder.Get("own.txt"), log);
 }
 
 TEST(CommandLineProgram, AResultThatCannotBeWrittenIsAFailure) {
-  const std::string cli = TARNVIEW_CLI;
-  for (const std::string& command : {"load " + Example("na.txt"), std::string("--help")}) {
-    const int status = std::system((cli + " " + command + " >/dev/full 2>/dev/null").c_str());
+  for (const std::string command : {" load " TARNVIEW_EXAMPLES "/na.txt", " --help"}) {
+    const int status = std::system((TARNVIEW_CLI + command + " >/dev/full 2>/dev/null").c_str());
     EXPECT_EQ(WEXITSTATUS(status), kFailed) << command;
   }
 }
 
-TEST(CommandLineProgram, AWrongCommandLineSaysSo) {
-  const std::string na = Example("na.txt");
-  const std::vector<std::vector<std::string>> kRows{
-      {},
-      // clang-format off
-                                                    {"fly"},
-                                                    {"load"},
-                                                    {"load", "a", "--type", "9"},
-                                                    {"graph", "a"},
-                                                    {"graph", "a", "--out", "a.bmp"},
-                                                    {"graph", "a", "--out", "a.png", "--size", "1x1"},
-                                                    {"table", na, "--items", "abc"},
-                                                    {"table", na, "--items", "3;5"},
-                                                    {"table", na, "--items", "3,"},
-                                                    {"table", na, "--items", ""},
-                                                    {"table", na, "--items", "0"},
-                                                    {"table", na, "--items", "84"},
-                                                    {"graph", na, "--json", "--items", "999"},
-                                                    {"table", na, "--from", "abc"},
-                                                    {"load", na, "--to", "1x"},
-                                                    {"scatter", na, "--json", "--filter", "3:abc:"},
-                                                    {"scatter", na, "--json", "--filter", "3:1:2b"},
-                                                    {"drive", "no-such-script"}};
-  // clang-format on
-  for (const auto& words : kRows) {
-    const Ran ran = RunCli(words);
-    EXPECT_EQ(ran.status, kWrongCommandLine) << (words.empty() ? "" : words.back());
-    EXPECT_NE(ran.err, "");
-    EXPECT_EQ(ran.out, "");
-  }
-  EXPECT_EQ(RunCli({"load", "--help"}).status, kDone);
+TEST(CommandLineProgram, AWrongCommandLineSaysSoAndPrintsNothing) {
+  ExpectRuns(R"(
+, all -> 2 ; A subcommand is required
+fly, all -> 2 ; A subcommand is required
+load, all -> 2 ; LOG is required
+load a --type 9, all -> 2 ; --type: 9 not in {1,2,3,4,5,6,7,8,auto}
+graph a, all -> 2 ; graph: needs --out or --json
+graph a --out a.bmp, all -> 2 ; --out: a picture's name ends in .png, .svg or .pdf
+graph a --out a.png --size 1x1, all -> 2 ; --size: a size is WIDTHxHEIGHT in pixels, 50 to 20000
+table na.txt --items abc, all -> 2 ; --items: "abc" is no data item's number; commas stand between them
+table na.txt --items 3;5, all -> 2 ; --items: "3;5" is no data item's number; commas stand between them
+table na.txt --items 3,, all -> 2 ; --items: "" is no data item's number; commas stand between them
+table na.txt --items "", all -> 2 ; --items: a data item's number is missing
+table na.txt --items 0, all -> 2 ; --items: no data item has the number 0
+table na.txt --items 84, all -> 2 ; --items: no data item of this log has the number 84
+graph na.txt --json --items 999, all -> 2 ; --items: no data item of this log has the number 999
+table na.txt --from abc, all -> 2 ; --from: "abc" is no number
+load na.txt --to 1x, all -> 2 ; --to: "1x" is no number
+scatter na.txt --json --filter 3:abc:, all -> 2 ; --filter: "abc" is no number
+scatter na.txt --json --filter 3:1:2b, all -> 2 ; --filter: "2b" is no number
+drive no-such-script, all -> 2 ; tarnview-cli: cannot read no-such-script
+)");
+  EXPECT_EQ(RunCli("load --help").status, kDone);
 }
 
 }  // namespace

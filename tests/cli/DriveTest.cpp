@@ -2,14 +2,11 @@
 // with the example logs as the current folder. TARNVIEW_ACCEPT=1 writes what comes out as the new
 // NAME.out: read the difference.
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
-#include "cli/Commands.h"
+#include "cli/RunCli.h"
 
 namespace tarnview {
 namespace {
@@ -24,31 +21,19 @@ std::string Contents(const fs::path& path) {
   return text.str();
 }
 
-std::string Drive(const fs::path& script) {
-  const std::string path = script.string();
-  const char* const arguments[] = {"tarnview-cli", "drive", path.c_str()};
-  ::testing::internal::CaptureStdout();
-  ::testing::internal::CaptureStderr();
-  const int status = RunCommandLine(3, arguments);
-  const std::string out = ::testing::internal::GetCapturedStdout();
-  return out + ::testing::internal::GetCapturedStderr() + "exit status " + std::to_string(status) +
-         "\n";
-}
-
 TEST(Drive, ScriptsPrintWhatTheyDid) {
-  const fs::path before = fs::current_path();
-  fs::current_path(TARNVIEW_EXAMPLES);
   int scripts = 0;
   for (const auto& entry : fs::directory_iterator(fs::path(TARNVIEW_TESTS) / "cli/scripts")) {
     if (entry.path().extension() != ".txt") continue;
     ++scripts;
-    const std::string printed = Drive(entry.path());
+    const Ran ran = RunCli("drive \"" + entry.path().string() + '"');
+    const std::string printed =
+        ran.out + ran.err + "exit status " + std::to_string(ran.status) + "\n";
     const fs::path expected = fs::path(entry.path()).replace_extension(".out");
     if (std::getenv("TARNVIEW_ACCEPT")) std::ofstream(expected, std::ios::binary) << printed;
     EXPECT_EQ(printed, Contents(expected)) << entry.path();
   }
   EXPECT_GT(scripts, 0);
-  fs::current_path(before);
 }
 
 }  // namespace

@@ -1,82 +1,37 @@
 // Power of a pull in the example log: what each option changes, and what comes of a wrong one.
 
-#include <gtest/gtest.h>
-
-#include <nlohmann/json.hpp>
-#include <string>
-#include <vector>
-
-#include "base/Text.h"
-#include "cli/Commands.h"
+#include "cli/RunCli.h"
 
 namespace tarnview {
 namespace {
 
-using Json = nlohmann::json;
-
-std::string Example(const char* name) { return std::string(TARNVIEW_EXAMPLES) + "/" + name; }
-
-/// The exit status, and of the printed object the curves, how far their axis reaches, how many
-/// speeds there are, and the messages.
-std::string Told(const std::string& options) {
-  std::vector<std::string> words{"tarnview-cli", "power", Example("turbo.txt"), "--json"};
-  for (const auto& word : Split(options, ' '))
-    if (!word.empty())
-      words.push_back(word == "turbo.pow" ? Example("turbo.pow") : std::string(word));
-  std::vector<const char*> arguments;
-  for (const auto& word : words) arguments.push_back(word.c_str());
-  ::testing::internal::CaptureStdout();
-  ::testing::internal::CaptureStderr();
-  const int status = RunCommandLine(static_cast<int>(arguments.size()), arguments.data());
-  const std::string out = ::testing::internal::GetCapturedStdout();
-  ::testing::internal::GetCapturedStderr();
-  std::string told = std::to_string(status);
-  if (out.empty()) return told;
-  const Json json = Json::parse(out);
-  for (const auto& series : json["series"])
-    told += " | " + series["name"].get<std::string>() + " of " + std::to_string(series["x"].size());
-  if (!json["series"].empty())
-    told += " | to " + json["y_axis"]["max"].dump() + ", " + std::to_string(json["speed"].size()) +
-            " speeds";
-  for (const auto& message : json["messages"]) told += " | message " + message["id"].dump();
-  return told;
-}
-
 TEST(PowerCommand, EachOptionFillsItsFieldIn) {
-  const char* const kBenchmark =
-      " | Benchmark Power (382.5 hp @ 6278 rpm, Vmax 179.8 mph) of 32 | Benchmark Torque (324.4 "
-      "lbft @ 5899 rpm) of 32";
-  const struct {
-    const char* options;
-    const char* power;
-    const char* torque;
-    const char* beside;
-    const char* axis;
-  } kRows[] = {
-      {"--gear 3", "382.5 hp @ 6278 rpm, Vmax 179.9 mph", "324.4 lbft @ 5899 rpm", "", "400"},
-      {"--gear 3 --weight 180 --smoothing 0 --units metric", "315.0 kW @ 6552 rpm, Vmax 299.2 kmh",
-       "480.4 Nm @ 5995 rpm", "", "500"},
-      {"--gear 2 --sae 35 90 wet:20", "220.5 hp @ 6278 rpm, Vmax 149.7 mph",
-       "187.7 lbft @ 5899 rpm", "", "240"},
-      {"--gear 4 --sae 35 90 20 --benchmark turbo.pow", "752.9 hp @ 6278 rpm, Vmax 225.4 mph",
-       "636.3 lbft @ 5995 rpm", kBenchmark, "800"},
-      {"--gear 4 --benchmark turbo.pow --average", "516.9 hp @ 6278 rpm, Vmax 198.8 mph",
-       "437.4 lbft @ 5995 rpm", kBenchmark, "600"},
+  const auto run = [](const TableRow& row) {
+    return RunCli("power turbo.txt --json --from 4357 --to 4389 " + row.All())
+        .Told("/series/0/name /series/1/name /series/2/name /series/3/name /y_axis/max /speed/31");
   };
-  for (const auto& row : kRows)
-    EXPECT_EQ(Told(std::string("--from 4357 --to 4389 ") + row.options),
-              std::string("0 | Your Power (") + row.power + ") of 32 | Your Torque (" + row.torque +
-                  ") of 32" + row.beside + " | to " + row.axis + ", 32 speeds");
+  ExpectTable(run, R"(
+--gear 3 -> 0 Your Power (382.5 hp @ 6278 rpm, Vmax 179.9 mph) Your Torque (324.4 lbft @ 5899 rpm) nothing nothing 400 [2.538900000000581,39.40675184286936]
+--gear 3 --weight 180 --smoothing 0 --units metric -> 0 Your Power (315.0 kW @ 6552 rpm, Vmax 299.2 kmh) Your Torque (480.4 Nm @ 5995 rpm) nothing nothing 500 [2.538900000000581,39.40675184286936]
+--gear 2 --sae 35 90 wet:20 -> 0 Your Power (220.5 hp @ 6278 rpm, Vmax 149.7 mph) Your Torque (187.7 lbft @ 5899 rpm) nothing nothing 240 [2.538900000000581,27.760052940156918]
+--gear 4 --sae 35 90 20 --benchmark turbo.pow -> 0 Your Power (752.9 hp @ 6278 rpm, Vmax 225.4 mph) Your Torque (636.3 lbft @ 5995 rpm) Benchmark Power (382.5 hp @ 6278 rpm, Vmax 179.8 mph) Benchmark Torque (324.4 lbft @ 5899 rpm) 800 [2.538900000000581,52.41097995101625]
+--gear 4 --benchmark turbo.pow --average -> 0 Your Power (516.9 hp @ 6278 rpm, Vmax 198.8 mph) Your Torque (437.4 lbft @ 5995 rpm) Benchmark Power (382.5 hp @ 6278 rpm, Vmax 179.8 mph) Benchmark Torque (324.4 lbft @ 5899 rpm) 600 [2.538900000000581,52.41097995101625]
+)");
 }
 
 TEST(PowerCommand, WhatCannotBeDoneIsTold) {
-  EXPECT_EQ(Told("--car Nobody's"), "1");
-  EXPECT_EQ(Told("--car-file none.car"), "1 | message 57");
-  EXPECT_EQ(Told("--benchmark none.pow"), "1 | message 33 | message 0");
-  EXPECT_EQ(Told("--from 4357 --to 4360"), "1 | message 26");
-  for (const char* wrong : {"--gear 7", "--units furlong", "--sae 20 100 damp", "--average",
-                            "--car A --car-file B", "--out a.gif"})
-    EXPECT_EQ(Told(wrong), "2") << wrong;
+  ExpectRuns(R"(
+power turbo.txt --json --car Nobody's -> 1; tarnview-cli: there is no car definition "Nobody's"
+power turbo.txt --json --car-file none.car -> 1; message 57: Problem loading car definition file.
+power turbo.txt --json --benchmark none.pow, /messages/1/id -> 1 0; message 33: Problem loading power graph benchmark.
+power turbo.txt --json --from 4357 --to 4360 -> 1; message 26: You can't display less than 10 samples on a Power Graph.
+power turbo.txt --json --gear 7 -> 2; --gear: Value 7 not in range 1 to 6
+power turbo.txt --json --units furlong -> 2; --units: furlong not in {imperial,metric}
+power turbo.txt --json --sae 20 100 damp -> 2; --sae: the air is TEMPERATURE PRESSURE HUMIDITY, the last as 50 or wet:15
+power turbo.txt --json --average -> 2; --average requires --benchmark
+power turbo.txt --json --car A --car-file B -> 2; --car excludes --car-file
+power turbo.txt --json --out a.gif -> 2; --out: a picture's name ends in .png, .svg or .pdf
+)");
 }
 
 }  // namespace
