@@ -1,5 +1,0 @@
-#include "FuzzPower.h"
-
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-  return tarnview::FuzzCarFile(data, size);
-}
