@@ -9,8 +9,9 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QTest>
-#include <QWheelEvent>
 #include <random>
+
+#include "qt/Gestures.h"
 
 namespace tarnview {
 
@@ -178,12 +179,6 @@ class RandomHand {
         .arg(place.y());
   }
 
-  void Move(QWidget& widget, const QPoint& place, Qt::MouseButtons buttons) {
-    QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, buttons,
-                     {});
-    QApplication::sendEvent(&widget, &move);
-  }
-
   QString Drag(QWidget& widget) {
     const QString name = NameOf(widget);
     const Qt::MouseButton button = OneIn(5) ? Qt::MiddleButton : Qt::LeftButton;
@@ -191,17 +186,15 @@ class RandomHand {
     const QPointer<QWidget> there = &widget;
     if (held) QTest::mousePress(&widget, button, {}, PlaceIn(widget));
     for (int step = Below(4); there && step >= 0; --step)
-      Move(*there, {Below(there->width() + 200) - 100, Below(there->height() + 200) - 100}, held);
+      MoveMouse(*there, {Below(there->width() + 200) - 100, Below(there->height() + 200) - 100},
+                held);
     if (there && held) QTest::mouseRelease(there, button, {}, PlaceIn(*there));
     return "drag " + name;
   }
 
   QString Wheel(QWidget& widget) {
     const QString name = NameOf(widget);
-    const QPoint place = PlaceIn(widget);
-    QWheelEvent wheel(place, widget.mapToGlobal(place), {}, {0, (Below(7) - 3) * 120}, {},
-                      AnyModifiers(), Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &wheel);
+    TurnWheel(widget, PlaceIn(widget), (Below(7) - 3) * 120, AnyModifiers());
     return "wheel over " + name;
   }
 

@@ -5,52 +5,28 @@
 // A find is a sanitizer's report, a crash, or a hang; the gestures up to it are in the file
 // random-windows-SEED.txt of the current folder. Programs that talk to an ECU are not started.
 
+#include <unistd.h>
+
 #include <QCommandLineParser>
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QDropEvent>
-#include <QElapsedTimer>
-#include <QMimeData>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
-#include <QUrl>
-#include <atomic>
-#include <csignal>
 #include <cstdio>
-#include <stop_token>
-#include <thread>
 
-#include "../support/FixedClock.h"
-#include "../support/RecordingProcesses.h"
-#include "RandomHand.h"
 #include "app/Program.h"
+#include "fuzz/RandomHand.h"
 #include "qt/Text.h"
 #include "qt/host/QtHost.h"
 #include "qt/icons/DesktopStyle.h"
+#include "support/FixedClock.h"
+#include "support/RecordingProcesses.h"
 
 namespace tarnview {
 namespace {
 
-constexpr int kPatience = 90;  ///< seconds for one gesture, under sanitizers on a busy machine
-
-/// Ends the program where nothing has happened for too long, as long as it lives.
-class Watchdog {
- public:
-  std::atomic<int> beats = 0;
-
- private:
-  void Watch(const std::stop_token& over) {
-    for (int still = 0, last = -1; still < kPatience;
-         std::this_thread::sleep_for(std::chrono::seconds(1))) {
-      if (over.stop_requested()) return;
-      still = beats == last ? still + 1 : 0;
-      last = beats;
-    }
-    std::fputs("random_windows_user: it hangs\n", stderr);
-    std::raise(SIGABRT);
-  }
-  std::jthread watching_{[this](const std::stop_token& over) { Watch(over); }};
-};
+constexpr unsigned kPatience = 90;  ///< seconds for one gesture, under sanitizers on a busy machine
 
 struct Options {
   QString examples, data;
@@ -61,7 +37,11 @@ struct Options {
 class User {
  public:
   User(const Options& options, QString folder, std::FILE* story)
-      : options_(options), folder_(folder), story_(story), hand_(options.seed, folder) {}
+      : options_(options),
+        folder_(folder),
+        story_(story),
+        hand_(options.seed, folder),
+        end_(options.seconds > 0 ? options.seconds * 1000 : -1) {}
 
   /// The program from its start to its end; false once there is nothing more to do.
   bool Session() {
@@ -71,27 +51,21 @@ class User {
     RecordingProcesses processes;
     host_ = &host;
     left_ = std::min(options_.session, options_.actions - done_);
-    const QStringList logs =
-        QDir(folder_).entryList({"*.txt", "*.csv", "*.dat", "*.map"}, QDir::Files);
-    logs_ = logs;
+    logs_ = QDir(folder_).entryList({"*.txt", "*.csv", "*.dat", "*.map"}, QDir::Files);
     {
       Program program(host, files, clock, processes,
                       {PathFromQt(folder_ + '/'), PathFromQt(options_.data + '/')});
       Next(0);
-      program.Start(hand_.OneIn(2) ? PathFromQt(folder_ + '/' + hand_.AnyOf(logs)) : "", true);
+      program.Start(hand_.OneIn(2) ? PathFromQt(folder_ + '/' + hand_.AnyOf(logs_)) : "", true);
       if (host.AnyWindow()) QApplication::exec();
       timer_.reset();
     }
     Tell("-- the end of a session");
-    return done_ < options_.actions && !OutOfTime();
+    return done_ < options_.actions && !end_.hasExpired();
   }
   int Done() const { return done_; }
 
  private:
-  bool OutOfTime() const {
-    return options_.seconds > 0 && since_.elapsed() > options_.seconds * 1000;
-  }
-
   void Tell(const QString& what) {
     std::fprintf(story_, "%d %s\n", done_, what.toUtf8().constData());
     std::fflush(story_);
@@ -108,14 +82,14 @@ class User {
   /// Nothing while the program is at work, as the desktop keeps input from it then. A loop deeper
   /// than the gesture's own is that of a box, a menu or a modal window.
   void Tick() {
-    ++watchdog_.beats;
+    alarm(kPatience);  // ends the program where nothing happens for so long
     timer_.release()->deleteLater();
     const int level = QThread::currentThread()->loopLevel();
     const bool mayAct = level > level_ && !host_->events.Busy();
     Next(mayAct ? 0 : 1);
     if (!mayAct) return;
     const int before = std::exchange(level_, level);
-    if (left_ > 0 && !OutOfTime())
+    if (left_ > 0 && !end_.hasExpired())
       Act();
     else
       Leave();
@@ -151,12 +125,7 @@ class User {
   void Drop(QWidget& window) {
     const QString log = hand_.AnyOf(logs_);
     Tell("drop " + log);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(folder_ + '/' + log)});
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&window, &enter);
-    if (enter.isAccepted()) QApplication::sendEvent(&window, &drop);
+    DropFile(window, folder_ + '/' + log);
   }
 
   /// What is open is left, the main window last; a question on the way gets any answer.
@@ -178,12 +147,7 @@ class User {
   const QString folder_;
   std::FILE* const story_;
   RandomHand hand_;
-  Watchdog watchdog_;
-  QElapsedTimer since_ = [] {
-    QElapsedTimer started;
-    started.start();
-    return started;
-  }();
+  QDeadlineTimer end_;
   QtHost* host_ = nullptr;
   QStringList logs_;
   std::unique_ptr<QTimer> timer_;

@@ -17,6 +17,7 @@
 #include <QTreeWidget>
 
 #include "app/MainWindowControls.h"
+#include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/binder/Binder.h"
 #include "qt/binder/UpDownWidget.h"
@@ -123,10 +124,10 @@ TEST_F(BinderTest, TypingAndLeavingAFieldReachesItsControl) {
 
 TEST_F(BinderTest, ButtonsMenusAndArrowsReachTheirControls) {
   std::vector<std::string> events;
-  form_.cmdZoomIn.Click = [&] { events.push_back("in"); };
-  form_.mnuFileOpen.Click = [&] { events.push_back("open"); };
-  form_.mnuRecentlyUsed(2).Click = [&] { events.push_back("recent 2"); };
-  form_.updYMax.DownClick = [&] { events.push_back("down"); };
+  form_.cmdZoomIn.Click = Telling(events, "in");
+  form_.mnuFileOpen.Click = Telling(events, "open");
+  form_.mnuRecentlyUsed(2).Click = Telling(events, "recent 2");
+  form_.updYMax.DownClick = Telling(events, "down");
   form_.chkFixY.Click = [&] { events.push_back(form_.chkFixY.Value ? "fixed" : "free"); };
   form_.cboZoomAmount.SetList({"2", "3"});
   form_.cboZoomAmount.Click = [&] { events.push_back("amount " + form_.cboZoomAmount.Text()); };

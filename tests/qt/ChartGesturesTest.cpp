@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include <QTest>
-#include <QWheelEvent>
 
+#include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/chart/ChartGestures.h"
 #include "qt/chart/ChartWidget.h"
@@ -27,13 +27,7 @@ class ChartGesturesTest : public testing::Test {
     Settle();
   }
   void Listen(ChartGestures& gestures) {
-    const auto tell = [this](const char* what) {
-      return [this, what](auto... numbers) {
-        std::string text = what;
-        ((text += " " + std::to_string(std::lround(numbers))), ...);
-        told_.push_back(text);
-      };
-    };
+    const auto tell = [this](const char* what) { return Telling(told_, what); };
     QObject::connect(&gestures, &ChartGestures::Turned, tell("wheel"));
     QObject::connect(&gestures, &ChartGestures::Marked, tell("band"));
     QObject::connect(&gestures, &ChartGestures::Panned, tell("pan"));
@@ -48,17 +42,10 @@ class ChartGesturesTest : public testing::Test {
   }
   void Drag(Qt::MouseButton button, Qt::KeyboardModifiers held, QPoint from, QPoint to) {
     QTest::mousePress(&chart_, button, held, from);
-    for (const QPoint at : {(from + to) / 2, to}) {
-      QMouseEvent move(QEvent::MouseMove, at, chart_.mapToGlobal(at), Qt::NoButton, button, held);
-      QApplication::sendEvent(&chart_, &move);
-    }
+    for (const QPoint at : {(from + to) / 2, to}) MoveMouse(chart_, at, button, held);
     QTest::mouseRelease(&chart_, button, held, to);
   }
-  void Turn(double x, int eighths) {
-    QWheelEvent event(At(x), chart_.mapToGlobal(At(x)), {}, {0, eighths}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&chart_, &event);
-  }
+  void Turn(double x, int eighths) { TurnWheel(chart_, At(x), eighths); }
 
   QApplication& application_ = TestApplication();
   std::vector<std::string> told_;  // the chart tells of the pointer even as it goes

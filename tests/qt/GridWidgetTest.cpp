@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/binder/Binder.h"
 #include "qt/binder/GridWidget.h"
@@ -75,10 +76,7 @@ TEST_F(GridWidgetTest, TheMouseMarksCells) {
       EXPECT_EQ(view->PlaceAt(Middle(row, column)), (GridPlace{row, column}));
   QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, Middle(2, 3));
   EXPECT_EQ(grid.Selection(), (GridRange{2, 3, 2, 3}));
-  // QTest's own move tells no button.
-  QMouseEvent drag(QEvent::MouseMove, Middle(1, 2), view->mapToGlobal(Middle(1, 2)), Qt::NoButton,
-                   Qt::LeftButton, {});
-  QApplication::sendEvent(view, &drag);
+  MoveMouse(*view, Middle(1, 2), Qt::LeftButton);
   EXPECT_EQ(grid.Selection(), (GridRange{1, 2, 2, 3}));
   QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, Middle(1, 2));
   QTest::mouseClick(view, Qt::LeftButton, Qt::ShiftModifier, Middle(2, 1));

@@ -1,16 +1,14 @@
 #include <gmock/gmock.h>
 
-#include <QDropEvent>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 
 #include "app/frmAbout.h"
 #include "app/frmNonModalMessage.h"
+#include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/host/Dialogs.h"
 #include "qt/host/QtHost.h"
@@ -19,9 +17,15 @@
 namespace tarnview {
 namespace {
 
-TEST(QtHostTest, AModalWindowHoldsItsCallerUntilItIsUnloaded) {
-  TestApplication();
+class QtHostTest : public testing::Test {
+ protected:
+  ~QtHostTest() override { Settle(); }
+
+  QApplication& application = TestApplication();
   QtHost host;
+};
+
+TEST_F(QtHostTest, AModalWindowHoldsItsCallerUntilItIsUnloaded) {
   frmAbout about(host, {}, [] {});
   bool wasModal = false;
   QTimer::singleShot(0, [&] {
@@ -32,12 +36,9 @@ TEST(QtHostTest, AModalWindowHoldsItsCallerUntilItIsUnloaded) {
   about.ShowModal();
   EXPECT_TRUE(wasModal);
   EXPECT_FALSE(host.AnyWindow());
-  Settle();
 }
 
-TEST(QtHostTest, WhatIsTypedFirstTakesThePlaceOfTheTextThere) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, WhatIsTypedFirstTakesThePlaceOfTheTextThere) {
   Messages messages(host, [](int) { return std::string(); });
   frmNewPresetName form(host, messages, "Knock");
   QTimer::singleShot(0, [&] {
@@ -50,12 +51,9 @@ TEST(QtHostTest, WhatIsTypedFirstTakesThePlaceOfTheTextThere) {
   });
   form.ShowModal();
   EXPECT_EQ(form.strName(), "Idle");
-  Settle();
 }
 
-TEST(QtHostTest, TheCloseBoxAsksTheFormAndEscapePressesCancel) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, TheCloseBoxAsksTheFormAndEscapePressesCancel) {
   struct Stubborn : frmNonModalMessage {
     using frmNonModalMessage::frmNonModalMessage;
     bool mayClose = false;
@@ -71,23 +69,18 @@ TEST(QtHostTest, TheCloseBoxAsksTheFormAndEscapePressesCancel) {
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_FALSE(form.IsShown());
   EXPECT_FALSE(host.AnyWindow());
-  Settle();
 }
 
-TEST(QtHostTest, AWindowMayBeDestroyedBeforeTheHostWithoutBeingUnloaded) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, AWindowMayBeDestroyedBeforeTheHostWithoutBeingUnloaded) {
   {
     frmAbout about(host, {}, [] {});
     about.Show();
     about.cmdOK.SetFocus();
   }
   EXPECT_FALSE(host.AnyWindow());
-  Settle();
 }
 
-TEST(QtHostTest, BoxesAnswerWithTheirButtons) {
-  TestApplication();
+TEST_F(QtHostTest, BoxesAnswerWithTheirButtons) {
   const struct {
     int style;
     Qt::Key key;
@@ -99,13 +92,11 @@ TEST(QtHostTest, BoxesAnswerWithTheirButtons) {
               {kBoxOk, Qt::Key_Escape, Reply::Ok}};
   for (const auto& row : rows) {
     QTimer::singleShot(0, [&] { QTest::keyClick(QApplication::activeModalWidget(), row.key); });
-    QtHost host;
     EXPECT_EQ(host.Ask({1, "Line one\r\nline two", row.style, "Tarnview"}), row.reply) << row.style;
   }
 }
 
-TEST(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
-  TestApplication();
+TEST_F(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
   for (const bool take : {true, false}) {
     QTimer::singleShot(0, [&] {
       QWidget* const box = QApplication::activeModalWidget();
@@ -113,7 +104,6 @@ TEST(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
       for (auto* button : box->findChildren<QPushButton*>())
         if (button->text() == "&Open Report") button->click();
     });
-    QtHost host;
     int taken = 0;
     EXPECT_EQ(host.Ask({83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}),
               Reply::Ok);
@@ -121,18 +111,12 @@ TEST(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
   }
 }
 
-TEST(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
-  TestApplication();
+TEST_F(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
   const struct {
     std::string text, shown;
   } rows[] = {{"<img src='/etc/x.png'> <b>a</b>", "<img src='/etc/x.png'> <b>a</b>"},
               {std::string(20000, 'x'), ""},
-              {[] {
-                 std::string lines;
-                 for (int i = 0; i < 300; ++i) lines += "column " + std::to_string(i) + "\r\n";
-                 return lines;
-               }(),
-               ""}};
+              {QString("a column\r\n").repeated(300).toStdString(), ""}};
   for (const auto& row : rows) {
     QTimer::singleShot(0, [&] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -146,7 +130,6 @@ TEST(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
         EXPECT_EQ(box->text().toStdString(), row.shown);
       QTest::keyClick(box, Qt::Key_Return);
     });
-    QtHost host;
     EXPECT_EQ(host.Ask({1, row.text, kBoxOk, "Tarnview [*]"}), Reply::Ok);
   }
 }
@@ -181,18 +164,7 @@ struct Working : frmNonModalMessage {
   bool fails = false;
 };
 
-void Drop(QWidget& window, const char* path) {
-  QMimeData data;
-  data.setUrls({QUrl::fromLocalFile(path)});
-  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-  QApplication::sendEvent(&window, &enter);
-  if (enter.isAccepted()) QApplication::sendEvent(&window, &drop);
-}
-
-TEST(QtHostTest, WhatComesWhileAnEventIsAtWorkWaitsForItsEnd) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, WhatComesWhileAnEventIsAtWorkWaitsForItsEnd) {
   Working form(host);
   form.Show();
   QWidget& window = host.WindowOf(form)->window();
@@ -200,7 +172,7 @@ TEST(QtHostTest, WhatComesWhileAnEventIsAtWorkWaitsForItsEnd) {
   Settle();
   form.notes.clear();
   form.during = [&] {
-    Drop(window, "/logs/run.txt");
+    DropFile(window, "/logs/run.txt");
     window.close();
     QTimer::singleShot(0, [&] { QTest::keyClick(&window, Qt::Key_F9); });
     QTimer::singleShot(0, button, &QPushButton::click);
@@ -210,9 +182,7 @@ TEST(QtHostTest, WhatComesWhileAnEventIsAtWorkWaitsForItsEnd) {
   EXPECT_EQ(form.notes, "begins ends close drop:/logs/run.txt begins ends ");
 }
 
-TEST(QtHostTest, AnErrorThatNothingEndedEndsAtItsEvent) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, AnErrorThatNothingEndedEndsAtItsEvent) {
   std::string told;
   host.events.Failed = [&](const std::string& module, const std::string& procedure,
                            const std::exception& error) {
@@ -229,28 +199,24 @@ TEST(QtHostTest, AnErrorThatNothingEndedEndsAtItsEvent) {
   EXPECT_FALSE(host.events.Busy());
 }
 
-TEST(QtHostTest, AFileDroppedBehindADialogIsRefused) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, AFileDroppedBehindADialogIsRefused) {
   Working form(host);
   form.Show();
   QWidget& window = host.WindowOf(form)->window();
   QTimer::singleShot(0, [&] {
-    Drop(window, "/logs/run.txt");
+    DropFile(window, "/logs/run.txt");
     Settle();
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
   });
   form.host.Ask({1, "Text", kBoxOk, "Tarnview"});
   Settle();
   EXPECT_EQ(form.notes.find("drop"), std::string::npos) << form.notes;
-  Drop(window, "/logs/run.txt");
+  DropFile(window, "/logs/run.txt");
   Settle();
   EXPECT_NE(form.notes.find("drop:/logs/run.txt"), std::string::npos);
 }
 
-TEST(QtHostTest, ABoxBelongsToTheWindowThatTheUserIsIn) {
-  TestApplication();
-  QtHost host;
+TEST_F(QtHostTest, ABoxBelongsToTheWindowThatTheUserIsIn) {
   Working main(host), graph(host);
   main.Show();
   graph.Show();

@@ -2,8 +2,8 @@
 
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWheelEvent>
 
+#include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/chart/ChartWidget.h"
 #include "qt/chart/PicturePainter.h"
@@ -43,24 +43,14 @@ class SurfacePlotTest : public testing::Test {
     chart.SetDescription(Slope());
     chart.show();
     Settle();
-    const auto tell = [this](const char* what) {
-      return [this, what](auto... numbers) {
-        std::string text = what;
-        ((text += " " + std::to_string(std::lround(numbers))), ...);
-        told.push_back(text);
-      };
-    };
+    const auto tell = [this](const char* what) { return Telling(told, what); };
     QObject::connect(&gestures, &SurfaceGestures::Turned, tell("turn"));
     QObject::connect(&gestures, &SurfaceGestures::Zoomed, tell("zoom"));
     QObject::connect(&gestures, &SurfaceGestures::DoubleClicked, tell("double"));
     QObject::connect(&chart, &ChartWidget::PointClicked, tell("click"));
     QObject::connect(&chart, &ChartWidget::RightClicked, tell("menu"));
   }
-  void MoveTo(QPoint at) {
-    QMouseEvent move(QEvent::MouseMove, at, chart.mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
-                     {});
-    QApplication::sendEvent(&chart, &move);
-  }
+  void MoveTo(QPoint at) { MoveMouse(chart, at, Qt::LeftButton); }
   /// Of a cell, on the screen.
   QPoint Place(int row, int column) const {
     const auto& surface = std::get<Surface>(description.kind);
@@ -96,11 +86,7 @@ TEST_F(SurfacePlotTest, AHandTurnsZoomsAndPicks) {
   QTest::mouseDClick(&chart, Qt::LeftButton, {}, {3, 3});
   EXPECT_THAT(told, ElementsAre("click 1 3", "menu", "double"));
   told.clear();
-  for (int notch : {1, -3}) {
-    QWheelEvent event(QPointF(300, 200), chart.mapToGlobal(QPointF(300, 200)), {}, {0, notch * 120},
-                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&chart, &event);
-  }
+  for (int notches : {1, -3}) TurnWheel(chart, {300, 200}, notches * 120);
   Settle();
   EXPECT_THAT(told, ElementsAre("zoom -2"));
 }

@@ -2,21 +2,16 @@
 
 #include <QHeaderView>
 #include <QSplitter>
-#include <QTimer>
 #include <QTreeWidget>
 #include <algorithm>
 
 #include "app/MainWindowControls.h"
-#include "app/Program.h"
 #include "app/frmNonModalMessage.h"
 #include "qt/TestApplication.h"
 #include "qt/host/FormWindow.h"
 #include "qt/host/QtHost.h"
 #include "qt/host/WindowPlacement.h"
 #include "qt/pictures/AllWindows.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/RecordingProcesses.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
@@ -89,42 +84,6 @@ TEST(WindowPlacementTest, AWindowTakesItsPlaceAndKeepsItUpToDate) {
   EXPECT_TRUE(host.WindowOf(form)->window().isMaximized());
   form.Unload();
   Settle();
-}
-
-TEST(WindowPlacementTest, TheSettingsFileKeepsWhereTheWindowsStood) {
-  TestApplication();
-  QtHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  RecordingProcesses processes;
-  files.files["/car/Tarnview.ini"] =
-      "[General]\r\nWindow State=0\r\nWindow Left=150\r\nWindow Top=750\r\nWindow Width=11250\r\n"
-      "Window Height=10500\r\nMaintenance Form Window State=0\r\nMaintenance Form Window "
-      "Left=300\r\n"
-      "Maintenance Form Window Top=1500\r\nMaintenance Form Window Width=9000\r\n"
-      "Maintenance Form Window Height=7500\r\n";
-  Program program(host, files, clock, processes, ProgramFolders{}, "/car/Tarnview.ini");
-  program.WriteSettingsTo("/car/Tarnview.ini");
-  program.Start("", false);
-  QWidget& main = host.WindowOf(program.MainWindow())->window();
-  EXPECT_EQ(main.geometry(), QRect(10, 50, 750, 700));
-  QTimer::singleShot(0, [] {
-    QWidget* list = QApplication::activeModalWidget();
-    EXPECT_EQ(list->geometry(), QRect(20, 100, 600, 500));
-    list->resize(620, 510);
-    Settle();
-    list->close();
-  });
-  program.MainWindow().mnuCustomisePresetSample.Do({"click", {}});
-  main.setGeometry(12, 40, 760, 710);
-  Settle();
-  program.MainWindow().Unload();
-  Settle();
-  const std::string& kept = files.files["/car/Tarnview.ini"];
-  for (const char* line :
-       {"\r\nWindow Left=180\r\n", "\r\nWindow Width=11400\r\n",
-        "Maintenance Form Window Left=300\r\n", "Maintenance Form Window Width=9300\r\n"})
-    EXPECT_NE(kept.find(line), std::string::npos) << line;
 }
 
 TEST(WindowPlacementTest, TheBarsBetweenItsPartsStayWhereTheyWereDragged) {
