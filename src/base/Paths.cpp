@@ -66,6 +66,10 @@ std::string PathIn(std::string_view folder, std::string_view name) {
 
 std::string FileTitle(std::string_view path) { return std::string(Title(path)); }
 
+bool IsLegalFileName(std::string_view name) {
+  return name.find_first_of("\"\\/:*?<>|") == std::string_view::npos;
+}
+
 std::string WithoutExtension(std::string_view path) {
   const auto point = Title(path).rfind('.');
   if (point == std::string_view::npos) return std::string(path);

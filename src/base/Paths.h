@@ -18,6 +18,8 @@ std::string AddBackslash(std::string_view path);
 std::string PathIn(std::string_view folder, std::string_view name);
 /// The name without its folder.
 std::string FileTitle(std::string_view path);
+/// No separator and no other character that a file's name cannot have on some desktop.
+bool IsLegalFileName(std::string_view name);
 /// `path` without its last extension and the point before it.
 std::string WithoutExtension(std::string_view path);
 /// At most `length` characters: the middle folders of a long path become "...".

@@ -12,11 +12,6 @@ namespace {
 /// "File not found" of the run-time errors.
 constexpr long kFileNotFound = 53;
 
-bool IsLegalFileName(std::string_view name) {
-  return !name.empty() && name.find_first_of("\"\\/:*?<>|") == name.npos && name != "." &&
-         name != "..";
-}
-
 }  // namespace
 
 Dialog FileExchange::DialogFor(DialogKind kind, const char* title) const {
@@ -28,7 +23,8 @@ Dialog FileExchange::DialogFor(DialogKind kind, const char* title) const {
 
 std::string FileExchange::ProposedFile(std::string_view name) const {
   if (!lastFile_.empty()) return lastFile_;
-  if (!IsLegalFileName(name)) return "";
+  const bool isFolder = name.empty() || name == "." || name == "..";
+  if (isFolder || !IsLegalFileName(name)) return "";
   return PathIn(around_.workingDirectory, std::string(name) + kind_.extension);
 }
 

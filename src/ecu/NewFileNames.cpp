@@ -7,7 +7,6 @@ namespace {
 
 constexpr std::string_view kDigits = "abcdefghijklmnopqrstuvwxyz";
 constexpr int kTries = 500;
-constexpr std::string_view kIllegal = "\\/:*?<>|\"";
 
 }  // namespace
 
@@ -34,10 +33,6 @@ std::string AutoFileNames::Propose(Date today, const IsTaken& isTaken) {
     return name;
   }
   return "";
-}
-
-bool IsLegalFileName(std::string_view name) {
-  return name.find_first_of(kIllegal) == std::string_view::npos;
 }
 
 std::string NameOfType(std::string_view name, std::string_view extension) {

@@ -29,9 +29,6 @@ class AutoFileNames {
   int counter_ = 0;
 };
 
-/// What no file's name may hold.
-bool IsLegalFileName(std::string_view name);
-
 /// The name with the extension of its type, in place of its own or behind it; "" stays "".
 std::string NameOfType(std::string_view name, std::string_view extension);
 

@@ -23,6 +23,12 @@ TEST(Paths, AddTheSeparatorThatTheyUse) {
   EXPECT_EQ(AddBackslash("/home/me/"), "/home/me/");
 }
 
+TEST(Paths, OfFilesHoldLegalCharacters) {
+  for (const char c : std::string("\\/:*?<>|\""))
+    EXPECT_FALSE(IsLegalFileName(std::string("a") + c + "b")) << c;
+  EXPECT_TRUE(IsLegalFileName("My run (2), 98'.5.txt"));
+}
+
 TEST(Paths, AreShortenedInTheMiddle) {
   EXPECT_EQ(ShortPath("/home/me/run.txt"), "/home/me/run.txt");
   EXPECT_EQ(ShortPath("C:\\Program Files\\Logs\\Summer\\run.txt", 25), "C:\\...\\Summer\\run.txt");
