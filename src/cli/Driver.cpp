@@ -116,8 +116,9 @@ void Driver::OpenLogFile(const Words& words) {
   const Globals& globals = program_.Global();
   const clsFileTypes& types = globals.kinds.gcolFileTypes;
   const std::string& path = WordAt(words, 0);
-  int type = types.GuessFileType(path, globals.settings.gintDefaultFileType);
-  if (words.size() > 1) type = StringToLong(words[1]);
+  const int type = words.size() > 1
+                       ? StringToLong(words[1])
+                       : types.GuessFileType(path, globals.settings.gintDefaultFileType);
   nextFile = Answer{Answer::Kind::File, path, 0, types.SequenceFromID(type)};
   program_.MainWindow().mnuFileOpen.Do({"click", {}});
 }

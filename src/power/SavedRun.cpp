@@ -102,8 +102,7 @@ std::vector<SpeedPoint> SpeedsIn(std::vector<SpeedPoint> speed, bool imperial) {
 }
 
 std::optional<double> DragOf(const PowerFile& graph, const Air& air) {
-  std::optional<double> k = SetPointDragOf(graph);
-  if (graph.usesDrag) k = CdDragOf(graph, air);
+  const std::optional<double> k = graph.usesDrag ? CdDragOf(graph, air) : SetPointDragOf(graph);
   if (!k || !std::isfinite(*k) || *k == 0) return std::nullopt;
   return k;
 }
