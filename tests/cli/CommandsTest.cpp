@@ -11,15 +11,18 @@ namespace {
 TEST(CommandLineProgram, TellsOfALog) {
   ExpectRuns(R"(
 load turbo.txt, /title /engine_size /normally_aspirated /zones /changes/1 /samples -> 0 Tarnview - turbo.txt (FM Link Data Log) 1.8 false 256 from 22 to 64 256 from 22 to 64 6988
-load none.txt, /ok /messages -> 1 false [{"id":15,"style":64,"text":"File could not be loaded."}]; message 15: File could not be loaded.
+load none.txt, /ok /messages -> 1 false [{"id":15,"text":"File could not be loaded.","style":64}]; message 15: File could not be loaded.
 load na.txt, /normally_aspirated /messages -> 0 true []
 # a log without zones
 load na.txt --type 3, /normally_aspirated /messages/1/id -> 1 false 12; message 54: That doesn't look like a Tec-2 Data Log file to me. Please ensure correct file type is chosen when opening a file.
 load universal/torque.csv --definition "../data/Universal Data Log Formats/Torque.txt", /file_type /definition /samples -> 0 8 Torque 12
 table na.txt --items 63,1 --from 2 --to 4, all -> 0 Sample,Secs/2,0.164/3,0.246/4,0.328/
 table na.txt --items 63 --raw --to 1, all -> 0 Secs/819/
+load turbo.txt, names -> 0 ok file_type title samples_loaded zones_loaded changes_loaded samples first_sample_time last_sample_time plot_from plot_to first_plot_sample lowest_air_temp tags engine_size chip_date chip_version atmospheric_pressure normally_aspirated zones changes definition messages
+load universal/torque.csv --type auto --summary, names -> 0 ok file_type title samples_loaded zones_loaded changes_loaded samples first_sample_time last_sample_time plot_from plot_to first_plot_sample lowest_air_temp tags engine_size chip_date chip_version atmospheric_pressure normally_aspirated zones changes definition messages taken_as span items
+load universal/torque.csv --type auto --summary --from 3 --to 7, /taken_as /span /plot_from /plot_to /items/0 /items/14 /items/15 -> 0 Universal: by its shape 2.75 3 7 {"id":1,"name":"Sample","long_name":"Sample No.","unit":"","title":"","values":12,"lowest":1,"highest":12} {"id":102,"name":"Longitude","long_name":"Longitude","unit":"","title":"Longitude","values":12,"lowest":-1.2345,"highest":-1.2345} {"id":103,"name":"Latitude","long_name":"Latitude","unit":"","title":"Latitude","values":12,"lowest":51.2345,"highest":51.2345}
 table none.txt -> 1; message 15: File could not be loaded.
-shape universal/torque.csv, /found /score /encoding /delimiter /time /columns/5/name /columns/5/factor -> 0 true 97 UTF-8 comma {"column":"Device Time","form":"DATE","line_frequency":0,"step":0.25} Speed 0.621371192237334
+shape universal/torque.csv, /found /score /encoding /delimiter /time /columns/5/name /columns/5/factor -> 0 true 97 UTF-8 comma {"column":"Device Time","form":"DATE","step":0.25,"line_frequency":0} Speed 0.621371192237334
 )");
 }
 
@@ -38,8 +41,10 @@ zones utec.csv --type 6 --grid knock -> 1; message 16: Problem loading zone sett
 TEST(CommandLineProgram, GraphTellsWhatTheChartReceives) {
   // "Sample" cannot be plotted, and item 47 is no item of this log.
   ExpectRuns(R"(
-graph na.txt --items 1,3,47,20 --json --from 100 --to 1600 --fix-max 72, /from /thin_step /rows /y_axis /messages -> 0 100 3 501 {"divisions":7,"max":70} []
-graph na.txt --items 1,3,47,20 --json --from 100 --to 1600, /y_axis /series/0/item /series/0/x /series/2 -> 0 {"divisions":7,"max":35} 20 501 from 8.192 to 131.072 nothing
+graph na.txt --items 1,3,47,20 --json --from 100 --to 1600 --fix-max 72, /from /thin_step /rows /y_axis /messages -> 0 100 3 501 {"max":70,"divisions":7} []
+graph na.txt --items 1,3,47,20 --json --from 100 --to 1600, /y_axis /series/0/item /series/0/x /series/2 -> 0 {"max":35,"divisions":7} 20 501 from 8.192 to 131.072 nothing
+graph na.txt --json --preset "None such" -> 1; tarnview-cli: this log has no preset graph "None such"
+graph turbo.txt --json --items 3 --quick N, /from /to /rows /thin_step -> 0 1 1000 1000 1
 graph na.txt --items 3 --json --to 60, /series/0/name /series/0/colour /series/0/style /series/0/width /series/0/y -> 0 RPM 4227072 1 3 60 from 0 to 13.52
 )");
 }
@@ -54,6 +59,10 @@ scatter turbo.txt --json --filter 25:7: -> 1; message 42: Value not recognised.
 scatter turbo.txt --json --filter 99:1: -> 1; tarnview-cli: no filter can be on data item 99
 scatter turbo.txt --json --filter 3:1 -> 2; --filter: a filter is ITEM:FROM:TO, a bound may be empty
 scatter turbo.txt --json --x 99 -> 1; tarnview-cli: the axes cannot be data items 99 and 1
+scatter turbo.txt --json --colour-by 99 -> 1; tarnview-cli: the points cannot be coloured by data item 99
+scatter none.txt --json -> 1; message 15: File could not be loaded.
+scatter turbo.txt --json --to 300 --shape 4 --size-of-points 7 --colour 255, names -> 0 filters x_item y_item points messages
+scatter turbo.txt --json --to 30 --density --colour-by 5 --x 3 --y 17, /colour_item /style /points -> 0 nothing nothing 30 from [0,10,1] to [230,10,30]
 scatter turbo.txt --json --preset "None such" -> 1; tarnview-cli: this log has no preset scatter graph "None such"
 scatter turbo.txt --json --size-of-points 11 -> 2; --size-of-points: Value 11 not in range 1 to 10
 )");
@@ -76,7 +85,7 @@ TEST(CommandLineProgram, TellsOfADefinition) {
   ExpectRuns(R"(
 definition -, /ok /messages /name /extension /columns /sample_presets /scatter_presets -> 0 true [] Hydra Nemesis 2.1 (MX-5 Miata) csv 19 6 12
 definition - --full, /columns/18/dblConversionFactor /columns/18/blnMaxValueSet /columns/18/blnMinValueSet -> 0 -0.133333 true false
-definition - --full, /sample_presets/0/colDataItems /scatter_presets/6/objFilters -> 0 [20,5,3,17,37,38] [{"dblFrom":60,"dblTo":100,"lngDataItemSeq":5}]
+definition - --full, /sample_presets/0/colDataItems /scatter_presets/6/objFilters -> 0 [20,5,3,17,37,38] [{"dblTo":100,"dblFrom":60,"lngDataItemSeq":5}]
 definition /no/such/file, /ok /messages/0/id -> 1 false 70; message 70: Error loading data log definition - file not found: /no/such/file
 )");
 }
@@ -107,6 +116,12 @@ load, all -> 2 ; LOG is required
 load a --type 9, all -> 2 ; --type: 9 not in {1,2,3,4,5,6,7,8,auto}
 graph a, all -> 2 ; graph: needs --out or --json
 graph a --out a.bmp, all -> 2 ; --out: a picture's name ends in .png, .svg or .pdf
+graph a --out a.png --size 49x50, all -> 2 ; --size: a size is WIDTHxHEIGHT in pixels, 50 to 20000
+graph a --out a.png --size 50x49, all -> 2 ; --size: a size is WIDTHxHEIGHT in pixels, 50 to 20000
+graph a --out a.png --size 20001x50, all -> 2 ; --size: a size is WIDTHxHEIGHT in pixels, 50 to 20000
+graph a --out a.png --size 50x20001, all -> 2 ; --size: a size is WIDTHxHEIGHT in pixels, 50 to 20000
+graph a --out a.png --size 50x20000, all -> 1 ; message 15: File could not be loaded.
+graph a --out a.png --size 20000x50, all -> 1 ; message 15: File could not be loaded.
 graph a --out a.png --size 1x1, all -> 2 ; --size: a size is WIDTHxHEIGHT in pixels, 50 to 20000
 table na.txt --items abc, all -> 2 ; --items: "abc" is no data item's number; commas stand between them
 table na.txt --items 3;5, all -> 2 ; --items: "3;5" is no data item's number; commas stand between them

@@ -21,6 +21,8 @@ TEST(PowerCommand, EachOptionFillsItsFieldIn) {
 
 TEST(PowerCommand, WhatCannotBeDoneIsTold) {
   ExpectRuns(R"(
+power turbo.txt --json --from 4357 --to 4389 --gear 3, names -> 0 series x_axis y_axis marks peaks speed messages
+power turbo.txt --json --find-runs, /runs/0 -> 0 {"from":3490,"to":3562,"from_rpm":3345.0,"to_rpm":6825.0,"seconds":5.8982}
 power turbo.txt --json --car Nobody's -> 1; tarnview-cli: there is no car definition "Nobody's"
 power turbo.txt --json --car-file none.car -> 1; message 57: Problem loading car definition file.
 power turbo.txt --json --benchmark none.pow, /messages/1/id -> 1 0; message 33: Problem loading power graph benchmark.

@@ -15,7 +15,7 @@
 namespace tarnview {
 
 /// A value of what was printed; of a long list how many there are, the first and the last.
-inline std::string Brief(const nlohmann::json& value) {
+inline std::string Brief(const nlohmann::ordered_json& value) {
   constexpr std::size_t kMostInFull = 16;
   if (value.is_string()) return value.get<std::string>();
   if (!value.is_array() || value.size() <= kMostInFull) return value.dump();
@@ -34,14 +34,17 @@ struct Ran {
   std::string out, err;
 
   /// The status, of the object printed what stands at those places ("/series/0/x", apart by
-  /// blanks; "all" is what was printed as it is), and the first line of what went wrong.
+  /// blanks; "names" of its members; "all" as it is), and the first line of what went wrong.
   std::string Told(const std::string& places) const {
     std::string told = std::to_string(status);
     for (const std::string& place : Split(places, ' ')) {
       if (place == "all") told += " " + OneLine(out);
+      if (place.empty() || place == "all") continue;
+      const auto object = nlohmann::ordered_json::parse(out);
+      if (place == "names")
+        for (const auto& member : object.items()) told += " " + member.key();
       if (!place.starts_with('/')) continue;
-      const auto object = nlohmann::json::parse(out);
-      const nlohmann::json::json_pointer pointer(place);
+      const nlohmann::ordered_json::json_pointer pointer(place);
       told += " " + (object.contains(pointer) ? Brief(object.at(pointer)) : "nothing");
     }
     return told + (err.empty() ? "" : "; " + err.substr(0, err.find('\n')));

@@ -14,11 +14,11 @@ TEST(SettingsCommand, ReadsAsAStartAndWritesAsAnEnd) {
              "[Recently Used Files]\nFile 0=|C:\\a.map\nFile 1=3|C:\\b\xE9.dat\n");
   folder.Put("bad.ini", "no settings");
   ExpectRuns(R"(
-settings in.ini out.ini, /messages /window_placements /recent -> 0 [] {"Speed Graph":{"height":4760,"left":-3,"state":2,"top":0,"width":8970}} ["2|C:\\a.map","3|C:\\bé.dat"]
+settings in.ini out.ini, /messages /window_placements /recent -> 0 [] {"Speed Graph":{"state":2,"left":-3,"top":0,"width":8970,"height":4760}} ["2|C:\\a.map","3|C:\\bé.dat"]
 settings out.ini again.ini -> 0
 settings none.ini lost.ini -> 2; IN.ini: File does not exist: none.ini
 settings bad.ini no/such/folder/out.ini, /messages/0/id /messages/1/id -> 1 0 39; message 0: This is no settings file, so every setting has its default: bad.ini
-settings bad.ini fresh.ini, /messages -> 0 [{"id":0,"style":48,"text":"This is no settings file, so every setting has its default:\r\nbad.ini"}]; message 0: This is no settings file, so every setting has its default: bad.ini
+settings bad.ini fresh.ini, /messages -> 0 [{"id":0,"text":"This is no settings file, so every setting has its default:\r\nbad.ini","style":48}]; message 0: This is no settings file, so every setting has its default: bad.ini
 )",
              folder.path.string());
   EXPECT_EQ(folder.Get("again.ini"), folder.Get("out.ini"));

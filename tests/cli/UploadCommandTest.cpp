@@ -12,7 +12,8 @@ class UploadCommand : public ::testing::Test {
     folder_.Put("own.ini",
                 "[General]\nLog EXE=/link/L.exe\nSerial Com Port=2\nDefault Engine Size=1.8\n"
                 "Default Chip Date=2003-06-09\nDefault Chip Version=2\n"
-                "Default Atmospheric Pressure=98\nUpload Default 1=0\n");
+                "Default Atmospheric Pressure=98\nUpload Default 0=1\nUpload Default 1=0\n"
+                "Upload Default 2=0\nUpload Default 3=1\n");
     folder_.Put("a.map", Map("1.8", " 012"));
     folder_.Put("b.map", Map("1.8", " 013"));
     folder_.Put("c.map", Map("1.6", " 012"));
@@ -45,16 +46,27 @@ TEST_F(UploadCommand, PrintsTheMapAndTheCommandLine) {
     return ran.Told("all");
   };
   ExpectTable(upload, R"(
-a.map --dry-run -> 0  012 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -f TVW.map/
-a.map --dry-run --auto-tune fine_no_idle -> 0  012 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -a fine_no_idle -f TVW.map/
-b.map --dry-run --compare a.map -> 0  013  -1  -1/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -f TVW.map/
-b.map --dry-run --compare c.map -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -f TVW.map/; message 21: The Change Comparison File is from a different ECU chip date and/or engine size. A full upload will take place instead.
-b.map --dry-run --compare none.map -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
-b.map --dry-run --compare "" -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
+a.map --dry-run -> 0  012 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/
+a.map --dry-run --auto-tune fine_no_idle -> 0  012 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -a fine_no_idle -v -f TVW.map/
+b.map --dry-run --compare a.map -> 0  013  -1  -1/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/
+b.map --dry-run --compare c.map -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 21: The Change Comparison File is from a different ECU chip date and/or engine size. A full upload will take place instead.
+b.map --dry-run --compare none.map -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
+b.map --dry-run --compare "" -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
 c.map --dry-run -> 1 ; message 5: Cannot upload Zone Data from a different engine size to your own.
 own.ini --dry-run -> 1 ; message 56: That doesn't look like a FM Link MAP File file to me. Please ensure correct file type is chosen when opening a file.
 a.map -> 2 ; --dry-run is required
 none.map --dry-run -> 2 ; MAP: File does not exist: none.map
+)");
+}
+
+TEST_F(UploadCommand, AMapHasZonesAlone) {
+  const auto run = [&](const TableRow& row) { return Run(row.Text(0)).Told(row.Text(1)); };
+  ExpectTable(run, R"(
+zones a.map --type 2 --json, /chip -> 0 {"engine_size":1.8,"chip_date":"2003-06-09","chip_version":2,"atmospheric_pressure":98}
+zones b.map --type 2 --compare a.map, names -> 0 differences chip_here chip_there
+scatter a.map --type 2 --json, all -> 1 
+graph a.map --type 2 --json, all -> 1 
+table a.map --type 2, all -> 1 
 )");
 }
 
