@@ -10,11 +10,24 @@
 namespace tarnview {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
 constexpr const char* kPath = "/car/Tarnview.ini";
 
+/// The lines that the first text has and the second has not.
+std::vector<std::string> LinesOnlyIn(const std::string& text, const std::string& other) {
+  std::vector<std::string> only;
+  std::string_view rest = text, line;
+  while (TakeLine(rest, line))
+    if (("\n" + other).find("\n" + std::string(line) + "\r") == std::string::npos)
+      only.emplace_back(line);
+  return only;
+}
+
+/// "begin TEXT" starts with those settings, "end" closes; told is what has become of the files
+/// beside the program: one of the texts, or the lines that are new in it.
 class SettingsFileTest : public ProgramFixture {
  protected:
   SettingsFileTest() {
@@ -23,135 +36,130 @@ class SettingsFileTest : public ProgramFixture {
     files.files["/pictures/a\xE9.bmp"] = "picture";
     files.files["/defs/mine.txt"] =
         RealFileSystem().Read(TARNVIEW_DATA "/Universal Data Log Formats/OBDLink.txt").value_or("");
+    for (const char* part : {"mnu", "chk", "lbl", "Range", "sta", "txt", "graph", "edited"})
+      story.PassOver(part);
+    story.Verb("begin", [this](const auto& words) { StartWith(texts.at(words.at(0))); });
+    story.Verb("end", [this](const auto&) { Main().Unload(); });
+    story.Verb("break", [this](const auto&) { files.broken.insert(kPath); });
+    story.Verb("mend", [this](const auto&) { files.broken.clear(); });
+    story.Verb("save", [this](const auto&) { Main().WriteINIFile(); });
+    story.Verb("now", [this](const auto& words) { texts[words.at(0)] = files.files[kPath]; });
+    story.Event("kept", [this] { return Kept(); });
   }
-  void StartWith(const std::string& settings) { StartKeeping(settings, {"/car/", "/data/"}); }
+  void StartWith(const std::string& settings) {
+    StartKeeping(settings, {"/car/", "/data/"});
+    known_[kPath] = settings;
+  }
   std::string Closed() {
     Main().Unload();
     return files.files[kPath];
   }
-  /// What the settings file says on closing, after a start with another.
-  std::string ClosedAfter(const std::string& settings) {
-    StartWith(settings);
-    return Closed();
+
+  std::map<std::string, std::string> texts{{"full", FullSettings()}, {"none", ""}};
+
+ private:
+  std::string Kept() {
+    std::vector<std::string> told;
+    for (const auto& [path, text] : files.files) {
+      std::string& known = known_[path];
+      if (!path.starts_with(kPath) || text == known) continue;
+      std::vector<std::string> lines = LinesOnlyIn(text, known);
+      if (lines.size() > 12) lines = {std::to_string(lines.size()) + " lines"};
+      for (const auto& [name, wanted] : texts)
+        if (text == wanted) lines = {name};
+      told.push_back(FileTitle(path) + ": " + Join(lines, ", "));
+      known = text;
+    }
+    return Join(told, "; ");
   }
+  std::map<std::string, std::string> known_;
 };
 
-TEST_F(SettingsFileTest, AFileWithEveryKeySetComesBackByteForByte) {
-  EXPECT_EQ(ClosedAfter(FullSettings()), FullSettings());
-  EXPECT_EQ(Boxes(), Ids{});
-}
-
-TEST_F(SettingsFileTest, TheDefaultsComeBackByteForByteToo) {
-  StartWith("");
-  EXPECT_TRUE(Main().chkQuickGraph.Value());
-  EXPECT_EQ(Main().Details().CheckedItems(), (std::vector<int>{3, 5, 7, 17, 20, 21, 23, 36}));
-  const std::string written = Closed();
-  EXPECT_EQ(Boxes(), (Ids{}));
-  EXPECT_THAT(written, Not(HasSubstr("Window State")));
+TEST_F(SettingsFileTest, WhatIsWrittenIsReadBackByteForByte) {
+  texts["drawn"] = "[Beyond]\r\nDraw After Opening=Y\r\n";
+  texts["not drawn"] = "[Beyond]\r\nDraw After Opening=N\r\n";
+  EXPECT_STORY(story, R"(
+begin full; end -> wrote Tarnview.ini
+begin none; show chkQuickGraph; end; now defaults -> chkQuickGraph=&Quick Graph, chkQuickGraph checked, wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: defaults
+begin defaults; end -> wrote Tarnview.ini
+# The settings from before a run stay beside; no run of many saves takes their place.
+begin full; type txtYMax 90; save; type txtYMax 100; end -> wrote Tarnview.ini.old Tarnview.ini Tarnview.ini, kept Tarnview.ini: Graph Y Max=100; Tarnview.ini.old: full
+# Minimized is what nobody wants back.
+begin defaults; type cboZoomAmount 7; click chkQuickGraph; click chkFixY; write txtYMax 90; click mnuFileDrawScatter; load /logs/a.txt; end -> [16 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: Quick Graph=0, Fix Graph Max=1, Graph Y Max=90, Scatter Graph Auto Draw=Y, File 0=1|/logs/a.txt; Tarnview.ini.old: defaults
+now changed
+begin changed; show mnuRecentlyUsed(0) chkFixY txtYMax; end -> mnuRecentlyUsed(0)=&1 /logs/a.txt, chkFixY=Fi&x Graph Max, chkFixY checked, txtYMax=90, wrote Tarnview.ini
+# Settings beyond the settled ones stand last, and only where they are not their default.
+begin drawn; end; now beyond -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: beyond; Tarnview.ini.old: drawn
+begin "not drawn"; end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: defaults; Tarnview.ini.old: not drawn
+begin full; disk full; type txtYMax 90; end -> [39 ok], wrote Tarnview.ini.old Tarnview.ini
+disk free
+break; begin full; mend; end -> [The settings file cannot be read. Every setting has its default, and nothing is kept from this run:\n/car/Tarnview.ini ok]
+)");
+  EXPECT_THAT(files.accesses, ::testing::Contains("clear /car/"));
+  EXPECT_TRUE(texts["beyond"].ends_with("\r\n" + texts["drawn"]));
+  EXPECT_THAT(texts["defaults"], Not(HasSubstr("Window State")));
   EXPECT_THAT(
-      written,
+      texts["defaults"],
       HasSubstr("[New Preset Sample Graphs]\r\n[New Preset Scatter Graphs]\r\n[Benchmarks]\r\n"));
   EXPECT_THAT(
-      written,
+      texts["defaults"],
       HasSubstr("[Recently Used Files]\r\n[Recently Used Power Graph Files]\r\n[Data Item"));
-  EXPECT_EQ(ClosedAfter(written), written);
 }
 
-TEST_F(SettingsFileTest, WhatTheWindowShowsIsKept) {
+TEST_F(SettingsFileTest, AWindowsPlaceIsKeptAndAMinimizedOneComesBack) {
   StartWith("");
   Main().Width = 9000;
   Main().Left = 15;
-  Main().WindowState = 1;  // minimized, which nobody wants back
-  Main().cboZoomAmount.Do({"type", {"7"}});
-  Main().chkQuickGraph.Do({"click", {}});
-  Main().chkFixY.Do({"click", {}});
-  Main().txtYMax.Text = "90";
-  Main().mnuFileDrawScatter.Checked = true;
-  Main().Details().SetCheckedItems({3, 20});
-  Main().chkShowCheckedOnly.Do({"click", {}});
-  Main().LoadDataFile("/logs/a.txt", 0);
+  Main().WindowState = 1;
   const std::string written = Closed();
-  for (const char* line :
-       {"Zoom Amount=2", "Quick Graph=0", "Fix Graph Max=1", "Graph Y Max=90",
-        "Scatter Graph Auto Draw=Y", "Checked Data Items=20,3", "Show Checked Only=Y",
-        "File 0=1|/logs/a.txt", "Window State=0", "Window Left=15", "Window Width=9000"})
+  for (const char* line : {"Window State=0", "Window Left=15", "Window Width=9000"})
     EXPECT_THAT(written, HasSubstr("\n" + std::string(line) + "\r\n"));
-  EXPECT_EQ(Said(), "Done");
   StartWith(written);
   EXPECT_EQ(Main().Width, 9000);
-  EXPECT_EQ(Main().mnuRecentlyUsed(0).Tag, "1|/logs/a.txt");
-}
-
-TEST_F(SettingsFileTest, AFullDiskLeavesTheOldFile) {
-  StartWith(FullSettings());
-  EXPECT_THAT(files.accesses, ::testing::Contains("clear /car/"));
-  files.failWrites = true;
-  EXPECT_EQ(Closed(), FullSettings());
-  EXPECT_EQ(Boxes(), (Ids{39}));
 }
 
 TEST_F(SettingsFileTest, WhatIsNoSettingsFileIsKeptBesideAndToldOnce) {
-  std::string kept = "/car/Tarnview.ini.bad";
-  for (const std::string& bad : {std::string("Quick Graph=0\r\n"), std::string("\0\0", 2)}) {
-    host.messages.clear();
-    StartWith(bad);
-    ASSERT_EQ(host.messages.size(), 1u);
-    EXPECT_THAT(host.messages[0].text, HasSubstr("It is kept as:\r\n" + kept));
-    EXPECT_TRUE(Main().chkQuickGraph.Value());
-    EXPECT_THAT(Closed(), HasSubstr("[General]\r\n"));
-    EXPECT_EQ(files.files[kept], bad);
-    StartWith(files.files[kPath]);
-    EXPECT_EQ(host.messages.size(), 1u);
-    kept += "2";  // no later one takes the place of the first
-  }
-  StartWith("\xEF\xBB\xBF[General]\r\nQuick Graph=0\r\n");  // saved by an editor
-  EXPECT_FALSE(Main().chkQuickGraph.Value());
+  texts["bare"] = "Quick Graph=0\r\n";
+  texts["zeros"] = std::string("\0\0", 2);
+  texts["marked"] = "\xEF\xBB\xBF[General]\r\nQuick Graph=0\r\n";
+  texts["damaged"] = FullSettings();
+  texts["damaged"][FullSettings().find("Zoom Amount=30") + 12] = '\0';
+  texts["cut"] = FullSettings().substr(0, FullSettings().find("Graph Y Max=") + 5);
+  EXPECT_STORY(story, R"(
+begin bare; show chkQuickGraph; end; now fresh -> chkQuickGraph=&Quick Graph, chkQuickGraph checked, [This is no settings file, so every setting has its default:\n/car/Tarnview.ini\n\nIt is kept as:\n/car/Tarnview.ini.bad ok], wrote Tarnview.ini.bad Tarnview.ini, kept Tarnview.ini: fresh; Tarnview.ini.bad: bare
+begin fresh; end -> wrote Tarnview.ini
+begin zeros; end -> [The settings file is damaged. What can be read of it holds:\n/car/Tarnview.ini\n\nIt is kept as:\n/car/Tarnview.ini.bad2 ok], wrote Tarnview.ini.bad2 Tarnview.ini, kept Tarnview.ini: fresh; Tarnview.ini.bad2: zeros
+# Saved by an editor.
+begin marked; show chkQuickGraph; end -> chkQuickGraph=&Quick Graph, chkQuickGraph unchecked, wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 943 lines; Tarnview.ini.old: marked
+# Of a damaged file each undamaged key is read.
+begin damaged; show cboZoomAmount; end -> cboZoomAmount list=[2|3|4|5|10|20|30|40|50|100], cboZoomAmount=2, [The settings file is damaged. What can be read of it holds:\n/car/Tarnview.ini\n\nIt is kept as:\n/car/Tarnview.ini.bad3\nThe last good settings are:\n/car/Tarnview.ini.old ok], wrote Tarnview.ini.bad3 Tarnview.ini, kept Tarnview.ini: Zoom Amount=2; Tarnview.ini.bad3: damaged
+begin full; end -> wrote Tarnview.ini
+begin cut; show cboZoomAmount; end -> cboZoomAmount list=[2|3|4|5|10|20|30|40|50|100], cboZoomAmount=30, wrote Tarnview.ini.bad4 Tarnview.ini, kept Tarnview.ini: 913 lines; Tarnview.ini.bad4: cut
+)");
 }
 
-TEST_F(SettingsFileTest, OfADamagedFileEachUndamagedKeyIsRead) {
-  std::string damaged = FullSettings();
-  damaged[damaged.find("Zoom Amount=30") + 12] = '\0';
-  files.files["/car/Tarnview.ini.old"] = "[General]\r\n";
-  StartWith(damaged);
-  ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(
-      host.messages[0].text,
-      "The settings file is damaged. What can be read of it holds:\r\n/car/Tarnview.ini\r\n\r\n"
-      "It is kept as:\r\n/car/Tarnview.ini.bad\r\nThe last good settings "
-      "are:\r\n/car/Tarnview.ini.old");
-  std::string wanted = FullSettings();
-  wanted.replace(wanted.find("Zoom Amount=30"), 14, "Zoom Amount=2");
-  EXPECT_EQ(Closed(), wanted);
-  EXPECT_EQ(files.files["/car/Tarnview.ini.bad"], damaged);
-  EXPECT_EQ(files.files["/car/Tarnview.ini.old"], "[General]\r\n");
-
-  const std::string cut = FullSettings().substr(0, FullSettings().find("Graph Y Max=") + 5);
-  StartWith(cut);
-  EXPECT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(files.files["/car/Tarnview.ini.bad2"], cut);
-  EXPECT_EQ(Main().cboZoomAmount.Text(), "30");
-}
-
-TEST_F(SettingsFileTest, TheSettingsFromBeforeThisRunStayBeside) {
-  StartWith(FullSettings());
-  Closed();
-  EXPECT_FALSE(files.files.contains("/car/Tarnview.ini.old"));
-  StartWith(FullSettings());
-  Main().txtYMax.Text = "90";
-  Main().WriteINIFile();
-  Main().txtYMax.Text = "100";
-  EXPECT_THAT(Closed(), HasSubstr("Graph Y Max=100\r\n"));
-  EXPECT_EQ(files.files["/car/Tarnview.ini.old"], FullSettings());
-}
-
-/// The lines that the first text has and the second has not.
-std::string LinesOnlyIn(const std::string& text, const std::string& other) {
-  std::string only;
-  std::string_view rest = text, line;
-  while (TakeLine(rest, line))
-    if (("\n" + other).find("\n" + std::string(line) + "\r") == std::string::npos)
-      only += std::string(line) + "\n";
-  return only;
+TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsToldAndStays) {
+  files.files["/pipe.png"] = "";
+  files.pipes = {"/pipe.png"};
+  texts["gone"] =
+      "[General]\nAlternative Background Picture=/none.bmp\nDefault Working Directory=/none\n"
+      "Generic Data Log Definition File=/none.txt\n"
+      "[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Data Items=84\n";
+  texts["pipe"] = "[General]\nAlternative Background Picture=/pipe.png\n";
+  story.Fact("paths", [this] {
+    std::string told;
+    for (const char* key : {"Alternative Background Picture", "Default Working Directory",
+                            "Generic Data Log Definition File"})
+      told +=
+          std::string(
+              GetINIValue(ReadINIFileToArray(files.files[kPath]), "General", key).value_or("")) +
+          " ";
+    return told;
+  });
+  EXPECT_STORY(story, R"(
+begin gone; end -> [18 ok], [32 ok], [79 ok], [43 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 949 lines; Tarnview.ini.old: gone, paths=/none.bmp /none /none.txt 
+begin pipe; show fraPicture; end -> fraPicture=, [18 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 944 lines; Tarnview.ini.old: pipe, paths=/pipe.png   
+)");
 }
 
 TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
@@ -173,44 +181,13 @@ TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
   first->Global().gcolCarDefs.Item(1).strName = "Ours";
   first->MainWindow().WriteINIFile();
   const std::string both = files.files[kPath];
-  EXPECT_EQ(LinesOnlyIn(both, theirs), "Zoom Amount=5\nName Car Def 1=Ours\n");
-  EXPECT_EQ(LinesOnlyIn(theirs, both), "Zoom Amount=4\nName Car Def 1=Mine\n");
+  EXPECT_THAT(LinesOnlyIn(both, theirs), ElementsAre("Zoom Amount=5", "Name Car Def 1=Ours"));
+  EXPECT_THAT(LinesOnlyIn(theirs, both), ElementsAre("Zoom Amount=4", "Name Car Def 1=Mine"));
 
   // What came from the other is no change of this one's own.
   files.files[kPath].replace(both.find("Graph Y Max=90"), 14, "Graph Y Max=80");
   first->MainWindow().WriteINIFile();
-  EXPECT_EQ(LinesOnlyIn(files.files[kPath], both), "Graph Y Max=80\n");
-}
-
-TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
-  files.broken.insert(kPath);
-  StartWith(FullSettings());
-  ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_THAT(host.messages[0].text, HasSubstr("cannot be read"));
-  files.broken.clear();
-  EXPECT_EQ(Closed(), FullSettings());
-}
-
-TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsTold) {
-  StartWith(
-      "[General]\nAlternative Background Picture=/none.bmp\nDefault Working Directory=/none\n"
-      "Generic Data Log Definition File=/none.txt\n"
-      "[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Data Items=84\n");
-  EXPECT_EQ(Boxes(), (Ids{18, 32, 79, 43}));
-  const std::string written = Closed();
-  for (const char* line :
-       {"Alternative Background Picture=/none.bmp", "Default Working Directory=/none",
-        "Generic Data Log Definition File=/none.txt"})
-    EXPECT_THAT(written, HasSubstr(std::string(line) + "\r\n"));
-}
-
-TEST_F(SettingsFileTest, APictureThatIsNoFileIsNeverOpened) {
-  files.files["/pipe.png"] = "";
-  files.pipes = {"/pipe.png"};
-  StartWith("[General]\nAlternative Background Picture=/pipe.png\n");
-  EXPECT_EQ(Boxes(), (Ids{18}));
-  EXPECT_EQ(Main().fraPicture.BackgroundPicture(), "");
-  EXPECT_THAT(Closed(), HasSubstr("Alternative Background Picture=/pipe.png\r\n"));
+  EXPECT_THAT(LinesOnlyIn(files.files[kPath], both), ElementsAre("Graph Y Max=80"));
 }
 
 TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
@@ -281,14 +258,6 @@ TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
     EXPECT_EQ(item.lngLineStyle, builtIn.lngLineStyle);
     EXPECT_NE(builtIn.lngColour, kOfBuiltInDefinition);
   }
-}
-
-TEST_F(SettingsFileTest, SettingsBeyondTheSettledOnesStandLastAndOnlyWhereTheyAreNotTheirDefault) {
-  const std::string drawn = "[Beyond]\r\nDraw After Opening=Y\r\n";
-  EXPECT_TRUE(ClosedAfter(drawn).ends_with("\r\n" + drawn));
-  EXPECT_TRUE(Set().beyond.drawAfterOpening);
-  EXPECT_THAT(ClosedAfter("[Beyond]\r\nDraw After Opening=N\r\n"), Not(HasSubstr("Beyond")));
-  EXPECT_FALSE(Set().beyond.drawAfterOpening);
 }
 
 TEST_F(SettingsFileTest, TheCommandLineKeepsNothing) {
