@@ -13,6 +13,9 @@ using Lines = std::vector<std::string>;
 LoadOutcome Loud(std::string_view bytes, const LoadContext& context) {
   return LoadFMLinkLog(bytes, context, false);
 }
+LoadOutcome Quiet(std::string_view bytes, const LoadContext& context) {
+  return LoadFMLinkLog(bytes, context, true);
+}
 LoadedLog Loaded(std::string_view text, const Settings& settings = {}) {
   return LoadedLog(Loud, text, settings);
 }
@@ -30,9 +33,9 @@ std::string Log(Lines samples, const Lines& zones = {}, const Lines& behind = {}
   lines.insert(lines.end(), behind.begin(), behind.end());
   return JoinLines(lines);
 }
-Lines Samples(int count) {
+Lines Samples(int count, int first = 1) {
   Lines lines;
-  for (int i = 1; i <= count; ++i)
+  for (int i = first; i < first + count; ++i)
     lines.push_back(Placed(57, {{1, std::to_string(i)}, {9, "3000"}, {16, "100"}}));
   return lines;
 }
@@ -108,47 +111,76 @@ std::string Chip(const LoadedZones& zones) {
          std::to_string(zones.intAtmosphericPressure) + " kPa";
 }
 
-/// Behind "Sample": so many samples, then pieces by their names, and lines as they stand.
-TEST(FMLinkLog, WhatComesOfPartsOfALog) {
+/// Behind "Sample": samples, pieces by their names, and lines as they stand; "quietly", "plot from
+/// 70" and "99 kPa without a word" are how it is read.
+std::string TellOfParts(const TableRow& row) {
   const std::map<std::string, std::string> pieces = Pieces();
-  const auto tell = [&](const TableRow& row) {
-    std::string text = "Sample\r\n" + JoinLines(Samples(row.Int(0)));
-    for (std::size_t n = 1; n < row.Count(); ++n) {
-      const auto piece = pieces.find(row.Text(n));
-      text += piece == pieces.end() ? row.Text(n) + "\r\n" : piece->second;
+  std::string text = "Sample\r\n";
+  Settings settings;
+  LoadedLog::Loader load = Loud;
+  int samples = 0;
+  for (std::size_t n = 0; n < row.Count(); ++n) {
+    const std::string& word = row.Text(n);
+    if (word.ends_with(" samples")) {
+      const int more = row.Int(n);
+      text += JoinLines(Samples(more, samples + 1));
+      samples += more;
+    } else if (word == "quietly") {
+      load = Quiet;
+    } else if (word.starts_with("plot from ")) {
+      settings.gintPlotFromTemperature = StringToLong(word.substr(10));
+    } else if (word.ends_with(" without a word")) {
+      settings.gblnSilentDefaults = true;
+      settings.gintDefaultAtmosphericPressure = row.Int(n);
+    } else {
+      const auto piece = pieces.find(word);
+      text += piece == pieces.end() ? word + "\r\n" : piece->second;
     }
-    const LoadedLog loaded = Loaded(text);
-    const std::string outcome = loaded.Outcome();
-    return loaded.log.gblnZonesLoaded ? outcome + ", " + Chip(loaded.log.zones) : outcome;
-  };
+  }
+  const LoadedLog loaded(load, text, settings);
+  std::string told = loaded.Outcome();
+  for (int n = 1; n <= loaded.log.gcolLogTags.Count(); ++n)
+    told += ", tag " + std::to_string(loaded.log.gcolLogTags.Item(n).FromSequence) + "-" +
+            std::to_string(loaded.log.gcolLogTags.Item(n).ToSequence);
+  return loaded.log.gblnZonesLoaded ? told + ", " + Chip(loaded.log.zones) : told;
+}
+
+TEST(FMLinkLog, WhatComesOfPartsOfALog) {
   EXPECT_EQ(Loaded("").Outcome(), "nothing, says 52");
   EXPECT_EQ(Loaded("SAMPLE\n").Outcome(), "nothing, says 52");
   EXPECT_EQ(Loaded("Sample").Outcome(), "nothing, says 16");
-  ExpectTable(tell, R"(
-0 -> nothing, says 16
-0, NUL bytes -> nothing, says 16
-0, a long line -> nothing, says 16
-3, map -> samples, says 16
-3, map, heading -> samples, says 16
-3, map, heading, zones, settings, no changes -> samples, says 16
-3, map, unknown zones, settings, no changes -> samples, says 16
-3, map, zones of 99999, settings, no changes -> samples, says 16
-3, map, 17 zones in the last row, settings, no changes -> samples, says 16
-3, map, a long line of zones -> samples, says 16
-2, map, zones, settings, no changes -> zones changes, 1.8 v2 2001-09-18 101 kPa
-3, map, zones, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
-3, map, zones, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
-3, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa
-3, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa
-3, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
-3, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
+  ExpectTable(TellOfParts, R"(
+0 samples -> nothing, says 16
+0 samples, NUL bytes -> nothing, says 16
+0 samples, a long line -> nothing, says 16
+3 samples, map -> samples, says 16
+3 samples, map, heading -> samples, says 16
+3 samples, map, heading, zones, settings, no changes -> samples, says 16
+3 samples, map, unknown zones, settings, no changes -> samples, says 16
+3 samples, map, zones of 99999, settings, no changes -> samples, says 16
+3 samples, map, 17 zones in the last row, settings, no changes -> samples, says 16
+3 samples, map, a long line of zones -> samples, says 16
+2 samples, map, zones, settings, no changes -> zones changes, 1.8 v2 2001-09-18 101 kPa
+3 samples, map, zones, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
+3 samples, map, zones, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
+3 samples, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa
+3 samples, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa
+3 samples, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
+3 samples, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
 # The line of settings; of two, the last one counts.
-3, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa
-3, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
-3, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa
-3, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
-3, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa
-3, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa
+3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa
+3 samples, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
+3 samples, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa
+3 samples, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
+3 samples, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa
+3 samples, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa
+# Zones that are not known whole, or without their chip, use the defaults, and say so unless told not to.
+quietly, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 75 kPa
+99 kPa without a word, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 99 kPa
+# It plots from the first sample as warm as that, by summaries alone; a tag that is open ends with the log.
+plot from 70, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, plots from 3, says 16
+plot from 80, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, says 16
+*1.8, 2 samples, *1.8, 2 samples -> samples, plots from 0, says 16, tag 1-4
 )");
 }
 
@@ -185,43 +217,6 @@ TEST(FMLinkLog, ChangesKeepTheZonesOwnValues) {
                                                {224, 24}, {225, 7}, {240, 40}};
   for (const auto& [zone, value] : cells) EXPECT_EQ(zones.changes[zone], value) << zone;
   EXPECT_EQ(zones.original, zones.zones);
-}
-
-TEST(FMLinkLog, DefaultsAreSilentWhereAsked) {
-  const std::string text = Log(Samples(3), kZones, {kNoChanges});
-  const auto silent = [](std::string_view bytes, const LoadContext& context) {
-    return LoadFMLinkLog(bytes, context, true);
-  };
-  EXPECT_EQ(LoadedLog(silent, text).Outcome(), "samples zones changes");
-  Settings settings;
-  settings.gblnSilentDefaults = true;
-  settings.gintDefaultAtmosphericPressure = 99;
-  const LoadedLog loaded = Loaded(text, settings);
-  EXPECT_EQ(loaded.Outcome(), "samples zones changes");
-  EXPECT_EQ(loaded.log.zones.intAtmosphericPressure, 99);
-}
-
-TEST(FMLinkLog, FirstPlotSampleComesFromSummariesAlone) {
-  Settings settings;
-  settings.gintPlotFromTemperature = 70;
-  Lines samples = Samples(8);
-  samples.insert(samples.begin() + 5, Placed(54, {{2, "1.8"}, {17, " 80"}}));
-  samples.insert(samples.begin() + 1, Placed(54, {{2, "1.8"}, {17, " 60"}}));
-  const LoadedLog loaded = Loaded(Log(samples), settings);
-  EXPECT_EQ(loaded.Cells(kCTemp), "60 60 65 70 75 80 80 80");
-  EXPECT_EQ(loaded.log.glngFirstPlotSample, 3);
-  settings.gintPlotFromTemperature = 80;
-  EXPECT_EQ(Loaded(Log(samples), settings).log.glngFirstPlotSample, -1);
-}
-
-TEST(FMLinkLog, AnOpenTagEndsWithTheLog) {
-  Lines samples = Samples(4);
-  samples.insert(samples.begin() + 2, "*1.8");
-  samples.insert(samples.begin(), "*1.8");
-  const LoadedLog loaded = Loaded(Log(samples));
-  ASSERT_EQ(loaded.log.gcolLogTags.Count(), 1);
-  EXPECT_EQ(loaded.log.gcolLogTags.Item(1).FromSequence, 1);
-  EXPECT_EQ(loaded.log.gcolLogTags.Item(1).ToSequence, 4);
 }
 
 TEST(FMLinkLog, LineEndsAreCRLFOrLFOrNone) {
