@@ -78,6 +78,7 @@ TEST(FieldColumn, ReadsEachTextOnce) {
     if (rest[0] == '1') block.Clear();
     block.Add(rest.substr(0, rest.find('\n')));
   }
+  EXPECT_EQ(block.MostFields(), 2u);
   BlockOf<std::string> texts;
   int asked = 0;
   const auto read = [&](std::size_t field) {

@@ -88,15 +88,19 @@ TEST(NumberColumn, ANumberBeyond32BitsIsStoredAs0) {
   EXPECT_EQ(cells[0], 0);
 }
 
+/// What stands before a field must not count.
+void SetKeys(const std::vector<std::string>& fields, FieldKey* keys) {
+  for (const std::string& field : fields)
+    *keys++ = KeyOfField(("5.599999" + field).data() + 8 + field.size(), field.size() + 1);
+}
+
 #ifdef __x86_64__
 TEST(PlainNumbers, ReadsTheSameInRegistersOfAnyWidth) {
   std::mt19937 random(23);
   for (int n = 0; n < 20000; ++n) {
     FieldKey keys[FieldIndex::kMostLines] = {};
     const std::vector<std::string> fields = Column(random);
-    for (std::size_t at = 0; at < fields.size(); ++at)
-      keys[at] = KeyOfField((std::string(8, ',') + fields[at]).data() + 8 + fields[at].size(),
-                            fields[at].size() + 1);
+    SetKeys(fields, keys);
     std::int32_t digits[FieldIndex::kMostLines] = {}, inSteps[FieldIndex::kMostLines] = {};
     const PlainNumbers plain(keys[0], keys[fields.size() - 1]);
     const auto wanted = ~std::uint64_t{0} >> (64 - fields.size());
@@ -111,9 +115,7 @@ TEST(PlainNumbers, ReadsTheSameInRegistersOfAnyWidth) {
 TEST(PlainNumbers, PlainOnesTakeTheQuickestRoad) {
   const auto others = [](const std::vector<std::string>& fields) {
     FieldKey keys[PlainNumbers::kAtOnce] = {};
-    for (std::size_t at = 0; at < fields.size(); ++at)
-      keys[at] = KeyOfField(("5.599999" + fields[at]).data() + 8 + fields[at].size(),
-                            fields[at].size() + 1);
+    SetKeys(fields, keys);
     std::int32_t digits[PlainNumbers::kAtOnce];
     return PlainNumbers(keys[0], keys[fields.size() - 1]).Read(keys, fields.size(), digits) &
            ((1u << fields.size()) - 1);

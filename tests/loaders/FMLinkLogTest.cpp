@@ -168,6 +168,7 @@ TEST(FMLinkLog, WhatComesOfPartsOfALog) {
 3 samples, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
 3 samples, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
 # The line of settings; of two, the last one counts.
+3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01    , no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa
 3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa
 3 samples, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
 3 samples, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa

@@ -58,23 +58,6 @@ TEST(LinkPlusLog, OfTwoColumnsForOneItemTheLaterCounts) {
   EXPECT_EQ(loaded.Cells(kRPM), "20 0 30");
 }
 
-TEST(LinkPlusLog, BadInputsAndWhatTheyTell) {
-  const std::string heading = "Count\tRPM\n";
-  ExpectBad(LoadLinkPlusLog,
-            {
-                // clang-format off
-                {"empty", "", "nothing, says 53"},
-                {"five lines without a heading", "\n\n\n\n\n", "nothing, says 53"},
-                {"the heading in the seventh line", Repeated(Repeated("", "", 6) + heading, "1\t2", 9), "nothing, says 53"},
-                {"another first word", Repeated("Counts\tRPM\n", "1\t2", 9), "nothing, says 53"},
-                {"heading alone", heading, "nothing"},
-                {"too few fields", Repeated(heading, "1", 9), "nothing"},
-                {"empty lines under one column", Repeated("Count\n", "", 9), "nothing"},
-                {"a long line", heading + std::string(10'000'000, '1'), "nothing"},
-                // clang-format on
-            });
-}
-
 TEST(LinkPlusLog, TheHeadingMayStandInTheSixthLineAndBeLong) {
   std::string heading = Repeated("", "", 5) + "Count", line = "7";
   for (int column = 0; column < 10000; ++column)

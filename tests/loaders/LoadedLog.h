@@ -69,7 +69,11 @@ struct LoadedLog {
   struct Progress : LoadProgress {
     std::vector<std::string> stages;
     std::vector<long> lines;
-    void Stage(std::string_view text, long = 0) override { stages.emplace_back(text); }
+    long expected = 0;  ///< rows
+    void Stage(std::string_view text, long rows) override {
+      stages.emplace_back(text);
+      expected = std::max(expected, rows);
+    }
     void Line(long line) override { lines.push_back(line); }
   };
 
@@ -104,17 +108,6 @@ inline std::string Repeated(std::string text, std::string_view line, int count) 
   text.reserve(text.size() + (line.size() + 1) * static_cast<std::size_t>(count));
   while (count-- > 0) text.append(line).append("\n");
   return text;
-}
-
-/// A file that is no log, or not enough of one, and what came of it.
-struct BadLog {
-  const char* what;
-  std::string text;
-  const char* outcome;
-};
-inline void ExpectBad(LoadedLog::Loader load, const std::vector<BadLog>& logs) {
-  for (const BadLog& bad : logs)
-    EXPECT_EQ(LoadedLog(load, bad.text).Outcome(), bad.outcome) << bad.what;
 }
 
 }  // namespace tarnview

@@ -27,22 +27,6 @@ Sample   RPM   MAP  Inj W  Inj %   TPS  Knock  IAdv  Volt  C Temp  A Temp    A/F
 )");
 }
 
-TEST(Tec2Log, BadInputsAndWhatTheyTell) {
-  ExpectBad(LoadTec2Log,
-            {
-                {"empty", "", "nothing, says 54"},
-                {"one line", "SECONDS", "nothing, says 54"},
-                {"seconds in small letters", "\nSeconds\n" + kLine, "nothing, says 54"},
-                {"no third line", kHeading, "nothing, says 54"},
-                {"a short third line", std::string(kHeading) + "         ", "nothing, says 54"},
-                {"no blank at 9", std::string(kHeading) + "123456789012", "nothing, says 54"},
-                {"no point at all", std::string(kHeading) + std::string(98, ' '), "nothing"},
-                {"lines of 97", Repeated(kHeading, kLine.substr(0, 97), 9), "nothing"},
-                {"NUL bytes", std::string(200, '\0'), "nothing, says 54"},
-                {"a long line", kHeading + std::string(10'000'000, ' '), "nothing"},
-            });
-}
-
 TEST(Tec2Log, ThePointIsAskedForOnlyOnceAndMayStandInTheFirstLine) {
   std::string noPoint = kLine;
   noPoint[5] = ' ';

@@ -32,17 +32,6 @@ AD1  AD2  AD3  AD4  GPO2  GFG  SIA  KNR    Secs  Fuel% M
 )");
 }
 
-TEST(Tec3Log, BadInputsAndWhatTheyTell) {
-  const std::string heading = "\nSECONDS\n", line = "    12.34 " + std::string(146, ' ');
-  ExpectBad(LoadTec3Log, {
-                             {"empty", "", "nothing, says 55"},
-                             {"no seconds", "\n SECONDS\n" + line, "nothing, says 55"},
-                             {"a short third line", heading + "          ", "nothing, says 55"},
-                             {"no blank at 10", heading + "    12.345 ", "nothing, says 55"},
-                             {"lines of 157", Repeated(heading, line + " ", 9), "nothing"},
-                         });
-}
-
 TEST(Tec3Log, TheFirstSampleIsNeverCured) {
   const std::string line = "   000.00 " + std::string(146, ' ');
   Settings settings;

@@ -40,7 +40,7 @@ RPM,MAP,MAP,AFR,BOOST,WG,KNOCK
 3250,8.5,142,1470,45.5,66.5,3
 850,-8.5,12,n/a,0,133,0
 850,-3.625,12,12.5,0,133,0
-850,-3.6,12,900,7,0,0
+850,-3.6,12,9.5,7,0,0
 )")
                  .Told(),
              R"(samples, plots from 0
@@ -48,26 +48,8 @@ Sample   RPM   MAP  WG%  Knock    A/F  Boost  Vacuum    CR  Secs  Fuel% M  MAP D
      1  3250  1586   50      3  14700    121       0  1000  2000     1000    142
      2   850   414  100      0      0      0      99  1000  4000     1000     12
      3   850   750  100      0    125      0       0  1000  6000     1000     12
-     4   850   752    0      0   9000      0       0  1000  8000     1000     12
+     4   850   752    0      0     95      0       0  1000  8000     1000     12
 )");
-}
-
-TEST(UTECCSVLog, BadInputsAndWhatTheyTell) {
-  const std::string two = "RPM,MAP,AFR\n,,\n";
-  ExpectBad(
-      LoadUTECCSVLog,
-      {
-          // clang-format off
-                                {"empty", "", "nothing, says 59"},
-                                {"no line of three cells", "a,b\nc\n\n", "nothing, says 59"},
-                                {"cut in the heading", "RPM,MAP,AFR\n,,", "nothing, says 59"},
-                                {"a second row of two cells", Repeated("RPM,MAP,AFR\n,\n", "1,2,3", 9), "nothing, says 59"},
-                                {"a second row of four", Repeated("RPM,MAP,AFR\n,,,\n", "1,2,3", 9), "nothing, says 59"},
-                                {"a third row of two", Repeated(two, "1,2", 9), "nothing, says 59"},
-                                {"too few cells", Repeated(two + "1,2,3\n", "1,2", 9), "nothing, plots from 0"},
-                                {"a long line", two + "1,2,3\n" + std::string(10'000'000, '1'), "nothing, plots from 0"},
-          // clang-format on
-      });
 }
 
 }  // namespace

@@ -120,18 +120,5 @@ TEST(UTECFixedLog, LinesMayDifferFromTheHeadingByTwoCharacters) {
   EXPECT_EQ(LoadedLog(LoadUTECFixedLog, text).log.glngDataLog.Rows(), 3);
 }
 
-TEST(UTECFixedLog, BadInputsAndWhatTheyTell) {
-  ExpectBad(LoadUTECFixedLog,
-            {
-                // clang-format off
-                                  {"empty", "", "nothing, says 60"},
-                                  {"no heading", Repeated("", "SECONDS", 9), "nothing, says 60"},
-                                  {"heading alone", kHeading, "nothing, says 60"},
-                                  {"heading on line 31", Repeated("", "comment", 30) + kHeading + "\n\n" + kLine, "nothing, says 60"},
-                                  {"a long line", kHeading + "\n\n" + std::string(10'000'000, '1'), "nothing"},
-                // clang-format on
-            });
-}
-
 }  // namespace
 }  // namespace tarnview
