@@ -52,7 +52,7 @@ std::string Told(const MapReading& reading) {
                      DateText(reading.map.chip.datChipDate) + " v" +
                      std::to_string(reading.map.chip.intChipVersion) + " " +
                      std::to_string(reading.map.intAtmosphericPressure) + " kPa '" +
-                     reading.map.strNotes + "'";
+                     Join(SplitAt(reading.map.strNotes, "\r\n"), "|") + "'";
   if (!reading.error.empty()) text += " [" + reading.error + "]";
   for (const auto message : reading.messages)
     text += " " + std::to_string(static_cast<int>(message));
@@ -105,7 +105,7 @@ summer
   expected.zones[255] = -1;
   const MapReading reading = ParseMap(bytes, Own(), false);
   EXPECT_EQ(reading.map, expected);
-  EXPECT_EQ(Told(reading), "1.8 2001-03-02 v2 85 kPa 'Street,\r\nsummer'");
+  EXPECT_EQ(Told(reading), "1.8 2001-03-02 v2 85 kPa 'Street,|summer'");
 }
 
 TEST(MapFile, LastLineOfZonesByDateAndTheNotesOfNone) {
@@ -122,37 +122,38 @@ TEST(MapFile, LastLineOfZonesByDateAndTheNotesOfNone) {
 }
 
 TEST(MapFile, WhatOtherFilesHold) {
+  // lines, "15x" for 15 lines of zones
+  ExpectTable(
+      [](const TableRow& row) {
+        std::string text;
+        for (const std::string& line : SplitAt(row.All(), "; "))
+          text += line.ends_with("x") && StringToLong(line) > 0 ? Lines(StringToLong(line))
+                                                                : line + "\n";
+        return Told(text);
+      },
+      R"(
+Sample -> none
+ -> none
+14x -> none
+15x -> 1.8 2001-09-18 v3 99 kPa '' 7 8 9
+banner; ; 16x -> 1.8 2001-09-18 v3 99 kPa '' 7 8 9
+# The rest is not read.
+17x; 15x -> 1.8 2001-09-18 v3 99 kPa '' [9, Subscript out of range] 7 8 9
+# A gap of other text ends the zones.
+14x; x; 1x -> none
+# The trailer in any order, without a gap.
+15x;  Atmospheric Pressure: 101;  Chip Version: 1;  Notes:; a;  End Of Notes;  Chip Date: X18-Sep-02; else;  Engine Size: 1.6 -> 1.6 2002-09-18 v1 101 kPa 'a'
+# Fields that do not parse, or are none.
+15x;  Engine Size: 1.7;  Chip Date: 2000-01-01;  Atmospheric: 5 -> 1.8 2000-01-01 v3 99 kPa '' 7 9
+15x;  Engine Size: 1.6;  Chip Date: 2003-01-01;  Chip Version: 1;  Chip Version: 9 -> 1.6 2003-01-01 v2 99 kPa '' 9
+15x;  Engine Size: x;  Chip Date: x;  Chip Version: x -> 1.8 2001-09-18 v3 99 kPa '' 7 8 9
+15x;  Atmospheric Pressure: 40000;  Engine Size: 1.6 -> 1.8 2001-09-18 v3 99 kPa '' [6, Overflow] 7 8 9
+# Notes with an empty first line, and one with more behind its colon.
+15x;  Engine Size: 1.6;  Chip Date: 2003-01-01;  Chip Version: 1;  Notes:; ; ; a; ; b -> 1.6 2003-01-01 v1 99 kPa 'a||b' 9
+15x;  Engine Size: 1.6;  Chip Date: 2003-01-01;  Chip Version: 1;  Notes: x; a -> 1.6 2003-01-01 v1 99 kPa '' 9
+)");
   const std::string user = "1.8 2001-09-18 v3 99 kPa ''";
-  const std::string whole =
-      Lines(15) + " Engine Size: 1.6\n Chip Date: 2003-01-01\n Chip Version: 1\n";
-  const struct {
-    const char* what;
-    std::string text, told;
-  } cases[] = {
-      // clang-format off
-      {"no line of zones", "Sample\n", "none"},
-      {"nothing", "", "none"},
-      {"14 lines", Lines(14), "none"},
-      {"15 lines", Lines(15), user + " 7 8 9"},
-      {"16 lines", "banner\n\n" + Lines(16), user + " 7 8 9"},
-      {"the last line has no end", Lines(15).substr(0, 65 * 15 - 1), user + " 7 8 9"},
-      {"17 lines: the rest is not read", Lines(17) + whole, user + " [9, Subscript out of range] 7 8 9"},
-      {"a gap of other text ends the zones", Lines(14) + "x\n" + Lines(1), "none"},
-      {"trailer in any order, without a gap",
-       Lines(15) + " Atmospheric Pressure: 101\n Chip Version: 1\n"
-                   " Notes:\na\n End Of Notes\n Chip Date: X18-Sep-02\nelse\n Engine Size: 1.6",
-       "1.6 2002-09-18 v1 101 kPa 'a'"},
-      {"engine size that is none", Lines(15) + " Engine Size: 1.7\n Chip Date: 2000-01-01\n Atmospheric: 5\n",
-       "1.8 2000-01-01 v3 99 kPa '' 7 9"},
-      {"chip version that is none", whole + " Chip Version: 9\n", "1.6 2003-01-01 v2 99 kPa '' 9"},
-      {"fields that do not parse", Lines(15) + " Engine Size: x\n Chip Date: x\n Chip Version: x\n", user + " 7 8 9"},
-      {"pressure beyond 16 bits ends it", Lines(15) + " Atmospheric Pressure: 40000\n Engine Size: 1.6\n",
-       user + " [6, Overflow] 7 8 9"},
-      {"empty first line of notes", whole + " Notes:\n\n\na\n\nb\n", "1.6 2003-01-01 v1 99 kPa 'a\r\n\r\nb' 9"},
-      {"notes line that is longer", whole + " Notes: x\na\n", "1.6 2003-01-01 v1 99 kPa '' 9"},
-      // clang-format on
-  };
-  for (const auto& c : cases) EXPECT_EQ(Told(c.text), c.told) << c.what;
+  EXPECT_EQ(Told(Lines(15).substr(0, 65 * 15 - 1)), user + " 7 8 9") << "no end of the last line";
   EXPECT_EQ(Told(Lines(15), true), user);
   Settings silent = Own();
   silent.gblnSilentDefaults = true;

@@ -133,10 +133,10 @@ TEST(ZoneSheet, EachBoxHasItsBit) {
     }
     told += "\n";
   }
-  EXPECT_EQ(told,
-            "0:z5^8 1:z800^1 3:z810^1 4:z800^16 5:z5^4 6:z800^8 7:z800^2 8:z5^64 \n"
-            "0:z5^8 1:z800^1 4:z800^8 5:z5^4 8:z5^64 \n"
-            "1:z800^1 2:z5^64 5:z5^4 9:z5^16 \n");
+  ExpectTold(told, R"(0:z5^8 1:z800^1 3:z810^1 4:z800^16 5:z5^4 6:z800^8 7:z800^2 8:z5^64 
+0:z5^8 1:z800^1 4:z800^8 5:z5^4 8:z5^64 
+1:z800^1 2:z5^64 5:z5^4 9:z5^16 
+)");
 }
 
 /// What is in range and has its boxes comes back as it was, whatever the numbers.
@@ -162,33 +162,31 @@ TEST(ZoneSheet, MapsComeBackWhole) {
   }
 }
 
-TEST(ZoneSheet, WhatCannotBeShownDoesNotComeBack) {
-  ZoneMap map = MapWith(kNew18, 2);
-  map.zones[4] = 90;
-  map.zones[243] = 200;
-  map.zones[10] = -1;
-  map.zones[3] = 255;
-  const ZoneSheet sheet = OpenSheet(map);
-  EXPECT_EQ(FieldText(sheet, 3), "OFF");
-  const ZoneMap after = Rebuild(sheet, map);
-  EXPECT_EQ(after.zones[4], 80);
-  EXPECT_EQ(after.zones[243], 159);
-  EXPECT_EQ(after.zones[10], 255);
-  EXPECT_EQ(after.zones[3], 255);
-}
-
-TEST(ZoneSheet, PrimeFactorFollowsMasterFuelOnChipVersion2Alone) {
-  EXPECT_EQ(RangeText(WithField(OpenSheet(MapWith(kMid18, 2)), 1, "140"), 227), "000/093");
-  EXPECT_EQ(RangeText(WithField(OpenSheet(MapWith(kNew18, 2)), 1, "140"), 227), "");
-  EXPECT_EQ(Forced(WithField(OpenSheet(MapWith(kMid18, 2)), 1, "140"), 227, 200), 93);
-}
-
-TEST(ZoneSheet, UnitOfTheBoostTargetsByTheirMean) {
-  ZoneMap map = MapWith(kNew18, 2);
-  EXPECT_TRUE(OpenSheet(map).boostTargets);
-  map.zones[239] = 99;
-  EXPECT_FALSE(OpenSheet(map).boostTargets);
-  EXPECT_EQ(RangeText(OpenSheet(map), 229), "000/099");
+/// Out of range, off, and what one number does to another one's range: the prime factor follows
+/// master fuel on chip version 2, the boost targets' unit their mean.
+TEST(ZoneSheet, NumbersInTheirRanges) {
+  // chip, zone, raw; the zone that is looked at
+  ExpectTable(
+      [](const TableRow& row) {
+        ZoneMap map = MapWith(Chip(row.Text(0)), 2);
+        map.zones.at(static_cast<std::size_t>(row.Int(1))) = static_cast<std::int16_t>(row.Int(2));
+        const ZoneSheet sheet = OpenSheet(map);
+        const int zone = row.Int(3);
+        return FieldText(sheet, zone) + " of " + RangeText(sheet, zone) + ", raw " +
+               std::to_string(Rebuild(sheet, map).zones[static_cast<std::size_t>(zone)]) +
+               ", 200 as " + std::to_string(Forced(sheet, zone, 200)) +
+               (sheet.boostTargets ? "" : ", Pct");
+      },
+      R"(
+1.8 2005-02-10 3, 4, 90, 4 -> 80 of 025/080, raw 80, 200 as 80
+1.8 2005-02-10 3, 243, 200, 243 -> 9937 of 0/9937, raw 159, 200 as 200
+1.8 2005-02-10 3, 10, -1, 10 -> -1 of -128/127, raw 255, 200 as 127
+1.8 2005-02-10 3, 3, 255, 3 -> OFF of 000/255, raw 255, 200 as 200
+1.8 2002-06-10 2, 1, 140, 227 -> 100 of 000/093, raw 100, 200 as 93
+1.8 2005-02-10 3, 1, 140, 227 -> 100 of , raw 100, 200 as 200
+1.8 2005-02-10 3, 239, 100, 229 -> 100 of 100/255, raw 100, 200 as 200
+1.8 2005-02-10 3, 239, 99, 229 -> 100 of 000/099, raw 100, 200 as 99, Pct
+)");
 }
 
 }  // namespace

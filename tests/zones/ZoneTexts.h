@@ -3,7 +3,10 @@
 #include <string>
 
 #include "base/Dates.h"
+#include "zones/ZoneFlags.h"
 #include "zones/ZoneMap.h"
+#include "zones/ZoneNames.h"
+#include "zones/ZoneSheet.h"
 
 namespace tarnview {
 
@@ -22,6 +25,32 @@ inline ZoneMap MapWith(const ChipIdentity& chip, int flags, int more = 0, int zo
   map.zones[5] = static_cast<std::int16_t>(flags);
   map.zones[240] = static_cast<std::int16_t>(more);
   return map;
+}
+
+/// "z33 100>250 +9 sensor NB": what an edit changed, ticks by number; of many cells how many, and
+/// the first.
+inline std::string Changes(const ZoneSheet& before, const ZoneSheet& after) {
+  std::string told, cells;
+  int count = 0;
+  for (int zone = 0; zone < 256; ++zone) {
+    if (before.Shown(zone) == after.Shown(zone)) continue;
+    const bool inGrid = zone >= 32 && zone < 224;
+    count += inGrid;
+    (inGrid ? cells : told) +=
+        ZoneName(zone) + " " + FieldText(before, zone) + ">" + FieldText(after, zone) + " ";
+  }
+  if (count > 20)
+    cells = std::to_string(count) + " cells such as " + cells.substr(0, cells.find(" z") + 1);
+  told += cells;
+  for (int i = 0; i < kTicks; ++i)
+    if (before.Ticked(Tick{i}) != after.Ticked(Tick{i}))
+      told += (after.Ticked(Tick{i}) ? "+" : "-") + std::to_string(i) + " ";
+  if (before.autoTuneType != after.autoTuneType) told += "type '" + after.autoTuneType + "' ";
+  if (before.O2Sensor != after.O2Sensor) told += "sensor " + after.O2Sensor + " ";
+  if (before.boostTargets != after.boostTargets) told += after.boostTargets ? "kPa " : "Pct ";
+  if (before.chip != after.chip) told += "chip ";
+  if (before.intAtmosphericPressure != after.intAtmosphericPressure) told += "pressure ";
+  return told.empty() ? told : told.substr(0, told.size() - 1);
 }
 
 }  // namespace tarnview
