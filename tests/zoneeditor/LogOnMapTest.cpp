@@ -1,156 +1,143 @@
-#include <gtest/gtest.h>
-
-#include <sstream>
-
 #include "model/Catalogue.h"
 #include "model/Column.h"
+#include "support/Table.h"
 #include "zoneeditor/LogOnMap.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
-/// A log of a normally aspirated car.
-class LogOnMapTest : public testing::Test {
- protected:
-  LogOnMapTest() { Begin(true); }
-  void Begin(bool sixRows) {
+/// A log of samples, ratios in thousandths, MAP in tenths of kPa. "10x 2000 300 15400 14000 7" are
+/// ten at 2000 RPM with air/fuel ratio, target and, at the second of them, knock.
+class Drive {
+ public:
+  explicit Drive(bool sixRows, const std::string& samples = "") {
     log.Clear(catalogue.gcolFixedDataItems, 100);
     log.zones.gblnZoneLayout6 = sixRows;
-  }
-  /// `count` samples; the ratios in thousandths, MAP in tenths of kPa.
-  void Drive(int count, int RPM, int MAP, int airFuel = 0, int target = 0, int knock = 0) {
-    for (int i = 0; i < count; ++i) {
-      const int row = log.glngDataLog.AddRow();
-      log.glngDataLog.Set(kRPM, row, RPM);
-      log.glngDataLog.Set(kMAP, row, MAP);
-      log.glngDataLog.Set(kAF, row, airFuel);
-      log.glngDataLog.Set(kAFTgt, row, target);
-      log.glngDataLog.Set(kKnock, row, i == 1 ? knock : 1);
-    }
+    for (const std::string& part : SplitAt(samples, "; ")) Add(part);
   }
   LogOnMap Read() const { return ReadLogOnMap(log, WholeLog(log)); }
-  /// "row,column" of each cell with samples.
-  std::string Cells() const {
-    const LogOnMap drive = Read();
-    std::string cells;
-    for (int row = 1; row <= 6; ++row)
-      for (int column = 1; column <= 16; ++column)
-        if (drive.At(row, column).samples > 0)
-          cells += std::to_string(row) + "," + std::to_string(column) + " ";
-    return cells;
-  }
 
   const Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
+
+ private:
+  void Add(const std::string& part) {
+    std::vector<std::string> words = Split(part, ' ');
+    words.resize(6, "0");
+    for (int i = 0; i < StringToLong(words[0].substr(0, words[0].find('x'))); ++i) {
+      const int row = log.glngDataLog.AddRow();
+      std::size_t word = 1;
+      for (const Column item : {kRPM, kMAP, kAF, kAFTgt})
+        log.glngDataLog.Set(item, row, StringToLong(words[word++]));
+      log.glngDataLog.Set(kKnock, row, i == 1 ? StringToLong(words[5]) : 1);
+      log.glngDataLog.Set(kSample, row, row + 5);
+    }
+    log.glngLastSample = log.glngDataLog.Rows() - 1;
+    log.glngFirstSampleTime = 5;
+    log.glngLastSampleTime = log.glngLastSample + 5;
+  }
 };
 
-TEST_F(LogOnMapTest, ASampleCountsForTheNearestCell) {
-  const struct {
-    bool sixRows;
-    int RPM, MAP;
-    const char* cells;
-  } kSamples[] = {
-      // clang-format off
-      {true, 0, 0, "1,1 "},       {true, 499, 364, "1,1 "},    {true, 500, 366, "2,2 "},   {true, 999, 499, "2,2 "},
-      {true, 1000, 500, "3,3 "},  {true, 7499, 629, "3,15 "},  {true, 7500, 630, "4,16 "}, {true, 99999, 764, "4,16 "},
-      {true, 500, 766, "5,2 "},   {true, 500, 899, "5,2 "},    {true, 500, 900, "6,2 "},   {true, -9, 99999, "6,1 "},
-      {false, 500, 0, "1,2 "},    {false, 500, 399, "1,2 "},   {false, 500, 400, "2,2 "},  {false, 500, 1999, "5,2 "},
-      {false, 500, 2000, "6,2 "}, {false, 500, 65000, "6,2 "},
-      // clang-format on
-  };
-  for (const auto& sample : kSamples) {
-    Begin(sample.sixRows);
-    Drive(1, sample.RPM, sample.MAP);
-    EXPECT_EQ(Cells(), sample.cells) << sample.RPM << " at " << sample.MAP;
-  }
-  Begin(false);
-  Drive(1, 3200, 800);
-  EXPECT_EQ(PlaceOf(log, 0), (PlaceOnMap{2.5, 6.9}));
+TEST(LogOnMap, ASampleCountsForTheNearestCell) {
+  // normally aspirated; RPM and MAP
+  ExpectTable(
+      [](const TableRow& row) {
+        const Drive drive(row.Yes(0), "1x " + row.Text(1));
+        std::string cells;
+        for (int n = 0; n < kGridRows * kGridColumns; ++n)
+          if (drive.Read().At(n / 16 + 1, n % 16 + 1).samples > 0)
+            cells += std::to_string(n / 16 + 1) + "," + std::to_string(n % 16 + 1) + " ";
+        const PlaceOnMap place = PlaceOf(drive.log, 0);
+        return cells + "at " + FixedText(place.row, 3) + "," + FixedText(place.column, 2);
+      },
+      R"(
+yes, 0 0 -> 1,1 at 1.000,1.00 | yes, 499 364 -> 1,1 at 1.492,1.50 | yes, 500 366 -> 2,2 at 1.508,1.50 | yes, 999 499 -> 2,2 at 2.492,2.50 | yes, 1000 500 -> 3,3 at 2.500,2.50 | yes, 7499 629 -> 3,15 at 3.492,15.50
+yes, 7500 630 -> 4,16 at 3.500,15.50 | yes, 99999 764 -> 4,16 at 4.492,16.00 | yes, 500 766 -> 5,2 at 4.508,1.50 | yes, 500 899 -> 5,2 at 5.492,1.50 | yes, 500 900 -> 6,2 at 5.500,1.50 | yes, -9 99999 -> 6,1 at 6.000,1.00
+no, 500 0 -> 1,2 at 1.000,1.50 | no, 500 399 -> 1,2 at 1.498,1.50 | no, 500 400 -> 2,2 at 1.500,1.50 | no, 500 1999 -> 5,2 at 5.498,1.50 | no, 500 2000 -> 6,2 at 5.500,1.50 | no, 500 65000 -> 6,2 at 5.975,1.50 | no, 3200 800 -> 3,7 at 2.500,6.90
+)");
 }
 
-TEST_F(LogOnMapTest, FewSamplesSayNothingAndNeverZero) {
-  Drive(9, 1000, 300, 14700, 14700, 5);
-  Drive(10, 2000, 300, 14000, 14000, 7);
-  Drive(10, 3000, 300, 15400, 14000, 0);
-  Drive(10, 4000, 300, 13300, 14000);
-  Drive(9, 5000, 300, 13300, 14000);
-  Drive(5, 5000, 300);
-  const LogOnMap drive = Read();
-  const auto texts = [&](int column) {
-    return drive.Text(GridShow::Nothing, 1, column) + "|" +
-           drive.Text(GridShow::Visits, 1, column) + "|" + drive.Text(GridShow::Error, 1, column) +
-           "|" + drive.Text(GridShow::Knock, 1, column) + "|" + drive.ToolTip(1, column);
-  };
-  EXPECT_EQ(texts(2), "||||No samples");
-  EXPECT_EQ(texts(3), "||||9 samples");
-  EXPECT_EQ(texts(5), "|10|0.0|7|10 samples, air/fuel 0.0 %, knock up to 7");
-  EXPECT_EQ(texts(7), "|10|+10.0|1|10 samples, air/fuel +10.0 %, knock up to 1");
-  EXPECT_EQ(texts(9), "|10|-5.0|1|10 samples, air/fuel -5.0 %, knock up to 1");
-  EXPECT_EQ(texts(11), "|14||1|14 samples, knock up to 1") << "nine of them have a ratio";
+/// Few samples say nothing; the error is of those that have a ratio.
+TEST(LogOnMap, WhatACellSays) {
+  ExpectTable(
+      [](const TableRow& row) {
+        const LogOnMap drive = Drive(true, row.All()).Read();
+        std::string told;
+        for (const GridShow show :
+             {GridShow::Nothing, GridShow::Visits, GridShow::Error, GridShow::Knock})
+          told += drive.Text(show, 1, 5) + "|";
+        return told + drive.ToolTip(1, 5);
+      },
+      R"(
+10x 3000 300 15400 14000 -> ||||No samples
+9x 2000 300 14700 14700 5 -> ||||9 samples
+10x 2000 300 14000 14000 7 -> |10|0.0|7|10 samples, air/fuel 0.0 %, knock up to 7
+10x 2000 300 15400 14000 0 -> |10|+10.0|1|10 samples, air/fuel +10.0 %, knock up to 1
+10x 2000 300 13300 14000 1 -> |10|-5.0|1|10 samples, air/fuel -5.0 %, knock up to 1
+9x 2000 300 13300 14000 1; 5x 2000 300 -> |14||1|14 samples, knock up to 1
+)");
 }
 
-TEST_F(LogOnMapTest, TheSensorThatTheEcuTunesByIsBelieved) {
-  Drive(10, 2000, 300, 15400, 14000);
-  log.zones.chip = {1.8, MakeDate(2004, 5, 8), 3};
-  const auto error = [&](int flags) {
-    log.zones.zones[5] = static_cast<std::int16_t>(flags);
-    return Read().Text(GridShow::Error, 1, 5);
-  };
-  EXPECT_EQ(error(16), "+10.0") << "no wide band sensor was logged";
-  for (int row = 0; row < 10; ++row) log.glngDataLog.Set(kAuxCF, row, 14700);
-  EXPECT_EQ(error(0) + error(16) + error(24), "+10.0+5.0+5.0");
+TEST(LogOnMap, TheSensorThatTheEcuTunesByIsBelieved) {
+  // z5; the ratio of the wide band sensor, 0 where none was logged
+  ExpectTable(
+      [](const TableRow& row) {
+        Drive drive(true, "10x 2000 300 15400 14000");
+        drive.log.zones.chip = {1.8, MakeDate(2004, 5, 8), 3};
+        drive.log.zones.zones[5] = static_cast<std::int16_t>(row.Int(0));
+        for (int sample = 0; sample < 10 && row.Int(1) > 0; ++sample)
+          drive.log.glngDataLog.Set(kAuxCF, sample, row.Int(1));
+        return drive.Read().Text(GridShow::Error, 1, 5);
+      },
+      "16, 0 -> +10.0 | 0, 14700 -> +10.0 | 16, 14700 -> +5.0 | 24, 14700 -> +5.0");
 }
 
-TEST_F(LogOnMapTest, ARangeOfSampleNumbersEndsWithTheLog) {
-  EXPECT_EQ(RangeOfSamples(log, 1, 9), DrivenRange());
-  Drive(10, 2000, 300);
-  for (int row = 0; row < 10; ++row) log.glngDataLog.Set(kSample, row, row + 5);
-  log.glngLastSample = 9;
-  log.glngFirstSampleTime = 5;
-  log.glngLastSampleTime = 14;
-  EXPECT_EQ(RangeOfSamples(log, 6, 8), (DrivenRange{1, 3}));
-  EXPECT_EQ(RangeOfSamples(log, -99, std::int64_t{1} << 40), WholeLog(log));
+TEST(LogOnMap, ARangeOfSampleNumbersEndsWithTheLog) {
+  EXPECT_EQ(RangeOfSamples(Drive(true).log, 1, 9), DrivenRange());
+  // Sample numbers, of a log from 5 to 14
+  ExpectTable(
+      [](const TableRow& row) {
+        const Drive drive(true, "10x 2000 300");
+        const DrivenRange range =
+            RangeOfSamples(drive.log, std::stoll(row.Text(0)), std::stoll(row.Text(1)));
+        return std::to_string(range.first) + " to " + std::to_string(range.last);
+      },
+      "6, 8 -> 1 to 3 | 5, 14 -> 0 to 9 | -99, 1099511627776 -> 0 to 9 | 4, 15 -> 0 to 9");
 }
 
-TEST_F(LogOnMapTest, TheNextSampleInACellGoesRound) {
-  Drive(2, 1000, 300);
-  Drive(2, 2000, 300);
-  Drive(1, 1000, 300);
-  const struct {
-    int first, last, after, next;
-  } kSteps[] = {{0, 4, -1, 0}, {0, 4, 0, 1},  {0, 4, 1, 4},  {0, 4, 4, 0},
-                {1, 3, -1, 1}, {1, 3, 1, 1},  {0, 99, 4, 0}, {-5, 0, 0, 0},
-                {2, 3, 2, -1}, {3, 2, 0, -1}, {0, 4, 99, 0}};
-  for (const auto& step : kSteps)
-    EXPECT_EQ(NextInCell(log, {step.first, step.last}, 1, 3, step.after), step.next) << step.after;
-  EXPECT_EQ(ReadLogOnMap(log, {1, 2}).At(1, 3).samples, 1);
-  EXPECT_EQ(ReadLogOnMap(log, {-9, 99}).At(1, 3).samples, 3);
+TEST(LogOnMap, TheNextSampleInACellGoesRound) {
+  // range, sample; the next one in the cell, and how many it has in the range
+  ExpectTable(
+      [](const TableRow& row) {
+        const Drive drive(true, "2x 1000 300; 2x 2000 300; 1x 1000 300");
+        const DrivenRange range{row.Int(0), row.Int(1)};
+        return std::to_string(NextInCell(drive.log, range, 1, 3, row.Int(2))) + " of " +
+               std::to_string(ReadLogOnMap(drive.log, range).At(1, 3).samples);
+      },
+      R"(
+0, 4, -1 -> 0 of 3 | 0, 4, 0 -> 1 of 3 | 0, 4, 1 -> 4 of 3 | 0, 4, 4 -> 0 of 3 | 1, 3, -1 -> 1 of 1 | 1, 3, 1 -> 1 of 1 | 0, 99, 4 -> 0 of 3
+-5, 0, 0 -> 0 of 1 | 2, 3, 2 -> -1 of 0 | 3, 2, 0 -> -1 of 0 | 0, 4, 99 -> 0 of 3 | 1, 2, 0 -> 1 of 1 | -9, 99, 0 -> 1 of 3
+)");
 }
 
-TEST_F(LogOnMapTest, LeanCellsAreProposedMoreFuelInSmallSteps) {
-  ZoneSheet sheet;
-  sheet.normallyAspirated = true;
-  for (int zone = 32; zone < 128; ++zone) sheet.Shown(zone) = 100;
-  sheet.Shown(ZoneCell(ZoneGrid::Fuel, 0, 10)) = 254;
-  Drive(30, 1000, 300, 14560, 14000);  // 4 % lean
-  Drive(30, 2000, 300, 15400, 14000);  // 10 % lean
-  Drive(30, 3000, 300, 12000, 14000);  // rich
-  Drive(29, 4000, 300, 15400, 14000);
-  Drive(30, 5000, 300, 15400, 14000);
-  const FuelProposal proposal = Propose(Read(), sheet);
-  std::string changes;
-  for (int column = 1; column <= 16; ++column)
-    changes += std::to_string(proposal.At(1, column)) + " ";
-  EXPECT_EQ(changes, "0 0 4 0 5 0 -5 0 0 0 1 0 0 0 0 0 ");
-  const ZoneSheet after = WithProposal(sheet, proposal);
-  EXPECT_EQ(after.Shown(ZoneCell(ZoneGrid::Fuel, 0, 2)), 104);
-  EXPECT_EQ(after.Shown(ZoneCell(ZoneGrid::Fuel, 0, 10)), 255);
-  EXPECT_EQ(after.Shown(ZoneCell(ZoneGrid::Fuel, 0, 8)), 100);
-  EXPECT_EQ(sheet.Shown(ZoneCell(ZoneGrid::Fuel, 0, 2)), 100) << "nothing is applied by itself";
-  Drive(30, 0, 960, 15400, 14000);
-  EXPECT_EQ(Propose(Read(), sheet).At(6, 1), 5);
-  sheet.normallyAspirated = false;
-  EXPECT_EQ(Propose(Read(), sheet).At(6, 1), 0) << "blacked out on a turbo chip";
+/// Small steps of cells with many samples, never beyond a byte, none where a cell is no zone.
+TEST(LogOnMap, LeanCellsAreProposedMoreFuelInSmallSteps) {
+  // normally aspirated; samples, of a map of 100 with 254 at 5000 RPM
+  ExpectTable(
+      [](const TableRow& row) {
+        ZoneSheet sheet;
+        sheet.normallyAspirated = row.Yes(0);
+        for (int zone = 32; zone < 128; ++zone) sheet.Shown(zone) = 100;
+        sheet.Shown(ZoneCell(ZoneGrid::Fuel, 0, 10)) = 254;
+        const FuelProposal proposal = Propose(Drive(true, row.Text(1)).Read(), sheet);
+        return std::to_string(proposal.Cells()) + ": " +
+               Changes(sheet, WithProposal(sheet, proposal));
+      },
+      R"(
+yes, 30x 1000 300 14560 14000; 30x 2000 300 15400 14000; 30x 3000 300 12000 14000; 29x 4000 300 15400 14000 -> 3: z34 100>104 z36 100>105 z38 100>95
+yes, 30x 5000 300 15400 14000 -> 1: z42 254>255 | yes, 30x 0 960 15400 14000 -> 1: z112 100>105 | no, 30x 0 960 15400 14000 -> 0: 
+)");
 }
 
 }  // namespace
