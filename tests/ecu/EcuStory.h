@@ -16,6 +16,7 @@
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
+#include "support/Table.h"
 #include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
 #include "zones/MapFile.h"
@@ -91,6 +92,9 @@ class EcuStory : private RecordingHost,
     verbs_["user"] = [this](const std::string& line) {
       users_[line.substr(0, line.find(' '))] = SplitAt(line.substr(line.find(' ') + 1), " then ");
     };
+    verbs_["zones"] = [this](const std::string&) {
+      users_["frmNewDownload"] = {"type txtFileName run, click radFileType(1), click cmdOK"};
+    };
     verbs_["L"] = [this](const std::string& does) { writes_['l'] = Split(does, ' '); };
     verbs_["C"] = [this](const std::string& does) { writes_['m'] = Split(does, ' '); };
     verbs_["exits"] = [this](const std::string& code) { exitCodes.push_back(std::stoi(code)); };
@@ -157,14 +161,6 @@ class EcuStory : private RecordingHost,
   }
   static double Size(const std::string& chip) { return std::stod(chip); }
   static Date Day(const std::string& chip) { return StringToDate(chip.substr(4), kNoDate); }
-  static Texts SplitAt(const std::string& text, const std::string& sign) {
-    Texts parts;
-    for (std::size_t from = 0, to = 0; to != std::string::npos; from = to + sign.size()) {
-      to = text.find(sign, from);
-      parts.push_back(text.substr(from, to - from));
-    }
-    return parts;
-  }
 
   /// "show NAME" among what the user does tells what a control holds, and "<" where it has the
   /// focus; "tips" tells the tool tips.
@@ -253,15 +249,16 @@ class EcuStory : private RecordingHost,
   Upload upload_{world_, *this};
 };
 
-/// A story and what it told.
-struct Told {
-  const char* steps;
-  const char* told;
-};
+/// All that a story told as one line of a table.
+inline std::string InOneLine(const std::string& told) {
+  return Join(SplitAt(Join(SplitAt(told, " | "), "; "), "\r\n"), "\\n");
+}
 
-template <class Rows>
-void ExpectStories(const Rows& rows) {
-  for (const Told& row : rows) EXPECT_EQ(EcuStory().Do(row.steps), row.told) << row.steps;
+/// Each line a story from its start: steps, " -> ", what they told.
+inline void ExpectStories(const std::string& table, const char* source = __builtin_FILE(),
+                          int line = __builtin_LINE()) {
+  ExpectTable([](const TableRow& row) { return InOneLine(EcuStory().Do(row.All())); }, table,
+              source, line);
 }
 
 }  // namespace tarnview
