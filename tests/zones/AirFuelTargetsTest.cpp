@@ -8,17 +8,20 @@ namespace tarnview {
 namespace {
 
 TEST(AutoTune, TypeByFlagsAndDate) {
-  // z5, z800, chip
+  // z5, z800, chip; the type, and which ones there are to choose
   ExpectTable(
       [](const TableRow& row) {
         const ChipIdentity chip = Chip(row.Text(2));
-        return RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate, chip.intChipVersion,
-                                    MapWith(chip, row.Int(0), row.Int(1)).zones);
+        std::string told(RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate,
+                                              chip.intChipVersion,
+                                              MapWith(chip, row.Int(0), row.Int(1)).zones));
+        for (const std::string_view type : AutoTuneTypes(chip)) told += "/" + std::string(type);
+        return told;
       },
       R"(
-128, 0, 1.8 2010-01-01 2 -> Off | 1, 0, 1.8 2010-01-01 2 -> Lambda | 129, 4, 1.8 2004-09-02 2 -> L3
-129, 0, 1.8 2004-09-02 2 -> L3+L4 | 129, 0, 1.8 2004-09-01 2 -> L3 | 129, 4, 1.8 2003-03-01 3 -> L3+L4
-129, 0, 1.8 2000-06-21 1 -> L3 | 129, 0, 1.8 2000-06-20 1 -> Lambda | 129, 4, 1.8 no date... 0 -> L3
+128, 0, 1.8 2010-01-01 2 -> Off/Off/Lambda/L3/L3+L4 | 1, 0, 1.8 2010-01-01 2 -> Lambda/Off/Lambda/L3/L3+L4 | 129, 4, 1.8 2004-09-02 2 -> L3/Off/Lambda/L3/L3+L4
+129, 0, 1.8 2004-09-02 2 -> L3+L4/Off/Lambda/L3/L3+L4 | 129, 0, 1.8 2004-09-01 2 -> L3/Off/Lambda/L3 | 129, 4, 1.8 2003-03-01 3 -> L3+L4/Off/Lambda/L3+L4
+129, 0, 1.8 2000-06-21 1 -> L3/Off/Lambda/L3 | 129, 0, 1.8 2000-06-20 1 -> Lambda/Off/Lambda | 129, 4, 1.8 no date... 0 -> L3/Off/Lambda/L3/L3+L4
 )");
 }
 
