@@ -44,14 +44,15 @@ TEST(CommandLines, AreTheProgramAndItsOptionsInTheirOrder) {
 
 TEST(ExitCodes, HaveTheirTexts) {
   ExpectTable([](const TableRow& row) { return ExitCodeText(row.Int(0)); }, R"(
-0 -> Normal exit., 0 | -1 -> Stop/Resume log data output command NAK'd., -1 | -18 -> Response to Modify command for map file loadtimed out., -18 | -25 -> Zone map verification failed., -25 | -39 -> Unrecognized response to Test communications readiness command for Reload., -39 | 1 -> Unknown Error, 1 | -119 -> Unknown Error, -119 | -40 -> Unknown Error, -40 | -38 -> Unknown Error, -38 | -4 -> Unknown Error, -4 | -5 -> Unknown Error, -5 | -6 -> Unknown Error, -6
+0 -> Normal exit., 0 | -1 -> Stop/Resume log data output command NAK'd., -1 | -2 -> Response to Stop/Resume log data output command timed out., -2 | -3 -> Unrecognized response to Stop/Resume log data output command., -3 | -4 -> Unknown Error, -4 | -5 -> Unknown Error, -5
+-6 -> Unknown Error, -6 | -7 -> Store command NAK'd., -7 | -8 -> Response to Store command timed out., -8 | -9 -> Unrecognized response to Store command., -9 | -10 -> Response to Test communications readiness command for Store timed out., -10 | -11 -> Unrecognized response to Test communications readiness command for Store., -11
+-12 -> Error writing to data log output file., -12 | -13 -> Error writing to zone map output file., -13 | -14 -> Error opening zone map input file., -14 | -15 -> RZONE mismatch loading zone map input file., -15 | -16 -> RDATA mismatch loading zone map input file., -16 | -17 -> Modify command for map file load NAK'd., -17
+-18 -> Response to Modify command for map file loadtimed out., -18 | -19 -> Unrecognized response to Modify command for map file load., -19 | -20 -> Error reading zone map input file., -20 | -21 -> Command line option error., -21 | -22 -> Error opening comm port., -22 | -23 -> Error opening data log output file., -23
+-24 -> Error opening zone map output file., -24 | -25 -> Zone map verification failed., -25 | -26 -> Zone map load aborted because engine was running., -26 | -27 -> Invalid autotune mode specified., -27 | -28 -> Autotune command NAK'd., -28 | -29 -> Response to Autotune command timed out., -29
+-30 -> Unrecognized response to Autotune command., -30 | -31 -> Default map load aborted because engine was running., -31 | -32 -> Invalid default map specified., -32 | -33 -> Response to Modify command for Reload timed out., -33 | -34 -> Unrecognized response to Modify command for Reload., -34 | -35 -> Reload command NAK'd., -35
+-36 -> Response to Reload command timed out., -36 | -37 -> Unrecognized response to Reload command., -37 | -38 -> Unknown Error, -38 | -39 -> Unrecognized response to Test communications readiness command for Reload., -39 | -40 -> Unknown Error, -40 | 1 -> Unknown Error, 1
+-119 -> Unknown Error, -119
 )");
-  std::set<std::string> texts;
-  for (int code = -40; code <= 0; ++code) {
-    const std::string text = ExitCodeText(code);
-    texts.insert(text.substr(0, text.rfind(',')));
-  }
-  EXPECT_EQ(texts.size(), 37u) << "of 41 codes five share the one of what is not known";
 }
 
 TEST(NewFileNames, CountInLettersUpToFiveHundred) {

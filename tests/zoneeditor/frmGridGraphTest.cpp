@@ -4,6 +4,7 @@
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "support/Story.h"
+#include "support/Table.h"
 #include "ui/RecordingHost.h"
 #include "zoneeditor/frmGridGraph.h"
 
@@ -124,58 +125,59 @@ TEST(GridGraphTable, TextsOfEachGrid) {
     told += GraphKind(grid) + "; " + GraphSource(grid, "Mine") + "; " +
             std::to_string(start.rotation) + "," + std::to_string(start.elevation) + "\n";
   }
-  EXPECT_EQ(told,
-            " Fuel Zone Graph; This Data Log; 1,2\n"
-            " Fuel Zone Graph; Benchmark Mine; 1,2\n"
-            " Fuel Zone Graph; Comparison with Benchmark Mine; 1,2\n"
-            " Ignition Zone Graph; This Data Log; 3,4\n"
-            " Ignition Zone Graph; Benchmark Mine; 3,4\n"
-            " Ignition Zone Graph; Comparison with Benchmark Mine; 3,4\n");
+  ExpectTold("\n" + told, R"(
+ Fuel Zone Graph; This Data Log; 1,2
+ Fuel Zone Graph; Benchmark Mine; 1,2
+ Fuel Zone Graph; Comparison with Benchmark Mine; 1,2
+ Ignition Zone Graph; This Data Log; 3,4
+ Ignition Zone Graph; Benchmark Mine; 3,4
+ Ignition Zone Graph; Comparison with Benchmark Mine; 3,4
+)");
   std::string rows;
   for (bool normallyAspirated : {true, false})
     for (int row = 1; row <= 6; ++row) rows += GraphRowLabel(normallyAspirated, row) + "; ";
-  EXPECT_EQ(rows,
-            "0kPa 100; 34kPa 200; 48kPa 300; 61kPa 400; 74kPa 500; 88kPa 600; "
-            "0kPa 100; 40kPa 200; 80kPa 300; 120kPa 400; 160kPa 500; 200kPa 600; ");
+  ExpectTold(
+      rows,
+      R"(0kPa 100; 34kPa 200; 48kPa 300; 61kPa 400; 74kPa 500; 88kPa 600; 0kPa 100; 40kPa 200; 80kPa 300; 120kPa 400; 160kPa 500; 200kPa 600; )");
 }
 
 TEST(GridGraphTable, HeightsStandOnRoundNumbers) {
-  const struct {
-    std::vector<double> values;
-    double min, max;
-    int divisions;
-  } kAxes[] = {{{0, 0}, 0, 1, 1},    {{60, 255}, 50, 300, 5}, {{3, 9}, 3, 9, 6},
-               {{-7, 5}, -10, 5, 3}, {{12, 12}, 12, 13, 1},   {{-32768, 32767}, -40000, 40000, 4}};
-  for (const auto& row : kAxes) {
-    const ChartAxis axis = HeightAxis(row.values);
-    EXPECT_EQ(axis.min, row.min) << row.values[1];
-    EXPECT_EQ(axis.max, row.max) << row.values[1];
-    EXPECT_EQ(axis.divisions, row.divisions) << row.values[1];
-  }
+  ExpectTable(
+      [](const TableRow& row) {
+        const ChartAxis axis = HeightAxis({row.Number(0), row.Number(1)});
+        return NumberText(axis.min) + " to " + NumberText(axis.max) + " in " +
+               std::to_string(axis.divisions);
+      },
+      R"(
+0, 0 -> 0 to 1 in 1 | 60, 255 -> 50 to 300 in 5 | 3, 9 -> 3 to 9 in 6 | -7, 5 -> -10 to 5 in 3 | 12, 12 -> 12 to 13 in 1 | -32768, 32767 -> -40000 to 40000 in 4
+)");
 }
 
-/// Of row 6, fuel leaves out two columns and ignition one: kept on purpose.
+/// Of row 6, fuel leaves out two columns and ignition one: kept on purpose. What was not edited
+/// stays, whatever its range.
 TEST(GridGraphTable, ComesBackButForTheLastRowsFirstCells) {
-  for (bool normallyAspirated : {true, false})
-    for (ZoneGrid grid : {ZoneGrid::Fuel, ZoneGrid::Ignition}) {
-      ZoneSheet sheet;
-      sheet.normallyAspirated = normallyAspirated;
-      sheet.Shown(ZoneCell(grid, 0, 0)) = 250;
-      GridGraphTable before;
-      for (auto& row : before.texts) row.fill("10");
-      before.Text(1, 1) = "250";
-      GridGraphTable after = before;
-      for (int column = 1; column <= 4; ++column)
-        after.Text(6, column) = std::to_string(20 + column);
-      const ZoneSheet result = WithGraphTable(sheet, grid, before, after);
-      std::string last;
-      for (int column = 0; column < 4; ++column)
-        last += std::to_string(result.Shown(ZoneCell(grid, 5, column))) + " ";
-      const bool second = normallyAspirated && grid == ZoneGrid::Ignition;
-      EXPECT_EQ(last, second ? "0 22 23 24 " : "0 0 23 24 ");
-      EXPECT_EQ(result.Shown(ZoneCell(grid, 0, 0)), 250)
-          << "what was not edited stays, whatever its range";
-    }
+  // normally aspirated, ignition
+  ExpectTable(
+      [](const TableRow& row) {
+        const ZoneGrid grid{row.Yes(1) ? ZoneGrid::Ignition : ZoneGrid::Fuel};
+        ZoneSheet sheet;
+        sheet.normallyAspirated = row.Yes(0);
+        sheet.Shown(ZoneCell(grid, 0, 0)) = 250;
+        GridGraphTable before;
+        for (auto& texts : before.texts) texts.fill("10");
+        before.Text(1, 1) = "250";
+        GridGraphTable after = before;
+        for (int column = 1; column <= 4; ++column)
+          after.Text(6, column) = std::to_string(20 + column);
+        const ZoneSheet result = WithGraphTable(sheet, grid, before, after);
+        std::string told = std::to_string(result.Shown(ZoneCell(grid, 0, 0))) + ":";
+        for (int column = 0; column < 4; ++column)
+          told += " " + std::to_string(result.Shown(ZoneCell(grid, 5, column)));
+        return told;
+      },
+      R"(
+yes, no -> 250: 0 0 23 24 | yes, yes -> 250: 0 22 23 24 | no, no -> 250: 0 0 23 24 | no, yes -> 250: 0 0 23 24
+)");
 }
 
 }  // namespace

@@ -78,35 +78,20 @@ type txtZone(2) 7250 -> step=Rev Limit (RPM) 10000 to 7300: z2=73, txtZone(2)=73
 key Ctrl+Z -> step=:, txtZone(2)=10000, lblStatus=As opened
 show mnuEditUndo mnuEditRedo cboSteps lblStatus -> mnuEditUndo off, mnuEditUndo=&Undo, mnuEditRedo=&Redo Rev Limit (RPM) 10000 to 7300, cboSteps list=[As opened|Rev Limit (RPM) 10000 to 7300], cboSteps=As opened, lblStatus=As opened
 type txtZone(3) off -> step=MAP Limit (kPa) 100 to OFF: z3=255, txtZone(3)=OFF, lblStatus=MAP Limit (kPa) 100 to OFF
-key Ctrl+Z -> step=:, txtZone(3)=100, lblStatus=As opened
-step updZone(13) down -> step=Knock Thr. 100 to 99: z13=99, txtZone(13)=99, lblStatus=Knock Thr. 100 to 99
-key Ctrl+Z -> step=:, txtZone(13)=100, lblStatus=As opened
-step updZone(2) down -> step=Rev Limit (RPM) 10000 to 9000: z2=90, txtZone(2)=9000, lblStatus=Rev Limit (RPM) 10000 to 9000
-key Ctrl+Z -> step=:, txtZone(2)=10000, lblStatus=As opened
-type txtTrim 1.3 -> step=Trim 20.00 to 1.25: z21=25, txtTrim=1.25, txtZone(21)=5, lblStatus=Trim 20.00 to 1.25
-key Ctrl+Z -> step=:, txtTrim=20.00, txtZone(21)=80, lblStatus=As opened
-type txtZone(21) -4 -> step=Trim (deg.) 80 to -4: z21=16, txtTrim=-1.00, txtZone(21)=-4, lblStatus=Trim (deg.) 80 to -4
-key Ctrl+Z -> step=:, txtTrim=20.00, txtZone(21)=80, lblStatus=As opened
-click chkMisc(0) -> step=EGR Enabled on: z5=10, chkMisc(0) checked, chkMisc(3) on, cboAutoTune(1) list=[NB], lblStatus=EGR Enabled on
-key Ctrl+Z -> step=:, chkMisc(0) unchecked, chkMisc(3) off, cboAutoTune(1) list=[NB|WB], lblStatus=As opened
-click chkBoost(0) -> step=TPS Target Cont. on: z5=6, chkBoost(0) checked, lblStatus=TPS Target Cont. on
-key Ctrl+Z -> step=:, chkBoost(0) unchecked, lblStatus=As opened
-choose cboMAPID NA2 -> step=MAP ID NA2: z5=32, cboMAPID=NA2, lblStatus=MAP ID NA2
-key Ctrl+Z -> step=:, cboMAPID=T1, lblStatus=As opened
-choose cboAutoTune(0) L3 -> step=Auto Tuning L3: z5=131 z800=4, lblAutoTune(1) on, cboAutoTune(0)=L3, cboAutoTune(1) on, cboAutoTune(1) list=[NB|WB|NB+WB], lblStatus=Auto Tuning L3
-key Ctrl+Z -> step=:, lblAutoTune(1) off, cboAutoTune(0)=Off, cboAutoTune(1) off, cboAutoTune(1) list=[NB|WB], lblStatus=As opened
-type txtChipDate 31-Feb-2003
-type txtAtmos 85 -> step=Atmospheric Pressure 85:, txtAtmos=85, lblStatus=Atmospheric Pressure 85
-key Ctrl+Z -> step=:, txtAtmos=101, lblStatus=As opened
-type txtNotes "a\nb" -> step=Notes:, txtNotes=a\nb, lblStatus=Notes
-key Ctrl+Z -> step=:, txtNotes=, lblStatus=As opened
-cell grdData(0) 2 4 300 -> step=zf215 100 to 255: z51=255, grdData(0)[2][4]=255, grdData(0) row=2, grdData(0) column=4, grdData(0) range=[2|4|2|4], grdData(0)[2][4] mark=raised, grdData(2)[2][4]=-55, grdData(2)[2][4] colour=255, lblStatus=zf215 100 to 255
-key Ctrl+Z -> step=:, grdData(0)[2][4]=100, grdData(2)[2][4]=100, lblStatus=As opened, grdData(0)[2][4] mark gone, grdData(2)[2][4] colour gone
-cell grdData(3) 1 1 x -> step=zi100 100 to 0: z128=0, grdData(3)[1][1]=0, grdData(3)[1][1] mark=lowered, grdData(5)[1][1]=200, lblStatus=zi100 100 to 0
-key Ctrl+Z -> step=:, grdData(3)[1][1]=100, grdData(5)[1][1]=100, lblStatus=As opened, grdData(3)[1][1] mark gone
-cell grdData(7) 1 4 7 -> step=z25 100 to 7: z25=7, grdData(7)[1][4]=7, grdData(7) column=4, grdData(7) range=[1|4|1|4], grdData(7)[1][4] mark=lowered, lblStatus=z25 100 to 7
-key Ctrl+Z -> step=:, grdData(7)[1][4]=100, lblStatus=As opened, grdData(7)[1][4] mark gone
-type txtNotes "a\nb" -> step=Notes:, txtNotes=a\nb, lblStatus=Notes
+key Ctrl+Z; step updZone(13) down -> step=Knock Thr. 100 to 99: z13=99, txtZone(3)=100, txtZone(13)=99, lblStatus=Knock Thr. 100 to 99
+key Ctrl+Z; step updZone(2) down -> step=Rev Limit (RPM) 10000 to 9000: z2=90, txtZone(13)=100, txtZone(2)=9000, lblStatus=Rev Limit (RPM) 10000 to 9000
+key Ctrl+Z; type txtTrim 1.3 -> step=Trim 20.00 to 1.25: z21=25, txtTrim=1.25, txtZone(21)=5, txtZone(2)=10000, lblStatus=Trim 20.00 to 1.25
+key Ctrl+Z; type txtZone(21) -4 -> step=Trim (deg.) 80 to -4: z21=16, txtTrim=-1.00, txtZone(21)=-4, lblStatus=Trim (deg.) 80 to -4
+key Ctrl+Z; click chkMisc(0) -> step=EGR Enabled on: z5=10, chkMisc(0) checked, chkMisc(3) on, cboAutoTune(1) list=[NB], txtTrim=20.00, txtZone(21)=80, lblStatus=EGR Enabled on
+key Ctrl+Z; click chkBoost(0) -> step=TPS Target Cont. on: z5=6, chkMisc(0) unchecked, chkMisc(3) off, chkBoost(0) checked, cboAutoTune(1) list=[NB|WB], lblStatus=TPS Target Cont. on
+key Ctrl+Z; choose cboMAPID NA2 -> step=MAP ID NA2: z5=32, cboMAPID=NA2, chkBoost(0) unchecked, lblStatus=MAP ID NA2
+key Ctrl+Z; choose cboAutoTune(0) L3 -> step=Auto Tuning L3: z5=131 z800=4, cboMAPID=T1, lblAutoTune(1) on, cboAutoTune(0)=L3, cboAutoTune(1) on, cboAutoTune(1) list=[NB|WB|NB+WB], lblStatus=Auto Tuning L3
+key Ctrl+Z; type txtChipDate 31-Feb-2003; type txtAtmos 85 -> step=Atmospheric Pressure 85:, txtAtmos=85, lblAutoTune(1) off, cboAutoTune(0)=Off, cboAutoTune(1) off, cboAutoTune(1) list=[NB|WB], lblStatus=Atmospheric Pressure 85
+key Ctrl+Z; type txtNotes "a\nb" -> step=Notes:, txtAtmos=101, txtNotes=a\nb, lblStatus=Notes
+key Ctrl+Z; cell grdData(0) 2 4 300 -> step=zf215 100 to 255: z51=255, txtNotes=, grdData(0)[2][4]=255, grdData(0) row=2, grdData(0) column=4, grdData(0) range=[2|4|2|4], grdData(0)[2][4] mark=raised, grdData(2)[2][4]=-55, grdData(2)[2][4] colour=255, lblStatus=zf215 100 to 255
+key Ctrl+Z; cell grdData(3) 1 1 x -> step=zi100 100 to 0: z128=0, grdData(0)[2][4]=100, grdData(2)[2][4]=100, grdData(3)[1][1]=0, grdData(3)[1][1] mark=lowered, grdData(5)[1][1]=200, lblStatus=zi100 100 to 0, grdData(0)[2][4] mark gone, grdData(2)[2][4] colour gone
+key Ctrl+Z; cell grdData(7) 1 4 7 -> step=z25 100 to 7: z25=7, grdData(3)[1][1]=100, grdData(5)[1][1]=100, grdData(7)[1][4]=7, grdData(7) column=4, grdData(7) range=[1|4|1|4], grdData(7)[1][4] mark=lowered, lblStatus=z25 100 to 7, grdData(3)[1][1] mark gone
+key Ctrl+Z; type txtNotes "a\nb" -> step=Notes:, txtNotes=a\nb, grdData(7)[1][4]=100, lblStatus=Notes, grdData(7)[1][4] mark gone
 type txtChipDate nonsense
 type txtChipDate 2001-01-31 -> step=Chip Date 2001-01-31:, txtChipDate=31-Jan-2001, chkMisc(1) off, chkMisc(4) off, chkMisc(4) unchecked, chkBoost(1) off, chkBoost(1) unchecked, chkIdle(0) off, chkIdle(1) off, chkAutoTune(1) on, chkAutoTune(1) shown, lblAutoTune(1) hidden, cboAutoTune(0) list=[Off|Lambda|L3], cboAutoTune(1) hidden, cboAutoTune(1) list=[NB], lblZone(18)=Hot IAC, lblZone(19)=Cold IAC, lblZone(251) off, txtZone(251) off, updZone(251) off, lblZone(208) off, txtZone(208) off, updZone(208) off, lblZone(209) off, txtZone(209) off, updZone(209) off, lblZone(248) off, txtZone(248) off, updZone(248) off, lblZone(249) off, txtZone(249) off, updZone(249) off, lblZone(4) off, lblZone(4)=Advance Limit, txtZone(4) off, updZone(4) off, updZone(4) min=0, updZone(4) max=50, lblZone(252) off, lblZone(252)=Fuel Low Slope, txtZone(252) off, updZone(252) off, lblZone(253) off, lblZone(253)=Fuel High Slope, txtZone(253) off, updZone(253) off, lblZone(254) off, txtZone(254) off, updZone(254) off, lblZone(255) off, txtZone(255) off, updZone(255) off, lblZone(250) off, txtZone(250) off, updZone(250) off, lblZone(7)=Volt. Correction, lblZone(243) off, txtZone(243) off, updZone(243) off, lblStatus=Chip Date 2001-01-31
 )");
@@ -352,19 +337,14 @@ TEST_F(frmZoneDataTest, ABenchmarksFileIsTextAsAnyEditorLeavesIt) {
 
 TEST(frmCopyBench, EverythingTicksWhatThereIs) {
   RecordingHost host;
+  Story story(host);
   frmCopyBench window(host, kThird.datChipDate, MakeDate(2001, 3, 1), true);
-  const auto told = [&] {
-    std::string ticks;
-    for (const auto& box : window.chkOptions) ticks += box->Value() ? '1' : '0';
-    return ticks;
-  };
-  window.chkOptions(0).Do({"click", {}});
-  EXPECT_EQ(told(), "1110001111111");
-  window.chkOptions(9).Do({"click", {}});
-  EXPECT_EQ(told(), "0110001101111");
-  EXPECT_EQ(window.Names(),
-            "Start, Idle, Auto Tuning, Miscellaneous, Fuel, Fuel Zones, Ignition Zones, General "
-            "Information");
+  story.Fact("names", [&] { return window.Names(); });
+  window.Show();
+  EXPECT_STORY(story, R"(
+click chkOptions(0) -> names=Everything, chkOptions(0) checked, chkOptions(1) checked, chkOptions(2) checked, chkOptions(6) checked, chkOptions(8) checked, chkOptions(9) checked, chkOptions(10) checked, chkOptions(12) checked, chkOptions(13) checked, chkOptions(14) checked
+click chkOptions(9) -> names=Start, Idle, Auto Tuning, Miscellaneous, Fuel, Fuel Zones, Ignition Zones, General Information, chkOptions(0) unchecked, chkOptions(9) unchecked
+)");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "support/Table.h"
 #include "zones/AirFuelTargets.h"
 #include "zones/AutoTune.h"
+#include "zones/ChipIdentity.h"
 #include "zones/ZoneDefaults.h"
 #include "zones/ZoneTexts.h"
 
@@ -42,43 +43,48 @@ yes, no, 1.8 2004-05-08 3 -> NB EGR | no, no, 1.8 2002-06-10 1 -> NB | yes, yes,
 }
 
 TEST(AirFuelTargets, NarrowWideAndBoth) {
-  const ConversionTables tables{DefaultO2Table(), DefaultAuxTable(), false, false};
-  const ChipIdentity chip{1.8, MakeDate(2004, 5, 8), 3};
-  ZoneSettings zones{};
-  for (std::size_t i = 0; i < 6; ++i) zones[26 + i] = static_cast<std::int16_t>(86 + i);
-  const auto targets = [&](std::int16_t flags) {
-    zones[5] = flags;
-    return CalcAFTargets(zones, chip, tables, 1000);
-  };
-  EXPECT_EQ(targets(0).targets, (std::array<double, 6>{14000, 13800, 13600, 13400, 13300, 13000}));
+  // z5; the usual tables, or tiny ones that leave the range of a ratio
   // 128 - 87 = 41 steps of 5 V / 128 are 1601 mV, between 1560 and 1716.
-  EXPECT_EQ(targets(16).targets, (std::array<double, 6>{10037, 9995, 9952, 9910, 9867, 9825}));
-  EXPECT_EQ(targets(24).targets, (std::array<double, 6>{14000, 9995, 9952, 9910, 9867, 9825}));
-  EXPECT_EQ(targets(24).O2Sensor, "NB+WB");
-  const ConversionTables tiny{{{0, 5}, {1, 6}}, {{0, 99999}}, false, false};
-  EXPECT_EQ(CalcAFTargets(zones, {}, tiny, 1000).targets[0], 1000);
-  zones[5] = 16;
-  EXPECT_EQ(CalcAFTargets(zones, chip, tiny, 1000).targets[0], 40000);
+  ExpectTable(
+      [](const TableRow& row) {
+        ConversionTables tables{DefaultO2Table(), DefaultAuxTable(), false, false};
+        if (row.Text(1) == "tiny") tables = {{{0, 5}, {1, 6}}, {{0, 99999}}, false, false};
+        ZoneSettings zones{};
+        zones[5] = static_cast<std::int16_t>(row.Int(0));
+        for (std::size_t i = 0; i < 6; ++i) zones[26 + i] = static_cast<std::int16_t>(86 + i);
+        const auto targets = CalcAFTargets(zones, {1.8, MakeDate(2004, 5, 8), 3}, tables, 1000);
+        std::string told(targets.O2Sensor);
+        for (const double target : targets.targets) told += " " + NumberText(target);
+        return told;
+      },
+      R"(
+0, usual -> NB 14000 13800 13600 13400 13300 13000
+16, usual -> WB 10037 9995 9952 9910 9867 9825
+24, usual -> NB+WB 14000 9995 9952 9910 9867 9825
+0, tiny -> NB 1000 1000 1000 1000 1000 1000
+16, tiny -> WB 40000 40000 40000 40000 40000 40000
+)");
 }
 
 TEST(ZoneDefaults, FillsWhatIsMissingAndTells) {
-  Settings settings;
-  LoadedZones zones;
-  EXPECT_EQ(ApplyZoneDefaults(zones, settings, false),
-            (std::vector{Message::EngineSizeAssumed, Message::ChipDateAssumed,
-                         Message::PressureAssumed}));
-  EXPECT_EQ(zones.chip.dblEngineSize, 1.6);
-  EXPECT_EQ(zones.chip.datChipDate, MakeDate(2000, 1, 1));
-  EXPECT_EQ(zones.chip.intChipVersion, 2);
-  EXPECT_EQ(zones.intAtmosphericPressure, 75);
-  EXPECT_TRUE(ApplyZoneDefaults(zones, settings, false).empty());
-
-  LoadedZones quiet;
-  EXPECT_TRUE(ApplyZoneDefaults(quiet, settings, true).empty());
-  settings.gblnSilentDefaults = true;
-  LoadedZones silenced;
-  EXPECT_TRUE(ApplyZoneDefaults(silenced, settings, false).empty());
-  EXPECT_EQ(silenced.intAtmosphericPressure, 75);
+  // quiet, silent by the settings, for the second time
+  ExpectTable(
+      [](const TableRow& row) {
+        Settings settings;
+        settings.gblnSilentDefaults = row.Yes(1);
+        LoadedZones zones;
+        if (row.Yes(2)) ApplyZoneDefaults(zones, settings, false);
+        std::string told;
+        for (const Message message : ApplyZoneDefaults(zones, settings, row.Yes(0)))
+          told += std::to_string(static_cast<int>(message)) + " ";
+        told += EngineSizeText(zones.chip.dblEngineSize);
+        return told + " " + DateText(zones.chip.datChipDate) + " " +
+               std::to_string(zones.chip.intChipVersion) + " " +
+               std::to_string(zones.intAtmosphericPressure);
+      },
+      R"(
+no, no, no -> 7 8 9 1.6 2000-01-01 2 75 | no, no, yes -> 1.6 2000-01-01 2 75 | yes, no, no -> 1.6 2000-01-01 2 75 | no, yes, no -> 1.6 2000-01-01 2 75
+)");
 }
 
 }  // namespace

@@ -59,8 +59,9 @@ TEST(ZoneRange, Limits) {
         const ZoneRange range = ParseZoneRange(row.Text(0));
         return std::to_string(range.low) + " to " + std::to_string(range.high);
       },
-      "-70/185 -> -70 to 185 | 015/085 -> 15 to 85 |  -> 0 to 255 | 100 -> 0 to 255 | /9 -> 0 to "
-      "255");
+      R"(
+-70/185 -> -70 to 185 | 015/085 -> 15 to 85 |  -> 0 to 255 | 100 -> 0 to 255 | /9 -> 0 to 255
+)");
   EXPECT_EQ(PrimeFactorRange(140) + " " + PrimeFactorRange(50) + " " + PrimeFactorRange(0),
             "000/093 000/255 000/255");
 }
@@ -72,9 +73,10 @@ TEST(ZoneNames, BothWays) {
         return name + "=" + std::to_string(ZoneIndex(name)) + " " + cell + "=" +
                std::to_string(ZoneIndex(cell));
       },
-      "0 -> z0=0 =-1 | 31 -> z31=31 =-1 | 32 -> z32=32 zf100=32 | 112 -> z112=112 zf600=112 | 209 "
-      "-> z209=209 zi605=209 | 223 -> z223=223 zi675=223 | 224 -> z700=224 =-1 | 239 -> z775=239 "
-      "=-1 | 240 -> z800=240 =-1 | 255 -> z875=255 =-1");
+      R"(
+0 -> z0=0 =-1 | 31 -> z31=31 =-1 | 32 -> z32=32 zf100=32 | 112 -> z112=112 zf600=112 | 209 -> z209=209 zi605=209
+223 -> z223=223 zi675=223 | 224 -> z700=224 =-1 | 239 -> z775=239 =-1 | 240 -> z800=240 =-1 | 255 -> z875=255 =-1
+)");
   for (const char* text : {"", "z224", "z701", "zf000", "zone"})
     EXPECT_EQ(ZoneIndex(text), -1) << text;
 }
