@@ -4,9 +4,8 @@
 #include <algorithm>
 
 #include "app/LogRoads.h"
-#include "customise/frmLogDescription.h"
-#include "customise/frmOptions.h"
 #include "support/ProgramFixture.h"
+#include "support/Table.h"
 #include "universal/DefinitionText.h"
 
 namespace tarnview {
@@ -38,18 +37,11 @@ class Roads : public ProgramFixture {
     EXPECT_TRUE(Main().Files().OpenByContent("/run.csv"));
     return program->Global().takenAs;
   }
-  std::string Cells(std::initializer_list<int> items, int row = 3) {
-    std::string cells;
-    for (const int item : items) cells += Log().FormatDataItem(item, row) + " ";
-    return cells;
-  }
 };
 
 constexpr const char* kStrange =
     "Time (msec);Engine Speed (rpm);Widget (V)\r\n"
     "0;900;1,5\r\n50;950;\r\n100;1000;1,6\r\n150;1050;1,7\r\n";
-constexpr const char* kByShape = "Universal: by its shape";
-constexpr const char* kByMine = "Universal: Test Logs";
 
 TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   StartWith(kStrange);
@@ -91,80 +83,77 @@ TEST_F(Roads, OwnItemsAreDrawnAsTheirTitlesWere) {
   StartWith(kStrange);
   files.files["/other.csv"] =
       "Time (s),More,widget (V),RPM\n0,1,1.5,900\n1,2,1.6,910\n2,3,1.7,920\n3,4,1.8,930\n";
-  TakenAs();
-  const Colour usual = Log().gcolDataItems->Item(101).lngColour;
-  host.work = [](Form& form) {
-    auto& options = dynamic_cast<frmOptions&>(form);
-    clsLogDataItems& items = options.Draft().catalogue.gcolUniversalDataItems;
-    items.Item(101).lngColour = 0x123456;
-    items.Item(101).blnDisplay = false;
-    options.cmdOK.Press();
-  };
-  Do("click mnuCustomiseOptions");
-  ASSERT_TRUE(Main().Files().OpenByContent("/other.csv"));
-  const clsLogDataItems& items = *Log().gcolDataItems;
-  EXPECT_EQ(items.Item(101).strLongName + items.Item(102).strLongName, "Morewidget");
-  EXPECT_EQ(items.Item(102).lngColour, 0x123456);
-  EXPECT_FALSE(items.Item(102).blnDisplay);
-  EXPECT_EQ(items.Item(101).lngColour, usual);
+  story.Fact("own", [this] {
+    std::string told;
+    for (int item = 101; Log().gcolDataItems && item <= Log().gcolDataItems->Count(); ++item) {
+      const clsLogDataItem& one = Log().gcolDataItems->Item(item);
+      if (!one.strLongName.empty())
+        told += one.strLongName + " " + std::to_string(one.lngColour) +
+                (one.blnDisplay ? "; " : " not drawn; ");
+    }
+    return told;
+  });
+  EXPECT_STORY(story, R"(
+content /run.csv -> as=Universal: by its shape, cells=0.150 1050 1.7 , own=Widget 8177704; , caption=Tarnview - run.csv (Universal: by its shape), PlotRangeFrom=1, PlotRangeTo=4, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete: Universal: by its shape. Time: "Time" rises; milliseconds: its unit is told, staDataLogViewer[2]=Sample Load Range 1 - 4
+click mnuCustomiseOptions -> +frmOptions
+row lvwDataItems Widget; answer colour 1193046; click cmdDataColour; tick lvwDataItems Widget off; click cmdOK -> [colour "Data Item Colour" ok], -frmOptions, own=Widget 1193046 not drawn; 
+content /other.csv -> cells=3.000 930 4 , own=More 8177704; widget 1193046 not drawn; , caption=Tarnview - other.csv (Universal: by its shape), staDataLogViewer[0]=Loading complete: Universal: by its shape. Time: "Time" rises; seconds: its unit is told
+)");
 }
 
 TEST_F(Roads, ADefinitionIsEditedOverTheOpenLog) {
   StartWith(kStrange);
-  TakenAs();
   files.files["/mine.txt"] =
       DefinitionText{"DELIMITERASCIICHARACTER=59\nCOMMENTS=kept\n",
                      {ColumnText("Time (msec)", 63, 3, "CONVERSIONFACTOR=0.001\n"),
                       ColumnText("Engine Speed (rpm)", 3, 0, "SMOOTH=Y\n"), ColumnText("Gone", 5)},
                      "[SAMPLE GRAPH]\nNAME=All\nDATA ITEMS=3,5\n"}
           .Text();
-  host.answers.push_back({Answer::Kind::File, "/mine.txt"});
-  std::string shown;
-  host.work = [&](Form& form) {
-    auto& window = dynamic_cast<frmLogDescription&>(form);
-    for (const auto& row : window.lvwColumns.Rows())
-      shown += row.texts[0] + ":" + row.texts[5] + " ";
-    window.lvwColumns.UserSelects(2);
-    window.txtUnit.Do({"type", {"1/min"}});
-    window.lvwColumns.UserSelects(3);
-    Act(window, "choose cboItem An item of the log's own\nclick cmdOK");
-  };
-  Do("click mnuFileEditDefinition");
-  EXPECT_EQ(shown, "Time:Secs Engine Speed:Engine Speed (rpm) Widget:Not read ");
-  EXPECT_EQ(Main().Caption(), "Tarnview - run.csv (Universal: Test Logs)");
-  const std::string text = files.files["/mine.txt"];
-  for (const char* part :
-       {"COMMENTS=kept", "SMOOTH=Y", "UNIT=1/min", "COLUMNTITLE=Gone", "DATA ITEMS=3,5",
-        "DATAITEMID=101", "OWNDATAITEMS=Y", "CONVERSIONFACTOR=0.001"})
-    EXPECT_NE(text.find(part), std::string::npos) << part;
+  story.Fact("saved", [this] { return files.files["/mine.txt"]; });
+  EXPECT_STORY(story, R"(
+content /run.csv -> as=Universal: by its shape, cells=0.150 1050 1.7 , caption=Tarnview - run.csv (Universal: by its shape), PlotRangeFrom=1, PlotRangeTo=4, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete: Universal: by its shape. Time: "Time" rises; milliseconds: its unit is told, staDataLogViewer[2]=Sample Load Range 1 - 4
+answer file /mine.txt; click mnuFileEditDefinition -> [open "Edit Definition" of Data Log Definitions (*.txt) /mine.txt], +frmLogDescription
+show lvwColumns[1] lvwColumns[2] lvwColumns[3] -> lvwColumns[1]=[Time|msec|0  50  100|0|150|Secs||0|Yes], lvwColumns[1] unselected, lvwColumns[2]=[Engine Speed|rpm|900  950  1000|900|1050|Engine Speed (rpm)||0|Yes], lvwColumns[2] selected, lvwColumns[3]=[Widget|V|1,5  1,6  1,7|||Not read||0|Yes], lvwColumns[3] unselected
+row lvwColumns "Engine Speed"; type txtUnit 1/min; row lvwColumns Widget; choose cboItem "An item of the log's own"; click cmdOK -> wrote mine.txt, -frmLogDescription, as=Universal: Test Logs, cells=0.150 1050 1,7 , saved=[DATALOGDEFINITION]\nDELIMITERASCIICHARACTER=59\nDATALINESBEFORE=1\nFILEEXTENSION=csv\nNAME=Test Logs\nCOMMENTS=kept\nOWNDATAITEMS=Y\n[COLUMN]\nNAME=Time (msec)\nCOLUMNTITLE=Time (msec)\nDATAITEMID=63\nCOLUMNDECIMALPLACES=3\nTYPE=1\nDESCRIPTION=About Time (msec)\nCONVERSIONFACTOR=0.001\n[COLUMN]\nNAME=Engine Speed (rpm)\nCOLUMNTITLE=Engine Speed (rpm)\nDATAITEMID=3\nCOLUMNDECIMALPLACES=0\nTYPE=1\nDESCRIPTION=About Engine Speed (rpm)\nDISPLAYDECIMALPLACES=0\nDISPLAYFACTOR=1\nDISPLAYZERO=Y\nSMOOTH=Y\nSIGNED=Y\nUNIT=1/min\n[COLUMN]\nNAME=Gone\nCOLUMNTITLE=Gone\nDATAITEMID=5\nCOLUMNDECIMALPLACES=0\nTYPE=1\nDESCRIPTION=About Gone\n[COLUMN]\nNAME=Widget\nCOLUMNTITLE=Widget (V)\nDATAITEMID=101\nCOLUMNDECIMALPLACES=0\nTYPE=2\nDESCRIPTION=Widget\nDISPLAYDECIMALPLACES=0\nDISPLAYFACTOR=1\nDISPLAYZERO=Y\nDISPLAYCOLOUR=8177704\nUNIT=V\n[VALUES]\n\n1,5\n1,6\n1,7\n[SAMPLE GRAPH]\nDATA ITEMS=3,5\nNAME=All\n, caption=Tarnview - run.csv (Universal: Test Logs), staDataLogViewer[0]=Loading complete: Universal: Test Logs
+)");
 }
 
-TEST_F(Roads, ADefinitionAtHandIsTakenUnlessItReadsAnotherUnit) {
-  for (const auto& [more, taken] :
-       {std::pair{"", kByShape}, {"CONVERSIONFACTOR=0.5555556\nCONVERSIONOFFSET=-32\n", kByMine}}) {
-    StartWith(
-        "Time,CLT\ns,F\n0,180\n1,181\n2,182\n3,183\n",
-        DefinitionText{
-            "DATALINESBEFORE=2\n", {ColumnText("Time", 63, 1), ColumnText("CLT", 23, 1, more)}, ""}
-            .Text());
-    EXPECT_EQ(TakenAs(), taken);
-    EXPECT_NEAR(Log().gcolDataItems->Item(23).GetRawData(Log().glngDataLog(22, 3)), 83.9, 0.05);
-  }
-}
-
-TEST_F(Roads, ADefinitionAtHandIsTakenIfItKnowsNineColumnsOfTen) {
-  for (const auto& [known, taken] : {std::pair{9, kByMine}, {8, kByShape}}) {
-    DefinitionText definition{"", {ColumnText("Time", 63, 1)}, ""};
-    std::string titles = "Time";
-    for (int n = 1; n < 10; ++n) {
-      titles += ",Odd" + std::to_string(n);
-      if (n < known) definition.columns.push_back(ColumnText("Odd" + std::to_string(n), 2 + n));
-    }
-    std::string log = titles + "\n";
-    for (const char* time : {"0", "1", "2", "3"}) log += time + std::string(",5,6,7,8,9,8,7,6,5\n");
-    StartWith(log, definition.Text());
-    EXPECT_EQ(TakenAs(), taken);
-  }
+/// Of each definition its columns (title, item and lines of its own) and a line of its head,
+/// then the log: how that opens, and the last item of the definition in its last line.
+TEST_F(Roads, ADefinitionAtHandIsTakenWhereItKnowsTheColumnsAsTheLogTellsThem) {
+  ExpectTable(
+      [this](const TableRow& row) {
+        DefinitionText definition{row.Text(1).empty() ? "" : row.Text(1) + "\n", {}, ""};
+        int item = 0;
+        for (const std::string& column : SplitAt(row.Text(0), "; ")) {
+          const std::vector<std::string> parts = SplitAt(column, ":");
+          definition.columns.push_back(ColumnText(parts.at(0), StringToLong(parts.at(1)), 1));
+          item = StringToLong(parts[1]);
+          for (std::size_t n = 2; n < parts.size(); ++n)
+            definition.columns.back() += parts[n] + "\n";
+        }
+        StartWith(Join(SplitAt(row.Text(2), "; "), "\n") + "\n", definition.Text());
+        const std::string taken = TakenAs();
+        return taken + " " + Log().FormatDataItem(item, 3);
+      },
+      R"(
+# The log tells its unit.
+Time:63; CLT:23, DATALINESBEFORE=2, Time,CLT; s,F; 0,180; 1,181; 2,182; 3,183 -> Universal: by its shape 83.9
+Time:63; CLT:23:CONVERSIONFACTOR=0.5555556:CONVERSIONOFFSET=-32, DATALINESBEFORE=2, Time,CLT; s,F; 0,180; 1,181; 2,182; 3,183 -> Universal: Test Logs 84
+# Nine columns of ten, and eight.
+Time:63; Odd1:3; Odd2:4; Odd3:5; Odd4:6; Odd5:7; Odd6:8; Odd7:9; Odd8:10, , Time,Odd1,Odd2,Odd3,Odd4,Odd5,Odd6,Odd7,Odd8,Odd9; 0,5,6,7,8,9,8,7,6,5; 1,5,6,7,8,9,8,7,6,5; 2,5,6,7,8,9,8,7,6,5; 3,5,6,7,8,9,8,7,6,5 -> Universal: Test Logs 6
+Time:63; Odd1:3; Odd2:4; Odd3:5; Odd4:6; Odd5:7; Odd6:8; Odd7:9, , Time,Odd1,Odd2,Odd3,Odd4,Odd5,Odd6,Odd7,Odd8,Odd9; 0,5,6,7,8,9,8,7,6,5; 1,5,6,7,8,9,8,7,6,5; 2,5,6,7,8,9,8,7,6,5; 3,5,6,7,8,9,8,7,6,5 -> Universal: by its shape N/A
+# Clocks that read alike and otherwise, with a unit and without.
+Time:63; CLT:23, , Time,CLT; 0,80; 1,80; 2,80; 3,80 -> Universal: Test Logs 80
+Time:63; CLT:23, , Time,CLT; 0,80; 50,80; 100,80; 150,80 -> Universal: by its shape 80.0
+Time:63; CLT:23, DATALINESBEFORE=2, Time,CLT; ms,C; 0,80; 5,80; 10,80; 15,80 -> Universal: by its shape 80.0
+Time:63; CLT:23, DATALINESBEFORE=2, Time,CLT; s,C; 0,80; 50,80; 100,80; 150,80 -> Universal: Test Logs 80
+Time:63:CONVERSIONFACTOR=0.001; CLT:23, DATALINESBEFORE=2, Time,CLT; ms,C; 0,80; 5,80; 10,80; 15,80 -> Universal: Test Logs 80
+Time:63; CLT:23, , Time,CLT; 10:00:01,80; 10:00:02,80; 10:00:03,80; 10:00:04,80 -> Universal: by its shape 80.0
+# The definition tells how its clock is written.
+Time:63; CLT:23, TIMEFORM=seconds, Time,CLT; 0,80; 1,80; 2,80; 3,80 -> Universal: Test Logs 80
+Time:63; CLT:23, TIMEFORM=milliseconds, Time,CLT; 0,80; 1,80; 2,80; 3,80 -> Universal: by its shape 80.0
+)");
 }
 
 TEST_F(Roads, FilesOfTheUsersOwnAreTextAsAnyEditorLeavesIt) {
@@ -173,46 +162,34 @@ TEST_F(Roads, FilesOfTheUsersOwnAreTextAsAnyEditorLeavesIt) {
                      {ColumnText("Clock", 63, 3), ColumnText("Widget", 3, 1)},
                      ""}
           .Text();
+  std::string told;
   for (const auto& [mark, end] : {std::pair{"", '\n'}, {"\xEF\xBB\xBF", '\n'}, {"", '\r'}})
-    for (const auto& [path, text, taken] :
-         {std::tuple{"Universal Data Log Formats/Mine.txt", definition, kByMine},
-          {"Log Titles.txt", std::string("Widget ; RPM ;\n"), kByShape}}) {
+    for (const auto& [path, text] : {std::pair{"Universal Data Log Formats/Mine.txt", definition},
+                                     {"Log Titles.txt", std::string("Widget ; RPM ;\n")}}) {
       std::string saved = mark + text;
       std::replace(saved.begin(), saved.end(), '\n', end);
       files.files = {{"/data/" + std::string(path), saved}};
       StartWith("Clock;Widget\n0;900\n1;950\n2;990\n3;999\n");
-      EXPECT_EQ(TakenAs(), taken) << saved;
-      EXPECT_EQ(Cells({3}), "999 ") << saved;
+      told += TakenAs() + " ";
+      told += Log().FormatDataItem(3, 3) + "; ";
     }
-}
-
-TEST_F(Roads, ADefinitionWhoseClockReadsOtherwiseIsPassedOver) {
-  const std::tuple<const char*, const char*, const char*> rows[] = {
-      {"Time,CLT\n", "0 1 2", kByMine},
-      {"Time,CLT\n", "0 50 100", kByShape},
-      {"Time,CLT\nms,C\n", "0 5 10", kByShape},
-      {"Time,CLT\ns,C\n", "0 50 100", kByMine},
-      {"Time,CLT\n", "10:00:01 10:00:02 10:00:03", kByShape},
-  };
-  for (const auto& [head, stamps, taken] : rows) {
-    const bool units = std::string_view(head).size() > 9;
-    std::string log = head;
-    for (const std::string& stamp : Split(stamps, ' ')) log += stamp + ",80\n";
-    StartWith(log, DefinitionText{units ? "DATALINESBEFORE=2\n" : "",
-                                  {ColumnText("Time", 63, 3), ColumnText("CLT", 23, 1)},
-                                  ""}
-                       .Text());
-    EXPECT_EQ(TakenAs(), taken) << head << stamps;
-  }
+  const std::string both = "Universal: Test Logs 999; Universal: by its shape 999; ";
+  EXPECT_EQ(told, both + both + both);
 }
 
 TEST_F(Roads, TheProgramsOwnFilesAreNoLogs) {
-  for (const char* path : {"/run.pow", "/run.CAR", "/run.sam", "/run.sca", "/run.map"}) {
-    files.files[path] = kStrange;
-    StartWith("");
-    EXPECT_FALSE(Main().Files().OpenByContent(path)) << path;
-    EXPECT_FALSE(host.messages.empty()) << path;
-  }
+  StartWith(kStrange);
+  story.Verb("take", [this](const auto& words) {
+    files.files[words[0]] = kStrange;
+    EXPECT_FALSE(Main().Files().OpenByContent(words[0]));
+  });
+  EXPECT_STORY(story, R"(
+take /run.pow -> [52 ok], [12 ok], staDataLogViewer[0]=Loading failed
+take /run.CAR -> [52 ok], [12 ok]
+take /run.sam -> [52 ok], [12 ok]
+take /run.sca -> [52 ok], [12 ok]
+take /run.map -> [56 ok], [12 ok]
+)");
 }
 
 }  // namespace
