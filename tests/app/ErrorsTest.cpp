@@ -1,7 +1,6 @@
 // Errors that nothing else ends, and what the error log keeps: the program stays.
 
 #include "power/frmPowerGraph.h"
-#include "scatter/frmScatterGraph.h"
 #include "support/ProgramFixture.h"
 
 namespace tarnview {
@@ -25,77 +24,64 @@ class Errors : public ProgramFixture {
                                         ProgramFolders{"/car/", "/car/data/"});
     program->Start("", false);
     Main().LoadDataFile("/logs/run.txt", 1);
-    desk.messages.clear();
+    work.Verb("memory", [this](const auto& words) { desk.full = words[0] == "full"; });
+    work.Verb("break", [this](const auto& words) { files.broken.insert(words[0]); });
+    work.Verb("save", [this](const auto&) { Main().WriteINIFile(); });
+    work.Verb("load", [this](const auto& words) { Main().LoadDataFile(words[0], 1); });
+    work.Event("logged", [this] { return Logged(); });
+    work.Fact("pointers", [this] {
+      std::string told;
+      for (const Form* form : desk.open)
+        told += form->Pointer() == MousePointer::Default ? "usual " : "hourglass ";
+      return told;
+    });
+    for (const char* part : {" enabled", "lvw", "Graph ", "Graph=", "hsb", "ZoneInfl", "mnu", "lbl",
+                             "updPlot", "Range", "caption", "txt", "proProgInd"})
+      work.PassOver(part);
   }
-  void Click(Control& control) {
-    desk.events.Run("frmDataLogViewer", control.name, [&] { control.Do({"click", {}}); });
-  }
-  std::string Boxes() {
-    std::string texts;
-    for (const Box& box : desk.messages) texts += std::to_string(box.id) + " " + box.text + "|";
-    desk.messages.clear();
-    return texts;
-  }
-  bool Logged(const std::string& text) {
-    return files.files["/car/error.log"].find(text) != std::string::npos;
+  /// What the error log tells since the last time.
+  std::string Logged() {
+    const std::string& log = files.files["/car/error.log"];
+    std::string told;
+    for (const std::string& line : Split(log.substr(std::min(seen_, log.size())), '\n'))
+      if (line.starts_with("Location") || line.starts_with("Number"))
+        told += line.substr(line.find(':') + 1, line.find('\r') - line.find(':') - 1);
+    seen_ = log.size();
+    return told;
   }
 
-  const std::string kTold = "0 There is not enough memory for that.|";
   FullDesktop desk;
+  Story work{desk};
+
+ private:
+  std::size_t seen_ = 0;
 };
 
-TEST_F(Errors, ShortMemoryIsToldAndEndsNothing) {
-  desk.full = true;
-  Click(Main().cmdDrawGraph);
-  EXPECT_EQ(Boxes(), kTold);
-  EXPECT_TRUE(Logged("cmdDrawGraph_Click\r\nNumber       : 7 Out of memory"));
-  EXPECT_EQ(Main().Pointer(), MousePointer::Default);
-  EXPECT_FALSE(Main().proProgInd.Visible());
-  EXPECT_FALSE(Main().LoadDataFile("/logs/run.txt", 1));
-  EXPECT_EQ(Boxes(),
-            kTold + "12 Could not load the necessary minimum of three records from the data log.|");
-  EXPECT_EQ(Main().Pointer(), MousePointer::Default);
-  desk.full = false;
-  EXPECT_TRUE(Main().LoadDataFile("/logs/run.txt", 1));
-  Click(Main().cmdDrawGraph);
-  EXPECT_TRUE(Main().chSampleGraph.Visible());
-}
-
-TEST_F(Errors, ADrawThatFailsLeavesNoWordOfItsWork) {
-  Click(Main().mnuModulesScatterGraph);
-  auto& scatter = dynamic_cast<frmScatterGraph&>(*desk.Front());
-  scatter.cboYAxis.Do({"choose", {"#2"}});
-  Click(Main().mnuModulesPowerGraph);
-  auto& power = dynamic_cast<frmPowerGraph&>(*desk.Front());
-  power.chPowerGraph.Watch([this](What) {
-    if (desk.full) throw std::bad_alloc();
+TEST_F(Errors, ShortMemoryIsToldAndLeavesNoWordOfItsWork) {
+  work.Verb("watch", [this](const auto&) {
+    dynamic_cast<frmPowerGraph&>(*desk.Front()).chPowerGraph.Watch([this](What) {
+      if (desk.full) throw std::bad_alloc();
+    });
   });
-  desk.full = true;
-  Click(scatter.cmdDrawGraph);
-  Click(Main().cmdDrawGraph);
-  Click(power.cmdDrawGraph);
-  EXPECT_EQ(Boxes(), kTold + kTold + kTold);
-  EXPECT_EQ(scatter.staScatterGraph.Panel(1) + Main().staDataLogViewer.Panel(1) +
-                power.staPowerGraph.Panel(1),
-            "");
-  EXPECT_FALSE(scatter.prgProgInd.Visible());
-  EXPECT_EQ(power.Pointer(), MousePointer::Default);
-  EXPECT_FALSE(power.chPowerGraph.Visible());
-  for (const char* procedure : {"DrawScatter", "frmPowerGraph/cmdDrawGraph_Click"})
-    EXPECT_TRUE(Logged(procedure + std::string("\r\nNumber       : 7 Out of memory"))) << procedure;
-  desk.full = false;
-  Click(power.cmdDrawGraph);
-  EXPECT_TRUE(power.chPowerGraph.Visible());
+  EXPECT_STORY(work, R"(
+memory full; click cmdDrawGraph; show "proProgInd visible" -> proProgInd hidden, [There is not enough memory for that. ok], logged  Tarnview/frmDataLogViewer/cmdDrawGraph_Click 7 Out of memory Tarnview/Story/click 7 Out of memory, staDataLogViewer[0]=
+load /logs/run.txt -> [There is not enough memory for that. ok], [12 ok], logged  Tarnview/frmDataLogViewer/LoadDataFile -12 Loading failed: /logs/run.txt, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+memory well; load /logs/run.txt; click cmdDrawGraph -> [16 ok], chSampleGraph=600, fraPicture hidden, staDataLogViewer[0]=Sample: 300, Secs: 24.576, staDataLogViewer[2]=Sample Load Range 1 - 600
+click mnuModulesPowerGraph; watch -> +frmPowerGraph, pointers=usual usual 
+click frmDataLogViewer/mnuModulesScatterGraph -> +frmScatterGraph, pointers=usual usual usual 
+choose cboYAxis #2; memory full; click cmdDrawGraph; show "prgProgInd visible" -> prgProgInd hidden, [There is not enough memory for that. ok], logged  Tarnview/frmScatterGraph/DrawScatter 7 Out of memory Tarnview/frmScatterGraph/cmdDrawGraph_Click 7 Out of memory Tarnview/Story/click 7 Out of memory, cboYAxis=A/C Switch
+click frmPowerGraph/cmdDrawGraph -> [There is not enough memory for that. ok], logged  Tarnview/frmPowerGraph/cmdDrawGraph_Click 7 Out of memory Tarnview/Story/click 7 Out of memory
+close -> -frmScatterGraph, pointers=usual usual 
+memory well; click cmdDrawGraph -> fraPicture hidden, staPowerGraph[0]=Graph draw complete
+)");
 }
 
 TEST_F(Errors, WhatFailsIsInTheErrorLog) {
-  Main().LoadDataFile("/logs/none.txt", 1);
-  EXPECT_TRUE(Logged("Number       : -12 Loading failed: /logs/none.txt"));
-  files.broken.insert("/car/Tarnview.ini");
-  Main().WriteINIFile();
-  EXPECT_TRUE(Logged("Number       : -39 Problem updating application settings file."));
-  Main().Press({"F1"});
-  EXPECT_TRUE(Logged("Number       : -30 Problem trying to run on-line help."));
+  EXPECT_STORY(work, R"(
+load /logs/none.txt -> [15 ok], [12 ok], logged  Tarnview/frmDataLogViewer/LoadDataFile -12 Loading failed: /logs/none.txt, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+break /car/Tarnview.ini; save -> [39 ok], logged  Tarnview/Messages/ShowMessage -39 Problem updating application settings file., staDataLogViewer[0]=Data Item Display Properties
+key F1 -> [30 ok], logged  Tarnview/Messages/ShowMessage -30 Problem trying to run on-line help.
+)");
 }
 
 }  // namespace
