@@ -213,8 +213,8 @@ TEST(FMLinkLog, ChangesKeepTheZonesOwnValues) {
   const LoadedLog loaded = Loaded(Log(Samples(3), kZones, changes));
   ASSERT_TRUE(loaded.log.gblnChangesLoaded);
   const LoadedZones& zones = loaded.log.zones;
-  const std::pair<std::size_t, int> cells[] = {{0, 9},    {1, 1},   {2, 2},   {16, 16},
-                                               {17, 8},   {32, 32}, {33, 7},  {209, 7},
+  const std::pair<std::size_t, int> cells[] = {{0, 9},    {1, 1},   {2, 2},   {16, 16}, {17, 8},
+                                               {32, 32},  {33, 7},  {34, 34}, {47, 47}, {209, 7},
                                                {224, 24}, {225, 7}, {240, 40}};
   for (const auto& [zone, value] : cells) EXPECT_EQ(zones.changes[zone], value) << zone;
   EXPECT_EQ(zones.original, zones.zones);

@@ -1,26 +1,15 @@
 #include "power/CarDefSettings.h"
-#include "power/CarFile.h"
+#include "power/CarTold.h"
 #include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-/// What each car has other than a new one.
 std::string Read(const std::string& lines) {
   clsCarDefs cars;
   ReadCarDefs(ReadINIFileToArray("[Power Graph]\n" + lines), cars);
-  const auto linesOf = [](const clsCarDef& car) {
-    return SplitAt(CarFileText(FieldsOf(car), {}), "\r\n");
-  };
-  const auto plain = linesOf(clsCarDefs::BlankPreset());
   std::vector<std::string> told;
-  for (int n = 1; n <= cars.Count(); ++n) {
-    const auto own = linesOf(cars.Item(n));
-    std::string car = std::to_string(n);
-    for (std::size_t line = 0; line < own.size(); ++line)
-      if (own[line] != plain[line]) car += " " + own[line] + ",";
-    told.push_back(car);
-  }
+  for (int n = 1; n <= cars.Count(); ++n) told.push_back(std::to_string(n) + CarTold(cars.Item(n)));
   return Join(told, "; ");
 }
 

@@ -1,5 +1,6 @@
 #include "base/Numbers.h"
 #include "power/PowerChart.h"
+#include "power/PowerLog.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -8,18 +9,6 @@ namespace {
 std::string Axis(const ChartAxis& axis) {
   return NumberText(axis.min) + "-" + NumberText(axis.max) + "/" + std::to_string(axis.divisions) +
          (axis.minorDivisions == 2 ? " halved" : "");
-}
-
-TEST(PowerChart, LegendsNamePeaksAndTopSpeed) {
-  PowerPeaks peaks{141.25, 6480.4, 131, 4200, 7000, 128};
-  EXPECT_EQ(PowerLegend("Your", peaks, true), "Your Power (141.2 hp @ 6480 rpm, Vmax 128 mph)");
-  EXPECT_EQ(TorqueLegend("Your", peaks, true), "Your Torque (131.0 lbft @ 4200 rpm)");
-  peaks.topSpeed = 206.1;
-  EXPECT_EQ(PowerLegend("Benchmark", peaks, false),
-            "Benchmark Power (141.2 kW @ 6480 rpm, Vmax 206.1 kmh)");
-  EXPECT_EQ(TorqueLegend("Benchmark", peaks, false), "Benchmark Torque (131.0 Nm @ 4200 rpm)");
-  peaks.topSpeed.reset();
-  EXPECT_EQ(PowerLegend("Benchmark", peaks, true), "Benchmark Power (141.2 hp @ 6480 rpm)");
 }
 
 TEST(PowerChart, AxesEndAtRoundNumbers) {
@@ -33,40 +22,43 @@ TEST(PowerChart, AxesEndAtRoundNumbers) {
 )");
 }
 
-TEST(PowerChart, ABenchmarkAddsItsPairAndCountsForTheAxes) {
-  PowerCurves run;
-  run.points = {{3000, 90, 100}, {4000, 120, 110}};
-  run.peaks = PeaksOf(run.points);
-  run.peaks.topSpeed = 110.5;
-  ChartDescription chart = PowerChart(run, std::nullopt);
-  EXPECT_EQ(chart.Series().size(), 2u);
-  EXPECT_EQ(Axis(chart.x) + " " + Axis(chart.y), "1000-8000/7 halved 0-140/7");
-  ShownBenchmark benchmark;
-  benchmark.points = {{8500, 310, 200}};
-  benchmark.peaks = PeaksOf(benchmark.points);
-  chart = PowerChart(run, benchmark);
-  ASSERT_EQ(chart.Series().size(), 4u);
-  EXPECT_EQ(chart.Series()[3].y, (std::vector<double>{200}));
-  EXPECT_EQ(chart.Series()[2].x, (std::vector<double>{8500}));
-  EXPECT_EQ(Axis(chart.x) + " " + Axis(chart.y), "1000-9000/8 halved 0-350/7");
+std::string Marks(const std::vector<ChartMark>& marks) {
+  std::string told;
+  for (const ChartMark& mark : marks)
+    told += "; " + NumberText(mark.x) + " " + NumberText(mark.y) + " " + mark.text + " " +
+            std::to_string(mark.colour) + (mark.ring ? "" : " no ring");
+  return told;
 }
 
-TEST(PowerChart, EachPeakIsMarkedOnItsOwnCurve) {
-  PowerCurves run;
-  run.points = {{3000, 90, 110}, {4000, 120, 100}, {5000, -1, -1}};
-  run.peaks = PeaksOf(run.points);
-  run.peaks.topSpeed = 110.5;
-  const ChartMark power{4000, 120, "120.0 hp", 0x0000FF}, torque{3000, 110, "110.0 lbft", 0xFF0000};
-  EXPECT_EQ(PowerChart(run, std::nullopt).marks, (std::vector{power, torque}));
-  run.imperial = false;
-  run.peaks.power = 0;
-  EXPECT_EQ(PowerChart(run, std::nullopt).marks,
-            (std::vector<ChartMark>{{3000, 110, "110.0 Nm", 0xFF0000}}));
-  EXPECT_EQ(ReadingText(run.points[0], false), "3000 rpm: 90.0 kW, 110.0 Nm");
-  const ChartMark rpm{3000, 0, "3000 rpm", 0, false};
-  EXPECT_EQ(ReadingMarks(run.points[0], false),
-            (std::vector<ChartMark>{
-                {3000, 90, "90.0 kW", 0x0000FF}, {3000, 110, "110.0 Nm", 0xFF0000}, rpm}));
+/// A run, its top speed, a benchmark, each with its peaks.
+TEST(PowerChart, NamesCurvesAndMarksPeaks) {
+  const auto told = [](const TableRow& row) {
+    PowerCurves run;
+    run.imperial = row.Text(0) == "imperial";
+    run.points = PointsOf(row.Text(1));
+    run.peaks = PeaksOf(run.points);
+    if (row.Number(2) > 0) run.peaks.topSpeed = row.Number(2);
+    std::optional<ShownBenchmark> benchmark;
+    if (row.Count() > 3) {
+      benchmark.emplace(PointsOf(row.Text(3)));
+      benchmark->peaks = PeaksOf(benchmark->points);
+    }
+    const ChartDescription chart = PowerChart(run, benchmark);
+    std::string text = Axis(chart.x) + " " + Axis(chart.y);
+    for (const ChartSeries& one : chart.Series()) {
+      text += "; " + one.name + ":";
+      for (std::size_t n = 0; n < one.x.size(); ++n)
+        text += " " + NumberText(one.x[n]) + " " + NumberText(one.y[n]);
+    }
+    return text + Marks(chart.marks);
+  };
+  ExpectTable(told, R"(
+imperial, 3000 90.25 110; 4000.4 120.25 100; 5000 -1 -1, 128 -> 1000-8000/7 halved 0-140/7; Your Power (120.2 hp @ 4000 rpm, Vmax 128 mph): 3000 90.25 4000.4 120.25 5000 -1; Your Torque (110.0 lbft @ 3000 rpm): 3000 110 4000.4 100 5000 -1; 4000.4 120.25 120.2 hp 255; 3000 110 110.0 lbft 16711680
+metric, 3000 90 110; 4000 120 100; 8500 1 2, 206.1, 8500 310.5 200; 9500 300 210 -> 1000-10000/9 halved 0-350/7; Your Power (120.0 kW @ 4000 rpm, Vmax 206.1 kmh): 3000 90 4000 120 8500 1; Your Torque (110.0 Nm @ 3000 rpm): 3000 110 4000 100 8500 2; Benchmark Power (310.5 kW @ 8500 rpm): 8500 310.5 9500 300; Benchmark Torque (210.0 Nm @ 9500 rpm): 8500 200 9500 210; 4000 120 120.0 kW 255; 3000 110 110.0 Nm 16711680
+metric, 3000 -1 110, 0 -> 1000-8000/7 halved 0-120/6; Your Power (0.0 kW @ 0 rpm): 3000 -1; Your Torque (110.0 Nm @ 3000 rpm): 3000 110; 3000 110 110.0 Nm 16711680
+)");
+  const PowerPoint point{3000, 90, 110};
+  ExpectTold(ReadingText(point, false) + Marks(ReadingMarks(point, false)), R"(3000 rpm: 90.0 kW, 110.0 Nm; 3000 90 90.0 kW 255; 3000 110 110.0 Nm 16711680; 3000 0 3000 rpm 0 no ring)");
 }
 
 }  // namespace

@@ -1,23 +1,11 @@
 #include "base/Numbers.h"
-#include "power/PowerCurves.h"
+#include "power/PowerLog.h"
 #include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-using Points = std::vector<PowerPoint>;
-
-/// "3000 90 100; 3500 90 120": rpm, power and torque of each point.
-Points PointsOf(const std::string& text) {
-  Points points;
-  for (const std::string& point : SplitAt(text, "; ")) {
-    const auto words = Split(point, ' ');
-    if (words.size() == 3)
-      points.push_back({std::stod(words[0]), std::stod(words[1]), std::stod(words[2])});
-  }
-  return points;
-}
-std::string Printed(const Points& points) {
+std::string Printed(const std::vector<PowerPoint>& points) {
   std::vector<std::string> told;
   for (const PowerPoint& p : points)
     told.push_back(FixedText(p.rpm, 0) + " " + FixedText(p.power, 3) + " " +
@@ -50,7 +38,7 @@ yes, yes -> 5000 100.000 100.000 | no, no -> 5000 100.000 100.000 | yes, no -> 5
 
 TEST(PowerCurves, AnAverageHoldsWithinTheBenchmarkAlone) {
   const auto averaged = [](const TableRow& row) {
-    Points run = PointsOf(row.Text(0));
+    std::vector<PowerPoint> run = PointsOf(row.Text(0));
     AverageWith(run, PointsOf(row.Text(1)));
     return Printed(run);
   };

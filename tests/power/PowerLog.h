@@ -7,6 +7,8 @@
 #include "base/Text.h"
 #include "model/Catalogue.h"
 #include "model/OpenLog.h"
+#include "power/PowerCurves.h"
+#include "support/Table.h"
 
 namespace tarnview {
 
@@ -37,5 +39,16 @@ struct PowerLog {
   Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
 };
+
+/// "3000 90 100; 3500 90 120": rpm, power and torque of each point.
+inline std::vector<PowerPoint> PointsOf(const std::string& text) {
+  std::vector<PowerPoint> points;
+  for (const std::string& point : SplitAt(text, "; ")) {
+    const auto words = Split(point, ' ');
+    if (words.size() == 3)
+      points.push_back({std::stod(words[0]), std::stod(words[1]), std::stod(words[2])});
+  }
+  return points;
+}
 
 }  // namespace tarnview

@@ -14,8 +14,20 @@
 
 namespace tarnview {
 
+/// What stands around each window here.
+class PowerDesktop : public ::testing::Test {
+ protected:
+  RecordingHost host;
+  MemoryFileSystem files;
+  FixedClock clock;
+  ErrorLog errors{files, clock, ""};
+  Messages messages{host, [](int) { return ""; }};
+  Settings settings;
+  Story story{host};
+};
+
 /// A power graph window over a small log, before a desktop that records.
-class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWindow {
+class PowerWindowsTest : public PowerDesktop, protected frmPowerGraph::MainWindow {
  protected:
   PowerWindowsTest() {
     story.Verb("draw", [this](const auto& ends) { Draw(ends[0], ends[1]); });
@@ -70,19 +82,12 @@ class PowerWindowsTest : public ::testing::Test, protected frmPowerGraph::MainWi
   void RecentPowerFilesChanged() override { window->ListRecentFiles(); }
   void PowerGraphClosed(int) override {}
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return ""; }};
-  Settings settings;
   clsCarDefs cars;
   SampleRange mainRange{120, 180};
   std::string plotted;  ///< what was last asked of the main window
   double speedFactor = 0;
   std::unique_ptr<PowerLog> made;
   std::unique_ptr<frmPowerGraph> window;
-  Story story{host};
 };
 
 }  // namespace tarnview

@@ -1,20 +1,17 @@
-#include "power/CarFile.h"
+#include "power/CarTold.h"
+#include "power/PowerWindowsFixture.h"
 #include "power/frmCarDefinitionDetails.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
 
 namespace tarnview {
 namespace {
 
-class CarDetails : public ::testing::Test {
+class CarDetails : public PowerDesktop {
  protected:
   CarDetails() {
     story.Verb("open", [this](const auto&) { Open(); });
     story.Fact("car", [this] {
       if (!window) return std::string();
-      const clsCarDef car = window->ColItem();
-      return std::string(window->Accepted() ? "accepted " : "") + car.strName + ", " + car.strDesc;
+      return std::string(window->Accepted() ? "accepted" : "") + CarTold(window->ColItem());
     });
   }
   void Open(const clsCarDef& car = {}) {
@@ -23,14 +20,8 @@ class CarDetails : public ::testing::Test {
     window->Show();
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return ""; }};
   std::string folder = "/cars";
   std::optional<frmCarDefinitionDetails> window;
-  Story story{host};
 };
 
 TEST_F(CarDetails, ShowsACarAndGivesItBackOnOK) {
@@ -46,15 +37,8 @@ click optAeroCD -> optAeroSetPoint unchecked, txtSetPointPower off, txtSetPointS
 type txtCD 1.2 -> txtCD=0.99
 type txtFrontalArea abc -> txtFrontalArea=0.01
 # Enter leaves the field first.
-write txtCD 5; key Enter -> -frmCarDefinitionDetails, car=accepted Mine, New Car Definition
+write txtCD 5; key Enter -> -frmCarDefinitionDetails, car=accepted Name=Mine, Diff Ratio=3.900, Wheel Diameter=15, Tyre Size Method=3, Use Drag Coefficient=Y, Drag Coefficient=0.99, Frontal Area=0.01, Default Gear=2, Car Weight=2400,
 )");
-  const clsCarDef& car = window->ColItem();
-  EXPECT_EQ(car.dblDiffRatio, 3.9);
-  EXPECT_EQ(car.lngWheelDiameter, 15);
-  EXPECT_EQ(car.lngPowerRunGear, 1);
-  EXPECT_EQ(car.lngTyreSizeMethod, kTyreRadius);
-  EXPECT_TRUE(car.blnUseCD);
-  EXPECT_EQ(car.dblCD, 0.99);
 }
 
 TEST_F(CarDetails, ASizeThatNoTyreListHasIsKept) {
@@ -76,9 +60,9 @@ answer no; click optUnits(0) -> [Convert field entries from metric to imperial a
 
 TEST_F(CarDetails, AChangedFormAsksBeforeItIsLeft) {
   EXPECT_STORY(story, R"(
-open; click cmdCancel -> car=New, New Car Definition
+open; click cmdCancel
 open; type txtDesc changed; answer no; click cmdCancel -> [Do you want to keep Car Definition changes? no]
-open; type txtDesc changed; answer yes; click cmdCancel -> [Do you want to keep Car Definition changes? yes], car=accepted New, changed
+open; type txtDesc changed; answer yes; click cmdCancel -> [Do you want to keep Car Definition changes? yes], car=accepted Description=changed,
 )");
 }
 

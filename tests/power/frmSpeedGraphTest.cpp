@@ -1,15 +1,13 @@
 #include "base/Numbers.h"
+#include "power/PowerWindowsFixture.h"
 #include "power/SpeedChart.h"
 #include "power/frmSpeedGraph.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
 #include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-class SpeedGraphTest : public ::testing::Test {
+class SpeedGraphTest : public PowerDesktop {
  protected:
   SpeedGraphTest() {
     input.file = "/logs/run.txt";
@@ -24,15 +22,8 @@ class SpeedGraphTest : public ::testing::Test {
     window->Show();
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return ""; }};
-  Settings settings;
   SpeedGraphInput input;
   std::optional<frmSpeedGraph> window;
-  Story story{host};
 };
 
 TEST_F(SpeedGraphTest, ShowsSpeedsAboveZeroAndAsksHowLongFromOneToTheOther) {
