@@ -105,7 +105,7 @@ s24= 57, s54=S= 61, s60=2.50v -> Speed 610, Aux NS 2500, Aux CS 11156
 s21=AT, s24= 57, s54=S= 61, s60=3 -> Speed 610, A Temp 570, L4 3, air from 57
 s21=AT, s24=-99, s54=3, s56=S= 61 -> Speed 610, L4 3, air from 0
 s21=AT, s24=-40, s54=3 -> A Temp -300, L4 3, air from -30
-s24= 57 -> Speed 570 | s24=1234 -> 
+s24= 57 -> Speed 570 | s24=1234 -> Speed 1230
 )");
 }
 

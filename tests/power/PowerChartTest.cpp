@@ -58,7 +58,9 @@ metric, 3000 90 110; 4000 120 100; 8500 1 2, 206.1, 8500 310.5 200; 9500 300 210
 metric, 3000 -1 110, 0 -> 1000-8000/7 halved 0-120/6; Your Power (0.0 kW @ 0 rpm): 3000 -1; Your Torque (110.0 Nm @ 3000 rpm): 3000 110; 3000 110 110.0 Nm 16711680
 )");
   const PowerPoint point{3000, 90, 110};
-  ExpectTold(ReadingText(point, false) + Marks(ReadingMarks(point, false)), R"(3000 rpm: 90.0 kW, 110.0 Nm; 3000 90 90.0 kW 255; 3000 110 110.0 Nm 16711680; 3000 0 3000 rpm 0 no ring)");
+  ExpectTold(
+      ReadingText(point, false) + Marks(ReadingMarks(point, false)),
+      R"(3000 rpm: 90.0 kW, 110.0 Nm; 3000 90 90.0 kW 255; 3000 110 110.0 Nm 16711680; 3000 0 3000 rpm 0 no ring)");
 }
 
 }  // namespace
