@@ -2,8 +2,10 @@
 
 #include "DefinitionText.h"
 #include "model/Catalogue.h"
+#include "support/Table.h"
 #include "universal/DefinitionFaults.h"
 #include "universal/DefinitionReader.h"
+#include "universal/DefinitionWriter.h"
 
 namespace tarnview {
 namespace {
@@ -85,41 +87,17 @@ TO=3
 [FILTER]
 DATA ITEM=45
 TO=0.5)");
-  EXPECT_EQ(
-      log.strName + "|" + log.strFileExtension + "|" + log.strFileIDText + "|" + log.strVersion,
-      "My Logs|csv|A=B|2");
-  EXPECT_EQ(log.lngFileIDTextLinesBefore, 2);
-  EXPECT_EQ(log.lngFileIDTextColumnsBefore, 2);
-  EXPECT_EQ(log.dblLineFrequency, 1);  // a float is the number at the text's start
-  EXPECT_TRUE(log.blnIgnoreDuplicateColumns);
-  ASSERT_EQ(log.objColumns.Count(), 1);
-  const clsDataLogColumn& column = log.objColumns.Item(1);
-  EXPECT_EQ(column.strColumnTitleCaps(), "GEAR SEL");
-  EXPECT_EQ(column.lngColumnDecimalPlaces, 5);
-  EXPECT_EQ(column.dblOffset, -2.5);
-  EXPECT_TRUE(column.blnDisplayZero.IsSet());
-  EXPECT_FALSE(column.blnDisplayZero);
-  EXPECT_EQ(column.lngLineWidth, 1);
-  EXPECT_FALSE(column.blnSetToMinimum);
-  EXPECT_EQ(column.lngConversionType, kPlainNumber);
-  std::string values;
-  for (const auto& value : *column.objColumnValues)
-    values += value->strDataLogValue + ":" + std::to_string(value->lngDataLogTranslation) + ";";
-  EXPECT_EQ(values, "Off:0;On = 1:1;:2;");
-
-  ASSERT_EQ(log.objPresetSampleGraphs.Count(), 1);
-  const clsSampleGraphPreset& sample = log.objPresetSampleGraphs.Item(1);
-  EXPECT_EQ(sample.strName, "One");
-  EXPECT_EQ(sample.colDataItems, (std::vector<int>{5, 3}));
-  EXPECT_EQ(sample.lngGraphMax, 10);
-  EXPECT_EQ(sample.lngLogFamily, 7);
-  ASSERT_EQ(log.objPresetScatterGraphs.Count(), 1);
-  const clsScatterGraphPreset& scatter = log.objPresetScatterGraphs.Item(1);
-  EXPECT_EQ(scatter.lngPointSize, 10);
-  EXPECT_EQ(scatter.lngPointShape, 0);
-  ASSERT_EQ(scatter.objFilters.Count(), 2);
-  EXPECT_EQ(scatter.objFilters.Item(1).dblTo, kBoundNotSet);  // a listed value has no upper bound
-  EXPECT_EQ(scatter.objFilters.Item(2).dblTo, 0.5);  // the last line of the file counts here
+  // What the file of it would say; a float is the number at the text's start, a listed value has no
+  // upper bound, and the last line of the file counts here.
+  const std::string told = Join(SplitAt(DefinitionFileText(log), "\r\n"), "; ");
+  ExpectTold(Join(SplitAt(told, "; ["), "\n["), R"([DATALOGDEFINITION]; LINEFREQUENCY=1; DELIMITERASCIICHARACTER=59; FILEIDTEXT=A=B; FILEIDTEXTCOLUMNSBEFORE=2; FILEIDTEXTLINESBEFORE=2; FILEEXTENSION=csv; NAME=My Logs; IGNOREDUPLICATECOLUMNS=Y; VERSION=2
+[COLUMN]; NAME=Gear; COLUMNTITLE=gear Sel; DATAITEMID=5; COLUMNDECIMALPLACES=5; TYPE=2; DESCRIPTION=Gear chosen; OFFSET=-2.5; DISPLAYZERO=N; DISPLAYLINEWIDTH=1; ALLOWSETTOMINIMUMVALUE=N
+[VALUES]; Off; On = 1; 
+[SAMPLE GRAPH]; DATA ITEMS=5,3; NAME=One; GRAPH MAX=10
+[SCATTER GRAPH]; POINT SIZE=10; Y AXIS=45; X AXIS=3; NAME=Three
+[FILTER]; FROM=2; DATA ITEM=5
+[FILTER]; TO=0.5; DATA ITEM=45; )");
+  EXPECT_EQ(log.objPresetSampleGraphs.Item(1).lngLogFamily, 7);
 }
 
 TEST(DefinitionReader, EachFaultTellsItsNumberAndDetails) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "LoadedUniversal.h"
 #include "support/LoadMessages.h"
 #include "support/Table.h"
@@ -125,71 +127,50 @@ TEST(UniversalLog, ListedTextsAreTranslated) {
   EXPECT_EQ(CellsOf("", {"1", "2", "3"}, 0, 3), "0 0 0");  // an unknown type
 }
 
-TEST(UniversalLog, DatesCountFromTheFirstOfTheLog) {
-  const DefinitionText dates{"",
-                             {ColumnText("Time", 63, 3, "CONVERSIONTYPE=1\n"),
-                              ColumnText("GPS", 5, 0, "CONVERSIONTYPE=1\n")},
-                             ""};
-  const Loaded loaded(dates,
-                      "GPS,Time\n"
-                      "bad,24-Nov-2026 23:59:59.500\n"
-                      "2026-11-25 00:00:01,25-Nov-2026 00:00:00.125\n"
-                      "2026/11/25 00:00:05,bad\n");
-  EXPECT_EQ(loaded.Cells(63), "0 625 626");
-  EXPECT_EQ(loaded.Cells(5), "0 2 6");
-}
-
-TEST(UniversalLog, TimesNeverFall) {
-  EXPECT_EQ(
-      Loaded(DefinitionText{"", {kTime}, ""}, "Time,x\n1,\n0.5,\n1.005,\n1.005,\n\n,\n").Cells(63),
-      "1000 1001 1005 1005 1006 1007");
-}
-
-TEST(UniversalLog, WithoutATimeColumnTheFrequencySetsTheTime) {
-  EXPECT_EQ(
-      Loaded(DefinitionText{"LINEFREQUENCY=3\n", {kPressure}, ""}, "MAP,x\n1\n1\n1\n").Cells(63),
-      "0 3333 6667");
-  // The definition's own column of seconds gives the factor, though this log lacks it.
-  EXPECT_EQ(Loaded(DefinitionText{"LINEFREQUENCY=10\n", {kPressure, kTime}, ""}, "MAP,x\n1\n1\n1\n")
-                .Cells(63),
-            "0 100 200");
-}
-
-TEST(UniversalLog, OneTitleMayFeedSeveralItemsAndOneItemMayHaveSeveralTitles) {
-  const std::string log = "A,B,A\n1,2,3\n4\n5,6\n";
-  const std::vector<std::string> columns{ColumnText("A", 5), ColumnText("B", 5),
-                                         ColumnText("A", 7)};
-  const Loaded all(DefinitionText{"LINEFREQUENCY=1\n", columns, ""}, log);
-  EXPECT_EQ(all.Cells(5) + "|" + all.Cells(7), "3 4 6|3 4 5");
-  const Loaded first(DefinitionText{"LINEFREQUENCY=1\nIGNOREDUPLICATECOLUMNS=Y\n", columns, ""},
-                     log);
-  EXPECT_EQ(first.Cells(5) + "|" + first.Cells(7), "2 4 6|1 4 5");
-  EXPECT_EQ(first.outcome.unknownColumns, std::vector<std::string>{"A"});
-}
-
-TEST(UniversalLog, ItemsWithAnOffsetThatALogLacksReadAsZero) {
-  const DefinitionText text{"LINEFREQUENCY=1\n",
-                            {kPressure, ColumnText("Temp", 7, 1, "OFFSET=40\n"),
-                             ColumnText("Low", 11, 1, "OFFSET=40\nCOLUMNMINIMUMVALUE=5\n")},
-                            ""};
-  const Loaded loaded(text, "MAP,x\n1\n2\n\n");
-  EXPECT_EQ(loaded.Cells(7), "400 400 400");
-  EXPECT_EQ(loaded.Cells(11), "450 450 450");
-  EXPECT_EQ(Loaded(text, "MAP,Temp\n1,5\n2,5\n\n").Cells(7), "450 450 0");
-}
-
-TEST(UniversalLog, TemperaturesAreNoted) {
+/// A definition's header, its columns by title, item, places and attributes, and a log's lines: the
+/// cells of its items, and what else came of it.
+TEST(UniversalLog, WhatColumnsAndHeaderMakeOfALog) {
   Settings settings;
   settings.gintPlotFromTemperature = 60;
-  const DefinitionText text{"LINEFREQUENCY=1\n",
-                            {ColumnText("Air", 31, 1, "OFFSET=40\n"), ColumnText("Water", 23, 1)},
-                            ""};
-  const Loaded loaded(text, "Air,Water\n20.5,59.9\n-7.5,60\n9,70\n", settings);
-  EXPECT_EQ(loaded.log.glngLowestAirTemp, -8);
-  EXPECT_EQ(loaded.log.glngFirstPlotSample, 1);
-  const Loaded without(text, "Air,x\n20.5\n20.5\n20.5\n", settings);
-  EXPECT_EQ(without.log.glngFirstPlotSample, -1);
-  EXPECT_EQ(without.log.glngLowestAirTemp, 20);
+  const auto tell = [&](const TableRow& row) {
+    DefinitionText text{TableRow(row.Text(0)).Lines() + "\n", {}, ""};
+    std::set<int> items{63};
+    for (const std::string& column : SplitAt(row.Text(1), "; ")) {
+      const auto words = Split(column, ' ');
+      const int item = StringToLong(words[1]);
+      std::string attributes;
+      for (std::size_t n = 3; n < words.size(); ++n) attributes += words[n] + "\n";
+      text.columns.push_back(ColumnText(words[0], item, StringToLong(words[2]), attributes));
+      items.insert(item);
+    }
+    const Loaded loaded(text, TableRow(row.Text(2)).Lines() + "\n", settings);
+    std::vector<std::string> told;
+    for (const int item : items) told.push_back(std::to_string(item) + ": " + loaded.Cells(item));
+    if (loaded.log.glngLowestAirTemp != kNoAirTemp)
+      told.push_back("air from " + std::to_string(loaded.log.glngLowestAirTemp));
+    told.push_back("plots from " + std::to_string(loaded.log.glngFirstPlotSample));
+    if (const auto& unknown = loaded.outcome.unknownColumns; !unknown.empty())
+      told.push_back("unknown " + Join(unknown, " "));
+    return Join(told, "; ");
+  };
+  ExpectTable(tell, R"(
+# Times never fall; dates count from the first of the log.
+COLOUR=0, Time 63 3, Time,x; 1,; 0.5,; 1.005,; 1.005,; ; , -> 63: 1000 1001 1005 1005 1006 1007; plots from -1; unknown x
+COLOUR=0, Time 63 3 CONVERSIONTYPE=1; GPS 5 0 CONVERSIONTYPE=1, GPS,Time; bad,24-Nov-2026 23:59:59.500; 2026-11-25 00:00:01,25-Nov-2026 00:00:00.125; 2026/11/25 00:00:05,bad -> 5: 0 2 6; 63: 0 625 626; plots from -1
+# Without a column of times the frequency sets them, by the factor of the definition's own column.
+LINEFREQUENCY=3, MAP 5 1, MAP,x; 1; 1; 1 -> 5: 10 10 10; 63: 0 3333 6667; plots from -1; unknown x
+LINEFREQUENCY=10, MAP 5 1; Time 63 3, MAP,x; 1; 1; 1 -> 5: 10 10 10; 63: 0 100 200; plots from -1; unknown x
+# A title that feeds two items, an item of two titles; then duplicates are passed over.
+LINEFREQUENCY=1, A 5 0; B 5 0; A 7 0, A,B,A; 1,2,3; 4; 5,6 -> 5: 3 4 6; 7: 3 4 5; 63: 0 10000 20000; plots from -1
+LINEFREQUENCY=1; IGNOREDUPLICATECOLUMNS=Y, A 5 0; B 5 0; A 7 0, A,B,A; 1,2,3; 4; 5,6 -> 5: 2 4 6; 7: 1 4 5; 63: 0 10000 20000; plots from -1; unknown A
+# An item with an offset that a log lacks reads as zero.
+LINEFREQUENCY=1, MAP 5 1; Temp 7 1 OFFSET=40; Low 11 1 OFFSET=40 COLUMNMINIMUMVALUE=5, MAP,x; 1; 2;  -> 5: 10 20 0; 7: 400 400 400; 11: 450 450 450; 63: 0 10000 20000; plots from -1; unknown x
+LINEFREQUENCY=1, MAP 5 1; Temp 7 1 OFFSET=40; Low 11 1 OFFSET=40 COLUMNMINIMUMVALUE=5, MAP,Temp; 1,5; 2,5;  -> 5: 10 20 0; 7: 450 450 0; 11: 450 450 450; 63: 0 10000 20000; plots from -1
+# The coldest air, and the first sample as warm as the settings want.
+LINEFREQUENCY=1, Air 31 1 OFFSET=40; Water 23 1, Air,Water; 20.5,59.9; -7.5,60; 9,70 -> 23: 599 600 700; 31: 605 325 490; 63: 0 10000 20000; air from -8; plots from 1
+LINEFREQUENCY=1, Air 31 1 OFFSET=40; Water 23 1, Air,x; 20.5; 20.5; 20.5 -> 23: 0 0 0; 31: 605 605 605; 63: 0 10000 20000; air from 20; plots from -1; unknown x
+LINEFREQUENCY=1, MAP 5 0 SMOOTH=Y, MAP,x; 10; 10; 13; 13 -> 5: 10 12 13 13; 63: 0 10000 20000 30000; plots from -1; unknown x
+)");
 }
 
 TEST(UniversalLog, WhatDoesNotLoadSaysWhy) {
@@ -264,11 +245,6 @@ TEST(Smoothing, TurnsStairsIntoRamps) {
   EXPECT_EQ(smoothed({30, 30, 60, 60, 61, 61}), (Values{30, 45, 60, 60, 61, 61}));
   EXPECT_EQ(smoothed({7, 7, 7}), (Values{7, 7, 7}));
   EXPECT_EQ(smoothed({}), Values{});
-}
-
-TEST(Smoothing, FollowsTheLoad) {
-  const DefinitionText text{"LINEFREQUENCY=1\n", {ColumnText("MAP", 5, 0, "SMOOTH=Y\n")}, ""};
-  EXPECT_EQ(Loaded(text, "MAP,x\n10\n10\n13\n13\n").Cells(5), "10 12 13 13");
 }
 
 }  // namespace
