@@ -2,7 +2,6 @@
 
 #include "DefinitionText.h"
 #include "model/Catalogue.h"
-#include "support/Table.h"
 #include "universal/DefinitionFaults.h"
 #include "universal/DefinitionReader.h"
 #include "universal/DefinitionWriter.h"
@@ -89,8 +88,9 @@ DATA ITEM=45
 TO=0.5)");
   // What the file of it would say; a float is the number at the text's start, a listed value has no
   // upper bound, and the last line of the file counts here.
-  const std::string told = Join(SplitAt(DefinitionFileText(log), "\r\n"), "; ");
-  ExpectTold(Join(SplitAt(told, "; ["), "\n["), R"([DATALOGDEFINITION]; LINEFREQUENCY=1; DELIMITERASCIICHARACTER=59; FILEIDTEXT=A=B; FILEIDTEXTCOLUMNSBEFORE=2; FILEIDTEXTLINESBEFORE=2; FILEEXTENSION=csv; NAME=My Logs; IGNOREDUPLICATECOLUMNS=Y; VERSION=2
+  ExpectTold(
+      BlockLines(DefinitionFileText(log)),
+      R"([DATALOGDEFINITION]; LINEFREQUENCY=1; DELIMITERASCIICHARACTER=59; FILEIDTEXT=A=B; FILEIDTEXTCOLUMNSBEFORE=2; FILEIDTEXTLINESBEFORE=2; FILEEXTENSION=csv; NAME=My Logs; IGNOREDUPLICATECOLUMNS=Y; VERSION=2
 [COLUMN]; NAME=Gear; COLUMNTITLE=gear Sel; DATAITEMID=5; COLUMNDECIMALPLACES=5; TYPE=2; DESCRIPTION=Gear chosen; OFFSET=-2.5; DISPLAYZERO=N; DISPLAYLINEWIDTH=1; ALLOWSETTOMINIMUMVALUE=N
 [VALUES]; Off; On = 1; 
 [SAMPLE GRAPH]; DATA ITEMS=5,3; NAME=One; GRAPH MAX=10

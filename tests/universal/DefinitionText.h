@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "support/Table.h"
+
 namespace tarnview {
 
 /// The text of a small definition of comma-separated logs: extra lines of the header, columns of
@@ -21,6 +23,11 @@ struct DefinitionText {
     return text + behind + "\n";
   }
 };
+
+/// The text of a definition's file, a line for each block.
+inline std::string BlockLines(const std::string& file) {
+  return Join(SplitAt(Join(SplitAt(file, "\r\n"), "; "), "; ["), "\n[");
+}
 
 /// The lines of a column that are mandatory, and more.
 inline std::string ColumnText(const std::string& title, int item, int places = 0,

@@ -114,24 +114,29 @@ TEST(FormedLog, WithoutTitlesTheColumnsAreNumbered) {
             "7 8 9");
 }
 
-std::string Times(std::vector<double> stamps, TimeForm form = TimeForm::Seconds) {
-  std::string text;
-  for (const double time : TimesOfLines(stamps, form))
-    text += (text.empty() ? "" : " ") + NumberText(RoundPlaces(time, 3));
-  return text;
-}
-
+/// Stamps of a column, "x" where a line has none; of a clock behind that word.
 TEST(LogTimes, CountFromTheFirstAndNeverFall) {
-  const double none = std::nan("");
-  EXPECT_EQ(Times({38.5, 38.6, 38.7}), "0 0.1 0.2");
-  EXPECT_EQ(Times({86399.5, 86399.9, 0.3, 0.7}, TimeForm::Clock), "0 0.4 0.8 1.2");
-  EXPECT_EQ(Times({10, 10, 11, 11, 12, 12}), "0 0.5 1 1.5 2 2.5");  // whole seconds
-  EXPECT_EQ(Times({10, 10, 11, 11, 50, 51}), "0 0.5 1 2.5 40 41");  // a pause is no span
-  EXPECT_EQ(Times({5, 6, 7, 0, 1, 2}), "0 1 2 3 4 5");              // started anew
-  EXPECT_EQ(Times({5, 6, 5.9, 7}), "0 1 1.5 2");                    // lines changed places
-  EXPECT_EQ(Times({none, 5, none, 7}), "0 0.667 1.333 2");
-  EXPECT_EQ(Times({58, 59, 59, 60, 60, 61}), "0 0.5 1 1.5 2 2.5");  // cut at both ends
-  EXPECT_EQ(Times({}), "");
+  const auto times = [](const TableRow& row) {
+    std::vector<double> stamps;
+    auto form = TimeForm::Seconds;
+    for (const std::string& word : Split(row.All(), ' ')) {
+      if (word == "clock")
+        form = TimeForm::Clock;
+      else
+        stamps.push_back(word == "x" ? std::nan("") : std::stod(word));
+    }
+    std::string text;
+    for (const double time : TimesOfLines(stamps, form))
+      text += NumberText(RoundPlaces(time, 3)) + " ";
+    return text;
+  };
+  ExpectTable(times, R"(
+38.5 38.6 38.7 -> 0 0.1 0.2  | clock 86399.5 86399.9 0.3 0.7 -> 0 0.4 0.8 1.2  | x 5 x 7 -> 0 0.667 1.333 2 
+# Whole seconds; cut at both ends; a pause is no span; started anew; lines changed places.
+10 10 11 11 12 12 -> 0 0.5 1 1.5 2 2.5  | 58 59 59 60 60 61 -> 0 0.5 1 1.5 2 2.5  | 10 10 11 11 50 51 -> 0 0.5 1 2.5 40 41  | 5 6 7 0 1 2 -> 0 1 2 3 4 5  | 5 6 5.9 7 -> 0 1 1.5 2 
+)");
+  std::vector<double> none;
+  EXPECT_TRUE(TimesOfLines(none, TimeForm::Seconds).empty());
 }
 
 }  // namespace

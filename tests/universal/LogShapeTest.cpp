@@ -102,21 +102,15 @@ TEST(LogShape, WhatIsNoLogHasALowScore) {
 }
 
 TEST(LogShape, TheUnitOfATimeIsThePlausibleOneWhereNoneIsTold) {
-  const struct {
-    double step;
-    const char* form;
-  } kRows[] = {
-      {0.02, "SECONDS"},     {1, "SECONDS"},          {2, "SECONDS"},     {20, "MILLISECONDS"},
-      {250, "MILLISECONDS"}, {20000, "MICROSECONDS"}, {0.000002, "DAYS"}, {1e9, ""}};
-  for (const auto& row : kRows) {
+  const auto form = [](const TableRow& row) {
     std::string text = "Time,RPM\n";
-    for (int line = 0; line < 8; ++line) {
-      char stamp[40];
-      std::snprintf(stamp, sizeof stamp, "%.6f,%d\n", line * row.step, 900 + line);
-      text += stamp;
-    }
-    EXPECT_EQ(TimeFormName(ShapeOf(text).time.form), row.form) << row.step;
-  }
+    for (int line = 0; line < 8; ++line)
+      text += FixedText(line * row.Number(0), 6) + "," + std::to_string(900 + line) + "\n";
+    return std::string(TimeFormName(ShapeOf(text).time.form));
+  };
+  ExpectTable(form, R"(
+0.02 -> SECONDS | 1 -> SECONDS | 2 -> SECONDS | 20 -> MILLISECONDS | 250 -> MILLISECONDS | 20000 -> MICROSECONDS | 0.000002 -> DAYS | 1e9 -> 
+)");
 }
 
 TEST(LogShape, PressuresAreToldApartByTheirValues) {

@@ -5,6 +5,7 @@
 #include "support/Table.h"
 #include "universal/ShapeField.h"
 #include "universal/TextEncoding.h"
+#include "universal/TimeBase.h"
 #include "universal/TimeText.h"
 #include "universal/TitleDictionary.h"
 #include "universal/Units.h"
@@ -54,6 +55,18 @@ TEST(TimeText, AsLoggersWriteIt) {
 Fri Jan 02 00:00:05 GMT+01:00 2026 -> 86405dc | 12.5 ->  | 1.2.3 ->  | 25 rpm -> 
 12:61 ->  | 2026-13-40 ->  | Jan ->  | 12:00:00 x -> 
 
+)");
+}
+
+TEST(TimeBase, TheRateThatAPreambleTells) {
+  const auto rate = [](const TableRow& row) {
+    const std::string text = TableRow(row.Text(1)).Lines();
+    std::vector<std::string_view> lines;
+    for (std::string_view rest = text, line; TakeLine(rest, line);) lines.push_back(line);
+    return NumberText(RateOfPreamble(lines, row.Int(0)));
+  };
+  ExpectTable(rate, R"(
+1, Sample rate: 50 Hz -> 50 | 1, x; Sample rate: 50 -> 0 | 2, x; Sample rate: 50 -> 50 | 3, x; Frequency (Hz),12.5 -> 12.5 | 3, none -> 0 | 2, 9 frequency; sample rate 5 -> 5 | 1, Frequency 0.1 -> 0.1 | 1, Frequency 0.09 -> 0 | 1, Frequency 1000 -> 1000 | 1, Frequency 1000.5 -> 0 | 1, frequency 7 sample rate 8 -> 7
 )");
 }
 
