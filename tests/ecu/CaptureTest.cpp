@@ -8,6 +8,7 @@ TEST(Capture, GoesFromStepToStep) {
 set Serial Com Port=2; capture; list /; read /logs/run.txt; read /logs/run.bin; read /link/NewDataLogDescription.txt -> prompt; frmNewDownload; close; run /link/L.exe -p 2 -t in /link/; run /mdos/C.exe in /mdos/; load /logs/run.txt 1; /link/L.exe /link/NewDataLogDescription.txt /link/miata.dat /link/miata.map /logs/old.txt /logs/run.bin /logs/run.txt /mdos/C.exe /mdos/miatatmp.bin /mdos/miatatmp.txt ; text of binary; binary; [General]\nPath and Filename=/logs/run.txt\n
 set Default Working Directory=/logs; set Retain Binary Files=N; exits 0; exits 7; capture; list /logs -> prompt; frmNewDownload; close; run /link/L.exe -t in /link/; run /mdos/C.exe in /mdos/; load /logs/run.txt 1; /logs/old.txt /logs/run.txt 
 zones; capture; read /logs/run.map; list /logs -> prompt; frmNewDownload; close; run /link/L.exe -m -t in /link/; load /logs/run.map 2; save /logs/run.map; zones; /logs/old.txt /logs/run.map 
+set Serial Com Port=9; zones; capture -> prompt; frmNewDownload; close; run /link/L.exe -m -p 9 -t in /link/; load /logs/run.map 2; save /logs/run.map
 zones; fails save; capture -> prompt; frmNewDownload; close; run /link/L.exe -m -t in /link/; load /logs/run.map 2; save /logs/run.map; 12/64; say Loading failed
 zones; fails load; capture -> prompt; frmNewDownload; close; run /link/L.exe -m -t in /link/; load /logs/run.map 2
 zones; L nothing; capture -> prompt; frmNewDownload; close; run /link/L.exe -m -t in /link/; 14/48

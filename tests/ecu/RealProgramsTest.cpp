@@ -59,29 +59,24 @@ TEST_F(RealPrograms, CaptureConvertAndUpload) {
 }
 
 TEST_F(RealPrograms, TellOfEachWayInWhichTheyFail) {
-  struct Row {
-    const char* logger;
-    const char* converter;
-    const char* told;
-  };
-  const Row rows[] = {
-      // clang-format off
-      {"exit 127\n", "", ASKED " | Unknown Error, 127/48"},
-      {"exit 128\n", "", ASKED " | Unknown Error, -128/48"},
-      {"exit 218\n", "", ASKED " | Unknown Error, -38/48"},
-      {"exit 234\n", "", ASKED " | Error opening comm port., -22/48"},
-      {"exit 255\n", "", ASKED " | Stop/Resume log data output command NAK'd., -1/48"},
-      {"write miata.dat x\nkill\n", "", ASKED " | Unknown Error, -122/48"},  // the signal of abort is 6
-      {"write other.dat x\n", "", ASKED " | 13/48"},
-      {"write miata.dat x\n", "exit 3\n", ASKED " | 25/48"},
-      {"half miata.dat samples\n", "half miatatmp.txt text\nexit 7\n", LOADED},
-      // clang-format on
-  };
-  for (const Row& row : rows)
-    EXPECT_EQ(Do("file @/my link/L.exe.script=" + std::string(row.logger) +
-                 "; file @/mdos/C.exe.script=" + row.converter + "; capture"),
-              row.told)
-        << row.logger;
+  // script of the logger, script of the converter; the signal of abort is 6
+  ExpectTable(
+      [this](const TableRow& row) {
+        return InOneLine(Do("file @/my link/L.exe.script=" + Join(Split(row.Text(0), '/'), "\n") +
+                            "\n; file @/mdos/C.exe.script=" + Join(Split(row.Text(1), '/'), "\n") +
+                            "\n; capture"));
+      },
+      R"(
+exit 127,  -> prompt; frmNewDownload; close; Unknown Error, 127/48
+exit 128,  -> prompt; frmNewDownload; close; Unknown Error, -128/48
+exit 218,  -> prompt; frmNewDownload; close; Unknown Error, -38/48
+exit 234,  -> prompt; frmNewDownload; close; Error opening comm port., -22/48
+exit 255,  -> prompt; frmNewDownload; close; Stop/Resume log data output command NAK'd., -1/48
+write miata.dat x/kill,  -> prompt; frmNewDownload; close; Unknown Error, -122/48
+write other.dat x,  -> prompt; frmNewDownload; close; 13/48
+write miata.dat x, exit 3 -> prompt; frmNewDownload; close; 25/48
+half miata.dat samples, half miatatmp.txt text/exit 7 -> prompt; frmNewDownload; close; load @/logs/run.txt 1
+)");
   EXPECT_EQ(Do("read @/logs/run.txt"), "te") << "the loader says what it thinks of half a log";
 }
 

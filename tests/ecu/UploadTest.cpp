@@ -7,6 +7,8 @@ TEST(Upload, GoesFromStepToStep) {
   ExpectStories(R"(
 upload; left; read /link/vstrUploadCommand.txt; list /logs/Uploads -> frmUpload; frmUploadConf; run /link/L.exe -q -s -c -f TVW.map in /link/; z720; Tarnview Upload Command File\n\n/link/L.exe -q -s -c -f TVW.map\n; /logs/Uploads/TVW 2026-11-24 14-05-09.map 
 set Serial Com Port=3; user frmUpload click chkOption(0), click chkOption(1), click chkOption(3), choose cboAutoTune Fine With Idle, click cmdOK; upload -> frmUpload; frmUploadConf; run /link/L.exe -q -p 3 -a fine_with_idle -v -f TVW.map in /link/
+user frmUpload click chkOption(1), choose cboAutoTune Coarse No Idle, click cmdOK; upload -> frmUpload; frmUploadConf; run /link/L.exe -q -s -a coarse_no_idle -f TVW.map in /link/
+user frmUpload click chkOption(0), choose cboAutoTune Fine No Idle, click cmdOK; upload -> frmUpload; frmUploadConf; run /link/L.exe -q -c -a fine_no_idle -f TVW.map in /link/
 # What ends it before anything is touched.
 form 1.6 2003-06-09; gone /link/L.exe; upload -> 6/64
 form 1.6 2003-06-09; file /link/TVW.map=x; upload; read /link/TVW.map -> 5/64; x

@@ -1,46 +1,13 @@
-// What the outside programs are called with, what their exit codes mean, and the names of new
-// files.
+// What the exit codes of the outside programs mean, and the names of new files.
 
 #include <set>
 
-#include "ecu/CommandLines.h"
-#include "ecu/EcuFiles.h"
 #include "ecu/ExitCodes.h"
 #include "ecu/NewFileNames.h"
 #include "support/Table.h"
 
 namespace tarnview {
 namespace {
-
-Settings OwnPrograms(const char* port) {
-  Settings settings;
-  settings.gstrLogEXE = "C:\\My Link\\L.exe";
-  settings.gstrConversionEXE = "/mdos/C";
-  settings.gstrSerialComPort = port;
-  return settings;
-}
-
-TEST(CommandLines, AreTheProgramAndItsOptionsInTheirOrder) {
-  // port, what for; of an upload what is ticked, in the window's order, and the mode of tuning
-  ExpectTable(
-      [](const TableRow& row) {
-        const Settings own = OwnPrograms(row.Text(0).c_str());
-        const std::string& what = row.Text(1);
-        if (what == "log") return CaptureCall(own, NewFileType::DataLog).Text();
-        if (what == "map") return CaptureCall(own, NewFileType::ZoneSettings).Text();
-        if (what == "conversion") return ConversionCall(own).Text();
-        if (what == "record") return LoggerFiles(own).uploadCommand();
-        const auto ticked = [&](char box) { return what.find(box) != std::string::npos; };
-        return UploadCall(own, {ticked('1'), ticked('2'), ticked('3'), ticked('4'), "/a.map",
-                                AutoTuneMode{row.Int(2)}})
-            .arguments;
-      },
-      R"(
-1, log -> C:\My Link\L.exe -t | 4, log -> C:\My Link\L.exe -p 4 -t | 1, map -> C:\My Link\L.exe -m -t | 9, map -> C:\My Link\L.exe -m -p 9 -t | 4, conversion -> /mdos/C | 1, record -> C:\My Link\vstrUploadCommand.txt
-2, upload, 0 ->  -q -p 2 -f TVW.map | 2, upload 1, 0 ->  -q -s -p 2 -f TVW.map | 2, upload 2, 0 ->  -q -c -p 2 -f TVW.map | 2, upload 3, 0 ->  -q -p 2 -f TVW.map | 2, upload 4, 0 ->  -q -p 2 -v -f TVW.map
-2, upload, 1 ->  -q -p 2 -a coarse_no_idle -f TVW.map | 2, upload, 3 ->  -q -p 2 -a fine_with_idle -f TVW.map | 2, upload 1234, 2 ->  -q -s -c -p 2 -a fine_no_idle -v -f TVW.map | 1, upload, 0 ->  -q -f TVW.map
-)");
-}
 
 TEST(ExitCodes, HaveTheirTexts) {
   ExpectTable([](const TableRow& row) { return ExitCodeText(row.Int(0)); }, R"(

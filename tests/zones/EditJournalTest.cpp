@@ -2,17 +2,14 @@
 
 #include "zones/EditJournal.h"
 #include "zones/ZoneEdits.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
 EditJournal Sample() {
-  ZoneMap source;
-  source.zones.fill(100);
-  source.zones[5] = 2;
+  ZoneMap source = MapWith(Chip("1.8 2005-02-10 3"), 2, 100);
   source.zones[255] = -1;
-  source.chip = {1.8, MakeDate(2005, 2, 10), 3};
-  source.intAtmosphericPressure = 99;
   source.strNotes = "a\\n\r\nb\t";
   return {"/car/a.map", 2, source};
 }
@@ -59,8 +56,8 @@ TEST(EditJournal, WhatIsNoneOrNotWhole) {
   for (std::size_t length = 0; length + 4 < text.size(); length += 7)
     EXPECT_FALSE(ReadJournal(text.substr(0, length)));
   const std::pair<const char*, const char*> changes[] = {
-      {"Tarnview", "x"}, {"1.8 ", ""},   {" 3 99", " 4 99"}, {"100 100", "100"},
-      {"6=7", "999=7"},  {"6=7", "6=x"}, {"6=7", "6"},       {"=L3+L4", "=L5"}};
+      {"Tarnview", "x"}, {"1.8 ", ""},   {" 3 101", " 4 101"}, {"100 100", "100"},
+      {"6=7", "999=7"},  {"6=7", "6=x"}, {"6=7", "6"},         {"=L3+L4", "=L5"}};
   for (const auto& [from, to] : changes) {
     std::string changed = text;
     changed.replace(changed.find(from), std::string(from).size(), to);

@@ -5,20 +5,17 @@
 namespace tarnview {
 namespace {
 
-TEST(ZoneGrid, CellsOfTheClosedLoopSettings) {
-  EXPECT_EQ(ZoneCell(ZoneGrid::Fuel, 5, 0), 112);
-  EXPECT_EQ(ZoneCell(ZoneGrid::Ignition, 5, 1), 209);
-  EXPECT_EQ(ZoneCell(ZoneGrid::Fuel, 0, 0), 32);
-}
-
-TEST(ZoneGrid, HeadingsAndTheMAPsBehindThem) {
-  EXPECT_EQ(ZoneRowHeading(true, 6), "97 kPa 600");
-  EXPECT_EQ(RowMAPfromRow(true, 6), 960);
-  EXPECT_EQ(RowMAPfromRow(true, 7), 300);
-  EXPECT_EQ(ZoneRowHeading(false, 3), "100 kPa 300");
-  EXPECT_EQ(RowMAPfromRow(false, 3), 1000);
-  EXPECT_EQ(ZoneColumnHeading(0), "00");
-  EXPECT_EQ(ZoneColumnHeading(15), "75");
+TEST(ZoneGrid, HeadingsTheMAPsBehindThemAndTheFirstCells) {
+  std::string told;
+  for (const bool aspirated : {true, false})
+    for (int row = 1; row <= 6; ++row)
+      told += std::string(ZoneRowHeading(aspirated, row)) + " is " +
+              std::to_string(RowMAPfromRow(aspirated, row)) + ", ";
+  for (int row = 0; row < 6; ++row)
+    told += std::to_string(ZoneCell(ZoneGrid::Fuel, row, 0)) + " " +
+            std::to_string(ZoneCell(ZoneGrid::Ignition, row, 1)) + " ";
+  ExpectTold(told + ZoneColumnHeading(0) + " " + ZoneColumnHeading(15), R"(30 kPa 100 is 300, 44 kPa 200 is 440, 57 kPa 300 is 570, 70 kPa 400 is 700, 84 kPa 500 is 840, 97 kPa 600 is 960, 20 kPa 100 is 200, 60 kPa 200 is 600, 100 kPa 300 is 1000, 140 kPa 400 is 1400, 180 kPa 500 is 1800, 220 kPa 600 is 2200, 32 129 48 145 64 161 80 177 96 193 112 209 00 75)");
+  EXPECT_EQ(RowMAPfromRow(true, 7), 300) << "a row that is none";
 }
 
 TEST(ZoneGrid, RowsAroundAMAP) {
@@ -48,7 +45,7 @@ TEST(ZoneGrid, HowFarASampleLiesBetweenTwoRows) {
     }
     told += "\n";
   }
-  EXPECT_EQ(told, R"(1-2 0.000 1-2 0.000 1-2 1.000 2-3 0.000 2-3 1.000 3-4 0.000
+  ExpectTold(told, R"(1-2 0.000 1-2 0.000 1-2 1.000 2-3 0.000 2-3 1.000 3-4 0.000
 4-5 -0.038 4-5 0.000 4-5 1.000 5-6 0.000 5-6 0.917 5-6 1.000 5-6 1.000 
 0-1 0.500 1-2 0.250 1-2 0.575 1-2 0.600 1-2 0.900 1-2 0.925
 2-3 0.237 2-3 0.250 2-3 0.575 2-3 0.600 2-3 0.875 2-3 0.975 5-6 0.975 
