@@ -2,6 +2,7 @@
 
 #include "model/Column.h"
 #include "zoneeditor/EditorWorld.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
@@ -18,9 +19,7 @@ class DriveGridsTest : public testing::Test, protected EditorWorld, protected Dr
     Add(30, 3000, 15400, 0);
     log.glngLastSample = log.glngLastSampleTime = 89;
     ZoneEditorParameters parameters;
-    parameters.map.zones.fill(100);
-    parameters.map.zones[5] = 2;
-    parameters.map.chip = {1.8, MakeDate(2005, 2, 10), 3};
+    parameters.map = MapWith(Chip("1.8 2005-02-10 3"), 2, 100);
     parameters.comparison = ComparisonZones{};
     Open(parameters, this);
     story.PassOver("back_colour");  // heat: see below

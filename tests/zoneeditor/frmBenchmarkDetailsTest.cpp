@@ -1,6 +1,8 @@
 #include "EditorWorld.h"
 #include "model/clsLogFamilies.h"
 #include "zoneeditor/frmBenchmarkDetails.h"
+#include "zones/MapFile.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
@@ -8,12 +10,7 @@ namespace {
 class BenchmarkDetailsTest : public ::testing::Test, protected EditorWorld {
  protected:
   BenchmarkDetailsTest() {
-    std::string line;
-    for (int c = 0; c < 16; ++c) line += " 050";
-    for (int n = 0; n < 15; ++n) files.files["/car/a.map"] += line + "\r\n";
-    files.files["/car/a.map"] +=
-        " Engine Size: 1.8\r\n Chip Date: 2004-07-02\r\n Chip Version: 3\r\n"
-        " Atmospheric Pressure: 101\r\n";
+    files.files["/car/a.map"] = MapText(MapWith(Chip("1.8 2004-07-02 3"), 50, 50, 50), {});
     files.files["/car/no.map"] = "none";
     settings.gstrDefaultWorkingDirectory = "/logs";
     story.Fact("edited", [this] { return edited; });

@@ -1,11 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "base/Numbers.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
 #include "support/Table.h"
-#include "ui/RecordingHost.h"
+#include "zoneeditor/EditorWorld.h"
 #include "zoneeditor/frmGridGraph.h"
 
 namespace tarnview {
@@ -28,7 +23,7 @@ GridGraphRequest Request() {
   return request;
 }
 
-class frmGridGraphTest : public testing::Test {
+class frmGridGraphTest : public testing::Test, protected EditorWorld {
  protected:
   frmGridGraphTest() {
     story.Verb("angles", [this](const auto&) { angles = {1, 2, 3, 4}; });
@@ -48,14 +43,8 @@ class frmGridGraphTest : public testing::Test {
         static_cast<std::size_t>(row - 1), static_cast<std::size_t>(column - 1)));
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return std::string(); }};
   GraphAngles angles;
   std::unique_ptr<frmGridGraph> window;
-  Story story{host};
 };
 
 TEST_F(frmGridGraphTest, CellsArePickedAndEditedInTheGraph) {

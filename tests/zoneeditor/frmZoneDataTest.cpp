@@ -9,20 +9,17 @@
 #include "zoneeditor/frmLoadBenchmark.h"
 #include "zoneeditor/frmOffset.h"
 #include "zones/ZoneNames.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
-const ChipIdentity kThird{1.8, MakeDate(2005, 2, 10), 3};
+const ChipIdentity kThird = Chip("1.8 2005-02-10 3");
 
-ZoneMap MapWith(int zones, int flags) {
-  ZoneMap map;
-  map.zones.fill(static_cast<std::int16_t>(zones));
+/// All in its range.
+ZoneMap MapOf(int zones, int flags) {
+  ZoneMap map = MapWith(kThird, flags, 0, zones);
   map.zones[4] = 50;
-  map.zones[5] = static_cast<std::int16_t>(flags);
-  map.zones[240] = 0;
-  map.chip = kThird;
-  map.intAtmosphericPressure = 101;
   return map;
 }
 
@@ -33,7 +30,7 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
       clsBenchmark benchmark;
       benchmark.strName = name;
       benchmark.ChipDate = kThird.datChipDate;
-      ZoneMap map = MapWith(name[0] == 'S' ? 90 : 200, 2);
+      ZoneMap map = MapOf(name[0] == 'S' ? 90 : 200, 2);
       map.intAtmosphericPressure = 88;
       SetMap(benchmark, map);
       benchmarks.AddDirect(benchmark);
@@ -44,7 +41,7 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
   }
   void OpenMap(int flags = 2) {
     ZoneEditorParameters parameters;
-    parameters.map = MapWith(100, flags);
+    parameters.map = MapOf(100, flags);
     parameters.fileName = "a.map";
     parameters.mayUpload = true;
     Open(parameters);
@@ -54,7 +51,7 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
     const ZoneMap map = window->Map();
     std::string told = window->History().UndoName() + ":";
     for (std::size_t zone = 0; zone < 256; ++zone)
-      if (map.zones[zone] != MapWith(100, 2).zones[zone])
+      if (map.zones[zone] != MapOf(100, 2).zones[zone])
         told += " " + ZoneName(static_cast<int>(zone)) + "=" + std::to_string(map.zones[zone]);
     return told;
   }
@@ -225,9 +222,9 @@ close -> -frmZoneData.2
 
 TEST_F(frmZoneDataTest, TheLogsOwnSetsComeFirst) {
   ZoneEditorParameters parameters;
-  parameters.map = MapWith(100, 2);
+  parameters.map = MapOf(100, 2);
   parameters.fileName = "a.txt";
-  parameters.comparison = ComparisonZones{MapWith(110, 2).zones, MapWith(120, 2).zones};
+  parameters.comparison = ComparisonZones{MapOf(110, 2).zones, MapOf(120, 2).zones};
   settings.gstrDefaultBenchmark = "gone";
   Open(parameters);
   EXPECT_STORY(story, R"(
@@ -322,7 +319,7 @@ answer {yes|no}; click radBoost({0|1}))");
 }
 
 TEST_F(frmZoneDataTest, ABenchmarksFileIsTextAsAnyEditorLeavesIt) {
-  std::string map = MapText(MapWith(100, 2), {});
+  std::string map = MapText(MapOf(100, 2), {});
   files.files["mark.map"] = "\xEF\xBB\xBF" + map.substr(map.find(" 100"));
   std::erase(map, '\n');
   files.files["cr.map"] = map;
@@ -331,7 +328,7 @@ TEST_F(frmZoneDataTest, ABenchmarksFileIsTextAsAnyEditorLeavesIt) {
     loading.FileToLoad = path;
     loading.Run();
     ASSERT_TRUE(loading.SuccessfulLoad()) << path;
-    EXPECT_EQ(MapOf(loading.LoadedBenchmark()).zones, MapWith(100, 2).zones) << path;
+    EXPECT_EQ(MapOf(loading.LoadedBenchmark()).zones, MapOf(100, 2).zones) << path;
   }
 }
 

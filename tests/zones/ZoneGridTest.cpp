@@ -14,7 +14,9 @@ TEST(ZoneGrid, HeadingsTheMAPsBehindThemAndTheFirstCells) {
   for (int row = 0; row < 6; ++row)
     told += std::to_string(ZoneCell(ZoneGrid::Fuel, row, 0)) + " " +
             std::to_string(ZoneCell(ZoneGrid::Ignition, row, 1)) + " ";
-  ExpectTold(told + ZoneColumnHeading(0) + " " + ZoneColumnHeading(15), R"(30 kPa 100 is 300, 44 kPa 200 is 440, 57 kPa 300 is 570, 70 kPa 400 is 700, 84 kPa 500 is 840, 97 kPa 600 is 960, 20 kPa 100 is 200, 60 kPa 200 is 600, 100 kPa 300 is 1000, 140 kPa 400 is 1400, 180 kPa 500 is 1800, 220 kPa 600 is 2200, 32 129 48 145 64 161 80 177 96 193 112 209 00 75)");
+  ExpectTold(
+      told + ZoneColumnHeading(0) + " " + ZoneColumnHeading(15),
+      R"(30 kPa 100 is 300, 44 kPa 200 is 440, 57 kPa 300 is 570, 70 kPa 400 is 700, 84 kPa 500 is 840, 97 kPa 600 is 960, 20 kPa 100 is 200, 60 kPa 200 is 600, 100 kPa 300 is 1000, 140 kPa 400 is 1400, 180 kPa 500 is 1800, 220 kPa 600 is 2200, 32 129 48 145 64 161 80 177 96 193 112 209 00 75)");
   EXPECT_EQ(RowMAPfromRow(true, 7), 300) << "a row that is none";
 }
 
