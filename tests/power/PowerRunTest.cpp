@@ -105,7 +105,7 @@ TEST(PowerRun, ACarThatCannotBeReckonedWithFailsAndSaysWhichField) {
       // clang-format off
       {"failed: 4th Gear Ratio", [](PowerRun& r) { r.car.dbl4thGearRatio = 0; }},
       {"failed: 4th Gear Ratio", [](PowerRun& r) { r.car.dbl4thGearRatio = std::numeric_limits<double>::quiet_NaN(); }},
-      {"failed: Diff Ratio", [](PowerRun& r) { r.car.dblDiffRatio = -1; }},
+      {"failed: Diff Ratio", [](PowerRun& r) { r.car.dblDiffRatio = 0; }},
       {"failed: Tyre Size", [](PowerRun& r) { r.car.lngTyreWidth = r.car.lngWheelDiameter = 0; }},
       {"failed: Tyre RPM", [](PowerRun& r) { r.car.lngTyreSizeMethod = 2, r.car.lngTyreRPM = 0; }},
       {"failed: Drive Wheel Radius", [](PowerRun& r) { r.car.lngTyreSizeMethod = 0, r.car.dblDriveWheelRadius = 0; }},

@@ -31,6 +31,7 @@ class PowerWindowsTest : public PowerDesktop, protected frmPowerGraph::MainWindo
  protected:
   PowerWindowsTest() {
     story.Verb("draw", [this](const auto& ends) { Draw(ends[0], ends[1]); });
+    story.Verb("break", [this](const auto& path) { files.broken.insert(path[0]); });
     story.PassOver("chPowerGraph");
     story.Fact("curves", [this] { return Names(); });
     story.Fact("main", [this] { return plotted; });

@@ -39,6 +39,7 @@ TEST_F(PowerGraphTest, OpensWithTheMainWindowsRangeTheFirstCarAndTheSettingsAir)
   Open();
   EXPECT_STORY(story, R"(
 show txtPlotRangeFrom txtPlotRangeTo cboCarDefs cboGear txtWeight txtSmoothFactor txtCorrFactor lblRH chkSAE cboBenchMarkAction mnuBench mnuFileSave -> txtPlotRangeFrom=120, txtPlotRangeTo=180, cboCarDefs list=[New|Metric], cboCarDefs=New, cboGear list=[1st|2nd|3rd|4th|5th|6th], cboGear=4th, txtWeight=180, txtSmoothFactor=7, txtCorrFactor=0.982, lblRH='C, chkSAE=S&AE Correction, chkSAE checked, cboBenchMarkAction off, cboBenchMarkAction list=[Hide|Show|Average], cboBenchMarkAction=Hide, mnuBench off, mnuBench=&Benchmark, mnuFileSave off, mnuFileSave=&Save...
+show updPlotRangeFrom updPlotRangeTo updWeight updSmoothFactor updAmbTemp updAtmos updRH -> updPlotRangeFrom min=0, updPlotRangeFrom max=3000000, updPlotRangeTo min=0, updPlotRangeTo max=3000000, updWeight min=0, updWeight max=9999, updSmoothFactor min=0, updSmoothFactor max=50, updAmbTemp min=-30, updAmbTemp max=60, updAtmos min=75, updAtmos max=115, updRH min=-30, updRH max=100
 choose cboCarDefs Metric -> cboCarDefs=Metric, cboGear=2nd, lblWeight=Contents &Weight (kg), txtWeight=80, txtSmoothFactor=0
 choose cboHumidityType "Rel. Humidity" -> txtCorrFactor=0.971, cboHumidityType=Rel. Humidity, lblRH=%
 type txtRH 0; type txtAmbTemp 25; step updAtmos down; step updAtmos down -> txtCorrFactor=1.000, txtAmbTemp=25, txtAtmos=99, txtRH=0
@@ -74,6 +75,8 @@ answer file /b/mine; click mnuFileSaveAs -> [save "Save Power Graph As" of Power
 type txtComments "a\nb"; click cmdOK -> -frmPowerBenchComments, disk=write /b/mine.pow, staPowerGraph[0]=Saved, mnuSepRecent shown, mnuFileRecent(0) shown, mnuFileRecent(0)=&1 /b/mine.pow
 click mnuFileSave -> +frmPowerBenchComments
 click cmdCancel -> -frmPowerBenchComments
+break /b/mine.pow; click mnuFileSave -> +frmPowerBenchComments
+click cmdOK -> [19 ok], -frmPowerBenchComments
 )");
   EXPECT_EQ(window->chPowerGraph.Data().x.title, "RPM");
   const PowerFile saved = ReadPowerFile(files.files["/b/mine.pow"]);

@@ -44,6 +44,10 @@ step updOffset up -> txtOffset=-0.4, chSpeedGraph series[1] x=[-0.4|1.6|3.6], ch
 step updSpeedFrom down -> txtSpeedFrom=59
 step updSpeedFrom up; step updSpeedTo up -> txtSpeedFrom=60, txtSpeedTo=71
 step updSpeedTo down; step updOffset down -> txtSpeedTo=70, txtOffset=-0.5, chSpeedGraph series[1] x=[-0.5|1.5|3.5], chSpeedGraph x_axis max=3.5
+show mnuFile mnuFilePrint mnuFilePrintPreview mnuFileSavePicture mnuFileClose mnuEdit mnuEditCopy mnuHelp mnuHelpHelp mnuRightClick mnuRightClickCopy mnuRightClickPrint -> mnuFile=&File, mnuFilePrint=&Print..., mnuFilePrintPreview=Print Pre&view..., mnuFileSavePicture=Save Pict&ure As..., mnuFileClose=&Close, mnuEdit=&Edit, mnuEditCopy=&Copy Graph, mnuHelp=&Help, mnuHelpHelp=&Speed Graphs, mnuRightClick=Graph, mnuRightClickCopy=&Copy Graph, mnuRightClickPrint=&Print...
+click mnuEditCopy; click mnuRightClickCopy; click mnuHelpHelp; answer printer; click mnuRightClickPrint -> [printer "" ok], pages=1, copied=2, help=SpeedGraph
+answer file /a; click mnuFileSavePicture -> [save "Save Picture As" of PNG picture (*.png) /a], pictures=/a.png
+click mnuFilePrintPreview -> pages=2
 )");
   const ChartDescription& chart = window->chSpeedGraph.Data();
   EXPECT_EQ(chart.y.title + ", " + chart.x.title, "Speed (MPH), Time (Seconds)");
