@@ -1,17 +1,13 @@
 #include "support/Table.h"
 #include "zones/BenchmarkSettings.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
 clsBenchmarks Read(const std::string& lines) {
-  Settings settings;
-  settings.gdblDefaultEngineSize = 1.8;
-  settings.gdatDefaultChipDate = MakeDate(2001, 9, 18);
-  settings.gintDefaultChipVersion = 3;
-  settings.gintDefaultAtmosphericPressure = 99;
   clsBenchmarks benchmarks;
-  ReadBenchmarks(ReadINIFileToArray("[Benchmarks]\n" + lines), settings, benchmarks);
+  ReadBenchmarks(ReadINIFileToArray("[Benchmarks]\n" + lines), OwnChip(), benchmarks);
   return benchmarks;
 }
 

@@ -3,19 +3,10 @@
 #include "support/MemoryFileSystem.h"
 #include "support/Table.h"
 #include "zones/MapFile.h"
-#include "zones/ZoneNames.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
-
-Settings Own() {
-  Settings settings;
-  settings.gdblDefaultEngineSize = 1.8;
-  settings.gdatDefaultChipDate = MakeDate(2001, 9, 18);
-  settings.gintDefaultChipVersion = 3;
-  settings.gintDefaultAtmosphericPressure = 99;
-  return settings;
-}
 
 /// Zone n is n, with a few that are not known.
 ZoneMap Sample() {
@@ -59,7 +50,7 @@ std::string Told(const MapReading& reading) {
   return text;
 }
 std::string Told(const std::string& text, bool quiet = false) {
-  return Told(ParseMap(text, Own(), quiet));
+  return Told(ParseMap(text, OwnChip(), quiet));
 }
 
 TEST(MapFile, WritesAndReadsBack) {
@@ -103,7 +94,7 @@ summer
 
   ZoneMap expected = Sample();
   expected.zones[255] = -1;
-  const MapReading reading = ParseMap(bytes, Own(), false);
+  const MapReading reading = ParseMap(bytes, OwnChip(), false);
   EXPECT_EQ(reading.map, expected);
   EXPECT_EQ(Told(reading), "1.8 2001-03-02 v2 85 kPa 'Street,|summer'");
 }
@@ -115,7 +106,7 @@ TEST(MapFile, LastLineOfZonesByDateAndTheNotesOfNone) {
   const std::string text = Written(map);
   EXPECT_NE(text.find(" 239\n\n Engine Size: 1.8\n Chip Date: 2001-03-01\n"), std::string::npos);
   EXPECT_TRUE(text.ends_with(" Notes:\n\n End Of Notes\n"));
-  const MapReading reading = ParseMap(text, Own(), false);
+  const MapReading reading = ParseMap(text, OwnChip(), false);
   EXPECT_EQ(reading.map.zones[239], 239);
   EXPECT_EQ(reading.map.zones[240], 0);
   EXPECT_EQ(reading.map.strNotes, "");
@@ -155,7 +146,7 @@ banner; ; 16x -> 1.8 2001-09-18 v3 99 kPa '' 7 8 9
   const std::string user = "1.8 2001-09-18 v3 99 kPa ''";
   EXPECT_EQ(Told(Lines(15).substr(0, 65 * 15 - 1)), user + " 7 8 9") << "no end of the last line";
   EXPECT_EQ(Told(Lines(15), true), user);
-  Settings silent = Own();
+  Settings silent = OwnChip();
   silent.gblnSilentDefaults = true;
   EXPECT_EQ(Told(ParseMap(Lines(15), silent, false)), user);
 }
@@ -164,7 +155,7 @@ TEST(MapFile, FieldsOfALineByPosition) {
   std::string text = Lines(16);
   text.replace(0, 16, "9 12x-05  1.5ab ");
   text.replace(65, 8, " x25 1e2");
-  const ZoneSettings zones = ParseMap(text, Own(), true).map.zones;
+  const ZoneSettings zones = ParseMap(text, OwnChip(), true).map.zones;
   // " 12", "-05", " 1.", "ab " and "x25", "1e2"
   const std::int16_t expected[] = {12, -5, 1, 0};
   for (std::size_t zone = 0; zone < 4; ++zone) EXPECT_EQ(zones[zone], expected[zone]) << zone;
@@ -176,9 +167,9 @@ TEST(MapFile, FieldsOfALineByPosition) {
 
 TEST(MapFile, OnDisk) {
   MemoryFileSystem disk;
-  EXPECT_EQ(Told(ReadMapFile(disk, "a.map", Own(), false)), "none [53, File not found]");
+  EXPECT_EQ(Told(ReadMapFile(disk, "a.map", OwnChip(), false)), "none [53, File not found]");
   EXPECT_TRUE(WriteMapFile(disk, "a.map", Sample(), {}));
-  EXPECT_EQ(ReadMapFile(disk, "a.map", Own(), false).map.strNotes, "Street,\r\nsummer");
+  EXPECT_EQ(ReadMapFile(disk, "a.map", OwnChip(), false).map.strNotes, "Street,\r\nsummer");
   const std::string notes = " Notes:\na\n\nb\n End Of Notes\n";
   std::string inCR = Lines(15) + notes;
   std::replace(inCR.begin(), inCR.end(), '\n', '\r');
@@ -186,10 +177,11 @@ TEST(MapFile, OnDisk) {
                                    {inCR, "a\r\n\r\nb"},
                                    {Lines(15) + " Notes:\r\na\rb\r\n", "a\rb"}}) {
     disk.files["a.map"] = text;
-    EXPECT_EQ(ReadMapFile(disk, "a.map", Own(), true).map.strNotes, read) << text;
+    EXPECT_EQ(ReadMapFile(disk, "a.map", OwnChip(), true).map.strNotes, read) << text;
   }
   disk.broken.insert("a.map");
-  EXPECT_EQ(Told(ReadMapFile(disk, "a.map", Own(), false)), "none [75, Path/File access error]");
+  EXPECT_EQ(Told(ReadMapFile(disk, "a.map", OwnChip(), false)),
+            "none [75, Path/File access error]");
   EXPECT_FALSE(WriteMapFile(disk, "a.map", Sample(), {}));
 }
 

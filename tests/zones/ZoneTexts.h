@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Dates.h"
+#include "model/Settings.h"
 #include "zones/ZoneFlags.h"
 #include "zones/ZoneMap.h"
 #include "zones/ZoneNames.h"
@@ -25,6 +26,16 @@ inline ZoneMap MapWith(const ChipIdentity& chip, int flags, int more = 0, int zo
   map.zones[5] = static_cast<std::int16_t>(flags);
   map.zones[240] = static_cast<std::int16_t>(more);
   return map;
+}
+
+/// The user's own chip, for what a file leaves out.
+inline Settings OwnChip() {
+  Settings settings;
+  settings.gdblDefaultEngineSize = 1.8;
+  settings.gdatDefaultChipDate = MakeDate(2001, 9, 18);
+  settings.gintDefaultChipVersion = 3;
+  settings.gintDefaultAtmosphericPressure = 99;
+  return settings;
 }
 
 /// "z33 100>250 +9 sensor NB": what an edit changed, ticks by number; of many cells how many, and
