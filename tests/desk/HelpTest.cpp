@@ -1,68 +1,44 @@
-#include <gtest/gtest.h>
-
 #include "desk/Help.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
+#include "support/Table.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
 
-class HelpTest : public ::testing::Test {
- protected:
-  RecordingHost host;
-  MemoryFileSystem files;
-  RecordingProcesses processes;
-  EXEFunctions programs{processes, host};
-  Messages messages{host, [](int) { return ""; }};
-  Help help{files, programs, messages, "C:\\car\\Documentation\\", "C:\\me\\"};
-};
-
-TEST_F(HelpTest, OpensTheManualAtATopic) {
-  files.files["C:\\car\\Documentation\\Contents.htm"] = "";
-  help.ShowHelp("GotoSample");
-  const std::string& page = files.files["C:\\car\\Documentation\\HelpLauncher.htm"];
-  EXPECT_NE(page.find("src=\"file://C:/car/Documentation/Contents.htm\""), page.npos);
-  EXPECT_NE(page.find("src=\"file://C:/car/Documentation/Instructions.htm#GotoSample\""),
-            page.npos);
-  help.ShowHelp("");
-  EXPECT_NE(files.files["C:\\car\\Documentation\\HelpLauncher.htm"].find("Instructions.htm\""),
-            page.npos);
-  EXPECT_EQ(processes.opened,
-            std::vector<std::string>(2, "C:\\car\\Documentation\\HelpLauncher.htm"));
-}
-
-TEST_F(HelpTest, APathOfAnyCharactersIsNamedWhole) {
-  const std::string folder = "/my #1 caf\xC3\xA9%/";
-  Help odd{files, programs, messages, folder};
-  files.files[folder + "Contents.htm"] = "";
-  odd.ShowHelp("Keys");
-  const std::string& page = files.files[folder + "HelpLauncher.htm"];
-  EXPECT_NE(page.find("\"file:///my%20%231%20caf%C3%A9%25/Instructions.htm#Keys\""), page.npos)
-      << page;
-}
-
-TEST_F(HelpTest, AManualThatCannotBeWrittenToIsOpenedFromTheUsersFolder) {
-  files.files["C:\\car\\Documentation\\Contents.htm"] = "";
-  files.broken = {"C:\\car\\Documentation\\HelpLauncher.htm"};
-  help.ShowHelp("DataTags");
-  EXPECT_EQ(processes.opened, std::vector<std::string>{"C:\\me\\HelpLauncher.htm"});
-  EXPECT_TRUE(host.messages.empty());
-}
-
-TEST_F(HelpTest, NoManualOrAFullDiskIsTold) {
-  help.ShowHelp("DataTags");
-  files.files["C:\\car\\Documentation\\Contents.htm"] = "";
-  files.failWrites = true;
-  help.ShowHelp("DataTags");
-  ASSERT_EQ(host.messages.size(), 2u);
-  EXPECT_EQ(host.messages[0].id, 30);
-  EXPECT_EQ(host.messages[1].id, 30);
-  files.failWrites = false;
-  files.broken = {"C:\\car\\Documentation\\HelpLauncher.htm"};
-  Help{files, programs, messages, "C:\\car\\Documentation\\"}.ShowHelp("DataTags");
-  EXPECT_EQ(host.messages.size(), 3u) << "without a folder of the user's it goes nowhere else";
-  EXPECT_TRUE(processes.opened.empty());
+/// The manual's folder, the topic, the user's folder and what else there is: what was opened, or
+/// the box; and where the page that was written leads.
+TEST(Help, OpensTheManualAtATopicFromAFolderThatCanBeWrittenTo) {
+  ExpectTable(
+      [](const TableRow& row) {
+        const std::string& folder = row.Text(0);
+        RecordingHost host;
+        MemoryFileSystem files;
+        RecordingProcesses processes;
+        EXEFunctions programs{processes, host};
+        Messages messages{host, [](int) { return ""; }};
+        if (row.Text(3) != "no manual") files.files[folder + "Contents.htm"] = "";
+        if (row.Text(3) == "protected") files.broken = {folder + "HelpLauncher.htm"};
+        files.failWrites = row.Text(3) == "disk full";
+        Help{files, programs, messages, folder, row.Text(2)}.ShowHelp(row.Text(1));
+        std::string told = Join(processes.opened, " ");
+        for (const Box& box : host.messages) told += "[" + std::to_string(box.id) + "]";
+        for (const auto& [path, text] : files.files)
+          for (const std::string& part : SplitAt(text, "src=\""))
+            if (part.starts_with("file:")) told += " " + part.substr(0, part.find('"'));
+        return told;
+      },
+      R"(
+C:\car\Documentation\, GotoSample, C:\me\, manual -> C:\car\Documentation\HelpLauncher.htm file://C:/car/Documentation/Contents.htm file://C:/car/Documentation/Instructions.htm#GotoSample
+C:\car\Documentation\, , C:\me\, manual -> C:\car\Documentation\HelpLauncher.htm file://C:/car/Documentation/Contents.htm file://C:/car/Documentation/Instructions.htm
+/my #1 café%/, Keys, , manual -> /my #1 café%/HelpLauncher.htm file:///my%20%231%20caf%C3%A9%25/Contents.htm file:///my%20%231%20caf%C3%A9%25/Instructions.htm#Keys
+C:\car\Documentation\, DataTags, C:\me\, protected -> C:\me\HelpLauncher.htm file://C:/car/Documentation/Contents.htm file://C:/car/Documentation/Instructions.htm#DataTags
+# Without a folder of the user's it goes nowhere else.
+C:\car\Documentation\, DataTags, , protected -> [30]
+C:\car\Documentation\, DataTags, C:\me\, no manual -> [30]
+C:\car\Documentation\, DataTags, C:\me\, disk full -> [30]
+)");
 }
 
 }  // namespace
