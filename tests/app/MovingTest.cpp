@@ -2,6 +2,7 @@
 // selected point.
 
 #include "support/ProgramFixture.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -15,23 +16,18 @@ class Moving : public ProgramFixture {
                [this](const auto& words) { taken_ = Main().Press(*ParseKeys(words.at(0))); });
     story.Verb("at", [this](const auto& words) { Main().Find(words.at(0))->SetFocus(); });
   }
-  /// Lines of what a user does, each with samples 501 to 601 on show after the whole log and the
-  /// middle one selected; behind " -> " the range, the graph with its point, and the zoom amount.
-  void ExpectMoves(const std::string& moves, int line) {
-    std::string told;
-    for (const std::string& move : Split(moves, '\n')) {
-      const std::string steps = move.substr(0, move.find(" -> "));
-      told += steps + "\n";
-      if (steps.empty() || steps[0] == '#') continue;
-      Reset();
-      story.Play(steps);
-      told.back() = ' ';
-      told += "-> " + Range() + ", " + Graph() + " #" +
-              std::to_string(Main().Selected().lngSelectedPoint()) + " x" +
-              Main().cboZoomAmount.Text() + (taken_ ? "\n" : " left\n");
-    }
-    told.pop_back();
-    ExpectTold(told, moves, __FILE__, line);
+  /// What a user does with samples 501 to 601 on show after the whole log and the middle one
+  /// selected; behind " -> " the range, the graph with its point, and the zoom amount.
+  void ExpectMoves(const std::string& moves) {
+    ExpectTable(
+        [this](const TableRow& row) {
+          Reset();
+          story.Play(row.All());
+          return Range() + ", " + Graph() + " #" +
+                 std::to_string(Main().Selected().lngSelectedPoint()) + " x" +
+                 Main().cboZoomAmount.Text() + (taken_ ? "" : " left");
+        },
+        moves);
   }
 
  private:
@@ -49,67 +45,32 @@ class Moving : public ProgramFixture {
 
 TEST_F(Moving, MenuEntries) {
   ExpectMoves(R"(
-
-click mnuViewScrollLeft -> 491-591, 491-591 at 551 #61 x2
-click mnuViewScrollRight -> 511-611, 511-611 at 551 #41 x2
-click mnuViewPageLeft -> 401-501, 401-501 at 451 #51 x2
-click mnuViewPageRight -> 601-701, 601-701 at 651 #51 x2
-click mnuViewStart -> 1-101, 1-101 at 51 #51 x2
-click mnuViewFinish -> 1900-2000, 1900-2000 at 1950 #51 x2
-click mnuViewZoomIn -> 527-577, 527-577 at 551 #25 x2
-click mnuViewZoomInAmount(10) -> 547-557, 547-557 at 551 #5 x10
-click mnuViewZoomOut -> 452-652, 452-652 at 551 #100 x2
-click mnuViewZoomOutAmount(3) -> 402-702, 402-702 at 551 #150 x3
-click mnuViewZoomFull -> 1-2000, 1-2000 at 553 #139 x2
-click mnuViewPrevious -> 1-2000, 1-2000 at 997 #250 x2
-popup chSampleGraph mnuRightClickDrawGraph -> 501-601, 501-601 at 551 #51 x2
-popup chSampleGraph mnuRightClickZoomIn -> 527-577, 527-577 at 551 #25 x2
-popup chSampleGraph mnuRightClickZoomInAmount(5) -> 542-562, 542-562 at 551 #10 x5
-popup chSampleGraph mnuRightClickZoomOut -> 452-652, 452-652 at 551 #100 x2
-popup chSampleGraph mnuRightClickZoomOutAmount(100) -> 1-2000, 1-2000 at 553 #139 x100
-popup chSampleGraph mnuRightClickZoomOutFull -> 1-2000, 1-2000 at 553 #139 x2
-popup chSampleGraph mnuRightClickPrevGraph -> 1-2000, 1-2000 at 997 #250 x2
-popup chSampleGraph mnuRightClickPlotFrom -> 551-601, 501-601 at 551 #51 x2
-popup chSampleGraph mnuRightClickPlotTo -> 501-551, 501-601 at 551 #51 x2
-popup chSampleGraph mnuRightClickPlotFromAnd -> 551-601, 551-601 at 576 #26 x2
-popup chSampleGraph mnuRightClickPlotToAnd -> 501-551, 501-551 at 526 #26 x2
-)",
-              __LINE__);
+click mnuViewScrollLeft -> 491-591, 491-591 at 551 #61 x2 | click mnuViewScrollRight -> 511-611, 511-611 at 551 #41 x2 | click mnuViewPageLeft -> 401-501, 401-501 at 451 #51 x2
+click mnuViewPageRight -> 601-701, 601-701 at 651 #51 x2 | click mnuViewStart -> 1-101, 1-101 at 51 #51 x2 | click mnuViewFinish -> 1900-2000, 1900-2000 at 1950 #51 x2
+click mnuViewZoomIn -> 527-577, 527-577 at 551 #25 x2 | click mnuViewZoomInAmount(10) -> 547-557, 547-557 at 551 #5 x10 | click mnuViewZoomOut -> 452-652, 452-652 at 551 #100 x2
+click mnuViewZoomOutAmount(3) -> 402-702, 402-702 at 551 #150 x3 | click mnuViewZoomFull -> 1-2000, 1-2000 at 553 #139 x2 | click mnuViewPrevious -> 1-2000, 1-2000 at 997 #250 x2
+popup chSampleGraph mnuRightClickDrawGraph -> 501-601, 501-601 at 551 #51 x2 | popup chSampleGraph mnuRightClickZoomIn -> 527-577, 527-577 at 551 #25 x2 | popup chSampleGraph mnuRightClickZoomInAmount(5) -> 542-562, 542-562 at 551 #10 x5
+popup chSampleGraph mnuRightClickZoomOut -> 452-652, 452-652 at 551 #100 x2 | popup chSampleGraph mnuRightClickZoomOutAmount(100) -> 1-2000, 1-2000 at 553 #139 x100 | popup chSampleGraph mnuRightClickZoomOutFull -> 1-2000, 1-2000 at 553 #139 x2
+popup chSampleGraph mnuRightClickPrevGraph -> 1-2000, 1-2000 at 997 #250 x2 | popup chSampleGraph mnuRightClickPlotFrom -> 551-601, 501-601 at 551 #51 x2 | popup chSampleGraph mnuRightClickPlotTo -> 501-551, 501-601 at 551 #51 x2
+popup chSampleGraph mnuRightClickPlotFromAnd -> 551-601, 551-601 at 576 #26 x2 | popup chSampleGraph mnuRightClickPlotToAnd -> 501-551, 501-551 at 526 #26 x2
+)");
 }
 
 /// Where they stand in another field than the graph, some keys are left to it.
 TEST_F(Moving, Keys) {
   ExpectMoves(R"(
-
-at chSampleGraph; key Shift+Left -> 501-601, 501-601 at 550 #50 x2
-at chSampleGraph; key Shift+Right -> 501-601, 501-601 at 552 #52 x2
-at lvwSampleDetails; key Shift+Left -> 501-601, 501-601 at 550 #50 x2
-at lvwSampleDetails; key Shift+Right -> 501-601, 501-601 at 552 #52 x2
-at PlotRangeFrom; key Shift+Left -> 501-601, 501-601 at 551 #51 x2 left
-at chSampleGraph; key Left -> 501-601, 501-601 at 550 #50 x2
-at chSampleGraph; key Right -> 501-601, 501-601 at 552 #52 x2
-at lvwSampleDetails; key Left -> 501-601, 501-601 at 551 #51 x2 left
-at cboZoomAmount; key Ctrl+Left -> 401-501, 401-501 at 451 #51 x2
-at PlotRangeTo; key Ctrl+Right -> 601-701, 601-701 at 651 #51 x2
-at lvwSampleDetails; key Alt+Left -> 491-591, 491-591 at 551 #61 x2
-at cmdDrawGraph; key Alt+Right -> 511-611, 511-611 at 551 #41 x2
-at chSampleGraph; key Ctrl+Alt+Left -> 491-591, 491-591 at 551 #61 x2
-at chSampleGraph; key Ctrl+Alt+Right -> 511-611, 511-611 at 551 #41 x2
-at PlotRangeFrom; key Ctrl+Home -> 1-101, 1-101 at 51 #51 x2
-at lvwPresets; key Ctrl+End -> 1900-2000, 1900-2000 at 1950 #51 x2
-at chSampleGraph; key Ctrl+F -> 1-2000, 1-2000 at 553 #139 x2
-at PlotRangeFrom; key Ctrl+I -> 527-577, 527-577 at 551 #25 x2
+at chSampleGraph; key Shift+Left -> 501-601, 501-601 at 550 #50 x2 | at chSampleGraph; key Shift+Right -> 501-601, 501-601 at 552 #52 x2 | at lvwSampleDetails; key Shift+Left -> 501-601, 501-601 at 550 #50 x2
+at lvwSampleDetails; key Shift+Right -> 501-601, 501-601 at 552 #52 x2 | at PlotRangeFrom; key Shift+Left -> 501-601, 501-601 at 551 #51 x2 left | at chSampleGraph; key Left -> 501-601, 501-601 at 550 #50 x2
+at chSampleGraph; key Right -> 501-601, 501-601 at 552 #52 x2 | at lvwSampleDetails; key Left -> 501-601, 501-601 at 551 #51 x2 left | at cboZoomAmount; key Ctrl+Left -> 401-501, 401-501 at 451 #51 x2
+at PlotRangeTo; key Ctrl+Right -> 601-701, 601-701 at 651 #51 x2 | at lvwSampleDetails; key Alt+Left -> 491-591, 491-591 at 551 #61 x2 | at cmdDrawGraph; key Alt+Right -> 511-611, 511-611 at 551 #41 x2
+at chSampleGraph; key Ctrl+Alt+Left -> 491-591, 491-591 at 551 #61 x2 | at chSampleGraph; key Ctrl+Alt+Right -> 511-611, 511-611 at 551 #41 x2 | at PlotRangeFrom; key Ctrl+Home -> 1-101, 1-101 at 51 #51 x2
+at lvwPresets; key Ctrl+End -> 1900-2000, 1900-2000 at 1950 #51 x2 | at chSampleGraph; key Ctrl+F -> 1-2000, 1-2000 at 553 #139 x2 | at PlotRangeFrom; key Ctrl+I -> 527-577, 527-577 at 551 #25 x2
 at cboZoomAmount; key Ctrl+O -> 452-652, 452-652 at 551 #100 x2
 # Keys of what may not run do nothing.
-range 1 2000; key Ctrl+F -> 1-2000, 1-2000 at 553 #139 x2
-range 1 2000; key Ctrl+O -> 1-2000, 1-2000 at 553 #139 x2
-range 501 509; key Ctrl+I -> 501-509, 501-509 at 509 #9 x2
-range 1 101; point chSampleGraph 1 1; key Shift+Left -> 1-101, 1-101 at 1 #1 x2
-range 1 101; point chSampleGraph 1 1; key Alt+Left -> 1-101, 1-101 at 1 #1 x2
-range 1 101; point chSampleGraph 1 1; key Ctrl+Left -> 1-101, 1-101 at 1 #1 x2
+range 1 2000; key Ctrl+F -> 1-2000, 1-2000 at 553 #139 x2 | range 1 2000; key Ctrl+O -> 1-2000, 1-2000 at 553 #139 x2 | range 501 509; key Ctrl+I -> 501-509, 501-509 at 509 #9 x2
+range 1 101; point chSampleGraph 1 1; key Shift+Left -> 1-101, 1-101 at 1 #1 x2 | range 1 101; point chSampleGraph 1 1; key Alt+Left -> 1-101, 1-101 at 1 #1 x2 | range 1 101; point chSampleGraph 1 1; key Ctrl+Left -> 1-101, 1-101 at 1 #1 x2
 range 1 101; point chSampleGraph 1 1; key Ctrl+Home -> 1-101, 1-101 at 1 #1 x2
-)",
-              __LINE__);
+)");
 }
 
 /// Two of the eight curves are at 40.
@@ -127,19 +88,13 @@ range 501 601 -> height=10.01, PlotRangeFrom=501, PlotRangeTo=601, staDataLogVie
 key Shift+Down -> height=10
 key Shift+Down -> height=9
 key Shift+Down -> height=0
-key Shift+Down
-key Shift+Down
-key Shift+Down
-key Shift+Down
-key Shift+Down
+key Shift+Down; key Shift+Down; key Shift+Down; key Shift+Down; key Shift+Down
 key Shift+Up -> height=9
 key Shift+Up -> height=10
 key Shift+Up -> height=10.01
-key Shift+Up -> height=40
-key Shift+Up
+key Shift+Up; key Shift+Up -> height=40
 key Shift+Up -> height=80
-key Shift+Up -> height=147
-key Shift+Up
+key Shift+Up; key Shift+Up -> height=147
 )");
 }
 
