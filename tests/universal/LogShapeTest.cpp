@@ -151,6 +151,8 @@ Engine,,Temps/Time (s),RPM,CLT (C) -> titles 2 data 3: 63 Secs [s] 3 RPM [rpm] 2
 Engine,Engine,Temps/Time (s),RPM,CLT (C) -> titles 2 data 3: 63 Secs [s] 3 RPM [rpm] 23 C Temp [C]
 Pump A,Pump B,Pump B/Time,Flow,Flow -> titles 2 data 3: 63 Secs [s] 101 Flow 102 Flow 2
 [1],[2],[3] -> titles 0 data 2: 63 Secs [s] 101 Column 2 102 Column 3
+Time,Time (s),CLT -> titles 1 data 2: 101 Time 63 Secs [s] 23 C Temp [C]
+Time (s),Time,CLT -> titles 1 data 2: 63 Secs [s] 101 Time 23 C Temp [C]
 s,rpm,C/Time,RPM,CLT -> titles 2 data 3: 63 Secs [s] 3 RPM [rpm] 23 C Temp [C]
 )");
   EXPECT_EQ(Printed(ShapeOf(",Group A:,'003,\n,Clock,Load,Boost\n,TIME,,\nMarker,STAMP, %, mbar\n"
