@@ -29,7 +29,10 @@ struct EditorWorld {
   clsBenchmarks benchmarks;
   ConversionTables tables{DefaultO2Table(), DefaultAuxTable(), false, false};
   Catalogue catalogue = BuildDataItemCatalogue();
-  RecordingHost host;
+  struct : RecordingHost {
+    void PopupMenu(MenuItem& menu) override { popup = menu.FullName(); }
+    std::string popup;
+  } host;
   MemoryFileSystem files;
   FixedClock clock;
   ErrorLog errors{files, clock, "error.log"};

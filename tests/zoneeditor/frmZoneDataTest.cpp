@@ -37,6 +37,7 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
     }
     settings.gstrDefaultBenchmark = "Track";
     story.Fact("step", [this] { return window->IsShown() ? Told() : "closed"; });
+    story.Event("popup", [this] { return std::exchange(host.popup, ""); });
     story.Verb("copied", [this](const auto& words) { host.clipboard = words[0]; });
   }
   void OpenMap(int flags = 2) {
@@ -100,13 +101,16 @@ TEST_F(frmZoneDataTest, GridsAndTheirMenus) {
   EXPECT_STORY(story, R"(
 range grdData(0) 6 4 6 1 -> grdData(0) row=6, grdData(0) column=4, grdData(0) range=[6|1|6|4]
 show mnuEditPaste mnuEditReset -> mnuEditPaste=&Paste, mnuEditReset=Reset to &Opened Value
-popup grdData(0) mnuApplyOffset -> +frmOffset
+popup grdData(0) mnuApplyOffset -> popup mnuDatalogGrid, +frmOffset
 type txtOffset 300; click cmdOK -> -frmOffset, step=Offset +255 on 2 fuel cells: z114=255 z115=255, grdData(0)[6][3] to [6][4]=255, grdData(0)[6][3] mark to [6][4] mark=raised, grdData(2)[6][3] to [6][4]=-55, grdData(2)[6][3] colour to [6][4] colour=255, lblStatus=Offset +255 on 2 fuel cells
 range grdData(2) 6 3 6 3 -> grdData(2) row=6, grdData(2) column=3, grdData(2) range=[6|3|6|3]
 show mnuEditPaste mnuEditReset cboSteps grdData(0)[6][3] -> mnuEditPaste off, mnuEditPaste=&Paste, mnuEditReset off, mnuEditReset=Reset to &Opened Value, cboSteps list=[As opened|Offset +255 on 2 fuel cells], cboSteps=Offset +255 on 2 fuel cells, grdData(0)[6][3]=255, grdData(0)[6][3] mark=raised, grdData(0)[6][3] tool_tip=Opened as 100
-popup grdData(2) mnuCopyOffset -> step=Apply difference on 1 fuel cell: z114=200 z115=255, grdData(0)[6][3]=200, grdData(2)[6][3]=, lblStatus=Apply difference on 1 fuel cell, grdData(2)[6][3] colour gone
+popup grdData(2) mnuCopyOffset -> popup mnuDifferenceGrid, step=Apply difference on 1 fuel cell: z114=200 z115=255, grdData(0)[6][3]=200, grdData(2)[6][3]=, lblStatus=Apply difference on 1 fuel cell, grdData(2)[6][3] colour gone
 range grdData(4) 1 1 1 2 -> grdData(4) range=[1|1|1|2]
-popup grdData(4) mnuCopytoDatalog -> step=Copy 2 ignition cells from Track: z114=200 z115=255 z128=200 z129=200, grdData(3)[1][1] to [1][2]=200, grdData(3)[1][1] mark to [1][2] mark=raised, grdData(5)[1][1] to [1][2]=, lblStatus=Copy 2 ignition cells from Track
+popup grdData(4) mnuCopytoDatalog -> popup mnuBenchmarkGrid, step=Copy 2 ignition cells from Track: z114=200 z115=255 z128=200 z129=200, grdData(3)[1][1] to [1][2]=200, grdData(3)[1][1] mark to [1][2] mark=raised, grdData(5)[1][1] to [1][2]=, lblStatus=Copy 2 ignition cells from Track
+popup grdData(6) mnuEditReset -> popup mnuDatalogGrid
+popup grdData(7) mnuEditReset
+popup grdData(8) mnuEditReset
 choose cboSteps #1 -> step=Offset +255 on 2 fuel cells: z114=255 z115=255, grdData(0)[6][3]=255, grdData(2)[6][3]=-55, grdData(2)[6][3] colour=255, grdData(3)[1][1] to [1][2]=100, grdData(5)[1][1] to [1][2]=100, lblStatus=Offset +255 on 2 fuel cells, grdData(3)[1][1] mark gone, grdData(3)[1][2] mark gone
 choose cboBenchmark Street -> cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [5][16]=-10, grdData(2)[6][3] to [6][4]=-165, grdData(2)[6][5] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
 )");
