@@ -16,6 +16,8 @@ TEST(CLongScroll, TheBarShowsTheValueInProportionAndMovesItByItsSteps) {
   scroll.SmallChange = 7;
   scroll.LargeChange = 5000;
   scroll.Change = [&] { ++changes; };
+  scroll.value(-5);
+  EXPECT_EQ(scroll.value(), 0) << "before a range is told";
   const auto told = [&](const TableRow& row) {
     scroll.Min(row.Int(0));
     scroll.Max(row.Int(1));

@@ -36,6 +36,7 @@ TEST_F(ZoneInfluencePanelTest, ShowsTheHighlightedSampleWhileItIsWanted) {
   }
   ZoneInfluencePanel panel({frame, labels, picture, item, draw}, selection, log);
   const auto told = [&](const TableRow& row) {
+    draw.Enabled = row.Count() < 3;
     panel.gblnDisplayZoneInfluence = row.Text(0) == "on";
     selection.Highlight(row.Int(1));
     panel.DisplayZoneInfluence();
@@ -47,6 +48,8 @@ TEST_F(ZoneInfluencePanelTest, ShowsTheHighlightedSampleWhileItIsWanted) {
   ExpectTable(told, R"(
 on, 1 -> 105 110 205 210 seen ticked | on, 2 -> 115 120 215 220 seen ticked | on, 0 -> 115 120 215 220 seen ticked
 off, 1 -> 115 120 215 220 hidden | on, 2 -> 115 120 215 220 seen ticked
+# While nothing may be drawn, what stands there stays.
+on, 1, not -> 115 120 215 220 seen ticked
 )");
 }
 
