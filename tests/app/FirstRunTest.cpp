@@ -4,6 +4,7 @@
 #include "app/FirstRun.h"
 #include "model/ConversionTables.h"
 #include "support/ProgramFixture.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -20,6 +21,9 @@ class FirstRunTest : public ProgramFixture {
     files.files[kDefinition] = Shipped("Universal Data Log Formats/OBDLink.txt");
     files.files["/tv/data/Universal Data Log Formats/bad.txt"] = "no definition";
     story.Verb("first", [this](const auto&) { First(); });
+    story.Verb("whole", [this](const auto&) {
+      for (const Form* form : host.open) ExpectWhole(*form, TARNVIEW_TESTS);
+    });
     story.Verb("bare", [this](const auto&) { files.files.clear(); });
     story.PassOver("tmrTimer");
   }
@@ -51,6 +55,7 @@ class FirstRunTest : public ProgramFixture {
 TEST_F(FirstRunTest, AsksWhichLogOnceAndOtherNeedsAGoodDefinition) {
   EXPECT_STORY(story, R"(
 first -> +frmSplash, +frmFindINIFile
+whole
 click cmdCancel -> [65 ok], -frmSplash, -frmFindINIFile
 first -> +frmSplash, +frmFindINIFile
 show lstFileType txtPathOther lblPathOther cmdBrowse -> lstFileType list=[FM Link Data Logs|FM Link MAP Files|LinkPlus Data Logs|OBDLink Data Logs|Tec-2 Data Logs|Tec-3 Data Logs|UTEC CSV Data Logs|UTEC Fixed-Width Data Logs|<Other>], lstFileType=FM Link Data Logs, txtPathOther off, txtPathOther=, lblPathOther off, lblPathOther=Data log &definition file, cmdBrowse off, cmdBrowse=&Browse...

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "support/ProgramFixture.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -29,6 +30,16 @@ class Menus : public ProgramFixture {
     }
   }
 };
+
+TEST_F(Menus, AndAllElseOfTheirWindowsIsAsItIsToldWhole) {
+  story.Verb("whole", [this](const auto&) { ExpectWhole(*host.Front(), TARNVIEW_TESTS); });
+  Open(20);
+  EXPECT_STORY(story, R"(
+whole
+click mnuHelpAbout -> +frmAbout
+whole; close -> -frmAbout
+)");
+}
 
 TEST_F(Menus, EachEntryHasALetterOfItsOwn) {
   Open(20);

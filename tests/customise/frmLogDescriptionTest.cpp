@@ -3,6 +3,7 @@
 #include "model/Catalogue.h"
 #include "support/Story.h"
 #include "support/Table.h"
+#include "support/WholeWindow.h"
 #include "support/WindowActions.h"
 #include "universal/BuiltInTitles.h"
 #include "universal/DefinitionWriter.h"
@@ -118,6 +119,7 @@ TEST_F(LogDescription, GivesADefinitionAndOpensItAgain) {
 TEST_F(LogDescription, OfRubbishCannotBeAccepted) {
   frmLogDescription rubbish = Open("no log\nat all\n"),
                     clockBehind = Open("RPM\tTime\n900\t1\n901\t2\n902\t3\n");
+  ExpectWhole(clockBehind, TARNVIEW_TESTS);
   rubbish.Show();
   EXPECT_STORY(story, R"(
 show cmdOK lvwHead -> cmdOK off, cmdOK=OK, lvwHead columns=[Line|Is|Text], lvwHead count=2, lvwHead[1]=[1|Preamble|no log], lvwHead[1] unselected, lvwHead[2]=[2|Preamble|at all], lvwHead[2] unselected
@@ -131,6 +133,7 @@ show cmdOK lvwHead[1] lvwColumns[1] lvwColumns[2] -> cmdOK=OK, lvwHead[1]=[1|Tit
 TEST_F(LogDescription, ALineFrequencyIsHeldToItsLimits) {
   frmLineFrequency window(host, 12.5);
   window.Show();
+  ExpectWhole(window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show txtLineFrequency -> txtLineFrequency=12.5
 type txtLineFrequency 0 -> txtLineFrequency=0.01

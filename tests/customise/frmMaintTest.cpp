@@ -4,6 +4,7 @@
 #include "presets/clsSampleGraphPreset.h"
 #include "support/MemoryFileSystem.h"
 #include "support/Story.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -65,6 +66,7 @@ class MaintTest : public ::testing::Test {
 
 TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {
   Open("a1 u7 b1 c1 v7 ");
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show lvwNameList cmdPresetUp -> lvwNameList columns=[Name], lvwNameList count=3, lvwNameList[1]=[a], lvwNameList[1] selected, lvwNameList[2]=[b], lvwNameList[2] unselected, lvwNameList[3]=[c], lvwNameList[3] unselected, cmdPresetUp off, cmdPresetUp=Move &Up
 row lvwNameList c -> lvwNameList[1] unselected, lvwNameList[3] selected, cmdPresetUp on, cmdPresetDown off

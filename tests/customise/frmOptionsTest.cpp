@@ -3,6 +3,7 @@
 #include "support/MemoryFileSystem.h"
 #include "support/OptionsActions.h"
 #include "support/Story.h"
+#include "support/WholeWindow.h"
 #include "support/WindowActions.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/UniversalDataItems.h"
@@ -65,6 +66,7 @@ class Options : public ::testing::Test {
 TEST_F(Options, ShowEverySettingThatNamesThemAndGiveItBack) {
   std::size_t shown = 0;
   frmOptions& options = Open();
+  ExpectWhole(options, TARNVIEW_TESTS);
   for (const SettingRow& row : AllSettings()) {
     if (!std::string_view(row.setIn.window).starts_with("frmOptions/")) continue;
     EXPECT_TRUE(ControlOf(options, row.setIn.control)) << row.key;

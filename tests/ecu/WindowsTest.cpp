@@ -1,6 +1,7 @@
 // The windows in which a new file is named and a binary log is converted.
 
 #include "ecu/EcuStory.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -22,6 +23,7 @@ user frmNewDownload tips, click cmdCancel; fails load; capture -> prompt; frmNew
 )");
   const EcuStory story;
   const frmNewDownload map(story.World(), {NewFileType::ZoneSettings, "2026-11-24a", true});
+  ExpectWhole(map, TARNVIEW_TESTS);
   EXPECT_TRUE(map.radFileType(1).Value() && !map.chkRetainBIN.Enabled());
 }
 
@@ -66,6 +68,7 @@ file /mdos/miatatmp.bin=kept; user frmConvertBIN type txtPath(0) /mdos/miatatmp.
   EcuStory story;
   frmConvertBIN window(story.World(), "");
   window.Show();
+  ExpectWhole(window, TARNVIEW_TESTS);
   window.txtPath(0).Text = std::string("x");
   window.cmdOK.Press();
   EXPECT_EQ(story.Do("gone x"), "36/48");

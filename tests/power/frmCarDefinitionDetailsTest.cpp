@@ -1,6 +1,7 @@
 #include "power/CarTold.h"
 #include "power/PowerWindowsFixture.h"
 #include "power/frmCarDefinitionDetails.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -26,6 +27,7 @@ class CarDetails : public PowerDesktop {
 
 TEST_F(CarDetails, ShowsACarAndGivesItBackOnOK) {
   Open();
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show txtWheelRadius txtSetPointPower txtSetPointSpeed txtCarWeight txtCarContentsWeight txtTotalWeight txtTyreRPM txtFrontalArea lblCarWeight -> txtWheelRadius off, txtWheelRadius=11.50, txtSetPointPower=100, txtSetPointSpeed=115, txtCarWeight=2420, txtCarContentsWeight=180, txtTotalWeight=2600, txtTyreRPM off, txtTyreRPM=887, txtFrontalArea off, txtFrontalArea=2.00, lblCarWeight=Car Kerb Weight (lb)
 show txtGearRatios(2) txtGearRatios(6) cboTyreWidth cboTyreProfile cboWheelDiameter cboDefGear txtCD -> txtGearRatios(2)=1.330, txtGearRatios(6)=4.100, cboTyreWidth list=[125|135|145|155|165|175|185|195|205|215|225|235|245|255|265|275|285|295|305|315|325|335|345|355], cboTyreWidth=185, cboTyreProfile list=[25|30|35|40|45|50|55|60|65|70|75|80|85], cboTyreProfile=60, cboWheelDiameter list=[10|11|12|13|14|15|16|17|18|19|20|21|22], cboWheelDiameter=14, cboDefGear list=[1st|2nd|3rd|4th|5th|6th], cboDefGear=4th, txtCD off, txtCD=0.40

@@ -1,5 +1,6 @@
 #include "power/PowerWindowsFixture.h"
 #include "support/Table.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -37,6 +38,7 @@ TEST_F(PowerGraphTest, OpensWithTheMainWindowsRangeTheFirstCarAndTheSettingsAir)
   settings.gintDefaultAtmosphericPressure = 101;
   settings.gblnSAECorrection = true;
   Open();
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show txtPlotRangeFrom txtPlotRangeTo cboCarDefs cboGear txtWeight txtSmoothFactor txtCorrFactor lblRH chkSAE cboBenchMarkAction mnuBench mnuFileSave -> txtPlotRangeFrom=120, txtPlotRangeTo=180, cboCarDefs list=[New|Metric], cboCarDefs=New, cboGear list=[1st|2nd|3rd|4th|5th|6th], cboGear=4th, txtWeight=180, txtSmoothFactor=7, txtCorrFactor=0.982, lblRH='C, chkSAE=S&AE Correction, chkSAE checked, cboBenchMarkAction off, cboBenchMarkAction list=[Hide|Show|Average], cboBenchMarkAction=Hide, mnuBench off, mnuBench=&Benchmark, mnuFileSave off, mnuFileSave=&Save...
 show updPlotRangeFrom updPlotRangeTo updWeight updSmoothFactor updAmbTemp updAtmos updRH -> updPlotRangeFrom min=0, updPlotRangeFrom max=3000000, updPlotRangeTo min=0, updPlotRangeTo max=3000000, updWeight min=0, updWeight max=9999, updSmoothFactor min=0, updSmoothFactor max=50, updAmbTemp min=-30, updAmbTemp max=60, updAtmos min=75, updAtmos max=115, updRH min=-30, updRH max=100

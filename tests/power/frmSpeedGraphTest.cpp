@@ -3,6 +3,7 @@
 #include "power/SpeedChart.h"
 #include "power/frmSpeedGraph.h"
 #include "support/Table.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -28,6 +29,7 @@ class SpeedGraphTest : public PowerDesktop {
 
 TEST_F(SpeedGraphTest, ShowsSpeedsAboveZeroAndAsksHowLongFromOneToTheOther) {
   Open();
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show caption txtSpeedFrom txtSpeedTo txtOffset "chSpeedGraph series" "chSpeedGraph x_axis" "chSpeedGraph y_axis" -> caption=Tarnview Speed Graph - run.txt, txtSpeedFrom=0, txtSpeedTo=0, txtOffset=0, chSpeedGraph series count=2, chSpeedGraph series[0] item=0, chSpeedGraph series[0] name=You, chSpeedGraph series[0] x=[0.1|1.1|2.1], chSpeedGraph series[0] y=[50|60|80.0002236936292], chSpeedGraph series[0] colour=255, chSpeedGraph series[0] style=1, chSpeedGraph series[0] width=3, chSpeedGraph series[1] item=0, chSpeedGraph series[1] name=Benchmark, chSpeedGraph series[1] x=[0|2|4], chSpeedGraph series[1] y=[50|60|80], chSpeedGraph series[1] colour=16711680, chSpeedGraph series[1] style=1, chSpeedGraph series[1] width=3, chSpeedGraph x_axis min=0, chSpeedGraph x_axis max=4, chSpeedGraph x_axis format=#######0.0, chSpeedGraph y_axis max=90, chSpeedGraph y_axis divisions=9
 type txtSpeedFrom 50; type txtSpeedTo 80; click cmdCalc -> txtSpeedFrom=50, txtSpeedTo=80, txtResYou=02.00, txtResBench=04.00

@@ -1,6 +1,7 @@
 #include "WholeGraph.h"
 #include "samplegraph/PresetGraphs.h"
 #include "samplegraph/frmNewPresetName.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -60,6 +61,7 @@ add -> ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; No
 }
 
 TEST_F(PresetGraphsTest, ANewOneIsAskedForItsName) {
+  ExpectWhole(frmNewPresetName(host, messages, "New"), TARNVIEW_TESTS);
   const auto asked = [this](const TableRow& row) {
     frmNewPresetName asks(host, messages, "New");
     asks.Show();

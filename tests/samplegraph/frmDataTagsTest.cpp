@@ -1,5 +1,6 @@
 #include "samplegraph/frmDataTags.h"
 #include "support/Story.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -46,6 +47,7 @@ class DataTagsTest : public ::testing::Test, protected frmDataTags::MainWindow {
 };
 
 TEST_F(DataTagsTest, AddsTheRangeShowsItAndDeletesIt) {
+  ExpectWhole(window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 tag 10 20; open; show cmdShow cmdDelete -> cmdShow=&Show..., cmdDelete=&Delete, +frmDataTags, tags=10
 # No range within the log.

@@ -4,6 +4,7 @@
 #include "samplegraph/frmGoto.h"
 #include "support/Story.h"
 #include "support/Table.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -44,6 +45,7 @@ TEST_F(GotoTest, NumberAndTimeFollowEachOtherAndEnterTakesThem) {
   frmGoto window(host, log, 6, true);
   Story story(host);
   window.Show();
+  ExpectWhole(window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show txtSampleNumber txtSampleTime chkShowPointWidth -> txtSampleNumber=6, txtSampleTime=1.5, chkShowPointWidth=&Use Show Point Width, chkShowPointWidth checked
 type txtSampleNumber 7 -> txtSampleNumber=7, txtSampleTime=2

@@ -1,6 +1,7 @@
 #include "samplegraph/frmPresetSampleDetails.h"
 #include "support/PresetWindows.h"
 #include "support/Story.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -34,7 +35,7 @@ class PresetDetailsTest : public PresetWindowsTest {
 };
 
 TEST_F(PresetDetailsTest, EditsAPreset) {
-  EXPECT_EQ(Ticked(), "5 3");
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show txtName txtYMax chkFixY -> txtName=Boost, txtYMax off, txtYMax=10, chkFixY=Fi&x Graph Max, chkFixY unchecked
 sort lvwDataItems Item; double lvwDataItems 20 -> ticked=66 5 3

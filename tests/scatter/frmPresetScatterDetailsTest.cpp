@@ -1,5 +1,6 @@
 #include "scatter/frmPresetScatterDetails.h"
 #include "support/PresetWindows.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -43,6 +44,7 @@ class ScatterDetailsTest : public PresetWindowsTest {
 };
 
 TEST_F(ScatterDetailsTest, EditsAPreset) {
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 type txtName Boost
 choose imgcboYAxis Seconds -> imgcboYAxis=Seconds

@@ -1,5 +1,6 @@
 #include "scatter/frmScatterFilter.h"
 #include "support/PresetWindows.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -27,6 +28,7 @@ class ScatterFilterTest : public PresetWindowsTest {
 };
 
 TEST_F(ScatterFilterTest, TakesBoundsOfANumber) {
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_STORY(story, R"(
 show cboFrom cboTo -> cboFrom list=[], cboFrom=60, cboTo list=[], cboTo=
 type cboFrom ""; type cboTo " "; click cmdOK -> [44 ok], cboFrom=

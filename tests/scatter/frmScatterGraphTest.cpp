@@ -1,5 +1,6 @@
 #include "scatter/frmScatterGraph.h"
 #include "support/PresetWindows.h"
+#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -92,6 +93,7 @@ TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxesAndTheRangeOnShow) {
   settings.gblnAutoScatterFilter = false;
   catalogue.gcolFixedDataItems.Item(20).blnDisplay = false;
   Open(50);
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_EQ(window->lvwFilters.Count(), 0);
   EXPECT_EQ(window->lvwSampleDetails.RowOfTag("20"), 0);
   settings.gblnAutoScatterFilter = true;

@@ -119,15 +119,10 @@ class Story {
     const WindowFacts facts(form);
     for (const std::string& name : names) {
       if (name == "focus") shown_.push_back("focus " + Focus(form));
-      for (const auto& [fact, value] : facts.All()) {
-        if (IsOf(fact, name) && !IsUsual(fact, value)) shown_.push_back(Told(fact, value));
-      }
+      for (const WindowFacts::Fact& fact : facts.All())
+        if (IsOf(fact.first, name) && !WindowFacts::IsUsual(fact))
+          shown_.push_back(Told(fact.first, fact.second));
     }
-  }
-  /// On, shown, and no tick at a menu's entry.
-  static bool IsUsual(const std::string& fact, const std::string& value) {
-    if (fact.starts_with("mnu") && fact.ends_with(" checked")) return value == "false";
-    return value == "true" && (fact.ends_with(" enabled") || fact.ends_with(" visible"));
   }
   static std::string Focus(const Form& form) {
     return form.ActiveControl() ? form.ActiveControl()->FullName() : "nowhere";

@@ -27,6 +27,12 @@ class WindowFacts {
     }
   }
   const std::vector<Fact>& All() const { return facts_; }
+  /// On, shown, and no tick at a menu's entry.
+  static bool IsUsual(const Fact& fact) {
+    const auto& [name, value] = fact;
+    if (name.starts_with("mnu") && name.ends_with(" checked")) return value == "false";
+    return value == "true" && (name.ends_with(" enabled") || name.ends_with(" visible"));
+  }
   static std::string Text(const Value& value) {
     const Value::Held& held = value.Get();
     if (const auto* text = std::get_if<std::string>(&held)) return *text;

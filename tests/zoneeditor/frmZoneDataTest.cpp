@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "support/Table.h"
+#include "support/WholeWindow.h"
 #include "zoneeditor/EditorWorld.h"
 #include "zoneeditor/frmBenchmarkDetails.h"
 #include "zoneeditor/frmCopyBench.h"
@@ -38,6 +39,7 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
     settings.gstrDefaultBenchmark = "Track";
     story.Fact("step", [this] { return window->IsShown() ? Told() : "closed"; });
     story.Event("popup", [this] { return std::exchange(host.popup, ""); });
+    story.Verb("whole", [this](const auto&) { ExpectWhole(*host.Front(), TARNVIEW_TESTS); });
     story.Verb("copied", [this](const auto& words) { host.clipboard = words[0]; });
   }
   void OpenMap(int flags = 2) {
@@ -60,6 +62,7 @@ class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
 
 TEST_F(frmZoneDataTest, OpensWithoutAChange) {
   OpenMap();
+  ExpectWhole(*window, TARNVIEW_TESTS);
   EXPECT_FALSE(window->Changed()) << Told();
   EXPECT_STORY(story, R"(
 show caption cboBenchmark fraData(0) fraData(1) fraData(5) txtChipDate cmdUpload -> caption=Tarnview Zone Data - a.map, cboBenchmark list=[Street|Track], cboBenchmark=Track, fraData(0)=This MAP File, fraData(1)=Selected Benchmark, fraData(5)=Difference, txtChipDate=10-Feb-2005, cmdUpload off, cmdUpload=&Upload...
@@ -102,6 +105,7 @@ TEST_F(frmZoneDataTest, GridsAndTheirMenus) {
 range grdData(0) 6 4 6 1 -> grdData(0) row=6, grdData(0) column=4, grdData(0) range=[6|1|6|4]
 show mnuEditPaste mnuEditReset -> mnuEditPaste=&Paste, mnuEditReset=Reset to &Opened Value
 popup grdData(0) mnuApplyOffset -> popup mnuDatalogGrid, +frmOffset
+whole
 type txtOffset 300; click cmdOK -> -frmOffset, step=Offset +255 on 2 fuel cells: z114=255 z115=255, grdData(0)[6][3] to [6][4]=255, grdData(0)[6][3] mark to [6][4] mark=raised, grdData(2)[6][3] to [6][4]=-55, grdData(2)[6][3] colour to [6][4] colour=255, lblStatus=Offset +255 on 2 fuel cells
 range grdData(2) 6 3 6 3 -> grdData(2) row=6, grdData(2) column=3, grdData(2) range=[6|3|6|3]
 show mnuEditPaste mnuEditReset cboSteps grdData(0)[6][3] -> mnuEditPaste off, mnuEditPaste=&Paste, mnuEditReset off, mnuEditReset=Reset to &Opened Value, cboSteps list=[As opened|Offset +255 on 2 fuel cells], cboSteps=Offset +255 on 2 fuel cells, grdData(0)[6][3]=255, grdData(0)[6][3] mark=raised, grdData(0)[6][3] tool_tip=Opened as 100
@@ -213,6 +217,7 @@ TEST_F(frmZoneDataTest, CopyAndDetailsOfTheComparison) {
   OpenMap();
   EXPECT_STORY(story, R"(
 click cmdCopyBenchmark -> +frmCopyBench
+whole
 click cmdCancel -> -frmCopyBench
 click cmdCopyBenchmark -> +frmCopyBench
 click chkOptions(2); click chkOptions(9); click cmdOK -> -frmCopyBench, step=Copy Idle, Ignition from Track: z8=200 z13=200 z18=200 z19=200 z20=200 z21=200 z800=16 z855=200, chkMisc(4) unchecked, txtTrim=45.00, txtZone(8)=10000, txtZone(18)=200, txtZone(19)=200, txtZone(20)=200, txtZone(251)=200, txtZone(13)=200, txtZone(21)=180, lblStatus=Copy Idle, Ignition from Track
