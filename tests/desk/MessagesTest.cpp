@@ -37,26 +37,39 @@ TEST_F(MessagesTest, HaveTextAndStyle) {
 )");
 }
 
-TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgram) {
+TEST_F(MessagesTest, AreShownInABoxOrBesideTheProgramAndAskQuestions) {
   messages.ShowMessage(Message::DefinitionOfSettingsNotFound, false, "C:\\x.def");
-  ASSERT_EQ(host.messages.size(), 1u);
-  EXPECT_EQ(host.messages[0].id, 79);
-  EXPECT_EQ(host.messages[0].style, 48);
-  EXPECT_EQ(host.messages[0].title, "Tarnview");
-  EXPECT_EQ(host.messages[0].text,
-            "Universal data log definition file not found:\r\n\r\nC:\\x.def");
-
   messages.ShowMessage(Message::FileNotLoaded, true);  // no window to show it: a box
-  EXPECT_EQ(host.messages.size(), 2u);
-  std::string shown;
-  messages.ShowNonModal = [&](Message id, const std::string& text) {
-    shown = std::to_string(static_cast<int>(id)) + " " + text;
+  messages.ShowNonModal = [this](Message id, const std::string& text) {
+    host.messages.push_back({static_cast<int>(id), text, 0, "beside"});
   };
   messages.ShowMessage(Message::FileNotLoaded, true);
-  EXPECT_EQ(shown, "15 File could not be loaded.");
-  EXPECT_EQ(host.messages.size(), 2u);
   messages.ShowMessage(Message::FileNotLoaded);
-  EXPECT_EQ(host.messages.size(), 3u);
+  messages.Failed = [this](Message id, const std::string& text) {
+    host.messages.push_back({static_cast<int>(id), text, 0, "logged"});
+  };
+  for (const Message id : {Message::HelpFailed, Message::FileNotLoaded})
+    messages.ShowMessage(id, true);
+  std::string told = "\n";
+  told += messages.AskQuestion(Question::DeleteItem) ? "yes " : "no ";
+  told += messages.AskQuestion(Question::PresetOfOtherFamily, true) ? "yes " : "no ";
+  host.answers = {{Answer::Kind::No}};
+  told += messages.AskQuestion(static_cast<Question>(15)) ? "yes " : "no ";
+  for (const Box& box : host.messages)
+    told += "\n" + std::to_string(box.id) + " " + std::to_string(box.style) + " " + box.title +
+            ": " + Join(SplitAt(box.text, "\r\n"), "/");
+  ExpectTold(told, R"(
+yes no no 
+79 48 Tarnview: Universal data log definition file not found://C:\x.def
+15 64 Tarnview: File could not be loaded.
+15 0 beside: File could not be loaded.
+15 64 Tarnview: File could not be loaded.
+30 0 logged: Problem trying to run on-line help.
+30 0 beside: Problem trying to run on-line help.
+15 0 beside: File could not be loaded.
+0 36 Tarnview: Are you sure you want to delete this item?
+0 292 Tarnview: The preset graph definition you are loading is for a different Log Family than that/currently selected, and may contain data items that are not relevant.//Are you sure you want to continue?
+0 36 Tarnview: Do you want to proceed?)");
 }
 
 TEST_F(MessagesTest, HaveLongDetailsCutWhereTheyAreShown) {
@@ -68,23 +81,6 @@ TEST_F(MessagesTest, HaveLongDetailsCutWhereTheyAreShown) {
   EXPECT_EQ(box.text.size(), text.size() + 5000);
   EXPECT_EQ((Box{0, std::string(700, 'y'), kBoxOk, ""}.TextWithin(kMostDetailsInBox)),
             std::string(700, 'y'));
-}
-
-TEST_F(MessagesTest, AskQuestions) {
-  EXPECT_TRUE(messages.AskQuestion(Question::DeleteItem));
-  EXPECT_FALSE(messages.AskQuestion(Question::PresetOfOtherFamily, true));
-  host.answers.push_back({Answer::Kind::No, "", 0});
-  EXPECT_FALSE(messages.AskQuestion(static_cast<Question>(15)));
-  ASSERT_EQ(host.messages.size(), 3u);
-  EXPECT_EQ(host.messages[0].style, 36);
-  EXPECT_EQ(host.messages[0].id, 0);
-  EXPECT_EQ(host.messages[1].style, 292);
-  EXPECT_EQ(host.messages[1].text,
-            "The preset graph definition you are loading is for a different Log Family than "
-            "that\r\ncurrently selected, "
-            "and may contain data items that are not relevant.\r\n\r\nAre you sure you want to "
-            "continue?");
-  EXPECT_EQ(host.messages[2].text, "Do you want to proceed?");
 }
 
 }  // namespace
