@@ -190,13 +190,24 @@ TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
   EXPECT_THAT(LinesOnlyIn(files.files[kPath], both), ElementsAre("Graph Y Max=80"));
 }
 
+TEST_F(SettingsFileTest, WhatAWindowMakesOfAnEmptyFileIsNoChangeOfItsUser) {
+  StartWith("[General]\n");
+  const std::unique_ptr<Program> first = std::move(program);
+  StartWith("[General]\n");
+  Main().Width = Main().Height = 9000;
+  Main().txtYMax.Text = "90";
+  Main().cboZoomAmount.Do({"type", {"4"}});
+  const std::string theirs = Closed();
+  first->MainWindow().WriteINIFile();
+  EXPECT_EQ(files.files[kPath], theirs);
+}
+
 TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
-  files.files["/data/Tarnview_Install.ini"] = "[General]\nLog EXE=data\n";
-  StartWith("[General]\n");
-  EXPECT_EQ(Set().gstrLogEXE, "data");
-  files.files["/car/Tarnview_Install.ini"] = "[General]\nLog EXE=beside\n";
-  StartWith("[General]\n");
-  EXPECT_EQ(Set().gstrLogEXE, "beside");
+  for (const std::string folder : {"data", "car"}) {
+    files.files["/" + folder + "/Tarnview_Install.ini"] = "[General]\nLog EXE=" + folder + "\n";
+    StartWith("[General]\n");
+    EXPECT_EQ(Set().gstrLogEXE, folder);
+  }
 }
 
 /// "family name" of each preset of a section, in the file's order.

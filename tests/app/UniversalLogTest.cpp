@@ -36,39 +36,45 @@ TEST_F(UniversalLogs, ALogIsReadThroughTheDefinitionOfTheSettings) {
       std::string::npos);
 }
 
-TEST_F(UniversalLogs, ALogOfUnknownColumnsNamesTheReport) {
+TEST_F(UniversalLogs, ALogOfUnknownColumnsNamesTheReportAndABadDefinitionIsTold) {
   files.files["/d.txt"] = DefinitionText{"LINEFREQUENCY=1\n", {ColumnText("Revs", 3)}, ""}.Text();
-  files.files["/run.csv"] = "a,b\n1,2\n";
-  StartIn("/d.txt");
-  EXPECT_FALSE(Main().LoadDataFile("/run.csv", kUniversalLog));
-  EXPECT_EQ(MessageIds(), (std::vector<int>{83, 12}));
-  EXPECT_EQ(host.messages[0].text,
-            "Error loading data log - no columns recognised:\r\n\r\na,b\r\n\r\n"
-            "The columns are listed in the report:\r\n/car/Universal Load Unknown Columns.txt");
-  EXPECT_EQ(host.messages[0].offer, "&Open Report");
-  host.messages[0].takeOffer();
-  EXPECT_EQ(processes.opened, std::vector<std::string>{"/car/Universal Load Unknown Columns.txt"});
-  // Without a folder to write to there is no report, and the message says no more than the line.
-  Start();
-  host.messages.clear();
-  Main().LoadDataFile("/run.csv", kUniversalLog);
-  EXPECT_EQ(host.messages[0].id, 90);
-  EXPECT_EQ(host.messages[0].offer, "");
-}
-
-TEST_F(UniversalLogs, ADefinitionThatIsMissingOrBadIsToldAndTheBuiltInOneServes) {
+  files.files["/none.csv"] = "a,b\n1,2\n";
+  files.files["/short.csv"] = "Revs,b\n1,2\n";
   files.files["/bad.txt"] = "rubbish";
-  const struct {
-    const char* path;
-    int message;
-  } kRows[] = {{"/none.txt", 79}, {"/bad.txt", 69}};
-  for (const auto& row : kRows) {
-    host.messages.clear();
-    Start("", std::string("[General]\nGeneric Data Log Definition File=") + row.path + "\n");
-    EXPECT_EQ(MessageIds(), std::vector<int>{row.message});
-    EXPECT_EQ(program->Global().gclsDataLogDefinition.objColumns.Count(), 19);
-    EXPECT_EQ(program->Global().kinds.gcolFileTypes.GuessFileType("/run.csv", 1), kUniversalLog);
-  }
+  story.Verb("in", [this](const auto& words) {
+    StartKeeping("[General]\nGeneric Data Log Definition File=" + words[0] + "\n",
+                 {"/car/", "/car/data/"});
+  });
+  story.Verb("bare", [this](const auto& words) {
+    Start("", "[General]\nGeneric Data Log Definition File=" + words[0] + "\n");
+  });
+  story.Event("offered", [this] {
+    std::string told;
+    for (const Box& box : std::exchange(host.messages, {}))
+      if (!box.offer.empty()) told += box.text + " " + box.offer;
+    return told;
+  });
+  story.Fact("opened", [this] { return Join(processes.opened, " "); });
+  story.Fact("logged", [this] {
+    const std::string& log = files.files["/car/error.log"];
+    return std::to_string(std::count(log.begin(), log.end(), '-') / 50);
+  });
+  story.Fact("columns", [this] {
+    return Runs() ? std::to_string(program->Global().gclsDataLogDefinition.objColumns.Count()) : "";
+  });
+  files.folders.insert("/car/data");
+  host.takesOffers = true;
+  EXPECT_STORY(story, R"(
+in /d.txt -> +frmDataLogViewer, columns=1
+load /none.csv 8 -> [83 ok], [12 ok], wrote Universal Load Unknown Columns.txt, offered Error loading data log - no columns recognised:\n\na,b\n\nThe columns are listed in the report:\n/car/Universal Load Unknown Columns.txt &Open Report, opened=/car/Universal Load Unknown Columns.txt, logged=2, staDataLogViewer[0]=Loading failed
+load /short.csv 8 -> [12 ok], wrote Universal Load Unknown Columns.txt, logged=3
+# Without a folder to write to there is no report, and the message says no more than the line.
+bare /d.txt; load /none.csv 8 -> [83 ok], [12 ok], logged=0
+# The built-in definition serves for one that is missing or bad.
+bare /none.txt -> [79 ok], columns=19, staDataLogViewer[0]=
+bare /bad.txt -> [69 ok]
+load /none.csv -> [90 ok], [12 ok], staDataLogViewer[0]=Loading failed
+)");
 }
 
 }  // namespace
