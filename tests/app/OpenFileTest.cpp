@@ -45,6 +45,8 @@ TEST_F(OpenFile, WhatDoesNotLoadIsToldAndLeavesNoLog) {
   });
   EXPECT_STORY(story, R"(
 load /logs/good.txt -> [16 ok], top=1|/logs/good.txt, rows=3, ends=1 3, caption=Tarnview - good.txt (FM Link Data Log), PlotRangeFrom=1, PlotRangeTo=3, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete, staDataLogViewer[2]=Sample Load Range 1 - 3
+load /logs/none.txt 8 -> [15 ok], [12 ok], rows=0, ends=0 0, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+load /logs/good.txt -> [16 ok], rows=3, ends=1 3, caption=Tarnview - good.txt (FM Link Data Log), PlotRangeFrom=1, PlotRangeTo=3, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete, staDataLogViewer[2]=Sample Load Range 1 - 3
 load /logs/two.txt; show "cmdDrawGraph enabled" "fraGraphSeriesFrame enabled" -> cmdDrawGraph off, fraGraphSeriesFrame off, [16 ok], [12 ok], rows=2, ends=0 0, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
 load /logs/good.txt -> [16 ok], rows=3, ends=1 3, caption=Tarnview - good.txt (FM Link Data Log), PlotRangeFrom=1, PlotRangeTo=3, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete, staDataLogViewer[2]=Sample Load Range 1 - 3
 load /logs/empty.txt 1 -> [52 ok], [12 ok], rows=0, ends=0 0, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=

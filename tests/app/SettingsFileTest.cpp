@@ -190,14 +190,16 @@ TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
   EXPECT_THAT(LinesOnlyIn(files.files[kPath], both), ElementsAre("Graph Y Max=80"));
 }
 
-TEST_F(SettingsFileTest, WhatAWindowMakesOfAnEmptyFileIsNoChangeOfItsUser) {
-  StartWith("[General]\n");
+/// Ticked items are written in the order of the list.
+TEST_F(SettingsFileTest, WhatAWindowPutsInOrderIsNoChangeOfItsUser) {
+  const std::string settings = "[General]\nChecked Data Items=3,5,36\n";
+  StartWith(settings);
   const std::unique_ptr<Program> first = std::move(program);
-  StartWith("[General]\n");
+  StartWith(settings);
   Main().Width = Main().Height = 9000;
-  Main().txtYMax.Text = "90";
-  Main().cboZoomAmount.Do({"type", {"4"}});
+  Do("tick lvwSampleDetails MAP off");
   const std::string theirs = Closed();
+  EXPECT_THAT(theirs, HasSubstr("\r\nChecked Data Items=36,3\r\n"));
   first->MainWindow().WriteINIFile();
   EXPECT_EQ(files.files[kPath], theirs);
 }
