@@ -55,9 +55,11 @@ tick lvwSampleDetails MAP on; type txtYMax 7x5; click chkFixY; update -> ticked 
 add -> ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10; Mine 1: 20 5 3 not 75
 )");
   EXPECT_TRUE(chSampleGraph.Data().Series().empty());
-  EXPECT_FALSE(list.ApplyNamed("Nobody's"));
   Do("double lvwPresets Knock");
   EXPECT_EQ(chSampleGraph.Data().Series().size(), 3u);
+  EXPECT_TRUE(list.ApplyNamed("None"));
+  EXPECT_EQ(Ticked(), "");
+  EXPECT_FALSE(list.ApplyNamed("Other")) << "one of another family";
 }
 
 TEST_F(PresetGraphsTest, ANewOneIsAskedForItsName) {
@@ -65,15 +67,12 @@ TEST_F(PresetGraphsTest, ANewOneIsAskedForItsName) {
   const auto asked = [this](const TableRow& row) {
     frmNewPresetName asks(host, messages, "New");
     asks.Show();
-    verbs["escape"] = [&] { asks.Press({"Escape"}); };
     Do(row.Text(0));
-    return (asks.Accepted() ? "accepted " + asks.strName() : "no") + Boxes() +
-           (asks.IsShown() ? " open" : "");
+    return (asks.Accepted() ? "accepted " + asks.strName() : "no") + Boxes();
   };
   ExpectTable(asked, R"(
-type txtName " "; click cmdOK; click cmdCancel -> no [41]
-type txtName Mine; click cmdOK -> accepted Mine
-type txtName Mine; escape -> no
+type txtName " "; click cmdOK; key Escape -> no [41]
+type txtName Mine; key Enter -> accepted Mine
 )");
 }
 

@@ -44,16 +44,6 @@ click chkFixY -> 40 open arrows
 )");
 }
 
-TEST_F(SampleGraphTest, ChecksTheRangeAsItWasTyped) {
-  OpenLog(2000);
-  chkQuickGraph.Value = false;
-  const auto moved = [this](const TableRow& row) { return Moved(row); };
-  ExpectTable(moved, R"(
-1, 1001 -> 1-1001 | 1, 1002 -> 2-1002 [1] | 50, 20 -> 19-21 | 5000, 20 -> 19-21 | 1900, 9999 -> 1-2000 [1]
-1990, 0 -> 1-2000 | 1990, 1990 -> 1990-1992 | 2000, 2000 -> 1998-2000 | 12abc, 40 -> 12abc-40
-)");
-}
-
 TEST_F(SampleGraphTest, BuildsWhatHasChangedAlone) {
   OpenLog(50);
   int built = 0;

@@ -65,7 +65,7 @@ class WholeGraph : public ::testing::Test,
     for (const ScriptLine& line : ParseScript(Join(Split(steps, ';'), "\n")))
       if (const auto own = verbs.find(line.words[0]); own != verbs.end())
         own->second();
-      else
+      else if (!user.Do(line.words))
         user.Work(line.words);
   }
   /// A row: a range to draw and what is done then; the range and the boxes that come of it.

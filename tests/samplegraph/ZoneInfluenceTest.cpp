@@ -36,8 +36,9 @@ TEST_F(ZoneInfluencePanelTest, ShowsTheHighlightedSampleWhileItIsWanted) {
   }
   ZoneInfluencePanel panel({frame, labels, picture, item, draw}, selection, log);
   const auto told = [&](const TableRow& row) {
-    draw.Enabled = row.Count() < 3;
-    panel.gblnDisplayZoneInfluence = row.Text(0) == "on";
+    panel.gblnDisplayZoneInfluence = row.Text(0) != "off";
+    draw.Enabled = row.Text(0) != "no graph";
+    log.gblnSamplesLoaded = row.Text(0) != "no log";
     selection.Highlight(row.Int(1));
     panel.DisplayZoneInfluence();
     panel.RefreshZoneInfluence();
@@ -47,9 +48,7 @@ TEST_F(ZoneInfluencePanelTest, ShowsTheHighlightedSampleWhileItIsWanted) {
   };
   ExpectTable(told, R"(
 on, 1 -> 105 110 205 210 seen ticked | on, 2 -> 115 120 215 220 seen ticked | on, 0 -> 115 120 215 220 seen ticked
-off, 1 -> 115 120 215 220 hidden | on, 2 -> 115 120 215 220 seen ticked
-# While nothing may be drawn, what stands there stays.
-on, 1, not -> 115 120 215 220 seen ticked
+off, 1 -> 115 120 215 220 hidden | no graph, 1 -> 115 120 215 220 seen ticked | no log, 1 -> 115 120 215 220 seen ticked | on, 1 -> 105 110 205 210 seen ticked
 )");
 }
 

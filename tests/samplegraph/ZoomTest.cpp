@@ -28,9 +28,13 @@ TEST_F(ZoomTest, ZoomsAboutTheSelectedPointOrTheMiddle) {
 501, 601, back; back -> 501-601
 501, 601, back; back; back -> 1-5000
 501, 601, point chSampleGraph 1 51; in; back; in -> 527-577
+# An amount outside the box becomes 2.
+501, 601, no_point; type cboZoomAmount 1; in -> 526-576 | 501, 601, type cboZoomAmount 101; in -> 527-577 | 501, 601, type cboZoomAmount x; in -> 527-577
 # Without Quick Graph no more than 1000 at once.
 2001, 2801, click chkQuickGraph; no_point; type cboZoomAmount 2; out -> 1901-2901 [1]
 2001, 2101, click cmdZoomFull -> 2001-3000 [1]
+# Draw holds to it as well, and to the log.
+1, 1001 -> 1-1001 | 1, 1002 -> 2-1002 [1] | 50, 20 -> 19-21 | 4900, 9999 -> 1-5000 [1] | 12abc, 40 -> 12abc-40
 )");
 }
 
@@ -45,16 +49,6 @@ TEST_F(ZoomTest, MayRunWhereItDoesSomething) {
   };
   ExpectTable(may, R"(
 1, 5000 -> in | 1, 4999 -> in out | 11, 21 -> in out back | 11, 20 ->  out back
-)");
-}
-
-TEST_F(ZoomTest, AnAmountOutsideTheBoxBecomesTwo) {
-  const auto taken = [this](const TableRow& row) {
-    Do("type cboZoomAmount " + row.Text(0) + "; leave");
-    return cboZoomAmount.Text();
-  };
-  ExpectTable(taken, R"(
-1 -> 2 | 2 -> 2 | 100 -> 100 | 101 -> 2 | x -> 2 | 7 -> 7
 )");
 }
 
