@@ -89,6 +89,7 @@ TEST_F(FormTest, CodeAndHandRaiseTheSameEvents) {
   EXPECT_EQ(form.cboSize.ListIndex(), 1);
   EXPECT_EQ(form.Notes(), " size:large chosen");
 
+  EXPECT_EQ(form.hsbPlace.LargeChange, 1);
   form.hsbPlace.Value = 7;
   form.hsbPlace.Max = 50;
   form.hsbPlace.Do({"scroll", {"9000"}});

@@ -53,6 +53,13 @@ TEST_F(ListViewTest, RowsAreFoundByNumberThenByText) {
   EXPECT_EQ(Notes(), "");  // by code nothing is clicked
 }
 
+TEST_F(ListViewTest, ACellTakesAnotherText) {
+  int changes = 0;
+  list.Watch([&](What) { ++changes; });
+  for (const char* text : {"11", "11"}) list.SetText(1, 1, text);
+  EXPECT_EQ(Column(1) + std::to_string(changes), "11 9  1");
+}
+
 TEST_F(ListViewTest, AHeadingSortsNumbersByValueAndKeepsTheSelection) {
   list.Select(1);
   list.Do({"sort", {"Value"}});

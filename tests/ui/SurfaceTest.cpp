@@ -3,6 +3,7 @@
 
 #include "base/Numbers.h"
 #include "support/Table.h"
+#include "ui/HeatColours.h"
 #include "ui/SurfaceScene.h"
 
 namespace tarnview {
@@ -245,6 +246,17 @@ TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
   for (const SceneFace& face : MakeScene(map, Room(1, 1)).faces)
     for (const ScenePoint& corner : face.corners)
       EXPECT_TRUE(std::isfinite(corner.x) && std::isfinite(corner.y));
+}
+
+TEST(HeatColours, AreMixedByteByByte) {
+  const auto colour = [](const TableRow& row) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%06x", static_cast<unsigned>(HeatColourOf(row.Number(0))));
+    return std::string(text);
+  };
+  ExpectTable(colour, R"(
+-1 -> 894a3e | 0 -> 894a3e | 0.1 -> 8c5c36 | 0.25 -> 8e752c | 0.5 -> 899e1f | 0.77 -> 65c558 | 0.9 -> 47d489 | 1 -> 2cdeb4 | 2 -> 2cdeb4
+)");
 }
 
 }  // namespace

@@ -1,0 +1,43 @@
+#include "desk/Commands.h"
+#include "support/FixedClock.h"
+#include "support/MemoryFileSystem.h"
+#include "support/Table.h"
+#include "ui/Form.h"
+#include "ui/RecordingHost.h"
+
+namespace tarnview {
+namespace {
+
+TEST(Commands, RunWhereTheyAreThereAndMay) {
+  RecordingHost host;
+  MemoryFileSystem files;
+  FixedClock clock;
+  ErrorLog errors{files, clock, "/error.log"};
+  Form form{host, "frmAny", ""};
+  CommandButton always{form, "cmdAlways", ""}, none{form, "cmdNone", ""};
+  MenuItem asked{form, "mnuAsked", ""}, unbound{form, "mnuUnbound", ""};
+  std::string ran;
+  bool may = true;
+  Commands commands(errors, "frmAny");
+  none.Click = [&] { ran += "own "; };
+  commands.Bind({{&always, [&] { ran += "always "; }, {}},
+                 {&none, {}, {}},
+                 {&asked, [&] { throw std::runtime_error("broken"); }, [&] { return may; }}});
+  const auto told = [&](const TableRow& row) {
+    may = row.Yes(0);
+    commands.Update();
+    always.Press();
+    none.Click();
+    if (asked.Enabled) asked.Click();
+    std::string on;
+    for (const Control* control : form.Controls()) on += control->Enabled() ? '1' : '0';
+    return on + " " + std::exchange(ran, "");
+  };
+  ExpectTable(told, R"(
+yes -> 1011 always own  | no -> 1001 always own  | yes -> 1011 always own 
+)");
+  EXPECT_NE(files.files["/error.log"].find("mnuAsked_Click"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarnview
