@@ -112,13 +112,15 @@ void Driver::WorkControl(Words words) {
   user_.Work(words);
 }
 
-void Driver::OpenLogFile(const Words& words) {
+int Driver::GuessedType(const std::string& path) const {
   const Globals& globals = program_.Global();
-  const clsFileTypes& types = globals.kinds.gcolFileTypes;
+  return globals.kinds.gcolFileTypes.GuessFileType(path, globals.settings.gintDefaultFileType);
+}
+
+void Driver::OpenLogFile(const Words& words) {
   const std::string& path = WordAt(words, 0);
-  const int type = words.size() > 1
-                       ? StringToLong(words[1])
-                       : types.GuessFileType(path, globals.settings.gintDefaultFileType);
+  const clsFileTypes& types = program_.Global().kinds.gcolFileTypes;
+  const int type = words.size() > 1 ? StringToLong(words[1]) : GuessedType(path);
   nextFile = Answer{Answer::Kind::File, path, 0, types.SequenceFromID(type)};
   program_.MainWindow().mnuFileOpen.Do({"click", {}});
 }

@@ -51,6 +51,7 @@ class Driver : private ConsoleHost {
   void WorkControl(Words words);
 
   void OpenLogFile(const Words& words);
+  int GuessedType(const std::string& path) const;
   void ShowFacts(const Words& words);
   void ShowChart(const Words& words);
   void ShowBoxes(const Words& words);
