@@ -26,7 +26,8 @@ constexpr std::array<std::string_view, 12> kMonths{"JANUARY",   "FEBRUARY", "MAR
 struct Order {
   std::size_t day, month, year;
 };
-/// In the order in which they are tried: day first, month first, year first.
+/// In the order in which they are tried: day first, month first, year first and the month or the
+/// day behind it.
 constexpr std::array<Order, 4> kOrders{{{0, 1, 2}, {1, 0, 2}, {2, 1, 0}, {1, 2, 0}}};
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }

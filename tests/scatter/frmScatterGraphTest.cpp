@@ -91,9 +91,14 @@ class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::Ma
 TEST_F(ScatterGraphTest, OpensWithAFirstChoiceOfAxesAndTheRangeOnShow) {
   rangeFilter = {30, 10, 1};
   settings.gblnAutoScatterFilter = false;
+  settings.gstrAlternativeBackgroundPicture = "/p.png";
+  files.files["/p.png"] = "";
   catalogue.gcolFixedDataItems.Item(20).blnDisplay = false;
   Open(50);
   ExpectWhole(*window, TARNVIEW_TESTS);
+  settings.gstrAlternativeBackgroundPicture = "/q.png";
+  window->OptionsChanged();
+  EXPECT_EQ(window->fraPicture.BackgroundPicture(), "/q.png");
   EXPECT_EQ(window->lvwFilters.Count(), 0);
   EXPECT_EQ(window->lvwSampleDetails.RowOfTag("20"), 0);
   settings.gblnAutoScatterFilter = true;

@@ -9,6 +9,7 @@
 
 #include "support/WindowFacts.h"
 #include "ui/CommandButton.h"
+#include "ui/Frame.h"
 #include "ui/ListView.h"
 #include "ui/MenuItem.h"
 #include "ui/TextBox.h"
@@ -25,6 +26,8 @@ inline std::string Extras(const Control& control) {
     if (text->ReadOnly()) told += " read only";
     if (text->MultiLine) told += " of lines";
   }
+  if (const auto* frame = dynamic_cast<const Frame*>(&control))
+    if (!frame->BackgroundPicture().empty()) told += " picture " + frame->BackgroundPicture();
   if (const auto* list = dynamic_cast<const ListView*>(&control))
     for (const ListView::Column& column : list->Columns())
       if (column.rightAligned) told += " numbers in " + column.heading;
