@@ -17,6 +17,7 @@
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
 #include "support/Table.h"
+#include "support/WholeWindow.h"
 #include "support/WindowActions.h"
 #include "ui/RecordingHost.h"
 #include "zones/MapFile.h"
@@ -163,7 +164,7 @@ class EcuStory : private RecordingHost,
   static Date Day(const std::string& chip) { return StringToDate(chip.substr(4), kNoDate); }
 
   /// "show NAME" among what the user does tells what a control holds, and "<" where it has the
-  /// focus; "tips" tells the tool tips.
+  /// focus; "whole" compares the window with its text.
   void Use(Form& form) {
     Tell(form.name);
     Texts& turns = users_[form.name];
@@ -172,19 +173,12 @@ class EcuStory : private RecordingHost,
     for (const std::string& action : SplitAt(actions, ", ")) {
       if (action.starts_with("show "))
         Tell(Shown(*ControlOf(form, action.substr(5))));
-      else if (action == "tips")
-        Tell(Tips(form));
+      else if (action == "whole")
+        ExpectWhole(form, TARNVIEW_TESTS);
       else
         Act(form, action);
     }
     if (form.IsShown()) Tell("stays");
-  }
-  static std::string Tips(const Form& form) {
-    std::string tips;
-    for (const Control* control : form.Controls())
-      if (const std::string tip = control->ToolTip(); !tip.empty())
-        tips += (tips.empty() ? "" : ", ") + tip;
-    return tips;
   }
   static std::string Shown(const Control& control) {
     std::string facts;

@@ -15,7 +15,7 @@ form 1.6 2003-06-09; file /link/TVW.map=x; upload; read /link/TVW.map -> 5/64; x
 file /link/TVW.map=x; user frmUpload click cmdCancel; upload; read /link/TVW.map -> frmUpload; x
 broken /link/TVW.map; upload -> frmUpload; Problem creating temporary MAP file (/link/TVW.map)./48
 user frmUploadConf click cmdNo; upload; list /logs -> frmUpload; frmUploadConf; /logs/old.txt 
-user frmUploadConf show cmdYes; upload -> frmUpload; frmUploadConf; ; stays
+user frmUploadConf whole, show cmdYes; upload -> frmUpload; frmUploadConf; ; stays
 # Measured against a comparison.
 user frmUpload click chkOption(2), choose lstCCF #1, click cmdOK; upload; left -> frmUpload; 23/48; frmUploadConf; run /link/L.exe -q -s -c -f TVW.map in /link/; z720
 user frmUpload click chkOption(2), click cmdOK; upload -> frmUpload; 23/48; frmUploadConf; run /link/L.exe -q -s -c -f TVW.map in /link/
@@ -39,7 +39,7 @@ broken /logs/Uploads/; upload -> frmUpload; frmUploadConf; No copy of the map co
 # Its window begins with the user's defaults; the comparison goes with its box.
 set Upload Default 0=0; set Upload Default 2=1; set Upload Default 3=1; answer /logs/c.map; user frmUpload show chkOption(0), show chkOption(1), show chkOption(2), show chkOption(3), show cboAutoTune, click cmdCCF, show txtCCF, choose lstCCF #0, show txtCCF, click chkOption(2), show txtCCF, show lstCCF, show cmdCCF, show lblCCF, click cmdCancel; upload -> frmUpload;  not checked; ; ; ; None; Open from /logs/; /logs/c.map; /logs/a.txt;  not enabled/logs/a.txt;  not enabled/logs/a.txt;  not enabled;  not enabledC&hange Comparison File
 user frmUploadConf show lblChipDate, show lblEngineSize, click cmdNo; upload -> frmUpload; frmUploadConf; 09-Jun-2003; 1.8
-user frmUpload tips, click cmdCancel; upload -> frmUpload; Check to save the uploaded settings into the Link permanently, Check to verify settings reached the ECU after upload, Check to only upload the changed zones to the ECU, Check to show more information during the upload at the expense of upload time, Path and file name of change comparison file
+user frmUpload whole, click cmdCancel; upload -> frmUpload
 )");
 }
 

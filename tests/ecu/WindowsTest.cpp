@@ -1,7 +1,6 @@
 // The windows in which a new file is named and a binary log is converted.
 
 #include "ecu/EcuStory.h"
-#include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
@@ -19,11 +18,10 @@ user frmNewDownload click radFileType(1), show txtFileName; fails load; capture 
 user frmNewDownload click cmdOK, show txtFileName; fails load; capture -> prompt; frmNewDownload; That's an interesting file name.  However, something more practical is required./64; <; stays
 answer no; user frmNewDownload type txtFileName old, click cmdOK, show txtFileName; fails load; capture -> prompt; frmNewDownload; File already exists.  Overwrite?/36; old.txt<; stays
 set Retain Binary Files=N; user frmNewDownload show chkRetainBIN, show radFileType(0), click cmdCancel; fails load; capture -> prompt; frmNewDownload;  not checked; 
-user frmNewDownload tips, click cmdCancel; fails load; capture -> prompt; frmNewDownload; Capture a full data log, Capture just the ECU zone settings, Name of the data log, Keep the binary file the data logging process generates as well as the final data log
+user frmNewDownload whole, click cmdCancel; fails load; capture -> prompt; frmNewDownload
 )");
   const EcuStory story;
   const frmNewDownload map(story.World(), {NewFileType::ZoneSettings, "2026-11-24a", true});
-  ExpectWhole(map, TARNVIEW_TESTS);
   EXPECT_TRUE(map.radFileType(1).Value() && !map.chkRetainBIN.Enabled());
 }
 
@@ -32,7 +30,7 @@ TEST(ConvertBIN, GoesFromStepToStep) {
 user frmConvertBIN show txtPath(0), show txtPath(1), show chkAutoLoad; convert -> frmConvertBIN; ; ; ; stays; target none
 open C:\Logs\a.txt; user frmConvertBIN show txtPath(0), show txtPath(1); convert -> frmConvertBIN; C:\Logs\; C:\Logs\; stays; target none
 open /a/b; set Last Converted Binary File=/old/b.bin; user frmConvertBIN show txtPath(0); convert -> frmConvertBIN; /old/; stays; target none
-user frmConvertBIN tips, click cmdCancel; convert -> frmConvertBIN; Path and File Name of Binary File, Path and File Name of New Data Log, Click to select the file to load, Click to select the file to load; target none
+user frmConvertBIN whole, click cmdCancel; convert -> frmConvertBIN; target none
 # A path that is none keeps its text, and the focus.
 user frmConvertBIN type txtPath(0) /nowhere/*.bin, show txtPath(0); convert -> frmConvertBIN; 36/48; /nowhere/*.bin<; stays; target none
 user frmConvertBIN type txtPath(0) run.bin; convert -> frmConvertBIN; 36/48; stays; target none
@@ -68,7 +66,6 @@ file /mdos/miatatmp.bin=kept; user frmConvertBIN type txtPath(0) /mdos/miatatmp.
   EcuStory story;
   frmConvertBIN window(story.World(), "");
   window.Show();
-  ExpectWhole(window, TARNVIEW_TESTS);
   window.txtPath(0).Text = std::string("x");
   window.cmdOK.Press();
   EXPECT_EQ(story.Do("gone x"), "36/48");

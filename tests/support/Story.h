@@ -19,8 +19,8 @@ namespace tarnview {
 ///     type txtWeight 80; click cmdDraw -> staFoot[1]=Done, cmdSave on
 ///
 /// Steps are those of a script (ui/ScriptUser), "show NAME..." (what a control holds, changed or
-/// not), "tips" (what its tool tips say), "write NAME TEXT" (as type, but the field is not left),
-/// and verbs of the test's own. While a modal window is open the lines go on in it.
+/// not), "write NAME TEXT" (as type, but the field is not left), and verbs of the test's own. While
+/// a modal window is open the lines go on in it.
 class Story {
  public:
   explicit Story(RecordingHost& host) : host_(host), user_(host) {
@@ -86,7 +86,6 @@ class Story {
     if (words[0] == "show") return Show(rest);
     if (words[0] == "write") return Write(rest);
     if (words[0] == "key") return Press(rest);
-    if (words[0] == "tips") return ShowToolTips();
     host_.events.Run("Story", words[0], [&] {
       if (!user_.Do(words)) user_.Work(words);
     });
@@ -107,11 +106,6 @@ class Story {
     bool taken = false;
     host_.events.Run("Story", words[0], [&] { taken = user_.Active().Press(*key); });
     if (!taken) shown_.push_back("not taken");
-  }
-  void ShowToolTips() {
-    for (const Control* control : user_.Active().Controls())
-      if (!control->ToolTip().empty())
-        shown_.push_back(control->FullName() + ": " + OneLine(control->ToolTip()));
   }
   /// Facts of the front window whose names begin so: "txtName", "lvwTags[2]", "focus".
   void Show(const Words& names) {
