@@ -40,8 +40,8 @@ TEST(PowerChart, NamesCurvesAndMarksPeaks) {
     if (row.Number(2) > 0) run.peaks.topSpeed = row.Number(2);
     std::optional<ShownBenchmark> benchmark;
     if (row.Count() > 3) {
-      benchmark.emplace(PointsOf(row.Text(3)));
-      benchmark->peaks = PeaksOf(benchmark->points);
+      const std::vector<PowerPoint> points = PointsOf(row.Text(3));
+      benchmark = {points, PeaksOf(points)};
     }
     const ChartDescription chart = PowerChart(run, benchmark);
     std::string text = Axis(chart.x) + " " + Axis(chart.y);
