@@ -10,7 +10,7 @@ namespace {
 
 TEST(CommandLineProgram, TellsOfALog) {
   ExpectRuns(R"(
-load turbo.txt, /title /engine_size /normally_aspirated /zones /changes/1 /samples -> 0 Tarnview - turbo.txt (FM Link Data Log) 1.8 false 256 from 22 to 64 256 from 22 to 64 6988
+load turbo.txt, /title /engine_size /normally_aspirated /zones /changes/1 /changes/2 /samples -> 0 Tarnview - turbo.txt (FM Link Data Log) 1.8 false 256 from 22 to 64 256 from 22 to 64 nothing 6988
 load none.txt, /ok /messages -> 1 false [{"id":15,"text":"File could not be loaded.","style":64}]; message 15: File could not be loaded.
 load na.txt, /normally_aspirated /messages -> 0 true []
 # a log without zones

@@ -32,26 +32,28 @@ class UploadCommand : public ::testing::Test {
   ScratchFolder folder_;
 };
 
-/// Of the printed map the first zones and the chip; and the command line.
+/// Of the printed map its head, the first zones, how many are sent, and the chip; the command line.
 TEST_F(UploadCommand, PrintsTheMapAndTheCommandLine) {
   const auto upload = [&](const TableRow& row) {
     Ran ran = Run("upload " + row.All());
     std::string told;
     for (const std::string& line : Split(ran.out, '\n')) {
-      const bool isFirstZones = line.starts_with(" 01") && told.empty();
-      if (isFirstZones) told = line.substr(0, 12) + "\n";
-      if (line.starts_with(" Chip") || line.starts_with("/")) told += line + "\n";
+      if (line.starts_with(" 01") && told.find(" 01") == told.npos)
+        told +=
+            line.substr(0, 12) + " of " + std::to_string(SplitAt(ran.out, " 01").size() - 1) + "\n";
+      for (const char* kind : {" Tarnview", " Chip", " Atmospheric", "/"})
+        if (line.starts_with(kind)) told += line + "\n";
     }
     ran.out = told;
     return ran.Told("all");
   };
   ExpectTable(upload, R"(
-a.map --dry-run -> 0  012 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/
-a.map --dry-run --auto-tune fine_no_idle -> 0  012 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -a fine_no_idle -v -f TVW.map/
-b.map --dry-run --compare a.map -> 0  013  -1  -1/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/
-b.map --dry-run --compare c.map -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 21: The Change Comparison File is from a different ECU chip date and/or engine size. A full upload will take place instead.
-b.map --dry-run --compare none.map -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
-b.map --dry-run --compare "" -> 0  013 012 012/ Chip Date: 2003-06-09\r/ Chip Version: 0\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
+a.map --dry-run -> 0  Tarnview MAP File\r/ 012 012 012 of 254/ Chip Date: 2003-06-09\r/ Chip Version: 0\r/ Atmospheric Pressure: 098\r//link/L.exe -q -s -p 2 -v -f TVW.map/
+a.map --dry-run --auto-tune fine_no_idle -> 0  Tarnview MAP File\r/ 012 012 012 of 254/ Chip Date: 2003-06-09\r/ Chip Version: 0\r/ Atmospheric Pressure: 098\r//link/L.exe -q -s -p 2 -a fine_no_idle -v -f TVW.map/
+b.map --dry-run --compare a.map -> 0  Tarnview MAP File\r/ 013  -1  -1 of 1/ Chip Date: 2003-06-09\r/ Chip Version: 0\r/ Atmospheric Pressure: 098\r//link/L.exe -q -s -p 2 -v -f TVW.map/
+b.map --dry-run --compare c.map -> 0  Tarnview MAP File\r/ 013 012 012 of 254/ Chip Date: 2003-06-09\r/ Chip Version: 0\r/ Atmospheric Pressure: 098\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 21: The Change Comparison File is from a different ECU chip date and/or engine size. A full upload will take place instead.
+b.map --dry-run --compare none.map -> 0  Tarnview MAP File\r/ 013 012 012 of 254/ Chip Date: 2003-06-09\r/ Chip Version: 0\r/ Atmospheric Pressure: 098\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
+b.map --dry-run --compare "" -> 0  Tarnview MAP File\r/ 013 012 012 of 254/ Chip Date: 2003-06-09\r/ Chip Version: 0\r/ Atmospheric Pressure: 098\r//link/L.exe -q -s -p 2 -v -f TVW.map/; message 23: The Change Comparison File does not exist. A full upload will take place instead.
 c.map --dry-run -> 1 ; message 5: Cannot upload Zone Data from a different engine size to your own.
 own.ini --dry-run -> 1 ; message 56: That doesn't look like a FM Link MAP File file to me. Please ensure correct file type is chosen when opening a file.
 a.map -> 2 ; --dry-run is required
