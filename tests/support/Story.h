@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "support/Accept.h"
+#include "support/StoryFile.h"
 #include "support/WindowFacts.h"
 #include "ui/ComboBox.h"
 #include "ui/Script.h"
@@ -42,6 +43,8 @@ class Story {
   }
   /// Leaves out what changes at every step: facts with that in their names.
   void PassOver(const std::string& part) { passedOver_.push_back(part); }
+
+  int expected = 0;  ///< how many of the test's stories
 
   /// Does the story again, whatever it says behind the arrows, and tells what came of it.
   std::string Play(const std::string& story) {
@@ -248,6 +251,15 @@ class Story {
   Sight before_;
 };
 
-#define EXPECT_STORY(story, told) ExpectTold(story.Play(told), told, __FILE__, __LINE__)
+inline void ExpectStory(Story& story, const char* folder, const char* source) {
+  StoryFile(folder, source).Expect(story, ++story.expected);
+}
+inline void ExpectStory(Story& story, const char*, const char* source, const std::string& told) {
+  ExpectTold(story.Play(told), told, source);
+}
+/// That the next story of this test comes out as the .story beside its source tells; or, until all
+/// stories stand there, as the text that is given.
+#define EXPECT_STORY(story, ...) \
+  ExpectStory(story, TARNVIEW_TESTS, __FILE__ __VA_OPT__(, ) __VA_ARGS__)
 
 }  // namespace tarnview

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace tarnview {
+
+/// NAME.story beside NAME.cpp: what tests of that source do and what comes of it, each under a line
+/// "== TEST", the second of one test under "== TEST 2".
+class StoryFile {
+ public:
+  StoryFile(const std::string& folder, const std::string& source) {
+    const auto room = source.rfind('/', source.rfind('/') - 1);
+    path_ = folder + source.substr(room, source.rfind('.') - room) + ".story";
+    std::stringstream whole;
+    whole << std::ifstream(path_, std::ios::binary).rdbuf();
+    text_ = whole.str();
+  }
+  /// Does the story of the test that runs: its `number`th, from 1. With TARNVIEW_ACCEPT=1 the file
+  /// takes what came: read the difference.
+  template <class Story>
+  void Expect(Story& story, int number) {
+    std::string heading = "== " + TestName();
+    if (number > 1) heading += " " + std::to_string(number);
+    heading += "\n";
+    const auto at = text_.find(heading);
+    ASSERT_NE(at, std::string::npos) << path_ << " without " << heading;
+    const auto from = at + heading.size();
+    const auto to = std::min(text_.find("\n\n== ", from), text_.size() - 1) + 1;
+    const std::string told = text_.substr(from, to - from), came = story.Play(told);
+    EXPECT_EQ(came, told) << path_ << ": " << heading;
+    if (!std::getenv("TARNVIEW_ACCEPT") || came == told) return;
+    std::ofstream(path_, std::ios::binary) << text_.replace(from, to - from, came);
+  }
+
+ private:
+  static std::string TestName() {
+    return ::testing::UnitTest::GetInstance()->current_test_info()->name();
+  }
+  std::string path_, text_;
+};
+
+}  // namespace tarnview
