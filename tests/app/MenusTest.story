@@ -1,0 +1,4 @@
+== AndAllElseOfTheirWindowsIsAsItIsToldWhole
+whole
+click mnuHelpAbout -> +frmAbout
+whole; close -> -frmAbout

@@ -1,0 +1,31 @@
+== WhatIsWrittenIsReadBackByteForByte
+begin full; end -> wrote Tarnview.ini
+begin none; show chkQuickGraph; end; now defaults -> chkQuickGraph=&Quick Graph, chkQuickGraph checked, wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: defaults
+begin defaults; end -> wrote Tarnview.ini
+# The settings from before a run stay beside; no run of many saves takes their place.
+begin full; type txtYMax 90; save; type txtYMax 100; end -> wrote Tarnview.ini.old Tarnview.ini Tarnview.ini, kept Tarnview.ini: Graph Y Max=100, -Graph Y Max=120; Tarnview.ini.old: full
+# Minimized is what nobody wants back.
+begin defaults; type cboZoomAmount 7; click chkQuickGraph; click chkFixY; write txtYMax 90; click mnuFileDrawScatter; load /logs/a.txt; tick lvwSampleDetails MAP off; click chkShowCheckedOnly; end -> [16 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: Quick Graph=0, Checked Data Items=36,23,21,20,7,3,17, Fix Graph Max=1, Graph Y Max=90, Show Checked Only=Y, Scatter Graph Auto Draw=Y, File 0=1|/logs/a.txt, -Quick Graph=1, -Checked Data Items=36,23,21,20,5,7,3,17, -Fix Graph Max=0, -Graph Y Max=250, -Show Checked Only=N, -Scatter Graph Auto Draw=N; Tarnview.ini.old: defaults
+now changed
+begin changed; show mnuRecentlyUsed(0) chkFixY txtYMax; end -> mnuRecentlyUsed(0)=&1 /logs/a.txt, chkFixY=Fi&x Graph Max, chkFixY checked, txtYMax=90, wrote Tarnview.ini
+# Settings beyond the settled ones stand last, and only where they are not their default.
+begin drawn; end; now beyond -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: beyond; Tarnview.ini.old: drawn
+begin "not drawn"; end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: defaults; Tarnview.ini.old: not drawn
+begin full; disk full; type txtYMax 90; end -> [39 ok], wrote Tarnview.ini.old Tarnview.ini
+disk free
+break; begin full; mend; end -> [The settings file cannot be read. Every setting has its default, and nothing is kept from this run:\n/car/Tarnview.ini ok]
+
+== WhatIsNoSettingsFileIsKeptBesideAndToldOnce
+begin bare; show chkQuickGraph; end; now fresh -> chkQuickGraph=&Quick Graph, chkQuickGraph checked, [This is no settings file, so every setting has its default:\n/car/Tarnview.ini\n\nIt is kept as:\n/car/Tarnview.ini.bad ok], wrote Tarnview.ini.bad Tarnview.ini, kept Tarnview.ini: fresh; Tarnview.ini.bad: bare
+begin fresh; end -> wrote Tarnview.ini
+begin zeros; end -> [The settings file is damaged. What can be read of it holds:\n/car/Tarnview.ini\n\nIt is kept as:\n/car/Tarnview.ini.bad2 ok], wrote Tarnview.ini.bad2 Tarnview.ini, kept Tarnview.ini: fresh; Tarnview.ini.bad2: zeros
+# Saved by an editor.
+begin marked; show chkQuickGraph; end -> chkQuickGraph=&Quick Graph, chkQuickGraph unchecked, wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 944 lines; Tarnview.ini.old: marked
+# Of a damaged file each undamaged key is read.
+begin damaged; show cboZoomAmount; end -> cboZoomAmount list=[2|3|4|5|10|20|30|40|50|100], cboZoomAmount=2, [The settings file is damaged. What can be read of it holds:\n/car/Tarnview.ini\n\nIt is kept as:\n/car/Tarnview.ini.bad3\nThe last good settings are:\n/car/Tarnview.ini.old ok], wrote Tarnview.ini.bad3 Tarnview.ini, kept Tarnview.ini: mended; Tarnview.ini.bad3: damaged
+begin full; end -> wrote Tarnview.ini
+begin cut; show cboZoomAmount; end -> cboZoomAmount list=[2|3|4|5|10|20|30|40|50|100], cboZoomAmount=30, wrote Tarnview.ini.bad4 Tarnview.ini, kept Tarnview.ini: 914 lines; Tarnview.ini.bad4: cut
+
+== WhatThePathsNameAndIsNotThereIsToldAndStays
+begin gone; end -> [18 ok], [32 ok], [79 ok], [43 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 950 lines; Tarnview.ini.old: gone, paths=/none.bmp /none /none.txt 
+begin pipe; show fraPicture; end -> fraPicture=, [18 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 944 lines; Tarnview.ini.old: pipe, paths=/pipe.png   
