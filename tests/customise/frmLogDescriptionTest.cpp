@@ -121,26 +121,16 @@ TEST_F(LogDescription, OfRubbishCannotBeAccepted) {
                     clockBehind = Open("RPM\tTime\n900\t1\n901\t2\n902\t3\n");
   ExpectWhole(clockBehind, TARNVIEW_TESTS);
   rubbish.Show();
-  EXPECT_STORY(story, R"(
-show cmdOK lvwHead -> cmdOK off, cmdOK=OK, lvwHead columns=[Line|Is|Text], lvwHead count=2, lvwHead[1]=[1|Preamble|no log], lvwHead[1] unselected, lvwHead[2]=[2|Preamble|at all], lvwHead[2] unselected
-)");
+  EXPECT_STORY(story);
   clockBehind.Show();
-  EXPECT_STORY(story, R"(
-show cmdOK lvwHead[1] lvwColumns[1] lvwColumns[2] -> cmdOK=OK, lvwHead[1]=[1|Titles|RPM Time], lvwHead[1] unselected, lvwColumns[1]=[RPM||900  901  902|900|902|RPM||0|Yes], lvwColumns[1] selected, lvwColumns[2]=[Time||1  2  3|1|3|Secs||0|Yes], lvwColumns[2] unselected
-)");
+  EXPECT_STORY(story);
 }
 
 TEST_F(LogDescription, ALineFrequencyIsHeldToItsLimits) {
   frmLineFrequency window(host, 12.5);
   window.Show();
   ExpectWhole(window, TARNVIEW_TESTS);
-  EXPECT_STORY(story, R"(
-show txtLineFrequency -> txtLineFrequency=12.5
-type txtLineFrequency 0 -> txtLineFrequency=0.01
-type txtLineFrequency 100001 -> txtLineFrequency=100000
-type txtLineFrequency 20 -> txtLineFrequency=20
-key F1; key Enter -> -frmLineFrequency, help=AnyLog
-)");
+  EXPECT_STORY(story);
   EXPECT_TRUE(window.Accepted());
   EXPECT_EQ(window.LinesASecond(), 20);
 }
