@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "support/Accept.h"
 #include "support/StoryFile.h"
 #include "support/WindowFacts.h"
 #include "ui/ComboBox.h"
@@ -251,15 +250,7 @@ class Story {
   Sight before_;
 };
 
-inline void ExpectStory(Story& story, const char* folder, const char* source) {
-  StoryFile(folder, source).Expect(story, ++story.expected);
-}
-inline void ExpectStory(Story& story, const char*, const char* source, const std::string& told) {
-  ExpectTold(story.Play(told), told, source);
-}
-/// That the next story of this test comes out as the .story beside its source tells; or, until all
-/// stories stand there, as the text that is given.
-#define EXPECT_STORY(story, ...) \
-  ExpectStory(story, TARNVIEW_TESTS, __FILE__ __VA_OPT__(, ) __VA_ARGS__)
+/// That the next story of this test comes out as the .story beside its source tells.
+#define EXPECT_STORY(story) StoryFile(TARNVIEW_TESTS, __FILE__).Expect(story, ++(story).expected)
 
 }  // namespace tarnview

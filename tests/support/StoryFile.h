@@ -19,6 +19,8 @@ class StoryFile {
     std::stringstream whole;
     whole << std::ifstream(path_, std::ios::binary).rdbuf();
     text_ = whole.str();
+    for (std::string line; std::getline(whole, line);)
+      if (line.starts_with("== ")) ExpectTest(line.substr(3, line.find(' ', 3) - 3));
   }
   /// Does the story of the test that runs: its `number`th, from 1. With TARNVIEW_ACCEPT=1 the file
   /// takes what came: read the difference.
@@ -38,6 +40,15 @@ class StoryFile {
   }
 
  private:
+  /// That a story is of a test that there is: it is played.
+  void ExpectTest(const std::string& name) const {
+    const auto& all = *::testing::UnitTest::GetInstance();
+    int found = 0;
+    for (int suite = 0; suite < all.total_test_suite_count(); ++suite)
+      for (int n = 0; n < all.GetTestSuite(suite)->total_test_count(); ++n)
+        found += all.GetTestSuite(suite)->GetTestInfo(n)->name() == name;
+    EXPECT_GT(found, 0) << path_ << ": no test " << name;
+  }
   static std::string TestName() {
     return ::testing::UnitTest::GetInstance()->current_test_info()->name();
   }
