@@ -12,5 +12,5 @@ answer ok; click mnu(5) -> [save "Save Picture As" of PNG picture (*.png) ok], p
 answer file /out/a.svg; click mnu(5) -> [save "Save Picture As" of PNG picture (*.png) /out/a.svg], pictures=/logs/run.1.png /out/a.svg
 kind /out/b 3; click mnu(5) -> [save "Save Picture As" of PNG picture (*.png) /out/b], pictures=/logs/run.1.png /out/a.svg /out/b.pdf
 answer cancel; click mnu(5) -> [save "Save Picture As" of PNG picture (*.png) cancel]
-refuse "The disk is full."; answer file /out/a.png; click mnu(5) -> [save "Save Picture As" of PNG picture (*.png) /out/a.png], [Problem saving the picture /out/a.png.\n\nThe disk is full. ok], logged Number       : 75 The disk is full.
-answer printer; click mnu(2) -> [printer "" ok], [Problem printing the graph.\n\nThe disk is full. ok], logged Number       : 482 The disk is full.
+refuse "The disk is full."; answer file /out/a.png; click mnu(5) -> [save "Save Picture As" of PNG picture (*.png) /out/a.png], [Problem saving the picture /out/a.png.\n\nThe disk is full. ok], logged Number       : 75 The disk is full.\n\n--------------------------------------------------\n
+answer printer; click mnu(2) -> [printer "" ok], [Problem printing the graph.\n\nThe disk is full. ok], logged Number       : 482 The disk is full.\n\n--------------------------------------------------\n

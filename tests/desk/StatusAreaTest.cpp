@@ -1,41 +1,69 @@
 #include <gtest/gtest.h>
 
 #include "desk/StatusArea.h"
+#include "support/Accept.h"
 #include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
 
+struct Window : Form {
+  explicit Window(Host& itsHost) : Form(itsHost, "frmWindow", "") {}
+  StatusBar bar{*this, "bar", 3};
+  ProgressBar progress{*this, "progress"};
+};
+struct Desktop : RecordingHost {
+  int paints = 0;
+  void Repaint(Form&) override { ++paints; }
+};
+
+/// Panels, the bar as far as it is seen, an hourglass, and how often the window was painted.
+std::string Told(const Window& window, const Desktop& host) {
+  std::string told = window.bar.Panel(1) + "|" + window.bar.Panel(2) + "|" + window.bar.Panel(3);
+  if (window.progress.Visible())
+    told += " " + std::to_string(window.progress.Value()) + " of " +
+            std::to_string(window.progress.Max());
+  if (window.Pointer() == MousePointer::Hourglass) told += " hourglass";
+  return told + " " + std::to_string(host.paints) + "\n";
+}
+
 TEST(StatusArea, WorkThatFailsTakesItsWordAlong) {
-  struct Window : Form {
-    explicit Window(Host& itsHost) : Form(itsHost, "frmWindow", "") {}
-    StatusBar bar{*this, "bar", 3};
-    ProgressBar progress{*this, "progress"};
-  };
-  struct Desktop : RecordingHost {
-    int paints = 0;
-    void Repaint(Form&) override { ++paints; }
-  } host;
+  Desktop host;
+  std::string told;
   for (const bool fails : {false, true}) {
     Window window(host);
     StatusArea status(window, window.bar, window.progress);
-    EXPECT_FALSE(window.progress.Visible());
-    host.paints = 0;
+    const auto tell = [&] { told += Told(window, host); };
+    status.SayLoaded("1 - 9");
+    tell();
     host.events.Run("", "", [&] {
       const AtWork work(window, status);
       status.Say("Drawing");
       status.ShowProgressInStatusBar(10);
-      EXPECT_EQ(host.paints, 1);
-      status.Progress("Drawing", 4);
-      EXPECT_EQ(host.paints, 2) << "each step is seen";
-      EXPECT_EQ(window.progress.Value() * 100 + window.progress.Max(), 410);
-      EXPECT_EQ(window.Pointer(), MousePointer::Hourglass);
+      tell();
+      status.Progress("Scaling", 4);
+      tell();
+      status.ProgressFull();
+      tell();
+      status.ShowProgressInStatusBar(20);
+      tell();
       if (fails) throw std::bad_alloc();
     });
-    EXPECT_EQ(window.bar.Panel(1), fails ? "" : "Drawing");
-    EXPECT_EQ(window.Pointer(), MousePointer::Default);
-    EXPECT_FALSE(window.progress.Visible());
+    tell();
   }
+  ExpectTold(told, R"(||1 - 9 0
+Drawing||1 - 9 0 of 10 hourglass 1
+Scaling||1 - 9 4 of 10 hourglass 2
+Scaling||1 - 9 10 of 10 hourglass 2
+Scaling||1 - 9 0 of 20 hourglass 3
+Scaling||1 - 9 3
+||1 - 9 3
+Drawing||1 - 9 0 of 10 hourglass 4
+Scaling||1 - 9 4 of 10 hourglass 5
+Scaling||1 - 9 10 of 10 hourglass 5
+Scaling||1 - 9 0 of 20 hourglass 6
+||1 - 9 6
+)");
 }
 
 }  // namespace
