@@ -23,6 +23,7 @@ TEST(Commands, RunWhereTheyAreThereAndMay) {
   commands.Bind({{&always, [&] { ran += "always "; }, {}},
                  {&none, {}, {}},
                  {&asked, [&] { throw std::runtime_error("broken"); }, [&] { return may; }}});
+  EXPECT_FALSE(none.Enabled()) << "once they are bound";
   const auto told = [&](const TableRow& row) {
     may = row.Yes(0);
     commands.Update();

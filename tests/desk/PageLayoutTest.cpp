@@ -57,10 +57,10 @@ TEST(PageLayoutTest, LabelsEndWhereValuesBeginAndTheBlockStandsInTheMiddle) {
   EXPECT_EQ(Told({{"File", "/" + f + "/" + n}}),
             "5520 720 24 Title\n2270 1320 10 File : \n2970 1320 10 /" + f + "/\n2970 1520 10 " + n +
                 "\n720 1840 10800 \n");
-  // 10,100 twips beside "File : ".
-  const std::string full = std::string(101, 'f');
-  EXPECT_EQ(Told({{"File", full + "f"}}), "5520 720 24 Title\n720 1320 10 File : \n1420 1320 10 " +
-                                              full + "\n1420 1520 10 f\n720 1840 10800 \n");
+  // 10,100 twips stand beside "File : ", the last separator among them.
+  const std::string full = "a/" + std::string(98, 'f') + "/";
+  EXPECT_EQ(Told({{"File", full + "gg"}}), "5520 720 24 Title\n720 1320 10 File : \n1420 1320 10 " +
+                                               full + "\n1420 1520 10 gg\n720 1840 10800 \n");
   EXPECT_EQ(Told({{l, "123456789012345 one"}}),
             "5520 720 24 Title\n720 1320 10 " + l +
                 " : \n10520 1320 10 12345678901234\n10520 1520 10 5 one\n720 1840 10800 \n");
