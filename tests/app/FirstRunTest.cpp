@@ -3,14 +3,12 @@
 
 #include "app/FirstRun.h"
 #include "model/ConversionTables.h"
-#include "support/Accept.h"
 #include "support/ProgramFixture.h"
 #include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
 
-constexpr const char* kPath = "/tv/bin/Tarnview.ini";
 constexpr const char* kDefinition = "/tv/data/Universal Data Log Formats/OBDLink.txt";
 
 class FirstRunTest : public ProgramFixture {
@@ -22,6 +20,9 @@ class FirstRunTest : public ProgramFixture {
     files.files[kDefinition] = Shipped("Universal Data Log Formats/OBDLink.txt");
     files.files["/tv/data/Universal Data Log Formats/bad.txt"] = "no definition";
     story.Verb("first", [this](const auto&) { First(); });
+    story.Verb("home", [this](const auto&) {
+      First({"/home/me/.config/tarnview/", "/tv/data/", "/home/me/Documents/"});
+    });
     story.Verb("whole", [this](const auto&) {
       for (const Form* form : host.open) ExpectWhole(*form, TARNVIEW_TESTS);
     });
@@ -38,88 +39,37 @@ class FirstRunTest : public ProgramFixture {
     host.open.clear();
     program = std::make_unique<Program>(host, files, clock, processes, folders);
     program->Start("", true);
-  }
-  /// The settings file's lines of those keys.
-  std::string Written(const std::string& keys, const char* path = kPath) {
-    std::string told;
-    for (const std::string& key : Split(keys, '|'))
-      told += key + "=" +
-              std::string(GetINIValue(ReadINIFileToArray(files.files[path]), "General", key)
-                              .value_or("(missing)")) +
-              "\n";
-    return told;
+    path = folders.program + "Tarnview.ini";
   }
 
   RealFileSystem disk;
+  std::string path;  ///< of the settings
 };
 
 TEST_F(FirstRunTest, AsksWhichLogOnceAndOtherNeedsAGoodDefinition) {
   EXPECT_STORY(story);
-  EXPECT_TRUE(files.files[kPath].find("[General]\r\n") == 0);
+  EXPECT_TRUE(files.files[path].starts_with("[General]\r\n"));
 }
 
 TEST_F(FirstRunTest, ATemplateIsCopiedAndFilledIn) {
-  const std::string keys =
-      "Initial Directory|Default Working Directory|Alternative Background Picture|Log EXE|"
-      "Conversion EXE|O2 Input Conversion File|Zoom Amount|Default File Type|"
-      "Generic Data Log Definition File";
   files.files["/tv/bin/Tarnview_Install1.ini"] =
       "[General]\r\nFirst Run Indicator=Y\r\nAlternative Background "
       "Picture=C:\\old\\car.bmp\r\nZoom Amount=30\r\n";
-  story.Play("first\nchoose lstFileType #0; click cmdOK");
-  ExpectTold(Written(keys), R"(Initial Directory=/tv/
-Default Working Directory=/tv/
-Alternative Background Picture=/tv/Images/car.bmp
-Log EXE=/tv/LinkWin/LinkWin.exe
-Conversion EXE=/tv/MDOS/MDOS_AT.exe
-O2 Input Conversion File=/tv/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt
-Zoom Amount=30
-Default File Type=(missing)
-Generic Data Log Definition File=(missing)
-)");
-  EXPECT_EQ(Main().cboZoomAmount.Text(), "30");
-
-  files.files.erase(kPath);
-  files.files["/tv/data/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt"] =
-      "TARNVIEW CONVERSION TABLE\r\n";
-  story.Play("first\nchoose lstFileType \"FM Link MAP Files\"; click cmdOK");
-  ExpectTold(Written(keys), R"(Initial Directory=/tv/
-Default Working Directory=/tv/
-Alternative Background Picture=
-Log EXE=/tv/LinkWin/LinkWin.exe
-Conversion EXE=/tv/MDOS/MDOS_AT.exe
-O2 Input Conversion File=/tv/data/NB O2 Conversion Tables/AEM_WB_Derived_AF_14.7.txt
-Zoom Amount=2
-Default File Type=2
-Generic Data Log Definition File=
-)");
-
-  files.files.erase(kPath);
-  host.messages.clear();
-  story.Play("first\nchoose lstFileType \"OBDLink Data Logs\"; click cmdOK");
-  ExpectTold(Written(keys), R"(Initial Directory=/tv/
-Default Working Directory=/tv/
-Alternative Background Picture=
-Log EXE=
-Conversion EXE=
-O2 Input Conversion File=
-Zoom Amount=2
-Default File Type=8
-Generic Data Log Definition File=/tv/data/Universal Data Log Formats/OBDLink.txt
-)");
-  EXPECT_EQ(Boxes(), Ids{});
-  EXPECT_EQ(program->Global().gclsDataLogDefinition.strName, "OBDLink");
-}
-
-TEST_F(FirstRunTest, LogsOfAUserWithAFolderOfHisOwnLieInHisDocuments) {
-  story.Verb("home", [this](const auto&) {
-    First({"/home/me/.config/tarnview/", "/tv/data/", "/home/me/Documents/"});
+  story.Fact("settings", [this] {
+    const IniTable written = ReadINIFileToArray(files.Read(path).value_or(""));
+    std::string told;
+    for (const char* key :
+         {"Initial Directory", "Default Working Directory", "Alternative Background Picture",
+          "Log EXE", "Conversion EXE", "O2 Input Conversion File", "Zoom Amount",
+          "Default File Type", "Generic Data Log Definition File"})
+      if (const auto value = GetINIValue(written, "General", key))
+        told += std::string(key) + "=" + std::string(*value) + "|";
+    return told;
   });
-  story.Play("home\nchoose lstFileType \"Tec-2 Data Logs\"; click cmdOK");
-  EXPECT_EQ(Written("Default Working Directory|Initial Directory",
-                    "/home/me/.config/tarnview/Tarnview.ini"),
-            "Default Working Directory=/home/me/Documents/\n"
-            "Initial Directory=/home/me/Documents/\n");
+  story.Fact("definition", [this] {
+    return Runs() ? program->Global().gclsDataLogDefinition.strName : std::string();
+  });
+  EXPECT_STORY(story);
 }
 
 /// How many presets of a family, and a fault for each item that its logs do not have.
@@ -150,7 +100,8 @@ std::vector<int> ItemsOfScatter(const clsScatterGraphPreset& preset) {
 TEST_F(FirstRunTest, TheShippedTemplatesHoldGoodData) {
   for (int type = 1; type <= kUniversalLog; ++type) {
     SCOPED_TRACE(type);
-    files.files[kPath] = Shipped("Tarnview_Install" + std::to_string(type) + ".ini");
+    files.files["/tv/bin/Tarnview.ini"] =
+        Shipped("Tarnview_Install" + std::to_string(type) + ".ini");
     First();
     EXPECT_EQ(Boxes(), Ids{});
     const Globals& globals = program->Global();

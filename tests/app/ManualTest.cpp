@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <set>
-#include <sstream>
+
+#include "base/FileSystem.h"
 
 namespace tarnview {
 namespace {
@@ -14,10 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string TextOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
+  return std::string(RealFileSystem().Read(path.string()).value_or(""));
 }
 
 /// What stands between the two texts, wherever they do on one line.

@@ -2,7 +2,6 @@
 // to the desktop.
 
 #include <set>
-#include <utility>
 
 #include "support/ProgramFixture.h"
 #include "support/WholeWindow.h"
@@ -19,6 +18,12 @@ int LetterOf(const std::string& caption) {
 
 class Menus : public ProgramFixture {
  protected:
+  std::set<std::string> Enabled() {
+    std::set<std::string> names;
+    for (const Control* control : Main().Controls())
+      if (control->Enabled()) names.insert(control->FullName());
+    return names;
+  }
   void ExpectOwnLetters(const Form& form, const std::string& menu) {
     std::set<int> seen;
     for (const Control* control : form.Controls()) {
@@ -51,64 +56,15 @@ TEST_F(Menus, EachEntryHasALetterOfItsOwn) {
 TEST_F(Menus, WhatMayRunFollowsWhatIsThere) {
   files.files["/logs/run.txt"] = SmallLog(200);
   Start("", "[General]\nLog EXE=/L.exe\n");
-  const auto enabled = [&] {
-    std::set<std::string> names;
-    for (const Control* control : Main().Controls())
-      if (control->Enabled()) names.insert(control->FullName());
-    return names;
-  };
-  const std::set<std::string> atFirst = enabled();
-  std::set<std::string> before = atFirst;
-  std::string told, line;
-  const auto add = [&](const std::string& word) {
-    if (line.size() + word.size() > 90) told += std::exchange(line, "") + "\n ";
-    line += " " + word;
-  };
-  const auto tell = [&](const char* what) {
-    const std::set<std::string> now = enabled();
-    told += what;
-    for (const std::string& name : now)
-      if (!before.contains(name)) add("+" + name);
-    for (const std::string& name : before)
-      if (!now.contains(name)) add("-" + name);
-    told += std::exchange(line, "") + "\n";
+  story.Event("may run", [this, before = Enabled()]() mutable {
+    std::string told;
+    const std::set<std::string> now = Enabled();
+    for (const std::string& name : now) told += before.contains(name) ? "" : " +" + name;
+    for (const std::string& name : before) told += now.contains(name) ? "" : " -" + name;
     before = now;
-  };
-  Main().LoadDataFile("/logs/run.txt", 0);
-  tell("open:");
-  Do("click cmdDrawGraph");
-  tell("drawn:");
-  Draw("51", "150");
-  tell("in the middle:");
-  Do("click mnuViewStart");
-  tell("at the start:");
-  Do("click mnuViewFinish");
-  tell("at the end:");
-  Draw("51", "53");
-  tell("three samples:");
-  Main().LoadDataFile("/logs/none.txt", 0);
-  EXPECT_EQ(enabled(), atFirst);
-  EXPECT_EQ(
-      told,
-      R"(open: +cmdDrawGraph +fraGraphSeriesFrame +fraZoneInfl +hsbGraphScroll +hsbGraphScrollLarge
-  +mnuEditNewPreset +mnuFileExport +mnuModulesPowerGraph +mnuModulesScatterGraph
-  +mnuRightClickDrawGraph +mnuToolsDataLogView +mnuViewTags +mnuViewZoneInfl
-  +updPlotRangeFrom +updPlotRangeTo
-drawn: +cmdDataPointLeft +cmdDataPointRight +cmdZoomIn +mnuCopy +mnuFilePrint
-  +mnuFilePrintPreview +mnuFileSavePicture +mnuRightClickCopy +mnuRightClickGoto
-  +mnuRightClickNewDataTag +mnuRightClickPlotFrom +mnuRightClickPlotFromAnd
-  +mnuRightClickPlotTo +mnuRightClickPlotToAnd +mnuRightClickPrint +mnuRightClickZoomIn
-  +mnuViewGoto +mnuViewNewDataTag +mnuViewZoomIn
-in the middle: +cmdZoomFull +cmdZoomOut +mnuRightClickPrevGraph +mnuRightClickZoomOut
-  +mnuRightClickZoomOutFull +mnuViewFinish +mnuViewPageLeft +mnuViewPageRight
-  +mnuViewPrevious +mnuViewScrollLeft +mnuViewScrollRight +mnuViewStart +mnuViewZoomFull
-  +mnuViewZoomOut
-at the start: -mnuViewPageLeft -mnuViewScrollLeft -mnuViewStart
-at the end: +mnuViewPageLeft +mnuViewScrollLeft +mnuViewStart -mnuViewFinish -mnuViewPageRight
-  -mnuViewScrollRight
-three samples: +mnuViewFinish +mnuViewPageRight +mnuViewScrollRight -cmdZoomIn -mnuRightClickZoomIn
-  -mnuViewZoomIn
-)");
+    return told;
+  });
+  EXPECT_STORY(story);
 }
 
 TEST_F(Menus, DataLogViewOpensTheLogItself) {

@@ -1,6 +1,8 @@
 // The road of one file in the main window: choosing, loading, what a load clears and sets up.
 
 #include "support/ProgramFixture.h"
+#include "support/Spaced.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -11,9 +13,7 @@ class OpenFile : public ProgramFixture {
     story.Fact("top", [this] { return Runs() ? Main().mnuRecentlyUsed(0).Tag : std::string(); });
     story.Fact("rows", [this] { return std::to_string(Runs() ? Log().glngDataLog.Rows() : 0); });
     story.Fact("ends", [this] {
-      if (!Runs()) return std::string();
-      return std::to_string(Log().glngFirstSampleTime) + " " +
-             std::to_string(Log().glngLastSampleTime);
+      return Runs() ? Spaced(Log().glngFirstSampleTime, Log().glngLastSampleTime) : "";
     });
   }
 };
@@ -60,42 +60,28 @@ TEST_F(OpenFile, TheDialogStartsAtTheLastFileAndItsTypeDecides) {
   EXPECT_STORY(story);
 }
 
-TEST_F(OpenFile, IsDrawnAtOnceWhereThatIsWanted) {
-  files.files["/logs/run.txt"] = SmallLog(40);
-  std::string told;
-  for (const char* settings :
-       {"[General]\nChecked Data Items=3\n", "[General]\nChecked Data Items=56\n"})
-    for (const char* wanted : {"", "[Beyond]\nDraw After Opening=Y\n"}) {
-      Start("", settings + std::string(wanted));
-      told += Main().lblEmptyPlace.Caption() + "; ";
-      Main().LoadDataFile("/logs/run.txt", 0);
-      told += Main().lblEmptyPlace.Caption() + "; " + Graph() + "\n";
-    }
-  EXPECT_EQ(told,
-            "Open a log, or drop one here; Press Draw, or Enter; none\n"
-            "Open a log, or drop one here; Press Draw, or Enter; 1-40 at 20\n"
-            "Open a log, or drop one here; Press Draw, or Enter; none\n"
-            "Open a log, or drop one here; Press Draw, or Enter; none\n");
-}
-
-TEST_F(OpenFile, TheFirstRangeFollowsWarmthAndWidth) {
+/// Settings, and what stands after a log was opened: the range, the graph, and the words in its
+/// place.
+TEST_F(OpenFile, TheFirstRangeFollowsWarmthAndWidthAndIsDrawnWhereThatIsWanted) {
   std::string warming = SmallLog(64);
   // The first summary, behind sample 16, is still cold.
   warming.replace(warming.find("     80 AT"), 10, "      5 AT");
   files.files["/logs/run.txt"] = warming;
-  const std::pair<const char*, const char*> kRows[] = {
-      {"Plot From Temperature=50\n", "27-64"},
-      {"Plot From Temperature=99\n", "1-64"},
-      {"Plot From Temperature=50\nInitial Plot Width=20\n", "27-47"},
-      {"Plot From Temperature=50\nInitial Plot Width=38\n", "27-64"},
-      {"Plot From Temperature=99\nInitial Plot Width=20\n", "1-21"},
-      {"Initial Plot Width=1\n", "1-64"},
+  const auto opened = [this](const TableRow& row) {
+    Start("", "[General]\n" + row.Lines() + "\n");
+    Main().LoadDataFile("/logs/run.txt", 0);
+    return Spaced(Range() + ",", Graph() + ",", Main().lblEmptyPlace.Caption());
   };
-  for (const auto& [settings, range] : kRows) {
-    Start("", std::string("[General]\n") + settings);
-    ASSERT_TRUE(Main().LoadDataFile("/logs/run.txt", 0));
-    EXPECT_EQ(Range(), range) << settings;
-  }
+  ExpectTable(opened, R"(
+Plot From Temperature=50 -> 27-64, none, Press Draw, or Enter
+Plot From Temperature=99 -> 1-64, none, Press Draw, or Enter
+Plot From Temperature=50; Initial Plot Width=20 -> 27-47, none, Press Draw, or Enter
+Plot From Temperature=50; Initial Plot Width=38 -> 27-64, none, Press Draw, or Enter
+Plot From Temperature=99; Initial Plot Width=20 -> 1-21, none, Press Draw, or Enter
+Initial Plot Width=1 -> 1-64, none, Press Draw, or Enter
+Checked Data Items=3; [Beyond]; Draw After Opening=Y -> 1-64, 1-64 at 32, Press Draw, or Enter
+Checked Data Items=56; [Beyond]; Draw After Opening=Y -> 1-64, none, Press Draw, or Enter
+)");
 }
 
 TEST_F(OpenFile, WithoutQuickGraphALongLogIsShortenedInSilence) {

@@ -4,10 +4,14 @@ begin none; show chkQuickGraph; end; now defaults -> chkQuickGraph=&Quick Graph,
 begin defaults; end -> wrote Tarnview.ini
 # The settings from before a run stay beside; no run of many saves takes their place.
 begin full; type txtYMax 90; save; type txtYMax 100; end -> wrote Tarnview.ini.old Tarnview.ini Tarnview.ini, kept Tarnview.ini: Graph Y Max=100, -Graph Y Max=120; Tarnview.ini.old: full
-# Minimized is what nobody wants back.
 begin defaults; type cboZoomAmount 7; click chkQuickGraph; click chkFixY; write txtYMax 90; click mnuFileDrawScatter; load /logs/a.txt; tick lvwSampleDetails MAP off; click chkShowCheckedOnly; end -> [16 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: Quick Graph=0, Checked Data Items=36,23,21,20,7,3,17, Fix Graph Max=1, Graph Y Max=90, Show Checked Only=Y, Scatter Graph Auto Draw=Y, File 0=1|/logs/a.txt, -Quick Graph=1, -Checked Data Items=36,23,21,20,5,7,3,17, -Fix Graph Max=0, -Graph Y Max=250, -Show Checked Only=N, -Scatter Graph Auto Draw=N; Tarnview.ini.old: defaults
 now changed
 begin changed; show mnuRecentlyUsed(0) chkFixY txtYMax; end -> mnuRecentlyUsed(0)=&1 /logs/a.txt, chkFixY=Fi&x Graph Max, chkFixY checked, txtYMax=90, wrote Tarnview.ini
+# A window's place is kept, and a minimized one comes back.
+begin defaults; minimized; end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: Window State=0, Window Left=15, Window Top=0, Window Width=9000, Window Height=9000
+now sized
+begin sized -> +frmDataLogViewer, width=9000
+end -> wrote Tarnview.ini, -frmDataLogViewer, width=
 # Settings beyond the settled ones stand last, and only where they are not their default.
 begin drawn; end; now beyond -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: beyond; Tarnview.ini.old: drawn
 begin "not drawn"; end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: defaults; Tarnview.ini.old: not drawn
