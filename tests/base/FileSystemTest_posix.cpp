@@ -2,9 +2,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <filesystem>
+#include <functional>
+#include <map>
 
 #include "base/FileSystem.h"
+#include "support/ScratchFolder.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -14,40 +16,87 @@ namespace fs = std::filesystem;
 
 class FileSystemTest : public testing::Test {
  protected:
-  FileSystemTest() {
-    std::string pattern = (fs::temp_directory_path() / "tarnview-test-XXXXXX").string();
-    folder = std::string(::mkdtemp(pattern.data())) + "/";
+  std::string Path(const std::string& name) const {
+    if (name == "(no name)") return "";
+    return folder.Path(name);
   }
-  ~FileSystemTest() override { fs::remove_all(folder); }
 
+  std::string Told(const TableRow& row) {
+    const std::string path = Path(row.Text(1)), more = row.Count() > 2 ? row.Text(2) : "";
+    const std::map<std::string, std::function<bool()>> steps{
+        {"write", [&] { return files.Write(path, more); }},
+        {"append", [&] { return files.Append(path, more); }},
+        {"copy", [&] { return files.CopyFile(path, Path(more)); }},
+        {"rename", [&] { return files.RenameFile(path, Path(more)); }},
+        {"delete", [&] { return files.DeleteFile(path); }},
+        {"make folder", [&] { return files.MakeFolder(path); }},
+        {"is there", [&] { return files.FileExists(path); }},
+        {"is a folder", [&] { return files.FolderExists(path); }},
+        {"is a file", [&] { return files.IsFile(path); }},
+        {"is a program", [&] { return files.IsProgram(path); }},
+        {"is the same as", [&] { return files.SameFile(path, Path(more)); }},
+        {"may be replaced", [&] { return files.MayReplace(path); }},
+    };
+    if (row.Text(0) == "list") return Join(files.List(path, more), " ");
+    if (row.Text(0) != "read") return steps.at(row.Text(0))() ? "yes" : "no";
+    const auto bytes = files.Read(path);
+    return bytes ? "[" + std::string(*bytes) + "]" : files.WhyNotRead(path);
+  }
+  void ExpectSteps(const std::string& table, int line = __builtin_LINE()) {
+    const auto tell = [this](const TableRow& row) { return Told(row); };
+    ExpectTable(tell, table, __builtin_FILE(), line);
+  }
+
+  ScratchFolder folder;
   RealFileSystem files;
-  std::string folder;
 };
 
-TEST_F(FileSystemTest, WritesReplacesAppendsAndReadsBack) {
-  const std::string path = folder + "a.txt";
+TEST_F(FileSystemTest, TellsWhatWasDone) {
+  fs::create_symlink("a.txt", Path("link.txt"));
+  ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+  // What the new file would be called is taken by a folder, so that it cannot be made.
+  fs::create_directories(Path("taken/.tarnview-" + std::to_string(::getpid()) + ".tmp"));
+  folder.Put("taken/a.txt", "old");
+  ExpectSteps(R"(
+read, a.txt -> No such file or directory | may be replaced, a.txt -> yes | write, a.txt, one -> yes | append, a.txt, two -> yes | read, a.txt -> [onetwo]
+write, a.txt, 1 -> yes | read, a.txt -> [1] | write, a.txt,  -> yes | read, a.txt -> []
+append, new.txt, x -> yes | copy, new.txt, a.txt -> yes | rename, new.txt, b.txt -> yes | list, , *.txt -> a.txt b.txt link.txt | list, none, * -> 
+delete, b.txt -> yes | delete, b.txt -> no | read, a.txt -> [x] | write, taken/a.txt, new -> no | read, taken/a.txt -> [old] | write, none/x.txt, x -> no
+# Only files are touched.
+read, pipe -> It is not a file. | write, pipe, x -> no | append, pipe, x -> no | is a file, pipe -> no | is there, pipe -> yes
+read,  -> It is not a file. | write, taken, x -> no | append, taken, x -> no | is a file, taken -> no
+read, (no name) -> No such file or directory | write, (no name), x -> no | append, (no name), x -> no | is there, (no name) -> no
+# By name and by wildcard.
+write, Run1.txt, x -> yes | is there, Run1.txt -> yes | is there, run?.TXT -> yes | is there, run?.log -> no | is a file, Run1.txt -> yes
+make folder, deep/er -> yes | make folder, deep/er -> yes | make folder, Run1.txt -> no | is there, de* -> yes | is a folder, deep/  -> yes | is a folder, Run1.txt -> no
+is the same as, deep/../Run1.txt, Run1.txt -> yes | is the same as, link.txt, a.txt -> yes | is the same as, a.txt, Run1.txt -> no | is the same as, none, none -> yes
+write, tool.EXE, x -> yes | is a program, tool.EXE -> yes | is a program, none.exe -> no | is a program, deep -> no | is a program, a.txt -> no
+)");
+  ASSERT_EQ(::chmod(Path("a.txt").c_str(), 0750), 0);
+  ASSERT_EQ(::chmod(Path("Run1.txt").c_str(), 0444), 0);
+  ExpectSteps(R"(
+is a program, a.txt -> yes | may be replaced, a.txt -> yes | may be replaced, Run1.txt -> no
+write, link.txt, new -> yes | read, a.txt -> [new] | list, , *a* -> a.txt
+)");
+  struct stat facts;
+  ASSERT_EQ(::stat(Path("a.txt").c_str(), &facts), 0);
+  EXPECT_EQ(facts.st_mode & 0777u, 0750u);
+  EXPECT_TRUE(fs::is_symlink(Path("link.txt")));
+  EXPECT_TRUE(fs::is_fifo(Path("pipe")));
   const std::string bytes("one\0\r\n\xff", 7);
-  EXPECT_FALSE(files.Read(path));
-  ASSERT_TRUE(files.Write(path, bytes));
-  EXPECT_EQ(files.Read(path), bytes);
-  ASSERT_TRUE(files.Append(path, "two"));
-  EXPECT_EQ(files.Read(path), bytes + "two");
-  ASSERT_TRUE(files.Write(path, ""));
-  EXPECT_EQ(files.Read(path), "");
-  ASSERT_TRUE(files.Append(folder + "new.txt", "x"));
-  ASSERT_TRUE(files.CopyFile(folder + "new.txt", path));
-  ASSERT_TRUE(files.RenameFile(folder + "new.txt", folder + "b.txt"));
-  EXPECT_EQ(files.List(folder, "*"), (std::vector<std::string>{"a.txt", "b.txt"}));
-  EXPECT_TRUE(files.DeleteFile(path));
-  EXPECT_FALSE(files.DeleteFile(path));
+  ASSERT_TRUE(files.Write(Path("a.txt"), bytes));
+  EXPECT_EQ(files.Read(Path("a.txt")), bytes);
+  for (const auto step : {&RealFileSystem::Write, &RealFileSystem::Append})
+    EXPECT_FALSE((files.*step)("/dev/zero", "x"));
+  EXPECT_FALSE(files.Read("/dev/zero"));
 }
 
 TEST_F(FileSystemTest, AnAbsolutePathMeansTheSameFileFromAnyFolder) {
-  fs::create_directories(folder + "real/deep");
-  fs::create_directory_symlink(folder + "real/deep", folder + "link");
-  for (const char* name : {"a.txt", "real/b.txt"}) ASSERT_TRUE(files.Write(folder + name, ""));
+  fs::create_directories(Path("real/deep"));
+  fs::create_directory_symlink(Path("real/deep"), Path("link"));
+  for (const char* name : {"a.txt", "real/b.txt"}) folder.Put(name, "");
   const fs::path before = fs::current_path();
-  fs::current_path(folder + "real");
+  fs::current_path(Path("real"));
   const std::string here = fs::current_path().parent_path().string() + "/";
   EXPECT_EQ(files.Absolute("b.txt"), here + "real/b.txt");
   EXPECT_EQ(files.Absolute("./../real/../a.txt"), here + "a.txt");
@@ -57,61 +106,31 @@ TEST_F(FileSystemTest, AnAbsolutePathMeansTheSameFileFromAnyFolder) {
 }
 
 TEST_F(FileSystemTest, ALimitOnTheSizeOfFilesIsAFullDisk) {
-  const std::string path = folder + "a.txt";
-  ASSERT_TRUE(files.Write(path, "old"));
+  folder.Put("a.txt", "old");
   struct rlimit before;
   ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
   const struct rlimit small { 1000, before.rlim_max };
   ::setrlimit(RLIMIT_FSIZE, &small);
-  EXPECT_FALSE(files.Write(path, std::string(5000, 'x')));
-  EXPECT_FALSE(files.Append(path, std::string(5000, 'x')));
+  EXPECT_FALSE(files.Write(Path("a.txt"), std::string(5000, 'x')));
+  EXPECT_FALSE(files.Append(Path("a.txt"), std::string(5000, 'x')));
   ::setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_TRUE(std::string_view(*files.Read(path)).starts_with("old"));
-}
-
-TEST_F(FileSystemTest, AWriteKeepsModeAndLinkAndLeavesNothingBehind) {
-  const std::string path = folder + "a.txt", link = folder + "link.txt";
-  ASSERT_TRUE(files.Write(path, "old"));
-  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
-  fs::create_symlink(path, link);
-  ASSERT_TRUE(files.Write(link, "new"));
-  EXPECT_EQ(files.Read(path), "new");
-  EXPECT_TRUE(fs::is_symlink(link));
-  struct stat facts;
-  ASSERT_EQ(::stat(path.c_str(), &facts), 0);
-  EXPECT_EQ(facts.st_mode & 0777u, 0640u);
-
-  fs::create_directory(folder + "sub");
-  EXPECT_FALSE(files.Write(folder + "sub", "x"));
-  EXPECT_FALSE(files.Write(folder + "none/x.txt", "x"));
-  EXPECT_EQ(files.List(folder, "*"), (std::vector<std::string>{"a.txt", "link.txt"}));
-}
-
-TEST_F(FileSystemTest, AFailedWriteKeepsTheOldFile) {
-  const std::string path = folder + "a.txt";
-  ASSERT_TRUE(files.Write(path, "old"));
-  // What the new file would be called is taken by a folder, so that it cannot be made.
-  fs::create_directory(folder + ".tarnview-" + std::to_string(::getpid()) + ".tmp");
-  EXPECT_FALSE(files.Write(path, "new"));
-  EXPECT_EQ(files.Read(path), "old");
+  EXPECT_TRUE(folder.Get("a.txt").starts_with("old"));
+  EXPECT_EQ(files.List(Path(""), "*"), std::vector<std::string>{"a.txt"});
 }
 
 TEST_F(FileSystemTest, WhatAKilledSaveLeftIsClearedAndWhatOneIsWritingIsNot) {
-  const auto names = [&] { return files.List(folder, "*"); };
-  const std::string leftover = folder + ".tarnview-99999999.tmp", busy = folder + ".tarnview-1.tmp";
-  for (const std::string& path : {leftover, busy, folder + "mine.tmp"})
-    ASSERT_TRUE(files.Append(path, "half"));
+  for (const char* name : {".tarnview-99999999.tmp", ".tarnview-1.tmp", "mine.tmp"})
+    folder.Put(name, "half");
   RealFileSystem another;
-  ASSERT_TRUE(another.Hold(busy));
-  files.ClearLeftovers(folder);
-  EXPECT_EQ(names(), (std::vector<std::string>{".tarnview-1.tmp", "mine.tmp"}));
-  another.LetGo(busy);
-  ASSERT_TRUE(files.Write(folder + "a.txt", "new"));
-  EXPECT_EQ(names(), (std::vector<std::string>{"a.txt", "mine.tmp"}));
+  ASSERT_TRUE(another.Hold(Path(".tarnview-1.tmp")));
+  files.ClearLeftovers(Path(""));
+  ExpectSteps("list, , * -> .tarnview-1.tmp mine.tmp");
+  another.LetGo(Path(".tarnview-1.tmp"));
+  ExpectSteps("write, a.txt, new -> yes | list, , * -> a.txt mine.tmp");
 }
 
 TEST_F(FileSystemTest, AFileIsHeldByOneProgramAtATime) {
-  const std::string path = folder + "error.log";
+  const std::string path = Path("error.log");
   RealFileSystem another;
   EXPECT_TRUE(files.Hold(path));
   EXPECT_TRUE(files.Hold(path));
@@ -119,54 +138,15 @@ TEST_F(FileSystemTest, AFileIsHeldByOneProgramAtATime) {
   EXPECT_TRUE(another.Append(path, "told all the same"));
   files.LetGo(path);
   EXPECT_TRUE(another.Hold(path));
-  EXPECT_TRUE(files.Hold(folder + "none/error.log"));
-}
-
-TEST_F(FileSystemTest, AFileWithoutTheRightToWriteIsProtected) {
-  const std::string path = folder + "a.txt";
-  EXPECT_TRUE(files.MayReplace(path));
-  ASSERT_TRUE(files.Write(path, "old"));
-  EXPECT_TRUE(files.MayReplace(path));
-  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
-  EXPECT_FALSE(files.MayReplace(path));
-}
-
-TEST_F(FileSystemTest, TouchesOnlyFiles) {
-  const std::string pipe = folder + "pipe";
-  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-  for (const std::string& path : {pipe, folder, std::string("/dev/zero"), std::string()}) {
-    EXPECT_FALSE(files.Read(path)) << path;
-    EXPECT_FALSE(files.Write(path, "x")) << path;
-    EXPECT_FALSE(files.Append(path, "x")) << path;
-  }
-  EXPECT_TRUE(fs::is_fifo(pipe));
+  EXPECT_TRUE(files.Hold(Path("none/error.log")));
 }
 
 TEST_F(FileSystemTest, ASparseGiantIsNotRead) {
-  const std::string path = folder + "giant";
-  ASSERT_TRUE(files.Write(path, "x"));
+  folder.Put("giant", "x");
   std::error_code failed;
-  fs::resize_file(path, std::uintmax_t{1} << 40, failed);
+  fs::resize_file(Path("giant"), std::uintmax_t{1} << 40, failed);
   if (failed) GTEST_SKIP() << "this disk holds no such file";
-  EXPECT_FALSE(files.Read(path));
-  EXPECT_EQ(files.WhyNotRead(path), "It is larger than 1 GiB.");
-  EXPECT_EQ(files.WhyNotRead(folder), "It is not a file.");
-  EXPECT_EQ(files.WhyNotRead(folder + "none"), "No such file or directory");
-}
-
-TEST_F(FileSystemTest, FindsByNameAndByWildcard) {
-  ASSERT_TRUE(files.Write(folder + "Run1.txt", ""));
-  ASSERT_TRUE(files.MakeFolder(folder + "deep/er"));
-  EXPECT_TRUE(files.MakeFolder(folder + "deep/er"));
-  EXPECT_TRUE(files.FileExists(folder + "Run1.txt"));
-  EXPECT_TRUE(files.FileExists(folder + "run?.TXT"));
-  EXPECT_TRUE(files.FileExists(folder + "de*"));
-  EXPECT_FALSE(files.FileExists(folder + "run?.log"));
-  EXPECT_FALSE(files.FileExists(""));
-  EXPECT_TRUE(files.FolderExists(folder + "deep/ "));
-  EXPECT_FALSE(files.FolderExists(folder + "Run1.txt"));
-  EXPECT_FALSE(files.MakeFolder(folder + "Run1.txt"));
-  EXPECT_TRUE(files.List(folder + "none", "*").empty());
+  ExpectSteps("read, giant -> It is larger than 1 GiB.");
 }
 
 TEST(MatchesPattern, KnowsStarAndQuestionMark) {
@@ -175,10 +155,8 @@ TEST(MatchesPattern, KnowsStarAndQuestionMark) {
   };
   ExpectTable(tell, R"(
 a.txt, *.TXT -> yes | a.txt, *.* -> yes | a, *.* -> no | ab, ? -> no | abcbc, a*bc -> yes | abcbd, a*bc -> no | a, a** -> yes
-a.txt.bak, *.txt -> no
+a.txt.bak, *.txt -> no | , * -> yes | , ? -> no
 )");
-  EXPECT_TRUE(MatchesPattern("", "*"));
-  EXPECT_FALSE(MatchesPattern("", "?"));
   EXPECT_FALSE(MatchesPattern(std::string(5000, 'a'), "*a*a*a*a*a*a*a*a*b"));
 }
 

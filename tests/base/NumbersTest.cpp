@@ -1,8 +1,9 @@
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
+#include <iomanip>
 #include <random>
-#include <string>
+#include <regex>
 
 #include "base/DigitText.h"
 #include "base/Numbers.h"
@@ -32,30 +33,14 @@ TEST(Numbers, ReadsTextTolerantly) {
   EXPECT_EQ(StringToDouble(" \t7 \t"), 7);
 }
 
-std::string WithoutSign(const std::string& text) {
-  return text.starts_with('-') || text.starts_with('+') ? text.substr(1) : text;
-}
-
-bool IsPlain(const std::string& text) {
-  const std::string digits = WithoutSign(text);
-  return digits.find_first_not_of("0123456789.") == std::string::npos &&
-         digits.find('.') == digits.rfind('.') &&
-         digits.find_first_of("0123456789") != std::string::npos;
-}
-
-bool IsExponent(const std::string& text) {
-  const std::string digits = WithoutSign(text);
-  return !digits.empty() && digits.find_first_not_of("0123456789") == std::string::npos;
-}
-
-double Plainly(std::string text) {
-  text.erase(0, text.find_first_not_of(" \t"));
-  const std::string whole = text.substr(0, text.find_last_not_of(" \t") + 1);
-  const auto e = whole.find('e');
-  const bool scientific =
-      e != std::string::npos && IsPlain(whole.substr(0, e)) && IsExponent(whole.substr(e + 1));
-  while (!scientific && !text.empty() && !IsPlain(text)) text.pop_back();
-  const double value = std::strtod(text.c_str(), nullptr);
+/// The same by rules that are plain to read.
+double Plainly(const std::string& text) {
+  static const std::regex numeric(R"([ \t]*([-+]?(\d+\.?\d*|\.\d+)(e[-+]?\d+)?)[ \t]*)");
+  static const std::regex atItsStart(R"([ \t]*([-+]?(\d+\.?\d*|\.\d+)).*)");
+  std::smatch found;
+  if (!std::regex_match(text, found, numeric) && !std::regex_match(text, found, atItsStart))
+    return 0;
+  const double value = std::strtod(found.str(1).c_str(), nullptr);
   return std::isfinite(value) ? value : 0;
 }
 
@@ -63,7 +48,7 @@ TEST(Numbers, TheFastRoadAgreesWithAPlainOne) {
   std::mt19937 random(20261124);
   const std::string letters = "0123456789012345678901234567890123456789..-+  \tex";
   int fast = 0;
-  for (int n = 0; n < 100000; ++n) {
+  for (int n = 0; n < 30000; ++n) {
     std::string text;
     for (auto length = random() % 20; length > 0; --length)
       text += letters[random() % letters.size()];
@@ -72,20 +57,21 @@ TEST(Numbers, TheFastRoadAgreesWithAPlainOne) {
     ASSERT_EQ(StringToDouble(text), Plainly(text)) << '"' << text << '"';
   }
   EXPECT_GT(fast, 1000);  // both roads were walked
-  EXPECT_LT(fast, 99000);
+  EXPECT_LT(fast, 29000);
 }
 
 TEST(Numbers, RoundsHalvesToEven) {
-  EXPECT_EQ(RoundHalfEven(0.5), 0);
-  EXPECT_EQ(RoundHalfEven(1.5), 2);
-  EXPECT_EQ(RoundHalfEven(-1.5), -2);
-  EXPECT_EQ(RoundHalfEven(0.49999999999999994), 0);
-  EXPECT_EQ(RoundHalfEven(1125899906842624.5), 1125899906842624.0);
-  EXPECT_EQ(RoundHalfEven(4503599627370495.5), 4503599627370496.0);
-  EXPECT_EQ(RoundHalfEven(1e300), 1e300);
-  EXPECT_EQ(RoundToLong(-2147483648.5), -2147483647 - 1);
-  EXPECT_EQ(RoundToLong(2147483647.5), 0);
-  EXPECT_EQ(RoundToLong(std::nan("")), 0);
+  const auto tell = [](const TableRow& row) {
+    const double rounded = RoundHalfEven(row.Number(0));
+    std::ostringstream told;
+    told << std::setprecision(16) << rounded;
+    if (RoundToLong(row.Number(0)) != rounded) told << ", whole " << RoundToLong(row.Number(0));
+    return told.str();
+  };
+  ExpectTable(tell, R"(
+0.5 -> 0 | 1.5 -> 2 | -1.5 -> -2 | 0.49999999999999994 -> 0 | 1125899906842624.5 -> 1125899906842624, whole 0 | 4503599627370495.5 -> 4503599627370496, whole 0
+1e300 -> 1e+300, whole 0 | -2147483648.5 -> -2147483648 | 2147483647.5 -> 2147483648, whole 0 | nan -> nan, whole 0
+)");
   EXPECT_EQ(RoundPlaces(14.705, 2), 14.7);
   EXPECT_EQ(RoundPlaces(137.46, 1), 137.5);
   EXPECT_EQ(RoundPlaces(1e308, 2), 1e308);
@@ -135,12 +121,12 @@ TEST(ShortNumberText, IsTheTextOfANumber) {
       const bool isLong = expected.size() > 8;
       ASSERT_EQ(written(-whole - (whole == 0), places) == "long", isLong) << whole;
     }
-  EXPECT_EQ(written(-5, 1), "-0.5,");
-  EXPECT_EQ(written(-1234567, 2), "-12345.67,");
-  EXPECT_EQ(written(-kMost, 0), "-99999999,");
-  EXPECT_EQ(written(kMost + 1, 0), "long");
-  EXPECT_EQ(written(-kMost - 1, 0), "long");
-  EXPECT_EQ(written(1, 8), "long");
+  const auto tell = [&](const TableRow& row) {
+    return written(static_cast<std::int64_t>(row.Number(0)), row.Int(1));
+  };
+  ExpectTable(tell, R"(
+-5, 1 -> -0.5, | -1234567, 2 -> -12345.67, | -99999999, 0 -> -99999999, | 100000000, 0 -> long | -100000000, 0 -> long | 1, 8 -> long
+)");
 }
 
 }  // namespace

@@ -1,26 +1,29 @@
-#include <gtest/gtest.h>
-
 #include "base/Paths.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
+/// Its folder, title, extension, what it is without that, and as a folder.
 TEST(Paths, AreTakenApart) {
-  EXPECT_EQ(GetExtension("C:\\a.b\\run.1.TXT"), "TXT");
-  EXPECT_EQ(GetExtension("/home/a.b/run"), "");
-  EXPECT_EQ(GetParentFolder("C:\\A\\B\\"), "C:\\A\\");
-  EXPECT_EQ(GetParentFolder("/home/me/run.txt"), "/home/me/");
-  EXPECT_EQ(GetParentFolder("/"), "/");
-  EXPECT_EQ(GetParentFolder("run.txt"), "");
-  EXPECT_EQ(FileTitle("C:\\logs/run.txt"), "run.txt");
-  EXPECT_EQ(WithoutExtension("/a.b/run.1.txt"), "/a.b/run.1");
-  EXPECT_EQ(WithoutExtension("/a.b/run"), "/a.b/run");
-}
-
-TEST(Paths, AddTheSeparatorThatTheyUse) {
-  EXPECT_EQ(AddBackslash("C:\\A"), "C:\\A\\");
-  EXPECT_EQ(AddBackslash("/home/me"), "/home/me/");
-  EXPECT_EQ(AddBackslash("/home/me/"), "/home/me/");
+  const auto tell = [](const TableRow& row) {
+    const std::string& path = row.All();
+    return Join({GetParentFolder(path), FileTitle(path), GetExtension(path), WithoutExtension(path),
+                 AddBackslash(path)},
+                " : ");
+  };
+  ExpectTable(tell, R"(
+C:\a.b\run.1.TXT -> C:\a.b\ : run.1.TXT : TXT : C:\a.b\run.1 : C:\a.b\run.1.TXT\
+/home/a.b/run.1.txt -> /home/a.b/ : run.1.txt : txt : /home/a.b/run.1 : /home/a.b/run.1.txt/
+/home/a.b/run -> /home/a.b/ : run :  : /home/a.b/run : /home/a.b/run/
+C:\A\B\ -> C:\A\ :  :  : C:\A\B\ : C:\A\B\
+/ -> / :  :  : / : /
+run.txt ->  : run.txt : txt : run : run.txt/
+C:\logs/run.txt -> C:\logs/ : run.txt : txt : C:\logs/run : C:\logs/run.txt/
+C:\A -> C:\ : A :  : C:\A : C:\A\
+/home/me -> /home/ : me :  : /home/me : /home/me/
+/home/me/ -> /home/ :  :  : /home/me/ : /home/me/
+)");
 }
 
 TEST(Paths, OfFilesHoldLegalCharacters) {
