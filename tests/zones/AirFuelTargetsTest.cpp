@@ -1,44 +1,32 @@
 #include "support/Table.h"
 #include "zones/AirFuelTargets.h"
 #include "zones/AutoTune.h"
-#include "zones/ChipIdentity.h"
-#include "zones/ZoneDefaults.h"
+#include "zones/ZoneFlags.h"
 #include "zones/ZoneTexts.h"
 
 namespace tarnview {
 namespace {
 
-TEST(AutoTune, TypeByFlagsAndDate) {
-  // z5, z800, chip; the type, and which ones there are to choose
+TEST(AutoTune, TypeAndSensorByFlagsAndDate) {
+  // z5, z800, chip; the type, which ones there are to choose, what bits 3 and 4 of z5 mean
   ExpectTable(
       [](const TableRow& row) {
         const ChipIdentity chip = Chip(row.Text(2));
+        const ZoneMap map = MapWith(chip, row.Int(0), row.Int(1));
         std::string told(RetrieveAutoTuneType(chip.dblEngineSize, chip.datChipDate,
-                                              chip.intChipVersion,
-                                              MapWith(chip, row.Int(0), row.Int(1)).zones));
+                                              chip.intChipVersion, map.zones));
         for (const std::string_view type : AutoTuneTypes(chip)) told += "/" + std::string(type);
-        return told;
-      },
-      R"(
-128, 0, 1.8 2010-01-01 2 -> Off/Off/Lambda/L3/L3+L4 | 1, 0, 1.8 2010-01-01 2 -> Lambda/Off/Lambda/L3/L3+L4 | 129, 4, 1.8 2004-09-02 2 -> L3/Off/Lambda/L3/L3+L4
-129, 0, 1.8 2004-09-02 2 -> L3+L4/Off/Lambda/L3/L3+L4 | 129, 0, 1.8 2004-09-01 2 -> L3/Off/Lambda/L3 | 129, 4, 1.8 2003-03-01 3 -> L3+L4/Off/Lambda/L3+L4
-129, 0, 1.8 2000-06-21 1 -> L3/Off/Lambda/L3 | 129, 0, 1.8 2000-06-20 1 -> Lambda/Off/Lambda | 129, 4, 1.8 no date... 0 -> L3/Off/Lambda/L3/L3+L4
-)");
-}
-
-TEST(AutoTune, SensorByFlagsAndDate) {
-  // bits 3 and 4 of z5, chip
-  ExpectTable(
-      [](const TableRow& row) {
-        const ChipIdentity chip = Chip(row.Text(2));
+        const int flags = row.Int(0);
         const O2Sensor sensor =
-            GetO2Sensor(row.Yes(0), row.Yes(1), chip.intChipVersion, chip.datChipDate);
-        return std::string(sensor.text) + (sensor.EGR ? " EGR" : "") +
+            GetO2Sensor(BitIsSet(flags, z5::kEGR), BitIsSet(flags, z5::kWideBand),
+                        chip.intChipVersion, chip.datChipDate);
+        return told + " " + std::string(sensor.text) + (sensor.EGR ? " EGR" : "") +
                (sensor.mixtureFuel ? " mixture" : "");
       },
       R"(
-yes, yes, 1.8 2004-05-08 3 -> NB+WB | yes, yes, 1.8 2004-05-07 3 -> WB EGR | yes, yes, 1.8 2004-05-08 2 -> WB
-yes, no, 1.8 2004-05-08 3 -> NB EGR | no, no, 1.8 2002-06-10 1 -> NB | yes, yes, 1.8 2002-06-09 1 ->  EGR mixture
+128, 0, 1.8 2010-01-01 2 -> Off/Off/Lambda/L3/L3+L4 NB | 1, 0, 1.8 2010-01-01 2 -> Lambda/Off/Lambda/L3/L3+L4 NB | 129, 4, 1.8 2004-09-02 2 -> L3/Off/Lambda/L3/L3+L4 NB | 129, 0, 1.8 2004-09-02 2 -> L3+L4/Off/Lambda/L3/L3+L4 NB | 129, 0, 1.8 2004-09-01 2 -> L3/Off/Lambda/L3 NB
+129, 4, 1.8 2003-03-01 3 -> L3+L4/Off/Lambda/L3+L4 NB | 129, 0, 1.8 2000-06-21 1 -> L3/Off/Lambda/L3  | 129, 0, 1.8 2000-06-20 1 -> Lambda/Off/Lambda  | 129, 4, 1.8 no date... 0 -> L3/Off/Lambda/L3/L3+L4  | 24, 0, 1.8 2004-05-08 3 -> Off/Off/Lambda/L3/L3+L4 NB+WB
+24, 0, 1.8 2004-05-07 3 -> Off/Off/Lambda/L3/L3+L4 WB EGR | 24, 0, 1.8 2004-05-08 2 -> Off/Off/Lambda/L3 WB | 8, 0, 1.8 2004-05-08 3 -> Off/Off/Lambda/L3/L3+L4 NB EGR | 0, 0, 1.8 2002-06-10 1 -> Off/Off/Lambda/L3 NB | 24, 0, 1.8 2002-06-09 1 -> Off/Off/Lambda/L3  EGR mixture
 )");
 }
 
@@ -63,27 +51,6 @@ TEST(AirFuelTargets, NarrowWideAndBoth) {
 24, usual -> NB+WB 14000 9995 9952 9910 9867 9825
 0, tiny -> NB 1000 1000 1000 1000 1000 1000
 16, tiny -> WB 40000 40000 40000 40000 40000 40000
-)");
-}
-
-TEST(ZoneDefaults, FillsWhatIsMissingAndTells) {
-  // quiet, silent by the settings, for the second time
-  ExpectTable(
-      [](const TableRow& row) {
-        Settings settings;
-        settings.gblnSilentDefaults = row.Yes(1);
-        LoadedZones zones;
-        if (row.Yes(2)) ApplyZoneDefaults(zones, settings, false);
-        std::string told;
-        for (const Message message : ApplyZoneDefaults(zones, settings, row.Yes(0)))
-          told += std::to_string(static_cast<int>(message)) + " ";
-        told += EngineSizeText(zones.chip.dblEngineSize);
-        return told + " " + DateText(zones.chip.datChipDate) + " " +
-               std::to_string(zones.chip.intChipVersion) + " " +
-               std::to_string(zones.intAtmosphericPressure);
-      },
-      R"(
-no, no, no -> 7 8 9 1.6 2000-01-01 2 75 | no, no, yes -> 1.6 2000-01-01 2 75 | yes, no, no -> 1.6 2000-01-01 2 75 | no, yes, no -> 1.6 2000-01-01 2 75
 )");
 }
 

@@ -40,6 +40,8 @@ ZoneSheet Edited(const ZoneSheet& sheet, const std::string& edit) {
   if (verb == "offset") return WithOffset(sheet, cells, number);
   if (verb == "copy") return WithCellsOf(sheet, cells, benchmark);
   if (verb == "difference") return WithDifference(sheet, cells, benchmark);
+  if (verb == "interpolate") return WithInterpolation(sheet, {cells, number});
+  if (verb == "smooth") return WithSmoothing(sheet, {cells, number});
   if (verb == "is") {
     ZoneSheet after = sheet;
     after.Shown(cells[0]) = number;
@@ -81,25 +83,9 @@ TEST(ZoneEdits, WhatTheyChange) {
 1.8 2005-02-10 3, 02, cell 229 x ->  | 1.8 2005-02-10 3, 02, cell 26 12x -> z26 100>0 | 1.6 2002-06-09 2, 02, cell 26 127 -> z26 100>110 | 1.6 2002-06-09 2, 02, tick 9 -> +9
 1.8 2005-02-10 3, 02, unit Pct; cell 239 150 -> z775 0>99 | 1.8 2005-02-10 3, 02, unit Pct -> z725 100>0 z730 100>0 z735 100>0 z740 100>0 z745 100>0 z750 100>0 z755 100>0 z760 100>0 z765 100>0 z770 100>0 z775 100>0 Pct
 1.8 2005-02-10 3, 02, cell 229 120; all 229 -> z730 100>120 z735 100>120 z740 100>120 z745 100>120 z750 100>120 z755 100>120 z760 100>120 z765 100>120 z770 100>120 z775 100>120
-)");
-}
-
-TEST(ZoneEdits, InterpolationAndSmoothing) {
-  // columns, cells
-  ExpectTable(
-      [](const TableRow& row) {
-        ZoneSheet sheet = OpenSheet(MapWith(kThird, 0));
-        for (const auto& [cell, value] : {std::pair{32, 10}, {34, 30}, {64, 50}, {66, 71}})
-          sheet.Shown(cell) = value;
-        const CellBlock block{row.Text(1).empty() ? std::vector<int>{} : Cells(row.Text(1)),
-                              row.Int(0)};
-        return Changes(sheet, WithInterpolation(sheet, block)) + " / " +
-               Changes(sheet, WithSmoothing(sheet, block));
-      },
-      R"(
-3, 32+33+34+48+49+50+64+65+66 -> z33 100>20 z48 100>30 z49 100>40 z50 100>50 z65 100>60 / z32 10>55 z33 100>68 z34 30>65 z48 100>72 z50 100>80 z64 50>75 z65 100>84 z66 71>86
-1, 32 ->  / 
-0,  ->  / 
+# So many columns, and their cells.
+1.8 2005-02-10 3, 00, is 32 10; is 34 30; is 64 50; is 66 71; interpolate 32+33+34+48+49+50+64+65+66 3 -> z33 100>20 z48 100>30 z49 100>40 z50 100>50 z65 100>60 | 1.8 2005-02-10 3, 00, interpolate 32 1 ->  | 1.8 2005-02-10 3, 00, interpolate  0 -> 
+1.8 2005-02-10 3, 00, is 32 10; is 34 30; is 64 50; is 66 71; smooth 32+33+34+48+49+50+64+65+66 3 -> z32 10>55 z33 100>68 z34 30>65 z48 100>72 z50 100>80 z64 50>75 z65 100>84 z66 71>86 | 1.8 2005-02-10 3, 00, smooth 32 1 ->  | 1.8 2005-02-10 3, 00, smooth  0 -> 
 )");
 }
 

@@ -90,31 +90,22 @@ TEST(ZoneSheet, FlagsComeBackAsTheBoxesStand) {
   // what, chip, z5, z800
   ExpectTable(
       [](const TableRow& row) {
-        const ZoneMap map =
-            MapWith(Chip(row.Text(1)), std::stoi(row.Text(2), nullptr, 16), row.Int(3));
+        const int flags = std::stoi(row.Text(2), nullptr, 16);
+        const ZoneMap map = MapWith(Chip(row.Text(1)), flags, row.Int(3));
         const ZoneSheet sheet = OpenSheet(map);
-        const ZoneMap after = Rebuild(sheet, map);
-        std::ostringstream flags;
-        flags << std::hex << after.zones[5] << ", " << std::dec << after.zones[240];
-        return sheet.O2Sensor + ", " + sheet.autoTuneType + ", " + flags.str();
+        std::ostringstream told;
+        told << sheet.O2Sensor << ", " << sheet.autoTuneType << ", " << std::hex
+             << Rebuild(sheet, map).zones[5] << ", " << std::dec << Rebuild(sheet, map).zones[240];
+        return told.str();
       },
       R"(
-both sensors, 1.8 2004-05-08 3, 99, 0 -> NB+WB, L3+L4, 99, 0
-a day earlier: EGR and no wide band, 1.8 2004-05-07 3, 99, 0 -> NB, L3+L4, 89, 0
-both sensors without L3, 1.8 2004-05-08 3, 19, 0 -> NB, Lambda, 1, 0
-wide band alone, 1.8 2004-05-08 3, 13, 0 -> WB, Lambda, 13, 0
-mixture fuel and EGR of old chips, 1.6 2000-01-01 1, 1a, 0 -> NB, Off, 9a, 0
-EGR that a chip lacks is lost, 1.6 2001-03-11 2, 0a, 0 -> NB, Off, 2, 0
-bit 6 of a chip without a box for it, 1.8 2002-06-10 2, 42, 0 -> NB, Off, 42, 0
-bit 6 as quad injection, 1.6 2001-03-11 2, 42, 0 -> NB, Off, 42, 0
-wide band of the first chips beside EGR, 1.8 2003-03-15 1, 19, 0 -> WB, Lambda, 11, 0
-mixture fuel on its last day, 1.8 2002-06-09 2, 12, 0 -> NB, Off, 12, 0
-a sensor in its place, 1.8 2002-06-10 2, 12, 0 -> WB, Off, 12, 0
-the day that L3 came, 1.6 2000-06-21 1, 01, 0 -> NB, Lambda, 1, 0
-the day before, 1.6 2000-06-20 1, 01, 0 -> NB, Lambda, 81, 0
-L3 alone, 1.8 2004-05-08 3, 81, 4 -> NB, L3, 81, 4
-255 in z800, 1.8 2005-02-10 3, 02, 255 -> NB, Off, 2, 233
-z800 of a chip without boxes, 1.6 2000-01-01 1, 02, 90 -> NB, Off, 82, 90
+both sensors, 1.8 2004-05-08 3, 99, 0 -> NB+WB, L3+L4, 99, 0 | both sensors without L3, 1.8 2004-05-08 3, 19, 0 -> NB, Lambda, 1, 0 | wide band alone, 1.8 2004-05-08 3, 13, 0 -> WB, Lambda, 13, 0 | L3 alone, 1.8 2004-05-08 3, 81, 4 -> NB, L3, 81, 4
+a day earlier: EGR and no wide band, 1.8 2004-05-07 3, 99, 0 -> NB, L3+L4, 89, 0 | wide band of the first chips beside EGR, 1.8 2003-03-15 1, 19, 0 -> WB, Lambda, 11, 0
+mixture fuel and EGR of old chips, 1.6 2000-01-01 1, 1a, 0 -> NB, Off, 9a, 0 | EGR that a chip lacks is lost, 1.6 2001-03-11 2, 0a, 0 -> NB, Off, 2, 0
+bit 6 of a chip without a box for it, 1.8 2002-06-10 2, 42, 0 -> NB, Off, 42, 0 | bit 6 as quad injection, 1.6 2001-03-11 2, 42, 0 -> NB, Off, 42, 0
+mixture fuel on its last day, 1.8 2002-06-09 2, 12, 0 -> NB, Off, 12, 0 | a sensor in its place, 1.8 2002-06-10 2, 12, 0 -> WB, Off, 12, 0
+the day that L3 came, 1.6 2000-06-21 1, 01, 0 -> NB, Lambda, 1, 0 | the day before, 1.6 2000-06-20 1, 01, 0 -> NB, Lambda, 81, 0
+255 in z800, 1.8 2005-02-10 3, 02, 255 -> NB, Off, 2, 233 | z800 of a chip without boxes, 1.6 2000-01-01 1, 02, 90 -> NB, Off, 82, 90
 )");
 }
 
@@ -123,13 +114,12 @@ TEST(ZoneSheet, EachBoxHasItsBit) {
   for (const ChipIdentity& chip : {kNew18, kFirst, kMid16}) {
     const ZoneMap map = MapWith(chip, 2 + 8);
     const ZoneSheet sheet = OpenSheet(map);
-    const ZoneMap plain = Rebuild(sheet, map);
     for (int i = 0; i < kTicks; ++i) {
       const ZoneMap other = Rebuild(WithTick(sheet, Tick{i}, !sheet.Ticked(Tick{i})), map);
-      for (const int zone : {5, 240, 242})
-        if (const int bits = other.zones[static_cast<std::size_t>(zone)] ^
-                             plain.zones[static_cast<std::size_t>(zone)])
-          told += std::to_string(i) + ":" + ZoneName(zone) + "^" + std::to_string(bits) + " ";
+      for (const std::size_t zone : {5u, 240u, 242u})
+        if (const int bits = other.zones[zone] ^ Rebuild(sheet, map).zones[zone])
+          told += std::to_string(i) + ":" + ZoneName(static_cast<int>(zone)) + "^" +
+                  std::to_string(bits) + " ";
     }
     told += "\n";
   }
@@ -142,21 +132,17 @@ TEST(ZoneSheet, EachBoxHasItsBit) {
 /// What is in range and has its boxes comes back as it was, whatever the numbers.
 TEST(ZoneSheet, MapsComeBackWhole) {
   std::mt19937 random(7);
-  const auto below = [&](int end) {
-    return static_cast<int>(random() % static_cast<unsigned>(end));
-  };
+  const auto below = [&](unsigned end) { return static_cast<std::int16_t>(random() % end); };
   for (int round = 0; round < 300; ++round) {
     ZoneMap map = MapWith(kChips[below(5)], 0);
-    for (auto& zone : map.zones) zone = static_cast<std::int16_t>(below(256));
+    for (auto& zone : map.zones) zone = below(256);
     map.zones[4] = 30;
-    map.zones[243] = static_cast<std::int16_t>(below(160));
-    const int flags[] = {0, 2, 32, 34};
-    map.zones[5] = static_cast<std::int16_t>(flags[below(4)]);
-    if (map.chip == kOld16) map.zones[5] = static_cast<std::int16_t>(map.zones[5] | 128);
+    map.zones[243] = below(160);
+    const int off = map.chip == kOld16 ? 128 : 0;
+    map.zones[5] = static_cast<std::int16_t>(below(2) * 2 + below(2) * 32 + off);
     if (map.zones[240] == 255) map.zones[240] = 254;
     map.strNotes = std::to_string(round);
-    const ZoneMap after = Rebuild(OpenSheet(map), map);
-    ASSERT_EQ(after, map) << round;
+    ASSERT_EQ(Rebuild(OpenSheet(map), map), map) << round;
   }
 }
 
@@ -169,21 +155,15 @@ TEST(ZoneSheet, NumbersInTheirRanges) {
         ZoneMap map = MapWith(Chip(row.Text(0)), 2);
         map.zones.at(static_cast<std::size_t>(row.Int(1))) = static_cast<std::int16_t>(row.Int(2));
         const ZoneSheet sheet = OpenSheet(map);
-        const int zone = row.Int(3);
+        const int zone = row.Int(3),
+                  raw = Rebuild(sheet, map).zones[static_cast<std::size_t>(zone)];
         return FieldText(sheet, zone) + " of " + RangeText(sheet, zone) + ", raw " +
-               std::to_string(Rebuild(sheet, map).zones[static_cast<std::size_t>(zone)]) +
-               ", 200 as " + std::to_string(Forced(sheet, zone, 200)) +
+               std::to_string(raw) + ", 200 as " + std::to_string(Forced(sheet, zone, 200)) +
                (sheet.boostTargets ? "" : ", Pct");
       },
       R"(
-1.8 2005-02-10 3, 4, 90, 4 -> 80 of 025/080, raw 80, 200 as 80
-1.8 2005-02-10 3, 243, 200, 243 -> 9937 of 0/9937, raw 159, 200 as 200
-1.8 2005-02-10 3, 10, -1, 10 -> -1 of -128/127, raw 255, 200 as 127
-1.8 2005-02-10 3, 3, 255, 3 -> OFF of 000/255, raw 255, 200 as 200
-1.8 2002-06-10 2, 1, 140, 227 -> 100 of 000/093, raw 100, 200 as 93
-1.8 2005-02-10 3, 1, 140, 227 -> 100 of , raw 100, 200 as 200
-1.8 2005-02-10 3, 239, 100, 229 -> 100 of 100/255, raw 100, 200 as 200
-1.8 2005-02-10 3, 239, 99, 229 -> 100 of 000/099, raw 100, 200 as 99, Pct
+1.8 2005-02-10 3, 4, 90, 4 -> 80 of 025/080, raw 80, 200 as 80 | 1.8 2005-02-10 3, 243, 200, 243 -> 9937 of 0/9937, raw 159, 200 as 200 | 1.8 2005-02-10 3, 10, -1, 10 -> -1 of -128/127, raw 255, 200 as 127 | 1.8 2005-02-10 3, 3, 255, 3 -> OFF of 000/255, raw 255, 200 as 200
+1.8 2002-06-10 2, 1, 140, 227 -> 100 of 000/093, raw 100, 200 as 93 | 1.8 2005-02-10 3, 1, 140, 227 -> 100 of , raw 100, 200 as 200 | 1.8 2005-02-10 3, 239, 100, 229 -> 100 of 100/255, raw 100, 200 as 200 | 1.8 2005-02-10 3, 239, 99, 229 -> 100 of 000/099, raw 100, 200 as 99, Pct
 )");
 }
 
