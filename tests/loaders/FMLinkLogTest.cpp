@@ -16,33 +16,17 @@ LoadOutcome Loud(std::string_view bytes, const LoadContext& context) {
 LoadOutcome Quiet(std::string_view bytes, const LoadContext& context) {
   return LoadFMLinkLog(bytes, context, true);
 }
-LoadedLog Loaded(std::string_view text, const Settings& settings = {}) {
-  return LoadedLog(Loud, text, settings);
-}
 
-constexpr const char* kSettingsLine =
-    " ATM = 101            1.8 18-Sep-01 ";  // engine at 23, date at 27
-constexpr const char* kNoChanges = "No lambda/knock zone changes";
-constexpr const char* kChanges = "Lambda/knock zone changes";
-
-std::string Log(Lines samples, const Lines& zones = {}, const Lines& behind = {}) {
-  Lines lines{"Sample"};
-  lines.insert(lines.end(), samples.begin(), samples.end());
-  lines.push_back("Initial zone map");
-  lines.insert(lines.end(), zones.begin(), zones.end());
-  lines.insert(lines.end(), behind.begin(), behind.end());
-  return JoinLines(lines);
+std::string Tags(const OpenLog& log) {
+  std::string told;
+  for (int n = 1; n <= log.gcolLogTags.Count(); ++n)
+    told += ", tag " + std::to_string(log.gcolLogTags.Item(n).FromSequence) + "-" +
+            std::to_string(log.gcolLogTags.Item(n).ToSequence);
+  return told;
 }
-Lines Samples(int count, int first = 1) {
-  Lines lines;
-  for (int i = first; i < first + count; ++i)
-    lines.push_back(Placed(57, {{1, std::to_string(i)}, {9, "3000"}, {16, "100"}}));
-  return lines;
-}
-const Lines kZones = ZoneSectionLines(CountingZoneRows());
 
 TEST(FMLinkLog, AWholeLog) {
-  const LoadedLog loaded = Loaded(R"(Sample   RPM
+  const LoadedLog loaded(Loud, R"(Sample   RPM
 1040     850 L  34 =  91    12   250   4  *0.52    3  9.5
 1041    3250 S  90 +  88a   12  1225  98    45 nc 12!12.5
 *1.8b   13.8     80 AT  20  EF CF AC HR CP        10 S= 57 2.50v
@@ -52,7 +36,8 @@ TEST(FMLinkLog, AWholeLog) {
  1.8b   13.3     90 AT -10           PR           12 S= 61 2.40v
 1044     850 L  34 =  91    12   250   4  *0.52    3  9.5
 Initial zone map
-)" + JoinLines(kZones) + R"( ATM = 101            OBD209-Aug-05
+)" + JoinLines(ZoneSectionLines(CountingZoneRows())) +
+                                   R"( ATM = 101            OBD209-Aug-05
 No lambda/knock zone changes
 )");
   ExpectTold(loaded.Told(), R"(samples zones changes, plots from 0, air from -10
@@ -75,58 +60,78 @@ Speed  Eng Fan  Cnd Fan  A/C  PRC  Ch Purge  Knock C  A Temp  Aux NS  Knock T  L
 1000  854426   630      118      14       15     1000    14700
 1000  855245   205       49     145        0     1000    14700
 )");
-  ASSERT_EQ(loaded.log.gcolLogTags.Count(), 1);
-  EXPECT_EQ(loaded.log.gcolLogTags.Item(1).FromSequence, 1041);
-  EXPECT_EQ(loaded.log.gcolLogTags.Item(1).ToSequence, 1043);
-  EXPECT_EQ(loaded.progress.stages,
-            (Lines{"Preparing to load", "Loading zone settings", "Generating calculated data..."}));
+  EXPECT_EQ(Tags(loaded.log), ", tag 1041-1043");
+  EXPECT_EQ(Join(loaded.progress.stages, ", "),
+            "Preparing to load, Loading zone settings, Generating calculated data...");
 }
 
 /// Lines by the names that the tables call them.
 std::map<std::string, std::string> Pieces() {
-  Lines unknown = CountingZoneRows(), beyond16Bits = unknown, tooMany = unknown, oneLess = unknown;
+  const Lines rows = CountingZoneRows();
+  Lines unknown = rows, beyond16Bits = rows, tooMany = rows, changed(15, std::string(64, ' '));
   unknown[3].replace(1, 3, "  *");
   beyond16Bits[3].replace(1, 6, "99999 ");
   tooMany[15] = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17" + std::string(23, ' ');
-  oneLess.pop_back();
-  const auto section = [](const Lines& rows) { return JoinLines(ZoneSectionLines(rows)); };
+  changed[0] = " 9 *";
+  changed[1] = " -1 8";
+  for (std::size_t row = 2; row < changed.size(); ++row)
+    changed[row] = "   * 123" + Repeated("", "   *", 14, "");
+  const auto section = [](const Lines& lines) { return JoinLines(ZoneSectionLines(lines)); };
+  const auto first = [&](long count) { return section({rows.begin(), rows.begin() + count}); };
   return {{"map", "Initial zone map\r\n"},
-          {"zones", section(CountingZoneRows())},
-          {"zones to 239", section(oneLess)},
+          {"zones", section(rows)},
+          {"zones to 239", first(15)},
+          {"zones to 31", first(2)},
           {"unknown zones", section(unknown)},
           {"zones of 99999", section(beyond16Bits)},
           {"17 zones in the last row", section(tooMany)},
+          {"changed zones", section(changed)},
           {"heading", std::string(68, '-') + "\r\n"},
-          {"settings", std::string(kSettingsLine) + "\r\n"},
-          {"no changes", std::string(kNoChanges) + "\r\n"},
-          {"changes", std::string(kChanges) + "\r\n"},
+          {"settings", " ATM = 101            1.8 18-Sep-01 \r\n"},  // engine at 23, date at 27
+          {"no changes", "No lambda/knock zone changes\r\n"},
+          {"changes", "Lambda/knock zone changes\r\n"},
           {"NUL bytes", std::string(100, '\0') + "\r\n"},
           {"a long line", std::string(10'000'000, '1') + "\r\n"},
           {"a long line of zones", " ATM" + std::string(1'000'000, '9') + "\r\n"}};
 }
 
-std::string Chip(const LoadedZones& zones) {
-  return NumberText(zones.chip.dblEngineSize) + " v" + std::to_string(zones.chip.intChipVersion) +
-         " " + DateText(zones.chip.datChipDate) + " " +
-         std::to_string(zones.intAtmosphericPressure) + " kPa";
+/// Chip and pressure, some zones, the first sample's boost and zone value, and which zones changed.
+std::string Zones(const OpenLog& log) {
+  const LoadedZones& zones = log.zones;
+  std::string told = ", " + NumberText(zones.chip.dblEngineSize) + " v" +
+                     std::to_string(zones.chip.intChipVersion) + " " +
+                     DateText(zones.chip.datChipDate) + " " +
+                     std::to_string(zones.intAtmosphericPressure) + " kPa, zones";
+  for (const std::size_t zone : {31u, 32u, 239u, 255u})
+    told += " " + std::to_string(zones.zones[zone]);
+  if (log.glngDataLog.Rows() > 0)
+    told += ", Boost " + std::to_string(log.glngDataLog(kBoost, 0)) + " Fuel ZV " +
+            std::to_string(log.glngDataLog(kFuelZV, 0));
+  if (log.gblnChangesLoaded && zones.original != zones.zones) told += ", not the original";
+  for (std::size_t zone = 0; log.gblnChangesLoaded && zone < zones.zones.size(); ++zone)
+    if (zones.changes[zone] != zones.zones[zone])
+      told += ", " + std::to_string(zone) + " to " + std::to_string(zones.changes[zone]);
+  return told;
 }
 
 /// Behind "Sample": samples, pieces by their names, and lines as they stand; "quietly", "plot from
-/// 70" and "99 kPa without a word" are how it is read.
+/// 70" and "99 kPa without a word" are how it is read, "LF" how its lines end.
 std::string TellOfParts(const TableRow& row) {
-  const std::map<std::string, std::string> pieces = Pieces();
+  static const std::map<std::string, std::string> pieces = Pieces();
   std::string text = "Sample\r\n";
   Settings settings;
   LoadedLog::Loader load = Loud;
-  int samples = 0;
+  int sample = 0;
   for (std::size_t n = 0; n < row.Count(); ++n) {
     const std::string& word = row.Text(n);
     if (word.ends_with(" samples")) {
-      const int more = row.Int(n);
-      text += JoinLines(Samples(more, samples + 1));
-      samples += more;
+      for (int more = row.Int(n); more > 0; --more)
+        text += Placed(57, {{1, std::to_string(++sample)}, {9, "3000"}, {16, "100"}}) + "\r\n";
     } else if (word == "quietly") {
       load = Quiet;
+    } else if (word == "LF") {
+      std::erase(text, '\r');
+      text.pop_back();
     } else if (word.starts_with("plot from ")) {
       settings.gintPlotFromTemperature = StringToLong(word.substr(10));
     } else if (word.ends_with(" without a word")) {
@@ -138,96 +143,50 @@ std::string TellOfParts(const TableRow& row) {
     }
   }
   const LoadedLog loaded(load, text, settings);
-  std::string told = loaded.Outcome();
-  for (int n = 1; n <= loaded.log.gcolLogTags.Count(); ++n)
-    told += ", tag " + std::to_string(loaded.log.gcolLogTags.Item(n).FromSequence) + "-" +
-            std::to_string(loaded.log.gcolLogTags.Item(n).ToSequence);
-  return loaded.log.gblnZonesLoaded ? told + ", " + Chip(loaded.log.zones) : told;
+  return loaded.Outcome() + Tags(loaded.log) + Zones(loaded.log);
 }
 
 TEST(FMLinkLog, WhatComesOfPartsOfALog) {
-  EXPECT_EQ(Loaded("").Outcome(), "nothing, says 52");
-  EXPECT_EQ(Loaded("SAMPLE\n").Outcome(), "nothing, says 52");
-  EXPECT_EQ(Loaded("Sample").Outcome(), "nothing, says 16");
+  EXPECT_EQ(LoadedLog(Loud, "").Outcome(), "nothing, says 52");
+  EXPECT_EQ(LoadedLog(Loud, "SAMPLE\n").Outcome(), "nothing, says 52");
+  EXPECT_EQ(LoadedLog(Loud, "Sample").Outcome(), "nothing, says 16");
   ExpectTable(TellOfParts, R"(
-0 samples -> nothing, says 16
-0 samples, NUL bytes -> nothing, says 16
-0 samples, a long line -> nothing, says 16
-3 samples, map -> samples, says 16
-3 samples, map, heading -> samples, says 16
-3 samples, map, heading, zones, settings, no changes -> samples, says 16
-3 samples, map, unknown zones, settings, no changes -> samples, says 16
-3 samples, map, zones of 99999, settings, no changes -> samples, says 16
-3 samples, map, 17 zones in the last row, settings, no changes -> samples, says 16
-3 samples, map, a long line of zones -> samples, says 16
-2 samples, map, zones, settings, no changes -> zones changes, 1.8 v2 2001-09-18 101 kPa
-3 samples, map, zones, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
-3 samples, map, zones, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
-3 samples, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa
-3 samples, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa
-3 samples, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa
-3 samples, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa
+0 samples -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
+0 samples, NUL bytes -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
+0 samples, a long line -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
+3 samples, map -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+3 samples, map, heading -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+3 samples, map, heading, zones, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+3 samples, map, unknown zones, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 39 55, Boost 145 Fuel ZV 118
+3 samples, map, zones of 99999, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 -1 -1, Boost 145 Fuel ZV -1
+3 samples, map, 17 zones in the last row, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 39 16, Boost 145 Fuel ZV 118
+3 samples, map, a long line of zones -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+2 samples, map, zones, settings, no changes -> zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+3 samples, map, zones, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+3 samples, map, zones, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
+3 samples, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+3 samples, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+3 samples, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 0, Boost 0 Fuel ZV 118
+3 samples,  1.8b, map, zones to 31 -> samples, plots from 0, says 16, 1.8 v3  0 kPa, zones 31 -1 -1 -1, Boost 145 Fuel ZV -1
+3 samples, map, zones, settings, no changes, LF -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+3 samples, map, zones, settings, changes, on the way, changed zones -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118, 0 to 9, 17 to 8, 33 to 123, 49 to 123, 65 to 123, 81 to 123, 97 to 123, 113 to 123, 129 to 123, 145 to 123, 161 to 123, 177 to 123, 193 to 123, 209 to 123, 225 to 123
+3 samples, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 0, Boost 36 Fuel ZV 118
 # The line of settings; of two, the last one counts.
-3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01    , no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa
-3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa
-3 samples, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
-3 samples, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa
-3 samples, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa
-3 samples, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa
-3 samples, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa
+3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01    , no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+3 samples, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+3 samples, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+3 samples, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+3 samples, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+3 samples, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
 # Zones that are not known whole, or without their chip, use the defaults, and say so unless told not to.
-quietly, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 75 kPa
-99 kPa without a word, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 99 kPa
+quietly, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
+99 kPa without a word, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 99 kPa, zones 31 32 39 55, Boost 1 Fuel ZV 118
 # It plots from the first sample as warm as that, by summaries alone; a tag that is open ends with the log.
-plot from 70, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, plots from 3, says 16
-plot from 80, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, says 16
-*1.8, 2 samples, *1.8, 2 samples -> samples, plots from 0, says 16, tag 1-4
+plot from 70, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, plots from 3, says 16, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+plot from 80, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, says 16, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+*1.8, 2 samples, *1.8, 2 samples -> samples, plots from 0, says 16, tag 1-4, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
 )");
-}
-
-TEST(FMLinkLog, AFailedZoneSectionKeepsWhatItReadAndTheSummarysChip) {
-  Lines zones = kZones;
-  zones.resize(4);
-  Lines samples = Samples(3);
-  samples.push_back(" 1.8b");
-  const LoadedLog loaded = Loaded(Log(samples, zones));
-  EXPECT_EQ(loaded.log.zones.zones[31], 31);
-  EXPECT_EQ(loaded.log.zones.zones[32], -1);
-  EXPECT_EQ(loaded.log.zones.chip.intChipVersion, 3);
-  EXPECT_EQ(loaded.log.zones.intAtmosphericPressure, 0);
-  EXPECT_EQ(loaded.Cells(kFuelZV), "-1 -1 -1");
-  EXPECT_EQ(loaded.Cells(kBoost), "145 145 145");
-}
-
-TEST(FMLinkLog, ChangesKeepTheZonesOwnValues) {
-  Lines rows(15, std::string(64, ' '));
-  rows[0] = " 9 *";
-  rows[1] = " -1 8";
-  for (std::size_t row = 2; row < 15; ++row) {
-    rows[row].clear();
-    for (int c = 0; c < 16; ++c) rows[row] += c == 1 ? "   7" : "   *";
-  }
-  Lines changes{kSettingsLine, kChanges, "on the way"};
-  const Lines section = ZoneSectionLines(rows);
-  changes.insert(changes.end(), section.begin(), section.end());
-  const LoadedLog loaded = Loaded(Log(Samples(3), kZones, changes));
-  ASSERT_TRUE(loaded.log.gblnChangesLoaded);
-  const LoadedZones& zones = loaded.log.zones;
-  const std::pair<std::size_t, int> cells[] = {{0, 9},    {1, 1},   {2, 2},   {16, 16}, {17, 8},
-                                               {32, 32},  {33, 7},  {34, 34}, {47, 47}, {209, 7},
-                                               {224, 24}, {225, 7}, {240, 40}};
-  for (const auto& [zone, value] : cells) EXPECT_EQ(zones.changes[zone], value) << zone;
-  EXPECT_EQ(zones.original, zones.zones);
-}
-
-TEST(FMLinkLog, LineEndsAreCRLFOrLFOrNone) {
-  std::string text = Log(Samples(3), kZones, {kSettingsLine, kNoChanges});
-  const std::string table = Loaded(text).Table();
-  std::erase(text, '\r');
-  text.pop_back();
-  const LoadedLog loaded = Loaded(text);
-  EXPECT_TRUE(loaded.log.gblnChangesLoaded);
-  EXPECT_EQ(loaded.Table(), table);
 }
 
 }  // namespace

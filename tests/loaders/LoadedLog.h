@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Text.h"
 #include "loaders/LoadContext.h"
 #include "model/Catalogue.h"
 #include "support/Accept.h"
@@ -40,20 +41,23 @@ struct LoadedLog {
   /// sample, begun anew where it gets too long.
   std::string Table() const {
     constexpr std::size_t kLongest = 150;
-    const auto rows = static_cast<std::size_t>(log.glngDataLog.Rows());
+    std::vector<std::string> block(static_cast<std::size_t>(log.glngDataLog.Rows()) + 1);
     std::string text;
-    std::vector<std::string> block(rows + 1);
     for (int column = 0; column < log.glngDataLog.Columns(); ++column) {
       std::vector<std::string> cells{catalogue.gcolFixedDataItems.Item(column + 1).strShortName};
-      bool any = false;
-      for (const std::int32_t cell : log.glngDataLog.Column(column)) {
-        any = any || cell != 0;
+      for (const std::int32_t cell : log.glngDataLog.Column(column))
         cells.push_back(std::to_string(cell));
-      }
-      if (any) Append(cells, block);
-      if (block[0].size() > kLongest) text += Flush(block);
+      if (std::all_of(cells.begin() + 1, cells.end(), [](auto& cell) { return cell == "0"; }))
+        continue;
+      std::size_t width = block[0].empty() ? 0 : 2;
+      width += std::max_element(cells.begin(), cells.end(), IsShorter)->size();
+      for (std::size_t row = 0; row < cells.size(); ++row)
+        block[row] += std::string(width - cells[row].size(), ' ') + cells[row];
+      if (block[0].size() <= kLongest) continue;
+      text += Join(block, "\n") + "\n";
+      block.assign(block.size(), "");
     }
-    return text + Flush(block);
+    return block[0].empty() ? text : text + Join(block, "\n") + "\n";
   }
 
   std::string Told() const { return Outcome() + "\n" + Table(); }
@@ -85,28 +89,14 @@ struct LoadedLog {
   LoadOutcome outcome;
 
  private:
-  static void Append(const std::vector<std::string>& cells, std::vector<std::string>& block) {
-    std::size_t width = 0;
-    for (const std::string& cell : cells) width = std::max(width, cell.size());
-    for (std::size_t row = 0; row < cells.size(); ++row) {
-      const std::size_t gap = block[row].empty() ? 0 : 2;
-      block[row] += std::string(gap + width - cells[row].size(), ' ') + cells[row];
-    }
-  }
-  static std::string Flush(std::vector<std::string>& block) {
-    std::string text;
-    for (std::string& line : block) {
-      if (!line.empty()) text += line + "\n";
-      line.clear();
-    }
-    return text;
-  }
+  static bool IsShorter(const std::string& a, const std::string& b) { return a.size() < b.size(); }
 };
 
-/// Lines that are all alike, behind a heading.
-inline std::string Repeated(std::string text, std::string_view line, int count) {
-  text.reserve(text.size() + (line.size() + 1) * static_cast<std::size_t>(count));
-  while (count-- > 0) text.append(line).append("\n");
+/// Texts that are all alike, behind another.
+inline std::string Repeated(std::string text, std::string_view one, int count,
+                            std::string_view end = "\n") {
+  text.reserve(text.size() + (one.size() + end.size()) * static_cast<std::size_t>(count));
+  while (count-- > 0) text.append(one).append(end);
   return text;
 }
 
