@@ -72,24 +72,23 @@ TEST(Numbers, RoundsHalvesToEven) {
 0.5 -> 0 | 1.5 -> 2 | -1.5 -> -2 | 0.49999999999999994 -> 0 | 1125899906842624.5 -> 1125899906842624, whole 0 | 4503599627370495.5 -> 4503599627370496, whole 0
 1e300 -> 1e+300, whole 0 | -2147483648.5 -> -2147483648 | 2147483647.5 -> 2147483648, whole 0 | nan -> nan, whole 0
 )");
-  EXPECT_EQ(RoundPlaces(14.705, 2), 14.7);
-  EXPECT_EQ(RoundPlaces(137.46, 1), 137.5);
-  EXPECT_EQ(RoundPlaces(1e308, 2), 1e308);
 }
 
-TEST(Numbers, WritesPlainDecimals) {
-  ExpectTable([](const TableRow& row) { return NumberText(row.Number(0)); }, R"(
+/// A number as it stands, then to a number of places: as it is written, and rounded.
+TEST(Numbers, AreWritten) {
+  const auto tell = [](const TableRow& row) {
+    const double number = row.Number(0);
+    if (row.Count() == 1) return NumberText(number);
+    return FixedText(number, row.Int(1)) + " " + NumberText(RoundPlaces(number, row.Int(1)));
+  };
+  ExpectTable(tell, R"(
 0 -> 0 | -0.0 -> 0 | -0.5 -> -0.5 | 6.66 -> 6.66 | 0.30000000000000004 -> 0.3 | 1234567.25 -> 1234567.25 | 100 -> 100
 123456789012345 -> 123456789012345 | 1e20 -> 1E+20 | -1.5e300 -> -1.5E+300 | 0.00001 -> 0.00001 | 1.25e-20 -> 1.25E-20
 0.6666666666666666 -> 0.666666666666667
+14.705, 2 -> 14.70 14.7 | 14.715, 2 -> 14.72 14.72 | 0.5, 0 -> 0 0 | 2.5, 0 -> 2 2 | 0.05, 1 -> 0.0 0 | -0.004, 2 -> 0.00 0 | 137.46, 1 -> 137.5 137.5
+-1.25, 1 -> -1.2 -1.2 | 1000, 3 -> 1000.000 1000 | -0.75, 2 -> -0.75 -0.75 | 1e20, 0 -> 100000000000000000000 1E+20
 )");
-}
-
-TEST(Numbers, WritesFixedPlaces) {
-  ExpectTable([](const TableRow& row) { return FixedText(row.Number(0), row.Int(1)); }, R"(
-14.705, 2 -> 14.70 | 14.715, 2 -> 14.72 | 0.5, 0 -> 0 | 2.5, 0 -> 2 | 0.05, 1 -> 0.0 | -0.004, 2 -> 0.00
--1.25, 1 -> -1.2 | 1000, 3 -> 1000.000 | -0.75, 2 -> -0.75 | 1e20, 0 -> 100000000000000000000
-)");
+  EXPECT_EQ(RoundPlaces(1e308, 2), 1e308);
   EXPECT_EQ(PaddedText(5, 2) + " " + PaddedText(123, 2) + " " + PaddedText(-5, 3), "05 123 -005");
 }
 

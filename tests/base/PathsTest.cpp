@@ -40,6 +40,7 @@ TEST(Paths, AreShortenedInTheMiddle) {
   EXPECT_EQ(ShortPath("/\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9", 10),
             "\xC3\xA9\xC3\xA9...\xC3\xA9")
       << "no letter is cut in two";
+  EXPECT_EQ(ShortPath("/" + std::string(20, '\x80'), 10), "...");
 }
 
 }  // namespace

@@ -33,6 +33,8 @@ TEST(Text, IsSplitJoinedAndSorted) {
   EXPECT_EQ(Split("a,,b,", ','), (std::vector<std::string>{"a", "", "b", ""}));
   EXPECT_TRUE(Split("", ',').empty());
   EXPECT_EQ(Join({"a", "", "b"}, ", "), "a, , b");
+  EXPECT_EQ(Join({Counted(0, "log"), Counted(1, "log"), Counted(2, "log")}, ", "),
+            "0 logs, 1 log, 2 logs");
   EXPECT_TRUE(SameIgnoringCase("aBc", "AbC"));
   EXPECT_FALSE(SameIgnoringCase("aBc", "AbCd"));
 
