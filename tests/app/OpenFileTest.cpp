@@ -1,7 +1,6 @@
 // The road of one file in the main window: choosing, loading, what a load clears and sets up.
 
 #include "support/ProgramFixture.h"
-#include "support/Spaced.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -13,7 +12,9 @@ class OpenFile : public ProgramFixture {
     story.Fact("top", [this] { return Runs() ? Main().mnuRecentlyUsed(0).Tag : std::string(); });
     story.Fact("rows", [this] { return std::to_string(Runs() ? Log().glngDataLog.Rows() : 0); });
     story.Fact("ends", [this] {
-      return Runs() ? Spaced(Log().glngFirstSampleTime, Log().glngLastSampleTime) : "";
+      if (!Runs()) return std::string();
+      return std::to_string(Log().glngFirstSampleTime) + " " +
+             std::to_string(Log().glngLastSampleTime);
     });
   }
 };
@@ -70,7 +71,7 @@ TEST_F(OpenFile, TheFirstRangeFollowsWarmthAndWidthAndIsDrawnWhereThatIsWanted) 
   const auto opened = [this](const TableRow& row) {
     Start("", "[General]\n" + row.Lines() + "\n");
     Main().LoadDataFile("/logs/run.txt", 0);
-    return Spaced(Range() + ",", Graph() + ",", Main().lblEmptyPlace.Caption());
+    return Range() + ", " + Graph() + ", " + Main().lblEmptyPlace.Caption();
   };
   ExpectTable(opened, R"(
 Plot From Temperature=50 -> 27-64, none, Press Draw, or Enter

@@ -55,8 +55,8 @@ type txtPath(6) /defs/none.txt; click cmdOK; show focus -> focus txtPath(6), [15
 # The first of them.
 type txtPath(5) /no; type txtPath(3) /nowhere; click cmdOK -> [36 ok], txtPath(3)=/nowhere/, txtPath(5)=/no
 type txtPath(5) ""; type txtPath(3) /logs -> txtPath(3)=/logs, txtPath(5)=
-type txtPath(6) /defs/mine.txt; click cmdOK -> [86 ok], -frmOptions, item=
-anew -> +frmOptions, item=Sample 1 1 10000 1
+type txtPath(6) /defs/mine.txt; click cmdOK -> [86 ok], -frmOptions, item=, definition=Mine, changed
+anew -> +frmOptions, item=Sample 1 1 10000 1, definition=Hydra Nemesis 2.1 (MX-5 Miata)
 answer folder /new; click cmdBrowse(3) -> [folder "Select Default Working Directory" /new], txtPath(3)=/new
 answer file /pictures/a.bmp; click cmdBrowse(2) -> [open "Open" of Pictures (*.bmp;*.jpg;*.png) /pictures/a.bmp], txtPath(2)=/pictures/a.bmp
 answer file /link/L.EXE; click cmdBrowse(0) -> [open "Open" of Programs (*.exe) /link/L.EXE], txtPath(0)=/link/L.EXE
@@ -70,7 +70,7 @@ choose imgcboDataWidth Thinnest -> item=Revs 1 1 255 0.01, imgcboDataWidth=Thinn
 click cmdReset -> item=Revs 1 5 255 0.01, imgcboDataWidth=Fattest, picDataSample strokes[0] width=50
 choose imgcboDataWidth Thinner -> item=Revs 1 2 255 0.01, imgcboDataWidth=Thinner, picDataSample strokes[0] width=20
 # It is not read again.
-click cmdOK -> -frmOptions, item=
+click cmdOK -> -frmOptions, item=, definition=Mine, changed
 
 == ShowAndRecordHowADataItemIsDrawn
 show cboLogFamily lvwDataItems[1] -> cboLogFamily list=[Flyin' Miata Link Full|Flyin' Miata Link Data Log|Electromotive Tec-2 Data Log|Electromotive Tec-3 Data Log|Link Plus Data Log|TurboXS UTEC Data Log|Universal - Hydra Nemesis 2.1 (MX-5 Miata)], cboLogFamily=Flyin' Miata Link Full, lvwDataItems[1]=[Sample|Sample No.], lvwDataItems[1] checked, lvwDataItems[1] selected
@@ -109,9 +109,32 @@ type txtAtmos 99 -> txtAtmos=99, txtCorrFactor=1.000
 choose cboHumidityType "Wet Bulb" -> cboHumidityType=Wet Bulb, lblRH=Wet &Bulb Temp ('C)
 
 == FindASettingByCaptionKeyOrToolTip
+anew; type txtFind "colour scheme"; show focus -> focus cboGraphColourScheme, +frmOptions, item=Sample 1 1 10000 1, definition=Hydra Nemesis 2.1 (MX-5 Miata)
+anew; type txtFind "Show Point Sample"; show focus -> focus txtSampleWidth, txtFind=Show Point Sample
+anew; type txtFind retain; show focus -> focus chkRetainBIN, txtFind=retain, tabOptions=FM Link ECU, fraGeneralTab hidden, fraFMLinkTab shown
+anew; type txtFind "Log EXE"; show focus -> focus txtPath(0), txtFind=Log EXE
+anew; type txtFind "default benchmark"; show focus -> focus nowhere, txtFind=default benchmark, tabOptions=General, fraGeneralTab shown, fraFMLinkTab hidden
+anew; type txtFind working; show focus -> focus txtPath(3), txtFind=working, tabOptions=File Locations, fraGeneralTab hidden, fraFilesTab shown
+anew; type txtFind "o2 input"; show focus -> focus txtPath(5), txtFind=o2 input, tabOptions=FM Link ECU, fraFMLinkTab shown, fraFilesTab hidden
+anew; type txtFind "fuel graph rotation"; show focus -> focus txt3DSpec(0), txtFind=fuel graph rotation
+anew; type txtFind "elevation in degrees"; show focus -> focus txt3DSpec(1), txtFind=elevation in degrees
+anew; type txtFind uncheck; show focus -> focus cmdUnCheckAll, txtFind=uncheck, tabOptions=Data Item Definitions, fraFMLinkTab hidden, fraDataItemsTab shown
+anew; type txtFind verify; show focus -> focus chkUploadDefs(1), txtFind=verify, tabOptions=FM Link ECU, fraFMLinkTab shown, fraDataItemsTab hidden
+anew; type txtFind "wet bulb"; show focus -> focus nowhere, txtFind=wet bulb, tabOptions=General, fraGeneralTab shown, fraFMLinkTab hidden
+anew; type txtFind ""; show focus -> focus nowhere, txtFind=
+anew; type txtFind "line style"; show focus -> focus imgcboDataStyle, txtFind=line style, tabOptions=Data Item Definitions, fraGeneralTab hidden, fraDataItemsTab shown
+anew; type txtFind "Generic Data"; show focus -> focus txtPath(6), txtFind=Generic Data, tabOptions=File Locations, fraFilesTab shown, fraDataItemsTab hidden
+anew -> txtFind=, tabOptions=General, fraGeneralTab shown, fraFilesTab hidden
 # While the user types, the caret stays.
 write txtFind "com port"; show focus -> focus txtFind, txtFind=com port, tabOptions=FM Link ECU, fraGeneralTab hidden, fraFMLinkTab shown
 key Enter; show focus; key F1 -> focus txtComPort, help=OptionsFMLinkECUTab
 tab tabOptions "File Locations"; key F1 -> help=OptionsFMLinkECUTab OptionsFileLocationsTab, tabOptions=File Locations, fraFMLinkTab hidden, fraFilesTab shown
 tab tabOptions "Data Item Definitions"; key F1 -> help=OptionsFMLinkECUTab OptionsFileLocationsTab OptionsDataItemDefinitionsTab, tabOptions=Data Item Definitions, fraFilesTab hidden, fraDataItemsTab shown
 tab tabOptions General; key F1 -> help=OptionsFMLinkECUTab OptionsFileLocationsTab OptionsDataItemDefinitionsTab OptionsGeneralTab, tabOptions=General, fraGeneralTab shown, fraDataItemsTab hidden
+
+== TakeTheBuiltInDefinitionForNone
+kept -> +frmOptions, item=Sample 1 1 10000 1, definition=Mine
+type txtPath(6) ""; click cmdOK -> -frmOptions, item=, definition=Hydra Nemesis 2.1 (MX-5 Miata), changed
+# The draft no longer holds it.
+kept; type txtPath(6) ""; click cmdLoadGeneric -> +frmOptions, item=Sample 1 1 10000 1, definition=Hydra Nemesis 2.1 (MX-5 Miata)
+type txtPath(6) /defs/mine.txt; click cmdOK -> [86 ok], -frmOptions, item=, definition=Mine
