@@ -31,10 +31,11 @@ O2, 2147483647 -> 10900
 
 TEST(ConversionTables, MatchComparesTheValueWithTheOutputs) {
   // Both inputs lie far below an air/fuel value, so the larger one is "nearer".
-  EXPECT_EQ(MatchAFToO2Limitations(14600, DefaultO2Table()), 84);
-  EXPECT_EQ(MatchAFToO2Limitations(11450, DefaultO2Table()), 103);
-  EXPECT_EQ(MatchAFToO2Limitations(14000, DefaultO2Table()), 86);
-  EXPECT_EQ(MatchAFToO2Limitations(20000, DefaultO2Table()), 83);
+  ExpectTable(
+      [](const TableRow& row) {
+        return std::to_string(MatchAFToO2Limitations(row.Int(0), DefaultO2Table()));
+      },
+      "14600 -> 84 | 11450 -> 103 | 14000 -> 86 | 20000 -> 83");
   EXPECT_EQ(ReturnClosest(10, 8, 12), 8);
   EXPECT_EQ(ReturnClosest(11, 8, 12), 12);
 }
@@ -47,57 +48,57 @@ TEST(ConversionTables, LinearInterpolateCutsOnlyAboveAndOnlyWhenAsked) {
 }
 
 TEST(ConversionTables, TheOxygenTableHoldsItsInput) {
-  EXPECT_EQ(OxygenTableOutput(0), 15000);
-  EXPECT_EQ(OxygenTableOutput(62), 14700);
-  EXPECT_EQ(OxygenTableOutput(999), 11000);
+  ExpectTable([](const TableRow& row) { return std::to_string(OxygenTableOutput(row.Int(0))); },
+              "0 -> 15000 | 62 -> 14700 | 999 -> 11000");
 }
 
-TEST(ConversionTables, ParsesRowsAndSkipsWhatIsNone) {
-  EXPECT_EQ(ParseConversionTable(
-                " tarnview Conversion Table \r\n1=10\n=5\n5=\n\nhello\n 2.5 = 3.5x\n3=4=5"),
-            (ConversionTable{{1, 10}, {2, 4}, {3, 4}}));
-  EXPECT_EQ(ParseConversionTable("TARNVIEW AUX INPUT CONVERSION TABLE\n0=1\n"),
-            (ConversionTable{{0, 1}}));
-  EXPECT_TRUE(ParseConversionTable("TARNVIEW TABLE\n1=2\n").empty());
-  EXPECT_TRUE(ParseConversionTable("").empty());
+std::string Told(const ConversionTable& table) {
+  std::string told;
+  for (const auto& [input, output] : table)
+    told += (told.empty() ? "" : " ") + std::to_string(input) + "=" + std::to_string(output);
+  return told;
 }
 
-class ConversionFilesTest : public testing::Test {
- protected:
+/// What is read of a file, 7=8 where it is none; it is told only of one that cannot be read.
+TEST(ConversionFiles, ReadRowsAndSkipWhatIsNone) {
+  ExpectTable(
+      [](const TableRow& row) {
+        MemoryFileSystem files;
+        if (row.All() != "none") files.files["a.txt"] = row.Lines();
+        if (row.All() == "broken") files.broken.insert("a.txt");
+        std::string told;
+        FixedClock clock;
+        ErrorLog log(files, clock, "error.log");
+        const auto tell = [&](Message id, const std::string&) {
+          told += " message " + std::to_string(static_cast<int>(id));
+        };
+        ConversionFiles conversions(files, tell, log);
+        told = Told(conversions.LoadConversionTable("a.txt", {{7, 8}})) + told;
+        const std::string& logged = files.files["error.log"];
+        return told +
+               (logged.find("/modTarnview/LoadConversionTable") < logged.size() ? " logged" : "");
+      },
+      R"(
+ tarnview Conversion Table ; 1=10; =5; 5=; ; hello;  2.5 = 3.5x; 3=4=5 -> 1=10 2=4 3=4
+TARNVIEW AUX INPUT CONVERSION TABLE; 0=1 -> 0=1
+TARNVIEW TABLE; 1=2 -> 7=8 | TARNVIEW CONVERSION TABLE -> 7=8 |  -> 7=8 | none -> 7=8 | broken -> 7=8 message 4 logged
+)");
+}
+
+TEST(ConversionFiles, AreReadAgainOnlyWhenTheFlagIsSet) {
   MemoryFileSystem files;
-  std::vector<Message> told;
   FixedClock clock;
-  ErrorLog log{files, clock, "error.log"};
-  ConversionFiles conversions{files, [this](Message id, const std::string&) { told.push_back(id); },
-                              log};
-};
-
-TEST_F(ConversionFilesTest, FallsBackToTheDefaultAndTellsOnlyOfAnUnreadableFile) {
-  const ConversionTable defaults{{7, 8}};
-  files.files = {{"good.txt", "TARNVIEW CONVERSION TABLE\n1=2\n"},
-                 {"heading.txt", "TARNVIEW CONVERSION TABLE\n"},
-                 {"wrong.txt", "something\n1=2\n"},
-                 {"broken.txt", "TARNVIEW CONVERSION TABLE\n1=2\n"}};
-  files.broken.insert("broken.txt");
-  EXPECT_EQ(conversions.LoadConversionTable("good.txt", defaults), (ConversionTable{{1, 2}}));
-  for (const char* path : {"", "missing.txt", "heading.txt", "wrong.txt"})
-    EXPECT_EQ(conversions.LoadConversionTable(path, defaults), defaults) << path;
-  EXPECT_TRUE(told.empty());
-  EXPECT_EQ(conversions.LoadConversionTable("broken.txt", defaults), defaults);
-  EXPECT_EQ(told, std::vector{Message::ConversionFileNotLoaded});
-  EXPECT_NE(files.files["error.log"].find("/modTarnview/LoadConversionTable"), std::string::npos);
-}
-
-TEST_F(ConversionFilesTest, ReadsAgainOnlyWhenTheFlagIsSet) {
-  files.files = {{"o2.txt", "TARNVIEW CONVERSION TABLE\n1=2\n"}};
+  ErrorLog log(files, clock, "error.log");
+  ConversionFiles conversions(
+      files, [](auto&&...) {}, log);
   ConversionTables tables;
-  conversions.LoadO2ConvFile(tables, "o2.txt");
-  conversions.LoadAuxInputConvFile(tables, "");
-  EXPECT_FALSE(tables.reloadO2 || tables.reloadAux);
-  EXPECT_EQ(tables.Aux, DefaultAuxTable());
-  files.files["o2.txt"] = "TARNVIEW CONVERSION TABLE\n3=4\n";
-  conversions.LoadO2ConvFile(tables, "o2.txt");
-  EXPECT_EQ(tables.O2, (ConversionTable{{1, 2}}));
+  for (const char* row : {"1=2", "3=4"}) {
+    files.files["o2.txt"] = std::string("TARNVIEW CONVERSION TABLE\n") + row;
+    conversions.LoadO2ConvFile(tables, "o2.txt");
+    conversions.LoadAuxInputConvFile(tables, row[0] == '1' ? "" : "o2.txt");
+    EXPECT_EQ(Told(tables.O2), "1=2");
+    EXPECT_EQ(tables.Aux, DefaultAuxTable());
+  }
 }
 
 }  // namespace

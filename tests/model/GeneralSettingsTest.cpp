@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 
 #include "model/GeneralSettings.h"
 #include "model/IniKeys.h"
@@ -18,81 +19,57 @@ std::string Read(const std::string& key, const std::string& lines) {
   return row.text(ReadSettings(std::string("[") + row.section + "]\n" + lines + "\n"));
 }
 
-/// Key, default, limits, where it is set, and what some texts become that may stand in the file.
-/// One that is taken alone is taken as the reader takes it.
-std::string Listed(const SettingRow& row) {
+/// Limits, default, and what Y, N, n, 0, 1, 2.6, 7, 30, -1, -999, 99999 and x become ("=": itself)
+/// that may stand in the file. One that is taken alone is taken as the reader takes it.
+std::string RuleOf(const SettingRow& row) {
   std::string taken;
   for (const char* text : {"Y", "N", "n", "0", "1", "2.6", "7", "30", "-1", "-999", "99999", "x"}) {
     const std::string became = Read(row.key, std::string(row.key) + "=" + text);
-    taken += (taken.empty() ? "" : " ") + (became == text ? "=" : OrElse(became, "''"));
+    taken += " " + (became == text ? "=" : OrElse(became, "''"));
   }
   Settings settings;
   row.take(settings, "7");
   EXPECT_EQ(row.text(settings), Read(row.key, std::string(row.key) + "=7")) << row.key;
-  return Join({row.key, row.text({}), row.limits, row.setIn.window, row.setIn.control, taken},
-              " | ");
+  return Join({row.limits, row.text({}), taken.substr(1)}, " | ");
 }
 
-/// Behind each row what becomes of Y, N, n, 0, 1, 2.6, 7, 30, -1, -999, 99999 and x; "=": itself.
+/// Behind each rule the settings that keep to it, and the window and control that set them.
 TEST(Settings, AreListedAndHeldToTheirRules) {
+  std::map<std::string, std::string> settingsOf;
+  for (const SettingRow& row : AllSettings())
+    settingsOf[RuleOf(row)] +=
+        std::string(row.key) + " (" + row.setIn.window + " " + row.setIn.control + "), ";
   std::string told = "\n";
-  for (const SettingRow& row : AllSettings()) told += Listed(row) + "\n";
+  for (const auto& [rule, settings] : settingsOf) told += rule + ": " + settings + "\n";
   ExpectTold(told, R"(
-Initial Directory |  |  |  |  | = = = = = = = = = = = =
-Default File Type | 1 | 1 to 8 | frmOptions/File Locations | cboFileType | 1 1 1 1 = 3 = 8 1 1 8 1
-Zoom Amount | 2 | one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100 | frmDataLogViewer | cboZoomAmount | 2 2 2 2 2 3 2 = 2 2 100 2
-Quick Graph | 1 | 1 or 0 | frmDataLogViewer | chkQuickGraph | 0 0 0 = = 1 1 1 1 1 1 0
-Checked Data Items | 3,5,7,17,20,21,23,36 | data item numbers with commas | frmDataLogViewer | lvwSampleDetails | 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 = 3 = = 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36
-Log EXE |  |  | frmOptions/FM Link ECU | txtPath(0) | = = = = = = = = = = = =
-Conversion EXE |  |  | frmOptions/FM Link ECU | txtPath(1) | = = = = = = = = = = = =
-Alternative Background Picture |  |  | frmOptions/File Locations | txtPath(2) | = = = = = = = = = = = =
-Default Working Directory |  |  | frmOptions/File Locations | txtPath(3) | = = = = = = = = = = = =
-Aux Input Conversion File |  |  | frmOptions/FM Link ECU | txtPath(4) | = = = = = = = = = = = =
-O2 Input Conversion File |  |  | frmOptions/FM Link ECU | txtPath(5) | = = = = = = = = = = = =
-Generic Data Log Definition File |  |  | frmOptions/File Locations | txtPath(6) | = = = = = = = = = = = =
-Last Converted Binary File |  |  | frmConvertBIN | txtPath(0) | = = = = = = = = = = = =
-Serial Com Port | 1 | 1 to 9 | frmOptions/FM Link ECU | txtComPort | 1 1 1 1 = 3 = 1 1 1 1 1
-Default Engine Size | 1.6 | 1.6 or 1.8 | frmOptions/FM Link ECU | cboChipType | 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6
-Default Chip Date | 2000-01-01 | yyyy-mm-dd | frmOptions/FM Link ECU | txtChipDate | 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01
-Default Chip Version | 2 | 1 to 3 | frmOptions/FM Link ECU | cboChipType | 2 2 2 2 = 3 2 2 2 2 2 2
-Default Atmospheric Pressure | 75 | 75 to 115 | frmOptions/General | txtAtmos | 75 75 75 75 75 75 75 75 75 75 115 75
-Silent Defaults | N | Y or N | frmOptions/FM Link ECU | chkSilentDefaults | = = N N N N N N N N N N
-Default Benchmark |  |  | frmZoneData | cboBenchmark | = = = = = = = = = = = =
-Plot From Temperature | 0 | -99 to 99 | frmOptions/General | txtPlotFromTemp | 0 0 0 = = 3 = = = -99 99 0
-Display Zone Influence | Y | Y or N | frmDataLogViewer | mnuViewZoneInfl | = = Y Y Y Y Y Y Y Y Y Y
-Display Sample Details in Scatter Graph | Y | Y or N | frmOptions/General | chkSampleScatter | = = Y Y Y Y Y Y Y Y Y Y
-Upload Default 0 | 1 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(0) | 0 0 0 = = 1 1 1 1 1 1 0
-Upload Default 1 | 1 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(1) | 0 0 0 = = 1 1 1 1 1 1 0
-Upload Default 2 | 0 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(2) | 0 0 0 = = 1 1 1 1 1 1 0
-Upload Default 3 | 0 | 1 or 0 | frmOptions/FM Link ECU | chkUploadDefs(3) | 0 0 0 = = 1 1 1 1 1 1 0
-Retain Binary Files | Y | Y or N | frmOptions/FM Link ECU | chkRetainBIN | = = Y Y Y Y Y Y Y Y Y Y
-Auto Open Data Tags Window | Y | Y or N | frmOptions/FM Link ECU | chkAutoTag | = = Y Y Y Y Y Y Y Y Y Y
-Fix Graph Max | 0 | 1 or 0 | frmDataLogViewer | chkFixY | 0 0 0 = = 1 1 1 1 1 1 0
-Graph Y Max | 250 | 10 to 1000 | frmDataLogViewer | txtYMax | 10 10 10 10 10 10 10 = 10 10 1000 10
-Show Checked Only | N | Y or N | frmDataLogViewer | chkShowCheckedOnly | = = N N N N N N N N N N
-Auto File Names | N | Y or N | frmOptions/General | chkAutoFileNames | = = N N N N N N N N N N
-Scatter Graph Auto Draw | N | Y or N | frmOptions/General | chkScatterAutoDraw | = = N N N N N N N N N N
-Auto Scatter Graph Sample Filter | Y | Y or N | frmOptions/General | chkAutoScatterFilter | = = Y Y Y Y Y Y Y Y Y Y
-Show Point Sample Graph Width | 100 | 50 to 1000 | frmOptions/General | txtSampleWidth | 50 50 50 50 50 50 50 50 50 50 1000 50
-Data Log Line Frequency | 6.66 | above 0 | frmOptions/General | txtDefFreq | 6.66 6.66 6.66 6.66 = = = = 6.66 6.66 = 6.66
-Auto Gear Selection | Y | Y or N | frmOptions/General | chkPowerGraphGearSelection | = = Y Y Y Y Y Y Y Y Y Y
-Auto Gear Selection Speed Units | 1 | 1 to 3 | frmOptions/General | cboSpeedUnits | 1 1 1 1 = 3 1 1 1 1 1 1
-Auto Gear Selection Speed Conversion Factor | 0.44704 | from 0 to below 100 | frmOptions/General | txtmsConvFactor | 0 0 0 = = = = = 0.44704 0.44704 0.44704 0
-Initial Plot Width | 0 | 0 to 300000 | frmOptions/General | txtInitialPlotWidth | 0 0 0 = = 3 = = 0 0 = 0
-Ambient Temp | 20 | -30 to 60 | frmOptions/General | txtAmbTemp | 0 0 0 = = 3 = = = -30 60 0
-Humidity Type | 0 | 0 or 1 | frmOptions/General | cboHumidityType | 0 0 0 = = 0 0 0 0 0 0 0
-Relative Humidity | 50 | 0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp | frmOptions/General | txtRH | 0 0 0 = = 3 = = 0 0 100 0
-SAE Correction | N | Y or N | frmOptions/General | chkSAE | = = N N N N N N N N N N
-Graph Colour Scheme | 1 | 1 to 3 | frmOptions/General | cboGraphColourScheme | 1 1 1 1 = 3 3 3 1 1 3 1
-Initial Fuel Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(0) | 0 0 0 = = 3 = = 0 0 359 0
-Initial Fuel Elevation | 240 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(1) | 0 0 0 = = 3 = = 0 0 359 0
-Initial Ignition Rotation | 20 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(2) | 0 0 0 = = 3 = = 0 0 359 0
-Initial Ignition Elevation | 130 | 0 to 359 | frmOptions/FM Link ECU | txt3DSpec(3) | 0 0 0 = = 3 = = 0 0 359 0
-Draw After Opening | N | Y or N | frmOptions/General | chkDrawAfterOpening | = = N N N N N N N N N N
-Main Window Dividers |  |  |  |  | = = = = = = = = = = = =
-Scatter Graph Dividers |  |  |  |  | = = = = = = = = = = = =
-Lines A Second | 10 | 0.01 to 100000 | frmLineFrequency | txtLineFrequency | 0.01 0.01 0.01 0.01 = = = = 0.01 0.01 = 0.01
-Own Item Display |  |  |  |  | = = = = = = = = = = = =
+ |  | = = = = = = = = = = = =: Initial Directory ( ), Log EXE (frmOptions/FM Link ECU txtPath(0)), Conversion EXE (frmOptions/FM Link ECU txtPath(1)), Alternative Background Picture (frmOptions/File Locations txtPath(2)), Default Working Directory (frmOptions/File Locations txtPath(3)), Aux Input Conversion File (frmOptions/FM Link ECU txtPath(4)), O2 Input Conversion File (frmOptions/FM Link ECU txtPath(5)), Generic Data Log Definition File (frmOptions/File Locations txtPath(6)), Last Converted Binary File (frmConvertBIN txtPath(0)), Default Benchmark (frmZoneData cboBenchmark), Main Window Dividers ( ), Scatter Graph Dividers ( ), Own Item Display ( ), 
+-30 to 60 | 20 | 0 0 0 = = 3 = = = -30 60 0: Ambient Temp (frmOptions/General txtAmbTemp), 
+-99 to 99 | 0 | 0 0 0 = = 3 = = = -99 99 0: Plot From Temperature (frmOptions/General txtPlotFromTemp), 
+0 or 1 | 0 | 0 0 0 = = 0 0 0 0 0 0 0: Humidity Type (frmOptions/General cboHumidityType), 
+0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp | 50 | 0 0 0 = = 3 = = 0 0 100 0: Relative Humidity (frmOptions/General txtRH), 
+0 to 300000 | 0 | 0 0 0 = = 3 = = 0 0 = 0: Initial Plot Width (frmOptions/General txtInitialPlotWidth), 
+0 to 359 | 130 | 0 0 0 = = 3 = = 0 0 359 0: Initial Ignition Elevation (frmOptions/FM Link ECU txt3DSpec(3)), 
+0 to 359 | 20 | 0 0 0 = = 3 = = 0 0 359 0: Initial Fuel Rotation (frmOptions/FM Link ECU txt3DSpec(0)), Initial Ignition Rotation (frmOptions/FM Link ECU txt3DSpec(2)), 
+0 to 359 | 240 | 0 0 0 = = 3 = = 0 0 359 0: Initial Fuel Elevation (frmOptions/FM Link ECU txt3DSpec(1)), 
+0.01 to 100000 | 10 | 0.01 0.01 0.01 0.01 = = = = 0.01 0.01 = 0.01: Lines A Second (frmLineFrequency txtLineFrequency), 
+1 or 0 | 0 | 0 0 0 = = 1 1 1 1 1 1 0: Upload Default 2 (frmOptions/FM Link ECU chkUploadDefs(2)), Upload Default 3 (frmOptions/FM Link ECU chkUploadDefs(3)), Fix Graph Max (frmDataLogViewer chkFixY), 
+1 or 0 | 1 | 0 0 0 = = 1 1 1 1 1 1 0: Quick Graph (frmDataLogViewer chkQuickGraph), Upload Default 0 (frmOptions/FM Link ECU chkUploadDefs(0)), Upload Default 1 (frmOptions/FM Link ECU chkUploadDefs(1)), 
+1 to 3 | 1 | 1 1 1 1 = 3 1 1 1 1 1 1: Auto Gear Selection Speed Units (frmOptions/General cboSpeedUnits), 
+1 to 3 | 1 | 1 1 1 1 = 3 3 3 1 1 3 1: Graph Colour Scheme (frmOptions/General cboGraphColourScheme), 
+1 to 3 | 2 | 2 2 2 2 = 3 2 2 2 2 2 2: Default Chip Version (frmOptions/FM Link ECU cboChipType), 
+1 to 8 | 1 | 1 1 1 1 = 3 = 8 1 1 8 1: Default File Type (frmOptions/File Locations cboFileType), 
+1 to 9 | 1 | 1 1 1 1 = 3 = 1 1 1 1 1: Serial Com Port (frmOptions/FM Link ECU txtComPort), 
+1.6 or 1.8 | 1.6 | 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6: Default Engine Size (frmOptions/FM Link ECU cboChipType), 
+10 to 1000 | 250 | 10 10 10 10 10 10 10 = 10 10 1000 10: Graph Y Max (frmDataLogViewer txtYMax), 
+50 to 1000 | 100 | 50 50 50 50 50 50 50 50 50 50 1000 50: Show Point Sample Graph Width (frmOptions/General txtSampleWidth), 
+75 to 115 | 75 | 75 75 75 75 75 75 75 75 75 75 115 75: Default Atmospheric Pressure (frmOptions/General txtAtmos), 
+Y or N | N | = = N N N N N N N N N N: Silent Defaults (frmOptions/FM Link ECU chkSilentDefaults), Show Checked Only (frmDataLogViewer chkShowCheckedOnly), Auto File Names (frmOptions/General chkAutoFileNames), Scatter Graph Auto Draw (frmOptions/General chkScatterAutoDraw), SAE Correction (frmOptions/General chkSAE), Draw After Opening (frmOptions/General chkDrawAfterOpening), 
+Y or N | Y | = = Y Y Y Y Y Y Y Y Y Y: Display Zone Influence (frmDataLogViewer mnuViewZoneInfl), Display Sample Details in Scatter Graph (frmOptions/General chkSampleScatter), Retain Binary Files (frmOptions/FM Link ECU chkRetainBIN), Auto Open Data Tags Window (frmOptions/FM Link ECU chkAutoTag), Auto Scatter Graph Sample Filter (frmOptions/General chkAutoScatterFilter), Auto Gear Selection (frmOptions/General chkPowerGraphGearSelection), 
+above 0 | 6.66 | 6.66 6.66 6.66 6.66 = = = = 6.66 6.66 = 6.66: Data Log Line Frequency (frmOptions/General txtDefFreq), 
+data item numbers with commas | 3,5,7,17,20,21,23,36 | 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 = 3 = = 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36: Checked Data Items (frmDataLogViewer lvwSampleDetails), 
+from 0 to below 100 | 0.44704 | 0 0 0 = = = = = 0.44704 0.44704 0.44704 0: Auto Gear Selection Speed Conversion Factor (frmOptions/General txtmsConvFactor), 
+one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100 | 2 | 2 2 2 2 2 3 2 = 2 2 100 2: Zoom Amount (frmDataLogViewer cboZoomAmount), 
+yyyy-mm-dd | 2000-01-01 | 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01: Default Chip Date (frmOptions/FM Link ECU txtChipDate), 
 )");
 }
 
@@ -119,49 +96,43 @@ Auto Gear Selection Speed Conversion Factor, Auto Gear Selection Speed Conversio
 Default Atmospheric Pressure, Default Atmospheric Pressure=101.5 -> 102 | Default Atmospheric Pressure, Default Atmospheric Pressure=200 -> 115
 Default File Type, Default File Type=6 -> 6 | Graph Y Max, Graph Y Max=1000 -> 1000
 )");
-  EXPECT_TRUE(ReadSettings("[General]\nFirst Run Indicator=Y").firstRun);
-  EXPECT_FALSE(ReadSettings("[General]\nFirst Run Indicator=y").firstRun);
 }
 
-TEST(Settings, ListRecentFilesLatestFirst) {
-  std::string text = "[Recently Used Files]\n";
-  for (const int n : {9, 8, 2, 0})
-    text += "File " + std::to_string(n) + "=1|C:\\" + std::to_string(n) + ".txt\n";
-  EXPECT_EQ(Join(ReadSettings(text + "File 3=\n").recentFiles, " "),
-            "1|C:\\0.txt 1|C:\\2.txt 1|C:\\8.txt");
-}
-
-TEST(Settings, PlaceOnlyWindowsThatHaveAState) {
-  const auto windows =
-      ReadSettings(
-          "[General]\nWindow Left=5\nScatter Graph Window State=2\nScatter Graph Window Left=-40\n"
-          "Scatter Graph Window Width=20000\nSpeed Graph Window State=9\n")
-          .windows;
-  EXPECT_FALSE(windows.main);
-  EXPECT_FALSE(windows.powerGraph);
-  ASSERT_TRUE(windows.scatterGraph && windows.speedGraph);
-  EXPECT_EQ(windows.scatterGraph->lngWindowState, 2);
-  EXPECT_EQ(windows.scatterGraph->lngLeft, -40);
-  EXPECT_EQ(windows.scatterGraph->lngWidth, 20000);
-  EXPECT_EQ(windows.scatterGraph->lngHeight, 4760);
-  EXPECT_EQ(windows.speedGraph->lngWindowState, 2);
-  EXPECT_EQ(windows.speedGraph->lngWidth, 8970);
+TEST(Settings, HoldMoreThanTheList) {
+  // lines of the file; recent files, the latest first, and the windows that have a state
+  ExpectTable(
+      [](const TableRow& row) {
+        const Settings settings = ReadSettings(row.Lines());
+        std::string told = Join(settings.recentFiles, " ") + (settings.firstRun ? " first" : "");
+        const WindowPlacements& all = settings.windows;
+        for (const auto* window : {&all.main, &all.scatterGraph, &all.powerGraph, &all.speedGraph})
+          if (*window)
+            told += " " + std::to_string((*window)->lngWindowState) + " at " +
+                    std::to_string((*window)->lngLeft) + " " + std::to_string((*window)->lngWidth) +
+                    " x " + std::to_string((*window)->lngHeight);
+        return told;
+      },
+      R"(
+[General]; First Run Indicator=Y ->  first | [General]; First Run Indicator=y -> 
+[Recently Used Files]; File 9=1|9.txt; File 8=1|8.txt; File 2=1|2.txt; File 0=1|0.txt; File 3= -> 1|0.txt 1|2.txt 1|8.txt
+[General]; Window Left=5; Scatter Graph Window State=2; Scatter Graph Window Left=-40; Scatter Graph Window Width=20000; Speed Graph Window State=9 ->  2 at -40 20000 x 4760 2 at 0 8970 x 4760
+)");
 }
 
 TEST(Settings, TakeFromTheInstallFileWhatIsEmpty) {
   const IniTable install = ReadINIFileToArray(
-      "[General]\nLog EXE=L.exe\nConversion EXE=C.exe\nDefault Working Directory=W\nChecked Data "
-      "Items=3,5\n"
-      "Initial Directory=no\n");
+      "[General]\nLog EXE=L.exe\nConversion EXE=C.exe\nDefault Working Directory=W\n"
+      "Checked Data Items=3,5\nInitial Directory=no\n");
   const IniTable table =
       ReadINIFileToArray("[General]\nLog EXE=\nConversion EXE=mine\nInitial Directory=\n");
   Settings settings;
   ReadGeneralSettings(table, &install, settings);
-  EXPECT_EQ(settings.gstrLogEXE, "L.exe");
-  EXPECT_EQ(settings.gstrConversionEXE, "mine");
-  EXPECT_EQ(settings.gstrDefaultWorkingDirectory, "W");
-  EXPECT_EQ(settings.gcolCheckedDataItems, (std::vector<int>{3, 5}));
-  EXPECT_EQ(settings.gstrInitialDirectory, "");
+  std::string told;
+  for (const SettingRow& row : AllSettings())
+    if (row.text(settings) != row.text({})) told += row.key + ("=" + row.text(settings)) + "; ";
+  ExpectTold(
+      told,
+      "Checked Data Items=3,5; Log EXE=L.exe; Conversion EXE=mine; Default Working Directory=W; ");
 }
 
 TEST(Settings, BeyondTheOthersAreWrittenWhereTheyDiffer) {

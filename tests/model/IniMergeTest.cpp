@@ -1,30 +1,27 @@
-#include <gtest/gtest.h>
-
 #include "model/IniMerge.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
 TEST(IniMerge, AKeyThatThisProgramDidNotChangeIsAsTheFileHoldsIt) {
-  const struct {
-    const char *read, *held, *inFile, *wanted;
-  } kRows[] = {
-      // clang-format off
-      {"a=1\nb=1\n", "a=1\nb=1\n", "a=1\nb=1\n", "a=1 b=1 "},
-      {"a=1\nb=1\n", "a=2\nb=1\n", "a=3\nb=3\n", "a=2 b=3 "},  // both changed a
-      {"a=1\n", "a=1\n", "", ""},                              // dropped there
-      {"a=1\n", "a=2\n", "", "a=2 "},
-      {"a=1\nb=1\n", "b=1\n", "a=1\nb=1\n", "b=1 "},                             // dropped here
-      {"", "a=1\n", "", "a=1 "},                                                 // new here
-      {"a=1\nc=1\n", "a=1\nc=1\n", "0=9\na=1\nb=2\nc=1\n", "a=1 b=2 c=1 0=9 "},  // new there: in its place, else last
-      // clang-format on
-  };
-  for (const auto& row : kRows) {
-    std::string merged = MergeKeys({row.read, row.held, row.inFile});
-    for (std::size_t at; (at = merged.find("\r\n")) != std::string::npos;)
-      merged.replace(at, 2, " ");
-    EXPECT_EQ(merged, row.wanted) << row.read << row.held << row.inFile;
-  }
+  // keys as they were read, as they are held, as they are in the file now
+  ExpectTable(
+      [](const TableRow& row) {
+        const auto lines = [&](std::size_t n) {
+          return row.Text(n).empty() ? "" : Join(Split(row.Text(n), ' '), "\n") + "\n";
+        };
+        return Join(SplitAt(MergeKeys({lines(0), lines(1), lines(2)}), "\r\n"), " ");
+      },
+      R"(
+a=1 b=1, a=1 b=1, a=1 b=1 -> a=1 b=1 
+# both changed a
+a=1 b=1, a=2 b=1, a=3 b=3 -> a=2 b=3 
+# dropped there and here
+a=1, a=1,  ->  | a=1, a=2,  -> a=2  | a=1 b=1, b=1, a=1 b=1 -> b=1 
+# new here; new there, in its place, else last
+, a=1,  -> a=1  | a=1 c=1, a=1 c=1, 0=9 a=1 b=2 c=1 -> a=1 b=2 c=1 0=9 
+)");
 }
 
 TEST(IniMerge, RecordsThatCountOnAreOneValue) {

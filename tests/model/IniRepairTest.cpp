@@ -1,8 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "model/IniRepair.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -11,32 +10,22 @@ TEST(IniRepair, WhatCanBeToldOfALineStays) {
   const std::vector<std::string> headings{"General", "Graphs"};
   const auto repaired = [&](std::string text) {
     std::replace(text.begin(), text.end(), '#', '\0');
+    std::replace(text.begin(), text.end(), '^', '\r');
     return WithoutDamage(text, headings);
   };
-  const struct {
-    const char *damaged, *wanted;
-  } kRows[] = {
-      // clang-format off
-      {"[General]\nk=1", "[General]\nk=1"},  // untouched
-      {"[Gene#al]\nk=1\n", "[General]\r\nk=1\r\n"},
-      {"#General]\nk=1\n", "[General]\r\nk=1\r\n"},
-      {"[#####al]\nk=1\n", "[?????al]\r\nk=1\r\n"},
-      {"[Oth#r]\nk=1\n", "[Oth?r]\r\nk=1\r\n"},
-      {"a=1\r#b=2\r\nc=3#\n", "a=1\r\nb=2\r\nc=3\r\n"},  // half a line end
-      {"n=12#4\nt=a#c\n", "t=a?c\r\n"},
-      {"[Graphs]\nGraph 1 Name=A\nGr#ph 2 Name=B\nGraph 3 Name=C\n",
-       "[Graphs]\r\nGraph 1 Name=A\r\nGraph 2 Name=B\r\nGraph 3 Name=C\r\n"},
-      {"[Graphs]\nGraph 1 Name=A\nGraph # Name=B\n", "[Graphs]\r\nGraph 1 Name=A\r\nGraph 0 Name=B\r\n"},
-      {"Graph 1 Name=M#ne\n", "Graph 1 Name=M?ne\r\n"},  // without it the records behind would not be found
-      {"Only#ne=1\n", ""},
-      {"Graph 1 Name=A\nGr#ph 25 N#me=B\nGraph 30#=C\nGr#ph 1 Name=D\n",
-       "Graph 1 Name=A\r\nGraph 25 Name=B\r\n"},
-      {"Graph 1 Name=A\nGr#ph 2 Size=B\nCr#ps 2 Name=C\n", "Graph 1 Name=A\r\n"},
-      {"[Graphs]\nCar 1 x=1\nC#r 2 x=2\n[General]\nCar 1 y=1\nC#r 2 y=2\n",
-       "[Graphs]\r\nCar 1 x=1\r\nCar 2 x=2\r\n[General]\r\nCar 1 y=1\r\nCar 2 y=2\r\n"},
-      // clang-format on
-  };
-  for (const auto& row : kRows) EXPECT_EQ(repaired(row.damaged), row.wanted) << row.damaged;
+  ExpectTable(
+      [&](const TableRow& row) { return Join(SplitAt(repaired(row.Lines()), "\r\n"), "; "); }, R"(
+[Gene#al]; k=1;  -> [General]; k=1;  | #General]; k=1;  -> [General]; k=1;  | [#####al]; k=1;  -> [?????al]; k=1;  | [Oth#r]; k=1;  -> [Oth?r]; k=1; 
+# half a line end
+a=1^#b=2^; c=3#;  -> a=1; b=2; c=3; 
+n=12#4; t=a#c;  -> t=a?c;  | Only#ne=1;  -> 
+[Graphs]; Graph 1 Name=A; Gr#ph 2 Name=B; Graph 3 Name=C;  -> [Graphs]; Graph 1 Name=A; Graph 2 Name=B; Graph 3 Name=C;  | [Graphs]; Graph 1 Name=A; Graph # Name=B;  -> [Graphs]; Graph 1 Name=A; Graph 0 Name=B; 
+# without it the records behind would not be found
+Graph 1 Name=M#ne;  -> Graph 1 Name=M?ne; 
+Graph 1 Name=A; Gr#ph 25 N#me=B; Graph 30#=C; Gr#ph 1 Name=D;  -> Graph 1 Name=A; Graph 25 Name=B;  | Graph 1 Name=A; Gr#ph 2 Size=B; Cr#ps 2 Name=C;  -> Graph 1 Name=A; 
+[Graphs]; Car 1 x=1; C#r 2 x=2; [General]; Car 1 y=1; C#r 2 y=2;  -> [Graphs]; Car 1 x=1; Car 2 x=2; [General]; Car 1 y=1; Car 2 y=2; 
+)");
+  EXPECT_EQ(repaired("[General]\nk=1"), "[General]\nk=1") << "no damage, untouched";
   // Nobody waits for a file of nothing but damage.
   std::string many = "Graph 1 Name=A\r\n";
   for (int line = 0; line < 1001; ++line) many += "Gr#ph 2 Name=B\r\n";

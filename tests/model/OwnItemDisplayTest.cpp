@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "model/Catalogue.h"
 #include "model/OwnItemDisplay.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -25,19 +24,15 @@ std::string Shown(const std::string& kept) {
 }
 
 TEST(OwnItemDisplay, IsKeptByTitleTheLatestInFront) {
+  ExpectTable(
+      [](const TableRow& row) {
+        return "kept " + Join(SplitAt(Shown(Join(SplitAt(row.All(), "/"), "|")), "|"), "/");
+      },
+      R"(
+ -> kept  | 255,2,3,N,0.5,OIL, HOT -> kept 255,2,3,N,0.5,OIL, HOT | 256,1,1,Y,1,FUEL 2/255,2,3,N,0.5,OIL, HOT -> kept 255,2,3,N,0.5,OIL, HOT/256,1,1,Y,1,FUEL 2 | 1,1,1,Y,1,Other -> kept  | rubbish/255,2,3,N,0.5,OIL, HOT/1,2/ -> kept 255,2,3,N,0.5,OIL, HOT
+99999999,9,9,,99999,oil, hot/x,x,x,x,x,FUEL 2 -> kept 16777215,3,5,N,1000,OIL, HOT/0,1,1,N,0.0001,FUEL 2
+)");
   const std::string oil = "255,2,3,N,0.5,OIL, HOT", fuel = "256,1,1,Y,1,FUEL 2";
-  const struct {
-    std::string kept, shown;
-  } kRows[] = {
-      {"", ""},
-      {oil, oil},
-      {fuel + "|" + oil, oil + "|" + fuel},
-      {"1,1,1,Y,1,Other", ""},
-      {"rubbish|" + oil + "|1,2|", oil},
-      {"99999999,9,9,,99999,oil, hot|x,x,x,x,x,FUEL 2",
-       "16777215,3,5,N,1000,OIL, HOT|0,1,1,N,0.0001,FUEL 2"},
-  };
-  for (const auto& row : kRows) EXPECT_EQ(Shown(row.kept), row.shown) << row.kept;
   clsLogDataItems items = Items();
   items.Item(items.Count()).lngColour = 256;
   EXPECT_EQ(KeepOwnItemDisplay(oil + "|7,1,1,Y,1,FUEL 2", Items(), items).substr(0, 4), "256,");

@@ -6,98 +6,56 @@
 namespace tarnview {
 namespace {
 
-class FileKindsTest : public testing::Test {
- protected:
-  FileKindsTest() {
-    for (int id = 1; id <= types.Count(); ++id) types.Item(id).blnEnabled = true;
-  }
-  FileKinds kinds = SetUpLogFamilies();
+/// What comes of a verb, a number, and what else it takes.
+std::string Told(FileKinds& kinds, const TableRow& row) {
   clsFileTypes& types = kinds.gcolFileTypes;
   clsLogFamilies& families = kinds.gcolLogFamilies;
-};
-
-TEST(SetUpLogFamilies, LeavesTheTypesToBeEnabled) {
-  const FileKinds kinds = SetUpLogFamilies();
-  ASSERT_EQ(kinds.gcolFileTypes.Count(), 8);
-  for (int id = 1; id <= 8; ++id) {
-    EXPECT_FALSE(kinds.gcolFileTypes.Item(id).blnEnabled);
-    EXPECT_EQ(kinds.gcolFileTypes.Item(id).lngID, id);
+  const std::string& verb = row.Text(0);
+  const int number = row.Count() > 1 ? row.Int(1) : 0;
+  std::vector<int> numbers;
+  for (std::size_t n = 1; n < row.Count(); ++n) numbers.push_back(row.Int(n));
+  if (verb == "enable" || verb == "disable") {
+    for (const int id : numbers) types.Item(id).blnEnabled = verb == "enable";
+    return types.CommonDialogFilter();
   }
-  EXPECT_EQ(kinds.gcolFileTypes.CommonDialogFilter(), "");
-}
-
-TEST_F(FileKindsTest, FiltersNameEveryExtension) {
-  EXPECT_EQ(types.Item(6).CommonDialogFilter(),
-            "UTEC CSV Data Logs (*.csv;*.dat;*.txt;*.log;*.utc)|*.csv;*.dat;*.txt;*.log;*.utc");
-  for (int id = 3; id <= 8; ++id) types.Item(id).blnEnabled = false;
-  EXPECT_EQ(types.CommonDialogFilter(),
-            "FM Link Data Logs (*.txt)|*.txt|FM Link MAP Files (*.map)|*.map");
-}
-
-TEST_F(FileKindsTest, PlacesCountEnabledTypesOnly) {
-  types.Item(2).blnEnabled = false;
-  EXPECT_EQ(types.SequenceFromID(1), 1);
-  EXPECT_EQ(types.SequenceFromID(8), 7);
-  EXPECT_EQ(types.SequenceFromID(2), 8);  // one past the end
-  EXPECT_EQ(types.IDFromSequence(2), 3);
-  for (const int outside : {0, -1, 8}) EXPECT_EQ(types.IDFromSequence(outside), 1);
-}
-
-TEST_F(FileKindsTest, AreGuessedFromTheExtension) {
-  const auto tell = [&](const TableRow& row) {
-    return std::to_string(types.GuessFileType(row.Text(0), row.Int(1)));
-  };
-  ExpectTable(tell, R"(
-log.dat, 1 -> 6 | log.txt, 1 -> 1 | log.TXT, 7 -> 7 | log.txt, 2 -> 8 | log.map, 1 -> 2 | log.csv, 4 -> 6 | log.dat, 4 -> 4
-log, 5 -> 5 | log.xyz, 5 -> 5 | a.map/log, 5 -> 5 | log.txt, 99 -> 8
-)");
-  types.Item(2).blnEnabled = false;
-  EXPECT_EQ(types.GuessFileType("log.map", 1), 1);
-}
-
-TEST_F(FileKindsTest, LoseOneLastS) {
-  EXPECT_EQ(types.Item(2).GetSingularDescription(), "FM Link MAP File");
-  types.Item(8).UpdateDescription("XS", "csv");
-  EXPECT_EQ(types.Item(8).strDescription, "Universal - XS");
-  EXPECT_EQ(types.Item(8).GetSingularDescription(), "Universal - X");
-  EXPECT_EQ(types.Item(8).strFileExtension, "csv");
-  types.Item(1).UpdateDescription("A", "b");
-  EXPECT_EQ(types.Item(1).strDescription, "A");
-  types.Item(1).UpdateDescription("A", "b", true);
-  EXPECT_EQ(types.Item(1).strDescription, "Universal - A");
-}
-
-TEST_F(FileKindsTest, IdsAreHeldToTheList) {
-  EXPECT_EQ(types.ValidateFileType(0), 1);
-  EXPECT_EQ(types.ValidateFileType(99), 8);
-  EXPECT_EQ(families.ValidateLogFamily(-3), 1);
-  EXPECT_EQ(families.ValidateLogFamily(99), 7);
-  EXPECT_TRUE(types.SaveableFileType(2));
-  EXPECT_FALSE(types.SaveableFileType(3));
-}
-
-TEST_F(FileKindsTest, FamiliesHoldTypes) {
-  const int firstFamilies[] = {1, 1, 3, 4, 5, 6, 6, 7};
-  for (int type = 1; type <= 8; ++type)
-    EXPECT_EQ(families.FirstLogFamily(type), firstFamilies[type - 1]);
-  EXPECT_EQ(families.FirstLogFamily(9), 0);
-  EXPECT_TRUE(families.Item(2).Holds(2));
-  families.Item(6).UpdateDescription("Mine");
-  families.Item(7).UpdateDescription("Mine");
-  EXPECT_EQ(families.Item(6).strDescription, "Mine");
-  EXPECT_EQ(families.Item(7).strDescription, "Universal - Mine");
-}
-
-TEST_F(FileKindsTest, ItemsVoteForAFamily) {
+  if (verb == "call") types.Item(number).UpdateDescription(row.Text(2), "b", row.Count() > 3);
+  if (verb == "call" || verb == "type")
+    return types.Item(number).strDescription + ", " + types.Item(number).GetSingularDescription() +
+           ", " + types.Item(number).CommonDialogFilter();
+  if (verb == "family called") families.Item(number).UpdateDescription(row.Text(2));
+  if (verb == "family called") return families.Item(number).strDescription;
+  if (verb == "place of") return std::to_string(types.SequenceFromID(number));
+  if (verb == "at place") return std::to_string(types.IDFromSequence(number));
+  if (verb == "guess") return std::to_string(types.GuessFileType(row.Text(2), number));
+  if (verb == "held")
+    return std::to_string(types.ValidateFileType(number)) + " " +
+           std::to_string(families.ValidateLogFamily(number));
+  if (verb == "family of")
+    return std::to_string(families.FirstLogFamily(number)) +
+           (types.SaveableFileType(number) ? " saveable" : "");
   const Catalogue catalogue = BuildDataItemCatalogue();
-  const auto vote = [&](const std::vector<int>& numbers) {
-    return families.LogFamilyFromDataItemCollection(numbers, catalogue.gcolFixedDataItems);
-  };
-  EXPECT_EQ(vote({}), 0);
-  EXPECT_EQ(vote({0, 84, -1}), 0);
-  EXPECT_EQ(vote({1, 3}), 1);       // a tie of all
-  EXPECT_EQ(vote({47, 52, 3}), 4);  // two of the Tec-3's
-  EXPECT_EQ(vote({71, 71, 2}), 6);
+  return std::to_string(
+      families.LogFamilyFromDataItemCollection(numbers, catalogue.gcolFixedDataItems));
+}
+
+TEST(FileKinds, AsTheyAreSetUp) {
+  FileKinds kinds = SetUpLogFamilies();
+  ASSERT_EQ(kinds.gcolFileTypes.Count(), 8);
+  for (int id = 1; id <= 8; ++id) EXPECT_EQ(kinds.gcolFileTypes.Item(id).lngID, id);
+  EXPECT_EQ(kinds.gcolFileTypes.CommonDialogFilter(), "");
+  EXPECT_TRUE(kinds.gcolLogFamilies.Item(2).Holds(2));
+  // One row after the other. A vote of items is for a family, the first one on a tie of all.
+  ExpectTable([&](const TableRow& row) { return Told(kinds, row); }, R"(
+enable, 2 -> FM Link MAP Files (*.map)|*.map | enable, 1 -> FM Link Data Logs (*.txt)|*.txt|FM Link MAP Files (*.map)|*.map | at place, 2 -> 2 | at place, 3 -> 1 | at place, 0 -> 1
+enable, 3, 4, 5, 6, 7, 8 -> FM Link Data Logs (*.txt)|*.txt|FM Link MAP Files (*.map)|*.map|Tec-2 Data Logs (*.dat)|*.dat|Tec-3 Data Logs (*.dat)|*.dat|LinkPlus Data Logs (*.txt)|*.txt|UTEC CSV Data Logs (*.csv;*.dat;*.txt;*.log;*.utc)|*.csv;*.dat;*.txt;*.log;*.utc|UTEC Fixed-Width Data Logs (*.txt)|*.txt|Universal Data Logs (*.txt)|*.txt
+guess, 1, log.dat -> 6 | guess, 1, log.txt -> 1 | guess, 7, log.TXT -> 7 | guess, 2, log.txt -> 8 | guess, 1, log.map -> 2 | guess, 4, log.csv -> 6 | guess, 4, log.dat -> 4 | guess, 5, log -> 5 | guess, 5, log.xyz -> 5 | guess, 5, a.map/log -> 5 | guess, 99, log.txt -> 8
+disable, 2 -> FM Link Data Logs (*.txt)|*.txt|Tec-2 Data Logs (*.dat)|*.dat|Tec-3 Data Logs (*.dat)|*.dat|LinkPlus Data Logs (*.txt)|*.txt|UTEC CSV Data Logs (*.csv;*.dat;*.txt;*.log;*.utc)|*.csv;*.dat;*.txt;*.log;*.utc|UTEC Fixed-Width Data Logs (*.txt)|*.txt|Universal Data Logs (*.txt)|*.txt
+guess, 1, log.map -> 1 | place of, 1 -> 1 | place of, 8 -> 7 | place of, 2 -> 8 | at place, 2 -> 3 | at place, 0 -> 1 | at place, -1 -> 1 | at place, 8 -> 1
+type, 2 -> FM Link MAP Files, FM Link MAP File, FM Link MAP Files (*.map)|*.map | call, 8, XS -> Universal - XS, Universal - X, Universal - XS (*.b)|*.b | call, 1, A -> A, A, A (*.b)|*.b | call, 1, A, by force -> Universal - A, Universal - A, Universal - A (*.b)|*.b | family called, 6, Mine -> Mine | family called, 7, Mine -> Universal - Mine
+held, 0 -> 1 1 | held, 99 -> 8 7 | held, -3 -> 1 1 | held, 5 -> 5 5
+family of, 1 -> 1 saveable | family of, 2 -> 1 saveable | family of, 3 -> 3 | family of, 4 -> 4 | family of, 5 -> 5 | family of, 6 -> 6 | family of, 7 -> 6 | family of, 8 -> 7 | family of, 9 -> 0
+vote -> 0 | vote, 0, 84, -1 -> 0 | vote, 1, 3 -> 1 | vote, 47, 52, 3 -> 4 | vote, 71, 71, 2 -> 6
+)");
 }
 
 }  // namespace

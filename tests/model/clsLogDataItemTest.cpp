@@ -7,21 +7,17 @@
 namespace tarnview {
 namespace {
 
-clsLogDataItem Item(int type, double factor, int places, int offset) {
-  clsLogDataItem item;
-  item.intType = type;
-  item.dblFactor = factor;
-  item.SetDisplayDecimalPlaces(places);
-  item.lngStorageOffset = offset;
-  item.varDescList = {"Off", "On"};
-  return item;
-}
-
 /// Kind, factor, decimal places, offset.
 clsLogDataItem ItemOf(const TableRow& row) {
   const std::map<std::string, int> kinds{
       {"plain", kPlainItem}, {"scaled", kScaledItem}, {"list", kListItem}};
-  return Item(kinds.at(row.Text(0)), row.Number(1), row.Int(2), row.Int(3));
+  clsLogDataItem item;
+  item.intType = kinds.at(row.Text(0));
+  item.dblFactor = row.Number(1);
+  item.SetDisplayDecimalPlaces(row.Int(2));
+  item.lngStorageOffset = row.Int(3);
+  item.varDescList = {"Off", "On"};
+  return item;
 }
 
 /// What is stored, and whether no zeros are shown: text and value.
@@ -42,27 +38,24 @@ list, 10, 1, 1, 1 -> 'On' 1 | list, 1, 0, 0, 0, no zeros -> 'Off' 0 | list, 1, 0
 }
 
 TEST(clsLogDataItem, StoresValuesRoundedAndNeverBelowZero) {
+  // What is set, the least and the most that may be.
   // 1.015 is kept as 101.49999999999999 hundredths and reads as 101.5.
   const auto tell = [](const TableRow& row) {
-    return std::to_string(ItemOf(row).SetRawData(row.Number(4)));
+    clsLogDataItem item = ItemOf(row);
+    if (row.Count() > 5) item.SetMinValue(row.Number(5));
+    if (row.Count() > 6) item.SetMaxValue(row.Number(6));
+    return std::to_string(item.SetRawData(row.Number(4)));
   };
   ExpectTable(tell, R"(
 plain, 1, 0, 0, -5 -> 0 | plain, 1, 0, 1000, -5 -> 995 | plain, 1, 0, 0, 2.5 -> 2 | scaled, 1000, 2, 0, 14.7 -> 14700
 scaled, 100, 2, 0, 1.015 -> 102 | scaled, 1000, 3, 1000, -0.25 -> 750 | list, 10, 1, 5, 1 -> 1 | plain, 1, 0, 0, 1e12 -> 0
+scaled, 10, 1, 0, 1, 2 -> 20 | scaled, 10, 1, 0, 900, 2 -> 9000 | scaled, 10, 1, 0, 900, 2, 8 -> 80 | scaled, 10, 1, 0, 900 -> 9000
 )");
-
-  clsLogDataItem bounded = Item(kScaledItem, 10, 1, 0);
-  EXPECT_FALSE(bounded.blnMinValueSet() || bounded.blnMaxValueSet());
-  bounded.SetMinValue(2);
-  EXPECT_EQ(bounded.SetRawData(1), 20);
-  EXPECT_EQ(bounded.SetRawData(900), 9000);
-  bounded.SetMaxValue(8);
-  EXPECT_EQ(bounded.SetRawData(900), 80);
 }
 
 TEST(clsLogDataItem, BuildsItsMask) {
-  EXPECT_EQ(Item(kScaledItem, 1, 0, 0).strDisplayFormatMask(), "0");
-  EXPECT_EQ(Item(kScaledItem, 1, 2, 0).strDisplayFormatMask(), "0.00");
+  ExpectTable([](const TableRow& row) { return ItemOf(row).strDisplayFormatMask(); },
+              "scaled, 1, 0, 0 -> 0 | scaled, 1, 2, 0 -> 0.00");
 }
 
 TEST(clsLogDataItems, KeepPositionKeyAndOrderApart) {
