@@ -84,7 +84,7 @@ length=26, 16=116 -> MAP 1160, WGCM 2, Boost 168, Zone 300
 length=27, 16=116 -> MAP 1160, Boost 168, Zone 300
 # Throttle, idle valve and auxiliary input, by the version of the summary.
 44=0.52 -> IAC 0, Aux NF 520, Aux CF 8867 | 44=4.52, 43=w -> Throttle 2, IAC 0, TPS 10000, Aux NF 4520, Aux CF 16512
-44= 45 -> TPS 4500 | 44=  0, 43=w -> Throttle 2, TPS 10000 | 44= 31, 43=* -> Throttle 1, IAC 31, TPS 1000
+44= 45 -> TPS 4500 | 44= 451 -> TPS 4500 | 44=  0, 43=w -> Throttle 2, TPS 10000 | 44= 31, 43=* -> Throttle 1, IAC 31, TPS 1000
 44= 45, 60=1.25, length=63 -> TPS 4500, Aux NF 1250, Aux CF 9612
 44= 45, 60=1.2, length=62 -> TPS 4500
 44= 45, 60=1.25, length=63, s2=1.x  -> IAC 45, Aux NF 1250, Aux CF 9612, chip 1.6 v1

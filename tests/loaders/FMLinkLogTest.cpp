@@ -1,9 +1,6 @@
-#include <map>
-
-#include "LoadedLog.h"
+#include "LogInWords.h"
 #include "loaders/FMLinkLog.h"
 #include "support/FMLinkLogBuilder.h"
-#include "support/Table.h"
 
 namespace tarnview {
 namespace {
@@ -20,8 +17,8 @@ LoadOutcome Quiet(std::string_view bytes, const LoadContext& context) {
 std::string Tags(const OpenLog& log) {
   std::string told;
   for (int n = 1; n <= log.gcolLogTags.Count(); ++n)
-    told += ", tag " + std::to_string(log.gcolLogTags.Item(n).FromSequence) + "-" +
-            std::to_string(log.gcolLogTags.Item(n).ToSequence);
+    told += "tag " + std::to_string(log.gcolLogTags.Item(n).FromSequence) + "-" +
+            std::to_string(log.gcolLogTags.Item(n).ToSequence) + ", ";
   return told;
 }
 
@@ -40,7 +37,8 @@ Initial zone map
                                    R"( ATM = 101            OBD209-Aug-05
 No lambda/knock zone changes
 )");
-  ExpectTold(loaded.Told(), R"(samples zones changes, plots from 0, air from -10
+  ExpectTold(Tags(loaded.log) + loaded.Told(),
+             R"(tag 1041-1043, samples zones changes, plots from 0, air from -10
 Sample  CAS Err   RPM  Dwell   MAP  Lambda  O2  O2 A  WGCM  WG%  EGR  Fuel P  Inj W  Inj %  Throttle  IAC   TPS  Neutral  Comp  Knock  IAdv  Volt  C Temp
   1040        0   850      2   340       2  91     0     0    0   12       1    200     40         1    0  1000        0     0      3    95   138      80
   1041        0  3250      1   900       0  88     1     0    0   12       1    980    980         0   45  5000        1     1     12   125   138      80
@@ -60,7 +58,6 @@ Speed  Eng Fan  Cnd Fan  A/C  PRC  Ch Purge  Knock C  A Temp  Aux NS  Knock T  L
 1000  854426   630      118      14       15     1000    14700
 1000  855245   205       49     145        0     1000    14700
 )");
-  EXPECT_EQ(Tags(loaded.log), ", tag 1041-1043");
   EXPECT_EQ(Join(loaded.progress.stages, ", "),
             "Preparing to load, Loading zone settings, Generating calculated data...");
 }
@@ -76,9 +73,10 @@ std::map<std::string, std::string> Pieces() {
   changed[1] = " -1 8";
   for (std::size_t row = 2; row < changed.size(); ++row)
     changed[row] = "   * 123" + Repeated("", "   *", 14, "");
-  const auto section = [](const Lines& lines) { return JoinLines(ZoneSectionLines(lines)); };
+  const auto section = [](const Lines& lines) { return JoinLines(ZoneSectionLines(lines), "\n"); };
   const auto first = [&](long count) { return section({rows.begin(), rows.begin() + count}); };
-  return {{"map", "Initial zone map\r\n"},
+  return {{"sample", Placed(57, {{1, "1"}, {9, "3000"}, {16, "100"}})},
+          {"map", "Initial zone map\n"},
           {"zones", section(rows)},
           {"zones to 239", first(15)},
           {"zones to 31", first(2)},
@@ -86,19 +84,21 @@ std::map<std::string, std::string> Pieces() {
           {"zones of 99999", section(beyond16Bits)},
           {"17 zones in the last row", section(tooMany)},
           {"changed zones", section(changed)},
-          {"heading", std::string(68, '-') + "\r\n"},
-          {"settings", " ATM = 101            1.8 18-Sep-01 \r\n"},  // engine at 23, date at 27
-          {"no changes", "No lambda/knock zone changes\r\n"},
-          {"changes", "Lambda/knock zone changes\r\n"},
-          {"NUL bytes", std::string(100, '\0') + "\r\n"},
-          {"a long line", std::string(10'000'000, '1') + "\r\n"},
-          {"a long line of zones", " ATM" + std::string(1'000'000, '9') + "\r\n"}};
+          {"heading", std::string(68, '-') + "\n"},
+          {"settings", " ATM = 101            1.8 18-Sep-01 \n"},  // engine at 23, date at 27
+          {"no changes", "No lambda/knock zone changes\n"},
+          {"changes", "Lambda/knock zone changes\n"},
+          {"NUL bytes", std::string(100, '\0') + "\n"},
+          {"a long line", std::string(10'000'000, '1') + "\n"},
+          {"a long line of zones", " ATM" + std::string(1'000'000, '9') + "\n"}};
 }
 
-/// Chip and pressure, some zones, the first sample's boost and zone value, and which zones changed.
-std::string Zones(const OpenLog& log) {
+/// Tags, chip and pressure, some zones, the first sample's boost and zone value, and which zones
+/// changed.
+std::string TagsAndZones(const LoadedLog& loaded) {
+  const OpenLog& log = loaded.log;
   const LoadedZones& zones = log.zones;
-  std::string told = ", " + NumberText(zones.chip.dblEngineSize) + " v" +
+  std::string told = ", " + Tags(log) + NumberText(zones.chip.dblEngineSize) + " v" +
                      std::to_string(zones.chip.intChipVersion) + " " +
                      DateText(zones.chip.datChipDate) + " " +
                      std::to_string(zones.intAtmosphericPressure) + " kPa, zones";
@@ -114,79 +114,44 @@ std::string Zones(const OpenLog& log) {
   return told;
 }
 
-/// Behind "Sample": samples, pieces by their names, and lines as they stand; "quietly", "plot from
-/// 70" and "99 kPa without a word" are how it is read, "LF" how its lines end.
-std::string TellOfParts(const TableRow& row) {
+std::string TellLoud(const TableRow& row) {
   static const std::map<std::string, std::string> pieces = Pieces();
-  std::string text = "Sample\r\n";
-  Settings settings;
-  LoadedLog::Loader load = Loud;
-  int sample = 0;
-  for (std::size_t n = 0; n < row.Count(); ++n) {
-    const std::string& word = row.Text(n);
-    if (word.ends_with(" samples")) {
-      for (int more = row.Int(n); more > 0; --more)
-        text += Placed(57, {{1, std::to_string(++sample)}, {9, "3000"}, {16, "100"}}) + "\r\n";
-    } else if (word == "quietly") {
-      load = Quiet;
-    } else if (word == "LF") {
-      std::erase(text, '\r');
-      text.pop_back();
-    } else if (word.starts_with("plot from ")) {
-      settings.gintPlotFromTemperature = StringToLong(word.substr(10));
-    } else if (word.ends_with(" without a word")) {
-      settings.gblnSilentDefaults = true;
-      settings.gintDefaultAtmosphericPressure = row.Int(n);
-    } else {
-      const auto piece = pieces.find(word);
-      text += piece == pieces.end() ? word + "\r\n" : piece->second;
-    }
-  }
-  const LoadedLog loaded(load, text, settings);
-  return loaded.Outcome() + Tags(loaded.log) + Zones(loaded.log);
+  return TellOfLog(Loud, row.Words(), pieces, TagsAndZones);
 }
 
 TEST(FMLinkLog, WhatComesOfPartsOfALog) {
-  EXPECT_EQ(LoadedLog(Loud, "").Outcome(), "nothing, says 52");
-  EXPECT_EQ(LoadedLog(Loud, "SAMPLE\n").Outcome(), "nothing, says 52");
-  EXPECT_EQ(LoadedLog(Loud, "Sample").Outcome(), "nothing, says 16");
-  ExpectTable(TellOfParts, R"(
-0 samples -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
-0 samples, NUL bytes -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
-0 samples, a long line -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
-3 samples, map -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
-3 samples, map, heading -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
-3 samples, map, heading, zones, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
-3 samples, map, unknown zones, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 39 55, Boost 145 Fuel ZV 118
-3 samples, map, zones of 99999, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 -1 -1, Boost 145 Fuel ZV -1
-3 samples, map, 17 zones in the last row, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 39 16, Boost 145 Fuel ZV 118
-3 samples, map, a long line of zones -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
-2 samples, map, zones, settings, no changes -> zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
-3 samples, map, zones, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
-3 samples, map, zones, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
-3 samples, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
-3 samples, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
-3 samples, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 0, Boost 0 Fuel ZV 118
-3 samples,  1.8b, map, zones to 31 -> samples, plots from 0, says 16, 1.8 v3  0 kPa, zones 31 -1 -1 -1, Boost 145 Fuel ZV -1
-3 samples, map, zones, settings, no changes, LF -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
-3 samples, map, zones, settings, changes, on the way, changed zones -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118, 0 to 9, 17 to 8, 33 to 123, 49 to 123, 65 to 123, 81 to 123, 97 to 123, 113 to 123, 129 to 123, 145 to 123, 161 to 123, 177 to 123, 193 to 123, 209 to 123, 225 to 123
-3 samples, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 0, Boost 36 Fuel ZV 118
+  ExpectTable(TellLoud, R"(
+, no end -> nothing, says 52, 0 v0  0 kPa, zones 0 0 0 0 | Sample, no end -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1 | SAMPLE -> nothing, says 52, 0 v0  0 kPa, zones 0 0 0 0 | Sample -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1 | Sample, NUL bytes -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1 | Sample, a long line -> nothing, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1
+Sample, 3*sample, map -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1 | Sample, 3*sample, map, heading -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+Sample, 3*sample, map, heading, zones, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1 | Sample, 3*sample, map, unknown zones, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 39 55, Boost 145 Fuel ZV 118
+Sample, 3*sample, map, zones of 99999, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 -1 -1, Boost 145 Fuel ZV -1 | Sample, 3*sample, map, 17 zones in the last row, settings, no changes -> samples, says 16, 0 v0  0 kPa, zones 31 32 39 16, Boost 145 Fuel ZV 118
+Sample, 3*sample, map, a long line of zones -> samples, says 16, 0 v0  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1 | Sample, 2*sample, map, zones, settings, no changes -> zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+Sample, 3*sample, map, zones, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118 | Sample, 3*sample, map, zones, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
+Sample, 3*sample, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118 | Sample, 3*sample, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+Sample, 3*sample, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 0, Boost 0 Fuel ZV 118 | Sample, 3*sample,  1.8b, map, zones to 31 -> samples, plots from 0, says 16, 1.8 v3  0 kPa, zones 31 -1 -1 -1, Boost 145 Fuel ZV -1
+Sample, 3*sample, map, zones, settings, no changes, CRLF -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118 | Sample, 3*sample, map, zones, settings, no changes, CRLF, no end, no end -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
+Sample, 3*sample, map, zones, settings, changes, on the way, changed zones -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118, 0 to 9, 17 to 8, 33 to 123, 49 to 123, 65 to 123, 81 to 123, 97 to 123, 113 to 123, 129 to 123, 145 to 123, 161 to 123, 177 to 123, 193 to 123, 209 to 123, 225 to 123
+Sample, 3*sample, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 0, Boost 36 Fuel ZV 118
 # The line of settings; of two, the last one counts.
-3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01    , no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
-3 samples, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
-3 samples, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
-3 samples, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
-3 samples, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
-3 samples, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
-3 samples, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =  98  1.8 18-Sep-01    , no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =  98  1.8 18-Sep-01, no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =  98  MK-II 18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -> samples zones changes, 1.6 v1 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+Sample, 3*sample, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
 # Zones that are not known whole, or without their chip, use the defaults, and say so unless told not to.
-quietly, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
-99 kPa without a word, 3 samples, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 99 kPa, zones 31 32 39 55, Boost 1 Fuel ZV 118
+Sample, 99 kPa, silent, 3*sample, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 99 kPa, zones 31 32 39 55, Boost 1 Fuel ZV 118
 # It plots from the first sample as warm as that, by summaries alone; a tag that is open ends with the log.
-plot from 70, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, plots from 3, says 16, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
-plot from 80, 1 samples,  1.8             60, 4 samples,  1.8             80, 3 samples -> samples, says 16, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
-*1.8, 2 samples, *1.8, 2 samples -> samples, plots from 0, says 16, tag 1-4, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+Sample, plot from 70, 1*sample,  1.8             60, 4*sample,  1.8             80, 3*sample -> samples, plots from 3, says 16, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1
+Sample, plot from 80, 1*sample,  1.8             60, 4*sample,  1.8             80, 3*sample -> samples, says 16, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 145 Fuel ZV -1 | Sample, *1.8, 1 ~57, 2 ~57, *1.8, 3 ~57, 4 ~57 -> samples, plots from 0, says 16, tag 1-4, 1.8 v2  0 kPa, zones -1 -1 -1 -1, Boost 0 Fuel ZV -1
 )");
+  const auto quietly = [](const TableRow& row) {
+    return TellOfLog(Quiet, row.Words(), Pieces(), TagsAndZones);
+  };
+  ExpectTable(quietly,
+              "Sample, 3*sample, map, zones, no changes -> samples zones changes, 1.6 v2 "
+              "2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "LoadedLog.h"
+#include "LogInWords.h"
 #include "loaders/LinkPlusLog.h"
 
 namespace tarnview {
@@ -53,17 +53,15 @@ Sample   RPM  Lambda    O2  Throttle  Neutral  Comp  Eng Fan    A/F  Vacuum  Kno
 )");
 }
 
-TEST(LinkPlusLog, OfTwoColumnsForOneItemTheLaterCounts) {
-  const LoadedLog loaded(LoadLinkPlusLog, Tabbed("COUNT|1100|rpm\n1|10|20\n2|10|\n3||30"));
-  EXPECT_EQ(loaded.Cells(kRPM), "20 0 30");
-}
-
-TEST(LinkPlusLog, TheHeadingMayStandInTheSixthLineAndBeLong) {
-  std::string heading = Repeated("", "", 5) + "Count", line = "7";
-  for (int column = 0; column < 10000; ++column)
-    heading += "\tRPM", line += "\t" + std::to_string(column);
-  const LoadedLog loaded(LoadLinkPlusLog, Repeated(heading + "\n", line, 3));
-  EXPECT_EQ(loaded.Cells(kRPM), "9999 9999 9999");
+TEST(LinkPlusLog, OfTwoColumnsForOneItemTheLaterCountsAndTheHeadingMayStandInTheSixthLine) {
+  const auto tell = [](const TableRow& row) { return TellOfLog(LoadLinkPlusLog, row.Words()); };
+  ExpectTable(tell, R"(
+COUNT|1100|rpm, 1|10|20, 2|10|, 3||30, ?RPM -> samples, plots from 0, RPM 20 0 30
+5*, COUNT|1100|rpm, 3*1|10|20, ?RPM -> samples, plots from 0, RPM 20 20 20
+)");
+  const std::string heading = Repeated("COUNT", "|RPM", 10000, ""),
+                    line = Repeated("3*7", "|1", 9999, "") + "|9";
+  EXPECT_TRUE(TellOfLog(LoadLinkPlusLog, {heading, line, "?RPM"}).ends_with("RPM 9 9 9"));
 }
 
 }  // namespace

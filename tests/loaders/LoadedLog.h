@@ -70,6 +70,13 @@ struct LoadedLog {
     return text;
   }
 
+  /// Those of a column by its item's short name.
+  std::string CellsOf(const std::string& name) const {
+    int column = 0;
+    while (catalogue.gcolFixedDataItems.Item(column + 1).strShortName != name) ++column;
+    return Cells(column);
+  }
+
   struct Progress : LoadProgress {
     std::vector<std::string> stages;
     std::vector<long> lines;

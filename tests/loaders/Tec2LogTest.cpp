@@ -1,13 +1,8 @@
-#include "LoadedLog.h"
+#include "LogInWords.h"
 #include "loaders/Tec2Log.h"
 
 namespace tarnview {
 namespace {
-
-constexpr const char* kHeading = "Tec-2\nSECONDS  RPM\n";
-const std::string kLine =
-    "   12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   "
-    "0.52 ";
 
 TEST(Tec2Log, AWholeLog) {
   ExpectTold(LoadedLog(LoadTec2Log, R"(Any first line
@@ -27,21 +22,13 @@ Sample   RPM   MAP  Inj W  Inj %   TPS  Knock  IAdv  Volt  C Temp  A Temp    A/F
 )");
 }
 
-TEST(Tec2Log, ThePointIsAskedForOnlyOnceAndMayStandInTheFirstLine) {
-  std::string noPoint = kLine;
-  noPoint[5] = ' ';
-  const LoadedLog loaded(LoadTec2Log, kLine + "\nSECONDS\n" + kLine + "\n" + noPoint);
-  EXPECT_EQ(loaded.Cells(kSecs), "123400 123400 120000");
-  EXPECT_EQ(loaded.Cells(kSample), "1 2 3");
-}
-
-TEST(Tec2Log, TheSettingsCount) {
-  Settings settings;
-  settings.gintDefaultAtmosphericPressure = 102;
-  settings.gintPlotFromTemperature = 89;
-  const LoadedLog loaded(LoadTec2Log, Repeated(kHeading, kLine, 3), settings);
-  EXPECT_EQ(loaded.Cells(kVacuum), "2 2 2");
-  EXPECT_EQ(loaded.log.glngFirstPlotSample, -1);
+TEST(Tec2Log, ThePointIsAskedForOnceAndMayStandInTheFirstLineAndSettingsCount) {
+  const auto tell = [](const TableRow& row) { return TellOfLog(LoadTec2Log, row.Words()); };
+  ExpectTable(tell, R"(
+   12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52 , SECONDS,    12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52 ,    12 34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52 , ?Sample, ?Secs -> samples, plots from 0, air from 25, Sample 1 2 3, Secs 123400 123400 120000
+Tec-2, SECONDS  RPM, 3*   12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52 , 102 kPa, plot from 89, ?Vacuum -> samples, air from 25, Vacuum 2 2 2
+Tec-2, SECONDS  RPM, 3*   12.34  3250 28 101.3  88 1.02  25 18.5 -0.01 14.70  0.45   0.00 13.82  12.4  45.2  8.15   0.52 , 102 kPa, plot from 88, ?Vacuum -> samples, plots from 0, air from 25, Vacuum 2 2 2
+)");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "LoadedLog.h"
+#include "LogInWords.h"
 #include "loaders/Tec3Log.h"
 
 namespace tarnview {
@@ -33,11 +33,10 @@ AD1  AD2  AD3  AD4  GPO2  GFG  SIA  KNR    Secs  Fuel% M
 }
 
 TEST(Tec3Log, TheFirstSampleIsNeverCured) {
-  const std::string line = "   000.00 " + std::string(146, ' ');
-  Settings settings;
-  settings.gdblDataLogLineFrequency = 10;
-  const LoadedLog loaded(LoadTec3Log, Repeated("\nSECONDS\n", line, 4), settings);
-  EXPECT_EQ(loaded.Cells(kSecs), "0 1000 2000 3000");
+  const auto tell = [](const TableRow& row) { return TellOfLog(LoadTec3Log, row.Words()); };
+  ExpectTable(tell,
+              ", SECONDS, 4*   000.00 ~156, 10 Hz, ?Secs -> samples, plots from 0, air from 0, "
+              "Secs 0 1000 2000 3000");
 }
 
 }  // namespace

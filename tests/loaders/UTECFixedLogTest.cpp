@@ -1,4 +1,4 @@
-#include "LoadedLog.h"
+#include "LogInWords.h"
 #include "loaders/UTECFixedLog.h"
 
 namespace tarnview {
@@ -83,41 +83,24 @@ Sample   RPM   MAP   TPS  Knock    A/F  Boost    CR  Secs  IAdv M  Fuel% M  MLP
 )");
 }
 
-const std::string kHeading =
-    " RPM   MAP  MAF TPS Site Count  AFR  Ign#1  Inj#1  Ign   Fuel Boost  MAF";
-const std::string kLine =
-    " 3250  -8.5  38  45   7     3   12.5  22.5   68.2   ECU  -2.5   45.5  41";
-
-TEST(UTECFixedLog, TheWideBandSensorStandsBehindTheLine) {
-  std::string line = kLine;
-  line.replace(32, 4, "W/B ");
-  const std::string at73 = line + std::string(74 - line.size(), ' ');
-  const LoadedLog loaded(LoadUTECFixedLog, kHeading + "   AFR\n\n" + line + "  13.25\n" + line +
-                                               "  9.5\n" + line + "    \n");
-  EXPECT_EQ(loaded.Cells(kAF), "13250 9500 0");
-  const LoadedLog shorter(LoadUTECFixedLog,
-                          kHeading + "\n\n" + kLine + "\n" + at73 + "\n" + at73 + "\n");
-  EXPECT_EQ(shorter.Cells(kAF), "12500 12500 12500");
-}
-
-TEST(UTECFixedLog, WithoutItsTextAHeadingIsKnownByItsLength) {
-  // The first line is then the units line, and the heading's own line a sample.
-  const LoadedLog loaded(LoadUTECFixedLog, R"(units
- RPM TPS  MAP  MLP  MOD  AFR  KNOC
-3250  45   8.5  12   ECU 12.5     3
-3251  45   8.5  12   ECU 12.5     3
+TEST(UTECFixedLog, PlacesAndLengths) {
+  const auto tell = [](const TableRow& row) {
+    return TellOfLog(
+        LoadUTECFixedLog, row.Words(),
+        {{"HEAD", " RPM   MAP  MAF TPS Site Count  AFR  Ign#1  Inj#1  Ign   Fuel Boost  MAF"},
+         {"LINE", " 3250  -8.5  38  45   7     3   12.5  22.5   68.2   ECU  -2.5   45.5  41"}});
+  };
+  ExpectTable(tell, R"(
+# The wide-band sensor stands behind the line, where the heading has a column for it.
+ RPM   MAP  MAF TPS Site Count  AFR  Ign#1  Inj#1  Ign   Fuel Boost  MAF   AFR, ,  3250  -8.5  38  45   7     3   W/B   22.5   68.2   ECU  -2.5   45.5  41  13.25,  3250  -8.5  38  45   7     3   W/B   22.5   68.2   ECU  -2.5   45.5  41  9.5,  3250  -8.5  38  45   7     3   W/B   22.5   68.2   ECU  -2.5   45.5  41 ~76, ?A/F -> samples, plots from 0, A/F 13250 9500 0
+HEAD, , LINE, 2* 3250  -8.5  38  45   7     3   W/B   22.5   68.2   ECU  -2.5   45.5  41 ~74, ?A/F -> samples, plots from 0, A/F 12500 12500 12500
+# Without its text a heading is known by its length: the first line is then the units, the heading itself a sample.
+units,  RPM TPS  MAP  MLP  MOD  AFR  KNOC, 3250  45   8.5  12   ECU 12.5     3, 3251  45   8.5  12   ECU 12.5     3, ?RPM -> samples, plots from 0, RPM 0 3250 3251
+# Where a line is as long as the headings of two layouts, the later one counts, whose lines are two longer.
+HEAD~71, 3*LINE, ?MLP -> samples, plots from 0, MLP 3 3 3
+# Lines may differ from the heading by two characters.
+HEAD, units, LINE~69, LINE~70, LINE, LINE~74, LINE~75, ?Sample -> samples, plots from 0, Sample 1 2 3
 )");
-  EXPECT_EQ(loaded.Cells(kRPM), "0 3250 3251");
-  // Where a line is as long as the headings of two layouts, the later one counts.
-  const LoadedLog shorter(LoadUTECFixedLog, Repeated(kHeading.substr(0, 71) + "\n", kLine, 3));
-  EXPECT_EQ(shorter.Cells(kMLP), "3 3 3");  // of layout 4, whose lines are two longer
-}
-
-TEST(UTECFixedLog, LinesMayDifferFromTheHeadingByTwoCharacters) {
-  std::string text = kHeading + "\nunits\n";
-  for (const int length : {69, 70, 72, 74, 75})
-    text += (kLine + "    ").substr(0, static_cast<std::size_t>(length)) + "\n";
-  EXPECT_EQ(LoadedLog(LoadUTECFixedLog, text).log.glngDataLog.Rows(), 3);
 }
 
 }  // namespace

@@ -27,6 +27,7 @@ class TableRow {
   const std::string& All() const { return all_; }  ///< where it is one text
   /// A text of lines, which stand apart by "; ".
   std::string Lines() const { return Join(SplitAt(all_, "; "), "\n"); }
+  const std::vector<std::string>& Words() const { return words_; }
   std::size_t Count() const { return words_.size(); }
   const std::string& Text(std::size_t n) const { return words_.at(n); }
   int Int(std::size_t n) const { return StringToLong(words_.at(n)); }
