@@ -1,44 +1,47 @@
-#include <gtest/gtest.h>
-
 #include "customise/OfferDefinitionPresets.h"
-#include "ui/RecordingHost.h"
+#include "support/DeskTest.h"
+#include "support/Table.h"
 
 namespace tarnview {
 namespace {
 
-TEST(OfferDefinitionPresets, JoinsThemAsTheUserSays) {
-  RecordingHost host;
-  Messages messages{host, {}};
-  clsDataLog definition;
+using OfferDefinitionPresetsTest = DeskTest;
+
+/// What the user answers, and how many sample and scatter presets there are then.
+TEST_F(OfferDefinitionPresetsTest, JoinsThemAsTheUserSays) {
   clsSampleGraphPreset own, other;
   own.lngLogFamily = kUniversalLogFamily;
   other.lngLogFamily = 1;
-  definition.objPresetSampleGraphs.AddDirect(own);
-  const struct {
-    Answer::Kind answer;
-    int samples, scatters;
-  } kRows[] = {{Answer::Kind::Yes, 2, 1}, {Answer::Kind::No, 3, 1}, {Answer::Kind::Cancel, 2, 1}};
-  for (const auto& row : kRows) {
-    clsSampleGraphPresets samples;
-    samples.AddDirect(own);
-    samples.AddDirect(other);
-    clsScatterGraphPresets scatters;  // a kind that the definition lacks stays
-    scatters.AddDirect({}).lngLogFamily = kUniversalLogFamily;
-    host.answers.push_back({row.answer, {}, 0, 0});
-    OfferDefinitionPresets(definition, samples, scatters, messages);
-    EXPECT_EQ(samples.Count(), row.samples);
-    EXPECT_EQ(scatters.Count(), row.scatters);
-  }
-  EXPECT_EQ(host.messages[0].style, 291);
-  host.messages.clear();
-  clsSampleGraphPresets samples;
-  clsScatterGraphPresets scatters;
-  OfferDefinitionPresets({}, samples, scatters, messages);
-  EXPECT_TRUE(host.messages.empty());
-  definition.objPresetScatterGraphs.AddDirect({});
-  OfferDefinitionPresets(definition, samples, scatters, messages);
-  EXPECT_EQ(samples.Count() + scatters.Count(), 2)
-      << "without an answer, those that are there stay";
+  const std::map<std::string, Answer> answers = {
+      {"yes", {Answer::Kind::Yes}}, {"no", {Answer::Kind::No}}, {"cancel", {Answer::Kind::Cancel}}};
+  ExpectTable(
+      [&](const TableRow& row) {
+        clsDataLog definition;
+        if (row.Yes(1)) definition.objPresetSampleGraphs.AddDirect(own);
+        if (row.Yes(2)) definition.objPresetScatterGraphs.AddDirect({});
+        clsSampleGraphPresets samples;
+        samples.AddDirect(own);
+        samples.AddDirect(other);
+        clsScatterGraphPresets scatters;
+        scatters.AddDirect({}).lngLogFamily = kUniversalLogFamily;
+        host.messages.clear();
+        host.answers.clear();
+        if (answers.contains(row.Text(0))) host.answers.push_back(answers.at(row.Text(0)));
+        OfferDefinitionPresets(definition, samples, scatters, messages);
+        return std::to_string(samples.Count()) + " " + std::to_string(scatters.Count()) +
+               (host.messages.empty() ? "" : ", style " + std::to_string(host.messages[0].style));
+      },
+      R"(
+# The answer; whether the definition has samples, and scatters. A kind that it lacks stays.
+yes, yes, no -> 2 1, style 291
+no, yes, no -> 3 1, style 291
+cancel, yes, no -> 2 1, style 291
+yes, no, no -> 2 1
+# Without an answer, those that are there stay.
+nothing, no, yes -> 2 2, style 291
+yes, no, yes -> 2 1, style 291
+yes, yes, yes -> 2 1, style 291
+)");
 }
 
 }  // namespace

@@ -2,8 +2,7 @@
 
 #include "customise/frmMaint.h"
 #include "presets/clsSampleGraphPreset.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
+#include "support/DeskTest.h"
 #include "support/WholeWindow.h"
 
 namespace tarnview {
@@ -19,7 +18,7 @@ struct Things : Records<Thing> {
   Things Duplicate() const { return *this; }
 };
 
-class MaintTest : public ::testing::Test {
+class MaintTest : public DeskTest {
  protected:
   void Add(const std::string& name, int family) {
     clsSampleGraphPreset preset;
@@ -47,9 +46,6 @@ class MaintTest : public ::testing::Test {
     window->Show();
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  Messages messages{host, [](int) { return ""; }};
   FileKinds kinds = SetUpLogFamilies();
   clsSampleGraphPresets kept;
   bool ok = true;             ///< how the detail window is closed
@@ -61,7 +57,6 @@ class MaintTest : public ::testing::Test {
       };
   std::optional<MaintainedCollection<clsSampleGraphPresets>> copy;
   std::optional<frmMaint> window;
-  Story story{host};
 };
 
 TEST_F(MaintTest, KeepsTheOrderOfAFamilyAmongOthers) {

@@ -1,17 +1,14 @@
 #include "customise/frmOptions.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
+#include "support/DeskTest.h"
 #include "support/OptionsActions.h"
-#include "support/Story.h"
 #include "support/WholeWindow.h"
-#include "support/WindowActions.h"
 #include "universal/DefaultDataLogDefinition.h"
 #include "universal/UniversalDataItems.h"
 
 namespace tarnview {
 namespace {
 
-class Options : public ::testing::Test {
+class Options : public DeskTest {
  protected:
   Options() {
     AddFilesOfOptions(files);
@@ -51,13 +48,7 @@ class Options : public ::testing::Test {
            NumberText(item.dblSampleDisplayFactor) + (item.blnDisplay ? "" : " hidden");
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return ""; }};
   std::unique_ptr<frmOptions> window;
-  Story story{host};
 };
 
 TEST_F(Options, ShowEverySettingThatNamesThemAndGiveItBack) {

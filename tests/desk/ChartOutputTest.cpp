@@ -1,14 +1,12 @@
 #include "desk/ChartCommands.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
+#include "support/DeskTest.h"
 #include "ui/ControlArray.h"
 
 namespace tarnview {
 namespace {
 
 /// A window that gives its chart away by each of its menu entries.
-class ChartOutputTest : public ::testing::Test {
+class ChartOutputTest : public DeskTest {
  protected:
   struct Window : Form {
     explicit Window(Host& itsHost) : Form(itsHost, "frmAny", "Any") {}
@@ -48,16 +46,10 @@ class ChartOutputTest : public ::testing::Test {
       return at == text.npos ? "" : text.substr(at);
     });
   }
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, "/car/error.log"};
-  Messages messages{host, [](int) { return ""; }};
   ChartOutput output{host, messages, errors};
   Window window{host};
   Commands commands{errors, "frmAny"};
   bool drawn = false;
-  Story story{host};
 
  private:
   std::size_t pages_ = 0, logged_ = 0;

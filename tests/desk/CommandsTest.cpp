@@ -1,18 +1,13 @@
 #include "desk/Commands.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
+#include "support/DeskTest.h"
 #include "support/Table.h"
-#include "ui/Form.h"
-#include "ui/RecordingHost.h"
 
 namespace tarnview {
 namespace {
 
-TEST(Commands, RunWhereTheyAreThereAndMay) {
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, "/error.log"};
+using CommandsTest = DeskTest;
+
+TEST_F(CommandsTest, RunWhereTheyAreThereAndMay) {
   Form form{host, "frmAny", ""};
   CommandButton always{form, "cmdAlways", ""}, none{form, "cmdNone", ""};
   MenuItem asked{form, "mnuAsked", ""}, unbound{form, "mnuUnbound", ""};
@@ -37,7 +32,7 @@ TEST(Commands, RunWhereTheyAreThereAndMay) {
   ExpectTable(told, R"(
 yes -> 1011 always own  | no -> 1001 always own  | yes -> 1011 always own 
 )");
-  EXPECT_NE(files.files["/error.log"].find("mnuAsked_Click"), std::string::npos);
+  EXPECT_NE(files.files["/car/error.log"].find("mnuAsked_Click"), std::string::npos);
 }
 
 }  // namespace

@@ -1,19 +1,15 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
 #include "samplegraph/PresetExchange.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
+#include "support/DeskTest.h"
 
 namespace tarnview {
 
 /// All that the windows of presets ask of a program.
-class PresetWindowsTest : public ::testing::Test {
+class PresetWindowsTest : public DeskTest {
  protected:
   PresetSurroundings Surroundings() {
     return {kinds.gcolLogFamilies, catalogue, folder, files, clock, errors, messages};
@@ -27,15 +23,9 @@ class PresetWindowsTest : public ::testing::Test {
     return ids;
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return ""; }};
   FileKinds kinds = SetUpLogFamilies();
   Catalogue catalogue = BuildDataItemCatalogue();
   std::string folder = "/logs";
-  Story story{host};
 };
 
 }  // namespace tarnview

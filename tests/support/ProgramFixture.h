@@ -1,18 +1,13 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 
 #include "app/Program.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
+#include "support/DeskTest.h"
 #include "support/RecordingProcesses.h"
 #include "support/SmallLog.h"
-#include "support/Story.h"
 #include "support/WindowActions.h"
-#include "ui/RecordingHost.h"
 
 namespace tarnview {
 
@@ -20,7 +15,7 @@ using Ids = std::vector<int>;
 
 /// The whole program on a disk in memory, before a desktop that records. Its story passes over what
 /// a command may do (a table in MenusTest), lists and the main chart: "show" tells of them.
-class ProgramFixture : public ::testing::Test {
+class ProgramFixture : public DeskTest {
  protected:
   ProgramFixture() {
     for (const char* part : {" enabled", "lvw", "chSampleGraph", "hsb", "ZoneInfl", "mnu",
@@ -104,12 +99,8 @@ class ProgramFixture : public ::testing::Test {
            std::to_string(Main().Selected().lngHighlightSample());
   }
 
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
   RecordingProcesses processes;
   std::unique_ptr<Program> program;
-  Story story{host};
 
  private:
   using Words = Story::Words;
