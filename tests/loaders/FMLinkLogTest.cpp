@@ -72,7 +72,7 @@ std::map<std::string, std::string> Pieces() {
   changed[0] = " 9 *";
   changed[1] = " -1 8";
   for (std::size_t row = 2; row < changed.size(); ++row)
-    changed[row] = "   * 123" + Repeated("", "   *", 14, "");
+    changed[row] = "   * 123" + Repeated("", "   *", 13, "") + "    ";
   const auto section = [](const Lines& lines) { return JoinLines(ZoneSectionLines(lines), "\n"); };
   const auto first = [&](long count) { return section({rows.begin(), rows.begin() + count}); };
   return {{"sample", Placed(57, {{1, "1"}, {9, "3000"}, {16, "100"}})},
@@ -130,7 +130,7 @@ Sample, 3*sample, map, zones, settings, no changes -> samples zones changes, 1.8
 Sample, 3*sample, map, zones, settings -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118 | Sample, 3*sample, map, zones, settings, changes,  ATM 1 -> samples zones, says 17, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
 Sample, 3*sample, map, zones to 239, settings, no changes -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 0, Boost 0 Fuel ZV 118 | Sample, 3*sample,  1.8b, map, zones to 31 -> samples, plots from 0, says 16, 1.8 v3  0 kPa, zones 31 -1 -1 -1, Boost 145 Fuel ZV -1
 Sample, 3*sample, map, zones, settings, no changes, CRLF -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118 | Sample, 3*sample, map, zones, settings, no changes, CRLF, no end, no end -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118
-Sample, 3*sample, map, zones, settings, changes, on the way, changed zones -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118, 0 to 9, 17 to 8, 33 to 123, 49 to 123, 65 to 123, 81 to 123, 97 to 123, 113 to 123, 129 to 123, 145 to 123, 161 to 123, 177 to 123, 193 to 123, 209 to 123, 225 to 123
+Sample, 3*sample, map, zones, settings, changes, on the way, changed zones -> samples zones changes, 1.8 v2 2001-09-18 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 118, 0 to 9, 17 to 8, 33 to 123, 47 to 0, 49 to 123, 63 to 0, 65 to 123, 79 to 0, 81 to 123, 95 to 0, 97 to 123, 111 to 0, 113 to 123, 127 to 0, 129 to 123, 143 to 0, 145 to 123, 159 to 0, 161 to 123, 175 to 0, 177 to 123, 191 to 0, 193 to 123, 207 to 0, 209 to 123, 223 to 0, 225 to 123, 239 to 0
 Sample, 3*sample, map, zones to 239, no changes -> samples zones changes, says 7 8 9, 1.6 v2 2000-01-01 75 kPa, zones 31 32 39 0, Boost 36 Fuel ZV 118
 # The line of settings; of two, the last one counts.
 Sample, 3*sample, map, zones, settings,  ATM =  98  1.8 18-Sep-01    , no changes -> samples zones changes, 1.8 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
@@ -140,6 +140,10 @@ Sample, 3*sample, map, zones, settings,  ATM =  98  1.6  18-Sep-01, no changes -
 Sample, 3*sample, map, zones, settings,  ATM =  98            MK-2X18-Sep-01, no changes -> samples zones changes, 1.6 v2 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
 Sample, 3*sample, map, zones, settings,  ATM =  98            OBD218Sep2001 , no changes -> samples zones changes, 1.8 v3 2001-09-18 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
 Sample, 3*sample, map, zones, settings,  ATM =   0            1.6 01-Jan-00 , no changes -> samples zones changes, says 9, 1.6 v1 2000-01-01 75 kPa, zones 31 32 39 55, Boost 36 Fuel ZV 118
+Sample, 3*sample, map, zones,  ATM =  98            OBD2 ~30, no changes -> samples zones changes, says 8, 1.8 v3 2000-01-01 98 kPa, zones 31 32 39 55, Boost 3 Fuel ZV 118
+# From 1 March 2001 on a chip's knock threshold rises with the revolutions.
+Sample, 3*1       7900 ~57, map, zones,  ATM = 101            1.8 28-Feb-01 , no changes, ?Knock T -> samples zones changes, Knock T 13 13 13, 1.8 v2 2001-02-28 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 47
+Sample, 3*1       7900 ~57, map, zones,  ATM = 101            1.8 01-Mar-01 , no changes, ?Knock T -> samples zones changes, Knock T 32 32 32, 1.8 v2 2001-03-01 101 kPa, zones 31 32 39 55, Boost 0 Fuel ZV 47
 # Zones that are not known whole, or without their chip, use the defaults, and say so unless told not to.
 Sample, 99 kPa, silent, 3*sample, map, zones, no changes -> samples zones changes, 1.6 v2 2000-01-01 99 kPa, zones 31 32 39 55, Boost 1 Fuel ZV 118
 # It plots from the first sample as warm as that, by summaries alone; a tag that is open ends with the log.
