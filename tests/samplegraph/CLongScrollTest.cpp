@@ -30,22 +30,13 @@ TEST(CLongScroll, TheBarShowsTheValueInProportionAndMovesItByItsSteps) {
   };
   ExpectTable(told, R"(
 # Half a step goes to the even one; at an end only where the value is.
-0, 1000000, 500000 -> at 16384, value 500000, 1 changes
-0, 1000000, 999999 -> at 32766, value 999999, 1 changes
-0, 1000000, 1 -> at 1, value 1, 1 changes
-0, 1000000, 2000000 -> at 32767, value 1000000, 1 changes
-0, 1000000, -5 -> at 0, value 0, 1 changes
+0, 1000000, 500000 -> at 16384, value 500000, 1 changes | 0, 1000000, 999999 -> at 32766, value 999999, 1 changes | 0, 1000000, 1 -> at 1, value 1, 1 changes
+0, 1000000, 2000000 -> at 32767, value 1000000, 1 changes | 0, 1000000, -5 -> at 0, value 0, 1 changes
 # A step of the bar is a step of the range, a dragged thumb counts in proportion.
-0, 1000000, 100000, 1 -> at 3277, value 100007, 2 changes
-0, 1000000, 100000, -1 -> at 3277, value 99993, 2 changes
-0, 1000000, 100000, -10 -> at 3277, value 95000, 2 changes
-0, 1000000, 100000, 10 -> at 3277, value 105000, 2 changes
-0, 1000000, 0, 3277 -> at 0, value 100009, 2 changes
-0, 1000000, 3, -1 -> at 1, value 0, 2 changes
+0, 1000000, 100000, 1 -> at 3277, value 100007, 2 changes | 0, 1000000, 100000, -1 -> at 3277, value 99993, 2 changes | 0, 1000000, 100000, -10 -> at 3277, value 95000, 2 changes
+0, 1000000, 100000, 10 -> at 3277, value 105000, 2 changes | 0, 1000000, 0, 3277 -> at 0, value 100009, 2 changes | 0, 1000000, 3, -1 -> at 1, value 0, 2 changes
 # A reversed bar runs the other way.
-1000, 0, 0 -> at 32767, value 0, 1 changes
-1000, 0, 0, -1 -> at 32767, value 7, 2 changes
-1000, 0, 1000, 1 -> at 0, value 993, 2 changes
+1000, 0, 0 -> at 32767, value 0, 1 changes | 1000, 0, 0, -1 -> at 32767, value 7, 2 changes | 1000, 0, 1000, 1 -> at 0, value 993, 2 changes
 )");
 }
 

@@ -27,25 +27,12 @@ TEST_F(PlotRangeTest, IsCorrectedBeforeADraw) {
 TEST_F(PlotRangeTest, BoxesAndArrowsStayInTheLogAndForgetTheSample) {
   OpenLog(2000);
   EXPECT_TRUE(redraw.TakeRangeEdited());
-  const auto told = [this](const TableRow& row) {
-    selection.Highlight(7);
-    Do(row.Text(0));
-    const bool edited = redraw.TakeRangeEdited();
-    return Range() + " sample " + std::to_string(selection.lngHighlightSample()) +
-           (edited ? " edited" : "") + (redraw.TakeRangeEdited() ? " twice" : "") +
-           (range.IsWholeLog() ? " whole" : "");
-  };
-  ExpectTable(told, R"(
-leave -> - sample 7
-type PlotRangeFrom 0; type PlotRangeTo 0; leave -> 1-2000 sample 0 edited whole
-type PlotRangeFrom 1; type PlotRangeTo 1; leave -> 1-1 sample 0 edited
-type PlotRangeFrom 2000; type PlotRangeTo 2000; leave -> 2000-2000 sample 0 edited
-type PlotRangeFrom 2001; type PlotRangeTo 2001; leave -> 1-2000 sample 0 edited whole
-step updPlotRangeTo down -> 1-1999 sample 7 edited
-step updPlotRangeFrom down -> 1-1999 sample 7
-step updPlotRangeTo up -> 1-2000 sample 7 edited whole
-step updPlotRangeTo up -> 1-2000 sample 7 whole
-step updPlotRangeFrom up -> 2-2000 sample 7 edited
+  verbs["at"] = [this] { selection.Highlight(7); };
+  ExpectFacts({"range", "sample", "edited", "edited", "whole"}, R"(
+at; leave -> - sample 7 | at; type PlotRangeFrom 0; type PlotRangeTo 0; leave -> 1-2000 sample 0 edited whole | at; type PlotRangeFrom 1; type PlotRangeTo 1; leave -> 1-1 sample 0 edited
+at; type PlotRangeFrom 2000; type PlotRangeTo 2000; leave -> 2000-2000 sample 0 edited | at; type PlotRangeFrom 2001; type PlotRangeTo 2001; leave -> 1-2000 sample 0 edited whole
+at; step updPlotRangeTo down -> 1-1999 sample 7 edited | at; step updPlotRangeFrom down -> 1-1999 sample 7 | at; step updPlotRangeTo up -> 1-2000 sample 7 edited whole
+at; step updPlotRangeTo up -> 1-2000 sample 7 whole | at; step updPlotRangeFrom up -> 2-2000 sample 7 edited
 )");
   range.Clear();
   EXPECT_EQ(Range(), "-");

@@ -16,12 +16,13 @@ class PresetGraphsTest : public WholeGraph, protected PresetGraphs::MainWindow {
     details.SetCheckedItems({3, 5});
     list.PopulatePresetGraphs(false, kFMLinkLog);
     verbs["update"] = [this] { list.UpdatePreset(); };
+    facts["presets"] = [this] { return Presets(); };
     verbs["add"] = [this] { list.AddPreset("Mine", kFMLinkLog); };
   }
   void DrawGraphChecked() override { graph.DrawGraphChecked(); }
-  std::string Told() {
-    std::string told = "ticked " + Ticked() + (chkFixY.Value() ? "fixed " : "") + txtYMax.Text() +
-                       ", " + std::to_string(lvwSampleDetails.Count()) + " rows";
+  std::string Presets() {
+    std::string told = TextIf(chkFixY.Value(), " fixed") + " " + txtYMax.Text() + ", " +
+                       std::to_string(lvwSampleDetails.Count()) + " rows";
     for (int n = 1; n <= presets.Count(); ++n) {
       const clsSampleGraphPreset& one = presets.Item(n);
       told += "; " + one.strName + " " + std::to_string(one.lngLogFamily) + ":";
@@ -41,18 +42,14 @@ class PresetGraphsTest : public WholeGraph, protected PresetGraphs::MainWindow {
 
 TEST_F(PresetGraphsTest, GiveAndTakeWhatIsTicked) {
   ASSERT_EQ(lvwPresets.Count(), 2);
-  const auto told = [this](const TableRow& row) {
-    Do(row.Text(0));
-    return Told();
-  };
-  ExpectTable(told, R"(
-update -> ticked 5 3 , 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
-row lvwPresets Knock -> ticked 20 3 fixed 120, 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
-click chkShowCheckedOnly -> ticked 20 3 fixed 120, 2 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
-row lvwPresets None -> ticked 10, 0 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
-row lvwPresets Knock; click chkShowCheckedOnly -> ticked 20 3 fixed 120, 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
-tick lvwSampleDetails MAP on; type txtYMax 7x5; click chkFixY; update -> ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10
-add -> ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10; Mine 1: 20 5 3 not 75
+  ExpectFacts({"ticked", "presets"}, R"(
+update ->  ticked 5 3 , 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+row lvwPresets Knock ->  ticked 20 3 fixed 120, 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+click chkShowCheckedOnly ->  ticked 20 3 fixed 120, 2 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+row lvwPresets None ->  ticked 10, 0 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+row lvwPresets Knock; click chkShowCheckedOnly ->  ticked 20 3 fixed 120, 53 rows; Knock 1: 20 3 to 120; Other 6: 1 not 10; None 1: not 10
+tick lvwSampleDetails MAP on; type txtYMax 7x5; click chkFixY; update ->  ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10
+add ->  ticked 20 5 3 7x5, 53 rows; Knock 1: 20 5 3 not 75; Other 6: 1 not 10; None 1: not 10; Mine 1: 20 5 3 not 75
 )");
   EXPECT_TRUE(chSampleGraph.Data().Series().empty());
   Do("double lvwPresets Knock");

@@ -1,5 +1,4 @@
 #include "WholeGraph.h"
-#include "base/Numbers.h"
 #include "support/Story.h"
 
 namespace tarnview {
@@ -23,22 +22,14 @@ TEST_F(SampleGraphTest, DrawsWhatIsTickedAsItsItemLooks) {
 
 TEST_F(SampleGraphTest, TheFixedMaximumStandsOnAStepWithinItsLimits) {
   OpenLog(50);
-  const auto told = [this](const TableRow& row) {
-    Do(row.Text(0));
-    return txtYMax.Text() + (txtYMax.Enabled() ? " open" : "") +
-           (updYMax.Enabled() ? " arrows" : "");
+  facts["maximum"] = [this] {
+    return txtYMax.Text() + TextIf(txtYMax.Enabled(), " open") +
+           TextIf(updYMax.Enabled(), " arrows");
   };
-  verbs["draw"] = [this] { graph.DrawGraphChecked(); };
-  ExpectTable(told, R"(
-click chkFixY -> 250 open arrows
-type txtYMax 90; step updYMax up -> 100 open arrows
-type txtYMax 15; step updYMax down -> 10 open arrows
-type txtYMax 2147483647; step updYMax up -> 1000 open arrows
-type txtYMax -2147483648; step updYMax down -> 10 open arrows
-type txtYMax 33; click chkQuickGraph -> 33 open arrows
-draw -> 35 open arrows
-type txtYMax 40; click chkFixY -> 40
-click chkFixY -> 40 open arrows
+  ExpectFacts({"maximum"}, R"(
+click chkFixY -> 250 open arrows | type txtYMax 90; step updYMax up -> 100 open arrows | type txtYMax 15; step updYMax down -> 10 open arrows
+type txtYMax 2147483647; step updYMax up -> 1000 open arrows | type txtYMax -2147483648; step updYMax down -> 10 open arrows | type txtYMax 33; click chkQuickGraph -> 33 open arrows
+draw -> 35 open arrows | type txtYMax 40; click chkFixY -> 40 | click chkFixY -> 40 open arrows
 )");
 }
 
@@ -46,26 +37,18 @@ TEST_F(SampleGraphTest, BuildsWhatHasChangedAlone) {
   OpenLog(50);
   int built = 0;
   chSampleGraph.Watch([&](What what) { built += what == What::Content; });
-  verbs["draw"] = [this] { graph.DrawGraphChecked(); };
-  const auto told = [&](const TableRow& row) {
-    built = 0;
-    Do(row.Text(0));
+  facts["curves"] = [&] {
     const auto& curves = chSampleGraph.Data().Series();
-    return std::to_string(built) + " built, " + std::to_string(curves.size()) + " curves, " +
-           std::to_string(curves[0].x.size()) + " points, up to " +
-           NumberText(chSampleGraph.Data().y.max) + Boxes();
+    return std::to_string(std::exchange(built, 0)) + " built, " + std::to_string(curves.size()) +
+           " curves, " + std::to_string(curves[0].x.size()) + " points, up to " +
+           NumberText(chSampleGraph.Data().y.max);
   };
-  ExpectTable(told, R"(
-draw -> 1 built, 2 curves, 50 points, up to 11
-draw -> 0 built, 2 curves, 50 points, up to 11
-click chkFixY; draw -> 1 built, 2 curves, 50 points, up to 240
-type PlotRangeTo 40; leave; draw -> 1 built, 2 curves, 40 points, up to 240
-type txtYMax 100; draw -> 1 built, 2 curves, 40 points, up to 100
-click chkQuickGraph; draw -> 1 built, 2 curves, 40 points, up to 100
-tick lvwSampleDetails RPM off; draw -> 1 built, 1 curves, 40 points, up to 100
+  ExpectFacts({"curves", "boxes"}, R"(
+draw -> 1 built, 2 curves, 50 points, up to 11 | draw -> 0 built, 2 curves, 50 points, up to 11 | click chkFixY; draw -> 1 built, 2 curves, 50 points, up to 240
+type PlotRangeTo 40; leave; draw -> 1 built, 2 curves, 40 points, up to 240 | type txtYMax 100; draw -> 1 built, 2 curves, 40 points, up to 100
+click chkQuickGraph; draw -> 1 built, 2 curves, 40 points, up to 100 | tick lvwSampleDetails RPM off; draw -> 1 built, 1 curves, 40 points, up to 100
 # With nothing ticked it says so and keeps the graph; what cannot be plotted is not ticked.
-tick lvwSampleDetails Knock off; draw -> 0 built, 1 curves, 40 points, up to 100 [10]
-tick lvwSampleDetails Sample on; draw -> 0 built, 1 curves, 40 points, up to 100 [10]
+tick lvwSampleDetails Knock off; draw -> 0 built, 1 curves, 40 points, up to 100 [10] | tick lvwSampleDetails Sample on; draw -> 0 built, 1 curves, 40 points, up to 100 [10]
 tick lvwSampleDetails MAP on; draw -> 1 built, 1 curves, 40 points, up to 100
 )");
 }
@@ -75,8 +58,7 @@ TEST_F(SampleGraphTest, HiddenRowsKeepTheirChecks) {
   OpenLog(50);
   verbs["knock"] = [this] { details.SelectItem(20); };
   verbs["map"] = [this] { details.SelectItem(5); };
-  const auto told = [this](const TableRow& row) {
-    Do(row.Text(0));
+  facts["rows"] = [this] {
     std::string checked;
     for (const int item : details.CheckedItems()) checked += " " + std::to_string(item);
     return std::to_string(lvwSampleDetails.Count()) + " rows, ticked" + checked + ", at " +
@@ -84,14 +66,10 @@ TEST_F(SampleGraphTest, HiddenRowsKeepTheirChecks) {
   };
   EXPECT_EQ(lvwSampleDetails.RowOfTag("36"), 0);
   details.SetCheckedItems({0, 1, 3, 20, 9999});
-  EXPECT_EQ(Ticked(), "20 3 ") << "those that can be plotted";
-  ExpectTable(told, R"(
-click chkShowCheckedOnly -> 2 rows, ticked 3 20, at 1
-knock -> 2 rows, ticked 3 20, at 1
-map -> 2 rows, ticked 3 20, at 1
-tick lvwSampleDetails RPM off -> 2 rows, ticked 20, at 1
-click chkShowCheckedOnly -> 52 rows, ticked 20, at 1
-map -> 52 rows, ticked 20, at 35
+  EXPECT_EQ(Ticked(), " 20 3") << "those that can be plotted";
+  ExpectFacts({"rows"}, R"(
+click chkShowCheckedOnly -> 2 rows, ticked 3 20, at 1 | knock -> 2 rows, ticked 3 20, at 1 | map -> 2 rows, ticked 3 20, at 1 | tick lvwSampleDetails RPM off -> 2 rows, ticked 20, at 1
+click chkShowCheckedOnly -> 52 rows, ticked 20, at 1 | map -> 52 rows, ticked 20, at 35
 )");
   details.SetUpSampleGraphSampleListView(9999, catalogue.gcolFixedDataItems);
   EXPECT_EQ(lvwSampleDetails.Count(), 52) << "a file of no family changes nothing";

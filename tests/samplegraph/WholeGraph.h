@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "base/Numbers.h"
 #include "model/Catalogue.h"
 #include "model/Column.h"
 #include "model/clsFileTypes.h"
@@ -60,19 +61,29 @@ class WholeGraph : public ::testing::Test,
     PlotRangeTo.Text = to;
     graph.DrawGraphChecked();
   }
-  /// What a user does, "type txtYMax 7; click chkFixY", and verbs for what buttons call.
+  /// What a user does, "type txtYMax 7; click chkFixY", and verbs for what buttons call. "@1101" is
+  /// the time of that sample.
   void Do(const std::string& steps) {
-    for (const ScriptLine& line : ParseScript(Join(Split(steps, ';'), "\n")))
+    for (ScriptLine& line : ParseScript(Join(Split(steps, ';'), "\n"))) {
+      for (std::string& word : line.words)
+        if (word[0] == '@') word = FixedText(std::stod(word.substr(1)) * 0.08192, 6);
       if (const auto own = verbs.find(line.words[0]); own != verbs.end())
         own->second();
       else if (!user.Do(line.words))
         user.Work(line.words);
+    }
   }
-  /// A row: a range to draw and what is done then; the range and the boxes that come of it.
-  std::string Moved(const TableRow& row) {
-    Draw(row.Text(0), row.Text(1));
-    if (row.Count() > 2) Do(row.Text(2));
-    return Range() + Boxes();
+  /// Rows of a range to draw, of what is done then, or of both; some facts of what comes of it.
+  void ExpectFacts(const std::vector<std::string>& told, const std::string& table,
+                   int line = __builtin_LINE(), const char* source = __builtin_FILE()) {
+    const auto tell = [&](const TableRow& row) {
+      if (row.Count() > 1) Draw(row.Text(0), row.Text(1));
+      if (row.Count() != 2) Do(row.Words().back());
+      std::string all;
+      for (const std::string& fact : told) all += facts.at(fact)();
+      return all;
+    };
+    ExpectTable(tell, table, source, line);
   }
   std::string Range() const { return range.FromText() + "-" + range.ToText(); }
   /// The ids of the boxes since the last call, " [1]" each.
@@ -85,11 +96,11 @@ class WholeGraph : public ::testing::Test,
   std::string Shown(const char* item) const {
     return lvwSampleDetails.At(lvwSampleDetails.RowOfTag(item)).texts[1];
   }
-  /// The data items ticked in the list, "3 20 ".
+  /// The data items ticked in the list, " 3 20".
   std::string Ticked() const {
     std::string items;
     for (const auto& row : lvwSampleDetails.Rows())
-      if (row.checked) items += row.tag + " ";
+      if (row.checked) items += " " + row.tag;
     return items;
   }
 
@@ -149,6 +160,7 @@ class WholeGraph : public ::testing::Test,
   Scrolling scrolling{{bar, longBar}, plotted, *this};
 
   std::map<std::string, std::function<void()>> verbs = {
+      {"draw", [this] { graph.DrawGraphChecked(); }},
       {"in", [this] { zoom.cmdZoomIn_Click(); }},
       {"out", [this] { zoom.cmdZoomOut_Click(); }},
       {"back", [this] { zoom.ShowPreviousGraph(); }},
@@ -164,6 +176,24 @@ class WholeGraph : public ::testing::Test,
       {"higher", [this] { highlight.MoveBetweenSeries(1); }},
       {"no_point", [this] { selection.ForgetPoint(); }},
       {"leave", [this] { window.SetFocus(nullptr); }},
+  };
+  std::map<std::string, std::function<std::string()>> facts = {
+      {"range", [this] { return Range(); }},
+      {"boxes", [this] { return Boxes(); }},
+      {"sample", [this] { return " sample " + std::to_string(selection.lngHighlightSample()); }},
+      {"foot", [this] { return foot.Panel(1); }},
+      {"whole", [this] { return TextIf(range.IsWholeLog(), " whole"); }},
+      {"edited", [this] { return TextIf(redraw.TakeRangeEdited(), " edited"); }},
+      {"ways",
+       [this] {
+         return TextIf(scrolling.CanGoLeft(), " left") + TextIf(scrolling.CanGoRight(), " right");
+       }},
+      {"zooms",
+       [this] {
+         return TextIf(zoom.CanZoomIn(), "in") + TextIf(zoom.CanZoomOut(), " out") +
+                TextIf(zoom.HasPrevious(), " back");
+       }},
+      {"ticked", [this] { return " ticked" + Ticked(); }},
   };
 };
 

@@ -13,10 +13,11 @@ click cmdOK -> -frmPresetSampleDetails
 # The name is proposed, and then the file used last.
 answer no; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? no], [save "Save As" of Preset Sample Graph files (*.sam) ok], disk=write /logs/Boost.sam
 answer yes; answer file /p/b.sam; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" of Preset Sample Graph files (*.sam) /p/b.sam], disk=write /logs/Boost.sam, write /p/b.sam
-write txtName a/b; answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" of Preset Sample Graph files (*.sam) ok], disk=write /logs/Boost.sam, write /p/b.sam, write /p/b.sam, txtName=a/b
+answer no; answer file /p/c; click cmdSave -> [Do you want to include the Log Family in the preset graph file? no], [save "Save As" of Preset Sample Graph files (*.sam) /p/c], disk=write /logs/Boost.sam, write /p/b.sam, write /p/c
+write txtName a/b; answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" of Preset Sample Graph files (*.sam) ok], disk=write /logs/Boost.sam, write /p/b.sam, write /p/c, write /p/c, txtName=a/b
 
 == SavesAndProposesTheSameFileAgain 2
-answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" of Preset Sample Graph files (*.sam) ok], [19 ok], disk=write /logs/Boost.sam, write /p/b.sam, write /p/b.sam, write /p/b.sam
+answer yes; answer ok; click cmdSave -> [Do you want to include the Log Family in the preset graph file? yes], [save "Save As" of Preset Sample Graph files (*.sam) ok], [19 ok], disk=write /logs/Boost.sam, write /p/b.sam, write /p/c, write /p/c, write /p/c
 
 == LoadsExactlyTheItemsOfAFile
 answer file /p/a.sam; click cmdLoad -> [open "Load" of Preset Sample Graph files (*.sam) /p/a.sam], [92 ok], ticked=21 20, disk=read /p/a.sam, txtName=Knock, chkFixY checked, txtYMax on, txtYMax=120
