@@ -26,7 +26,7 @@ class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::Ma
       window->AddFilter({bound(2), bound(1), std::stoi(words[0])});
     });
     story.Verb("axes", [this](const auto& words) {
-      window->ChooseAxes(std::stoi(words[0]), std::stoi(words[1]));
+      if (!window->ChooseAxes(std::stoi(words[0]), std::stoi(words[1]))) told += "refused ";
     });
     story.Verb("drawQuietly", [this](const auto&) { window->DrawScatter(true); });
     story.Verb("takesOffers", [this](const auto& words) { host.takesOffers = words[0] == "yes"; });

@@ -10,7 +10,7 @@ axes 3 5; filter 5 100 -; filter 1 15 35 -> cboYAxis=Manifold Air Pressure, lvwF
 click cmdDrawGraph -> points=0 4 12607488, cmdShowPoint on, chScatterGraph filters count=2, chScatterGraph filters[0]=MAP [Manifold Air Pressure] from 100, chScatterGraph filters[1]=Sample [Sample No.] from 15 to 35, chScatterGraph x_item=3, chScatterGraph y_item=5, chScatterGraph points count=2, chScatterGraph points[0]=[1020|120|20], chScatterGraph points[1]=[1030|120|30], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=2 points, prgProgInd value=20
 show mnuFilePrint mnuFilePrintPreview mnuFileSavePicture mnuFileExport mnuEditCopy mnuRightClickCopy mnuRightClickPrint -> mnuFilePrint=&Print..., mnuFilePrintPreview=Print Pre&view..., mnuFileSavePicture=Save Pict&ure As..., mnuFileExport=&Export..., mnuEditCopy=&Copy Graph, mnuRightClickCopy=&Copy Graph, mnuRightClickPrint=&Print...
 # An item that is not offered.
-axes 1 47
+axes 1 47; axes 47 1 -> main window=refused refused 
 answer cancel; click mnuFilePrint -> [printer "" cancel]
 answer printer; click mnuRightClickPrint; click mnuEditCopy -> [printer "" ok], pages=1, copied=1
 
@@ -48,7 +48,7 @@ click cmdShowPoint
 click mnuViewSampleDetails; show mnuViewSampleDetails -> mnuViewSampleDetails=&Sample Details, fraSampleDetails hidden
 
 == ColoursAndDensityChangeTheGraphOnShow
-click cmdDrawGraph; point chScatterGraph 1 7 -> points=0 4 12607488, cmdShowPoint on, chScatterGraph filters count=0, chScatterGraph x_item=3, chScatterGraph y_item=1, chScatterGraph points=40 from [1001|1|1] to [1040|40|40], chScatterGraph selected=[1|7], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=40 points, prgProgInd value=39
+click cmdDrawGraph; point chScatterGraph 1 1 -> points=0 4 12607488, cmdShowPoint on, chScatterGraph filters count=0, chScatterGraph x_item=3, chScatterGraph y_item=1, chScatterGraph points=40 from [1001|1|1] to [1040|40|40], chScatterGraph selected=[1|1], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=40 points, prgProgInd value=39
 # A new filter waits for Draw.
 filter 5 100 -; choose cboColourBy "Manifold Air Pressure"; show mnuViewDensity -> mnuViewDensity off, mnuViewDensity=&Density, points=0 4 12607488 by Manifold Air Pressure from 40 to 120, cboColourBy=Manifold Air Pressure, lvwFilters count=1, lvwFilters[1]=[MAP|100|-], lvwFilters[1] selected
 choose cboColourBy None; show mnuViewDensity -> mnuViewDensity=&Density, points=0 4 12607488, cboColourBy=None
@@ -60,9 +60,9 @@ choose cboColourBy "Manifold Air Pressure" -> points=0 4 12607488 by Manifold Ai
 click mnuEditUpdatePreset
 row lvwPresets Boost -> cboYAxis=Manifold Air Pressure, cboPointShape=Up Tri, cboPointSize=6, picColour colour=255, lvwFilters count=1, lvwFilters[1]=[MAP|100|-], lvwFilters[1] selected, lvwPresets[1] selected
 double lvwPresets Boost -> points=8 6 255, cmdShowPoint on, chScatterGraph filters count=1, chScatterGraph filters[0]=MAP [Manifold Air Pressure] from 100, chScatterGraph x_item=3, chScatterGraph y_item=5, chScatterGraph points count=4, chScatterGraph points[0]=[1010|120|10], chScatterGraph points[1]=[1020|120|20], chScatterGraph points[2]=[1030|120|30], chScatterGraph points[3]=[1040|120|40], fraPicture hidden, fraSampleDetails on, staScatterGraph[0]=Graph draw complete, staScatterGraph[2]=4 points, prgProgInd value=39
-type cboPointSize 9; choose cboYAxis "Knock Sensor"; filter 3 - 2000 -> cboYAxis=Knock Sensor, cboPointSize=9, lvwFilters count=2, lvwFilters[1] unselected, lvwFilters[2]=[RPM|-|2000], lvwFilters[2] selected
-click mnuEditUpdatePreset -> main window=changed , boost=3 20 9 2 drawn
+type cboPointSize 9; choose cboXAxis "Sample No."; choose cboYAxis "Knock Sensor"; filter 3 - 2000 -> cboXAxis=Sample No., cboYAxis=Knock Sensor, cboPointSize=9, lvwFilters count=2, lvwFilters[1] unselected, lvwFilters[2]=[RPM|-|2000], lvwFilters[2] selected
+click mnuEditUpdatePreset -> main window=changed , boost=1 20 9 2 drawn
 click mnuEditNewPreset -> +frmNewPresetName
 type txtName Mine; click cmdOK -> -frmNewPresetName, main window=changed added , frmScatterGraph/lvwPresets count=2, frmScatterGraph/lvwPresets[2]=[Mine], frmScatterGraph/lvwPresets[2] unselected, lvwPresets count=2, lvwPresets[1] unselected, lvwPresets[2]=[Mine], lvwPresets[2] selected
-style 99; row lvwPresets Boost -> boost=3 20 99 2 drawn, cboPointShape=X, cboPointSize=10, lvwFilters[1] selected, lvwFilters[2] unselected, lvwPresets[1] selected, lvwPresets[2] unselected
-style -1; row lvwPresets Boost -> boost=3 20 -1 2 drawn, cboPointShape=3D Ball, cboPointSize=1
+style 99; row lvwPresets Boost -> boost=1 20 99 2 drawn, cboPointShape=X, cboPointSize=10, lvwFilters[1] selected, lvwFilters[2] unselected, lvwPresets[1] selected, lvwPresets[2] unselected
+style -1; row lvwPresets Boost -> boost=1 20 -1 2 drawn, cboPointShape=3D Ball, cboPointSize=1
