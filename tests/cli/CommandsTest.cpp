@@ -32,6 +32,7 @@ TEST(CommandLineProgram, ZonesTellWhatADriveSaysOfThem) {
   // Of too few samples no value is told.
   ExpectRuns(R"(
 zones turbo.txt --grid visits --json, /rows/5 /columns/15 /count/3 /value/3 -> 0 220 kPa 600 75 [0,0,0,0,0,0,24,10,0,5,18,8,1,5,4,0] [null,null,null,null,null,null,24,10,null,null,18,null,null,null,null,null]
+zones turbo.txt --json, /shown/0 /boxes/0 -> 0 {"index":0,"name":"z0","label":"Overrun MAP","value":"25","unit":"","exists":true} {"label":"EGR Enabled","ticked":false,"exists":true}
 zones turbo.txt --grid knock, /value/3 -> 0 [null,null,null,null,null,null,21,22,null,null,75,null,null,null,null,null]
 zones turbo.txt --grid visits --type auto --from 300 --to 900, /count/0 /count/1 -> 0 [0,0,270,14,202,0,0,0,0,0,0,0,0,0,0,0] [0,0,0,12,55,0,0,0,0,0,0,0,0,0,0,0]
 zones turbo.txt --grid knock --to a.map -> 2; --to: "a.map" is no number
@@ -66,6 +67,7 @@ scatter none.txt --json -> 1; message 15: File could not be loaded.
 scatter turbo.txt --json --to 300 --shape 4 --size-of-points 7 --colour 255, names -> 0 filters x_item y_item points messages
 scatter turbo.txt --json --to 30 --density --colour-by 5 --x 3 --y 17, /colour_item /style /points -> 0 nothing nothing 30 from [0,10,1] to [230,10,30]
 scatter turbo.txt --json --preset "None such" -> 1; tarnview-cli: this log has no preset scatter graph "None such"
+scatter --json --filter 3:1000:1100 turbo.txt, /filters -> 0 ["RPM [RPM] from 1000 to 1100"]
 scatter turbo.txt --json --size-of-points 11 -> 2; --size-of-points: Value 11 not in range 1 to 10
 )");
 }
@@ -104,7 +106,9 @@ export own.txt ./own.txt -> 1; message 0: The log that is open is never written 
 }
 
 TEST(CommandLineProgram, AResultThatCannotBeWrittenIsAFailure) {
-  for (const std::string command : {" load " TARNVIEW_EXAMPLES "/na.txt", " --help"}) {
+  for (const std::string command :
+       {" load " TARNVIEW_EXAMPLES "/na.txt", " --help",
+        " graph " TARNVIEW_EXAMPLES "/na.txt --items 3 --out /no/such/folder/a.png"}) {
     const int status = std::system((TARNVIEW_CLI + command + " >/dev/full 2>/dev/null").c_str());
     EXPECT_EQ(WEXITSTATUS(status), kFailed) << command;
   }

@@ -1,6 +1,7 @@
 // Power of a pull in the example log: what each option changes, and what comes of a wrong one.
 
 #include "cli/RunCli.h"
+#include "support/ScratchFolder.h"
 
 namespace tarnview {
 namespace {
@@ -33,6 +34,21 @@ power turbo.txt --json --sae 20 100 damp -> 2; --sae: the air is TEMPERATURE PRE
 power turbo.txt --json --average -> 2; --average requires --benchmark
 power turbo.txt --json --car A --car-file B -> 2; --car excludes --car-file
 power turbo.txt --json --out a.gif -> 2; --out: a picture's name ends in .png, .svg or .pdf
+power turbo.txt --from 4357 --to 4389 -> 2; power: needs --out, --save, --json or --find-runs
+)");
+}
+
+TEST(PowerCommand, ACarOfAFileJoinsThoseOfTheSettings) {
+  const ScratchFolder folder;
+  folder.Put("light.car", "Car Definition Details:\nName=Light\nCar Weight=1200\n");
+  const std::string log = " " TARNVIEW_EXAMPLES "/turbo.txt --json --from 4357 --to 4389 --gear 3";
+  ExpectTable(
+      [&](const TableRow& row) {
+        return RunCli("power" + log + row.All(), folder.path.string()).Told("/series/0/name");
+      },
+      R"(
+ -> 0 Your Power (382.5 hp @ 6278 rpm, Vmax 179.9 mph)
+ --car-file light.car -> 0 Your Power (223.9 hp @ 6278 rpm, Vmax 150.5 mph)
 )");
 }
 

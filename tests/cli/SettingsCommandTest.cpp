@@ -46,5 +46,14 @@ drive script --write-settings no/such/folder/out.ini -> 1; message 39: Problem u
     EXPECT_NE(folder.Get("out.ini").find(line + "\r\n"), std::string::npos) << line;
 }
 
+TEST(DriveCommand, APictureThatCannotBeSavedIsTold) {
+  const ScratchFolder folder;
+  folder.Put("script", "open " TARNVIEW_EXAMPLES
+                       "/utec.csv 6\nclick cmdDrawGraph\n"
+                       "answer file /no/such/folder/a.png\nclick mnuFileSavePicture\n");
+  EXPECT_TRUE(RunCli("drive script", folder.path.string())
+                  .err.starts_with("message 0: Problem saving the picture /no/such/folder/a.png."));
+}
+
 }  // namespace
 }  // namespace tarnview
