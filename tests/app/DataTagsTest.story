@@ -7,7 +7,10 @@ load /logs/run.txt 1; click frmDataLogViewer/cmdDrawGraph; click frmDataLogViewe
 load /logs/other.csv 6 -> graph=none, tags=0, frmDataLogViewer/caption=Tarnview - other.csv (UTEC CSV Data Log), frmDataLogViewer/PlotRangeTo=400, frmDataLogViewer/staDataLogViewer[0]=Loading complete, frmDataLogViewer/staDataLogViewer[2]=Sample Load Range 1 - 400
 click cmdShow; click cmdNew; click cmdDelete; click cmdDelete -> cannot: cmdDelete is disabled, graph=1-60 at 30, frmDataLogViewer/PlotRangeTo=60, frmDataLogViewer/staDataLogViewer[0]=Sample: 30, Secs: 4.752
 close; show "mnuViewTags enabled" -> mnuViewTags off, -frmDataTags
-click cmdDrawGraph; click mnuViewNewDataTag; show "mnuViewTags enabled" -> tags=1
+# Of no samples.
+write PlotRangeFrom 9; write PlotRangeTo 9; click mnuViewNewDataTag -> graph=1-60 at 0, PlotRangeFrom=9, PlotRangeTo=9
+write PlotRangeFrom 1; write PlotRangeTo 60 -> PlotRangeFrom=1, PlotRangeTo=60
+click cmdDrawGraph; click mnuViewNewDataTag; show "mnuViewTags enabled" -> graph=1-60 at 30, tags=1
 click mnuViewTags -> +frmDataTags
 click cmdDelete -> tags=0
 close; show "mnuViewTags enabled" -> mnuViewTags off, -frmDataTags

@@ -47,6 +47,8 @@ TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   StartWith(kStrange);
   files.files["/good.txt"] = SmallLog(5);
   files.files["/notes.txt"] = "nothing\r\nof a log\r\n";
+  files.files["/half.csv"] =
+      "timestamp,Engine Speed (RPM),Widget,Gadget\n0,1000,1,1\n100,2000,1,1\n200,3000,1,2\n";
   files.files["/hydra.csv"] =
       "timestamp,Engine Speed (RPM)\n0,1000\n100,2000\n200,3000\n300,4000\n";
   EXPECT_STORY(story);

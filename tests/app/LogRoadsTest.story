@@ -1,7 +1,9 @@
 == AStrangeLogOpensByItsShapeAfterAQuestion
 drop /run.csv -> [This looks like a log of an unknown logger: 3 of 3 columns. Open it so? yes], as=Universal: by its shape, cells=0.150 1050 1.7 , caption=Tarnview - run.csv (Universal: by its shape), PlotRangeFrom=1, PlotRangeTo=4, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete: Universal: by its shape. Time: "Time" rises; milliseconds: its unit is told, staDataLogViewer[2]=Sample Load Range 1 - 4
+# Half of the columns known are enough.
+open /half.csv -> as=, cells=, caption=Tarnview - half.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata)), PlotRangeTo=3, staDataLogViewer[0]=Loading complete, staDataLogViewer[2]=Sample Load Range 1 - 3
 # The definition of the settings is back for the next log.
-load /hydra.csv 8 -> as=, cells=0.300 4000 , caption=Tarnview - hydra.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata)), staDataLogViewer[0]=Loading complete
+load /hydra.csv 8 -> cells=0.300 4000 , caption=Tarnview - hydra.csv (Universal - Hydra Nemesis 2.1 (MX-5 Miata)), PlotRangeTo=4, staDataLogViewer[2]=Sample Load Range 1 - 4
 open /good.txt -> [16 ok], cells=0.328 1000 , caption=Tarnview - good.txt (FM Link Data Log), PlotRangeTo=5, staDataLogViewer[2]=Sample Load Range 1 - 5
 # The open log stays where the kind of another was only guessed.
 answer no; open /run.csv -> [This looks like a log of an unknown logger: 3 of 3 columns. Open it so? no]

@@ -10,3 +10,5 @@ key Shift+Up -> height=10.01
 key Shift+Up; key Shift+Up -> height=40
 key Shift+Up -> height=80
 key Shift+Up; key Shift+Up -> height=147
+# To what names an item.
+key Shift+F; show focus -> focus txtFindItem

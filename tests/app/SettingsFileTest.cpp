@@ -84,7 +84,7 @@ TEST_F(SettingsFileTest, WhatIsWrittenIsReadBackByteForByte) {
     Main().WindowState = 1;
   });
   story.Fact("width", [this] { return Runs() ? NumberText(Main().Width) : ""; });
-  texts["drawn"] = "[Beyond]\r\nDraw After Opening=Y\r\n";
+  texts["drawn"] = "[Beyond]\r\nDraw After Opening=Y\r\nMain Window Dividers=100,200\r\n";
   texts["not drawn"] = "[Beyond]\r\nDraw After Opening=N\r\n";
   EXPECT_STORY(story);
   EXPECT_THAT(files.accesses, ::testing::Contains("clear /car/"));

@@ -52,6 +52,7 @@ type txtPath(4) "" -> txtPath(4)=
 type txtPath(5) /tables/x.txt; click cmdOK; show focus -> focus txtPath(5), [15 ok], txtPath(5)=/tables/x.txt
 type txtPath(5) "" -> txtPath(5)=
 type txtPath(6) /defs/none.txt; click cmdOK; show focus -> focus txtPath(6), [15 ok], tabOptions=File Locations, txtPath(6)=/defs/none.txt, fraFMLinkTab hidden, fraFilesTab shown
+type txtPath(6) /defs/bad.txt; click cmdOK; show focus -> focus txtPath(6), [74 ok], txtPath(6)=/defs/bad.txt
 # The first of them.
 type txtPath(5) /no; type txtPath(3) /nowhere; click cmdOK -> [36 ok], txtPath(3)=/nowhere/, txtPath(5)=/no
 type txtPath(5) ""; type txtPath(3) /logs -> txtPath(3)=/logs, txtPath(5)=
@@ -107,6 +108,9 @@ type txtAtmos 100 -> txtAtmos=100, txtCorrFactor=1.007
 type txtRH 0 -> txtRH=0, txtCorrFactor=0.988
 type txtAtmos 99 -> txtAtmos=99, txtCorrFactor=1.000
 choose cboHumidityType "Wet Bulb" -> cboHumidityType=Wet Bulb, lblRH=Wet &Bulb Temp ('C)
+type txtRH 20 -> txtRH=20, txtCorrFactor=1.024
+choose cboHumidityType "Rel. Humidity" -> cboHumidityType=Rel. Humidity, lblRH=Relati&ve Humidity (%), txtCorrFactor=1.008
+choose cboHumidityType "Wet Bulb" -> cboHumidityType=Wet Bulb, lblRH=Wet &Bulb Temp ('C), txtCorrFactor=1.024
 
 == FindASettingByCaptionKeyOrToolTip
 anew; type txtFind "colour scheme"; show focus -> focus cboGraphColourScheme, +frmOptions, item=Sample 1 1 10000 1, definition=Hydra Nemesis 2.1 (MX-5 Miata)
