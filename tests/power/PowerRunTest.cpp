@@ -1,6 +1,7 @@
-#include <limits>
+#include <cmath>
 
 #include "base/Numbers.h"
+#include "power/CarFile.h"
 #include "power/PowerLog.h"
 #include "power/PowerRun.h"
 #include "support/Table.h"
@@ -97,32 +98,25 @@ metric, 2 -> 2031.0 67.37 305.84 0.00 11.484; 2088.5 66.85 301.65 0.08 11.779; 2
 )");
 }
 
+/// Fields of the car's file, then those of the run.
 TEST(PowerRun, ACarThatCannotBeReckonedWithFailsAndSaysWhichField) {
-  const struct {
-    const char* printed;
-    void (*spoil)(PowerRun&);
-  } kRows[] = {
-      // clang-format off
-      {"failed: 4th Gear Ratio", [](PowerRun& r) { r.car.dbl4thGearRatio = 0; }},
-      {"failed: 4th Gear Ratio", [](PowerRun& r) { r.car.dbl4thGearRatio = std::numeric_limits<double>::quiet_NaN(); }},
-      {"failed: Diff Ratio", [](PowerRun& r) { r.car.dblDiffRatio = 0; }},
-      {"failed: Tyre Size", [](PowerRun& r) { r.car.lngTyreWidth = r.car.lngWheelDiameter = 0; }},
-      {"failed: Tyre RPM", [](PowerRun& r) { r.car.lngTyreSizeMethod = 2, r.car.lngTyreRPM = 0; }},
-      {"failed: Drive Wheel Radius", [](PowerRun& r) { r.car.lngTyreSizeMethod = 0, r.car.dblDriveWheelRadius = 0; }},
-      {"failed: Car Weight", [](PowerRun& r) { r.contentsWeight = -r.car.lngCarWeight; }},
-      {"failed: Set Point Speed", [](PowerRun& r) { r.car.lngAeroLossSpeed = 0; }},
-      {"failed: Set Point Power", [](PowerRun& r) { r.car.lngAeroLossPower = 0; }},
-      {"failed: Drag Coefficient", [](PowerRun& r) { r.car.blnUseCD = true, r.car.dblCD = 0; }},
-      {"failed: Atmospheric Pressure", [](PowerRun& r) { r.car.blnUseCD = true, r.air.pressure = 0; }},
-      {"failed: ", [](PowerRun& r) { r.car.dblDiffRatio = 1e-200; }},
-      {"peaks 0.00 0.0 0.00 0.0 0.0 top 0", [](PowerRun& r) { r.samples.clear(); }},
-      // clang-format on
+  const auto told = [](const TableRow& row) {
+    CarFields fields = FieldsOf({});
+    ReadCarFile("Car Definition Details:\n" + TableRow(row.Text(0)).Lines(), fields);
+    PowerRun run = RunOf(row.Text(1) == "empty" ? std::vector<RunSample>() : kSmooth, 3, 0);
+    run.car = CarOf(fields);
+    if (row.Text(1) == "weightless") run.contentsWeight = -run.car.lngCarWeight;
+    if (row.Text(1) == "airless") run.air.pressure = 0;
+    if (row.Text(1) == "ratio nan") run.car.dbl4thGearRatio = std::nan("");
+    if (row.Text(1) == "ratio tiny") run.car.dblDiffRatio = 1e-200;
+    return Printed(CurvesOf(run));
   };
-  for (const auto& row : kRows) {
-    PowerRun run = RunOf(kSmooth, 3, 0);
-    row.spoil(run);
-    EXPECT_EQ(Printed(CurvesOf(run)), row.printed);
-  }
+  ExpectTable(told, R"(
+4th Gear Ratio=0, run -> failed: 4th Gear Ratio | Name=, ratio nan -> failed: 4th Gear Ratio | Diff Ratio=0, run -> failed: Diff Ratio | Name=, ratio tiny -> failed: 
+Tyre Width=0; Wheel Diameter=0, run -> failed: Tyre Size | Tyre Size Method=2; Tyre RPM=0, run -> failed: Tyre RPM | Tyre Size Method=3; Drive Wheel Radius=0, run -> failed: Drive Wheel Radius
+Name=, weightless -> failed: Car Weight | Set Point Speed=0, run -> failed: Set Point Speed | Set Point Power=0, run -> failed: Set Point Power | Use Drag Coefficient=Y; Drag Coefficient=0, run -> failed: Drag Coefficient
+Use Drag Coefficient=Y, airless -> failed: Atmospheric Pressure | Name=, empty -> peaks 0.00 0.0 0.00 0.0 0.0 top 0
+)");
 }
 
 TEST(PowerRun, ItsSamplesAreThoseOfTheRangeThatTheLogHas) {

@@ -1,33 +1,17 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "power/PowerLog.h"
 #include "power/frmPowerGraph.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
+#include "support/DeskTest.h"
 
 namespace tarnview {
 
-/// What stands around each window here.
-class PowerDesktop : public ::testing::Test {
- protected:
-  RecordingHost host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, ""};
-  Messages messages{host, [](int) { return ""; }};
-  Settings settings;
-  Story story{host};
-};
-
 /// A power graph window over a small log, before a desktop that records.
-class PowerWindowsTest : public PowerDesktop, protected frmPowerGraph::MainWindow {
+class PowerWindowsTest : public DeskTest, protected frmPowerGraph::MainWindow {
  protected:
   PowerWindowsTest() {
     story.Verb("draw", [this](const auto& ends) { Draw(ends[0], ends[1]); });
@@ -83,6 +67,7 @@ class PowerWindowsTest : public PowerDesktop, protected frmPowerGraph::MainWindo
   void RecentPowerFilesChanged() override { window->ListRecentFiles(); }
   void PowerGraphClosed(int) override {}
 
+  Settings settings;
   clsCarDefs cars;
   SampleRange mainRange{120, 180};
   std::string plotted;  ///< what was last asked of the main window

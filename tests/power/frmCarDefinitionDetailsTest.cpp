@@ -1,12 +1,12 @@
 #include "power/CarTold.h"
-#include "power/PowerWindowsFixture.h"
 #include "power/frmCarDefinitionDetails.h"
+#include "support/DeskTest.h"
 #include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
 
-class CarDetails : public PowerDesktop {
+class CarDetails : public DeskTest {
  protected:
   CarDetails() {
     story.Verb("open", [this](const auto&) { Open(); });

@@ -21,7 +21,7 @@ break /b/mine.pow; click mnuFileSave -> +frmPowerBenchComments
 click cmdOK -> [19 ok], -frmPowerBenchComments
 
 == ACarWithoutARatioDrawsNothingAndSaysWhichField
-draw 100 200 -> [63 ok], txtPlotRangeFrom=100, txtPlotRangeTo=200, staPowerGraph[3]=Car definition: check 4th Gear Ratio
+draw 100 200 -> [63 ok], disk=append /car/error.log, txtPlotRangeFrom=100, txtPlotRangeTo=200, staPowerGraph[3]=Car definition: check 4th Gear Ratio
 
 == ABenchmarkIsShownAveragedOrHidden
 answer file /b/stock.pow; click mnuFileOpen -> [open "Open Power Graph" of Power Graph files (*.pow) /b/stock.pow], disk=read /b/stock.pow, lblBenchmark2=stock, cboBenchMarkAction on, cboBenchMarkAction=Show, staPowerGraph[0]=Loading complete, mnuSepRecent shown, mnuFileRecent(0) shown, mnuFileRecent(0)=&1 /b/stock.pow, mnuBench on, mnuBenchCalcDet on

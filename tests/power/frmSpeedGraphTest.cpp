@@ -1,14 +1,14 @@
 #include "base/Numbers.h"
-#include "power/PowerWindowsFixture.h"
 #include "power/SpeedChart.h"
 #include "power/frmSpeedGraph.h"
+#include "support/DeskTest.h"
 #include "support/Table.h"
 #include "support/WholeWindow.h"
 
 namespace tarnview {
 namespace {
 
-class SpeedGraphTest : public PowerDesktop {
+class SpeedGraphTest : public DeskTest {
  protected:
   SpeedGraphTest() {
     input.file = "/logs/run.txt";
@@ -23,6 +23,7 @@ class SpeedGraphTest : public PowerDesktop {
     window->Show();
   }
 
+  Settings settings;
   SpeedGraphInput input;
   std::optional<frmSpeedGraph> window;
 };
