@@ -37,57 +37,19 @@ std::string Behind(const std::string& presets) {
       .Text();
 }
 
-TEST(DefinitionReader, AWholeDefinition) {
-  const clsDataLog log = Read(R"([DataLogDefinition]
-NAME = My Logs
-FileExtension=csv
-FILEIDTEXTLINESBEFORE=1.5
-FILEIDTEXTCOLUMNSBEFORE=2abc
-FILEIDTEXT=A=B
-COLUMNHEADERSLINESBEFORE=3
-DATALINESBEFORE=5
-DELIMITERASCIICHARACTER=59
-LINEFREQUENCY=1e1
-IGNOREDUPLICATECOLUMNS=y
-COLOUR=3
-VERSION=1
-VERSION=2
-[Column]
-NAME=Gear
-DESCRIPTION=Gear chosen
-COLUMNTITLE=gear Sel
-DATAITEMID=5
-TYPE=2
-COLUMNDECIMALPLACES=9
-OFFSET=-2.5x
-DISPLAYZERO=Yes
-DISPLAYLINEWIDTH=0
-ALLOWSETTOMINIMUMVALUE=n
-CONVERSIONTYPE=-3
- [Values]
- Off
-On = 1
+/// Lines of a text with "; " between, those of a block on a line.
+std::string Lines(const std::string& blocks) { return Join(SplitAt(blocks, "; "), "\n"); }
 
+TEST(DefinitionReader, AWholeDefinition) {
+  const clsDataLog log = Read(Lines(
+      R"([DataLogDefinition]; NAME = My Logs; FileExtension=csv; FILEIDTEXTLINESBEFORE=1.5; FILEIDTEXTCOLUMNSBEFORE=2abc; FILEIDTEXT=A=B; COLUMNHEADERSLINESBEFORE=3; DATALINESBEFORE=5; DELIMITERASCIICHARACTER=59; LINEFREQUENCY=1e1; IGNOREDUPLICATECOLUMNS=y; COLOUR=3; VERSION=1; VERSION=2
+[Column]; NAME=Gear; DESCRIPTION=Gear chosen; COLUMNTITLE=gear Sel; DATAITEMID=5; TYPE=2; COLUMNDECIMALPLACES=9; OFFSET=-2.5x; DISPLAYZERO=Yes; DISPLAYLINEWIDTH=0; ALLOWSETTOMINIMUMVALUE=n; CONVERSIONTYPE=-3
+ [Values];  Off; On = 1; 
+[SAMPLE GRAPH]; NAME= One; no attribute; DATA ITEMS=5,0,84,3,5; GRAPH MAX=5; NAME =Two
+[SCATTER GRAPH]; NAME=Three; POINT SIZE=99; POINT SHAPE=-1; X AXIS=3; Y AXIS=45
+[FILTER]; DATA ITEM=5; FROM=2; TO=3
 [SAMPLE GRAPH]
-NAME= One
-no attribute
-DATA ITEMS=5,0,84,3,5
-GRAPH MAX=5
-NAME =Two
-[SCATTER GRAPH]
-NAME=Three
-POINT SIZE=99
-POINT SHAPE=-1
-X AXIS=3
-Y AXIS=45
-[FILTER]
-DATA ITEM=5
-FROM=2
-TO=3
-[SAMPLE GRAPH]
-[FILTER]
-DATA ITEM=45
-TO=0.5)");
+[FILTER]; DATA ITEM=45; TO=0.5)"));
   // What the file of it would say; a float is the number at the text's start, a listed value has no
   // upper bound, and the last line of the file counts here.
   ExpectTold(
@@ -102,77 +64,59 @@ TO=0.5)");
   EXPECT_EQ(log.objPresetSampleGraphs.Item(1).lngLogFamily, 7);
 }
 
+/// What the lines are of: a whole file, a header, a column (name, item and type), or what stands
+/// behind the columns of a good definition.
+std::string FileOf(const TableRow& row) {
+  const auto words = Split(row.Text(0), ' ');
+  const std::string lines = row.Count() > 1 ? TableRow(row.Text(1)).Lines() + "\n" : "";
+  if (words[0] == "file") return lines.substr(0, lines.size() - 1);
+  if (words[0] == "header") return DefinitionText{lines, {ColumnText("A", 5)}, ""}.Text();
+  if (words[0] == "behind") return Behind(lines);
+  if (words.size() == 1) return With(lines);
+  return With(ColumnText(words[1], std::stoi(words[2]), 0, lines, std::stoi(words[3])));
+}
+
 TEST(DefinitionReader, EachFaultTellsItsNumberAndDetails) {
-  const struct {
-    std::string text, fault;
-  } kRows[] = {
-      // clang-format off
-      {"", "69: "},
-      {"[DATALOGDEFINITION] \n", "69: [DATALOGDEFINITION] "},
-      {"[DATALOGDEFINITION]", "74: my.txt|File Name: |File Extension: |Delimiter ASCII Character: 0"},
-      {"[DATALOGDEFINITION]\nNAME=\n\n", "68: NAME="},
-      {"[DATALOGDEFINITION]\n=X\n\n", "68: =X"},
-      {"[DATALOGDEFINITION]\n\n\n", "68: "},
-      {"[DATALOGDEFINITION]\nNAME=a\nFILEEXTENSION=c:\nDELIMITERASCIICHARACTER=44\n[COLUMN]\n\n",
-       "75: my.txt|File Extension: c:"},
-      {"[DATALOGDEFINITION]\nNAME=<OTHER>\nFILEEXTENSION=c\nDELIMITERASCIICHARACTER=44\n[COLUMN]\n\n",
-       "91: my.txt|File Name: <OTHER>"},
-      {"[DATALOGDEFINITION]\nNAME=a\nFILEEXTENSION=c\nDELIMITERASCIICHARACTER=44\n[COLUMN]\n", "67: [COLUMN]"},
-      {"[DATALOGDEFINITION]\nNAME=a\nFILEEXTENSION=c\nDELIMITERASCIICHARACTER=44\n[COLUMN]\n[COLUMN]\n",
-       "71: Column Name: |Column Title: |Description: |Data Item ID: 0|Column Data Type: 0|Column Decimal Places Set: "
-       "N"},
-      {With("NAME=\n"), "66: NAME="},
-      {With("[FILTER]\n"), "66: [FILTER]"},
-      {With(ColumnText("A", 1)), "84: Column Name: A|Data Item ID: 1"},
-      {With(ColumnText("A", 84)), "85: Column Name: A|Data Item ID: 84"},
-      {With(ColumnText("A", 5, 0, "COLUMNMINIMUMVALUE=2.5\nCOLUMNMAXIMUMVALUE=-1\n")),
-       "88: Column Name: A|Minimum: 2.5|Maximum: -1"},
-      {With(ColumnText("A", 23, 0, "[VALUES]\nOff\n", 2)),
-       "73: Column Name: A|Data Item ID: 23|Column Data Type: 2|Data Item Type: 2"},
-      {With(ColumnText("A", 5, 0, "[VALUES]\nOff\n")), "80: A"},
-      {With(ColumnText("A", 5, 0, "", 2)), "81: A"},
-      {DefinitionText{"LINEFREQUENCY=0\n", {ColumnText("A", 5)}, ""}.Text(), "77: my.txt"},
-      {Behind("[SAMPLE GRAPH]\nDATA ITEMS=2\n"), "93: my.txt|Name: "},
-      {Behind("[SAMPLE GRAPH]\nNAME=S\nDATA ITEMS=3,45,5\n"), "100: my.txt|Name: S|Data Item ID: 5"},
-      {Behind("[SCATTER GRAPH]\nNAME=S\nX AXIS=3\nY AXIS=2\n"),
-       "94: my.txt|Name: S|Point Size: 0|X Axis Data Item ID: 3|Y Axis Data Item ID: 2"},
-      {Behind("[SCATTER GRAPH]\nNAME=S\nPOINT SIZE=1\nX AXIS=5\nY AXIS=2\n"),
-       "98: my.txt|Name: S|X Axis Data Item ID: 5"},
-      {Behind("[SCATTER GRAPH]\nNAME=S\nPOINT SIZE=1\nX AXIS=3\nY AXIS=99\n"),
-       "99: my.txt|Name: S|Y Axis Data Item ID: 99"},
-      {Behind("[SCATTER GRAPH]\nNAME=S\n[FILTER]\nDATA ITEM=3\nFROM=0\n"),
-       "95: my.txt|Scatter Graph Name: S|Filter Data Item ID: 3|Filter From Value: 0|Filter To Value: -99999"},
-      {Behind("[SCATTER GRAPH]\nNAME=S\n[FILTER]\nDATA ITEM=5\nFROM=1\n"),
-       "96: my.txt|Scatter Graph Name: S|Filter Data Item ID: 5"},
-      {Behind("[SCATTER GRAPH]\nNAME=S\n[FILTER]\nDATA ITEM=2\nFROM=1.5\n"),
-       "97: my.txt|Scatter Graph Name: S|Filter Data Item ID: 2|Filter From Value: 1.5"},
-      // clang-format on
-  };
-  for (const auto& row : kRows) EXPECT_EQ(FaultOf(row.text), row.fault) << row.text;
-}
-
-TEST(DefinitionReader, WhatIsNoFault) {
-  const std::string kRows[] = {
-      With(ColumnText("A", 5, 0, "", 3)),  // an unknown type stores nothing
-      With(ColumnText("A", 5, 0, "COLUMNMINIMUMVALUE=1\nCOLUMNMAXIMUMVALUE=1\n")),
-      With(ColumnText("A", 63)),             // two columns of one item
-      With(ColumnText("A", 5), "[COLUMN]"),  // a block that the file's end cuts off
-      With(ColumnText("A", 5), "rubbish"),   // the last line is not looked at
-      Behind(
-          "[SAMPLE GRAPH]\nNAME=S\nDATA ITEMS=1,24,46\n[FILTER]\n\n"),  // items that every log has
-      Behind("[SCATTER GRAPH]"),
-      DefinitionText{"LINEFREQUENCY=10\n", {ColumnText("A", 5)}, ""}.Text(),
-  };
-  for (const std::string& text : kRows) EXPECT_EQ(FaultOf(text), "") << text;
-}
-
-TEST(DefinitionReader, TheLastAttributeOfAFileWantsALineBehindIt) {
-  EXPECT_EQ(FaultOf("[DATALOGDEFINITION]\nNAME=a\nFILEEXTENSION=c\nDELIMITERASCIICHARACTER="
-                    "44\nLINEFREQUENCY=1\n"
-                    "[COLUMN]\nNAME=A\nDESCRIPTION=A\nCOLUMNTITLE=A\nDATAITEMID=5\nTYPE="
-                    "1\nCOLUMNDECIMALPLACES=1\n"),
-            "71: Column Name: A|Column Title: A|Description: A|Data Item ID: 5|Column Data Type: 1|"
-            "Column Decimal Places Set: N");
+  ExpectTable([](const TableRow& row) { return FaultOf(FileOf(row)); }, R"(
+file,  -> 69: 
+file, [DATALOGDEFINITION] ;  -> 69: [DATALOGDEFINITION] 
+file, [DATALOGDEFINITION] -> 74: my.txt|File Name: |File Extension: |Delimiter ASCII Character: 0
+file, [DATALOGDEFINITION]; NAME=; ;  -> 68: NAME=
+file, [DATALOGDEFINITION]; =X; ;  -> 68: =X
+file, [DATALOGDEFINITION]; ; ;  -> 68: 
+file, [DATALOGDEFINITION]; NAME=a; FILEEXTENSION=c:; DELIMITERASCIICHARACTER=44; [COLUMN]; ;  -> 75: my.txt|File Extension: c:
+file, [DATALOGDEFINITION]; NAME=<OTHER>; FILEEXTENSION=c; DELIMITERASCIICHARACTER=44; [COLUMN]; ;  -> 91: my.txt|File Name: <OTHER>
+file, [DATALOGDEFINITION]; NAME=a; FILEEXTENSION=c; DELIMITERASCIICHARACTER=44; [COLUMN];  -> 67: [COLUMN]
+file, [DATALOGDEFINITION]; NAME=a; FILEEXTENSION=c; DELIMITERASCIICHARACTER=44; [COLUMN]; [COLUMN];  -> 71: Column Name: |Column Title: |Description: |Data Item ID: 0|Column Data Type: 0|Column Decimal Places Set: N
+# The last attribute of a file wants a line behind it.
+file, [DATALOGDEFINITION]; NAME=a; FILEEXTENSION=c; DELIMITERASCIICHARACTER=44; LINEFREQUENCY=1; [COLUMN]; NAME=A; DESCRIPTION=A; COLUMNTITLE=A; DATAITEMID=5; TYPE=1; COLUMNDECIMALPLACES=1;  -> 71: Column Name: A|Column Title: A|Description: A|Data Item ID: 5|Column Data Type: 1|Column Decimal Places Set: N
+column, NAME= -> 66: NAME=
+column, [FILTER] -> 66: [FILTER]
+column A 1 1 -> 84: Column Name: A|Data Item ID: 1
+column A 84 1 -> 85: Column Name: A|Data Item ID: 84
+column A 5 1, COLUMNMINIMUMVALUE=2.5; COLUMNMAXIMUMVALUE=-1 -> 88: Column Name: A|Minimum: 2.5|Maximum: -1
+column A 23 2, [VALUES]; Off -> 73: Column Name: A|Data Item ID: 23|Column Data Type: 2|Data Item Type: 2
+column A 5 1, [VALUES]; Off -> 80: A
+column A 5 2 -> 81: A
+header, LINEFREQUENCY=0 -> 77: my.txt
+behind, [SAMPLE GRAPH]; DATA ITEMS=2 -> 93: my.txt|Name: 
+behind, [SAMPLE GRAPH]; NAME=S; DATA ITEMS=3,45,5 -> 100: my.txt|Name: S|Data Item ID: 5
+behind, [SCATTER GRAPH]; NAME=S; X AXIS=3; Y AXIS=2 -> 94: my.txt|Name: S|Point Size: 0|X Axis Data Item ID: 3|Y Axis Data Item ID: 2
+behind, [SCATTER GRAPH]; NAME=S; POINT SIZE=1; X AXIS=5; Y AXIS=2 -> 98: my.txt|Name: S|X Axis Data Item ID: 5
+behind, [SCATTER GRAPH]; NAME=S; POINT SIZE=1; X AXIS=3; Y AXIS=99 -> 99: my.txt|Name: S|Y Axis Data Item ID: 99
+behind, [SCATTER GRAPH]; NAME=S; [FILTER]; DATA ITEM=3; FROM=0 -> 95: my.txt|Scatter Graph Name: S|Filter Data Item ID: 3|Filter From Value: 0|Filter To Value: -99999
+behind, [SCATTER GRAPH]; NAME=S; [FILTER]; DATA ITEM=5; FROM=1 -> 96: my.txt|Scatter Graph Name: S|Filter Data Item ID: 5
+behind, [SCATTER GRAPH]; NAME=S; [FILTER]; DATA ITEM=2; FROM=1.5 -> 97: my.txt|Scatter Graph Name: S|Filter Data Item ID: 2|Filter From Value: 1.5
+# No fault: a type that is not known, limits that are one, two columns of one item, items that every log has.
+column A 5 3 -> 
+column A 5 1, COLUMNMINIMUMVALUE=1; COLUMNMAXIMUMVALUE=1 -> 
+column A 63 1 -> 
+behind, [SAMPLE GRAPH]; NAME=S; DATA ITEMS=1,24,46; [FILTER];  -> 
+header, LINEFREQUENCY=10 -> 
+)");
+  // A block that the file's end cuts off, and a last line, are not looked at.
+  for (const char* end : {"[COLUMN]", "rubbish", "[SCATTER GRAPH]"})
+    EXPECT_EQ(FaultOf(Behind(end)), "");
 }
 
 TEST(DefinitionReader, LargeFilesAreReadAtOnce) {
