@@ -14,51 +14,9 @@ namespace {
 /// Cells of item 5 of a log with the columns "Time" and "A": "10 20~" where no value was logged in
 /// the second row.
 std::string CellsOf(const std::string& header, const std::string& text,
-                    const std::string& column = "", const char* time = "Time") {
-  const DefinitionText file{header, {ColumnText(time, 63, 3), ColumnText("A", 5, 0, column)}, ""};
+                    const std::string& column = "") {
+  const DefinitionText file{header, {ColumnText("Time", 63, 3), ColumnText("A", 5, 0, column)}, ""};
   return LoadedUniversal(file, text).Cells(5, /*marked=*/true);
-}
-
-TEST(FormedLog, EachKeyByItself) {
-  const struct {
-    const char* header;
-    std::string text;
-    const char* cells;
-  } kRows[] = {
-      // clang-format off
-      {"", "Time,A\n1,7\n2,\n3,x\n", "7 0 0"},
-      {"NOVALUETEXTS=x|n/a\n", "Time,A\n1,\n2,7\n3,X\n4, n/a\n5,8\n", "7~ 7 7~ 7~ 8"},
-      {"NOVALUETEXTS=x\nTIMEFORM=SECONDS\n", "Time,A\n1,9\n2\n3,-2147483617\n", "9 9~ 9~"},
-      {"NOVALUETEXTS=a long text\n", "Time,A\n1,9\n2,A long text\n3,1\n", "9 9~ 1"},
-      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", "Time;A\n1;7,6\n2;8,4\n3;9\n", "8 8 9"},
-      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", "Time;A\n1;1.234,6\n2;1.234.567\n3;01.250\n4;22.8.202\n", "1235 1234567 1 23"},
-      {"TIMEFORM=SECONDS\n", "Time,A\n1,9.26e+02\n2.0E0,12E-1\n3,1.5E\n4,7e1x\n5,2e30\n", "926 1 2 7 2"},
-      {"QUOTED=Y\n", "\"Time\",\"A\"\n\"1\",\"2,000\"\n\"2\",\"7\"\n3,8\n", "2000 7 8"},
-      {"QUOTED=Y\nDECIMALSIGN=,\n", "Time,A\n\"1\",\"1.234,6\"\n2,\"7,4\"\n3,8\n", "1235 7 8"},
-      {"QUOTED=Y\n", "Time,A\n\"1,\"7\"\n\"2\",\"8\"\n3,9\n", "8 9"},
-      {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n", "  Time   A \n 1 \t 7\n 2   8 \n3 9\n", "7 8 9"},
-      {"COMMENTPREFIX=#\nLINEFREQUENCY=5\n", "Time,A\n#a,b\n1,7\n2,8\n3,9\n", "7 8 9"},
-      {"TITLESSTART=Time,A\nDATALINESBEFORE=2\n", "note, of it\n# Time, A\ns,kPa\n1,7\n2,8\n3,9\n", "7 8 9"},
-      {"TITLEROWS=2\nDATALINESBEFORE=2\n", "Time,\n,A\n1,7\n2,8\n3,9\n", "7 8 9"},
-      {"TITLESSTART=Time,\nTITLEROWS=2\nDATALINESBEFORE=3\n", "note\nTime,\n,A\ns,kPa\n1,7\n2,8\n3,9\n", "7 8 9"},
-      {"TITLESSTART=Other,A\n", "Time,A\n1,7\n2,8\n3,9\n", "7 8 9"},
-      {"ENCODING=UTF-16LE\n",
-       std::string("T\0i\0m\0e\0,\0A\0\n\0", 14) + std::string("1\0,\0", 4) + std::string("7\0\n\0", 4) +
-           std::string("2\0,\0"
-                       "8\0\n\0"
-                       "3\0,\0"
-                       "9\0",
-                       14),
-       "7 8 9"},
-      {"ENCODING=UTF-8\n", "\xEF\xBB\xBFTime,A\r1,7\r2,8\r3,9\r", "7 8 9"},
-      {"TIMEFORM=SECONDS\n", "Time,A\n1,7\nMARK,5\n# 2,3\n\n-2,8\nTime,A\n3,9\n", "7 8 9"},
-      {"TIMEFORM=SECONDS\nTITLESFROM=CHANNELS\n", "Channel : A\nType : x\nChannel : B\n1,7\n2,8\n3,9\n", "7 8 9"},
-      // clang-format on
-  };
-  for (const auto& row : kRows) {
-    std::string header = row.header;
-    EXPECT_EQ(CellsOf(header, row.text), row.cells) << row.header;
-  }
 }
 
 std::string Replaced(const std::string& text, char from, const std::string& to) {
@@ -71,6 +29,43 @@ std::string Wide(const std::string& text, bool bigEndian) {
   std::string wide;
   for (const char c : text) wide += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
   return wide;
+}
+
+/// Keys of a definition, the lines of a log, and what its column tells besides.
+TEST(FormedLog, EachKeyByItself) {
+  const auto cells = [](const TableRow& row) {
+    const auto parts = SplitAt(row.All(), " & ");
+    const auto lines = [&](std::size_t n) {
+      return n < parts.size() ? Join(SplitAt(parts[n], "; "), "\n") + "\n" : "";
+    };
+    return CellsOf(lines(0), lines(1), lines(2));
+  };
+  ExpectTable(cells, R"(
+COLOUR=0 & Time,A; 1,7; 2,; 3,x -> 7 0 0
+NOVALUETEXTS=x|n/a & Time,A; 1,; 2,7; 3,X; 4, n/a; 5,8 -> 7~ 7 7~ 7~ 8
+NOVALUETEXTS=x; TIMEFORM=SECONDS & Time,A; 1,9; 2; 3,-2147483617 -> 9 9~ 9~
+NOVALUETEXTS=a long text & Time,A; 1,9; 2,A long text; 3,1 -> 9 9~ 1
+DECIMALSIGN=,; DELIMITERASCIICHARACTER=59 & Time;A; 1;7,6; 2;8,4; 3;9 -> 8 8 9
+DECIMALSIGN=,; DELIMITERASCIICHARACTER=59 & Time;A; 1;1.234,6; 2;1.234.567; 3;01.250; 4;22.8.202 -> 1235 1234567 1 23
+TIMEFORM=SECONDS & Time,A; 1,9.26e+02; 2.0E0,12E-1; 3,1.5E; 4,7e1x; 5,2e30 -> 926 1 2 7 2
+QUOTED=Y & "Time","A"; "1","2,000"; "2","7"; 3,8 -> 2000 7 8
+QUOTED=Y; DECIMALSIGN=, & Time,A; "1","1.234,6"; 2,"7,4"; 3,8 -> 1235 7 8
+QUOTED=Y & Time,A; "1,"7"; "2","8"; 3,9 -> 8 9
+DELIMITERRUNS=Y; DELIMITERASCIICHARACTER=32 &   Time   A ; 1 	 7; 2   8 ; 3 9 -> 7 8 9
+COMMENTPREFIX=#; LINEFREQUENCY=5 & Time,A; #a,b; 1,7; 2,8; 3,9 -> 7 8 9
+TITLESSTART=Time,A; DATALINESBEFORE=2 & note, of it; # Time, A; s,kPa; 1,7; 2,8; 3,9 -> 7 8 9
+TITLEROWS=2; DATALINESBEFORE=2 & Time,; ,A; 1,7; 2,8; 3,9 -> 7 8 9
+TITLESSTART=Time,; TITLEROWS=2; DATALINESBEFORE=3 & note; Time,; ,A; s,kPa; 1,7; 2,8; 3,9 -> 7 8 9
+TITLESSTART=Other,A & Time,A; 1,7; 2,8; 3,9 -> 7 8 9
+TIMEFORM=SECONDS & Time,A; 1,7; MARK,5; # 2,3; ; -2,8; Time,A; 3,9 -> 7 8 9
+TIMEFORM=SECONDS; TITLESFROM=CHANNELS & Channel : A; Type : x; Channel : B; 1,7; 2,8; 3,9 -> 7 8 9
+# Of like titles one can be meant; without titles the columns are numbered.
+TIMEFORM=SECONDS & Time,A,A; 1,7,70; 2,8,80; 3,9,90 & TITLEOCCURRENCE=1 -> 7 8 9
+TIMEFORM=SECONDS & Time,A,A; 1,7,70; 2,8,80; 3,9,90 & TITLEOCCURRENCE=2 -> 70 80 90
+TITLESFROM=NONE; DATALINESBEFORE=0; LINEFREQUENCY=1 & 1,7; 2,8; 3,9 & COLUMNTITLE=Column 2 -> 7 8 9
+)");
+  EXPECT_EQ(CellsOf("ENCODING=UTF-16LE\n", Wide("Time,A\n1,7\n2,8\n3,9", false)), "7 8 9");
+  EXPECT_EQ(CellsOf("ENCODING=UTF-8\n", "\xEF\xBB\xBFTime,A\r1,7\r2,8\r3,9\r"), "7 8 9");
 }
 
 /// Text is written anew in blocks of 128 KiB.
@@ -100,18 +95,6 @@ TEST(FormedLog, LongOnesAreReadAsShortOnes) {
     const bool same = CellsOf(row.header, row.text) == cells;  // too long to be printed
     EXPECT_TRUE(same) << row.header << row.text.substr(0, 40);
   }
-}
-
-TEST(FormedLog, OfLikeTitlesOneCanBeMeant) {
-  const std::string log = "Time,A,A\n1,7,70\n2,8,80\n3,9,90\n";
-  EXPECT_EQ(CellsOf("TIMEFORM=SECONDS\n", log, "TITLEOCCURRENCE=1\n"), "7 8 9");
-  EXPECT_EQ(CellsOf("TIMEFORM=SECONDS\n", log, "TITLEOCCURRENCE=2\n"), "70 80 90");
-}
-
-TEST(FormedLog, WithoutTitlesTheColumnsAreNumbered) {
-  EXPECT_EQ(CellsOf("TITLESFROM=NONE\nDATALINESBEFORE=0\nTIMEFORM=SECONDS\n", "1,7\n2,8\n3,9\n",
-                    "COLUMNTITLE=Column 2\n", "Column 1"),
-            "7 8 9");
 }
 
 /// Stamps of a column, "x" where a line has none; of a clock behind that word.

@@ -61,12 +61,11 @@ TEST(UniversalLog, AWholeLogOfTheBuiltInDefinition) {
       "200,2000,5,0\r\n"
       "300,2500.5,5,0,50,3,4,5");
   EXPECT_EQ(loaded.outcome.messages, Ids{});
-  EXPECT_EQ(loaded.Cells(1), "1 2 3 4 5");
-  EXPECT_EQ(loaded.Cells(63), "0 100 101 200 300");
-  EXPECT_EQ(loaded.Cells(3), "1000 1500 0 2000 2500");
-  EXPECT_EQ(loaded.Cells(37), "0 0 0 50 50");
-  EXPECT_EQ(loaded.Cells(5), "87 73 0 134 134");
-  EXPECT_EQ(loaded.Cells(24), "62 62 0 0 31");
+  std::string cells;
+  for (const int item : {1, 63, 3, 37, 5, 24}) cells += loaded.Cells(item) + "; ";
+  EXPECT_EQ(cells,
+            "1 2 3 4 5; 0 100 101 200 300; 1000 1500 0 2000 2500; 0 0 0 50 50; 87 73 0 134 134; "
+            "62 62 0 0 31; ");
   EXPECT_EQ(loaded.outcome.unknownColumns, std::vector<std::string>{"Foo"});
 }
 
@@ -173,40 +172,26 @@ LINEFREQUENCY=1, MAP 5 0 SMOOTH=Y, MAP,x; 10; 10; 13; 13 -> 5: 10 12 13 13; 63: 
 )");
 }
 
+/// Which definition, and the lines of a log: the first message.
 TEST(UniversalLog, WhatDoesNotLoadSaysWhy) {
-  const DefinitionText timed{
-      "FILEIDTEXT=ID\nFILEIDTEXTLINESBEFORE=1\nFILEIDTEXTCOLUMNSBEFORE=2\n"
-      "COLUMNHEADERSLINESBEFORE=2\nDATALINESBEFORE=4\n",
-      {kTime, kPressure},
-      ""};
-  const DefinitionText plain{"", {kTime, kPressure}, ""};
-  const DefinitionText ticking{"LINEFREQUENCY=1\n", {kPressure}, ""};
-  const std::string noId =
-      "90: Lines before: 1\r\nColumns before: 2\r\nID Text: ID\r\nLine read from data log: \r\n";
-  const struct {
-    const DefinitionText& definition;
-    const char* text;
-    std::string message;
-  } kRows[] = {
-      {timed, "", noId},
-      {timed, "x\n", noId},
-      {timed, "x\n_id\n", noId + "_id"},
-      {timed, "x\n__ID", "74: /run.csv"},
-      {timed, "x\n__IDx\nTime\n", "73: Time"},
-      {timed, "x\n__IDx\nMAP,x\n", "89: MAP,x"},
-      {timed, "x\n__IDx\nTime,x\n", "15: /run.csv"},
-      {timed, "x\n__IDx\nTime,x\nunits\n", ""},
-      {plain, "", "74: /run.csv"},
-      {plain, "\n1,2\n", "73: "},
-      {plain, "Time,MAP\n1,2\n2,3\n", ""},
-      {ticking, "a,b\n1,2\n", "83: a,b"},
+  const std::map<std::string, DefinitionText> definitions = {
+      {"timed",
+       {"FILEIDTEXT=ID\nFILEIDTEXTLINESBEFORE=1\nFILEIDTEXTCOLUMNSBEFORE=2\n"
+        "COLUMNHEADERSLINESBEFORE=2\nDATALINESBEFORE=4\n",
+        {kTime, kPressure},
+        ""}},
+      {"plain", {"", {kTime, kPressure}, ""}},
+      {"ticking", {"LINEFREQUENCY=1\n", {kPressure}, ""}}};
+  const auto tell = [&](const TableRow& row) {
+    const Loaded loaded(definitions.at(row.Text(0)), TableRow(row.Text(1)).Lines());
+    EXPECT_FALSE(loaded.outcome.loaded || loaded.log.gblnSamplesLoaded);
+    return Join(SplitAt(loaded.FirstMessage(), "\r\n"), "/");
   };
-  for (const auto& row : kRows) {
-    const Loaded loaded(row.definition, row.text);
-    EXPECT_EQ(loaded.FirstMessage(), row.message) << row.text;
-    EXPECT_FALSE(loaded.outcome.loaded);
-    EXPECT_FALSE(loaded.log.gblnSamplesLoaded);
-  }
+  ExpectTable(tell, R"(
+timed,  -> 90: Lines before: 1/Columns before: 2/ID Text: ID/Line read from data log: / | timed, x;  -> 90: Lines before: 1/Columns before: 2/ID Text: ID/Line read from data log: / | timed, x; _id;  -> 90: Lines before: 1/Columns before: 2/ID Text: ID/Line read from data log: /_id
+timed, x; __ID -> 74: /run.csv | timed, x; __IDx; Time;  -> 73: Time | timed, x; __IDx; MAP,x;  -> 89: MAP,x | timed, x; __IDx; Time,x;  -> 15: /run.csv
+timed, x; __IDx; Time,x; units;  ->  | plain,  -> 74: /run.csv | plain, ; 1,2;  -> 73:  | plain, Time,MAP; 1,2; 2,3;  ->  | ticking, a,b; 1,2;  -> 83: a,b
+)");
 }
 
 TEST(UniversalLog, AtMost300000LinesAreRead) {
@@ -233,18 +218,22 @@ TEST(UniversalLog, WideLogsLoad) {
 }
 
 TEST(Smoothing, TurnsStairsIntoRamps) {
-  const auto smoothed = [](const std::vector<std::int32_t>& values) {
+  const auto smoothed = [](const TableRow& row) {
     SampleStore store;
     store.Prepare(1, 0);
-    for (const std::int32_t value : values) store.Set(0, store.AddRow(), value);
+    for (const std::string& value : Split(row.All(), ' '))
+      store.Set(0, store.AddRow(), StringToLong(value));
     SmoothColumn(store, 0);
-    return std::vector<std::int32_t>(store.Column(0).begin(), store.Column(0).end());
+    std::string told;
+    for (const std::int32_t value : store.Column(0)) told += std::to_string(value) + " ";
+    return told;
   };
-  using Values = std::vector<std::int32_t>;
-  EXPECT_EQ(smoothed({0, 0, 0, 30}), (Values{0, 10, 20, 30}));
-  EXPECT_EQ(smoothed({30, 30, 60, 60, 61, 61}), (Values{30, 45, 60, 60, 61, 61}));
-  EXPECT_EQ(smoothed({7, 7, 7}), (Values{7, 7, 7}));
-  EXPECT_EQ(smoothed({}), Values{});
+  ExpectTable(smoothed, R"(
+0 0 0 30 -> 0 10 20 30  | 30 30 60 60 61 61 -> 30 45 60 60 61 61  | 7 7 7 -> 7 7 7 
+)");
+  SampleStore none;
+  none.Prepare(1, 0);
+  SmoothColumn(none, 0);
 }
 
 }  // namespace
