@@ -1,5 +1,4 @@
 #include "DefinitionText.h"
-#include "model/Catalogue.h"
 #include "universal/BuiltInTitles.h"
 #include "universal/DefinitionEdit.h"
 #include "universal/DefinitionReader.h"
@@ -8,11 +7,6 @@
 
 namespace tarnview {
 namespace {
-
-const Catalogue& Built() {
-  static const Catalogue catalogue = BuildDataItemCatalogue();
-  return catalogue;
-}
 
 /// A definition whose MAP has more to it than an edit says; "Gone" is in no log.
 clsDataLog Definition() {
@@ -24,14 +18,14 @@ clsDataLog Definition() {
                             {ColumnText("Time", 63, 3), ColumnText("MAP", 5, 1, more),
                              ColumnText("Gone", 7), ColumnText("RPM", 3)},
                             ""};
-  return ReadDataLogDefinition(text.Text(), "", Built().gcolFixedDataItems);
+  return ReadDataLogDefinition(text.Text(), "", BuiltInItems());
 }
 
 LogShape ShapeUnder(const clsDataLog& definition) {
   static const TitleDictionary dictionary(BuiltInTitles());
   LogShape shape =
       ReadLogShape("Time,MAP,RPM,Widget,TPS\n0,40,900,1,2\n1,50,950,2,3\n2,60,980,3,4\n",
-                   dictionary, Built().gcolFixedDataItems, ChoicesOf(definition));
+                   dictionary, BuiltInItems(), ChoicesOf(definition));
   ShowColumnsOf(definition, shape);
   return shape;
 }
@@ -57,8 +51,7 @@ TEST(DefinitionEdit, ADefinitionSettlesTheForm) {
   const auto tell = [](const TableRow& row) {
     const DefinitionText text{
         Join(SplitAt(row.All(), ", "), "\n") + "\n", {ColumnText("Time", 63, 3)}, ""};
-    const ShapeChoices choices =
-        ChoicesOf(ReadDataLogDefinition(text.Text(), "", Built().gcolFixedDataItems));
+    const ShapeChoices choices = ChoicesOf(ReadDataLogDefinition(text.Text(), "", BuiltInItems()));
     std::string told = std::string(1, *choices.delimiter) + *choices.decimalSign;
     const auto add = [&](const char* name, const auto& value) {
       if (value) told += name + std::to_string(static_cast<int>(*value));

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "DefinitionText.h"
-#include "model/Catalogue.h"
 #include "universal/DefinitionFaults.h"
 #include "universal/DefinitionReader.h"
 #include "universal/DefinitionWriter.h"
@@ -10,8 +9,7 @@ namespace tarnview {
 namespace {
 
 clsDataLog Read(std::string_view text) {
-  static const Catalogue catalogue = BuildDataItemCatalogue();
-  return ReadDataLogDefinition(text, "my.txt", catalogue.gcolFixedDataItems);
+  return ReadDataLogDefinition(text, "my.txt", BuiltInItems());
 }
 
 /// "74: my.txt|File Name: ..."; empty for a good definition.

@@ -3,9 +3,16 @@
 #include <string>
 #include <vector>
 
+#include "model/Catalogue.h"
 #include "support/Table.h"
 
 namespace tarnview {
+
+/// The data items that every program has.
+inline const clsLogDataItems& BuiltInItems() {
+  static const Catalogue catalogue = BuildDataItemCatalogue();
+  return catalogue.gcolFixedDataItems;
+}
 
 /// The text of a small definition of comma-separated logs: extra lines of the header, columns of
 /// "key=value" lines and what follows them. Lines end in LF.

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "DefinitionText.h"
-#include "model/Catalogue.h"
 #include "universal/DefinitionReader.h"
 #include "universal/UniversalDataItems.h"
 #include "universal/UniversalLog.h"
@@ -15,7 +14,7 @@ namespace tarnview {
 struct LoadedUniversal {
   LoadedUniversal(clsDataLog itsDefinition, std::string_view text, const Settings& settings = {})
       : definition(std::move(itsDefinition)),
-        items(GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems)) {
+        items(GenerateLogDataItemsGeneric(definition, BuiltInItems())) {
     log.gstrCurrentFile = "/run.csv";
     NoProgress progress;
     outcome =
@@ -23,9 +22,8 @@ struct LoadedUniversal {
   }
   LoadedUniversal(const DefinitionText& text, std::string_view logText,
                   const Settings& settings = {})
-      : LoadedUniversal(
-            ReadDataLogDefinition(text.Text(), "", BuildDataItemCatalogue().gcolFixedDataItems),
-            logText, settings) {}
+      : LoadedUniversal(ReadDataLogDefinition(text.Text(), "", BuiltInItems()), logText, settings) {
+  }
 
   /// The stored cells of an item: "3250 850~"; marked, where none was logged.
   std::string Cells(int item, bool marked = false) const {
@@ -42,7 +40,6 @@ struct LoadedUniversal {
                                           ": " + outcome.messages[0].extra;
   }
 
-  Catalogue catalogue = BuildDataItemCatalogue();
   clsDataLog definition;
   clsLogDataItems items;
   OpenLog log;

@@ -1,7 +1,7 @@
 #include "LoadedUniversal.h"
 #include "MadeLogs.h"
-#include "base/FileSystem.h"
 #include "support/Table.h"
+#include "universal/BuiltInTitles.h"
 #include "universal/DefinitionWriter.h"
 #include "universal/LogShape.h"
 #include "universal/ShapeDefinition.h"
@@ -9,15 +9,9 @@
 namespace tarnview {
 namespace {
 
-const TitleDictionary& Dictionary() {
-  static const TitleDictionary dictionary(
-      *RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
-  return dictionary;
-}
-
 LogShape ShapeOf(std::string_view text, const ShapeChoices& choices = {}) {
-  static const Catalogue catalogue = BuildDataItemCatalogue();
-  return ReadLogShape(text, Dictionary(), catalogue.gcolFixedDataItems, choices);
+  static const TitleDictionary dictionary(BuiltInTitles());
+  return ReadLogShape(text, dictionary, BuiltInItems(), choices);
 }
 
 std::string PrintedItem(const ShapeItem& item) {
@@ -72,12 +66,11 @@ std::string PrintedLog(const LogShape& shape, const OpenLog& log) {
 }
 
 TEST(LogShape, ALogLoadsByTheDefinitionOfItsShapeAndByTheFileOfThat) {
-  const Catalogue catalogue = BuildDataItemCatalogue();
   for (const MadeLog& made : MadeLogs()) {
     const LogShape shape = ShapeOf(made.text);
     const clsDataLog direct = DefinitionOfShape(shape, "Made", "csv", 10);
     const std::string file = DefinitionFileText(direct);
-    const clsDataLog read = ReadDataLogDefinition(file, "made.txt", catalogue.gcolFixedDataItems);
+    const clsDataLog read = ReadDataLogDefinition(file, "made.txt", BuiltInItems());
     EXPECT_EQ(DefinitionFileText(read), file) << made.name;
     for (const clsDataLog* definition : {&direct, &read}) {
       const LoadedUniversal loaded(*definition, made.text);

@@ -35,9 +35,8 @@ constexpr Shipped kShipped[] = {
 };
 
 clsDataLog DefinitionOf(const Shipped& shipped) {
-  static const Catalogue catalogue = BuildDataItemCatalogue();
   const auto text = RealFileSystem().Read(kFolder + shipped.definition + ".txt");
-  return ReadDataLogDefinition(*text, "", catalogue.gcolFixedDataItems);
+  return ReadDataLogDefinition(*text, "", BuiltInItems());
 }
 std::string LogOf(const Shipped& shipped) {
   return std::string(
