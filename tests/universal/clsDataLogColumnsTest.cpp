@@ -20,30 +20,18 @@ std::string Titles(const clsDataLogColumns& columns) {
   return titles;
 }
 
-TEST(clsDataLogColumn, OnlyAWriteRaisesAFlag) {
+TEST(clsDataLogColumn, KnowsWhatWasWrittenAndSharesItsValues) {
   clsDataLogColumn column;
-  EXPECT_FALSE(column.dblOffset.IsSet());
-  EXPECT_TRUE(column.blnSetToMaximum);
+  EXPECT_FALSE(column.dblOffset.IsSet() || column.lngColumnDecimalPlaces.IsSet());
   column.dblOffset = 0;
-  EXPECT_TRUE(column.dblOffset.IsSet());
-  const clsDataLogColumn copy = column.Duplicate();
-  EXPECT_TRUE(copy.dblOffset.IsSet());
-  EXPECT_FALSE(copy.dblMinValue.IsSet());
-  EXPECT_FALSE(column.lngColumnDecimalPlaces.IsSet());
-  EXPECT_TRUE(copy.lngColumnDecimalPlaces.IsSet());
-}
-
-TEST(clsDataLogColumn, AConversionTypeIsHeldToItsRange) {
-  clsDataLogColumn column;
   column.lngConversionType = 7;
   EXPECT_EQ(column.lngConversionType, kDateAndTime);
   column.lngConversionType = -5;
   EXPECT_EQ(column.lngConversionType, kPlainNumber);
-}
-
-TEST(clsDataLogColumn, DuplicatesShareTheValueList) {
-  const clsDataLogColumn column;
-  column.Duplicate().objColumnValues->Add("On", 0);
+  const clsDataLogColumn copy = column.Duplicate();
+  EXPECT_TRUE(copy.dblOffset.IsSet() && copy.lngColumnDecimalPlaces.IsSet());
+  EXPECT_FALSE(copy.dblMinValue.IsSet());
+  copy.objColumnValues->Add("On", 0);
   EXPECT_EQ(column.objColumnValues->Count(), 1);
 }
 
@@ -80,12 +68,12 @@ TEST(clsDataLogColumns, TellOfAnItem) {
   for (const char* title : {"TitleA", "TitleB"}) columns.AddDirect(Column(title, 5));
   std::string name = "n", description = "d", titles;
   bool found = false;
-  columns.DataItemDetails(6, name, description, found, titles);
-  EXPECT_FALSE(found);
-  EXPECT_EQ(name + description + titles, "nd");
-  columns.DataItemDetails(5, name, description, found, titles);
-  EXPECT_TRUE(found);
-  EXPECT_EQ(name + "|" + description + "|" + titles, "Name of TitleB|About TitleB|TitleA, TitleB");
+  for (const int item : {6, 5}) {
+    columns.DataItemDetails(item, name, description, found, titles);
+    EXPECT_EQ(found, item == 5);
+    EXPECT_EQ(name + "|" + description + "|" + titles,
+              found ? "Name of TitleB|About TitleB|TitleA, TitleB" : "n|d|");
+  }
   columns.Remove(1);
   EXPECT_TRUE(columns.DataItemInColumns(5));
   columns.Remove(1);
