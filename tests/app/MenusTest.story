@@ -1,4 +1,4 @@
-== AndAllElseOfTheirWindowsIsAsItIsToldWhole
+== WithTheirWindowsAreAsTheyAreToldWhole
 whole
 click mnuHelpAbout -> +frmAbout
 whole; close -> -frmAbout

@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QTest>
-
 #include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/chart/ChartGestures.h"

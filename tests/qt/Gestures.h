@@ -1,12 +1,6 @@
 #pragma once
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QMouseEvent>
-#include <QUrl>
-#include <QWheelEvent>
-#include <QWidget>
+#include <QtWidgets>
 #include <cmath>
 #include <string>
 #include <vector>

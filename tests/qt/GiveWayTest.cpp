@@ -1,11 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QVBoxLayout>
-
 #include "qt/TestApplication.h"
 #include "qt/host/GiveWay.h"
 

@@ -1,11 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QFrame>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cstdlib>
 

@@ -1,13 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QScrollBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTextBlock>
-#include <QTimer>
-
 #include "app/frmAbout.h"
 #include "qt/TestApplication.h"
 #include "qt/host/ManualWindow.h"

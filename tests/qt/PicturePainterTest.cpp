@@ -1,8 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QFile>
-#include <QImage>
-#include <QTemporaryDir>
 #include <cmath>
 
 #include "qt/TestApplication.h"

@@ -1,10 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QClipboard>
-#include <QFile>
-#include <QMimeData>
 #include <QPrinter>
-#include <QTemporaryDir>
 
 #include "desk/PageLayout.h"
 #include "qt/TestApplication.h"

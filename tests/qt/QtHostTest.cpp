@@ -1,11 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-
 #include "app/frmAbout.h"
 #include "app/frmNonModalMessage.h"
 #include "qt/Gestures.h"
@@ -20,6 +14,13 @@ namespace {
 class QtHostTest : public testing::Test {
  protected:
   ~QtHostTest() override { Settle(); }
+
+  /// A box, which that answers once it is on show.
+  Reply Asked(const std::function<void(QMessageBox& box)>& answer, Box box) {
+    QTimer::singleShot(
+        0, [&] { answer(*qobject_cast<QMessageBox*>(QApplication::activeModalWidget())); });
+    return host.Ask(box);
+  }
 
   QApplication& application = TestApplication();
   QtHost host;
@@ -90,23 +91,24 @@ TEST_F(QtHostTest, BoxesAnswerWithTheirButtons) {
               {kBoxYesNo, Qt::Key_Escape, Reply::No},
               {kBoxYesNoCancel + kBoxExclamation, Qt::Key_Escape, Reply::Cancel},
               {kBoxOk, Qt::Key_Escape, Reply::Ok}};
-  for (const auto& row : rows) {
-    QTimer::singleShot(0, [&] { QTest::keyClick(QApplication::activeModalWidget(), row.key); });
-    EXPECT_EQ(host.Ask({1, "Line one\r\nline two", row.style, "Tarnview"}), row.reply) << row.style;
-  }
+  for (const auto& row : rows)
+    EXPECT_EQ(Asked([&](QMessageBox& box) { QTest::keyClick(&box, row.key); },
+                    {1, "Line one\r\nline two", row.style, "Tarnview"}),
+              row.reply)
+        << row.style;
 }
 
 TEST_F(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
   for (const bool take : {true, false}) {
-    QTimer::singleShot(0, [&] {
-      QWidget* const box = QApplication::activeModalWidget();
-      if (!take) return QTest::keyClick(box, Qt::Key_Escape);
-      for (auto* button : box->findChildren<QPushButton*>())
+    const auto answer = [&](QMessageBox& box) {
+      if (!take) return QTest::keyClick(&box, Qt::Key_Escape);
+      for (auto* button : box.findChildren<QPushButton*>())
         if (button->text() == "&Open Report") button->click();
-    });
+    };
     int taken = 0;
-    EXPECT_EQ(host.Ask({83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}),
-              Reply::Ok);
+    EXPECT_EQ(
+        Asked(answer, {83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}),
+        Reply::Ok);
     EXPECT_EQ(taken, take);
   }
 }
@@ -118,19 +120,16 @@ TEST_F(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
               {std::string(20000, 'x'), ""},
               {QString("a column\r\n").repeated(300).toStdString(), ""}};
   for (const auto& row : rows) {
-    QTimer::singleShot(0, [&] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      const QSize screen = box->screen()->availableSize();
-      EXPECT_LT(box->height(), screen.height());
-      EXPECT_LT(box->width(), screen.width());
-      EXPECT_EQ(box->textFormat(), Qt::PlainText);
-      if (row.shown.empty())
-        EXPECT_TRUE(box->text().endsWith("..."));
-      else
-        EXPECT_EQ(box->text().toStdString(), row.shown);
-      QTest::keyClick(box, Qt::Key_Return);
-    });
-    EXPECT_EQ(host.Ask({1, row.text, kBoxOk, "Tarnview [*]"}), Reply::Ok);
+    const auto answer = [&](QMessageBox& box) {
+      const QSize screen = box.screen()->availableSize();
+      EXPECT_TRUE(box.height() < screen.height() && box.width() < screen.width());
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      const std::string shown = box.text().toStdString();
+      EXPECT_EQ(row.shown.empty() ? shown.substr(shown.size() - 3) : shown,
+                row.shown.empty() ? "..." : row.shown);
+      QTest::keyClick(&box, Qt::Key_Return);
+    };
+    EXPECT_EQ(Asked(answer, {1, row.text, kBoxOk, "Tarnview [*]"}), Reply::Ok);
   }
 }
 
@@ -203,12 +202,12 @@ TEST_F(QtHostTest, AFileDroppedBehindADialogIsRefused) {
   Working form(host);
   form.Show();
   QWidget& window = host.WindowOf(form)->window();
-  QTimer::singleShot(0, [&] {
+  const auto answer = [&](QMessageBox& box) {
     DropFile(window, "/logs/run.txt");
     Settle();
-    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-  });
-  form.host.Ask({1, "Text", kBoxOk, "Tarnview"});
+    QTest::keyClick(&box, Qt::Key_Escape);
+  };
+  Asked(answer, {1, "Text", kBoxOk, "Tarnview"});
   Settle();
   EXPECT_EQ(form.notes.find("drop"), std::string::npos) << form.notes;
   DropFile(window, "/logs/run.txt");
@@ -222,11 +221,11 @@ TEST_F(QtHostTest, ABoxBelongsToTheWindowThatTheUserIsIn) {
   graph.Show();
   const auto ownerOfBox = [&] {
     const QWidget* owner = nullptr;
-    QTimer::singleShot(0, [&] {
-      owner = QApplication::activeModalWidget()->parentWidget();
-      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-    });
-    host.Ask({1, "Text", kBoxOk, "Tarnview"});
+    const auto answer = [&](QMessageBox& box) {
+      owner = box.parentWidget();
+      QTest::keyClick(&box, Qt::Key_Escape);
+    };
+    Asked(answer, {1, "Text", kBoxOk, "Tarnview"});
     return owner;
   };
   EXPECT_EQ(ownerOfBox(), &host.WindowOf(graph)->window());

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QFileInfo>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QtWidgets>
 #include <filesystem>
 
 #include "qt/Text.h"

@@ -1,8 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QTemporaryDir>
-#include <QTest>
-
 #include "qt/Gestures.h"
 #include "qt/TestApplication.h"
 #include "qt/chart/ChartWidget.h"

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QApplication>
+#include <QTest>
+#include <QtWidgets>
 
 namespace tarnview {
 

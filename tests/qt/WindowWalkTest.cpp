@@ -1,14 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QAccessible>
-#include <QAction>
-#include <QFile>
-#include <QLabel>
-#include <QMainWindow>
-#include <QMenu>
-#include <QProgressBar>
-#include <QRegularExpression>
-#include <QScrollBar>
 #include <map>
 #include <set>
 
@@ -60,15 +51,6 @@ TEST(WindowWalkTest, NamesWhatDoesNotFit) {
   EXPECT_THAT(WindowFaults(form, window), UnorderedElementsAre("frmTwo: nothing shows lblMember(3)",
                                                                "frmTwo: no control for lblStray",
                                                                "frmTwo: no control for mnuNone"));
-}
-
-TEST(WindowWalkTest, EveryWindowOpensTheManualAtAChapter) {
-  RecordingHost host;
-  AllWindows windows(host);
-  for (const Form* form : windows.Forms()) {
-    if (form->name == "frmSplash") continue;
-    EXPECT_NE(form->HelpTopic, "") << form->name;
-  }
 }
 
 /// A reader of the screen says a name for whatever can be looked at or worked.
