@@ -65,7 +65,7 @@ TEST_F(UploadCommand, AMapHasZonesAlone) {
   const auto run = [&](const TableRow& row) { return Run(row.Text(0)).Told(row.Text(1)); };
   ExpectTable(run, R"(
 zones a.map --type 2 --json, /chip -> 0 {"engine_size":1.8,"chip_date":"2003-06-09","chip_version":2,"atmospheric_pressure":98}
-zones b.map --type 2 --compare a.map, names -> 0 differences chip_here chip_there
+zones b.map --type 2 --compare a.map, names /differences/0 -> 0 differences chip_here chip_there {"index":0,"name":"z0","here":"16","there":"15"}
 scatter a.map --type 2 --json, all -> 1 
 graph a.map --type 2 --json, all -> 1 
 table a.map --type 2, all -> 1 
