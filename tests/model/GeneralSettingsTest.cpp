@@ -105,7 +105,8 @@ TEST(Settings, HoldMoreThanTheList) {
         const Settings settings = ReadSettings(row.Lines());
         std::string told = Join(settings.recentFiles, " ") + (settings.firstRun ? " first" : "");
         const WindowPlacements& all = settings.windows;
-        for (const auto* window : {&all.main, &all.scatterGraph, &all.powerGraph, &all.speedGraph})
+        for (const auto* window :
+             {&all.main, &all.scatterGraph, &all.powerGraph, &all.speedGraph, &all.maintenance})
           if (*window)
             told += " " + std::to_string((*window)->lngWindowState) + " at " +
                     std::to_string((*window)->lngLeft) + " " + std::to_string((*window)->lngWidth) +
@@ -116,6 +117,7 @@ TEST(Settings, HoldMoreThanTheList) {
 [General]; First Run Indicator=Y ->  first | [General]; First Run Indicator=y -> 
 [Recently Used Files]; File 9=1|9.txt; File 8=1|8.txt; File 2=1|2.txt; File 0=1|0.txt; File 3= -> 1|0.txt 1|2.txt 1|8.txt
 [General]; Window Left=5; Scatter Graph Window State=2; Scatter Graph Window Left=-40; Scatter Graph Window Width=20000; Speed Graph Window State=9 ->  2 at -40 20000 x 4760 2 at 0 8970 x 4760
+[General]; Window State=0; Power Graph Window State=1; Maintenance Form Window State=1 ->  0 at 0 6640 x 6370 1 at 0 12390 x 7845 1 at 0 4185 x 4425
 )");
 }
 

@@ -6,26 +6,36 @@
 namespace tarnview {
 namespace {
 
+/// Samples and their times, the lowest air temperature, what was loaded, rows, tags and z5.
+std::string Told(const OpenLog& log) {
+  std::string told;
+  for (const int number :
+       {log.glngFirstSample, log.glngLastSample, log.glngFirstSampleTime, log.glngLastSampleTime,
+        log.glngFirstPlotSample, log.glngLowestAirTemp, int{log.gblnSamplesLoaded},
+        int{log.gblnZonesLoaded}, int{log.gblnChangesLoaded}, int{log.blnTooLong},
+        log.glngDataLog.Rows(), log.gcolLogTags.Count(), int{log.zones.zones[5]}})
+    told += std::to_string(number) + " ";
+  return told;
+}
+
 TEST(OpenLog, ClearDropsTheLog) {
   const Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
+  const std::string none = "0 0 0 0 -1 200 0 0 0 0 0 0 0 ";
+  EXPECT_EQ(Told(log), none);
   log.Clear(catalogue.gcolFixedDataItems, 10);
   log.glngDataLog.Set(kAF, log.glngDataLog.AddRow(), 14705);
   EXPECT_EQ(log.FormatDataItem(ItemOf(kAF), 0), "14.70");
   EXPECT_EQ(log.FormatDataItem(ItemOf(kBoost), 0), "");
-
   log.gcolLogTags.Add(1, 2);
-  log.gblnSamplesLoaded = log.gblnZonesLoaded = true;
+  log.gblnSamplesLoaded = log.gblnZonesLoaded = log.gblnChangesLoaded = log.blnTooLong = true;
   log.glngFirstPlotSample = log.glngFirstSample = log.glngLastSample = 7;
-  log.glngLowestAirTemp = -3;
+  log.glngFirstSampleTime = log.glngLastSampleTime = log.glngLowestAirTemp = -3;
   log.zones.zones[5] = 1;
+  EXPECT_EQ(Told(log), "7 7 -3 -3 7 -3 1 1 1 1 1 1 1 ");
   log.Clear(catalogue.gcolFixedDataItems, 0);
+  EXPECT_EQ(Told(log), none);
   EXPECT_EQ(log.glngDataLog.Columns(), gintColumnCount);
-  EXPECT_FALSE(log.gblnSamplesLoaded || log.gblnZonesLoaded);
-  EXPECT_EQ(log.glngFirstPlotSample, -1);
-  EXPECT_EQ(log.glngLowestAirTemp, kNoAirTemp);
-  EXPECT_EQ(log.glngDataLog.Rows() + log.gcolLogTags.Count() + log.zones.zones[5], 0);
-  EXPECT_EQ(log.glngFirstSample + log.glngLastSample, 0);
 }
 
 TEST(clsLogTags, ValidateTurnsAndCutsToTheLog) {
