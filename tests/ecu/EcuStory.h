@@ -16,58 +16,45 @@
 #include "support/FixedClock.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingProcesses.h"
+#include "support/Story.h"
 #include "support/Table.h"
 #include "support/WholeWindow.h"
-#include "support/WindowActions.h"
-#include "ui/RecordingHost.h"
 #include "zones/MapFile.h"
 #include "zones/ZoneNames.h"
+#include "zones/ZoneTexts.h"
 
 namespace tarnview {
 
 /// A program with ECU programs /link/L.exe and /mdos/C.exe and logs in /logs, and the story of its
-/// use: steps with "; " between them, and all that happened with " | " between.
+/// use: behind "did" all that happened outside its windows.
 class EcuStory : private RecordingHost,
                  private RecordingProcesses,
                  private Capture::MainWindow,
                  private Upload::Editor {
  public:
+  int expected = 0;
+
   EcuStory() : files_(memory_), programs_(*this, *this) {
+    memory_.files = {{"/link/L.exe", ""}, {"/mdos/C.exe", ""}, {"/logs/old.txt", "old"}};
     Prepare();
-    Do("file /link/L.exe=; file /mdos/C.exe=; file /logs/old.txt=old");
   }
   EcuStory(FileSystem& files, Processes& processes) : files_(files), programs_(processes, *this) {
     Prepare();
   }
-
-  std::string Do(const std::string& steps) {
-    for (const std::string& step : SplitAt(steps, "; ")) {
-      const auto blank = std::min(step.find(' '), step.size() - 1);
-      const auto verb = Verbs().find(step.substr(0, step.find(' ')));
-      EXPECT_NE(verb, Verbs().end()) << step;
-      if (verb != Verbs().end()) verb->second(step.substr(blank + 1));
-    }
-    return std::exchange(told_, "");
-  }
-  const EcuWorld& World() const { return world_; }
+  std::string Play(const std::string& story) { return story_.Play(story); }
 
  private:
-  using Texts = std::vector<std::string>;
-
   void Prepare() {
-    Do("set Log EXE=/link/L.exe; set Conversion EXE=/mdos/C.exe; "
-       "set Default Working Directory=/logs/; set Default Chip Date=2003-06-09; "
-       "set Default Engine Size=1.8; set Default Atmospheric Pressure=98; form 1.8 2003-06-09; "
-       "user frmNewDownload type txtFileName run, click cmdOK; user frmUpload click cmdOK; "
-       "user frmUploadConf click cmdYes; user frmConvertBIN type txtPath(0) /logs/run.bin, "
-       "type txtPath(1) /logs/run, click cmdOK; L /link/miata.dat=binary /link/miata.map=zones");
+    for (const char* line : {"Log EXE=/link/L.exe", "Conversion EXE=/mdos/C.exe",
+                             "Default Working Directory=/logs/", "Default Chip Date=2003-06-09",
+                             "Default Engine Size=1.8", "Default Atmospheric Pressure=98"})
+      Set(line);
     for (std::size_t n = 0; n < form_.zones.size(); ++n)
       form_.zones[n] = static_cast<std::int16_t>(n);
     WhyNotSave = [this](const Dialog& chosen) {
       if (!chosen.ofOpenFile && chosen.path == openFile_) return "Open:";
       return files_.MayReplace(chosen.path) ? "" : "Protected:";
     };
-    work = [this](Form& form) { Use(form); };
     messages_.ShowNonModal = [this](auto&&...) { Tell("not in a box"); };
     whileRunning = [this](const std::string& command) {
       if (const auto program = writes_.find(command[1]); program != writes_.end())
@@ -75,79 +62,92 @@ class EcuStory : private RecordingHost,
       else
         Put("/mdos/miatatmp.txt=text of " + Get("/mdos/miatatmp.bin"));
     };
+    story_.Event("did", [this] { return std::exchange(told_, ""); });
+    AddSurroundings();
+    AddDeeds();
   }
 
-  const std::map<std::string, std::function<void(const std::string& rest)>>& Verbs() {
-    if (!verbs_.empty()) return verbs_;
-    verbs_["set"] = [this](const std::string& line) {  // KEY=VALUE, as the file of settings has it
-      for (const SettingRow& row : AllSettings())
-        if (line.starts_with(std::string(row.key) + "="))
-          row.take(settings_, line.substr(line.find('=') + 1));
-    };
-    verbs_["file"] = [this](const std::string& file) { Put(file); };  // PATH=TEXT
-    verbs_["gone"] = [this](const std::string& path) { files_.DeleteFile(path); };
-    verbs_["broken"] = [this](const std::string& path) { memory_.broken.insert(path); };
-    verbs_["protected"] = [this](const std::string& path) { memory_.readOnly.insert(path); };
-    verbs_["open"] = [this](const std::string& path) { openFile_ = path; };
-    // What is done in a window, " then " before what is done in the next one of its class.
-    verbs_["user"] = [this](const std::string& line) {
-      users_[line.substr(0, line.find(' '))] = SplitAt(line.substr(line.find(' ') + 1), " then ");
-    };
-    verbs_["zones"] = [this](const std::string&) {
-      users_["frmNewDownload"] = {"type txtFileName run, click radFileType(1), click cmdOK"};
-    };
-    verbs_["L"] = [this](const std::string& does) { writes_['l'] = Split(does, ' '); };
-    verbs_["C"] = [this](const std::string& does) { writes_['m'] = Split(does, ' '); };
-    verbs_["exits"] = [this](const std::string& code) { exitCodes.push_back(std::stoi(code)); };
-    verbs_["trouble"] = [this](const std::string& why) { trouble = why; };
-    verbs_["ended"] = [this](const std::string&) { anyLeftAlone = false; };
-    verbs_["answer"] = [this](const std::string& line) {
-      using enum Answer::Kind;
-      static const std::map<std::string, Answer::Kind> kKinds{
-          {"yes", Yes}, {"no", No}, {"stop", Stop}, {"cancel", Cancel}};
-      const auto kind = kKinds.find(line);
-      answers.push_back(kind == kKinds.end() ? Answer{File, line} : Answer{kind->second});
-    };
-    verbs_["form"] = [this](const std::string& chip) {
-      form_ = {Size(chip), Day(chip), form_.zones};
-    };
+  using Text = const std::string&;
+  /// Engine size and date of an ECU of the second version.
+  static ChipIdentity Chip(Text text) { return tarnview::Chip(text + " 2"); }
+  void Verb(Text name, const std::function<void(Text rest)>& run) {
+    story_.Verb(name, [run](const Story::Words& words) { run(Join(words, " ")); });
+  }
+  void AddSurroundings() {
+    Verb("set", [this](Text line) { Set(line); });   // KEY=VALUE, as the file of settings has it
+    Verb("file", [this](Text file) { Put(file); });  // PATH=TEXT
+    Verb("gone", [this](Text path) { files_.DeleteFile(path); });
+    Verb("broken", [this](Text path) { memory_.broken.insert(path); });
+    Verb("protected", [this](Text path) { memory_.readOnly.insert(path); });
+    Verb("open", [this](Text path) { openFile_ = path; });
+    Verb("L", [this](Text does) { writes_['l'] = Split(does, ' '); });
+    Verb("C", [this](Text does) { writes_['m'] = Split(does, ' '); });
+    Verb("exits", [this](Text code) { exitCodes.push_back(std::stoi(code)); });
+    Verb("trouble", [this](Text why) { trouble = why; });
+    Verb("ended", [this](Text) { anyLeftAlone = false; });
+    Verb("fails", [this](Text what) { fails_.insert(what); });
+    Verb("form", [this](Text chip) {
+      form_ = {Chip(chip).dblEngineSize, Chip(chip).datChipDate, form_.zones};
+    });
     // Another value in z1 and none in z875.
-    verbs_["comparison"] = [this](const std::string& chip) {
+    Verb("comparison", [this](Text chip) {
       comparison_.emplace();
       comparison_->zones = form_.zones;
-      comparison_->chip = {Size(chip), Day(chip), 2};
+      comparison_->chip = Chip(chip);
       comparison_->zones[1] = 99;
       comparison_->zones[255] = -1;
-    };
-    verbs_["fails"] = [this](const std::string& what) { fails_.insert(what); };
-    verbs_["capture"] = [this](const std::string&) { capture_.Run(); };
-    verbs_["upload"] = [this](const std::string&) { upload_.Run(form_); };
-    verbs_["convert"] = [this](const std::string&) {
+    });
+    Verb("leftovers", [this](Text) {
+      for (const char* folder : {"/link/", "/mdos/"})
+        for (const char* name : {"miata.dat", "miata.map", "miatatmp.bin", "miatatmp.txt"})
+          Put(std::string(folder) + name + "=" + folder);
+    });
+    // What was sent in that year, and two files that were not.
+    Verb("fifty", [this](Text year) {
+      for (const char* name : {"mine", "TVW"}) Put(std::string("/logs/Uploads/") + name + ".map=");
+      for (int n = 10; n < 60; ++n)
+        Put("/logs/Uploads/TVW " + year + "-01-01 00-00-" + std::to_string(n) + ".map=");
+    });
+  }
+  void AddDeeds() {
+    Verb("capture", [this](Text) { capture_.Run(); });
+    Verb("upload", [this](Text) { upload_.Run(form_); });
+    Verb("convert", [this](Text) {
       frmConvertBIN window(world_, openFile_);
       window.ShowModal();
       Tell("target " + OrElse(window.TargetPath(), "none"));
-    };
-    verbs_["setting"] = [this](const std::string& key) {
+    });
+    Verb("name", [this](Text name) {  // a file of zone settings
+      frmNewDownload window(world_, {NewFileType::ZoneSettings, name, true});
+      window.ShowModal();
+    });
+    Verb("whole", [this](Text) { ExpectWhole(*Front(), TARNVIEW_TESTS); });
+    Verb("setting", [this](Text key) {
       for (const SettingRow& row : AllSettings())
         if (key == row.key) Tell(row.text(settings_));
-    };
-    verbs_["read"] = [this](const std::string& path) { Tell(Get(path)); };
-    verbs_["left"] = [this](const std::string&) { Tell(LeftAlone()); };
-    verbs_["list"] = [this](const std::string& start) {
+    });
+    Verb("read", [this](Text path) { Tell(Get(path)); });
+    Verb("left", [this](Text) { Tell(LeftAlone()); });
+    // What stands behind START in the paths that begin with it.
+    Verb("list", [this](Text start) {
       std::string names;
       for (const auto& [path, bytes] : memory_.files)
-        if (path.starts_with(start)) names += path + " ";
+        if (path.starts_with(start)) names += path.substr(start.size()) + " ";
       Tell(names);
-    };
-    return verbs_;
+    });
   }
 
-  void Tell(const std::string& what) { told_ += (told_.empty() ? "" : " | ") + what; }
-  void Put(const std::string& file) {
+  void Set(Text line) {
+    for (const SettingRow& row : AllSettings())
+      if (line.starts_with(std::string(row.key) + "="))
+        row.take(settings_, line.substr(line.find('=') + 1));
+  }
+  void Tell(Text what) { told_ += (told_.empty() ? "" : " | ") + what; }
+  void Put(Text file) {
     if (const auto sign = file.find('='); sign != std::string::npos)
       files_.Write(file.substr(0, sign), file.substr(sign + 1));
   }
-  std::string Get(const std::string& path) {
+  std::string Get(Text path) {
     const auto bytes = files_.Read(path);
     return bytes ? std::string(std::string_view(*bytes)) : "";
   }
@@ -160,44 +160,13 @@ class EcuStory : private RecordingHost,
     if (names[0].size() < names[1].size()) return "all but" + names[0];
     return names[1].substr(1);
   }
-  static double Size(const std::string& chip) { return std::stod(chip); }
-  static Date Day(const std::string& chip) { return StringToDate(chip.substr(4), kNoDate); }
-
-  /// "show NAME" among what the user does tells what a control holds, and "<" where it has the
-  /// focus; "whole" compares the window with its text.
-  void Use(Form& form) {
-    Tell(form.name);
-    Texts& turns = users_[form.name];
-    const std::string actions = turns.front();
-    if (turns.size() > 1) turns.erase(turns.begin());
-    for (const std::string& action : SplitAt(actions, ", ")) {
-      if (action.starts_with("show "))
-        Tell(Shown(*ControlOf(form, action.substr(5))));
-      else if (action == "whole")
-        ExpectWhole(form, TARNVIEW_TESTS);
-      else
-        Act(form, action);
-    }
-    if (form.IsShown()) Tell("stays");
-  }
-  static std::string Shown(const Control& control) {
-    std::string facts;
-    for (const auto& [name, value] : control.Facts()) {
-      if (const auto* text = std::get_if<std::string>(&value.Get());
-          text && (name != "caption" || control.Kind() == "label"))
-        facts += *text;
-      if (const auto* flag = std::get_if<bool>(&value.Get()); flag && name != "visible" && !*flag)
-        facts += " not " + name;
-    }
-    return facts + (control.form.ActiveControl() == &control ? "<" : "");
-  }
 
   Reply Ask(const Box& box) override {
-    Tell((box.id ? std::to_string(box.id) : box.text) + "/" + std::to_string(box.style));
+    Tell("box of " + std::to_string(box.style));
     return RecordingHost::Ask(box);
   }
   bool Choose(Dialog& dialog) override {
-    Tell(dialog.title + " from " + dialog.initialPath);
+    Tell("looks into " + dialog.initialPath);
     return RecordingHost::Choose(dialog);
   }
   RunResult Run(const ProgramCall& call, const std::string& folder,
@@ -206,7 +175,7 @@ class EcuStory : private RecordingHost,
     return RecordingProcesses::Run(call, folder, keepWaiting);
   }
   /// What the main window was asked for; false where the story lets it fail.
-  bool Asked(const std::string& what, const std::string& with = "") {
+  bool Asked(Text what, Text with = "") {
     Tell(what + with);
     return !fails_.contains(what);
   }
@@ -226,11 +195,11 @@ class EcuStory : private RecordingHost,
   }
 
   std::string told_, openFile_;
-  std::map<std::string, std::function<void(const std::string& rest)>> verbs_;
-  std::map<std::string, Texts> users_;
-  std::map<char, Texts> writes_;  ///< by the program's folder; without an entry /mdos converts
+  /// What a program does, by its folder; without an entry /mdos converts.
+  std::map<char, std::vector<std::string>> writes_{
+      {'l', {"/link/miata.dat=binary", "/link/miata.map=zones"}}};
   std::set<std::string> fails_;
-  ZonesToUpload form_;
+  ZonesToUpload form_{1.8, MakeDate(2003, 6, 9), {}};
   std::optional<ZoneMap> comparison_;
   MemoryFileSystem memory_;
   FileSystem& files_;
@@ -241,18 +210,19 @@ class EcuStory : private RecordingHost,
   EcuWorld world_{*this, settings_, files_, clock_, programs_, messages_};
   Capture capture_{world_, *this};
   Upload upload_{world_, *this};
+  Story story_{*this};
 };
 
-/// All that a story told as one line of a table.
-inline std::string InOneLine(const std::string& told) {
-  return Join(SplitAt(Join(SplitAt(told, " | "), "; "), "\r\n"), "\\n");
-}
+/// A text of stories, of which each paragraph begins with a fresh program.
+struct EcuStories {
+  int expected = 0;
 
-/// Each line a story from its start: steps, " -> ", what they told.
-inline void ExpectStories(const std::string& table, const char* source = __builtin_FILE(),
-                          int line = __builtin_LINE()) {
-  ExpectTable([](const TableRow& row) { return InOneLine(EcuStory().Do(row.All())); }, table,
-              source, line);
-}
+  static std::string Play(const std::string& text) {
+    std::vector<std::string> told;
+    for (const std::string& story : SplitAt(text.substr(0, text.size() - 1), "\n\n"))
+      told.push_back(EcuStory().Play(story));
+    return Join(told, "\n\n") + "\n";
+  }
+};
 
 }  // namespace tarnview
