@@ -54,11 +54,17 @@ void Customising::TakeOptions(frmOptions& window) {
   if (changed && !taken) globals_.settings.gstrGenericDefinitionFile = oldPath;
   if (taken) TakeDefinition(draft);
   CopyItemDisplay(draft.catalogue.gcolFixedDataItems, globals_.catalogue.gcolFixedDataItems);
-  if (taken || !changed)
-    CopyItemDisplay(draft.catalogue.gcolUniversalDataItems,
-                    globals_.catalogue.gcolUniversalDataItems);
+  if (taken || !changed) TakeUniversalDisplay(draft.catalogue.gcolUniversalDataItems);
   mainWindow_.OptionsChanged();
   mainWindow_.WriteINIFile();
+}
+
+/// Behind a log that has brought its own definition stands that of the settings, which draws the
+/// next log.
+void Customising::TakeUniversalDisplay(const clsLogDataItems& items) {
+  CopyItemDisplay(items, globals_.catalogue.gcolUniversalDataItems);
+  if (globals_.definitionOfSettings)
+    CopyCatalogueDisplay(items, globals_.definitionOfSettings->items);
 }
 
 /// A log that was read by the old definition is closed first; No keeps both.

@@ -49,6 +49,7 @@ class Customising {
   void TakeOptions(frmOptions& window);
   bool MayChangeDefinition();
   void TakeDefinition(const OptionsDraft& draft);
+  void TakeUniversalDisplay(const clsLogDataItems& items);
 
   void MaintainList(KeptList list);
   template <class Collection>
