@@ -1,6 +1,6 @@
 == WithoutALogNothingIsDrawn
 click cmdDrawGraph -> graph=1-50 at 26, txtYMax=240, staDataLogViewer[0]=Sample: 26, Secs: 2.130
-load /logs/none.txt 1; show lvwSampleDetails[1] -> lvwSampleDetails[1]=[Sample|], lvwSampleDetails[1] unchecked, lvwSampleDetails[1] unselected, [15 ok], [12 ok], graph=none, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+load /logs/none.txt 1; show lvwSampleDetails[1] -> lvwSampleDetails[1]=[Sample|], lvwSampleDetails[1] unchecked, lvwSampleDetails[1] unselected, [15 ok], [12 ok], opened no, graph=none, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
 tick lvwSampleDetails Knock on; key Ctrl+I; key Ctrl+End; key Alt+Left; key Shift+Left; type hsbGraphScroll 20 -> not taken, cannot: hsbGraphScroll is disabled
 click cmdDrawGraph -> cannot: cmdDrawGraph is disabled
 

@@ -15,7 +15,7 @@ click mnuCustomisePresetSample -> +frmMaint
 double lvwNameList Knock -> +frmPresetSampleDetails
 type txtName Renamed; click cmdOK -> -frmPresetSampleDetails
 click cmdOK -> -frmMaint, presets=Renamed of 1: 20 5 3 to 80; Other of 6: 1 to 0; None of 1: to 0; Mine of 1: 20 5 3 to 75
-show lvwPresets[1] -> lvwPresets[1]=[Renamed], lvwPresets[1] unselected
+show lvwPresets[1] lvwPresets[3] -> lvwPresets[1]=[Renamed], lvwPresets[1] unselected, lvwPresets[3]=[Mine], lvwPresets[3] unselected
 click mnuCustomisePresetScatter -> +frmMaint
 click cmdNew -> +frmPresetScatterDetails
 choose imgcboYAxis "Knock Sensor"; click cmdOK -> -frmPresetScatterDetails
@@ -43,7 +43,7 @@ type txtSampleNumber 500; click cmdCancel -> -frmGoto
 == AnExportKeepsItsPathUntilTheNextLog
 answer file /logs/other.csv; click mnuFileExport -> [save "Export" of CSV files (*.csv) /logs/other.csv], wrote other.csv, staDataLogViewer[0]=Export complete
 disk full; answer ok; click mnuFileExport -> [save "Export" of CSV files (*.csv) ok], [64 ok], wrote other.csv, staDataLogViewer[0]=
-disk well; load /logs/run.txt -> [16 ok], staDataLogViewer[0]=Loading complete
+disk well; load /logs/run.txt -> [16 ok], opened yes, staDataLogViewer[0]=Loading complete
 answer ok; click mnuFileExport -> [save "Export" of CSV files (*.csv) ok], wrote run.csv, staDataLogViewer[0]=Export complete
 
 == ZoneInfluenceFollowsTheSelectedSampleOfALinkLog
@@ -51,4 +51,4 @@ show fraZoneInfl mnuViewZoneInfl lblZoneInfl(0) -> fraZoneInfl=Zone Influence, m
 click cmdDrawGraph; show lblZoneInfl(0) lblZoneInfl(1) lblZoneInfl(2) lblZoneInfl(3) -> lblZoneInfl(0)=105, lblZoneInfl(1)=110, lblZoneInfl(2)=205, lblZoneInfl(3)=210, graph=1-40 at 20, txtYMax=240, staDataLogViewer[0]=Sample: 20, Secs: 1.638
 click mnuViewZoneInfl; show "fraZoneInfl visible" "mnuViewZoneInfl checked" -> fraZoneInfl hidden
 click mnuViewZoneInfl; show "fraZoneInfl visible" "mnuViewZoneInfl checked" -> mnuViewZoneInfl checked
-load /logs/none.txt; show lblZoneInfl(0) lblZoneInfl(1) lblZoneInfl(2) lblZoneInfl(3) "mnuViewZoneInfl enabled" -> lblZoneInfl(0)=, lblZoneInfl(1)=, lblZoneInfl(2)=, lblZoneInfl(3)=, mnuViewZoneInfl off, [15 ok], [12 ok], graph=none, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+load /logs/none.txt; show lblZoneInfl(0) lblZoneInfl(1) lblZoneInfl(2) lblZoneInfl(3) "mnuViewZoneInfl enabled" -> lblZoneInfl(0)=, lblZoneInfl(1)=, lblZoneInfl(2)=, lblZoneInfl(3)=, mnuViewZoneInfl off, [15 ok], [12 ok], opened no, graph=none, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=

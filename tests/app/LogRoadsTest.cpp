@@ -14,7 +14,8 @@ namespace {
 class Roads : public ProgramFixture {
  protected:
   Roads() {
-    story.Verb("content", [this](const auto& words) { Main().Files().OpenByContent(words[0]); });
+    story.Verb("content",
+               [this](const auto& words) { Opened(Main().Files().OpenByContent(words[0])); });
     story.Fact("as", [this] { return Runs() ? program->Global().takenAs : std::string(); });
     story.Fact("cells", [this] {
       std::string cells;
@@ -66,7 +67,8 @@ TEST_F(Roads, OwnItemsAreDrawnAsTheirTitlesWere) {
       "Time (s),More,widget (V),RPM\n0,1,1.5,900\n1,2,1.6,910\n2,3,1.7,920\n3,4,1.8,930\n";
   story.Fact("own", [this] {
     std::string told;
-    for (int item = 101; Log().gcolDataItems && item <= Log().gcolDataItems->Count(); ++item) {
+    for (int item = 3; Log().gcolDataItems && item <= Log().gcolDataItems->Count(); ++item) {
+      if (item == 4) item = 101;
       const clsLogDataItem& one = Log().gcolDataItems->Item(item);
       if (!one.strLongName.empty())
         told += one.strLongName + " " + std::to_string(one.lngColour) +

@@ -9,8 +9,8 @@ edit; answer cancel; ask -> [Do you want to save the changes made to b.map? canc
 answer no; ask -> [Do you want to save the changes made to b.map? no], goes on=yes
 answer yes; ask -> [Do you want to save the changes made to b.map? yes], wrote b.map, edited=no
 ask
-load /car/none.map 2; show "mnuFileSave enabled" -> mnuFileSave off, [53, File not found ok], [56 ok], [12 ok], caption=Tarnview, staDataLogViewer[0]=Loading failed
-put /car/no.map none; load /car/no.map 2 -> [56 ok], [12 ok]
+load /car/none.map 2; show "mnuFileSave enabled" -> mnuFileSave off, [53, File not found ok], [56 ok], [12 ok], opened no, caption=Tarnview, staDataLogViewer[0]=Loading failed
+put /car/no.map none; load /car/no.map 2 -> [56 ok], [12 ok], opened no
 
 == WhatIsNotToBeWrittenOver
 start /car/a.map -> +frmDataLogViewer
@@ -20,5 +20,5 @@ answer yes; click mnuFileSave -> [a.map was changed by another program since it 
 # It is protected by its owner.
 protect /car/a.map; edit; answer ok; answer file /car/a.map; answer ok; answer file /car/b.map; click mnuFileSave -> [This file is write-protected:\n/car/a.map\n\nPlease choose another name. ok], [save "Save As" of FM Link MAP Files (*.map) /car/a.map], [This file is write-protected:\n/car/a.map\n\nPlease choose another name. ok], [save "Save As" of FM Link MAP Files (*.map) /car/b.map], wrote b.map, caption=Tarnview - b.map (FM Link MAP File)
 # It is the log that the zones came from.
-load /car/run.map 1 -> [16 ok], caption=Tarnview - run.map (FM Link Data Log), PlotRangeFrom=1, PlotRangeTo=20, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete, staDataLogViewer[2]=Sample Load Range 1 - 20
+load /car/run.map 1 -> [16 ok], opened yes, caption=Tarnview - run.map (FM Link Data Log), PlotRangeFrom=1, PlotRangeTo=20, lblEmptyPlace=Press Draw, or Enter, staDataLogViewer[0]=Loading complete, staDataLogViewer[2]=Sample Load Range 1 - 20
 edit; answer yes; answer ok; answer file /car/zones.map; ask -> [Do you want to save the changes made to run.map? yes], [The log that is open is never written over:\n/car/run.map\n\nPlease choose another name. ok], [save "Save As" of FM Link MAP Files (*.map) /car/zones.map], wrote zones.map, caption=Tarnview - zones.map (FM Link MAP File), staDataLogViewer[0]=Saving complete

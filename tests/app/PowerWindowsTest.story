@@ -1,7 +1,7 @@
 == KeepTheirGraphWhenTheLogGoes
 click mnuModulesPowerGraph; show caption txtPlotRangeFrom txtPlotRangeTo cboCarDefs -> caption=Tarnview Power Graph - run.txt, txtPlotRangeFrom=1, txtPlotRangeTo=60, cboCarDefs list=[Original], cboCarDefs=Original, +frmPowerGraph
 click cmdDrawGraph; show "mnuToolsCopy enabled" "chPowerGraph series count" -> chPowerGraph series count=2, staPowerGraph[0]=Graph draw complete
-load /other.txt 1; show caption "mnuToolsCopy enabled" "chPowerGraph series count" -> caption=Tarnview Power Graph - run.txt, mnuToolsCopy off, chPowerGraph series count=2, [16 ok], frmDataLogViewer/caption=Tarnview - other.txt (FM Link Data Log), frmDataLogViewer/PlotRangeTo=30, frmDataLogViewer/staDataLogViewer[2]=Sample Load Range 1 - 30, txtPlotRangeTo=30
+load /other.txt 1; show caption "mnuToolsCopy enabled" "chPowerGraph series count" -> caption=Tarnview Power Graph - run.txt, mnuToolsCopy off, chPowerGraph series count=2, [16 ok], opened yes, frmDataLogViewer/caption=Tarnview - other.txt (FM Link Data Log), frmDataLogViewer/PlotRangeTo=30, frmDataLogViewer/staDataLogViewer[2]=Sample Load Range 1 - 30, txtPlotRangeTo=30
 click frmPowerGraph/mnuToolsSpeed; show caption -> caption=Tarnview Speed Graph - run.txt, +frmSpeedGraph
 close frmDataLogViewer -> -frmDataLogViewer, -frmPowerGraph, -frmSpeedGraph
 

@@ -23,10 +23,10 @@ class ProgramFixture : public DeskTest {
       story.PassOver(part);
     story.Verb("start", [this](const Words& words) { Start(WordOr(words, 0)); });
     story.Verb("load", [this](const Words& words) {
-      Main().LoadDataFile(words[0], StringToLong(WordOr(words, 1)));
+      Opened(Main().LoadDataFile(words[0], StringToLong(WordOr(words, 1))));
     });
     story.Verb("open", [this](const Words& words) {
-      Main().Files().OpenFile(words[0], StringToLong(WordOr(words, 1)));
+      Opened(Main().Files().OpenFile(words[0], StringToLong(WordOr(words, 1))));
     });
     story.Verb("drop", [this](const Words& words) { Main().DropFile(words[0]); });
     story.Verb("range", [this](const Words& words) { Draw(words[0], words[1]); });
@@ -36,6 +36,7 @@ class ProgramFixture : public DeskTest {
     story.Fact("graph", [this] { return Graph(); });
     story.Fact("edited", [this] { return Runs() && Log().gblnZonesDirty ? "yes" : "no"; });
     story.Event("wrote", [this] { return Written(); });
+    story.Event("opened", [this] { return std::exchange(opened_, ""); });
   }
   void Start(const std::string& commandLine = "", const std::string& settings = "") {
     files.files["/car/error.log"] = "old";
@@ -84,6 +85,8 @@ class ProgramFixture : public DeskTest {
     return ids;
   }
 
+  /// What a file's opening answered, which the story tells.
+  void Opened(bool loaded) { opened_ += loaded ? "yes" : "no"; }
   /// Whether the main window is open.
   bool Runs() const {
     return program && std::any_of(host.open.begin(), host.open.end(), [](const Form* form) {
@@ -125,6 +128,7 @@ class ProgramFixture : public DeskTest {
     program->Start(commandLine, false);
   }
   std::size_t seen_ = 0;
+  std::string opened_;
 };
 
 }  // namespace tarnview
