@@ -1,5 +1,4 @@
-#include <gtest/gtest.h>
-
+#include "support/Table.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 #include "ui/CommandButton.h"
@@ -7,6 +6,8 @@
 #include "ui/Form.h"
 #include "ui/MenuItem.h"
 #include "ui/RecordingHost.h"
+#include "ui/Script.h"
+#include "ui/ScriptUser.h"
 #include "ui/ScrollBar.h"
 #include "ui/TextBox.h"
 #include "ui/UpDown.h"
@@ -65,100 +66,80 @@ class frmNotes : public Form {
 
 class FormTest : public testing::Test {
  protected:
+  /// Steps of a script, "; " between them, and "code WHAT NAME" for what code does: the notes.
+  std::string Done(const TableRow& row) {
+    for (const std::string& step : SplitAt(row.All(), "; ")) {
+      const auto words = ParseScript(step)[0].words;
+      try {
+        if (words[0] == "code")
+          Code(words);
+        else if (!user.Do(words))
+          user.Work(words);
+      } catch (const CannotDo&) {
+        form.notes += " cannot";
+      }
+    }
+    return form.Notes();
+  }
+  void Code(const std::vector<std::string>& words) {
+    Control* const control = words.size() > 2 ? form.Find(words[2]) : nullptr;
+    if (words[1] == "focus") form.SetFocus(control);
+    if (words[1] == "on" || words[1] == "off") control->Enabled = words[1] == "on";
+    if (words[1] == "hide") control->Visible = false;
+    if (words[1] == "text") form.txtName.Text = words[3];
+    if (words[1] == "press" && !form.Press(*ParseKeys(words[2]))) form.notes += " not taken";
+    if (words[1] == "eats") form.eats = words[2] == "yes";
+  }
+
   RecordingHost host;
   frmNotes form{host};
+  ScriptUser user{host};
 };
 
-TEST_F(FormTest, CodeAndHandRaiseTheSameEvents) {
-  form.txtName.Text = "a";
-  form.txtName.Text = "a";  // no change
-  EXPECT_EQ(form.Notes(), " change:a");
-  form.txtName.Do({"type", {"b"}});
-  EXPECT_EQ(form.Notes(), " got change:b lost");
-
-  form.chkOn.Value = true;
-  form.chkOn.Do({"click", {}});
-  EXPECT_EQ(form.Notes(), " on off");
-
+TEST_F(FormTest, CodeAndHandRaiseTheSameEventsAndWhatCannotBeDoneIsRefused) {
+  form.Show();
   form.cboSize.SetList({"small", "large"});
-  form.cboSize.SetListIndex(1);
-  EXPECT_EQ(form.Notes(), " size:large chosen");
-  form.cboSize.Do({"choose", {"#0"}});
-  EXPECT_EQ(form.Notes(), " size:small chosen");
-  form.cboSize.Do({"choose", {"large"}});
-  EXPECT_EQ(form.cboSize.ListIndex(), 1);
-  EXPECT_EQ(form.Notes(), " size:large chosen");
-
   EXPECT_EQ(form.hsbPlace.LargeChange, 1);
-  form.hsbPlace.Value = 7;
   form.hsbPlace.Max = 50;
-  form.hsbPlace.Do({"scroll", {"9000"}});
-  EXPECT_EQ(form.Notes(), " place:7 place:50");
-  form.updPlace.Do({"step", {"up"}});
-  EXPECT_EQ(form.Notes(), " up");
+  form.Notes();
+  ExpectTable([this](const TableRow& row) { return Done(row); }, R"(
+code text txtName a; code text txtName a ->  change:a | type txtName b ->  got change:b lost | click chkOn; click chkOn ->  on off
+choose cboSize large ->  size:large chosen | choose cboSize #0 ->  size:small chosen | scroll hsbPlace 7 ->  place:7 | scroll hsbPlace 9000 ->  place:50 | step updPlace up ->  up
+choose cboSize huge ->  cannot | choose cboSize #2 ->  cannot | scroll hsbPlace far ->  cannot | step updPlace sideways ->  cannot | click txtName ->  got cannot | type txtName ->  cannot
+code off cmdOK; click cmdOK ->  cannot | code hide mnuGoto; click mnuGoto ->  cannot
+)");
+  form.chkOn.Value = true;
+  form.cboSize.SetListIndex(1);
+  form.hsbPlace.Value = 8;
+  EXPECT_EQ(form.Notes(), " on size:large chosen place:8");
 }
 
-TEST_F(FormTest, WhatAUserCannotDoIsRefused) {
-  form.cmdOK.Enabled = false;
-  form.mnuGoto.Visible = false;
-  EXPECT_THROW(form.cmdOK.Do({"click", {}}), CannotDo);
-  EXPECT_THROW(form.mnuGoto.Do({"click", {}}), CannotDo);
-  EXPECT_THROW(form.txtName.Do({"click", {}}), CannotDo);
-  EXPECT_THROW(form.txtName.Do({"type", {}}), CannotDo);
-  EXPECT_THROW(form.cboSize.Do({"choose", {"huge"}}), CannotDo);
-  EXPECT_THROW(form.cboSize.Do({"choose", {"#0"}}), CannotDo);
-  EXPECT_THROW(form.hsbPlace.Do({"scroll", {"far"}}), CannotDo);
-  EXPECT_THROW(form.updPlace.Do({"step", {"sideways"}}), CannotDo);
-  EXPECT_EQ(form.txtName.Text(), "");
-}
-
-TEST_F(FormTest, EnterAndEscapePressTheirButtons) {
-  EXPECT_TRUE(form.Press({"Enter"}));
-  EXPECT_TRUE(form.Press({"Escape"}));
-  EXPECT_EQ(form.Notes(), " key:Enter ok key:Escape cancel");
-  form.txtName.SetFocus();
+TEST_F(FormTest, KeysGoToTheWindowThenTheControlThenButtonsAndMenus) {
+  form.txtName.KeyDown = [&](const KeyPress& key, bool& eaten) { eaten = key.key == "G"; };
   form.txtName.LostFocus = [&] {
     form.notes += " lost";
     if (form.txtName.Text->empty()) form.txtName.SetFocus();
   };
-  form.Press({"Enter"});
-  EXPECT_EQ(form.Notes(), " got key:Enter lost got")
-      << "a field that keeps the caret keeps the button from it";
-  form.txtName.Text = "a";
-  form.Press({"Enter"});
-  form.Press({"Enter"});
-  form.cmdCancel.SetFocus();
-  form.Press({"Enter"});
-  EXPECT_EQ(form.Notes(), " change:a key:Enter lost ok key:Enter ok key:Enter cancel");
-  form.SetFocus(nullptr);
-  EXPECT_FALSE(form.Press({"Enter", true}));  // with Shift it is another key
-  form.cmdOK.Enabled = false;
-  EXPECT_FALSE(form.Press({"Enter"}));
-  EXPECT_EQ(form.Notes(), " key:Enter key:Enter");
-}
-
-TEST_F(FormTest, AKeyGoesToWindowThenControlThenMenu) {
-  form.txtName.KeyDown = [&](const KeyPress& key, bool& eaten) { eaten = key.key == "G"; };
-  EXPECT_TRUE(form.Press(*ParseKeys("ctrl+g")));
-  EXPECT_EQ(form.Notes(), " key:G goto");
-  form.txtName.SetFocus();
-  EXPECT_TRUE(form.Press(*ParseKeys("Ctrl+G")));  // the field eats it
-  EXPECT_EQ(form.Notes(), " got key:G");
-  form.SetFocus(nullptr);
-  form.eats = true;
-  EXPECT_TRUE(form.Press(*ParseKeys("Ctrl+G")));
-  EXPECT_EQ(form.Notes(), " lost key:G");
-  form.eats = false;
-  form.mnuGoto.Enabled = false;
-  EXPECT_FALSE(form.Press(*ParseKeys("Ctrl+G")));
+  ExpectTable([this](const TableRow& row) { return Done(row); }, R"(
+code press Enter; code press Escape ->  key:Enter ok key:Escape cancel
+# A field that keeps the caret keeps the button from it.
+code focus txtName; code press Enter ->  got key:Enter lost got
+code text txtName a; code press Enter; code press Enter ->  change:a key:Enter lost ok key:Enter ok
+code focus cmdCancel; code press Enter ->  key:Enter cancel
+# With Shift it is another key.
+code focus nothing; code press Shift+Enter ->  key:Enter not taken | code off cmdOK; code press Enter ->  key:Enter not taken
+code press ctrl+g ->  key:G goto | code focus txtName; code press Ctrl+G ->  got key:G
+code focus nothing; code eats yes; code press Ctrl+G ->  lost key:G
+code eats no; code off mnuGoto; code press Ctrl+G ->  key:G not taken
+)");
 }
 
 TEST_F(FormTest, FocusLeavesOneControlBeforeItEntersTheNext) {
   form.chkOn.GotFocus = [&] { form.notes += " chk"; };
-  form.txtName.SetFocus();
-  form.txtName.SetFocus();
-  form.chkOn.SetFocus();
-  EXPECT_EQ(form.Notes(), " got lost chk");
+  const auto told = [this](const TableRow& row) { return Done(row); };
+  ExpectTable(told, R"(
+code focus txtName; code focus txtName; code focus chkOn ->  got lost chk
+)");
   // A field whose check fails takes the focus back.
   form.txtName.LostFocus = [&] { form.txtName.SetFocus(); };
   form.txtName.SetFocus();

@@ -170,65 +170,47 @@ TEST(SurfaceScene, AClickPicksTheCellInFront) {
   EXPECT_EQ(CellAt(MakeScene(hill, Room()), 3, behind->at, 5), std::pair(2, 2));
 }
 
-TEST(SurfaceScene, HeightShadesAndLockedCellsAreToldApart) {
-  Surface map = SmallMap(0, 60);
-  map.locked = {false, false, false, true, false, false};
-  const SurfaceScene scene = MakeScene(map, Room());
-  int locked = 0;
-  for (const SceneFace& face : scene.faces) {
-    EXPECT_TRUE(face.height >= 0 && face.height <= 1 && face.light > 0.5 && face.light <= 1);
-    if (face.kind != SceneFace::Kind::Locked) continue;
-    ++locked;
-    EXPECT_EQ(std::pair(face.row, face.column), std::pair(2, 1));
-    EXPECT_NEAR(face.height, (30 + 35 + 15 + 20) / 4.0 / 50, 1e-9);
-  }
-  EXPECT_EQ(locked, 1);
-}
-
-TEST(SurfaceScene, LinesRunFromCellToCellAndTheLightComesFromTheLeft) {
-  Surface rising = SmallMap(0, 60), falling = rising;
-  rising.values = {0, 25, 50, 0, 25, 50};
-  falling.values = {50, 25, 0, 50, 25, 0};
-  const SurfaceScene left = MakeScene(rising, Room()), right = MakeScene(falling, Room());
-  EXPECT_GT(left.faces[0].light, right.faces[0].light + 0.05);
-  for (const SceneFace& face : left.faces) {
-    if (face.kind != SceneFace::Kind::Ground || face.row != 1 || face.column != 1) continue;
-    EXPECT_EQ(face.lined, (std::array{true, false, false, true}));
-  }
-}
-
-TEST(SurfaceScene, EachLineAndFaceHasItsPlaceAndItsLight) {
+/// Of each face its cell, its kind (ground, locked, skirt), which of its edges are lined, height,
+/// light and corners.
+TEST(SurfaceScene, EachLineFaceAndLabelHasItsPlace) {
   std::string told = "\n";
   Surface map = SmallMap(30, 40);
   map.values = {0, 50, 10, 40, 5, 30};
+  map.locked = {false, false, false, true, false, false};
   const SurfaceScene scene = MakeScene(map, Room());
   for (const SceneLine& line : scene.walls)
     told += (line.edge ? "edge " : "line ") + FixedText(line.from.x, 0) + "," +
             FixedText(line.from.y, 0) + " " + FixedText(line.to.x, 0) + "," +
             FixedText(line.to.y, 0) + (&line == &scene.walls.back() ? "\n" : " | ");
   for (const SceneFace& face : scene.faces) {
-    told += FixedText(face.light, 2) + " at";
+    told += std::to_string(face.row) + "," + std::to_string(face.column) + " " +
+            "gls"[static_cast<int>(face.kind)] + " ";
+    for (const bool lined : face.lined) told += lined ? '|' : '.';
+    told += " " + FixedText(face.height, 2) + " " + FixedText(face.light, 2) + " at";
     for (const ScenePoint& corner : face.corners)
       told += " " + FixedText(corner.x, 0) + "," + FixedText(corner.y, 0);
     told += "\n";
   }
+  for (const SceneLabel& label : scene.labels)
+    told +=
+        label.text + " " + FixedText(label.centre.x, 0) + "," + FixedText(label.centre.y, 0) + "; ";
   ExpectTold(told, R"(
 line 210,358 107,244 | line 107,244 107,163 | line 351,306 249,192 | line 249,192 249,110 | line 493,253 390,139 | line 390,139 390,58 | line 107,244 390,139 | line 390,139 390,58 | line 210,358 493,253 | line 493,253 493,172 | line 107,204 390,99 | line 493,212 390,99 | line 107,163 390,58 | line 493,172 390,58 | edge 210,358 493,253 | edge 210,358 107,244 | edge 107,244 107,163 | edge 493,253 493,172 | edge 390,139 390,58
-0.77 at 320,117 390,123 441,164 371,184
-0.80 at 249,110 320,117 371,184 300,204
-0.88 at 371,184 441,164 493,204 422,251
-0.91 at 300,204 371,184 422,251 351,297
-1.00 at 178,177 249,110 300,204 229,236
-0.99 at 107,244 178,177 229,236 159,269
-0.95 at 229,236 300,204 351,297 280,295
-0.95 at 159,269 229,236 280,295 210,293
-1.00 at 210,293 280,295 280,332 210,358
-1.00 at 280,295 351,297 351,306 280,332
-1.00 at 351,297 422,251 422,279 351,306
-1.00 at 422,251 493,204 493,253 422,279
-0.80 at 107,244 159,269 159,301 107,244
-0.80 at 159,269 210,293 210,358 159,301
-)");
+1,3 g ||.. 0.42 0.77 at 320,117 390,123 441,164 371,184
+1,2 g |..| 0.66 0.80 at 249,110 320,117 371,184 300,204
+2,3 g .||. 0.46 0.88 at 371,184 441,164 493,204 422,251
+2,2 g ..|| 0.37 0.91 at 300,204 371,184 422,251 351,297
+1,2 g ||.. 0.63 1.00 at 178,177 249,110 300,204 229,236
+1,1 g |..| 0.34 0.99 at 107,244 178,177 229,236 159,269
+2,2 g .||. 0.39 0.95 at 229,236 300,204 351,297 280,295
+2,1 l ..|| 0.53 0.95 at 159,269 229,236 280,295 210,293
+2,1 s |... 0.00 1.00 at 210,293 280,295 280,332 210,358
+2,2 s |... 0.00 1.00 at 280,295 351,297 351,306 280,332
+2,2 s |... 0.00 1.00 at 351,297 422,251 422,279 351,306
+2,3 s |... 0.00 1.00 at 422,251 493,204 493,253 422,279
+1,1 s |... 0.00 0.80 at 107,244 159,269 159,301 107,244
+2,1 s |... 0.00 0.80 at 159,269 210,293 210,358 159,301
+00 214,371; 05 356,318; 10 497,266; RPM 364,339; 100 95,255; 200 193,373; MAP 126,331; 25 95,204; 50 95,163; Fuel 107,146; )");
 }
 
 TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
