@@ -56,14 +56,5 @@ TEST_F(DriveGridsTest, ACellGoesThroughItsSamplesInTheGraph) { EXPECT_STORY(stor
 
 TEST_F(DriveGridsTest, AProposalIsAppliedAsOneStep) { EXPECT_STORY(story); }
 
-TEST_F(DriveGridsTest, WithoutSamplesThereIsNothingToAskFor) {
-  ZoneEditorParameters parameters;
-  parameters.map.zones.fill(100);
-  Open(parameters);
-  for (const char* control : {"lblShowOnGrid", "cboShowOnGrid", "chkWholeLog", "cmdNextInCell",
-                              "cmdPropose", "cmdApplyProposal"})
-    EXPECT_FALSE(window->Find(control)->Enabled) << control;
-}
-
 }  // namespace
 }  // namespace tarnview

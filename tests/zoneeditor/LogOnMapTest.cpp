@@ -70,12 +70,9 @@ TEST(LogOnMap, WhatACellSays) {
         return told + drive.ToolTip(1, 5);
       },
       R"(
-10x 3000 300 15400 14000 -> ||||No samples
-9x 2000 300 14700 14700 5 -> ||||9 samples
-10x 2000 300 14000 14000 7 -> |10|0.0|7|10 samples, air/fuel 0.0 %, knock up to 7
-10x 2000 300 15400 14000 0 -> |10|+10.0|1|10 samples, air/fuel +10.0 %, knock up to 1
-10x 2000 300 13300 14000 1 -> |10|-5.0|1|10 samples, air/fuel -5.0 %, knock up to 1
-9x 2000 300 13300 14000 1; 5x 2000 300 -> |14||1|14 samples, knock up to 1
+10x 3000 300 15400 14000 -> ||||No samples | 9x 2000 300 14700 14700 5 -> ||||9 samples
+10x 2000 300 14000 14000 7 -> |10|0.0|7|10 samples, air/fuel 0.0 %, knock up to 7 | 10x 2000 300 15400 14000 0 -> |10|+10.0|1|10 samples, air/fuel +10.0 %, knock up to 1
+10x 2000 300 13300 14000 1 -> |10|-5.0|1|10 samples, air/fuel -5.0 %, knock up to 1 | 9x 2000 300 13300 14000 1; 5x 2000 300 -> |14||1|14 samples, knock up to 1
 )");
 }
 

@@ -10,23 +10,30 @@ namespace {
 class BenchmarkDetailsTest : public ::testing::Test, protected EditorWorld {
  protected:
   BenchmarkDetailsTest() {
-    files.files["/car/a.map"] = MapText(MapWith(Chip("1.8 2004-07-02 3"), 50, 50, 50), {});
+    // As another editor may leave it: with the mark of UTF-8, and CR alone at the ends of lines.
+    std::string map = MapText(MapWith(Chip("1.8 2004-07-02 3"), 50, 50, 50), {});
+    std::erase(map, '\n');
+    files.files["/car/a.map"] = "\xEF\xBB\xBF" + map;
     files.files["/car/no.map"] = "none";
     settings.gstrDefaultWorkingDirectory = "/logs";
     story.Fact("edited", [this] { return edited; });
+    story.Fact("result", [this] {
+      const clsBenchmark& mine = details->ColItem();
+      return (details->Accepted() ? "accepted " : "") + mine.strName + " " + mine.File +
+             " z6=" + std::to_string(mine.ZoneSettings(6)) + " v" +
+             std::to_string(mine.ChipVersion);
+    });
   }
   void Open(const clsBenchmark& benchmark) {
-    const frmBenchmarkDetails::Surroundings around{kinds.gcolFileTypes,
-                                                   settings,
-                                                   files,
-                                                   clock,
-                                                   messages,
-                                                   [this](ZoneMap& map, const std::string& name) {
-                                                     edited += name;
-                                                     map.zones[6] = 3;
-                                                     return changes;
-                                                   }};
-    details.emplace(host, around, benchmark);
+    const auto edit = [this](ZoneMap& map, const std::string& name) {
+      edited += name;
+      map.zones[6] = 3;
+      return changes;
+    };
+    details.emplace(host,
+                    frmBenchmarkDetails::Surroundings{kinds.gcolFileTypes, settings, files, clock,
+                                                      messages, edit},
+                    benchmark);
     details->Show();
   }
   FileKinds kinds = SetUpLogFamilies();
@@ -39,11 +46,6 @@ TEST_F(BenchmarkDetailsTest, ANewOneNeedsANameAndAFileThatLoads) {
   Open({});
   EXPECT_STORY(story);
   EXPECT_NE(files.files["/car/b.map"].find(" 050 050 050 050 050 050 003 050"), std::string::npos);
-  EXPECT_TRUE(details->Accepted());
-  const clsBenchmark& mine = details->ColItem();
-  EXPECT_EQ(mine.strName + " " + mine.File, "Mine /car/a.map");
-  EXPECT_EQ(mine.ZoneSettings(6), 3);
-  EXPECT_EQ(mine.ChipVersion, 3);
 }
 
 TEST_F(BenchmarkDetailsTest, OneThatIsThereIsLoadedAgainOnlyFromAnotherFile) {
@@ -54,11 +56,8 @@ TEST_F(BenchmarkDetailsTest, OneThatIsThereIsLoadedAgainOnlyFromAnotherFile) {
   changes = false;
   files.failWrites = true;
   EXPECT_STORY(story);
-  EXPECT_TRUE(details->Accepted());
-  EXPECT_EQ(details->ColItem().ZoneSettings(6), 0);
   details->Show();
   EXPECT_STORY(story);
-  EXPECT_EQ(details->ColItem().ZoneSettings(6), 50);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ point chGridGraph 6 3 -> height=123, chGridGraph selected=[6|3], cboColumn=10, t
 point chGridGraph 7 1 -> cannot: chGridGraph has no such series
 # Enter in the field takes the value alone.
 write txtValue 77; key Enter -> height=77, txtValue=77
-write txtValue 78; click cmdOK -> -frmGridGraph, height=78
+write txtValue 78; click cmdOK -> -frmGridGraph, height=78, result=accepted 20,240 78 0
 
 == AnglesFollowFieldsArrowsAndTheHand
 angles
@@ -27,7 +27,7 @@ turn chGridGraph 5 -20 -> chGridGraph rotation=3, chGridGraph elevation=21, txtR
 wheel chGridGraph 0 2 -> chGridGraph zoom=1.3225
 double chGridGraph -> chGridGraph rotation=1, chGridGraph elevation=2, chGridGraph zoom=1, txtRotation=1, txtElevation=2
 write txtRotation 500 -> chGridGraph rotation=359, txtRotation=500
-click cmdOK -> -frmGridGraph
+key Enter -> -frmGridGraph, result=accepted 359,2 123 136
 
 == AViewEditsNothing
 show cmdOK cmdCancel -> cmdOK hidden, cmdOK=OK, cmdCancel=&Close
@@ -35,4 +35,4 @@ show cmdOK cmdCancel -> cmdOK hidden, cmdOK=OK, cmdCancel=&Close
 point chGridGraph 2 2 -> height=0, chGridGraph selected=[2|2], cboRow=40kPa 200, cboColumn=05
 type txtValue 1 -> cannot: txtValue cannot be edited
 step updValue up -> cannot: updValue is disabled
-click cmdCancel -> -frmGridGraph
+click cmdCancel -> -frmGridGraph, result=closed 20,240 123 136

@@ -1,11 +1,14 @@
 == OpensWithoutAChange
+map 2 -> +frmZoneData, step=: unchanged
+whole
 show caption cboBenchmark fraData(0) fraData(1) fraData(5) txtChipDate cmdUpload -> caption=Tarnview Zone Data - a.map, cboBenchmark list=[Street|Track], cboBenchmark=Track, fraData(0)=This MAP File, fraData(1)=Selected Benchmark, fraData(5)=Difference, txtChipDate=10-Feb-2005, cmdUpload off, cmdUpload=&Upload...
 show grdData(0)[0][1] grdData(0)[6][0] grdData(0)[1][16] grdData(0)[6][1] grdData(1)[6][3] grdData(2)[1][1] -> grdData(0)[0][1]=00, grdData(0)[6][0]=220 kPa 600, grdData(0)[1][16]=100, grdData(0)[6][1]=, grdData(0)[6][1] blacked_out=true, grdData(1)[6][3]=200, grdData(2)[1][1]=100
 show grdData(6)[0][0] grdData(6)[0][11] grdData(7)[1][0] grdData(8)[2][0] -> grdData(6)[0][0]=kPa, grdData(6)[0][11]=75, grdData(7)[1][0]=Val, grdData(8)[2][0]=Conv
 
 == FieldsAndBoxesAreSteps
+map 2 -> +frmZoneData, step=: unchanged
 type txtZone(2) 7250 -> step=Rev Limit (RPM) 10000 to 7300: z2=73, txtZone(2)=7300, lblStatus=Rev Limit (RPM) 10000 to 7300
-key Ctrl+Z -> step=:, txtZone(2)=10000, lblStatus=As opened
+key Ctrl+Z -> step=: unchanged, txtZone(2)=10000, lblStatus=As opened
 show mnuEditUndo mnuEditRedo cboSteps lblStatus -> mnuEditUndo off, mnuEditUndo=&Undo, mnuEditRedo=&Redo Rev Limit (RPM) 10000 to 7300, cboSteps list=[As opened|Rev Limit (RPM) 10000 to 7300], cboSteps=As opened, lblStatus=As opened
 type txtZone(3) off -> step=MAP Limit (kPa) 100 to OFF: z3=255, txtZone(3)=OFF, lblStatus=MAP Limit (kPa) 100 to OFF
 key Ctrl+Z; step updZone(13) down -> step=Knock Thr. 100 to 99: z13=99, txtZone(3)=100, txtZone(13)=99, lblStatus=Knock Thr. 100 to 99
@@ -17,15 +20,16 @@ key Ctrl+Z; click chkBoost(0) -> step=TPS Target Cont. on: z5=6, chkMisc(0) unch
 key Ctrl+Z; choose cboMAPID NA2 -> step=MAP ID NA2: z5=32, cboMAPID=NA2, chkBoost(0) unchecked, lblStatus=MAP ID NA2
 key Ctrl+Z; choose cboAutoTune(0) L3 -> step=Auto Tuning L3: z5=131 z800=4, cboMAPID=T1, lblAutoTune(1) on, cboAutoTune(0)=L3, cboAutoTune(1) on, cboAutoTune(1) list=[NB|WB|NB+WB], lblStatus=Auto Tuning L3
 key Ctrl+Z; type txtChipDate 31-Feb-2003; type txtAtmos 85 -> step=Atmospheric Pressure 85:, txtAtmos=85, lblAutoTune(1) off, cboAutoTune(0)=Off, cboAutoTune(1) off, cboAutoTune(1) list=[NB|WB], lblStatus=Atmospheric Pressure 85
-key Ctrl+Z; type txtNotes "a\nb" -> step=Notes:, txtAtmos=101, txtNotes=a\nb, lblStatus=Notes
+key Ctrl+Z; type txtNotes "a\nb" -> step=Notes: 'a/b', txtAtmos=101, txtNotes=a\nb, lblStatus=Notes
 key Ctrl+Z; cell grdData(0) 2 4 300 -> step=zf215 100 to 255: z51=255, txtNotes=, grdData(0)[2][4]=255, grdData(0) row=2, grdData(0) column=4, grdData(0) range=[2|4|2|4], grdData(0)[2][4] mark=raised, grdData(2)[2][4]=-55, grdData(2)[2][4] colour=255, lblStatus=zf215 100 to 255
 key Ctrl+Z; cell grdData(3) 1 1 x -> step=zi100 100 to 0: z128=0, grdData(0)[2][4]=100, grdData(2)[2][4]=100, grdData(3)[1][1]=0, grdData(3)[1][1] mark=lowered, grdData(5)[1][1]=200, lblStatus=zi100 100 to 0, grdData(0)[2][4] mark gone, grdData(2)[2][4] colour gone
 key Ctrl+Z; cell grdData(7) 1 4 7 -> step=z25 100 to 7: z25=7, grdData(3)[1][1]=100, grdData(5)[1][1]=100, grdData(7)[1][4]=7, grdData(7) column=4, grdData(7) range=[1|4|1|4], grdData(7)[1][4] mark=lowered, lblStatus=z25 100 to 7, grdData(3)[1][1] mark gone
-key Ctrl+Z; type txtNotes "a\nb" -> step=Notes:, txtNotes=a\nb, grdData(7)[1][4]=100, lblStatus=Notes, grdData(7)[1][4] mark gone
+key Ctrl+Z; type txtNotes "a\nb" -> step=Notes: 'a/b', txtNotes=a\nb, grdData(7)[1][4]=100, lblStatus=Notes, grdData(7)[1][4] mark gone
 type txtChipDate nonsense
-type txtChipDate 2001-01-31 -> step=Chip Date 2001-01-31:, txtChipDate=31-Jan-2001, chkMisc(1) off, chkMisc(4) off, chkMisc(4) unchecked, chkBoost(1) off, chkBoost(1) unchecked, chkIdle(0) off, chkIdle(1) off, chkAutoTune(1) on, chkAutoTune(1) shown, lblAutoTune(1) hidden, cboAutoTune(0) list=[Off|Lambda|L3], cboAutoTune(1) hidden, cboAutoTune(1) list=[NB], lblZone(18)=Hot IAC, lblZone(19)=Cold IAC, lblZone(251) off, txtZone(251) off, updZone(251) off, lblZone(208) off, txtZone(208) off, updZone(208) off, lblZone(209) off, txtZone(209) off, updZone(209) off, lblZone(248) off, txtZone(248) off, updZone(248) off, lblZone(249) off, txtZone(249) off, updZone(249) off, lblZone(4) off, lblZone(4)=Advance Limit, txtZone(4) off, updZone(4) off, updZone(4) min=0, updZone(4) max=50, lblZone(252) off, lblZone(252)=Fuel Low Slope, txtZone(252) off, updZone(252) off, lblZone(253) off, lblZone(253)=Fuel High Slope, txtZone(253) off, updZone(253) off, lblZone(254) off, txtZone(254) off, updZone(254) off, lblZone(255) off, txtZone(255) off, updZone(255) off, lblZone(250) off, txtZone(250) off, updZone(250) off, lblZone(7)=Volt. Correction, lblZone(243) off, txtZone(243) off, updZone(243) off, lblStatus=Chip Date 2001-01-31
+type txtChipDate 2001-01-31 -> step=Chip Date 2001-01-31: 'a/b', txtChipDate=31-Jan-2001, chkMisc(1) off, chkMisc(4) off, chkMisc(4) unchecked, chkBoost(1) off, chkBoost(1) unchecked, chkIdle(0) off, chkIdle(1) off, chkAutoTune(1) on, chkAutoTune(1) shown, lblAutoTune(1) hidden, cboAutoTune(0) list=[Off|Lambda|L3], cboAutoTune(1) hidden, cboAutoTune(1) list=[NB], lblZone(18)=Hot IAC, lblZone(19)=Cold IAC, lblZone(251) off, txtZone(251) off, updZone(251) off, lblZone(208) off, txtZone(208) off, updZone(208) off, lblZone(209) off, txtZone(209) off, updZone(209) off, lblZone(248) off, txtZone(248) off, updZone(248) off, lblZone(249) off, txtZone(249) off, updZone(249) off, lblZone(4) off, lblZone(4)=Advance Limit, txtZone(4) off, updZone(4) off, updZone(4) min=0, updZone(4) max=50, lblZone(252) off, lblZone(252)=Fuel Low Slope, txtZone(252) off, updZone(252) off, lblZone(253) off, lblZone(253)=Fuel High Slope, txtZone(253) off, updZone(253) off, lblZone(254) off, txtZone(254) off, updZone(254) off, lblZone(255) off, txtZone(255) off, updZone(255) off, lblZone(250) off, txtZone(250) off, updZone(250) off, lblZone(7)=Volt. Correction, lblZone(243) off, txtZone(243) off, updZone(243) off, lblStatus=Chip Date 2001-01-31
 
 == GridsAndTheirMenus
+map 2 -> +frmZoneData, step=: unchanged
 range grdData(0) 6 4 6 1 -> grdData(0) row=6, grdData(0) column=4, grdData(0) range=[6|1|6|4]
 show mnuEditPaste mnuEditReset -> mnuEditPaste=&Paste, mnuEditReset=Reset to &Opened Value
 popup grdData(0) mnuApplyOffset -> popup mnuDatalogGrid, +frmOffset
@@ -40,9 +44,10 @@ popup grdData(6) mnuEditReset -> popup mnuDatalogGrid
 popup grdData(7) mnuEditReset
 popup grdData(8) mnuEditReset
 choose cboSteps #1 -> step=Offset +255 on 2 fuel cells: z114=255 z115=255, grdData(0)[6][3]=255, grdData(2)[6][3]=-55, grdData(2)[6][3] colour=255, grdData(3)[1][1] to [1][2]=100, grdData(5)[1][1] to [1][2]=100, lblStatus=Offset +255 on 2 fuel cells, grdData(3)[1][1] mark gone, grdData(3)[1][2] mark gone
-choose cboBenchmark Street -> cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [5][16]=-10, grdData(2)[6][3] to [6][4]=-165, grdData(2)[6][5] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
+choose cboBenchmark Street -> own=Street 2000-01-01 v2, cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [5][16]=-10, grdData(2)[6][3] to [6][4]=-165, grdData(2)[6][5] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
 
 == KeysAndTheClipboard
+map 2 -> +frmZoneData, step=: unchanged
 range grdData(0) 1 1 1 2 -> grdData(0) range=[1|1|1|2]
 key Plus -> step=Offset +1 on 2 fuel cells: z32=101 z33=101, grdData(0)[1][1] to [1][2]=101, grdData(0)[1][1] mark to [1][2] mark=raised, grdData(2)[1][1] to [1][2]=99, lblStatus=Offset +1 on 2 fuel cells
 key Shift+Minus -> step=Offset -10 on 2 fuel cells: z32=91 z33=91, grdData(0)[1][1] to [1][2]=91, grdData(0)[1][1] mark to [1][2] mark=lowered, grdData(2)[1][1] to [1][2]=109, lblStatus=Offset -10 on 2 fuel cells
@@ -65,6 +70,7 @@ key Ctrl+Z -> step=Smooth 3 fuel cells: z32=93 z33=96 z34=99 z62=1 z63=2 z78=3 z
 key Ctrl+Shift+Z -> step=Reset 3 fuel cells: z62=1 z63=2 z78=3 z79=4 z114=9, grdData(0)[1][1] to [1][3]=100, grdData(2)[1][1] to [1][3]=100, lblStatus=Reset 3 fuel cells, grdData(0)[1][1] mark gone, grdData(0)[1][2] mark gone, grdData(0)[1][3] mark gone
 
 == BoostTargets
+map 2 -> +frmZoneData, step=: unchanged
 cell grdData(6) 1 1 90 -> [Would you like to copy the first boost target to all the rest?  yes]
 answer no
 cell grdData(6) 1 1 120 -> [Would you like to copy the first boost target to all the rest?  no], step=z725 100 to 120: z725=120, grdData(6)[1][1]=120, grdData(6)[1][1] mark=raised, lblStatus=z725 100 to 120
@@ -75,9 +81,11 @@ click radBoost(1) -> [Confirm change to specifying wastegate duty cycles (existi
 cell grdData(6) 1 1 200 -> [Would you like to copy the first wastegate duty cycle to all the rest?  yes], step=All boost targets 99: z725=99 z730=99 z735=99 z740=99 z745=99 z750=99 z755=99 z760=99 z765=99 z770=99 z775=99, grdData(6)[1][1] to [1][11]=99, lblStatus=All boost targets 99
 
 == NormallyAspirated
+map 0 -> +frmZoneData, step=: z5=0 unchanged
 show fraBoost fraBoostTargets txtZone(3) chkBoost(0) grdData(6)[1][1] grdData(0)[6][0] grdData(0)[6][1] -> fraBoost off, fraBoost=Wastegate, fraBoostTargets off, fraBoostTargets=Boost &Targets, txtZone(3) off, txtZone(3)=100, chkBoost(0) off, chkBoost(0)= TPS Target Cont., chkBoost(0) unchecked, grdData(6)[1][1]=100, grdData(0)[6][0]=97 kPa 600, grdData(0)[6][1]=100
 
 == GraphsDrawTheNumbersOfTheirOwnGrid
+map 2 -> +frmZoneData, step=: unchanged
 type txtZone(112) 7 -> step=Closed Lp -ve 100 to 7: z112=7, txtZone(112)=7, lblStatus=Closed Lp -ve 100 to 7
 click cmdGraph(0) -> +frmGridGraph, heights=This Data Log 7 100
 close; click cmdGraph(1) -> heights=Benchmark Track 0 200, caption=Tarnview 3D Graph - Fuel (Selected Benchmark), chGridGraph subtitle=Benchmark Track, chGridGraph values[0] to [4]=16 from 200 to 200, chGridGraph values[5]=16 from 0 to 200, chGridGraph height_axis max=200, chGridGraph height_axis divisions=4, cmdOK hidden, cmdCancel=&Close
@@ -88,14 +96,18 @@ close; click cmdGraph(5) -> heights=Comparison with Benchmark Track 0 100, capti
 close -> -frmGridGraph, heights=
 
 == ClosingAsksForChanges
+map 2; close -> step=closed unchanged
+map 2 -> +frmZoneData, step=: unchanged
 type txtZone(6) 1; close -> [Are you sure you want to throw away those changes? no], step=Choke Scale 100 to 1: z6=1, txtZone(6)=1, lblStatus=Choke Scale 100 to 1
-write txtNotes n; click cmdOK -> -frmZoneData, step=closed
+write txtNotes n; click cmdOK -> -frmZoneData, step=accepted z6=1 'n'
 
 == UploadNeedsTheUsersOwnChip
-answer yes; click cmdDefault -> [Are you sure you want to overwrite your current chip type and date with those from the data log? yes], cmdUpload on
+map 2 -> +frmZoneData, step=: unchanged
+answer yes; click cmdDefault -> [Are you sure you want to overwrite your current chip type and date with those from the data log? yes], own=Track 2005-02-10 v3, cmdUpload on
 choose cboEngineSize 1.6 -> step=Engine Size 1.6: z17=30 z705=190, cboEngineSize=1.6, chkMisc(0) off, chkMisc(0)=MAP/Knock Cntrl, chkBoost(0)=WOT Target Cont., chkIdle(0) off, updZone(17) min=0, updZone(17) max=255, lblZone(9) off, txtZone(9) off, updZone(9) off, lblZone(10) off, txtZone(10) off, updZone(10) off, lblZone(11) off, txtZone(11) off, updZone(11) off, lblStatus=Engine Size 1.6, cmdUpload off
 
 == CopyAndDetailsOfTheComparison
+map 2 -> +frmZoneData, step=: unchanged
 click cmdCopyBenchmark -> +frmCopyBench
 whole
 click cmdCancel -> -frmCopyBench
@@ -109,8 +121,8 @@ close -> -frmZoneData.2
 
 == TheLogsOwnSetsComeFirst
 show cboBenchmark fraData(0) grdData(2)[1][1] -> cboBenchmark list=[Lambda/Knock Zone Changes|Original Zone Settings|Street|Track], cboBenchmark=Lambda/Knock Zone Changes, fraData(0)=This Datalog, grdData(2)[1][1]=10
-choose cboBenchmark "Original Zone Settings"; show grdData(2)[1][1] -> grdData(2)[1][1]=20, cboBenchmark=Original Zone Settings, grdData(1)[1][1] to [6][16]=120, grdData(2)[1][1] to [6][16]=20, grdData(4)[1][1] to [6][16]=120, grdData(5)[1][1] to [6][16]=20
-choose cboBenchmark Street; show grdData(2)[1][1] -> grdData(2)[1][1]=-10, grdData(2)[1][1] colour=255, cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
+choose cboBenchmark "Original Zone Settings"; show grdData(2)[1][1] -> grdData(2)[1][1]=20, own=Original Zone Settings 2000-01-01 v2, cboBenchmark=Original Zone Settings, grdData(1)[1][1] to [6][16]=120, grdData(2)[1][1] to [6][16]=20, grdData(4)[1][1] to [6][16]=120, grdData(5)[1][1] to [6][16]=20
+choose cboBenchmark Street; show grdData(2)[1][1] -> grdData(2)[1][1]=-10, grdData(2)[1][1] colour=255, own=Street 2000-01-01 v2, cboBenchmark=Street, grdData(1)[1][1] to [6][16]=90, grdData(2)[1][1] to [6][16]=-10, grdData(2)[1][1] colour to [6][16] colour=255, grdData(4)[1][1] to [6][16]=90, grdData(5)[1][1] to [6][16]=-10, grdData(5)[1][1] colour to [6][16] colour=255
 show grdData(8)[2][1] -> grdData(8)[2][1]=12.00, grdData(8)[2][1] back_colour=14737632, grdData(8)[2][1] locked=true
 
 == TheLogsOwnSetsComeFirst 2
