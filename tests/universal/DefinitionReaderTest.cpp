@@ -79,6 +79,8 @@ TEST(DefinitionReader, EachFaultTellsItsNumberAndDetails) {
 file,  -> 69: 
 file, [DATALOGDEFINITION] ;  -> 69: [DATALOGDEFINITION] 
 file, [DATALOGDEFINITION] -> 74: my.txt|File Name: |File Extension: |Delimiter ASCII Character: 0
+file, [DATALOGDEFINITION]; NAME=a; DELIMITERASCIICHARACTER=44; [COLUMN]; ;  -> 74: my.txt|File Name: a|File Extension: |Delimiter ASCII Character: 44
+file, [DATALOGDEFINITION]; FILEEXTENSION=c; DELIMITERASCIICHARACTER=44; [COLUMN]; ;  -> 74: my.txt|File Name: |File Extension: c|Delimiter ASCII Character: 44
 file, [DATALOGDEFINITION]; NAME=; ;  -> 68: NAME=
 file, [DATALOGDEFINITION]; =X; ;  -> 68: =X
 file, [DATALOGDEFINITION]; ; ;  -> 68: 
