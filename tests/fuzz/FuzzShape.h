@@ -20,13 +20,7 @@ inline int FuzzLogShape(const unsigned char* data, std::size_t size) {
   const LogShape shape = ReadLogShape(text, titles, catalogue.gcolFixedDataItems);
   if (shape.columns.empty()) return 0;
   const clsDataLog definition = DefinitionOfShape(shape, "Fuzz", "csv", 10);
-  const clsLogDataItems items =
-      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
-  const Settings settings;
-  const ConversionTables tables;
-  NoProgress progress;
-  OpenLog log;
-  LoadGenericDataLog(text, {log, items, settings, tables, progress}, definition);
+  LoadThrough(definition, text);
   const std::string file = DefinitionFileText(definition);
   return FuzzDataLogDefinition(reinterpret_cast<const unsigned char*>(file.data()), file.size());
 }

@@ -22,6 +22,15 @@ inline int FuzzDataLogDefinition(const unsigned char* data, std::size_t size) {
   return 0;
 }
 
+inline void LoadThrough(const clsDataLog& definition, std::string_view text) {
+  static const Catalogue catalogue = BuildDataItemCatalogue();
+  const clsLogDataItems items =
+      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
+  NoProgress progress;
+  OpenLog log;
+  LoadGenericDataLog(text, {log, items, Settings(), ConversionTables(), progress}, definition);
+}
+
 /// The bytes are a definition and, behind a line "[LOG]", a log; without that line all of them are
 /// a log.
 inline int FuzzUniversalLog(const unsigned char* data, std::size_t size) {
@@ -38,13 +47,7 @@ inline int FuzzUniversalLog(const unsigned char* data, std::size_t size) {
     }
     text.remove_prefix(at + kLog.size());
   }
-  const clsLogDataItems items =
-      GenerateLogDataItemsGeneric(definition, catalogue.gcolFixedDataItems);
-  const Settings settings;
-  const ConversionTables tables;
-  NoProgress progress;
-  OpenLog log;
-  LoadGenericDataLog(text, {log, items, settings, tables, progress}, definition);
+  LoadThrough(definition, text);
   return 0;
 }
 

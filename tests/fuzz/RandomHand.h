@@ -1,14 +1,7 @@
 #pragma once
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPointer>
 #include <QTest>
+#include <QtWidgets>
 #include <random>
 
 #include "qt/Gestures.h"
@@ -127,18 +120,15 @@ class RandomHand {
   }
 
   QString PressKey(QWidget& window) {
-    static const Qt::Key kKeys[] = {
-        Qt::Key_Tab,  Qt::Key_Return, Qt::Key_Escape,   Qt::Key_Left,   Qt::Key_Right,
-        Qt::Key_Up,   Qt::Key_Down,   Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home,
-        Qt::Key_End,  Qt::Key_Delete, Qt::Key_Space,    Qt::Key_F1,     Qt::Key_Backspace,
-        Qt::Key_Plus, Qt::Key_Minus,  Qt::Key_1,        Qt::Key_0,      Qt::Key_A,
-        Qt::Key_B,    Qt::Key_C,      Qt::Key_D,        Qt::Key_F,      Qt::Key_G,
-        Qt::Key_I,    Qt::Key_O,      Qt::Key_S,        Qt::Key_V,      Qt::Key_X,
-        Qt::Key_Y,    Qt::Key_Z};
+    static const QStringList kKeys =
+        QString(
+            "Tab Return Esc Left Right Up Down PgDown PgUp Home End Del Space F1 Backspace + - "
+            "1 0 A B C D F G I O S V X Y Z")
+            .split(' ');
     QWidget* focus = window.focusWidget();
     if (!focus || !focus->isVisible()) focus = &window;
     const QString name = NameOf(*focus);
-    const Qt::Key key = AnyOf(kKeys);
+    const Qt::Key key = QKeySequence(AnyOf(kKeys))[0].key();
     const Qt::KeyboardModifiers modifiers = AnyModifiers();
     const QPointer<QWidget> there = focus;
     QTest::keyPress(focus, key, modifiers);

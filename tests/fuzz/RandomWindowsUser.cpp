@@ -7,12 +7,7 @@
 
 #include <unistd.h>
 
-#include <QCommandLineParser>
-#include <QDeadlineTimer>
-#include <QDir>
-#include <QTemporaryDir>
-#include <QThread>
-#include <QTimer>
+#include <QtWidgets>
 #include <cstdio>
 
 #include "app/Program.h"
