@@ -38,19 +38,16 @@ yes, 639, NB+WB, L3, 3000 -> 1-1 at 300-300 | yes, 640, NB+WB, L3, 3000 -> 3-4 a
 }
 
 TEST(ZoneGrid, HowFarASampleLiesBetweenTwoRows) {
-  std::string told;
-  for (const bool six : {true, false}) {
-    for (const double kPa : {0., 30., 43., 44., 56., 57., 69.5, 70., 83., 84., 95., 99., 219.5}) {
-      const RowsAround rows = RowsAroundMAP(kPa, six);
-      told += std::to_string(rows.lower) + "-" + std::to_string(rows.upper) + " " +
-              FixedText(rows.up, 3) + (kPa == 57. ? "\n" : " ");
-    }
-    told += "\n";
-  }
-  ExpectTold(told, R"(1-2 0.000 1-2 0.000 1-2 1.000 2-3 0.000 2-3 1.000 3-4 0.000
-4-5 -0.038 4-5 0.000 4-5 1.000 5-6 0.000 5-6 0.917 5-6 1.000 5-6 1.000 
-0-1 0.500 1-2 0.250 1-2 0.575 1-2 0.600 1-2 0.900 1-2 0.925
-2-3 0.237 2-3 0.250 2-3 0.575 2-3 0.600 2-3 0.875 2-3 0.975 5-6 0.975 
+  // six rows, kPa
+  ExpectTable(
+      [](const TableRow& row) {
+        const RowsAround rows = RowsAroundMAP(row.Number(1), row.Yes(0));
+        return std::to_string(rows.lower) + "-" + std::to_string(rows.upper) + " " +
+               FixedText(rows.up, 3);
+      },
+      R"(
+yes, 0 -> 1-2 0.000 | yes, 30 -> 1-2 0.000 | yes, 43 -> 1-2 1.000 | yes, 44 -> 2-3 0.000 | yes, 56 -> 2-3 1.000 | yes, 57 -> 3-4 0.000 | yes, 69.5 -> 4-5 -0.038 | yes, 70 -> 4-5 0.000 | yes, 83 -> 4-5 1.000 | yes, 84 -> 5-6 0.000 | yes, 95 -> 5-6 0.917 | yes, 99 -> 5-6 1.000 | yes, 219.5 -> 5-6 1.000
+no, 0 -> 0-1 0.500 | no, 30 -> 1-2 0.250 | no, 43 -> 1-2 0.575 | no, 44 -> 1-2 0.600 | no, 56 -> 1-2 0.900 | no, 57 -> 1-2 0.925 | no, 69.5 -> 2-3 0.237 | no, 70 -> 2-3 0.250 | no, 83 -> 2-3 0.575 | no, 84 -> 2-3 0.600 | no, 95 -> 2-3 0.875 | no, 99 -> 2-3 0.975 | no, 219.5 -> 5-6 0.975
 )");
 }
 
