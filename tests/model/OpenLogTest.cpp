@@ -1,5 +1,6 @@
 #include "model/Catalogue.h"
 #include "model/Column.h"
+#include "model/LocateSample.h"
 #include "model/OpenLog.h"
 #include "support/Table.h"
 
@@ -36,6 +37,24 @@ TEST(OpenLog, ClearDropsTheLog) {
   log.Clear(catalogue.gcolFixedDataItems, 0);
   EXPECT_EQ(Told(log), none);
   EXPECT_EQ(log.glngDataLog.Columns(), gintColumnCount);
+}
+
+TEST(LocateSample, GoesUpOrDownFromAGuess) {
+  const Catalogue catalogue = BuildDataItemCatalogue();
+  OpenLog log;
+  log.Clear(catalogue.gcolFixedDataItems, 10);
+  for (const int sample : {10, 11, 14, 15, 16})
+    log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), sample);
+  log.glngFirstSample = 1;
+  log.glngLastSample = 3;
+  // guess, sample
+  ExpectTable(
+      [&](const TableRow& row) {
+        return std::to_string(LocateSample(log, row.Int(0), row.Int(1)));
+      },
+      R"(
+1, 14 -> 2 | 1, 12 -> 2 | 3, 12 -> 1 | 3, 14 -> 2 | 2, 14 -> 2 | -9, 99 -> 3 | 99, 0 -> 1 | 99, 15 -> 3
+)");
 }
 
 TEST(clsLogTags, ValidateTurnsAndCutsToTheLog) {

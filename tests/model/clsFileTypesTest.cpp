@@ -18,8 +18,9 @@ std::string Told(FileKinds& kinds, const TableRow& row) {
     for (const int id : numbers) types.Item(id).blnEnabled = verb == "enable";
     return types.CommonDialogFilter();
   }
-  if (verb == "call") types.Item(number).UpdateDescription(row.Text(2), "b", row.Count() > 3);
-  if (verb == "call" || verb == "type")
+  if (verb == "call") types.Item(number).UpdateDescription(row.Text(2), "b");
+  if (verb == "call by force") types.Item(number).UpdateDescription(row.Text(2), "b", true);
+  if (verb.starts_with("call") || verb == "type")
     return types.Item(number).strDescription + ", " + types.Item(number).GetSingularDescription() +
            ", " + types.Item(number).CommonDialogFilter();
   if (verb == "family called") families.Item(number).UpdateDescription(row.Text(2));
@@ -51,7 +52,7 @@ enable, 3, 4, 5, 6, 7, 8 -> FM Link Data Logs (*.txt)|*.txt|FM Link MAP Files (*
 guess, 1, log.dat -> 6 | guess, 1, log.txt -> 1 | guess, 7, log.TXT -> 7 | guess, 2, log.txt -> 8 | guess, 1, log.map -> 2 | guess, 4, log.csv -> 6 | guess, 4, log.dat -> 4 | guess, 5, log -> 5 | guess, 5, log.xyz -> 5 | guess, 5, a.map/log -> 5 | guess, 99, log.txt -> 8
 disable, 2 -> FM Link Data Logs (*.txt)|*.txt|Tec-2 Data Logs (*.dat)|*.dat|Tec-3 Data Logs (*.dat)|*.dat|LinkPlus Data Logs (*.txt)|*.txt|UTEC CSV Data Logs (*.csv;*.dat;*.txt;*.log;*.utc)|*.csv;*.dat;*.txt;*.log;*.utc|UTEC Fixed-Width Data Logs (*.txt)|*.txt|Universal Data Logs (*.txt)|*.txt
 guess, 1, log.map -> 1 | place of, 1 -> 1 | place of, 8 -> 7 | place of, 2 -> 8 | at place, 2 -> 3 | at place, 0 -> 1 | at place, -1 -> 1 | at place, 8 -> 1
-type, 2 -> FM Link MAP Files, FM Link MAP File, FM Link MAP Files (*.map)|*.map | call, 8, XS -> Universal - XS, Universal - X, Universal - XS (*.b)|*.b | call, 1, A -> A, A, A (*.b)|*.b | call, 1, A, by force -> Universal - A, Universal - A, Universal - A (*.b)|*.b | family called, 6, Mine -> Mine | family called, 7, Mine -> Universal - Mine
+type, 2 -> FM Link MAP Files, FM Link MAP File, FM Link MAP Files (*.map)|*.map | call, 8, XS -> Universal - XS, Universal - X, Universal - XS (*.b)|*.b | call, 1, A -> A, A, A (*.b)|*.b | call by force, 1, A -> Universal - A, Universal - A, Universal - A (*.b)|*.b | family called, 6, Mine -> Mine | family called, 7, Mine -> Universal - Mine
 held, 0 -> 1 1 | held, 99 -> 8 7 | held, -3 -> 1 1 | held, 5 -> 5 5
 family of, 1 -> 1 saveable | family of, 2 -> 1 saveable | family of, 3 -> 3 | family of, 4 -> 4 | family of, 5 -> 5 | family of, 6 -> 6 | family of, 7 -> 6 | family of, 8 -> 7 | family of, 9 -> 0
 vote -> 0 | vote, 0, 84, -1 -> 0 | vote, 1, 3 -> 1 | vote, 47, 52, 3 -> 4 | vote, 71, 71, 2 -> 6

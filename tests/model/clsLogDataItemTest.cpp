@@ -1,7 +1,6 @@
 #include <map>
 
 #include "model/clsLogDataItem.h"
-#include "model/clsLogDataItems.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -56,29 +55,6 @@ scaled, 10, 1, 0, 1, 2 -> 20 | scaled, 10, 1, 0, 900, 2 -> 9000 | scaled, 10, 1,
 TEST(clsLogDataItem, BuildsItsMask) {
   ExpectTable([](const TableRow& row) { return ItemOf(row).strDisplayFormatMask(); },
               "scaled, 1, 0, 0 -> 0 | scaled, 1, 2, 0 -> 0.00");
-}
-
-TEST(clsLogDataItems, KeepPositionKeyAndOrderApart) {
-  clsLogDataItems items;
-  for (const int key : {3, 1, 2}) {
-    clsLogDataItem item;
-    item.intKey = key;
-    item.strShortName = "K" + std::to_string(key);
-    items.AddDirect(item);
-  }
-  EXPECT_EQ(items.Item(1).intKey, 3);
-  EXPECT_EQ(items.Item("k2"), &items.Item(3));
-  EXPECT_EQ(items.Item("k4"), nullptr);
-  EXPECT_EQ(items.ByShortName("K1"), &items.Item(2));
-  EXPECT_EQ(items.ByShortName("k1"), nullptr);
-  std::vector<int> keys;
-  for (const clsLogDataItem* item : items.InDisplayOrder()) keys.push_back(item->intKey);
-  EXPECT_EQ(keys, (std::vector<int>{1, 2, 3}));
-
-  clsLogDataItems copy = items.Duplicate();
-  copy.Item(1).strShortName = "other";
-  EXPECT_EQ(items.Item(1).strShortName, "K3");
-  EXPECT_EQ(copy.Item("k3")->strShortName, "other");
 }
 
 }  // namespace
