@@ -6,6 +6,7 @@
 #include <random>
 #include <string>
 
+#include "FieldTexts.h"
 #include "base/Text.h"
 #include "fields/FieldColumn.h"
 
@@ -50,6 +51,13 @@ TEST(FieldIndex, CutsLinesAsSplittingDoes) {
       for (std::size_t field = 0; field < wanted.size(); ++field)
         ASSERT_EQ(block.Field(last, field), wanted[field]);
       if (random() % 4 == 0) block.DropLast();
+      std::size_t fewest = block.Lines() ? kMost : 0, most = 0;
+      for (std::size_t n = 0; n < block.Lines(); ++n) {
+        fewest = std::min(fewest, block.Fields(n));
+        most = std::max(most, block.Fields(n));
+      }
+      ASSERT_EQ(block.FewestFields() * 10 + block.MostFields(), fewest * 10 + most);
+      ASSERT_EQ(block.Full(), block.Lines() == FieldIndex::kMostLines);
       if (block.Full()) block.Clear();
     }
   }
@@ -63,7 +71,7 @@ TEST(FieldIndex, FieldsOfOneKeyHaveOneText) {
     std::string text;
     for (auto left = random() % 10; left > 0; --left)
       text += kCharacters[random() % kCharacters.size()];
-    const FieldKey key = KeyOfField(("12345678" + text).data() + 8 + text.size(), text.size() + 1);
+    const FieldKey key = KeyOf(text);
     ASSERT_NE(key, kNoField);
     if (key == kOtherField) continue;
     ASSERT_EQ(texts.emplace(key, text).first->second, text);
@@ -72,25 +80,30 @@ TEST(FieldIndex, FieldsOfOneKeyHaveOneText) {
 
 TEST(FieldColumn, ReadsEachTextOnce) {
   // The third line of the block before had what the second has now: a field less is none.
-  const std::string bytes = "9,a\n9,a\n9,two\n9,a\n1,long text 1\n2,two\n2\n3,\n";
-  FieldIndex block(bytes, ',', 2);
-  for (std::string_view rest = bytes; !rest.empty(); rest.remove_prefix(rest.find('\n') + 1)) {
-    if (rest[0] == '1') block.Clear();
-    block.Add(rest.substr(0, rest.find('\n')));
-  }
-  EXPECT_EQ(block.MostFields(), 2u);
-  BlockOf<std::string> texts;
+  const std::string before = "9,a\n9,a\n9,two\n9,a\n",
+                    now = "1,long text 1,of nobody\n2,two,of somebody\n2\n3,\n";
+  FieldIndex block(before, ',', 3);
+  AddLines(block, before);
+  block.Begin(now);
+  AddLines(block, now);
   int asked = 0;
   const auto read = [&](std::size_t field) {
+    BlockOf<std::string> texts;
     ReadColumn(block, field, texts, [&](std::size_t line) {
       ++asked;
       return block.Fields(line) > field ? std::string(block.Field(line, field)) : "none";
     });
-    return std::vector(texts.begin(), texts.begin() + 4);
+    return Join({texts.begin(), texts.begin() + 4}, " ");
   };
-  EXPECT_EQ(read(0), (std::vector<std::string>{"1", "2", "2", "3"}));
+  EXPECT_EQ(read(0), "1 2 2 3");
   EXPECT_EQ(asked, 3);
-  EXPECT_EQ(read(1), (std::vector<std::string>{"long text 1", "two", "none", ""}));
+  EXPECT_EQ(read(1), "long text 1 two none ");
+  EXPECT_EQ(read(2), "of nobody of somebody none none");
+  // Texts without a key are not taken for one another.
+  const std::string keyless = "of nobody\nof somebody\nof nobody\nof all\n";
+  block.Begin(keyless);
+  AddLines(block, keyless);
+  EXPECT_EQ(read(0), "of nobody of somebody of nobody of all");
 }
 
 }  // namespace
