@@ -1,5 +1,6 @@
 == ANewOneNeedsANameAndAFileThatLoads
 show caption cmdSave cmdZones -> caption=Benchmark Details, cmdSave off, cmdSave=&Save..., cmdZones off, cmdZones=&Zones...
+key F1 -> help=BenchmarkDetails
 type txtName ""; click cmdOK; show focus -> focus txtName, [47 ok]
 type txtName Mine; click cmdOK -> [15 ok], result=Mine  z6=0 v2, txtName=Mine
 answer file /car/no.map; click cmdBrowse; click cmdOK -> [open "Open" of FM Link Data Logs (*.txt) /car/no.map], [16 ok], result=Mine /car/no.map z6=0 v2, txtFile=/car/no.map
