@@ -74,6 +74,7 @@ TEST_F(CatalogueTest, ItemsHoldWhatTheTableSays) {
   std::string printed;
   for (int n = 1; n <= items.Count(); ++n) printed += Print(items.Item(n));
   EXPECT_EQ(printed, wanted);
+  EXPECT_EQ(Print({}), "0 | 0 |  |  | 0 | 1 | 0 | 1 | 000000 | 1/1 | 0 |  |  |\n");
 }
 
 TEST_F(CatalogueTest, ListsAreByNameBehindTheTwoTimes) {

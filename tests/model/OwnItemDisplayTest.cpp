@@ -37,6 +37,7 @@ TEST(OwnItemDisplay, IsKeptByTitleTheLatestInFront) {
   items.Item(items.Count()).lngColour = 256;
   EXPECT_EQ(KeepOwnItemDisplay(oil + "|7,1,1,Y,1,FUEL 2", Items(), items).substr(0, 4), "256,");
   EXPECT_EQ(KeepOwnItemDisplay(oil, Items(), Items()), oil);
+  EXPECT_EQ(KeepOwnItemDisplay(oil, Items(), BuildDataItemCatalogue().gcolFixedDataItems), oil);
   EXPECT_EQ(KeepOwnItemDisplay(fuel, Items(), items).find('|'), std::string::npos);
 }
 
