@@ -1,9 +1,7 @@
 #include "DefinitionText.h"
-#include "universal/BuiltInTitles.h"
 #include "universal/DefinitionEdit.h"
 #include "universal/DefinitionReader.h"
 #include "universal/DefinitionWriter.h"
-#include "universal/TitleDictionary.h"
 
 namespace tarnview {
 namespace {
@@ -22,10 +20,9 @@ clsDataLog Definition() {
 }
 
 LogShape ShapeUnder(const clsDataLog& definition) {
-  static const TitleDictionary dictionary(BuiltInTitles());
   LogShape shape =
       ReadLogShape("Time,MAP,RPM,Widget,TPS\n0,40,900,1,2\n1,50,950,2,3\n2,60,980,3,4\n",
-                   dictionary, BuiltInItems(), ChoicesOf(definition));
+                   BuiltInDictionary(), BuiltInItems(), ChoicesOf(definition));
   ShowColumnsOf(definition, shape);
   return shape;
 }

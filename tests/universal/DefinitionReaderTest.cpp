@@ -18,28 +18,20 @@ std::string FaultOf(std::string_view text) {
     Read(text);
     return "";
   } catch (const DefinitionFault& fault) {
-    std::string detail = fault.what();
-    for (auto at = detail.find("\r\n"); at != std::string::npos; at = detail.find("\r\n"))
-      detail.replace(at, 2, "|");
-    return std::to_string(static_cast<int>(fault.Told())) + ": " + detail;
+    return std::to_string(static_cast<int>(fault.Told())) + ": " +
+           Join(SplitAt(fault.what(), "\r\n"), "|");
   }
 }
 
-const std::string kTime = ColumnText("Time", 63, 3);
-
 std::string With(const std::string& column, const std::string& behind = "") {
-  return DefinitionText{"", {kTime, column}, behind}.Text();
+  return DefinitionText{"", {ColumnText("Time", 63, 3), column}, behind}.Text();
 }
 std::string Behind(const std::string& presets) {
-  return DefinitionText{"", {kTime, ColumnText("Gear", 2, 0, "[VALUES]\nN\n1\n2\n", 2)}, presets}
-      .Text();
+  return With(ColumnText("Gear", 2, 0, "[VALUES]\nN\n1\n2\n", 2), presets);
 }
 
-/// Lines of a text with "; " between, those of a block on a line.
-std::string Lines(const std::string& blocks) { return Join(SplitAt(blocks, "; "), "\n"); }
-
 TEST(DefinitionReader, AWholeDefinition) {
-  const clsDataLog log = Read(Lines(
+  const TableRow file(
       R"([DataLogDefinition]; NAME = My Logs; FileExtension=csv; FILEIDTEXTLINESBEFORE=1.5; FILEIDTEXTCOLUMNSBEFORE=2abc; FILEIDTEXT=A=B; COLUMNHEADERSLINESBEFORE=3; DATALINESBEFORE=5; DELIMITERASCIICHARACTER=59; LINEFREQUENCY=1e1; IGNOREDUPLICATECOLUMNS=y; COLOUR=3; VERSION=1; VERSION=2
 [Column]; NAME=Gear; DESCRIPTION=Gear chosen; COLUMNTITLE=gear Sel; DATAITEMID=5; TYPE=2; COLUMNDECIMALPLACES=9; OFFSET=-2.5x; DISPLAYZERO=Yes; DISPLAYLINEWIDTH=0; ALLOWSETTOMINIMUMVALUE=n; CONVERSIONTYPE=-3
  [Values];  Off; On = 1; 
@@ -47,7 +39,8 @@ TEST(DefinitionReader, AWholeDefinition) {
 [SCATTER GRAPH]; NAME=Three; POINT SIZE=99; POINT SHAPE=-1; X AXIS=3; Y AXIS=45
 [FILTER]; DATA ITEM=5; FROM=2; TO=3
 [SAMPLE GRAPH]
-[FILTER]; DATA ITEM=45; TO=0.5)"));
+[FILTER]; DATA ITEM=45; TO=0.5)");
+  const clsDataLog log = Read(file.Lines());
   // What the file of it would say; a float is the number at the text's start, a listed value has no
   // upper bound, and the last line of the file counts here.
   ExpectTold(

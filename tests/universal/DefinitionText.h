@@ -5,6 +5,8 @@
 
 #include "model/Catalogue.h"
 #include "support/Table.h"
+#include "universal/BuiltInTitles.h"
+#include "universal/TitleDictionary.h"
 
 namespace tarnview {
 
@@ -12,6 +14,11 @@ namespace tarnview {
 inline const clsLogDataItems& BuiltInItems() {
   static const Catalogue catalogue = BuildDataItemCatalogue();
   return catalogue.gcolFixedDataItems;
+}
+
+inline const TitleDictionary& BuiltInDictionary() {
+  static const TitleDictionary dictionary(BuiltInTitles());
+  return dictionary;
 }
 
 /// The text of a small definition of comma-separated logs: extra lines of the header, columns of

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "LoadedUniversal.h"
+#include "MadeLogs.h"
 #include "universal/LogTimes.h"
 #include "universal/PlainLog.h"
 
@@ -20,25 +21,17 @@ std::string CellsOf(const std::string& header, const std::string& text,
 }
 
 std::string Replaced(const std::string& text, char from, const std::string& to) {
-  std::string replaced;
-  for (const char c : text) replaced += c == from ? to : std::string(1, c);
-  return replaced;
-}
-
-std::string Wide(const std::string& text, bool bigEndian) {
-  std::string wide;
-  for (const char c : text) wide += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
-  return wide;
+  return Join(Split(text, from), to);
 }
 
 /// Keys of a definition, the lines of a log, and what its column tells besides.
 TEST(FormedLog, EachKeyByItself) {
   const auto cells = [](const TableRow& row) {
-    const auto parts = SplitAt(row.All(), " & ");
-    const auto lines = [&](std::size_t n) {
-      return n < parts.size() ? Join(SplitAt(parts[n], "; "), "\n") + "\n" : "";
-    };
-    return CellsOf(lines(0), lines(1), lines(2));
+    auto parts = SplitAt(row.All(), " & ");
+    parts.resize(3);
+    for (std::string& part : parts)
+      if (!part.empty()) part = TableRow(part).Lines() + "\n";
+    return CellsOf(parts[0], parts[1], parts[2]);
   };
   ExpectTable(cells, R"(
 COLOUR=0 & Time,A; 1,7; 2,; 3,x -> 7 0 0
@@ -64,19 +57,18 @@ TIMEFORM=SECONDS & Time,A,A; 1,7,70; 2,8,80; 3,9,90 & TITLEOCCURRENCE=1 -> 7 8 9
 TIMEFORM=SECONDS & Time,A,A; 1,7,70; 2,8,80; 3,9,90 & TITLEOCCURRENCE=2 -> 70 80 90
 TITLESFROM=NONE; DATALINESBEFORE=0; LINEFREQUENCY=1 & 1,7; 2,8; 3,9 & COLUMNTITLE=Column 2 -> 7 8 9
 )");
-  EXPECT_EQ(CellsOf("ENCODING=UTF-16LE\n", Wide("Time,A\n1,7\n2,8\n3,9", false)), "7 8 9");
+  EXPECT_EQ(CellsOf("ENCODING=UTF-16LE\n", AsUtf16("Time,A\n1,7\n2,8\n3,9", false)), "7 8 9");
   EXPECT_EQ(CellsOf("ENCODING=UTF-8\n", "\xEF\xBB\xBFTime,A\r1,7\r2,8\r3,9\r"), "7 8 9");
 }
 
 /// Text is written anew in blocks of 128 KiB.
 TEST(FormedLog, LongOnesAreReadAsShortOnes) {
-  std::string plain = "Time,A\n", cells, note(400, 'n'), semicolons;
+  std::string plain = "Time,A\n", cells, note(400, 'n');
   for (int line = 0; line < 9000; ++line) {
     plain += std::to_string(line * 40) + "," + std::to_string(line % 777) + ".0,x" + note + "\n";
     cells += (line ? " " : "") + std::to_string(line % 777);
     note.resize(static_cast<std::size_t>(line % 83));
   }
-  semicolons = Replaced(Replaced(plain, ',', ";"), '.', ",");
   const struct {
     const char* header;
     std::string text;
@@ -85,11 +77,12 @@ TEST(FormedLog, LongOnesAreReadAsShortOnes) {
       {"TIMEFORM=SECONDS\n", Replaced(plain, '.', "E")},
       {"TIMEFORM=SECONDS\n", Replaced(plain, '\n', "\r")},
       {"QUOTED=Y\n", "\"" + Replaced(Replaced(plain, ',', "\",\""), '\n', "\"\n\"")},
-      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n", semicolons},
+      {"DECIMALSIGN=,\nDELIMITERASCIICHARACTER=59\n",
+       Replaced(Replaced(plain, ',', ";"), '.', ",")},
       {"DELIMITERRUNS=Y\nDELIMITERASCIICHARACTER=32\n",
        Replaced(Replaced(plain, ',', "  "), '\n', "\n ")},
-      {"ENCODING=UTF-16LE\n", Wide(plain, false)},
-      {"ENCODING=UTF-16BE\n", Wide(Replaced(plain, '\n', "\r"), true)},
+      {"ENCODING=UTF-16LE\n", AsUtf16(plain, false)},
+      {"ENCODING=UTF-16BE\n", AsUtf16(Replaced(plain, '\n', "\r"), true)},
   };
   for (const auto& row : kRows) {
     const bool same = CellsOf(row.header, row.text) == cells;  // too long to be printed

@@ -1,7 +1,6 @@
 #include "LoadedUniversal.h"
 #include "MadeLogs.h"
 #include "support/Table.h"
-#include "universal/BuiltInTitles.h"
 #include "universal/DefinitionWriter.h"
 #include "universal/LogShape.h"
 #include "universal/ShapeDefinition.h"
@@ -10,8 +9,7 @@ namespace tarnview {
 namespace {
 
 LogShape ShapeOf(std::string_view text, const ShapeChoices& choices = {}) {
-  static const TitleDictionary dictionary(BuiltInTitles());
-  return ReadLogShape(text, dictionary, BuiltInItems(), choices);
+  return ReadLogShape(text, BuiltInDictionary(), BuiltInItems(), choices);
 }
 
 std::string PrintedItem(const ShapeItem& item) {

@@ -1,13 +1,11 @@
 // The small functions that a log's shape is found with.
 
 #include "DefinitionText.h"
-#include "base/FileSystem.h"
 #include "support/Table.h"
 #include "universal/ShapeField.h"
 #include "universal/TextEncoding.h"
 #include "universal/TimeBase.h"
 #include "universal/TimeText.h"
-#include "universal/TitleDictionary.h"
 #include "universal/Units.h"
 
 namespace tarnview {
@@ -26,12 +24,12 @@ TEST(TextEncoding, IsGuessedAndMadePlain) {
       {{"\xFE\xFF\x20\xAC\xD8\x3D\xDE\x00\x00\x7A", 10}, "UTF-16BE", "\x80?z"},
       {{"a\0b\0c\0d\0", 8}, "UTF-16LE", "abcd"},
       {{"\0a\0b\0c\0d\0", 9}, "UTF-16BE", "abcd"},
-      {"cut \xE2\x82", "UTF-8", "cut ?"},
+      {"cut \xE2\x82", "UTF-8", "cut ??"},
   };
   for (const auto& row : kRows) {
     const EncodingGuess guess = GuessEncoding(row.bytes);
     EXPECT_EQ(EncodingName(guess.encoding), row.encoding) << row.plain;
-    EXPECT_EQ(PlainBytes(row.bytes, guess.encoding).substr(0, 5), row.plain.substr(0, 5));
+    EXPECT_EQ(PlainBytes(row.bytes, guess.encoding), row.plain);
     EXPECT_EQ(EncodingOfName(row.encoding), guess.encoding);
   }
   EXPECT_EQ(GuessEncoding({"ab\0\0\0\0\0\0cd", 10}).score, 0);
@@ -87,22 +85,25 @@ TEST(ShapeField, Numbers) {
   EXPECT_EQ(read("85,5 \xB0\x43", ','), "85.5 to 1");
 }
 
+/// The delimiter, "quoted" and a line: its fields.
 TEST(ShapeField, LinesAreCut) {
-  const struct {
-    const char* line;
-    FieldForm form;
-    std::vector<std::string_view> fields;
-  } kRows[] = {
-      {"1, 2 ,,", {',', false, '.'}, {"1", "2", "", ""}},
-      {"\"a,b\", \"c\"\"d\",e", {',', true, '.'}, {"a,b", "c\"\"d", "e"}},
-      {"\"open,b", {',', true, '.'}, {"\"open", "b"}},
-      {"  1  2\t3 ", {' ', false, '.'}, {"1", "2", "3"}},
-      {"\"a b\" \"c\"d \"e f", {' ', true, '.'}, {"a b", "\"c\"d", "\"e", "f"}},
-      {"\"1\";2", {';', false, '.'}, {"\"1\"", "2"}},
-      {"", {',', false, '.'}, {}},
+  const auto cut = [](const TableRow& row) {
+    const auto parts = SplitAt(row.All(), " & ");
+    const FieldForm form{parts[0][0], parts[0].ends_with("quoted"), '.'};
+    std::string told;
+    for (const std::string_view field : SplitShapeLine(parts[1], form))
+      told += "[" + std::string(field) + "]";
+    return told;
   };
-  for (const auto& row : kRows)
-    EXPECT_EQ(SplitShapeLine(row.line, row.form), row.fields) << row.line;
+  ExpectTable(cut, R"(
+, & 1, 2 ,, -> [1][2][][]
+, quoted & "a,b", "c""d",e -> [a,b][c""d][e]
+, quoted & "open,b -> ["open][b]
+  &   1  2	3  -> [1][2][3]
+  quoted & "a b" "c"d "e f -> [a b]["c"d]["e][f]
+; & "1";2 -> ["1"][2]
+, &  -> 
+)");
 }
 
 TEST(ShapeField, Kinds) {
@@ -144,14 +145,8 @@ Boost (psi) -> Boost in psi | Throttle Position(Manifold)(%) -> Throttle Positio
 )");
 }
 
-const TitleDictionary& Dictionary() {
-  static const TitleDictionary dictionary(
-      *RealFileSystem().Read(std::string(TARNVIEW_DATA) + "/Log Titles.txt"));
-  return dictionary;
-}
-
 TEST(TitleDictionary, KnowsTitlesByTheirWords) {
-  ExpectTable([](const TableRow& row) { return Dictionary().Find(row.All()).item; }, R"(
+  ExpectTable([](const TableRow& row) { return BuiltInDictionary().Find(row.All()).item; }, R"(
 Engine Speed -> RPM | engine/rpm -> RPM | ENGINE_RPM -> RPM | nmot -> RPM
 Motor-Drehzahl -> RPM | XYZ Engine Speed -> RPM | 2ByteRPM -> RPM | Engine RPM (SAE) -> RPM
 Target Engine Speed ->  | MGP -> Boost | Lambda 1 -> A/F | AFR1 -> A/F
@@ -160,13 +155,13 @@ KM/H -> Speed | Widget ->  | Pressure, intake manifold -> MAP | Target, engine s
 Boost pressure actual value -> Boost | GPS Speed -> Speed | Air/Fuel Ratio -> A/F | Turbo Boost & Vacuum Gauge -> Boost
 
 )");
-  EXPECT_EQ(Dictionary().Find("K\xFChlmitteltemperatur").item, "C Temp");
-  EXPECT_EQ(Dictionary().Find("Z\xDCNDWINKEL").item, "IAdv");
+  EXPECT_EQ(BuiltInDictionary().Find("K\xFChlmitteltemperatur").item, "C Temp");
+  EXPECT_EQ(BuiltInDictionary().Find("Z\xDCNDWINKEL").item, "IAdv");
 }
 
 TEST(TitleDictionary, ItsItemsAreThoseOfTheCatalogueAndItsUnitsKnown) {
-  EXPECT_GT(Dictionary().Count(), 500);
-  for (const std::string& item : Dictionary().Items())
+  EXPECT_GT(BuiltInDictionary().Count(), 500);
+  for (const std::string& item : BuiltInDictionary().Items())
     EXPECT_TRUE(BuiltInItems().ByShortName(item)) << item;
 }
 

@@ -4,10 +4,7 @@
 
 #include "LoadedUniversal.h"
 #include "base/FileSystem.h"
-#include "support/LoadMessages.h"
-#include "universal/BuiltInTitles.h"
 #include "universal/ShapeItems.h"
-#include "universal/TitleDictionary.h"
 #include "universal/Units.h"
 
 namespace tarnview {
@@ -15,89 +12,57 @@ namespace {
 
 const std::string kFolder = std::string(TARNVIEW_DATA) + "/Universal Data Log Formats/";
 
-struct Shipped {
-  const char* definition;
-  const char* log;
-  std::size_t unknown;  ///< columns of the log that the definition leaves out
-};
-constexpr Shipped kShipped[] = {
-    {"Cobb Accessport", "cobb.csv", 1},
-    {"ECUMaster EMU", "ecumaster_emu.csv", 0},
-    {"HP Tuners", "hp_tuners.csv", 0},
-    {"ME221", "me221.csv", 0},
-    {"MegaSquirt TunerStudio (C)", "megasquirt_c.msl", 0},
-    {"MegaSquirt TunerStudio (F)", "megasquirt_f.msl", 0},
-    {"MoTeC i2", "motec_i2.csv", 0},
-    {"OBDLink", "obdlink.csv", 0},
-    {"RomRaider", "romraider.csv", 0},
-    {"Speeduino", "speeduino.msl", 0},
-    {"Torque", "torque.csv", 3},
-};
-
-clsDataLog DefinitionOf(const Shipped& shipped) {
-  const auto text = RealFileSystem().Read(kFolder + shipped.definition + ".txt");
-  return ReadDataLogDefinition(*text, "", BuiltInItems());
-}
-std::string LogOf(const Shipped& shipped) {
-  return std::string(
-      *RealFileSystem().Read(std::string(TARNVIEW_EXAMPLES) + "/universal/" + shipped.log));
+/// How many samples a log has, which of its columns are left out, and the last moment of the drive,
+/// which every log tells in its own units.
+std::string Told(const LoadedUniversal& loaded) {
+  const SampleStore& store = loaded.log.glngDataLog;
+  std::string told = std::to_string(store.Rows()) + loaded.FirstMessage();
+  for (const Column column : {kSecs, kRPM, kMAP, kTPS, kCTemp, kATemp, kAF, kIAdv, kSpeed}) {
+    const clsLogDataItem& item = loaded.items.Item(ItemOf(column));
+    const bool logged = !store.Column(column).empty();
+    told += " " + item.strShortName + " " +
+            (logged ? item.GetFormattedData(store(column, store.Rows() - 1)) : "none");
+  }
+  for (const std::string& title : loaded.outcome.unknownColumns) told += ", without " + title;
+  return told;
 }
 
-/// The last moment of the drive: every log tells it in its own units.
-constexpr struct {
-  Column column;
-  double value, within;
-} kLastMoment[] = {{kSecs, 2.75, 1e-3}, {kRPM, 6500, 0},   {kMAP, 185.4, 0.3},
-                   {kTPS, 96, 0.1},     {kCTemp, 86, 0.3}, {kATemp, 33, 0.3},
-                   {kAF, 11.5, 0.01},   {kIAdv, 16, 0.1},  {kSpeed, 93, 0.1}};
-
-TEST(ShippedDefinitions, EachReadsItsLog) {
-  for (const Shipped& shipped : kShipped) {
-    SCOPED_TRACE(shipped.definition);
-    const LoadedUniversal loaded(DefinitionOf(shipped), LogOf(shipped));
-    EXPECT_EQ(loaded.outcome.messages, std::vector<int>{});
-    EXPECT_EQ(loaded.outcome.unknownColumns.size(), shipped.unknown);
+TEST(ShippedDefinitions, EachReadsItsLogWhereverItsTitlesStand) {
+  std::size_t count = 0;
+  const auto tell = [&](const TableRow& row) {
+    ++count;
+    const clsDataLog definition = ReadDataLogDefinition(
+        *RealFileSystem().Read(kFolder + row.Text(0) + ".txt"), "", BuiltInItems());
     // The graph would draw an item with an offset that much higher.
-    EXPECT_TRUE(loaded.definition.objColumns.OffsetDataItems().empty());
-    const SampleStore& store = loaded.log.glngDataLog;
-    ASSERT_EQ(store.Rows(), 12);
-    for (const auto& [column, value, within] : kLastMoment)
-      if (column != kSpeed || !store.Column(kSpeed).empty()) {
-        EXPECT_NEAR(loaded.items.Item(ItemOf(column)).GetRawData(store(column, 11)), value, within);
-      }
-  }
-}
-
-/// Two more lines of preamble: what is told of the log's own lines counts for little.
-TEST(ShippedDefinitions, ThoseWithAPreambleFindTheirTitlesWhereverTheyStand) {
-  int found = 0;
-  for (const Shipped& shipped : kShipped) {
-    const clsDataLog definition = DefinitionOf(shipped);
-    if (definition.strTitlesStart.empty()) continue;
-    ++found;
-    std::string text = LogOf(shipped);
-    text.insert(text.find('\n') + 1, "One more: 1\n\n");
-    EXPECT_EQ(LoadedUniversal(definition, text).log.glngDataLog.Rows(), 12) << shipped.definition;
-  }
-  EXPECT_EQ(found, 6);
-}
-
-TEST(ShippedDefinitions, TheDictionaryHasTheirTitles) {
-  const TitleDictionary dictionary(BuiltInTitles());
-  for (const Shipped& shipped : kShipped) {
-    const clsDataLog definition = DefinitionOf(shipped);
+    EXPECT_TRUE(definition.objColumns.OffsetDataItems().empty()) << row.All();
     for (const clsDataLogColumn& column : definition.objColumns) {
       if (UnitOfItem(column.lngDataItemID).empty()) continue;  // an item that only stands in
       std::string title = column.strColumnTitle;
       TakeUnit(title);
-      EXPECT_NE(dictionary.Find(title).item, "")
-          << shipped.definition << ": " << column.strColumnTitle;
+      EXPECT_NE(BuiltInDictionary().Find(title).item, "") << row.All() << column.strColumnTitle;
     }
-  }
-}
-
-TEST(ShippedDefinitions, NoneIsLeftOutHere) {
-  EXPECT_EQ(RealFileSystem().List(kFolder, "*.txt").size(), std::size(kShipped));
+    std::string log(*RealFileSystem().Read(TARNVIEW_EXAMPLES "/universal/" + row.Text(1)));
+    const std::string told = Told(LoadedUniversal(definition, log));
+    if (definition.strTitlesStart.empty()) return told;
+    // Two more lines of preamble: what is told of the log's own lines counts for little.
+    log.insert(log.find('\n') + 1, "One more: 1\n\n");
+    EXPECT_EQ(Told(LoadedUniversal(definition, log)), told) << row.All();
+    return told + ", by its titles";
+  };
+  ExpectTable(tell, R"(
+Cobb Accessport, cobb.csv -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.1 A Temp 32.8 A/F 11.50 IAdv 16.0 Speed 93.0, without AP Info:[AP3-SUB-004 v1.7.4.0]
+ECUMaster EMU, ecumaster_emu.csv -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.0 A Temp 33.0 A/F 11.50 IAdv 16.0 Speed 93.0
+HP Tuners, hp_tuners.csv -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.1 A Temp 32.8 A/F 11.50 IAdv 16.0 Speed 93.0, by its titles
+ME221, me221.csv -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.0 A Temp 33.0 A/F 11.50 IAdv 16.0 Speed 93.0
+MegaSquirt TunerStudio (C), megasquirt_c.msl -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.0 A Temp 33.0 A/F 11.50 IAdv 16.0 Speed none, by its titles
+MegaSquirt TunerStudio (F), megasquirt_f.msl -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.1 A Temp 32.8 A/F 11.50 IAdv 16.0 Speed none, by its titles
+MoTeC i2, motec_i2.csv -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.0 A Temp 33.0 A/F 11.50 IAdv 16.0 Speed 93.0, by its titles
+OBDLink, obdlink.csv -> 12 Secs 2.750 RPM 6500 MAP 185.6 TPS 96.0 C Temp 86.1 A Temp 32.8 A/F 11.50 IAdv 16.0 Speed 93.0, by its titles
+RomRaider, romraider.csv -> 12 Secs 2.750 RPM 6500 MAP 185.5 TPS 96.0 C Temp 86.1 A Temp 32.8 A/F 11.50 IAdv 16.0 Speed 93.0
+Speeduino, speeduino.msl -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.0 A Temp 33.0 A/F 11.50 IAdv 16.0 Speed 93.0, by its titles
+Torque, torque.csv -> 12 Secs 2.750 RPM 6500 MAP 185.4 TPS 96.0 C Temp 86.0 A Temp 33.0 A/F 11.50 IAdv 16.0 Speed 93.0, without GPS Time, without Longitude, without Latitude
+)");
+  EXPECT_EQ(RealFileSystem().List(kFolder, "*.txt").size(), count);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/Table.h"
 #include "universal/clsDataLogColumns.h"
 
 namespace tarnview {
@@ -12,12 +13,6 @@ clsDataLogColumn Column(const std::string& title, int item) {
   column.strColumnTitle = title;
   column.lngDataItemID = item;
   return column;
-}
-
-std::string Titles(const clsDataLogColumns& columns) {
-  std::string titles;
-  for (const auto& column : columns) titles += column.strColumnTitle;
-  return titles;
 }
 
 TEST(clsDataLogColumn, KnowsWhatWasWrittenAndSharesItsValues) {
@@ -37,30 +32,22 @@ TEST(clsDataLogColumn, KnowsWhatWasWrittenAndSharesItsValues) {
 
 TEST(clsDataLogColumns, GoWhereTheyAreSent) {
   clsDataLogColumns columns;
-  columns.AddDirect(Column("b", 3));
-  columns.AddDirect(Column("d", 3));
-  columns.AddDirect(Column("a", 3), 1);
-  columns.AddDirect(Column("c", 3), 0, 2);
-  columns.AddDirect(Column("e", 3), 9, 9);
-  columns.AddDirect(Column("x", 3), 1, 3);
-  EXPECT_EQ(Titles(columns), "xabcde");
-  columns.Remove(1);
-  EXPECT_EQ(Titles(columns.Duplicate()), "abcde");
-}
-
-TEST(clsDataLogColumns, KnowTheItemsWithAnOffset) {
-  clsDataLogColumns columns;
-  const auto add = [&](int item, double offset) {
-    clsDataLogColumn column = Column("t", item);
-    column.dblOffset = offset;
-    columns.AddDirect(column);
+  // The title, before and after which it goes, the titles then, and the items with an offset.
+  const auto add = [&](const TableRow& row) {
+    clsDataLogColumn column = Column(row.Text(0), 3 + row.Int(3) / 10);
+    if (row.Text(3) != "unset") column.dblOffset = row.Number(3);
+    columns.AddDirect(column, row.Int(1), row.Int(2));
+    std::string told;
+    const clsDataLogColumns copy = columns.Duplicate();
+    for (const clsDataLogColumn& one : copy) told += one.strColumnTitle;
+    for (const int item : copy.OffsetDataItems()) told += " " + std::to_string(item);
+    return told;
   };
-  add(5, 10);
-  add(5, 20);
-  add(7, 0);
-  columns.AddDirect(Column("t", 9));
-  EXPECT_EQ(columns.OffsetDataItems(), std::set<int>{5});
-  EXPECT_EQ(columns.Duplicate().OffsetDataItems(), std::set<int>{5});
+  ExpectTable(add, R"(
+b, 0, 0, unset -> b | d, 0, 0, 0 -> bd | a, 1, 0, 20 -> abd 5 | c, 0, 2, 10 -> abcd 4 5 | e, 9, 9, 10 -> abcde 4 5 | x, 1, 3, unset -> xabcde 4 5
+)");
+  columns.Remove(1);
+  EXPECT_EQ(columns.Item(1).strColumnTitle, "a");
 }
 
 TEST(clsDataLogColumns, TellOfAnItem) {
