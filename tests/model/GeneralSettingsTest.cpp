@@ -33,43 +33,45 @@ std::string RuleOf(const SettingRow& row) {
   return Join({row.limits, row.text({}), taken.substr(1)}, " | ");
 }
 
-/// Behind each rule the settings that keep to it, and the window and control that set them.
+/// Behind each rule the settings that keep to it, by their places in the list, and the window and
+/// control that set them.
 TEST(Settings, AreListedAndHeldToTheirRules) {
   std::map<std::string, std::string> settingsOf;
+  int place = 0;
   for (const SettingRow& row : AllSettings())
-    settingsOf[RuleOf(row)] +=
-        std::string(row.key) + " (" + row.setIn.window + " " + row.setIn.control + "), ";
+    settingsOf[RuleOf(row)] += std::to_string(++place) + " " + row.key + " (" + row.setIn.window +
+                               " " + row.setIn.control + "), ";
   std::string told = "\n";
   for (const auto& [rule, settings] : settingsOf) told += rule + ": " + settings + "\n";
   ExpectTold(told, R"(
- |  | = = = = = = = = = = = =: Initial Directory ( ), Log EXE (frmOptions/FM Link ECU txtPath(0)), Conversion EXE (frmOptions/FM Link ECU txtPath(1)), Alternative Background Picture (frmOptions/File Locations txtPath(2)), Default Working Directory (frmOptions/File Locations txtPath(3)), Aux Input Conversion File (frmOptions/FM Link ECU txtPath(4)), O2 Input Conversion File (frmOptions/FM Link ECU txtPath(5)), Generic Data Log Definition File (frmOptions/File Locations txtPath(6)), Last Converted Binary File (frmConvertBIN txtPath(0)), Default Benchmark (frmZoneData cboBenchmark), Main Window Dividers ( ), Scatter Graph Dividers ( ), Own Item Display ( ), 
--30 to 60 | 20 | 0 0 0 = = 3 = = = -30 60 0: Ambient Temp (frmOptions/General txtAmbTemp), 
--99 to 99 | 0 | 0 0 0 = = 3 = = = -99 99 0: Plot From Temperature (frmOptions/General txtPlotFromTemp), 
-0 or 1 | 0 | 0 0 0 = = 0 0 0 0 0 0 0: Humidity Type (frmOptions/General cboHumidityType), 
-0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp | 50 | 0 0 0 = = 3 = = 0 0 100 0: Relative Humidity (frmOptions/General txtRH), 
-0 to 300000 | 0 | 0 0 0 = = 3 = = 0 0 = 0: Initial Plot Width (frmOptions/General txtInitialPlotWidth), 
-0 to 359 | 130 | 0 0 0 = = 3 = = 0 0 359 0: Initial Ignition Elevation (frmOptions/FM Link ECU txt3DSpec(3)), 
-0 to 359 | 20 | 0 0 0 = = 3 = = 0 0 359 0: Initial Fuel Rotation (frmOptions/FM Link ECU txt3DSpec(0)), Initial Ignition Rotation (frmOptions/FM Link ECU txt3DSpec(2)), 
-0 to 359 | 240 | 0 0 0 = = 3 = = 0 0 359 0: Initial Fuel Elevation (frmOptions/FM Link ECU txt3DSpec(1)), 
-0.01 to 100000 | 10 | 0.01 0.01 0.01 0.01 = = = = 0.01 0.01 = 0.01: Lines A Second (frmLineFrequency txtLineFrequency), 
-1 or 0 | 0 | 0 0 0 = = 1 1 1 1 1 1 0: Upload Default 2 (frmOptions/FM Link ECU chkUploadDefs(2)), Upload Default 3 (frmOptions/FM Link ECU chkUploadDefs(3)), Fix Graph Max (frmDataLogViewer chkFixY), 
-1 or 0 | 1 | 0 0 0 = = 1 1 1 1 1 1 0: Quick Graph (frmDataLogViewer chkQuickGraph), Upload Default 0 (frmOptions/FM Link ECU chkUploadDefs(0)), Upload Default 1 (frmOptions/FM Link ECU chkUploadDefs(1)), 
-1 to 3 | 1 | 1 1 1 1 = 3 1 1 1 1 1 1: Auto Gear Selection Speed Units (frmOptions/General cboSpeedUnits), 
-1 to 3 | 1 | 1 1 1 1 = 3 3 3 1 1 3 1: Graph Colour Scheme (frmOptions/General cboGraphColourScheme), 
-1 to 3 | 2 | 2 2 2 2 = 3 2 2 2 2 2 2: Default Chip Version (frmOptions/FM Link ECU cboChipType), 
-1 to 8 | 1 | 1 1 1 1 = 3 = 8 1 1 8 1: Default File Type (frmOptions/File Locations cboFileType), 
-1 to 9 | 1 | 1 1 1 1 = 3 = 1 1 1 1 1: Serial Com Port (frmOptions/FM Link ECU txtComPort), 
-1.6 or 1.8 | 1.6 | 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6: Default Engine Size (frmOptions/FM Link ECU cboChipType), 
-10 to 1000 | 250 | 10 10 10 10 10 10 10 = 10 10 1000 10: Graph Y Max (frmDataLogViewer txtYMax), 
-50 to 1000 | 100 | 50 50 50 50 50 50 50 50 50 50 1000 50: Show Point Sample Graph Width (frmOptions/General txtSampleWidth), 
-75 to 115 | 75 | 75 75 75 75 75 75 75 75 75 75 115 75: Default Atmospheric Pressure (frmOptions/General txtAtmos), 
-Y or N | N | = = N N N N N N N N N N: Silent Defaults (frmOptions/FM Link ECU chkSilentDefaults), Show Checked Only (frmDataLogViewer chkShowCheckedOnly), Auto File Names (frmOptions/General chkAutoFileNames), Scatter Graph Auto Draw (frmOptions/General chkScatterAutoDraw), SAE Correction (frmOptions/General chkSAE), Draw After Opening (frmOptions/General chkDrawAfterOpening), 
-Y or N | Y | = = Y Y Y Y Y Y Y Y Y Y: Display Zone Influence (frmDataLogViewer mnuViewZoneInfl), Display Sample Details in Scatter Graph (frmOptions/General chkSampleScatter), Retain Binary Files (frmOptions/FM Link ECU chkRetainBIN), Auto Open Data Tags Window (frmOptions/FM Link ECU chkAutoTag), Auto Scatter Graph Sample Filter (frmOptions/General chkAutoScatterFilter), Auto Gear Selection (frmOptions/General chkPowerGraphGearSelection), 
-above 0 | 6.66 | 6.66 6.66 6.66 6.66 = = = = 6.66 6.66 = 6.66: Data Log Line Frequency (frmOptions/General txtDefFreq), 
-data item numbers with commas | 3,5,7,17,20,21,23,36 | 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 = 3 = = 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36: Checked Data Items (frmDataLogViewer lvwSampleDetails), 
-from 0 to below 100 | 0.44704 | 0 0 0 = = = = = 0.44704 0.44704 0.44704 0: Auto Gear Selection Speed Conversion Factor (frmOptions/General txtmsConvFactor), 
-one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100 | 2 | 2 2 2 2 2 3 2 = 2 2 100 2: Zoom Amount (frmDataLogViewer cboZoomAmount), 
-yyyy-mm-dd | 2000-01-01 | 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01: Default Chip Date (frmOptions/FM Link ECU txtChipDate), 
+ |  | = = = = = = = = = = = =: 1 Initial Directory ( ), 6 Log EXE (frmOptions/FM Link ECU txtPath(0)), 7 Conversion EXE (frmOptions/FM Link ECU txtPath(1)), 8 Alternative Background Picture (frmOptions/File Locations txtPath(2)), 9 Default Working Directory (frmOptions/File Locations txtPath(3)), 10 Aux Input Conversion File (frmOptions/FM Link ECU txtPath(4)), 11 O2 Input Conversion File (frmOptions/FM Link ECU txtPath(5)), 12 Generic Data Log Definition File (frmOptions/File Locations txtPath(6)), 13 Last Converted Binary File (frmConvertBIN txtPath(0)), 20 Default Benchmark (frmZoneData cboBenchmark), 52 Main Window Dividers ( ), 53 Scatter Graph Dividers ( ), 55 Own Item Display ( ), 
+-30 to 60 | 20 | 0 0 0 = = 3 = = = -30 60 0: 42 Ambient Temp (frmOptions/General txtAmbTemp), 
+-99 to 99 | 0 | 0 0 0 = = 3 = = = -99 99 0: 21 Plot From Temperature (frmOptions/General txtPlotFromTemp), 
+0 or 1 | 0 | 0 0 0 = = 0 0 0 0 0 0 0: 43 Humidity Type (frmOptions/General cboHumidityType), 
+0 to 100; a wet bulb temperature -30 to 60 and not above Ambient Temp | 50 | 0 0 0 = = 3 = = 0 0 100 0: 44 Relative Humidity (frmOptions/General txtRH), 
+0 to 300000 | 0 | 0 0 0 = = 3 = = 0 0 = 0: 41 Initial Plot Width (frmOptions/General txtInitialPlotWidth), 
+0 to 359 | 130 | 0 0 0 = = 3 = = 0 0 359 0: 50 Initial Ignition Elevation (frmOptions/FM Link ECU txt3DSpec(3)), 
+0 to 359 | 20 | 0 0 0 = = 3 = = 0 0 359 0: 47 Initial Fuel Rotation (frmOptions/FM Link ECU txt3DSpec(0)), 49 Initial Ignition Rotation (frmOptions/FM Link ECU txt3DSpec(2)), 
+0 to 359 | 240 | 0 0 0 = = 3 = = 0 0 359 0: 48 Initial Fuel Elevation (frmOptions/FM Link ECU txt3DSpec(1)), 
+0.01 to 100000 | 10 | 0.01 0.01 0.01 0.01 = = = = 0.01 0.01 = 0.01: 54 Lines A Second (frmLineFrequency txtLineFrequency), 
+1 or 0 | 0 | 0 0 0 = = 1 1 1 1 1 1 0: 26 Upload Default 2 (frmOptions/FM Link ECU chkUploadDefs(2)), 27 Upload Default 3 (frmOptions/FM Link ECU chkUploadDefs(3)), 30 Fix Graph Max (frmDataLogViewer chkFixY), 
+1 or 0 | 1 | 0 0 0 = = 1 1 1 1 1 1 0: 4 Quick Graph (frmDataLogViewer chkQuickGraph), 24 Upload Default 0 (frmOptions/FM Link ECU chkUploadDefs(0)), 25 Upload Default 1 (frmOptions/FM Link ECU chkUploadDefs(1)), 
+1 to 3 | 1 | 1 1 1 1 = 3 1 1 1 1 1 1: 39 Auto Gear Selection Speed Units (frmOptions/General cboSpeedUnits), 
+1 to 3 | 1 | 1 1 1 1 = 3 3 3 1 1 3 1: 46 Graph Colour Scheme (frmOptions/General cboGraphColourScheme), 
+1 to 3 | 2 | 2 2 2 2 = 3 2 2 2 2 2 2: 17 Default Chip Version (frmOptions/FM Link ECU cboChipType), 
+1 to 8 | 1 | 1 1 1 1 = 3 = 8 1 1 8 1: 2 Default File Type (frmOptions/File Locations cboFileType), 
+1 to 9 | 1 | 1 1 1 1 = 3 = 1 1 1 1 1: 14 Serial Com Port (frmOptions/FM Link ECU txtComPort), 
+1.6 or 1.8 | 1.6 | 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6 1.6: 15 Default Engine Size (frmOptions/FM Link ECU cboChipType), 
+10 to 1000 | 250 | 10 10 10 10 10 10 10 = 10 10 1000 10: 31 Graph Y Max (frmDataLogViewer txtYMax), 
+50 to 1000 | 100 | 50 50 50 50 50 50 50 50 50 50 1000 50: 36 Show Point Sample Graph Width (frmOptions/General txtSampleWidth), 
+75 to 115 | 75 | 75 75 75 75 75 75 75 75 75 75 115 75: 18 Default Atmospheric Pressure (frmOptions/General txtAtmos), 
+Y or N | N | = = N N N N N N N N N N: 19 Silent Defaults (frmOptions/FM Link ECU chkSilentDefaults), 32 Show Checked Only (frmDataLogViewer chkShowCheckedOnly), 33 Auto File Names (frmOptions/General chkAutoFileNames), 34 Scatter Graph Auto Draw (frmOptions/General chkScatterAutoDraw), 45 SAE Correction (frmOptions/General chkSAE), 51 Draw After Opening (frmOptions/General chkDrawAfterOpening), 
+Y or N | Y | = = Y Y Y Y Y Y Y Y Y Y: 22 Display Zone Influence (frmDataLogViewer mnuViewZoneInfl), 23 Display Sample Details in Scatter Graph (frmOptions/General chkSampleScatter), 28 Retain Binary Files (frmOptions/FM Link ECU chkRetainBIN), 29 Auto Open Data Tags Window (frmOptions/FM Link ECU chkAutoTag), 35 Auto Scatter Graph Sample Filter (frmOptions/General chkAutoScatterFilter), 38 Auto Gear Selection (frmOptions/General chkPowerGraphGearSelection), 
+above 0 | 6.66 | 6.66 6.66 6.66 6.66 = = = = 6.66 6.66 = 6.66: 37 Data Log Line Frequency (frmOptions/General txtDefFreq), 
+data item numbers with commas | 3,5,7,17,20,21,23,36 | 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 = 3 = = 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36 3,5,7,17,20,21,23,36: 5 Checked Data Items (frmDataLogViewer lvwSampleDetails), 
+from 0 to below 100 | 0.44704 | 0 0 0 = = = = = 0.44704 0.44704 0.44704 0: 40 Auto Gear Selection Speed Conversion Factor (frmOptions/General txtmsConvFactor), 
+one of 2, 3, 4, 5, 10, 20, 30, 40, 50, 100 | 2 | 2 2 2 2 2 3 2 = 2 2 100 2: 3 Zoom Amount (frmDataLogViewer cboZoomAmount), 
+yyyy-mm-dd | 2000-01-01 | 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01 2000-01-01: 16 Default Chip Date (frmOptions/FM Link ECU txtChipDate), 
 )");
 }
 

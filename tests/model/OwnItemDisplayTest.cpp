@@ -1,4 +1,5 @@
 #include "model/Catalogue.h"
+#include "model/ItemDisplaySettings.h"
 #include "model/OwnItemDisplay.h"
 #include "support/Table.h"
 
@@ -39,6 +40,28 @@ TEST(OwnItemDisplay, IsKeptByTitleTheLatestInFront) {
   EXPECT_EQ(KeepOwnItemDisplay(oil, Items(), Items()), oil);
   EXPECT_EQ(KeepOwnItemDisplay(oil, Items(), BuildDataItemCatalogue().gcolFixedDataItems), oil);
   EXPECT_EQ(KeepOwnItemDisplay(fuel, Items(), items).find('|'), std::string::npos);
+}
+
+/// The colours of an item of the catalogue and of one of the log's own.
+std::string Colours(const clsLogDataItems& items) {
+  return std::to_string(items.Item(3).lngColour) + " " + std::to_string(items.Item(84).lngColour);
+}
+
+TEST(ItemDisplay, OfTheCatalogueIsWrittenReadAndCopied) {
+  clsLogDataItems items = Items(), read = Items(), copied = Items();
+  const std::string before = Colours(items);
+  items.Item(3).lngColour = items.Item(84).lngColour = 7;
+  IniWriter file;
+  WriteItemDisplay(items, file);
+  EXPECT_EQ(file.Text().find("Item 84"), std::string::npos);
+  ReadItemDisplay(ReadINIFileToArray("[A]\nItem 3 Colour=7\n"), "A", read);
+  EXPECT_EQ(Colours(read), before) << "without the first item there is none";
+  ReadItemDisplay(ReadINIFileToArray("[A]\n" + file.Text() + "Item 84 Colour=7\n"), "A", read);
+  EXPECT_EQ(Colours(read), "7 0");
+  CopyCatalogueDisplay(items, copied);
+  EXPECT_EQ(Colours(copied), "7 0");
+  CopyItemDisplay(items, copied);
+  EXPECT_EQ(Colours(copied), "7 7");
 }
 
 }  // namespace
