@@ -11,8 +11,6 @@
 
 namespace tarnview {
 
-using Ids = std::vector<int>;
-
 /// The whole program on a disk in memory, before a desktop that records. Its story passes over what
 /// a command may do (a table in MenusTest), lists and the main chart: "show" tells of them.
 class ProgramFixture : public DeskTest {
@@ -68,23 +66,6 @@ class ProgramFixture : public DeskTest {
     Main().cmdDrawGraph.Press();
   }
   std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
-  std::string Said() { return Main().staDataLogViewer.Panel(1); }
-  std::string Shown(const char* item) {
-    const ListView& list = Main().lvwSampleDetails;
-    return list.At(list.RowOfTag(item)).texts[1];
-  }
-  Ids MessageIds() const {
-    Ids ids;
-    for (const Box& box : host.messages) ids.push_back(box.id);
-    return ids;
-  }
-  /// The ids of the boxes since the last call.
-  Ids Boxes() {
-    const Ids ids = MessageIds();
-    host.messages.clear();
-    return ids;
-  }
-
   /// What a file's opening answered, which the story tells.
   void Opened(bool loaded) { opened_ += loaded ? "yes" : "no"; }
   /// Whether the main window is open.

@@ -33,21 +33,4 @@ inline void Act(Form& form, const std::string& actions) {
   }
 }
 
-/// Of those names, apart by blanks, the controls that can be used.
-inline std::string Enabled(const Form& form, const std::string& names) {
-  std::string enabled;
-  for (const std::string& name : Split(names, ' '))
-    if (ControlOf(form, name)->Enabled()) enabled += name + " ";
-  return enabled;
-}
-
-/// What the controls of those names hold (text, caption or entry), with "|" between.
-inline std::string Texts(const Form& form, const std::string& names) {
-  std::string texts;
-  for (const std::string& name : Split(names, ' '))
-    for (const auto& [fact, value] : ControlOf(form, name)->Facts())
-      if (fact == "text" || fact == "caption") texts += "|" + std::get<std::string>(value.Get());
-  return texts.substr(1);
-}
-
 }  // namespace tarnview
