@@ -42,6 +42,12 @@ TEST(OwnItemDisplay, IsKeptByTitleTheLatestInFront) {
   EXPECT_EQ(KeepOwnItemDisplay(fuel, Items(), items).find('|'), std::string::npos);
 }
 
+TEST(OwnItemDisplay, IsNotThatOfTheCatalogue) {
+  clsLogDataItems items = Items();
+  ShowOwnItemsAs("7,1,1,Y,1," + Upper(items.Item(gintColumnCount).strLongName), items);
+  EXPECT_NE(items.Item(gintColumnCount).lngColour, 7);
+}
+
 /// The colours of an item of the catalogue and of one of the log's own.
 std::string Colours(const clsLogDataItems& items) {
   return std::to_string(items.Item(3).lngColour) + " " + std::to_string(items.Item(84).lngColour);
