@@ -16,6 +16,7 @@ class Roads : public ProgramFixture {
   Roads() {
     story.Verb("content",
                [this](const auto& words) { Opened(Main().Files().OpenByContent(words[0])); });
+    story.Verb("offers", [this](const auto& words) { host.takesOffers = words[0] == "yes"; });
     story.Fact("as", [this] { return Runs() ? program->Global().takenAs : std::string(); });
     story.Fact("cells", [this] {
       std::string cells;

@@ -11,6 +11,11 @@ open /notes.txt -> [52 ok], [12 ok], opened no, staDataLogViewer[0]=Loading fail
 # Whoever chose another type is told so.
 open /good.txt 3 -> [good.txt does not load as Tec-2 Data Log.\nThis looks like a log of the kind FM Link Data Log. Open it so? yes], [16 ok], opened yes, as=FM Link Data Log, staDataLogViewer[0]=Loading complete: FM Link Data Log
 answer no; open /good.txt 3 -> [good.txt does not load as Tec-2 Data Log.\nThis looks like a log of the kind FM Link Data Log. Open it so? no], [54 ok], [12 ok], opened no, as=, cells=, caption=Tarnview, PlotRangeFrom=, PlotRangeTo=, lblEmptyPlace=Open a log, or drop one here, staDataLogViewer[0]=Loading failed, staDataLogViewer[2]=
+# Described by hand instead.
+offers yes; open /run.csv -> [This looks like a log of an unknown logger: 3 of 3 columns. Open it so? yes], +frmLogDescription
+click cmdCancel; offers no -> opened no, -frmLogDescription
+answer file /run.csv; click mnuFileNewLogDescription -> [open "Open" of All Files (*.*) /run.csv], +frmLogDescription
+click cmdCancel -> -frmLogDescription
 
 == ALogWithoutAClockIsAskedAboutOnceAndReadOnce
 open /run.csv -> [This looks like a log of an unknown logger: 2 of 2 columns. Open it so? yes], +frmLineFrequency

@@ -1,5 +1,5 @@
 == WhatIsWrittenIsReadBackByteForByte
-begin full; show fraZoneInfl; end -> fraZoneInfl off, fraZoneInfl hidden, fraZoneInfl=Zone Influence, wrote Tarnview.ini
+begin full; show fraZoneInfl lvwPresets[1]; end -> fraZoneInfl off, fraZoneInfl hidden, fraZoneInfl=Zone Influence, lvwPresets[1]=[Mine], lvwPresets[1] unselected, wrote Tarnview.ini
 begin none; show chkQuickGraph; end; now defaults -> chkQuickGraph=&Quick Graph, chkQuickGraph checked, wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: defaults
 begin defaults; end -> wrote Tarnview.ini
 # The settings from before a run stay beside; no run of many saves takes their place.
