@@ -17,7 +17,11 @@ class ScatterPresetFile : public ::testing::Test {
 
 TEST_F(ScatterPresetFile, IsWrittenLineByLineAndReadBack) {
   clsScatterGraphPreset preset;
-  EXPECT_EQ(preset.lngPointColour + preset.lngPointSize, 0) << "never given";
+  for (const auto member :
+       {&clsScatterGraphPreset::lngPointColour, &clsScatterGraphPreset::lngPointShape,
+        &clsScatterGraphPreset::lngPointSize, &clsScatterGraphPreset::lngXAxisDataItem,
+        &clsScatterGraphPreset::lngYAxisDataItem})
+    EXPECT_EQ(preset.*member, 0) << "never given";
   preset.strName = "Spool Up";
   preset.lngPointColour = 0xFFFF00;
   preset.lngPointShape = 3;
