@@ -18,10 +18,9 @@ class MemoryFileSystem : public FileSystem {
   std::map<std::string, std::string> files;
   std::set<std::string> folders;      ///< without a separator at the end
   std::vector<std::string> accesses;  ///< verb and path, in their order
-  bool failReads = false;
-  bool failWrites = false;         ///< a full disk
-  std::set<std::string> broken;    ///< paths that can be neither read nor changed
-  std::set<std::string> readOnly;  ///< protected by their owner
+  bool failWrites = false;            ///< a full disk
+  std::set<std::string> broken;       ///< paths that can be neither read nor changed
+  std::set<std::string> readOnly;     ///< protected by their owner
   std::set<std::string> heldByAnother;
   std::set<std::string> pipes;  ///< among the files
   std::string here;             ///< where a path that is not absolute begins
@@ -50,7 +49,7 @@ class MemoryFileSystem : public FileSystem {
   std::optional<FileBytes> Read(const std::string& path) override {
     Note("read", path);
     const auto found = files.find(path);
-    if (failReads || broken.contains(path) || found == files.end()) return std::nullopt;
+    if (broken.contains(path) || found == files.end()) return std::nullopt;
     return FileBytes(found->second);
   }
   std::string WhyNotRead(const std::string& path) override {

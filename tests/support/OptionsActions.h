@@ -1,11 +1,11 @@
 #pragma once
 
 #include <string_view>
-#include <utility>
 
 #include "customise/frmOptions.h"
 #include "model/GeneralSettings.h"
 #include "support/MemoryFileSystem.h"
+#include "support/Table.h"
 #include "support/WindowActions.h"
 
 namespace tarnview {
@@ -27,26 +27,19 @@ inline void AddFilesOfOptions(MemoryFileSystem& files) {
 
 /// Another value than the default for each kind of control.
 inline void Change(Control& control) {
-  const std::pair<const char*, const char*> kTexts[] = {{"txtPath(0)", "/link/L.EXE"},
-                                                        {"txtPath(1)", "/link/C.exe"},
-                                                        {"txtPath(2)", "/pictures/a.bmp"},
-                                                        {"txtPath(3)", "/new/"},
-                                                        {"txtPath(4)", "/tables/t.txt"},
-                                                        {"txtPath(5)", "/tables/t.txt"},
-                                                        {"txtPath(6)", "/defs/mine.txt"},
-                                                        {"txtChipDate", "09-Jun-2003"},
-                                                        {"txtmsConvFactor", "0.5"},
-                                                        {"txtComPort", "7"},
-                                                        {"txtAtmos", "98"},
-                                                        {"txtRH", "12"},
-                                                        {"txtAmbTemp", "15"}};
+  constexpr const char* kTexts =
+      "txtPath(0) /link/L.EXE, txtPath(1) /link/C.exe, txtPath(2) /pictures/a.bmp, "
+      "txtPath(3) /new/, txtPath(4) /tables/t.txt, txtPath(5) /tables/t.txt, "
+      "txtPath(6) /defs/mine.txt, txtChipDate 09-Jun-2003, txtmsConvFactor 0.5, txtComPort 7, "
+      "txtAtmos 98, txtRH 12, txtAmbTemp 15";
   if (auto* box = dynamic_cast<CheckBox*>(&control)) return box->Do({"click", {}});
   if (auto* list = dynamic_cast<ComboBox*>(&control)) {
     const int next = (list->ListIndex() + 1) % static_cast<int>(list->Entries().size());
     return list->Do({"choose", {"#" + std::to_string(next)}});
   }
-  for (const auto& [name, text] : kTexts)
-    if (control.FullName() == name) return control.Do({"type", {text}});
+  const std::string name = control.FullName() + " ";
+  for (const std::string& text : SplitAt(kTexts, ", "))
+    if (text.starts_with(name)) return control.Do({"type", {text.substr(name.size())}});
   control.Do({"type", {"77"}});
 }
 

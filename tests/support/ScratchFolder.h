@@ -1,10 +1,10 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 #include <string>
+
+#include "support/Accept.h"
 
 namespace tarnview {
 
@@ -20,11 +20,7 @@ class ScratchFolder {
   void Put(const std::string& name, const std::string& text) const {
     std::ofstream(path / name, std::ios::binary) << text;
   }
-  std::string Get(const std::string& name) const {
-    std::ostringstream text;
-    text << std::ifstream(path / name, std::ios::binary).rdbuf();
-    return text.str();
-  }
+  std::string Get(const std::string& name) const { return FileText(Path(name)); }
 
   const std::filesystem::path path = std::filesystem::temp_directory_path() /
                                      ("tarnview test " + std::to_string(std::random_device()()));

@@ -229,15 +229,9 @@ class Story {
     if (facts["dialog"].empty()) what = facts["id"] == "0" ? facts["text"] : facts["id"];
     return "[" + OneLine(what) + " " + facts["reply"] + "]";
   }
-  static std::string OneLine(const std::string& text) {
-    std::string line;
-    for (const char c : text) {
-      if (c == '\n')
-        line += "\\n";
-      else if (c != '\r')
-        line += c;
-    }
-    return line;
+  static std::string OneLine(std::string text) {
+    std::erase(text, '\r');
+    return Join(Split(text, '\n'), "\\n");
   }
 
   RecordingHost& host_;

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
+
+#include "base/Text.h"
+#include "support/Accept.h"
 
 namespace tarnview {
 
@@ -16,10 +14,8 @@ class StoryFile {
   StoryFile(const std::string& folder, const std::string& source) {
     const auto room = source.rfind('/', source.rfind('/') - 1);
     path_ = folder + source.substr(room, source.rfind('.') - room) + ".story";
-    std::stringstream whole;
-    whole << std::ifstream(path_, std::ios::binary).rdbuf();
-    text_ = whole.str();
-    for (std::string line; std::getline(whole, line);)
+    text_ = FileText(path_);
+    for (const std::string& line : Split(text_, '\n'))
       if (line.starts_with("== ")) ExpectTest(line.substr(3, line.find(' ', 3) - 3));
   }
   /// Does the story of the test that runs: its `number`th, from 1. With TARNVIEW_ACCEPT=1 the file

@@ -1,12 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 
+#include "support/Accept.h"
 #include "support/WindowFacts.h"
 #include "ui/CommandButton.h"
 #include "ui/Frame.h"
@@ -56,9 +52,7 @@ inline std::string WholeWindow(const Form& form) {
 inline void ExpectWhole(const Form& form, const std::string& folder) {
   const std::string path = folder + "/windows/" + form.name + ".txt", came = WholeWindow(form);
   if (std::getenv("TARNVIEW_ACCEPT")) std::ofstream(path, std::ios::binary) << came;
-  std::stringstream told;
-  told << std::ifstream(path, std::ios::binary).rdbuf();
-  EXPECT_EQ(came, told.str()) << path;
+  EXPECT_EQ(came, FileText(path)) << path;
 }
 
 }  // namespace tarnview
