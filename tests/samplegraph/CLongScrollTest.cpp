@@ -37,6 +37,7 @@ TEST(CLongScroll, TheBarShowsTheValueInProportionAndMovesItByItsSteps) {
 0, 1000000, 100000, 10 -> at 3277, value 105000, 2 changes | 0, 1000000, 0, 3277 -> at 0, value 100009, 2 changes | 0, 1000000, 3, -1 -> at 1, value 0, 2 changes
 # A reversed bar runs the other way.
 1000, 0, 0 -> at 32767, value 0, 1 changes | 1000, 0, 0, -1 -> at 32767, value 7, 2 changes | 1000, 0, 1000, 1 -> at 0, value 993, 2 changes
+1000000, 0, 900000, 3277 -> at 3277, value 799982, 2 changes
 )");
 }
 

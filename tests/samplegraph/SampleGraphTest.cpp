@@ -10,7 +10,10 @@ TEST_F(SampleGraphTest, DrawsWhatIsTickedAsItsItemLooks) {
   OpenLog(50);
   catalogue.gcolFixedDataItems.Item(20).lngLineStyle = 2;
   log.glngDataLog.Set(kKnock, 2, 30);
+  std::string progressed;
+  progress.Watch([&](What) { progressed += " " + std::to_string(progress.Value()); });
   Draw("2", "4");
+  EXPECT_EQ(progressed, " 0 0 1 2 2") << "samples of " << progress.Max();
   Story story{host};
   EXPECT_STORY(story);
   Do("point chSampleGraph 1 1");
