@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "support/Table.h"
+#include "support/WindowFacts.h"
 #include "ui/Form.h"
 #include "ui/Grid.h"
 #include "ui/RecordingHost.h"
@@ -135,6 +136,19 @@ TEST_F(GridTest, ArrowsOfTheFieldStayWithinTheRange) {
 )");
   grid.StepEdit(1);
   EXPECT_FALSE(grid.IsEditing());
+}
+
+TEST_F(GridTest, TellsHowItsCellsLook) {
+  GridCell cell = grid.At(1, 1);
+  cell.mark = GridCell::Mark::Raised;
+  grid.SetCell(1, 1, cell);
+  const WindowFacts facts(form);
+  std::string told;
+  for (const auto& [name, value] : facts.All())
+    if (name.find("] ") != name.npos) told += name + "=" + value + "; ";
+  ExpectTold(
+      told,
+      R"(grdData(3)[0] count=4; grdData(3)[1] count=4; grdData(3)[2] count=4; grdData(3)[3] count=4; grdData(3)[1][1] mark=raised; grdData(3)[3][2] locked=true; grdData(3)[3][3] blacked_out=true; )");
 }
 
 TEST_F(GridTest, ToldTextIsTakenWhereNobodyHears) {

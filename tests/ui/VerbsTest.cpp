@@ -63,6 +63,7 @@ struct AllKinds : Form {
 TEST(Verbs, EachKindTakesItsOwn) {
   RecordingHost host;
   AllKinds form(host);
+  EXPECT_FALSE(form.menu.Checked);
   const Action kActions[] = {{"click", {}},         {"type", {"5"}},   {"choose", {"#0"}},
                              {"step", {"up"}},      {"scroll", {"3"}}, {"row", {"1"}},
                              {"tick", {"1", "on"}}, {"sort", {"A"}},   {"double", {"1"}},
