@@ -18,6 +18,9 @@ class Roads : public ProgramFixture {
                [this](const auto& words) { Opened(Main().Files().OpenByContent(words[0])); });
     story.Verb("offers", [this](const auto& words) { host.takesOffers = words[0] == "yes"; });
     story.Fact("as", [this] { return Runs() ? program->Global().takenAs : std::string(); });
+    story.Fact("reads", [this] {
+      return std::to_string(std::ranges::count(files.accesses, "read /run.csv"));
+    });
     story.Fact("cells", [this] {
       std::string cells;
       if (Runs() && Log().glngDataLog.Rows() > 3)
@@ -54,7 +57,6 @@ TEST_F(Roads, AStrangeLogOpensByItsShapeAfterAQuestion) {
   files.files["/hydra.csv"] =
       "timestamp,Engine Speed (RPM)\n0,1000\n100,2000\n200,3000\n300,4000\n";
   EXPECT_STORY(story);
-  EXPECT_EQ(std::count(files.accesses.begin(), files.accesses.end(), "read /run.csv"), 2);
 }
 
 TEST_F(Roads, ALogWithoutAClockIsAskedAboutOnceAndReadOnce) {

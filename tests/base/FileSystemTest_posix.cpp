@@ -86,9 +86,8 @@ write, link.txt, new -> yes | read, a.txt -> [new] | list, , *a* -> a.txt
   const std::string bytes("one\0\r\n\xff", 7);
   ASSERT_TRUE(files.Write(Path("a.txt"), bytes));
   EXPECT_EQ(files.Read(Path("a.txt")), bytes);
-  for (const auto step : {&RealFileSystem::Write, &RealFileSystem::Append})
-    EXPECT_FALSE((files.*step)("/dev/zero", "x"));
-  EXPECT_FALSE(files.Read("/dev/zero"));
+  EXPECT_FALSE(files.Append("/dev/null", "x"));
+  EXPECT_FALSE(files.Read("/dev/null"));
 }
 
 TEST_F(FileSystemTest, AnAbsolutePathMeansTheSameFileFromAnyFolder) {
