@@ -16,23 +16,20 @@ class CustomisingTest : public ProgramFixture {
     files.files["/car/old.csv"] =
         "timestamp,Engine Speed (RPM)\r\n100,1000\r\n200,1100\r\n300,1200\r\n400,1300\r\n";
     files.folders.insert("/logs");
-    story.Fact("definition", [this] {
-      if (!Runs()) return std::string();
+    Fact("definition", [this] {
       const Globals& globals = program->Global();
       return globals.gclsDataLogDefinition.strName + ", " +
              globals.kinds.gcolLogFamilies.Item(7).strDescription + ", " +
              globals.catalogue.gcolUniversalDataItems.Item(3).strShortName;
     });
-    story.Fact("presets", [this] {
+    Fact("presets", [this] {
       std::string told;
-      if (!Runs()) return told;
       for (const auto& preset : program->Global().gcolSampleGraphPresets)
         if (preset.strName == "Its own" || preset.strName == "A/F Investigation")
           told += preset.strName + "; ";
       return told;
     });
-    story.Fact("looks", [this] {
-      if (!Runs()) return std::string();
+    Fact("looks", [this] {
       const ListView& list = Main().lvwSampleDetails;
       std::string told = std::to_string(Main().chSampleGraph.Data().colours.backdrop);
       if (auto* scatter = dynamic_cast<frmScatterGraph*>(host.Front()))
@@ -40,7 +37,7 @@ class CustomisingTest : public ProgramFixture {
       return told + ", RPM " + std::to_string(list.At(list.RowOfTag("3")).colour) +
              (list.RowOfTag("5") > 0 ? ", MAP" : "");
     });
-    story.Fact("width", [this] { return std::to_string(Runs() ? Set().glngShowPointWidth : 0); });
+    Fact("width", [this] { return std::to_string(Set().glngShowPointWidth); });
     for (const char* part : {"txtS", "cboG", "chk", "lbl", "chScatterGraph values"})
       story.PassOver(part);
   }

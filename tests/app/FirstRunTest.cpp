@@ -66,9 +66,7 @@ TEST_F(FirstRunTest, ATemplateIsCopiedAndFilledIn) {
         told += std::string(key) + "=" + std::string(*value) + "|";
     return told;
   });
-  story.Fact("definition", [this] {
-    return Runs() ? program->Global().gclsDataLogDefinition.strName : std::string();
-  });
+  Fact("definition", [this] { return program->Global().gclsDataLogDefinition.strName; });
   EXPECT_STORY(story);
 }
 

@@ -9,9 +9,8 @@ namespace {
 class GraphWindows : public ProgramFixture {
  protected:
   GraphWindows() {
-    story.Fact("presets", [this] {
+    Fact("presets", [this] {
       std::string told;
-      if (!Runs()) return told;
       for (const auto& preset : program->Global().gcolSampleGraphPresets) {
         told += (told.empty() ? "" : "; ") + preset.strName + " of " +
                 std::to_string(preset.lngLogFamily) + ":";
@@ -20,9 +19,9 @@ class GraphWindows : public ProgramFixture {
       }
       return told;
     });
-    story.Fact("scatters", [this] {
-      if (!Runs() || program->Global().gcolScatterGraphPresets.Count() == 0) return std::string();
+    Fact("scatters", [this] {
       const auto& presets = program->Global().gcolScatterGraphPresets;
+      if (presets.Count() == 0) return std::string();
       const auto& last = presets.Item(presets.Count());
       return last.strName + ": " + std::to_string(last.lngXAxisDataItem) + " " +
              std::to_string(last.lngYAxisDataItem);

@@ -17,13 +17,13 @@ class Roads : public ProgramFixture {
     story.Verb("content",
                [this](const auto& words) { Opened(Main().Files().OpenByContent(words[0])); });
     story.Verb("offers", [this](const auto& words) { host.takesOffers = words[0] == "yes"; });
-    story.Fact("as", [this] { return Runs() ? program->Global().takenAs : std::string(); });
+    Fact("as", [this] { return program->Global().takenAs; });
     story.Fact("reads", [this] {
       return std::to_string(std::ranges::count(files.accesses, "read /run.csv"));
     });
-    story.Fact("cells", [this] {
+    Fact("cells", [this] {
       std::string cells;
-      if (Runs() && Log().glngDataLog.Rows() > 3)
+      if (Log().glngDataLog.Rows() > 3)
         for (const int item : {63, 3, 101})
           if (item <= Log().gcolDataItems->Count()) cells += Log().FormatDataItem(item, 3) + " ";
       return cells;

@@ -40,4 +40,4 @@ answer cancel; click mnuRecentlyUsed(0) -> [Do you want to save the changes made
 answer cancel; click mnuFileEditDefinition -> [Do you want to save the changes made to run.txt? cancel]
 answer cancel; close -> [Do you want to save the changes made to run.txt? cancel]
 answer yes; close -> [Do you want to save the changes made to run.txt? yes], [save "Save As" of FM Link MAP Files (*.map) cancel]
-answer no; close -> [Do you want to save the changes made to run.txt? no], -frmDataLogViewer, edited=no, top=, rows=0, ends=
+answer no; close -> [Do you want to save the changes made to run.txt? no], -frmDataLogViewer, edited=no, top=, rows=, ends=

@@ -10,9 +10,7 @@
 namespace tarnview {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 constexpr const char* kPath = "/car/Tarnview.ini";
 
@@ -51,10 +49,6 @@ class SettingsFileTest : public ProgramFixture {
     StartKeeping(settings, {"/car/", "/data/"});
     known_[kPath] = settings;
   }
-  std::string Closed() {
-    Main().Unload();
-    return files.files[kPath];
-  }
 
   std::map<std::string, std::string> texts{{"full", FullSettings()}, {"none", ""}};
 
@@ -83,7 +77,7 @@ TEST_F(SettingsFileTest, WhatIsWrittenIsReadBackByteForByte) {
     Main().Left = 15;
     Main().WindowState = 1;
   });
-  story.Fact("width", [this] { return Runs() ? NumberText(Main().Width) : ""; });
+  Fact("width", [this] { return NumberText(Main().Width); });
   texts["drawn"] = "[Beyond]\r\nDraw After Opening=Y\r\nMain Window Dividers=100,200\r\n";
   texts["not drawn"] = "[Beyond]\r\nDraw After Opening=N\r\n";
   EXPECT_STORY(story);
@@ -130,46 +124,34 @@ TEST_F(SettingsFileTest, WhatThePathsNameAndIsNotThereIsToldAndStays) {
   EXPECT_STORY(story);
 }
 
+/// "aside" leaves one program open while the next begins, and "back" goes on in it.
 TEST_F(SettingsFileTest, TwoProgramsKeepEachOthersSettings) {
-  StartWith(FullSettings());
-  const std::unique_ptr<Program> first = std::move(program);
-  // The other one starts, changes what it likes, and ends.
-  StartWith(FullSettings());
-  Main().txtYMax.Text = "90";
-  Main().cboZoomAmount.Do({"type", {"4"}});
-  Main().LoadDataFile("/logs/a.txt", 0);
-  program->Global()
-      .gcolSampleGraphPresets.AddDirect(clsSampleGraphPresets::BlankPreset())
-      .lngLogFamily = 1;
-  program->Global().catalogue.gcolFixedDataItems.Item(3).lngColour = 77;
-  Set().beyond.drawAfterOpening = true;
-  const std::string theirs = Closed();
-
-  first->MainWindow().cboZoomAmount.Do({"type", {"5"}});
-  first->Global().gcolCarDefs.Item(1).strName = "Ours";
-  first->MainWindow().WriteINIFile();
-  const std::string both = files.files[kPath];
-  EXPECT_THAT(LinesOnlyIn(both, theirs), ElementsAre("Zoom Amount=5", "Name Car Def 1=Ours"));
-  EXPECT_THAT(LinesOnlyIn(theirs, both), ElementsAre("Zoom Amount=4", "Name Car Def 1=Mine"));
-
-  // What came from the other is no change of this one's own.
-  files.files[kPath].replace(both.find("Graph Y Max=90"), 14, "Graph Y Max=80");
-  first->MainWindow().WriteINIFile();
-  EXPECT_THAT(LinesOnlyIn(files.files[kPath], both), ElementsAre("Graph Y Max=80"));
-}
-
-/// Ticked items are written in the order of the list.
-TEST_F(SettingsFileTest, WhatAWindowPutsInOrderIsNoChangeOfItsUser) {
-  const std::string settings = "[General]\nChecked Data Items=3,5,36\n";
-  StartWith(settings);
-  const std::unique_ptr<Program> first = std::move(program);
-  StartWith(settings);
-  Main().Width = Main().Height = 9000;
-  Do("tick lvwSampleDetails MAP off");
-  const std::string theirs = Closed();
-  EXPECT_THAT(theirs, HasSubstr("\r\nChecked Data Items=36,3\r\n"));
-  first->MainWindow().WriteINIFile();
-  EXPECT_EQ(files.files[kPath], theirs);
+  std::unique_ptr<Program> first;
+  std::vector<Form*> windows;
+  story.Verb("aside", [&](const auto&) {
+    first = std::move(program);
+    windows = host.open;
+  });
+  story.Verb("back", [&](const auto&) {
+    program = std::move(first);
+    host.open = windows;
+  });
+  story.Verb("add", [this](const auto&) {
+    Globals& globals = program->Global();
+    globals.gcolSampleGraphPresets.AddDirect(clsSampleGraphPresets::BlankPreset()).lngLogFamily = 1;
+    globals.catalogue.gcolFixedDataItems.Item(3).lngColour = 77;
+    globals.settings.beyond.drawAfterOpening = true;
+  });
+  story.Verb("car", [this](const auto& words) {
+    program->Global().gcolCarDefs.Item(1).strName = words.at(0);
+  });
+  story.Verb("tell", [this](const auto& words) {
+    std::string& text = files.files[kPath];
+    text.replace(text.find(words.at(0)), words.at(0).size(), words.at(1));
+  });
+  story.Verb("wide", [this](const auto&) { Main().Width = Main().Height = 9000; });
+  texts["ordered"] = "[General]\nChecked Data Items=3,5,36\n";
+  EXPECT_STORY(story);
 }
 
 TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
@@ -180,65 +162,49 @@ TEST_F(SettingsFileTest, TheInstallFileStandsBesideOrInTheDataFolder) {
   }
 }
 
-/// "family name" of each preset of a section, in the file's order.
-std::string PresetsIn(const std::string& settings, const std::string& section) {
-  const IniTable table = ReadINIFileToArray(settings);
-  std::string names;
-  for (int n = 1;; ++n) {
-    const std::string graph = "Graph " + std::to_string(n);
-    const std::string* name = table.Find(section, graph + " Name");
-    if (!name) return names;
-    names += *table.Find(section, graph + " Log Family") + " " + *name + "\n";
-  }
-}
-
 TEST_F(SettingsFileTest, ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThenOn) {
-  const std::string section = "New Preset Sample Graphs";
-  StartWith(
-      "[General]\nFirst Run Indicator=Y\n[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Log "
-      "Family=2\n");
-  clsSampleGraphPresets* presets = &program->Global().gcolSampleGraphPresets;
-  presets->Item(4).strName = "Mine";
-  presets->Remove(2);
-  presets->AddDirect(presets->Item(5), 1);
-  presets->Remove(6);
-  std::string written = Closed();
-  const std::string kept =
-      "7 Power Graphing\n2 A\n7 A/F Investigation\n7 Mine\n7 Knock Investigation 2\n7 Clear All "
-      "Checkboxes\n";
-  EXPECT_EQ(PresetsIn(written, section), kept);
-  StartWith(written);
-  written = Closed();
-  EXPECT_EQ(PresetsIn(written, section), kept);
-  EXPECT_THAT(PresetsIn(written, "New Preset Scatter Graphs"), HasSubstr("7 Spool Up (MAP)\n"));
-
-  StartWith("[General]\n");
-  EXPECT_EQ(PresetsIn(Closed(), section), "");
-  files.files.erase(kPath);
-  program =
-      std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
-  program->Start("", false);
-  EXPECT_THAT(PresetsIn(Closed(), section), ::testing::StartsWith("7 Overview\n"));
+  texts["first"] =
+      "[General]\nFirst Run Indicator=Y\n"
+      "[New Preset Sample Graphs]\nGraph 1 Name=A\nGraph 1 Log Family=2\n";
+  texts["later"] = "[General]\n";
+  story.Verb("none", [this](const auto&) {
+    files.files.erase(kPath);
+    program =
+        std::make_unique<Program>(host, files, clock, processes, ProgramFolders{"/car/", "/data/"});
+    program->Start("", false);
+  });
+  story.Verb("edit", [this](const auto&) {
+    clsSampleGraphPresets& presets = program->Global().gcolSampleGraphPresets;
+    presets.Item(4).strName = "Mine";
+    presets.Remove(2);
+    presets.AddDirect(presets.Item(5), 1);
+    presets.Remove(6);
+  });
+  Fact("presets", [this] {
+    std::string told;
+    for (const auto& preset : program->Global().gcolSampleGraphPresets)
+      told += std::to_string(preset.lngLogFamily) + " " + preset.strName + "; ";
+    return told + std::to_string(program->Global().gcolScatterGraphPresets.Count());
+  });
+  EXPECT_STORY(story);
 }
 
+/// Told is the look of an item as a universal log has it and as the others do.
 TEST_F(SettingsFileTest, AFreshFileLetsTheDefinitionSayHowItsItemsLook) {
   const std::string display =
       "[Generic Data Item Display Properties]\nItem 1 Colour=1\nItem 62 Colour=5\n";
-  constexpr int kKnockRetard = 62;
-  constexpr Colour kOfBuiltInDefinition = 8404992;
-  StartWith("[General]\nFirst Run Indicator=Y\n" + display);
-  EXPECT_EQ(program->Global().catalogue.gcolUniversalDataItems.Item(kKnockRetard).lngColour,
-            kOfBuiltInDefinition);
-  EXPECT_THAT(Closed(), Not(HasSubstr("First Run")));
-  for (const bool told : {true, false}) {  // else as the built-in items do
-    StartWith("[General]\n" + (told ? display : ""));
+  texts["first"] = "[General]\nFirst Run Indicator=Y\n" + display;
+  texts["later"] = "[General]\n" + display;
+  texts["bare"] = "[General]\n";
+  Fact("knock retard", [this] {
     const Catalogue& catalogue = program->Global().catalogue;
-    const clsLogDataItem& item = catalogue.gcolUniversalDataItems.Item(kKnockRetard);
-    const clsLogDataItem& builtIn = catalogue.gcolFixedDataItems.Item(kKnockRetard);
-    EXPECT_EQ(item.lngColour, told ? 5 : builtIn.lngColour);
-    EXPECT_EQ(item.lngLineStyle, builtIn.lngLineStyle);
-    EXPECT_NE(builtIn.lngColour, kOfBuiltInDefinition);
-  }
+    std::string told;
+    for (const auto* items : {&catalogue.gcolUniversalDataItems, &catalogue.gcolFixedDataItems})
+      told += " " + std::to_string(items->Item(62).lngColour) + " of style " +
+              std::to_string(items->Item(62).lngLineStyle);
+    return told;
+  });
+  EXPECT_STORY(story);
 }
 
 TEST_F(SettingsFileTest, TheCommandLineKeepsNothing) {

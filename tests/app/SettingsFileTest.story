@@ -33,3 +33,29 @@ begin cut; show cboZoomAmount; end -> cboZoomAmount list=[2|3|4|5|10|20|30|40|50
 == WhatThePathsNameAndIsNotThereIsToldAndStays
 begin gone; end -> [18 ok], [32 ok], [79 ok], [43 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 950 lines; Tarnview.ini.old: gone, paths=/none.bmp /none /none.txt 
 begin pipe; show fraPicture; end -> fraPicture=, [18 ok], wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 944 lines; Tarnview.ini.old: pipe, paths=/pipe.png   
+
+== TwoProgramsKeepEachOthersSettings
+begin full; aside; begin full; type txtYMax 90; type cboZoomAmount 4; load /logs/a.txt 1; add; end -> [16 ok], wrote Tarnview.ini.old Tarnview.ini, opened yes, kept Tarnview.ini: Zoom Amount=4, Graph Y Max=90, Graph 2 Name=New Preset, Graph 2 Data Items=, Graph 2 Fix Graph Max=N, Graph 2 Graph Max=0, Graph 2 Log Family=1, File 0=1|/logs/a.txt, File 1=3|/logs/b.dat, Item 3 Colour=77, [Beyond], Draw After Opening=Y, -Zoom Amount=30, -Graph Y Max=120, -File 0=3|/logs/b.dat, -File 1=1|/logs/a.txt, -Item 3 Colour=3; Tarnview.ini.old: full
+back; type cboZoomAmount 5; car Ours; save -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: Zoom Amount=5, Name Car Def 1=Ours, -Zoom Amount=4, -Name Car Def 1=Mine; Tarnview.ini.old: Zoom Amount=4, Graph Y Max=90, Graph 2 Name=New Preset, Graph 2 Data Items=, Graph 2 Fix Graph Max=N, Graph 2 Graph Max=0, Graph 2 Log Family=1, File 0=1|/logs/a.txt, File 1=3|/logs/b.dat, Item 3 Colour=77, [Beyond], Draw After Opening=Y, -Zoom Amount=30, -Graph Y Max=120, -File 0=3|/logs/b.dat, -File 1=1|/logs/a.txt, -Item 3 Colour=3, +frmDataLogViewer
+# What came from the other is no change of this one's own.
+tell "Graph Y Max=90" "Graph Y Max=80"; save -> wrote Tarnview.ini, kept Tarnview.ini: Graph Y Max=80, -Graph Y Max=90
+# What a window puts in the order of its list is no change of its user.
+begin ordered; aside; begin ordered; wide; tick lvwSampleDetails MAP off; end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 950 lines; Tarnview.ini.old: ordered, -frmDataLogViewer
+back; save -> wrote Tarnview.ini, +frmDataLogViewer
+
+== ADefinitionsPresetsJoinOnAFirstRunAndAreTheUsersFromThenOn
+begin first -> +frmDataLogViewer, presets=2 A; 7 Overview; 7 A/F Investigation; 7 Knock Investigation 1; 7 Knock Investigation 2; 7 Power Graphing; 7 Clear All Checkboxes; 12
+edit -> presets=7 Power Graphing; 2 A; 7 A/F Investigation; 7 Mine; 7 Knock Investigation 2; 7 Clear All Checkboxes; 12
+end; now written -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: written; Tarnview.ini.old: first, -frmDataLogViewer, presets=
+begin written -> +frmDataLogViewer, presets=7 Power Graphing; 2 A; 7 A/F Investigation; 7 Mine; 7 Knock Investigation 2; 7 Clear All Checkboxes; 12
+end -> wrote Tarnview.ini, -frmDataLogViewer, presets=
+begin later -> +frmDataLogViewer, presets=0
+end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 944 lines; Tarnview.ini.old: later, -frmDataLogViewer, presets=
+none -> +frmDataLogViewer, presets=7 Overview; 7 A/F Investigation; 7 Knock Investigation 1; 7 Knock Investigation 2; 7 Power Graphing; 7 Clear All Checkboxes; 12
+end -> wrote Tarnview.ini, kept Tarnview.ini: 172 lines, -frmDataLogViewer, presets=
+
+== AFreshFileLetsTheDefinitionSayHowItsItemsLook
+begin first -> +frmDataLogViewer, knock retard= 8404992 of style 1 620000 of style 3
+end -> wrote Tarnview.ini.old Tarnview.ini, kept Tarnview.ini: 1112 lines; Tarnview.ini.old: first, -frmDataLogViewer, knock retard=
+begin later -> +frmDataLogViewer, knock retard= 5 of style 3 620000 of style 3
+begin bare -> knock retard= 620000 of style 3 620000 of style 3

@@ -68,6 +68,11 @@ class ProgramFixture : public DeskTest {
   std::string Range() { return Main().PlotRangeFrom.Text() + "-" + Main().PlotRangeTo.Text(); }
   /// What a file's opening answered, which the story tells.
   void Opened(bool loaded) { opened_ += loaded ? "yes" : "no"; }
+  /// A fact that the story tells of the program while it runs.
+  template <class Tell>
+  void Fact(const std::string& name, Tell tell) {
+    story.Fact(name, [this, tell] { return Runs() ? std::string(tell()) : std::string(); });
+  }
   /// Whether the main window is open.
   bool Runs() const {
     return program && std::any_of(host.open.begin(), host.open.end(), [](const Form* form) {
