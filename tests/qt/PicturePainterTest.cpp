@@ -13,6 +13,7 @@ namespace tarnview {
 namespace {
 
 using testing::Each;
+using testing::HasSubstr;
 using testing::StartsWith;
 
 ChartDescription TwoCurves(const ChartColours& colours, int points = 500) {
@@ -32,14 +33,13 @@ ChartDescription TwoCurves(const ChartColours& colours, int points = 500) {
 
 class PicturePainterTest : public testing::Test {
  protected:
-  std::string In(const char* name) const { return PathFromQt(folder_.filePath(name)); }
-  QByteArray Read(const char* name) const {
-    QFile file(folder_.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  QByteArray File(const ChartDescription& chart, const std::string& path, int width, int height) {
+    EXPECT_TRUE(DrawPicture(disk_, chart, path, width, height, error_)) << error_;
+    return QByteArray::fromStdString(disk_.files[path]);
   }
 
   QApplication& application_ = TestApplication();
-  QTemporaryDir folder_;
+  MemoryFileSystem disk_;
   std::string error_;
 };
 
@@ -47,8 +47,7 @@ TEST_F(PicturePainterTest, APictureHoldsItsCurvesInTheirColoursOnEachScheme) {
   for (const ChartColours& colours :
        {ChartColours{true, 0, 0, 0}, ChartColours{false, 0, 0xFFFFFF, 0x808080},
         ChartColours{false, 0xFFFFFF, 0, 0}}) {
-    ASSERT_TRUE(DrawPicture(TwoCurves(colours), In("a.png"), 700, 400, error_)) << error_;
-    const QImage image(folder_.filePath("a.png"));
+    const QImage image = QImage::fromData(File(TwoCurves(colours), "/a.png", 700, 400));
     ASSERT_EQ(image.size(), QSize(700, 400));
     int red = 0, blue = 0;
     for (int y = 0; y < image.height(); ++y)
@@ -65,13 +64,10 @@ TEST_F(PicturePainterTest, APictureHoldsItsCurvesInTheirColoursOnEachScheme) {
 }
 
 TEST_F(PicturePainterTest, VectorFilesHaveThePicturesSizeAndItsTexts) {
-  ASSERT_TRUE(DrawPicture(TwoCurves({}), In("a.svg"), 960, 480, error_)) << error_;
-  const QByteArray svg = Read("a.svg");
-  EXPECT_TRUE(svg.contains("viewBox=\"0 0 960 480\""));
-  EXPECT_TRUE(svg.contains(">RPM</text>"));
-  EXPECT_TRUE(svg.contains("#ff0000"));
-  ASSERT_TRUE(DrawPicture(TwoCurves({}), In("a.PDF"), 960, 480, error_)) << error_;
-  const QByteArray pdf = Read("a.PDF");
+  const QByteArray svg = File(TwoCurves({}), "/a.svg", 960, 480);
+  for (const char* part : {"viewBox=\"0 0 960 480\"", ">RPM</text>", "#ff0000"})
+    EXPECT_TRUE(svg.contains(part)) << part;
+  const QByteArray pdf = File(TwoCurves({}), "/a.PDF", 960, 480);
   EXPECT_TRUE(pdf.startsWith("%PDF-"));
   EXPECT_TRUE(pdf.contains("MediaBox [0 0 720.000000 360.000000]"))
       << "960 by 480 pixels of 1/96 inch in points";
@@ -81,8 +77,7 @@ TEST_F(PicturePainterTest, ALegendTallerThanThePictureGetsMoreColumns) {
   ChartDescription chart = TwoCurves({false, 0xFFFFFF, 0, 0});
   auto& series = std::get<Curves>(chart.kind).series;
   series.resize(40, series[0]);
-  ASSERT_TRUE(DrawPicture(chart, In("a.svg"), 900, 420, error_)) << error_;
-  EXPECT_EQ(Read("a.svg").count(">RPM</text>"), 39);
+  EXPECT_EQ(DrawSvg(chart, {900, 420}).count(">RPM</text>"), 39);
 }
 
 TEST(ClipLineTest, KeepsWhatLiesWithin) {
@@ -98,18 +93,15 @@ TEST(ClipLineTest, KeepsWhatLiesWithin) {
 }
 
 TEST_F(PicturePainterTest, APictureIsWrittenAsEveryFileIs) {
-  MemoryFileSystem disk;
-  for (const std::string path : {"/a.png", "/b.svg", "/c.pdf", "/run \xE9.png"}) {
-    EXPECT_TRUE(DrawPicture(disk, TwoCurves({}), path, 100, 100, error_)) << error_;
-    disk.failWrites = true;
-    EXPECT_FALSE(DrawPicture(disk, TwoCurves({}), path, 90, 90, error_)) << path;
-    EXPECT_NE(error_.find("cannot be written"), std::string::npos);
-    disk.failWrites = false;
+  for (const char* path : {"/a.png", "/b.svg", "/c.pdf", "/a name that is no UTF-8 \xE9.png"}) {
+    disk_.failWrites = false;
+    const std::string whole = File(TwoCurves({}), path, 100, 100).toStdString();
+    disk_.failWrites = true;
+    EXPECT_FALSE(DrawPicture(disk_, TwoCurves({}), path, 90, 90, error_)) << path;
+    EXPECT_THAT(error_, HasSubstr("cannot be written"));
+    EXPECT_EQ(disk_.files[path], whole);
   }
-  EXPECT_THAT(disk.accesses, Each(StartsWith("write /"))) << "nothing goes past the disk";
-  EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(disk.files["/a.png"])).size(),
-            QSize(100, 100));
-  EXPECT_TRUE(disk.files.contains("/run \xE9.png")) << "a name that is no UTF-8";
+  EXPECT_THAT(disk_.accesses, Each(StartsWith("write /"))) << "nothing goes past the disk";
 }
 
 TEST(TextTest, APathOfAnyBytesComesBack) {
@@ -121,22 +113,26 @@ TEST(TextTest, APathOfAnyBytesComesBack) {
 }
 
 TEST_F(PicturePainterTest, WhatCannotBeDrawnIsTold) {
-  EXPECT_FALSE(DrawPicture(TwoCurves({}), In("a.gif"), 100, 100, error_));
-  EXPECT_NE(error_.find(".png, .svg or .pdf"), std::string::npos);
-  EXPECT_FALSE(DrawPicture(TwoCurves({}), In("none/a.png"), 100, 100, error_));
-  EXPECT_FALSE(error_.empty());
-  EXPECT_FALSE(DrawPicture(TwoCurves({}), In("a.png"), 0, 100, error_));
-  EXPECT_TRUE(DrawPicture({}, In("a.png"), 1, 1, error_)) << "no curve and no room";
+  const QTemporaryDir folder;
+  const std::string path = PathFromQt(folder.path());
+  EXPECT_FALSE(DrawPicture(TwoCurves({}), path + "/a.gif", 100, 100, error_));
+  EXPECT_THAT(error_, HasSubstr(".png, .svg or .pdf"));
+  EXPECT_FALSE(DrawPicture(TwoCurves({}), path + "/none/a.png", 100, 100, error_));
+  EXPECT_THAT(error_, HasSubstr("cannot be written"));
+  EXPECT_FALSE(DrawPicture(TwoCurves({}), path + "/a.png", 0, 100, error_));
+  EXPECT_TRUE(DrawPicture({}, path + "/a.png", 1, 1, error_)) << "no curve and no room";
+  EXPECT_EQ(QImage(folder.filePath("a.png")).size(), QSize(1, 1));
 }
 
 TEST(ChartColoursTest, TextStaysReadableOnADarkDesktop) {
-  QPalette dark;
-  dark.setColor(QPalette::Button, QColor(50, 50, 50));
-  dark.setColor(QPalette::ButtonText, QColor(230, 230, 230));
-  EXPECT_EQ(ToPaint({true, 0, 0x000000, 0x000000}, dark).text, QColor(230, 230, 230));
-  QPalette light;
-  light.setColor(QPalette::Button, QColor(239, 239, 239));
-  EXPECT_EQ(ToPaint({true, 0, 0x000000, 0x000000}, light).text, QColor(0, 0, 0));
+  const auto black = [](int button) {
+    QPalette desktop;
+    desktop.setColor(QPalette::Button, QColor(button, button, button));
+    desktop.setColor(QPalette::ButtonText, QColor(230, 230, 230));
+    return ToPaint({true, 0, 0x000000, 0x000000}, desktop).text;
+  };
+  EXPECT_EQ(black(50), QColor(230, 230, 230));
+  EXPECT_EQ(black(239), QColor(0, 0, 0));
 }
 
 }  // namespace

@@ -1,17 +1,20 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <random>
 
+#include "qt/Gestures.h"
 #include "qt/TestApplication.h"
-#include "qt/Text.h"
 #include "qt/chart/ChartWidget.h"
 #include "qt/chart/MarkSprites.h"
 #include "qt/chart/PicturePainter.h"
 #include "qt/chart/PointShades.h"
+#include "support/MemoryFileSystem.h"
 
 namespace tarnview {
 namespace {
+
+using testing::ElementsAre;
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr double kEndless = std::numeric_limits<double>::infinity();
@@ -19,6 +22,9 @@ const PaintedColours kOnWhite{Qt::white, Qt::black, Qt::lightGray};
 
 /// Values are pixels.
 PixelGrid Pixels(int width, int height) { return {{0, 1}, {0, 1}, QRect(0, 0, width, height)}; }
+QPoint PixelOf(const PointCloud& cloud, std::size_t point) {
+  return QPointF(cloud.x[point], cloud.y[point]).toPoint();
+}
 
 PointCloud Scattered(int points, double width, double height, unsigned seed) {
   std::mt19937 random(seed);
@@ -47,14 +53,12 @@ TEST(PointGridTest, FindsWhatLooksAtEveryPointWouldFind) {
     for (int y = -12; y < 110; y += 3)
       for (int x = -12; x < 250; x += 3) {
         std::optional<int> nearest;
-        double best = 8.0 * 8.0;
+        int best = 8 * 8;
         for (std::size_t i = 0; i < cloud.x.size(); ++i) {
-          const QPoint at(static_cast<int>(std::lrint(cloud.x[i])),
-                          static_cast<int>(std::lrint(cloud.y[i])));
-          if (!grid.inside.contains(at)) continue;
-          const double away = std::pow(at.x() - x, 2) + std::pow(at.y() - y, 2);
-          if (away > best) continue;
-          best = away;
+          const QPoint away = PixelOf(cloud, i) - QPoint(x, y);
+          const int square = QPoint::dotProduct(away, away);
+          if (!grid.inside.contains(PixelOf(cloud, i)) || square > best) continue;
+          best = square;
           nearest = static_cast<int>(i);
         }
         ASSERT_EQ(picking.Nearest(x, y), nearest) << points << " points, at " << x << ", " << y;
@@ -72,7 +76,7 @@ TEST(PlacedPointsTest, EachPixelKeepsItsLastPointAndNoPointIsLostAlone) {
   EXPECT_EQ(kept, (std::vector<int>{1, 2, 7, 8}));
   EXPECT_TRUE(PlacePoints(cloud, Pixels(0, 0)).empty());
 
-  // So large a picture that pixels share cells: ten thousand points a hundred pixels apart.
+  // So large a picture that pixels share cells.
   PointCloud wide;
   for (int i = 0; i < 10000; ++i) {
     wide.x.push_back(i % 100 * 160);
@@ -87,12 +91,9 @@ TEST(PlacedPointsTest, CountsWhatFallsAround) {
   const std::vector<PlacedPoint> placed = PlacePoints(cloud, grid);
   const std::vector<int> counts = CountAround(cloud, grid, placed, 3);
   for (std::size_t i = 0; i < placed.size(); i += 7) {
+    const QRect around = grid.inside & QRect(placed[i].x - 3, placed[i].y - 3, 7, 7);
     int near = 0;
-    for (std::size_t j = 0; j < cloud.x.size(); ++j)
-      near += std::abs(std::lrint(cloud.x[j]) - placed[i].x) <= 3 &&
-              std::abs(std::lrint(cloud.y[j]) - placed[i].y) <= 3 &&
-              grid.inside.contains(static_cast<int>(std::lrint(cloud.x[j])),
-                                   static_cast<int>(std::lrint(cloud.y[j])));
+    for (std::size_t j = 0; j < cloud.x.size(); ++j) near += around.contains(PixelOf(cloud, j));
     EXPECT_EQ(counts[i], near);
   }
 }
@@ -130,49 +131,32 @@ TEST(PointShadesTest, TintRunsFromEndToEndAndDensityDarkens) {
   EXPECT_EQ(placed.back().point, 6) << "the densest lies on top";
   EXPECT_EQ(placed.back().shade, static_cast<int>(shades.size()) - 1);
   EXPECT_EQ(placed.front().shade, 0);
-  EXPECT_TRUE(std::is_sorted(shades.rbegin(), shades.rend(), [](const QColor& a, const QColor& b) {
-    return qGray(a.rgb()) < qGray(b.rgb());
-  }));
+  const auto darker = [](QColor a, QColor b) { return qGray(a.rgb()) < qGray(b.rgb()); };
+  EXPECT_TRUE(std::is_sorted(shades.rbegin(), shades.rend(), darker));
 
   cloud.tint = {-5, 0, 50, kNothing, 100, 100, 900};
   cloud.tintAxis = {0, 100, 10, "0"};
   placed = PlacePoints(cloud, grid);
   shades = Shade(placed, cloud, grid, 2, kOnWhite);
-  const auto colourOf = [&](int point) {
-    const auto found = std::find_if(placed.begin(), placed.end(),
-                                    [&](const auto& one) { return one.point == point; });
-    return shades.at(static_cast<std::size_t>(found->shade));
-  };
-  EXPECT_EQ(colourOf(0), HeatColour(0));
-  EXPECT_EQ(colourOf(1), HeatColour(0));
-  EXPECT_EQ(colourOf(6), HeatColour(1));
-  EXPECT_EQ(colourOf(3).saturation(), 0) << "no value, no colour";
+  std::map<int, QColor> colours;  // by the point
+  for (const PlacedPoint& one : placed)
+    colours[one.point] = shades.at(static_cast<std::size_t>(one.shade));
+  EXPECT_EQ(colours.at(0), HeatColour(0));
+  EXPECT_EQ(colours.at(1), HeatColour(0));
+  EXPECT_EQ(colours.at(6), HeatColour(1));
+  EXPECT_EQ(colours.at(3).saturation(), 0) << "no value, no colour";
 }
 
-class PointCloudTest : public testing::Test {
- protected:
-  qint64 SizeOf(const ChartDescription& chart, const char* name) {
-    EXPECT_TRUE(DrawPicture(chart, PathFromQt(folder_.filePath(name)), 1400, 800, error_))
-        << error_;
-    return QFile(folder_.filePath(name)).size();
-  }
-
-  QApplication& application_ = TestApplication();
-  QTemporaryDir folder_;
-  std::string error_;
-};
-
-TEST_F(PointCloudTest, AClickSelectsThePointUnderItAndFarFromAllNone) {
+TEST(PointCloudTest, AClickSelectsThePointUnderItAndFarFromAllNone) {
+  TestApplication();
   PointCloud cloud;
   cloud.x = {10, kNothing, 50, 50, 0, 100};
   cloud.y = {10, 20, 50, 50, 100, 0};
   ChartWidget widget;
   widget.resize(600, 400);
   widget.SetDescription(ChartOf(cloud, 100, 100));
-  std::vector<std::pair<int, int>> clicks;
-  QObject::connect(&widget, &ChartWidget::PointClicked, [&](int place, int point) {
-    clicks.push_back({place, point});
-  });
+  std::vector<std::string> clicks;
+  QObject::connect(&widget, &ChartWidget::PointClicked, Telling(clicks, "point"));
   const auto click = [&](double x, double y, double right) {
     widget.ClickAt(QPointF(widget.xAxis->coordToPixel(x) + right, widget.yAxis->coordToPixel(y)));
   };
@@ -181,22 +165,20 @@ TEST_F(PointCloudTest, AClickSelectsThePointUnderItAndFarFromAllNone) {
   click(50, 50, 12);
   click(0, 100, 1);
   click(100, 0, -1);
-  EXPECT_EQ(clicks, (std::vector<std::pair<int, int>>{{0, 1}, {0, 4}, {0, 5}, {0, 6}}));
+  EXPECT_THAT(clicks, ElementsAre("point 0 1", "point 0 4", "point 0 5", "point 0 6"));
   widget.resize(900, 700);
   Settle();
   click(10, 10, 5);
-  EXPECT_EQ(clicks.back(), std::pair(0, 1)) << "after a change of size";
+  EXPECT_EQ(clicks.back(), "point 0 1") << "after a change of size";
   for (const int point : {1, 2, 4, 7, 0}) widget.Select(0, point);
 }
 
-TEST_F(PointCloudTest, APictureHasMarksTitlesAndTheBarOfColours) {
+TEST(PointCloudTest, APictureHasMarksTitlesAndTheBarOfColours) {
+  TestApplication();
   PointCloud cloud = Scattered(200, 100, 100, 1);
   cloud.tint.assign(200, 5);
   cloud.tintAxis = {0, 10, 10, "#######0", "Boost"};
-  SizeOf(ChartOf(cloud, 100, 100), "a.svg");
-  QFile file(folder_.filePath("a.svg"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray svg = file.readAll();
+  const QByteArray svg = DrawSvg(ChartOf(cloud, 100, 100), {1400, 800});
   for (const char* text : {">RPM</text>", ">Air/Fuel Ratio</text>", ">Boost</text>"})
     EXPECT_TRUE(svg.contains(text));
   EXPECT_TRUE(svg.contains(HeatColour(0.5).name().toUtf8()) ||
@@ -213,13 +195,18 @@ TEST_F(PointCloudTest, APictureHasMarksTitlesAndTheBarOfColours) {
   widget.SetDescription({});
 }
 
-TEST_F(PointCloudTest, VectorFilesOfManyPointsStaySmall) {
+TEST(PointCloudTest, VectorFilesOfManyPointsStaySmall) {
+  TestApplication();
   PointCloud cloud = Scattered(300000, 100, 100, 2);
   cloud.tint = cloud.x;
   cloud.tintAxis = {0, 100, 10, "0"};
   const ChartDescription chart = ChartOf(std::move(cloud), 100, 100);
-  EXPECT_LT(SizeOf(chart, "a.svg"), 6'000'000);
-  EXPECT_LT(SizeOf(chart, "a.pdf"), 6'000'000);
+  MemoryFileSystem disk;
+  std::string error;
+  for (const char* path : {"/a.svg", "/a.pdf"}) {
+    EXPECT_TRUE(DrawPicture(disk, chart, path, 1400, 800, error)) << error;
+    EXPECT_LT(disk.files[path].size(), 6'000'000u);
+  }
 }
 
 }  // namespace
