@@ -11,40 +11,33 @@
 namespace tarnview {
 namespace {
 
+using testing::EndsWith;
+
 class QtHostTest : public testing::Test {
  protected:
   ~QtHostTest() override { Settle(); }
 
-  /// A box, which that answers once it is on show.
-  Reply Asked(const std::function<void(QMessageBox& box)>& answer, Box box) {
+  /// Asks with a box, which `answer` answers once it is on show.
+  Reply Asked(const Box& box, const std::function<void(QMessageBox& box)>& answer) {
     QTimer::singleShot(
         0, [&] { answer(*qobject_cast<QMessageBox*>(QApplication::activeModalWidget())); });
     return host.Ask(box);
   }
+  static void Escape(QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }
 
   QApplication& application = TestApplication();
   QtHost host;
+  const Box plain{1, "Line one\r\nline two", kBoxOk, "Tarnview"};
 };
 
-TEST_F(QtHostTest, AModalWindowHoldsItsCallerUntilItIsUnloaded) {
-  frmAbout about(host, {}, [] {});
-  bool wasModal = false;
-  QTimer::singleShot(0, [&] {
-    QWidget& window = host.WindowOf(about)->window();
-    wasModal = window.isModal();
-    QTest::mouseClick(window.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
-  });
-  about.ShowModal();
-  EXPECT_TRUE(wasModal);
-  EXPECT_FALSE(host.AnyWindow());
-}
-
-TEST_F(QtHostTest, WhatIsTypedFirstTakesThePlaceOfTheTextThere) {
+TEST_F(QtHostTest, AModalWindowHoldsItsCallerAndItsTextIsTypedOver) {
   Messages messages(host, [](int) { return std::string(); });
   frmNewPresetName form(host, messages, "Knock");
   QTimer::singleShot(0, [&] {
+    QWidget& window = host.WindowOf(form)->window();
+    EXPECT_TRUE(window.isModal());
     // The desktop gives the focus later than the window is on show.
-    auto* field = host.WindowOf(form)->window().findChild<QLineEdit*>("txtName");
+    auto* field = window.findChild<QLineEdit*>("txtName");
     EXPECT_TRUE(QTest::qWaitFor([&] { return field->hasFocus(); }));
     EXPECT_EQ(field->selectedText(), "Knock");
     QTest::keyClicks(field, "Idle");
@@ -52,23 +45,6 @@ TEST_F(QtHostTest, WhatIsTypedFirstTakesThePlaceOfTheTextThere) {
   });
   form.ShowModal();
   EXPECT_EQ(form.strName(), "Idle");
-}
-
-TEST_F(QtHostTest, TheCloseBoxAsksTheFormAndEscapePressesCancel) {
-  struct Stubborn : frmNonModalMessage {
-    using frmNonModalMessage::frmNonModalMessage;
-    bool mayClose = false;
-    bool Form_QueryUnload() override { return mayClose; }
-  } form(host, [](int) {});
-  form.Show();
-  QWidget& window = host.WindowOf(form)->window();
-  window.close();
-  Settle();
-  EXPECT_TRUE(form.IsShown());
-  EXPECT_TRUE(window.isVisible());
-  form.mayClose = true;
-  QTest::keyClick(&window, Qt::Key_Escape);
-  EXPECT_FALSE(form.IsShown());
   EXPECT_FALSE(host.AnyWindow());
 }
 
@@ -91,92 +67,99 @@ TEST_F(QtHostTest, BoxesAnswerWithTheirButtons) {
               {kBoxYesNo, Qt::Key_Escape, Reply::No},
               {kBoxYesNoCancel + kBoxExclamation, Qt::Key_Escape, Reply::Cancel},
               {kBoxOk, Qt::Key_Escape, Reply::Ok}};
-  for (const auto& row : rows)
-    EXPECT_EQ(Asked([&](QMessageBox& box) { QTest::keyClick(&box, row.key); },
-                    {1, "Line one\r\nline two", row.style, "Tarnview"}),
-              row.reply)
-        << row.style;
+  for (const auto& [style, key, reply] : rows) {
+    const auto press = [key = key](QMessageBox& box) { QTest::keyClick(&box, key); };
+    EXPECT_EQ(Asked({1, "Text", style, "Tarnview"}, press), reply) << style;
+  }
 }
 
 TEST_F(QtHostTest, AnOfferOfABoxIsTakenByItsButtonAlone) {
-  for (const bool take : {true, false}) {
-    const auto answer = [&](QMessageBox& box) {
-      if (!take) return QTest::keyClick(&box, Qt::Key_Escape);
-      for (auto* button : box.findChildren<QPushButton*>())
-        if (button->text() == "&Open Report") button->click();
-    };
-    int taken = 0;
-    EXPECT_EQ(
-        Asked(answer, {83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }}),
-        Reply::Ok);
-    EXPECT_EQ(taken, take);
-  }
+  int taken = 0;
+  const Box offer{83, "Text", kBoxExclamation, "Tarnview", "&Open Report", [&] { ++taken; }};
+  EXPECT_EQ(Asked(offer, Escape), Reply::Ok);
+  EXPECT_EQ(taken, 0);
+  const auto take = [](QMessageBox& box) {
+    for (auto* button : box.findChildren<QPushButton*>())
+      if (button->text() == "&Open Report") button->click();
+  };
+  EXPECT_EQ(Asked(offer, take), Reply::Ok);
+  EXPECT_EQ(taken, 1);
 }
 
 TEST_F(QtHostTest, ABoxIsPlainTextAndKeepsItsButtonsOnTheScreen) {
-  const struct {
-    std::string text, shown;
-  } rows[] = {{"<img src='/etc/x.png'> <b>a</b>", "<img src='/etc/x.png'> <b>a</b>"},
-              {std::string(20000, 'x'), ""},
-              {QString("a column\r\n").repeated(300).toStdString(), ""}};
-  for (const auto& row : rows) {
-    const auto answer = [&](QMessageBox& box) {
+  const auto shown = [&](const std::string& text) {
+    std::string all;
+    Asked({1, text, kBoxOk, "Tarnview [*]"}, [&](QMessageBox& box) {
       const QSize screen = box.screen()->availableSize();
       EXPECT_TRUE(box.height() < screen.height() && box.width() < screen.width());
       EXPECT_EQ(box.textFormat(), Qt::PlainText);
-      const std::string shown = box.text().toStdString();
-      EXPECT_EQ(row.shown.empty() ? shown.substr(shown.size() - 3) : shown,
-                row.shown.empty() ? "..." : row.shown);
-      QTest::keyClick(&box, Qt::Key_Return);
-    };
-    EXPECT_EQ(Asked(answer, {1, row.text, kBoxOk, "Tarnview [*]"}), Reply::Ok);
-  }
+      all = box.text().toStdString();
+      Escape(box);
+    });
+    return all;
+  };
+  EXPECT_EQ(shown("<img src='/etc/x.png'> <b>a</b>"), "<img src='/etc/x.png'> <b>a</b>");
+  EXPECT_THAT(shown(std::string(20000, 'x')), EndsWith("..."));
+  EXPECT_THAT(shown(QString("a column\r\n").repeated(300).toStdString()), EndsWith("..."));
 }
 
-/// A window whose one command takes long: it lets the window be drawn, as a load or a draw does.
+/// A window on show whose one command takes long: it lets the window be drawn, as a load or a draw
+/// does.
 struct Working : frmNonModalMessage {
-  explicit Working(Host& itsHost) : frmNonModalMessage(itsHost, [](int) {}) {
+  explicit Working(QtHost& itsHost) : frmNonModalMessage(itsHost, [](int) {}) {
     cmdClose.Click = [this] {
-      Note("begins");
+      notes += "begins ";
       if (const auto once = std::exchange(during, nullptr)) once();
       for (int i = 0; i < 3; ++i) {
         QTest::qSleep(40);  // repaints come at most every 30 ms
         Refresh();
         host.DoEvents();
       }
-      Note("ends");
+      notes += "ends ";
       if (fails) throw std::runtime_error("broken");
     };
+    Show();
+    window = &itsHost.WindowOf(*this)->window();
+    button = window->findChild<QPushButton*>("cmdClose");
   }
-  void Note(const std::string& what) { notes += what + " "; }
   bool DropFile(const std::string& path) override {
-    Note("drop:" + path);
+    notes += "drop:" + path + " ";
     return true;
   }
   bool Form_QueryUnload() override {
-    Note("close");
-    return false;
+    notes += "close ";
+    return mayClose;
   }
-  void Form_Activate() override { Note("activate"); }
+  QWidget* window;
+  QPushButton* button;
   std::string notes;
   std::function<void()> during;
-  bool fails = false;
+  bool fails = false, mayClose = false;
 };
+
+TEST_F(QtHostTest, TheCloseBoxAsksTheFormAndEscapePressesCancel) {
+  Working form(host);
+  form.window->close();
+  Settle();
+  EXPECT_EQ(form.notes, "close ");
+  EXPECT_TRUE(form.IsShown() && form.window->isVisible());
+  form.mayClose = true;
+  form.cmdClose.Click = [&] { form.Unload(); };
+  QTest::keyClick(form.window, Qt::Key_Escape);
+  EXPECT_FALSE(form.IsShown());
+  EXPECT_FALSE(host.AnyWindow());
+}
 
 TEST_F(QtHostTest, WhatComesWhileAnEventIsAtWorkWaitsForItsEnd) {
   Working form(host);
-  form.Show();
-  QWidget& window = host.WindowOf(form)->window();
-  auto* button = window.findChild<QPushButton*>("cmdClose");
   Settle();
-  form.notes.clear();
   form.during = [&] {
-    DropFile(window, "/logs/run.txt");
-    window.close();
-    QTimer::singleShot(0, [&] { QTest::keyClick(&window, Qt::Key_F9); });
-    QTimer::singleShot(0, button, &QPushButton::click);
+    DropFile(*form.window, "/logs/run.txt");
+    form.window->close();
+    QTimer::singleShot(0, [&] { QTest::keyClick(form.window, Qt::Key_F9); });
+    QTimer::singleShot(0, form.button, &QPushButton::click);
   };
-  button->click();
+  form.button->click();
   Settle();
   EXPECT_EQ(form.notes, "begins ends close drop:/logs/run.txt begins ends ");
 }
@@ -188,51 +171,45 @@ TEST_F(QtHostTest, AnErrorThatNothingEndedEndsAtItsEvent) {
     told += module + "/" + procedure + ":" + error.what() + " ";
   };
   Working form(host);
-  form.Show();
-  QWidget& window = host.WindowOf(form)->window();
   form.fails = true;
   form.DefaultButton = &form.cmdClose;
-  QTest::mouseClick(window.findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
-  QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+  QTest::mouseClick(form.button, Qt::LeftButton);
+  QTest::keyClick(form.window->focusWidget(), Qt::Key_Return);
   EXPECT_EQ(told, "frmNonModalMessage/cmdClose:broken frmNonModalMessage/Enter:broken ");
   EXPECT_FALSE(host.events.Busy());
 }
 
 TEST_F(QtHostTest, AFileDroppedBehindADialogIsRefused) {
   Working form(host);
-  form.Show();
-  QWidget& window = host.WindowOf(form)->window();
-  const auto answer = [&](QMessageBox& box) {
-    DropFile(window, "/logs/run.txt");
+  const auto drop = [&] {
+    DropFile(*form.window, "/logs/run.txt");
     Settle();
-    QTest::keyClick(&box, Qt::Key_Escape);
+    return form.notes;
   };
-  Asked(answer, {1, "Text", kBoxOk, "Tarnview"});
+  Asked(plain, [&](QMessageBox& box) {
+    EXPECT_EQ(drop(), "");
+    Escape(box);
+  });
   Settle();
-  EXPECT_EQ(form.notes.find("drop"), std::string::npos) << form.notes;
-  DropFile(window, "/logs/run.txt");
-  Settle();
-  EXPECT_NE(form.notes.find("drop:/logs/run.txt"), std::string::npos);
+  EXPECT_EQ(form.notes, "");
+  EXPECT_EQ(drop(), "drop:/logs/run.txt ");
 }
 
 TEST_F(QtHostTest, ABoxBelongsToTheWindowThatTheUserIsIn) {
   Working main(host), graph(host);
-  main.Show();
-  graph.Show();
   const auto ownerOfBox = [&] {
     const QWidget* owner = nullptr;
-    const auto answer = [&](QMessageBox& box) {
+    Asked(plain, [&](QMessageBox& box) {
       owner = box.parentWidget();
-      QTest::keyClick(&box, Qt::Key_Escape);
-    };
-    Asked(answer, {1, "Text", kBoxOk, "Tarnview"});
+      Escape(box);
+    });
     return owner;
   };
-  EXPECT_EQ(ownerOfBox(), &host.WindowOf(graph)->window());
+  EXPECT_EQ(ownerOfBox(), graph.window);
   QEvent activated(QEvent::WindowActivate);
-  QApplication::sendEvent(&host.WindowOf(main)->window(), &activated);
-  EXPECT_EQ(ownerOfBox(), &host.WindowOf(main)->window());
-  EXPECT_EQ(host.WindowOf(graph)->window().parentWidget(), &host.WindowOf(main)->window());
+  QApplication::sendEvent(main.window, &activated);
+  EXPECT_EQ(ownerOfBox(), main.window);
+  EXPECT_EQ(graph.window->parentWidget(), main.window);
 }
 
 TEST(DialogsTest, FiltersTakeTheToolkitsForm) {
