@@ -6,6 +6,7 @@
 
 #include "base/Text.h"
 #include "ui/Form.h"
+#include "ui/MenuItem.h"
 
 namespace tarnview {
 namespace {
@@ -123,6 +124,8 @@ void RecordingHost::RunModal(Form& form) {
   if (work) work(form);
   if (form.IsShown()) form.Unload();
 }
+
+void RecordingHost::PopupMenu(MenuItem& menu) { popup = menu.FullName(); }
 
 bool RecordingHost::SavePicture(const Chart&, const std::string& path, std::string& error) {
   error = refusal;

@@ -40,6 +40,7 @@ class RecordingHost : public Host {
   std::vector<const Chart*> copied;   ///< charts whose picture went to the clipboard
   std::vector<std::string> pictures;  ///< paths of the pictures saved
   std::vector<RecordingPage> pages;   ///< printed or shown before printing
+  std::string popup;                  ///< the menu that was last opened at the pointer
   std::function<void(Form&)> work;    ///< what a user does in a modal window; it is closed then
   bool takesOffers = false;           ///< presses the one more button of a box that has one
   std::string refusal;                ///< why pictures and pages fail; empty: they do not
@@ -48,7 +49,7 @@ class RecordingHost : public Host {
   bool Choose(Dialog& dialog) override;
   void Show(Form& form, bool modal) override;
   void Hide(Form& form) override;
-  void PopupMenu(MenuItem&) override {}
+  void PopupMenu(MenuItem& menu) override;
   void DoEvents() override {}
   void Repaint(Form&) override {}
   /// With Stop as the next answer, the user stops waiting at once.

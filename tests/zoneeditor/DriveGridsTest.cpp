@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "model/Column.h"
 #include "zoneeditor/EditorWorld.h"
 #include "zones/ZoneTexts.h"
@@ -9,7 +7,7 @@ namespace {
 
 /// An editor on a drive of which the plot range is the first 60 samples: 20 at 1000 RPM, 40 at
 /// 2000, and then 30 at 3000.
-class DriveGridsTest : public testing::Test, protected EditorWorld, protected DriveGrids::Drive {
+class DriveGridsTest : public EditorWorld, protected DriveGrids::Drive {
  protected:
   DriveGridsTest() {
     log.Clear(catalogue.gcolFixedDataItems, 100);

@@ -1,19 +1,16 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
-#include "base/Clock.h"
 #include "model/Catalogue.h"
-#include "support/FixedClock.h"
-#include "support/MemoryFileSystem.h"
-#include "support/Story.h"
+#include "support/DeskTest.h"
 #include "zoneeditor/frmZoneData.h"
 
 namespace tarnview {
 
 /// What a zone editor stands on, and the editor.
-struct EditorWorld {
+class EditorWorld : public DeskTest {
+ protected:
   frmZoneData& Open(ZoneEditorParameters parameters, DriveGrids::Drive* drive = nullptr) {
     frmZoneData::Surroundings around{
         settings, benchmarks, tables, catalogue.gcolFixedDataItems.Item(39), errors, messages};
@@ -29,16 +26,7 @@ struct EditorWorld {
   clsBenchmarks benchmarks;
   ConversionTables tables{DefaultO2Table(), DefaultAuxTable(), false, false};
   Catalogue catalogue = BuildDataItemCatalogue();
-  struct : RecordingHost {
-    void PopupMenu(MenuItem& menu) override { popup = menu.FullName(); }
-    std::string popup;
-  } host;
-  MemoryFileSystem files;
-  FixedClock clock;
-  ErrorLog errors{files, clock, "error.log"};
-  Messages messages{host, [](int) { return std::string("FM Link MAP Files"); }};
   std::unique_ptr<frmZoneData> window;
-  Story story{host};
 };
 
 }  // namespace tarnview

@@ -7,7 +7,7 @@
 namespace tarnview {
 namespace {
 
-class BenchmarkDetailsTest : public ::testing::Test, protected EditorWorld {
+class BenchmarkDetailsTest : public EditorWorld {
  protected:
   BenchmarkDetailsTest() {
     // As another editor may leave it: with the mark of UTF-8, and CR alone at the ends of lines.

@@ -24,7 +24,7 @@ GridGraphRequest Request() {
   return request;
 }
 
-class frmGridGraphTest : public testing::Test, protected EditorWorld {
+class frmGridGraphTest : public EditorWorld {
  protected:
   frmGridGraphTest() {
     story.Verb("angles", [this](const auto&) { angles = {1, 2, 3, 4}; });

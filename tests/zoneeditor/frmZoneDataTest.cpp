@@ -23,7 +23,7 @@ ZoneMap MapOf(int zones, int flags) {
   return map;
 }
 
-class frmZoneDataTest : public ::testing::Test, protected EditorWorld {
+class frmZoneDataTest : public EditorWorld {
  protected:
   frmZoneDataTest() {
     for (const char* name : {"Street", "Track"}) {
