@@ -6,8 +6,8 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/Catalogue.h"
-#include "model/OpenLog.h"
 #include "power/PowerCurves.h"
+#include "support/AddSample.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -17,23 +17,18 @@ struct PowerLog {
   explicit PowerLog(std::string_view lines) {
     log.Clear(catalogue.gcolFixedDataItems, 0);
     std::string_view line;
-    while (TakeLine(lines, line)) AddSample(line);
-    log.glngLastSample = log.glngDataLog.Rows() - 1;
-    if (log.glngLastSample < 0) return;
-    log.glngFirstSampleTime = log.Sample(0);
-    log.glngLastSampleTime = log.Sample(log.glngLastSample);
-    log.gblnSamplesLoaded = true;
+    while (TakeLine(lines, line)) Add(line);
+    if (log.glngDataLog.Rows() == 0) log.glngLastSample = -1;
   }
 
-  void AddSample(std::string_view line) {
-    constexpr int kItems[] = {1, 63, 3, 17, 24};
-    const int row = log.glngDataLog.AddRow();
-    const auto fields = Split(line, ' ');
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-      const int item = kItems[i];
-      const double value = StringToDouble(fields[i]);
-      log.glngDataLog.Set(item - 1, row, catalogue.gcolFixedDataItems.Item(item).SetRawData(value));
-    }
+  void Add(std::string_view line) {
+    auto fields = Split(line, ' ');
+    fields.resize(5);
+    const auto raw = [&](Column column, std::size_t field) {
+      const double value = StringToDouble(fields[field]);
+      return std::pair{column, catalogue.gcolFixedDataItems.Item(ItemOf(column)).SetRawData(value)};
+    };
+    AddSample(log, {raw(kSample, 0), raw(kSecs, 1), raw(kRPM, 2), raw(kTPS, 3), raw(kSpeed, 4)});
   }
 
   Catalogue catalogue = BuildDataItemCatalogue();

@@ -1,7 +1,7 @@
 #include "base/Numbers.h"
 #include "model/Catalogue.h"
-#include "model/Column.h"
 #include "samplegraph/ChartTable.h"
+#include "support/AddSample.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -13,18 +13,15 @@ TEST(ChartTable, PlotsEveryStepThRowOfTheRangeByItsStoreIndex) {
   const Catalogue catalogue = BuildDataItemCatalogue();
   OpenLog log;
   log.Clear(catalogue.gcolFixedDataItems, 20);
-  for (int row = 0; row < 20; ++row) {
-    log.glngDataLog.AddRow();
-    log.glngDataLog.Set(kSample, row, row + 1);
-    log.glngDataLog.Set(kSecs, row, (row + 1) * 819);
-    log.glngDataLog.Set(kRPM, row, 1000 + row);
-    log.glngDataLog.Set(kMAP, row, 403);
-    log.glngDataLog.Set(kIAdv, row, -50);
-  }
+  for (int row = 0; row < 20; ++row)
+    AddSample(log, {{kSample, row + 1},
+                    {kSecs, (row + 1) * 819},
+                    {kRPM, 1000 + row},
+                    {kMAP, 403},
+                    {kIAdv, -50}});
   for (const auto& [row, knock] : {std::pair{3, 95}, {5, 90}, {8, 30}, {13, 70}})
     log.glngDataLog.Set(kKnock, row, knock);
   log.glngDataLog.Set(kSample, 4, 999);
-  log.glngLastSample = 19;
   const std::map<std::string, Column> columns = {
       {"RPM", kRPM}, {"MAP", kMAP}, {"Knock", kKnock}, {"IAdv", kIAdv}};
   const auto told = [&](const TableRow& row) {

@@ -8,13 +8,13 @@
 
 #include "base/Numbers.h"
 #include "model/Catalogue.h"
-#include "model/Column.h"
 #include "model/clsFileTypes.h"
 #include "samplegraph/GraphMouse.h"
 #include "samplegraph/PointHighlight.h"
 #include "samplegraph/SampleGraph.h"
 #include "samplegraph/Scrolling.h"
 #include "samplegraph/Zoom.h"
+#include "support/AddSample.h"
 #include "support/Table.h"
 #include "ui/ProgressBar.h"
 #include "ui/RecordingHost.h"
@@ -41,15 +41,9 @@ class WholeGraph : public ::testing::Test,
     details.SetUpSampleGraphSampleListView(kFMLinkLog, catalogue.gcolFixedDataItems);
     details.SetCheckedItems({3, 20});
     log.Clear(catalogue.gcolFixedDataItems, samples);
-    for (int row = 0; row < samples; ++row) {
-      log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), row + 1);
-      log.glngDataLog.Set(kSecs, row, static_cast<int>(std::lround((row + 1) * 819.2)));
-      log.glngDataLog.Set(kRPM, row, 1001 + row);
-    }
-    log.glngLastSample = samples - 1;
-    log.glngFirstSampleTime = 1;
-    log.glngLastSampleTime = samples;
-    log.gblnSamplesLoaded = true;
+    for (int n = 1; n <= samples; ++n)
+      AddSample(
+          log, {{kSample, n}, {kSecs, static_cast<int>(std::lround(n * 819.2))}, {kRPM, 1000 + n}});
     log.gintCurrentFileType = kFMLinkLog;
     log.gstrCurrentFile = "/logs/run.txt";
     range.TakeLog();

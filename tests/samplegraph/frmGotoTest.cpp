@@ -1,7 +1,7 @@
 #include "model/Catalogue.h"
-#include "model/Column.h"
 #include "samplegraph/ClosestSample.h"
 #include "samplegraph/frmGoto.h"
+#include "support/AddSample.h"
 #include "support/Story.h"
 #include "support/Table.h"
 #include "support/WholeWindow.h"
@@ -14,14 +14,8 @@ class GotoTest : public ::testing::Test {
  protected:
   GotoTest() {
     log.Clear(catalogue.gcolFixedDataItems, 5);
-    for (const auto& [sample, tenths] : {std::pair{5, 10}, {6, 15}, {7, 20}, {10, 40}, {11, 45}}) {
-      const int row = log.glngDataLog.AddRow();
-      log.glngDataLog.Set(kSample, row, sample);
-      log.glngDataLog.Set(kSecs, row, tenths * 1000);  // ten-thousandths of a second
-    }
-    log.glngLastSample = 4;
-    log.glngFirstSampleTime = 5;
-    log.glngLastSampleTime = 11;
+    for (const auto& [sample, tenths] : {std::pair{5, 10}, {6, 15}, {7, 20}, {10, 40}, {11, 45}})
+      AddSample(log, {{kSample, sample}, {kSecs, tenths * 1000}});  // ten-thousandths of a second
   }
 
   const Catalogue catalogue = BuildDataItemCatalogue();

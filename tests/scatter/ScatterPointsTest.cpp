@@ -2,6 +2,7 @@
 
 #include "model/Catalogue.h"
 #include "scatter/ScatterPoints.h"
+#include "support/AddSample.h"
 #include "support/Table.h"
 
 namespace tarnview {
@@ -22,12 +23,7 @@ struct Samples {
 
   explicit Samples(int rows, std::int32_t first = 1) {
     log.Clear(catalogue.gcolFixedDataItems, rows);
-    for (int row = 0; row < rows; ++row)
-      log.glngDataLog.Set(kSample, log.glngDataLog.AddRow(), first + row);
-    log.glngLastSample = rows - 1;
-    log.glngFirstSampleTime = first;
-    log.glngLastSampleTime = first + rows - 1;
-    log.gblnSamplesLoaded = true;
+    for (int row = 0; row < rows; ++row) AddSample(log, {{kSample, first + row}});
   }
   std::vector<std::int32_t> Rows(const clsScatterFilters& filters) const {
     return PassingRows(log, RangeOfFilters(log, filters), filters, [](std::int32_t) {});

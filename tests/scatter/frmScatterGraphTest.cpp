@@ -1,4 +1,5 @@
 #include "scatter/frmScatterGraph.h"
+#include "support/AddSample.h"
 #include "support/PresetWindows.h"
 #include "support/WholeWindow.h"
 
@@ -48,16 +49,8 @@ class ScatterGraphTest : public PresetWindowsTest, protected frmScatterGraph::Ma
   /// Samples from 1 at 1000 RPM and their number; 40 kPa, and 120 kPa in each tenth.
   void Open(int samples) {
     log.Clear(catalogue.gcolFixedDataItems, samples);
-    for (int n = 1; n <= samples; ++n) {
-      const std::int32_t row = log.glngDataLog.AddRow();
-      log.glngDataLog.Set(kSample, row, n);
-      log.glngDataLog.Set(kRPM, row, 1000 + n);
-      log.glngDataLog.Set(kMAP, row, n % 10 == 0 ? 1200 : 400);
-    }
-    log.glngLastSample = samples - 1;
-    log.glngFirstSampleTime = 1;
-    log.glngLastSampleTime = samples;
-    log.gblnSamplesLoaded = true;
+    for (int n = 1; n <= samples; ++n)
+      AddSample(log, {{kSample, n}, {kRPM, 1000 + n}, {kMAP, n % 10 == 0 ? 1200 : 400}});
     log.gintCurrentFileType = kFMLinkLog;
     log.gstrCurrentFile = "/logs/run.txt";
     log.gstrCurrentFileTitle = "run.txt";

@@ -1,4 +1,4 @@
-#include "model/Column.h"
+#include "support/AddSample.h"
 #include "zoneeditor/EditorWorld.h"
 #include "zones/ZoneTexts.h"
 
@@ -15,7 +15,6 @@ class DriveGridsTest : public EditorWorld, protected DriveGrids::Drive {
     Add(20, 1000, 14560, 7);
     Add(40, 2000, 13300, 9);
     Add(30, 3000, 15400, 0);
-    log.glngLastSample = log.glngLastSampleTime = 89;
     ZoneEditorParameters parameters;
     parameters.map = MapWith(Chip("1.8 2005-02-10 3"), 2, 100);
     parameters.comparison = ComparisonZones{};
@@ -29,15 +28,13 @@ class DriveGridsTest : public EditorWorld, protected DriveGrids::Drive {
   }
   ~DriveGridsTest() override { window.reset(); }  // it looks at the drive to its end
   void Add(int count, int RPM, int airFuel, int knock) {
-    for (int i = 0; i < count; ++i) {
-      const int row = log.glngDataLog.AddRow();
-      log.glngDataLog.Set(kSample, row, row);
-      log.glngDataLog.Set(kRPM, row, RPM);
-      log.glngDataLog.Set(kMAP, row, 200);
-      log.glngDataLog.Set(kAF, row, airFuel);
-      log.glngDataLog.Set(kAFTgt, row, 14000);
-      log.glngDataLog.Set(kKnock, row, knock);
-    }
+    for (int i = 0; i < count; ++i)
+      AddSample(log, {{kSample, log.glngDataLog.Rows()},
+                      {kRPM, RPM},
+                      {kMAP, 200},
+                      {kAF, airFuel},
+                      {kAFTgt, 14000},
+                      {kKnock, knock}});
   }
   const OpenLog& Log() const override { return log; }
   DrivenRange PlotRange() const override { return {0, 59}; }

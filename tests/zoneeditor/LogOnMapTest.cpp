@@ -1,5 +1,5 @@
 #include "model/Catalogue.h"
-#include "model/Column.h"
+#include "support/AddSample.h"
 #include "support/Table.h"
 #include "zoneeditor/LogOnMap.h"
 #include "zones/ZoneTexts.h"
@@ -25,17 +25,13 @@ class Drive {
   void Add(const std::string& part) {
     std::vector<std::string> words = Split(part, ' ');
     words.resize(6, "0");
-    for (int i = 0; i < StringToLong(words[0].substr(0, words[0].find('x'))); ++i) {
-      const int row = log.glngDataLog.AddRow();
-      std::size_t word = 1;
-      for (const Column item : {kRPM, kMAP, kAF, kAFTgt})
-        log.glngDataLog.Set(item, row, StringToLong(words[word++]));
-      log.glngDataLog.Set(kKnock, row, i == 1 ? StringToLong(words[5]) : 1);
-      log.glngDataLog.Set(kSample, row, row + 5);
-    }
-    log.glngLastSample = log.glngDataLog.Rows() - 1;
-    log.glngFirstSampleTime = 5;
-    log.glngLastSampleTime = log.glngLastSample + 5;
+    for (int i = 0; i < StringToLong(words[0].substr(0, words[0].find('x'))); ++i)
+      AddSample(log, {{kSample, log.glngDataLog.Rows() + 5},
+                      {kRPM, StringToLong(words[1])},
+                      {kMAP, StringToLong(words[2])},
+                      {kAF, StringToLong(words[3])},
+                      {kAFTgt, StringToLong(words[4])},
+                      {kKnock, i == 1 ? StringToLong(words[5]) : 1}});
   }
 };
 
