@@ -3,15 +3,12 @@
 namespace tarnview {
 namespace {
 
-class CaptureTest : public ::testing::Test {
- protected:
-  EcuStories stories;
-};
+using CaptureTest = EcuStories;
 
-TEST_F(CaptureTest, GoesFromStepToStep) { EXPECT_STORY(stories); }
-TEST_F(CaptureTest, IsRefusedBeforeAnythingIsTouched) { EXPECT_STORY(stories); }
-TEST_F(CaptureTest, MakesRoomAndGivesItBackWhereTheProgramDoesNotStart) { EXPECT_STORY(stories); }
-TEST_F(CaptureTest, ProposesNamesAndCountsThoseThatWereLoaded) { EXPECT_STORY(stories); }
+TEST_F(CaptureTest, GoesFromStepToStep) { EXPECT_STORY(*this); }
+TEST_F(CaptureTest, IsRefusedBeforeAnythingIsTouched) { EXPECT_STORY(*this); }
+TEST_F(CaptureTest, MakesRoomAndGivesItBackWhereTheProgramDoesNotStart) { EXPECT_STORY(*this); }
+TEST_F(CaptureTest, ProposesNamesAndCountsThoseThatWereLoaded) { EXPECT_STORY(*this); }
 
 }  // namespace
 }  // namespace tarnview

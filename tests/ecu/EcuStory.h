@@ -213,8 +213,8 @@ class EcuStory : private RecordingHost,
   Story story_{*this};
 };
 
-/// A text of stories, of which each paragraph begins with a fresh program.
-struct EcuStories {
+/// Stories, of which each paragraph begins with a fresh program.
+struct EcuStories : ::testing::Test {
   int expected = 0;
 
   static std::string Play(const std::string& text) {

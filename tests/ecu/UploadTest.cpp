@@ -3,14 +3,11 @@
 namespace tarnview {
 namespace {
 
-class UploadTest : public ::testing::Test {
- protected:
-  EcuStories stories;
-};
+using UploadTest = EcuStories;
 
-TEST_F(UploadTest, GoesFromStepToStep) { EXPECT_STORY(stories); }
-TEST_F(UploadTest, KeepsTheLastFiftyMaps) { EXPECT_STORY(stories); }
-TEST_F(UploadTest, OffersTheUsersDefaults) { EXPECT_STORY(stories); }
+TEST_F(UploadTest, GoesFromStepToStep) { EXPECT_STORY(*this); }
+TEST_F(UploadTest, KeepsTheLastFiftyMaps) { EXPECT_STORY(*this); }
+TEST_F(UploadTest, OffersTheUsersDefaults) { EXPECT_STORY(*this); }
 
 }  // namespace
 }  // namespace tarnview

@@ -5,14 +5,11 @@
 namespace tarnview {
 namespace {
 
-class WindowsTest : public ::testing::Test {
- protected:
-  EcuStories stories;
-};
+using WindowsTest = EcuStories;
 
-TEST_F(WindowsTest, NewDownloadBringsTheNameIntoItsForm) { EXPECT_STORY(stories); }
-TEST_F(WindowsTest, ConvertBINTakesPathsThatCanBe) { EXPECT_STORY(stories); }
-TEST_F(WindowsTest, ConvertBINGoesFromStepToStep) { EXPECT_STORY(stories); }
+TEST_F(WindowsTest, NewDownloadBringsTheNameIntoItsForm) { EXPECT_STORY(*this); }
+TEST_F(WindowsTest, ConvertBINTakesPathsThatCanBe) { EXPECT_STORY(*this); }
+TEST_F(WindowsTest, ConvertBINGoesFromStepToStep) { EXPECT_STORY(*this); }
 
 }  // namespace
 }  // namespace tarnview
