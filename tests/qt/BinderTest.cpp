@@ -1,19 +1,15 @@
 #include <gmock/gmock.h>
 
 #include "app/MainWindowControls.h"
-#include "qt/Gestures.h"
-#include "qt/TestApplication.h"
+#include "qt/ScreenStory.h"
 #include "qt/binder/Binder.h"
 #include "qt/binder/UpDownWidget.h"
 #include "qt/chart/ChartWidget.h"
 #include "qt/host/FormWindow.h"
-#include "ui/RecordingHost.h"
 #include "ui/Timer.h"
 
 namespace tarnview {
 namespace {
-
-using testing::ElementsAre;
 
 /// The main window's controls with no behaviour, and the window that shows them.
 class BinderTest : public testing::Test {
@@ -26,14 +22,7 @@ class BinderTest : public testing::Test {
 
   template <class Widget>
   Widget& Find(const char* name) {
-    auto* found = window_.window().findChild<Widget*>(name);
-    if (!found) throw std::runtime_error(name);
-    return *found;
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
-    QWidget* focus = window_.window().focusWidget();
-    QTest::keyClick(focus ? focus : &window_.window(), key, held);
-    Settle();
+    return story_.Find<Widget>(name);
   }
 
   QApplication& application_ = TestApplication();
@@ -51,28 +40,24 @@ class BinderTest : public testing::Test {
     }
   } form_{host_};
   FormWindow window_{form_, nullptr, [](Form&) {}};
+  ScreenStory story_{form_, host_, window_.window()};
 };
 
 TEST_F(BinderTest, ShowsAChangeOnceTheLoopTurns) {
-  form_.PlotRangeFrom.Text = std::string("17");
-  form_.cmdDrawGraph.Enabled = false;
-  form_.lblZoomAmount.Caption = std::string("Weite in \xB5s");
-  form_.chkQuickGraph.Value = true;
-  form_.chkQuickGraph.Caption = std::string("      &Quick ");
-  form_.staDataLogViewer.SetPanel(1, "Loading");
-  form_.fraPicture.Visible = false;
-  form_.Caption = std::string("Tarnview - run.txt");
-  EXPECT_EQ(Find<QLineEdit>("PlotRangeFrom").text(), "");
-  Settle();
-  EXPECT_EQ(Find<QLineEdit>("PlotRangeFrom").text(), "17");
-  EXPECT_FALSE(Find<QPushButton>("cmdDrawGraph").isEnabled());
-  EXPECT_FALSE(Find<QAction>("tbrDraw").isEnabled()) << "the toolbar's view of the same control";
-  EXPECT_EQ(Find<QAction>("tbrDraw").text(), "Draw") << "it keeps its own text";
-  EXPECT_EQ(Find<QLabel>("lblZoomAmount").text(), QString::fromUtf8("Weite in \xC2\xB5s"));
-  EXPECT_TRUE(Find<QCheckBox>("chkQuickGraph").isChecked());
-  EXPECT_EQ(Find<QCheckBox>("chkQuickGraph").text(), "&Quick");
+  story_.Verb("code", [&](const auto&) {
+    form_.PlotRangeFrom.Text = std::string("17");
+    form_.cmdDrawGraph.Enabled = false;
+    form_.lblZoomAmount.Caption = std::string("Weite in \xB5s");
+    form_.chkQuickGraph.Value = true;
+    form_.chkQuickGraph.Caption = std::string("      &Quick ");
+    form_.staDataLogViewer.SetPanel(1, "Loading");
+    form_.fraPicture.Visible = false;
+    form_.Caption = std::string("Tarnview - run.txt");
+    EXPECT_EQ(Find<QLineEdit>("PlotRangeFrom").text(), "");
+  });
+  story_.PassOver("lblZoomAmount");  // its own bytes: the screen tells them
+  EXPECT_STORY(story_);
   EXPECT_EQ(Find<QStatusBar>("staDataLogViewer").findChild<QLabel*>()->text(), "Loading");
-  EXPECT_FALSE(Find<QWidget>("fraPicture").isVisible());
   EXPECT_EQ(window_.window().windowTitle(), "Tarnview - run.txt");
 }
 
@@ -88,111 +73,56 @@ TEST_F(BinderTest, StateWithinADisabledFrameIsNotLost) {
 }
 
 TEST_F(BinderTest, TypingAndLeavingAFieldReachesItsControl) {
-  std::vector<std::string> events;
-  form_.PlotRangeFrom.Change = [&] { events.push_back("change " + form_.PlotRangeFrom.Text()); };
-  form_.PlotRangeFrom.LostFocus = [&] {
-    events.push_back("left");
-    form_.PlotRangeFrom.Text = std::string("9");
-  };
-  Find<QLineEdit>("PlotRangeFrom").setFocus();
-  QTest::keyClicks(&Find<QLineEdit>("PlotRangeFrom"), "12");
-  EXPECT_EQ(form_.ActiveControl(), &form_.PlotRangeFrom);
-  Find<QLineEdit>("PlotRangeTo").setFocus();
-  Settle();
-  EXPECT_THAT(events, ElementsAre("change 1", "change 12", "left", "change 9"));
-  EXPECT_EQ(Find<QLineEdit>("PlotRangeFrom").text(), "9") << "a correction is shown";
-  form_.PlotRangeFrom.SetFocus();
-  Settle();
-  EXPECT_TRUE(Find<QLineEdit>("PlotRangeFrom").hasFocus());
+  form_.PlotRangeFrom.LostFocus = [&] { form_.PlotRangeFrom.Text = std::string("9"); };
+  EXPECT_STORY(story_);
 }
 
 TEST_F(BinderTest, ButtonsMenusAndArrowsReachTheirControls) {
-  std::vector<std::string> events;
-  form_.cmdZoomIn.Click = Telling(events, "in");
-  form_.mnuFileOpen.Click = Telling(events, "open");
-  form_.mnuRecentlyUsed(2).Click = Telling(events, "recent 2");
-  form_.updYMax.DownClick = Telling(events, "down");
-  form_.chkFixY.Click = [&] { events.push_back(form_.chkFixY.Value ? "fixed" : "free"); };
+  story_.Hear(&CommandButton::Click);
+  story_.Hear(&MenuItem::Click);
+  story_.Hear(&UpDown::DownClick);
   form_.cboZoomAmount.SetList({"2", "3"});
-  form_.cboZoomAmount.Click = [&] { events.push_back("amount " + form_.cboZoomAmount.Text()); };
-  Settle();
-  Find<QPushButton>("cmdZoomIn").click();
-  Find<QAction>("tbrZoomIn").trigger();
-  Find<QAction>("tbrOpen").trigger();
-  Find<QToolButton>("recentFile2").click();
-  Find<UpDownWidget>("updYMax").findChildren<QToolButton*>().last()->click();
-  Find<QCheckBox>("chkFixY").click();
-  emit Find<QComboBox>("cboZoomAmount").activated(1);
-  Press(Qt::Key_L, Qt::ControlModifier);
-  EXPECT_THAT(events,
-              ElementsAre("in", "in", "open", "recent 2", "down", "fixed", "amount 3", "open"));
-  form_.mnuViewZoneInfl.Click = [] {};  // the form decides whether an entry is ticked
-  Find<QAction>("mnuViewZoneInfl").trigger();
-  Settle();
-  EXPECT_FALSE(Find<QAction>("mnuViewZoneInfl").isChecked());
+  story_.Hand("down", [&](const auto&) {
+    Find<UpDownWidget>("updYMax").findChildren<QToolButton*>().last()->click();
+  });
+  story_.Hand("amount", [&](const auto&) { emit Find<QComboBox>("cboZoomAmount").activated(1); });
+  EXPECT_STORY(story_);
 }
 
 TEST_F(BinderTest, AListGoesBothWays) {
-  std::vector<std::string> events;
   ListView& list = form_.lvwSampleDetails;
-  list.ItemClick = [&](int row) { events.push_back("click " + list.At(row).tag); };
-  list.DblClick = [&](int row) { events.push_back("double " + list.At(row).tag); };
-  list.ItemCheck = [&](int row) {
-    events.push_back("check " + list.At(row).tag);
+  const auto tell = [&](const std::string& what) {
+    return [&, what](int row) { story_.raised.push_back(what + list.At(row).tag); };
+  };
+  list.ItemClick = tell("click ");
+  list.DblClick = tell("double ");
+  list.ItemCheck = tell("check ");
+  list.ItemCheck += [&](int row) {
     if (list.At(row).tag == "a") list.SetChecked(row, false);
   };
-  list.SetRows(
-      {{{"RPM", "900"}, "a", "", false, 0, 0x0000FF}, {{"MAP", "31"}, "b", "", true, 0, 0x00FF00}});
-  list.Select(2);
-  Settle();
   auto& tree = Find<QTreeWidget>("lvwSampleDetails");
-  ASSERT_EQ(tree.topLevelItemCount(), 2);
-  EXPECT_EQ(tree.topLevelItem(0)->text(1), "900");
+  story_.Hand("code", [&](const auto&) {
+    list.SetRows({{{"RPM", "900"}, "a", "", false, 0, 0x0000FF},
+                  {{"MAP", "31"}, "b", "", true, 0, 0x00FF00}});
+    list.Select(2);
+  });
+  story_.Hand("tick", [&](const auto&) { tree.topLevelItem(0)->setCheckState(0, Qt::Checked); });
+  story_.Hand("heading", [&](const auto&) { emit tree.header()->sectionClicked(0); });
+  EXPECT_STORY(story_);
   EXPECT_TRUE(tree.topLevelItem(0)->textAlignment(1) & Qt::AlignRight);
-  EXPECT_EQ(tree.topLevelItem(1)->checkState(0), Qt::Checked);
-  EXPECT_EQ(tree.currentItem(), tree.topLevelItem(1));
-  EXPECT_THAT(events, ElementsAre()) << "what code sets is no click";
-
-  const QPoint first = tree.visualItemRect(tree.topLevelItem(0)).center();
-  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, first);
-  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, first);
-  tree.topLevelItem(0)->setCheckState(0, Qt::Checked);
-  emit tree.itemDoubleClicked(tree.topLevelItem(1), 0);
-  emit tree.header()->sectionClicked(0);
-  Settle();
-  EXPECT_THAT(events, ElementsAre("click a", "click a", "check a", "check a", "double b"));
-  EXPECT_EQ(tree.topLevelItem(0)->text(0), "MAP") << "sorted by the heading";
-  EXPECT_EQ(tree.topLevelItem(1)->checkState(0), Qt::Unchecked) << "the check was taken back";
 }
 
 TEST_F(BinderTest, AScrollBarCountsWhenItsThumbIsLetGo) {
-  std::vector<int> values;
   form_.hsbGraphScroll.Max = 1000;
   form_.hsbGraphScroll.LargeChange = 100;
   Settle();
-  form_.hsbGraphScroll.Change = [&] { values.push_back(form_.hsbGraphScroll.Value); };
+  story_.Hear(&ScrollBar::Change);
   auto& bar = Find<QScrollBar>("hsbGraphScroll");
-  bar.setSliderDown(true);
-  bar.setSliderPosition(300);
-  Settle();
-  EXPECT_THAT(values, ElementsAre());
-  bar.setSliderDown(false);
-  bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
-  EXPECT_THAT(values, ElementsAre(300, 400));
-  form_.hsbGraphScroll.Value = 50;
-  Settle();
-  EXPECT_EQ(bar.value(), 50);
-  EXPECT_THAT(values, ElementsAre(300, 400, 50)) << "no echo";
-  // While it is held it stays in the hand, and is looked at again when that lets go.
-  bar.setSliderDown(true);
-  form_.hsbGraphScroll.Value = 500;
-  form_.lblZoomAmount.Caption = std::string("Zoomed");
-  Settle();
-  EXPECT_EQ(Find<QLabel>("lblZoomAmount").text(), "Zoomed");
-  EXPECT_EQ(bar.value(), 50);
-  bar.setSliderDown(false);
-  Settle();
-  EXPECT_EQ(bar.value(), 500);
+  story_.Hand("hold", [&](const auto&) { bar.setSliderDown(true); });
+  story_.Hand("drag", [&](const auto& to) { bar.setSliderPosition(StringToLong(to[0])); });
+  story_.Hand("release", [&](const auto&) { bar.setSliderDown(false); });
+  story_.Hand("page", [&](const auto&) { bar.triggerAction(QScrollBar::SliderPageStepAdd); });
+  EXPECT_STORY(story_);
 }
 
 TEST_F(BinderTest, AFlushEndsThoughSomethingMarksItselfInIt) {
@@ -215,25 +145,15 @@ TEST_F(BinderTest, AFlushEndsThoughSomethingMarksItselfInIt) {
 }
 
 TEST_F(BinderTest, KeysGoThroughTheFormFirst) {
-  int draws = 0;
   form_.DefaultButton = &form_.cmdDrawGraph;
-  form_.cmdDrawGraph.Click = [&] { ++draws; };
-  form_.PlotRangeFrom.Text = std::string("12");
-  form_.PlotRangeFrom.SetFocus();
-  Settle();
-  Press(Qt::Key_End);
-  Press(Qt::Key_Left);
-  Press(Qt::Key_Backspace);
-  EXPECT_EQ(form_.PlotRangeFrom.Text(), "1") << "the form ate Left, so the caret stood at the end";
-  Press(Qt::Key_Return);
-  EXPECT_EQ(draws, 1);
-  form_.keys.clear();
-  Press(Qt::Key_O, Qt::ControlModifier);
-  // Let go after its modifier, a key counts as it was pressed.
-  auto& field = Find<QLineEdit>("PlotRangeFrom");
-  QTest::keyPress(&field, Qt::Key_I, Qt::ControlModifier);
-  QTest::keyRelease(&field, Qt::Key_I);
-  EXPECT_THAT(form_.keys, ElementsAre("Ctrl+O", "up Ctrl+O", "Ctrl+I", "up Ctrl+I"));
+  story_.Hear(&CommandButton::Click);
+  story_.Event("keys", [&] { return Join(std::exchange(form_.keys, {}), ", "); });
+  story_.Hand("late", [&](const auto&) {
+    auto& field = Find<QLineEdit>("PlotRangeFrom");
+    QTest::keyPress(&field, Qt::Key_I, Qt::ControlModifier);
+    QTest::keyRelease(&field, Qt::Key_I);
+  });
+  EXPECT_STORY(story_);
 }
 
 TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {
@@ -248,10 +168,9 @@ TEST_F(BinderTest, AClickOnTheChartSelectsTheNearestPoint) {
   int rightClicks = 0;
   form_.chSampleGraph.RightClick = [&] { ++rightClicks; };
   auto& chart = Find<ChartWidget>("chSampleGraph");
-  const QPoint near(static_cast<int>(chart.xAxis->coordToPixel(5.4)),
-                    static_cast<int>(chart.yAxis->coordToPixel(7)));
-  QTest::mouseClick(&chart, Qt::LeftButton, {}, near);
-  QTest::mouseClick(&chart, Qt::RightButton, {}, near);
+  const QPointF near(chart.xAxis->coordToPixel(5.4), chart.yAxis->coordToPixel(7));
+  QTest::mouseClick(&chart, Qt::LeftButton, {}, near.toPoint());
+  QTest::mouseClick(&chart, Qt::RightButton, {}, near.toPoint());
   EXPECT_EQ(form_.chSampleGraph.SelectedSeries(), 3);
   EXPECT_EQ(form_.chSampleGraph.SelectedPoint(), 2);
   EXPECT_EQ(rightClicks, 1);
@@ -279,41 +198,28 @@ TEST_F(BinderTest, TextsOfFilesAreShownAsTheyAre) {
 }
 
 TEST_F(BinderTest, AFieldThatHoldsAPathKeepsItsBytes) {
-  Find<QLineEdit>("PlotRangeTo").setFocus();
   form_.PlotRangeFrom.HoldsPath = true;
-  form_.PlotRangeFrom.Text = std::string("/caf\xC3\xA9/");
-  form_.PlotRangeFrom.SetFocus();
-  Settle();
-  auto& field = Find<QLineEdit>("PlotRangeFrom");
-  EXPECT_EQ(field.text(), QString::fromUtf8("/caf\xC3\xA9/"));
-  EXPECT_EQ(field.selectedText(), field.text()) << "the next text typed takes its place";
-  QTest::keyClick(&field, Qt::Key_End);
-  emit field.textEdited(field.text() + QString::fromUtf8("\xC5\x82"));
-  EXPECT_EQ(form_.PlotRangeFrom.Text(), "/caf\xC3\xA9/\xC5\x82") << "a letter beyond Windows-1252";
+  EXPECT_STORY(story_);
 }
 
 TEST_F(BinderTest, AFrameHasAPictureBehindIt) {
-  QTemporaryDir folder;
-  const QString path = folder.filePath("red.png");
+  const QTemporaryDir folder;
   QImage red(8, 8, QImage::Format_RGB32);
   red.fill(Qt::red);
-  ASSERT_TRUE(red.save(path));
+  const QString picture = folder.filePath("red.png"), pipe = folder.filePath("pipe.png");
+  ASSERT_TRUE(red.save(picture));
+  ASSERT_EQ(mkfifo(pipe.toStdString().c_str(), 0600), 0);
   auto& frame = Find<QWidget>("fraPicture");
-  const auto foot = [&] {
+  const auto foot = [&](const QString& path) {
+    form_.fraPicture.BackgroundPicture = path.toStdString();
+    Settle();
     return frame.grab().toImage().pixelColor(frame.width() / 2, frame.height() - 8);
   };
-  const QColor bare = foot();
-  form_.fraPicture.BackgroundPicture = path.toStdString();
-  Settle();
-  EXPECT_LT(foot().green(), bare.green() - 50);
-  const std::string pipe = folder.filePath("pipe.png").toStdString();
-  ASSERT_EQ(std::system(("mkfifo '" + pipe + "'").c_str()), 0);
-  form_.fraPicture.BackgroundPicture = pipe;
-  Settle();
-  EXPECT_EQ(foot(), bare) << "nobody waits for a pipe";
-  form_.fraPicture.BackgroundPicture = std::string("/gone.png");
-  Settle();
-  EXPECT_EQ(foot(), bare);
+  const QColor bare = foot("");
+  EXPECT_LT(foot(picture).green(), bare.green() - 50);
+  EXPECT_EQ(foot(pipe), bare) << "nobody waits for a pipe";
+  EXPECT_LT(foot(picture).green(), bare.green() - 50);
+  EXPECT_EQ(foot("/gone.png"), bare);
 }
 
 TEST_F(BinderTest, ATimerRunsOnlyWhileItIsEnabled) {

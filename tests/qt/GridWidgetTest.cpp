@@ -3,15 +3,11 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "qt/Gestures.h"
-#include "qt/TestApplication.h"
+#include "qt/ScreenStory.h"
 #include "qt/binder/Binder.h"
-#include "qt/binder/GridWidget.h"
 #include "qt/binder/UpDownWidget.h"
-#include "ui/Form.h"
 #include "ui/Frame.h"
 #include "ui/OptionButton.h"
-#include "ui/RecordingHost.h"
 #include "ui/TabStrip.h"
 
 namespace tarnview {
@@ -32,8 +28,7 @@ class GridWidgetTest : public testing::Test {
     (new QVBoxLayout(first))->addWidget(view);
     auto* second = Named(new QWidget, "fraUnit");
     auto* choices = new QVBoxLayout(second);
-    for (int i = 0; i < 2; ++i)
-      choices->addWidget(buttons[i] = Named(new QRadioButton, i == 0 ? "radA" : "radB"));
+    for (const char* name : {"radA", "radB"}) choices->addWidget(Named(new QRadioButton, name));
     for (QWidget* page : {first, second}) book->addTab(page, "");
     binder = std::make_unique<Binder>(form, window);
     window.resize(400, 300);
@@ -48,7 +43,6 @@ class GridWidgetTest : public testing::Test {
     return widget;
   }
   QPoint Middle(int row, int column) const { return view->RectOf({row, column}).center(); }
-  QLineEdit& Field() const { return *view->findChild<QLineEdit*>("field"); }
 
   QApplication& application = TestApplication();
   RecordingHost host;
@@ -60,53 +54,31 @@ class GridWidgetTest : public testing::Test {
   QWidget window;
   QTabWidget* book = nullptr;
   GridWidget* view = nullptr;
-  QRadioButton* buttons[2] = {};
   std::unique_ptr<Binder> binder;
+  ScreenStory story{form, host, window};
 };
 
 TEST_F(GridWidgetTest, TheMouseMarksCells) {
   for (int row = 0; row < 3; ++row)
     for (int column = 0; column < 4; ++column)
       EXPECT_EQ(view->PlaceAt(Middle(row, column)), (GridPlace{row, column}));
-  QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, Middle(2, 3));
-  EXPECT_EQ(grid.Selection(), (GridRange{2, 3, 2, 3}));
-  MoveMouse(*view, Middle(1, 2), Qt::LeftButton);
-  EXPECT_EQ(grid.Selection(), (GridRange{1, 2, 2, 3}));
-  QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, Middle(1, 2));
-  QTest::mouseClick(view, Qt::LeftButton, Qt::ShiftModifier, Middle(2, 1));
-  EXPECT_EQ(grid.Selection(), (GridRange{2, 1, 2, 3}));
-  QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, Middle(0, 2));  // a heading
-  EXPECT_EQ(grid.Selection(), (GridRange{2, 1, 2, 3}));
+  story.Hand("drag", [&](const auto&) {
+    QTest::mousePress(view, Qt::LeftButton, {}, Middle(2, 3));
+    MoveMouse(*view, Middle(1, 2), Qt::LeftButton);
+    QTest::mouseRelease(view, Qt::LeftButton, {}, Middle(1, 2));
+  });
+  story.Hand("extend", [&](const auto&) {
+    QTest::mouseClick(view, Qt::LeftButton, Qt::ShiftModifier, Middle(2, 1));
+  });
+  EXPECT_STORY(story);
 }
 
 TEST_F(GridWidgetTest, ACellIsEditedInItsPlace) {
-  std::string told;
-  grid.Edited = [&](int row, int column, const std::string& text) {
-    told += std::to_string(row) + std::to_string(column) + "=" + text + " ";
-  };
-  QTest::mouseDClick(view, Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
-  Settle();
-  ASSERT_TRUE(Field().isVisible());
-  EXPECT_TRUE(Field().geometry().intersects(view->RectOf({1, 1})));
-  EXPECT_EQ(Field().selectedText(), "11");
-  QTest::keyClicks(&Field(), "25");
-  EXPECT_EQ(grid.EditText(), "25");
-  QTest::mouseClick(view->findChild<UpDownWidget*>()->findChildren<QWidget*>()[0], Qt::LeftButton);
-  Settle();
-  EXPECT_EQ(Field().text(), "26");
-  QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, Middle(2, 2));
-  Settle();
-  EXPECT_FALSE(Field().isVisible());
-  EXPECT_TRUE(view->hasFocus());
-  // Typing opens it with what was typed, and goes on behind that.
-  QTest::keyClicks(view, "-");
-  Settle();
-  EXPECT_EQ(Field().text(), "-");
-  QTest::keyClicks(&Field(), "7");
-  grid.CommitEdit();
-  Settle();
-  EXPECT_EQ(told, "11=26 22=-7 ");
-  EXPECT_TRUE(view->hasFocus());
+  story.Hand("up", [&](const auto&) {
+    view->findChild<UpDownWidget*>()->findChildren<QToolButton*>().first()->click();
+  });
+  EXPECT_STORY(story);
+  EXPECT_TRUE(story.Find<QLineEdit>("field").geometry().intersects(view->RectOf({2, 3})));
 }
 
 TEST_F(GridWidgetTest, RingMarksAndBlackoutsAreDrawn) {
@@ -159,24 +131,10 @@ TEST_F(GridWidgetTest, ARingIsSeenInLightAndDark) {
 }
 
 TEST_F(GridWidgetTest, TabsAndChoicesFollowBothWays) {
-  EXPECT_TRUE(view->isVisible());
-  book->setCurrentIndex(1);
-  Settle();
-  EXPECT_EQ(tabs.Selected(), 2);
-  EXPECT_TRUE(buttons[0]->isVisible());
-  buttons[1]->click();
-  EXPECT_TRUE(radB.Value);
-  radA.Value = true;
-  Settle();
-  EXPECT_TRUE(buttons[0]->isChecked() && !buttons[1]->isChecked());
-  buttons[0]->setFocus();
-  QTest::keyClick(buttons[0], Qt::Key_Down);
-  EXPECT_TRUE(radB.Value && !radA.Value);
-  radB.Value = false;
-  Settle();
-  EXPECT_FALSE(buttons[0]->isChecked() || buttons[1]->isChecked());
-  tabs.SetTabs({{"Grid alone", &fraGrid}});
-  Settle();
+  story.Hand("tab", [&](const auto&) { book->setCurrentIndex(1); });
+  story.Hand("none", [&](const auto&) { radB.Value = false; });
+  story.Hand("alone", [&](const auto&) { tabs.SetTabs({{"Grid alone", &fraGrid}}); });
+  EXPECT_STORY(story);
   EXPECT_FALSE(book->isTabVisible(1));
   EXPECT_EQ(book->tabText(0), "Grid alone");
   EXPECT_TRUE(view->isVisible());
