@@ -1,34 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "ui/Chart.h"
-#include "ui/Form.h"
-#include "ui/RecordingHost.h"
+#include "ui/Steps.h"
 
 namespace tarnview {
 namespace {
-
-class ChartTest : public testing::Test {
- protected:
-  ChartTest() {
-    chart.PointSelected = [this](int series, int point) {
-      notes += std::to_string(series) + "," + std::to_string(point) + " ";
-    };
-  }
-  /// "yes" for each point that can be selected.
-  bool Takes(int series, int point) {
-    try {
-      chart.Do({"point", {std::to_string(series), std::to_string(point)}});
-      return true;
-    } catch (const CannotDo&) {
-      return false;
-    }
-  }
-
-  RecordingHost host;
-  Form form{host, "frmChart", "Chart"};
-  Chart chart{form, "chAny"};
-  std::string notes;
-};
 
 Surface TwoByThree() {
   Surface surface;
@@ -40,66 +14,83 @@ Surface TwoByThree() {
   return surface;
 }
 
-TEST_F(ChartTest, EachKindHasItsOwnSeriesAndPoints) {
-  ChartDescription data;
-  EXPECT_FALSE(data.colours.systemBackdrop);
-  data.kind = Curves{{{3, "RPM", {0, 1}, {5, 6}, {}}, {5, "MAP", {0, 1, 2}, {7, 8, 9}, {}}}};
-  chart.SetData(data);
-  EXPECT_TRUE(Takes(1, 2) && Takes(3, 3));
-  EXPECT_FALSE(Takes(1, 3) || Takes(2, 1) || Takes(5, 1) || Takes(0, 1) || Takes(-1, 1) ||
-               Takes(1, 0));
+PointCloud TwoPoints() {
   PointCloud cloud;
   cloud.x = cloud.y = cloud.sample = {1, 2};
-  data.kind = cloud;
-  chart.SetData(data);
-  EXPECT_TRUE(Takes(1, 2));
-  EXPECT_FALSE(Takes(1, 3) || Takes(2, 1) || Takes(3, 1));
-  data.kind = TwoByThree();
-  chart.SetData(data);
-  EXPECT_TRUE(Takes(2, 3));
-  EXPECT_FALSE(Takes(3, 1) || Takes(2, 4) || Takes(2, 0));
-  EXPECT_EQ(notes, "1,2 3,3 1,2 2,3 ");
+  return cloud;
 }
 
-TEST_F(ChartTest, AViewFromElsewhereKeepsWhatIsSelected) {
-  ChartDescription data;
-  data.kind = TwoByThree();
-  chart.SetData(data);
-  chart.SelectPoint(2, 1);
-  int changes = 0;
-  chart.Watch([&](What what) { changes += what == What::Content; });
-  chart.SetView({30, 130, 2});
-  chart.SetView({30, 130, 2});
-  EXPECT_EQ(changes, 1);
-  EXPECT_EQ(chart.SelectedSeries(), 2);
-  EXPECT_EQ(chart.Data().AsSurface()->view, (SurfaceView{30, 130, 2}));
-  std::string turned;
-  chart.Turn = [&](double right, double up) {
-    turned = std::to_string(right) + " " + std::to_string(up);
-  };
-  chart.Do({"turn", {"12.5", "-3"}});
-  EXPECT_EQ(turned, "12.500000 -3.000000");
-  chart.SetData({});
-  chart.SetView({1, 1, 1});  // no surface
-  EXPECT_TRUE(chart.Data().Series().empty());
+Curves TwoCurves() {
+  return {{{3, "RPM", {0, 1}, {5, 6}, {255, 2, 30}}, {5, "MAP", {0, 1, 2}, {7, 8, 9}, {}}}};
 }
 
-TEST_F(ChartTest, ASurfaceTellsItsTableItsLabelsAndItsAngles) {
-  ChartDescription data;
-  data.kind = TwoByThree();
-  const Object facts = Describe(data);
-  std::string names;
-  for (const auto& [name, value] : facts) names += name + " ";
-  EXPECT_EQ(names,
-            "title subtitle rotation elevation zoom rows columns values locked height_axis ");
-  const auto at = [&](std::size_t place) { return std::get<List>(facts[place].second.Get()); };
-  const auto rows = at(7);
-  ASSERT_EQ(rows.size(), 2u);
-  EXPECT_EQ(std::get<double>(std::get<List>(rows[1].Get())[2].Get()), 6);
-  const auto locked = std::get<List>(at(8)[0].Get());
-  EXPECT_EQ(std::get<long long>(locked[0].Get()), 2);
-  EXPECT_EQ(std::get<long long>(locked[1].Get()), 1);
-  EXPECT_EQ(at(8).size(), 1u);
+class ChartTest : public StepsTest {
+ protected:
+  ChartTest() {
+    const auto note = [this](const char* what) {
+      return [this, what](double x, double y) {
+        notes += std::string(what) + " " + NumberText(x) + "," + NumberText(y) + " ";
+      };
+    };
+    chart.PointSelected = note("point");
+    chart.Wheel = note("wheel");
+    chart.Band = note("band");
+    chart.Pan = note("pan");
+    chart.Turn = note("turn");
+    chart.Hover = [note](double x) { note("hover")(x, 0); };
+    chart.HoverEnd = [this] { notes += "away "; };
+    chart.DblClick = [this] { notes += "double "; };
+    chart.RightClick = [this] { notes += "menu "; };
+    chart.Watch([this](What what) { notes += what == What::Content ? "* " : ""; });
+    const auto show = [this](auto kind) {
+      return [this, kind](const Words&) {
+        ChartDescription data;
+        EXPECT_FALSE(data.colours.systemBackdrop);
+        data.kind = kind;
+        chart.SetData(data);
+      };
+    };
+    verbs = {{"curves", show(TwoCurves())},
+             {"cloud", show(TwoPoints())},
+             {"surface", show(TwoByThree())},
+             {"nothing", show(Curves())},
+             {"view", [this](const Words& words) {
+                chart.SetView({std::stoi(words[0]), std::stoi(words[1]), std::stod(words[2])});
+              }}};
+    state = [this] {
+      std::string told = "@" + std::to_string(chart.SelectedSeries()) + "," +
+                         std::to_string(chart.SelectedPoint());
+      if (const Surface* surface = chart.Data().AsSurface())
+        told += " from " + std::to_string(surface->view.rotation) + "," +
+                std::to_string(surface->view.elevation) + " x" + NumberText(surface->view.zoom);
+      return told;
+    };
+  }
+  Chart chart{form, "chAny"};
+};
+
+TEST_F(ChartTest, HandsAndPointsOfEachKind) {
+  ExpectSteps(chart, R"(
+point 1 1 ->  cannot@0,0
+curves; point 1 2; point 3 3 -> * point 1,2 point 3,3 @3,3
+# Every other number is the second axis's; a curve ends with its points.
+point 1 3; point 2 1; point 5 1; point 0 1; point -1 1; point 1 0 ->  cannot cannot cannot cannot cannot cannot@3,3
+cloud; point 1 2; point 1 3; point 2 1; point 3 1 -> * point 1,2  cannot cannot cannot@1,2
+surface; point 2 3; point 3 1; point 2 4; point 2 0 -> * point 2,3  cannot cannot cannot@2,3 from 20,240 x1
+# A view from elsewhere keeps what is selected.
+view 30 130 2; view 30 130 2 -> * @2,3 from 30,130 x2
+turn 12.5 -3; wheel 1 2; band 1 2; pan 1 2; hover 3; hover; double; popup -> turn 12.5,-3 wheel 1,2 band 1,2 pan 1,2 hover 3,0 away double menu @2,3 from 30,130 x2
+nothing; view 1 1 1 -> * @0,0
+)");
+}
+
+TEST_F(ChartTest, TellsWhatItShows) {
+  state = [this] { return Facts(); };
+  ExpectSteps(chart, R"(
+curves -> * caption=; chAny series count=2; chAny series[0] item=3; chAny series[0] name=RPM; chAny series[0] x=[0|1]; chAny series[0] y=[5|6]; chAny series[0] colour=255; chAny series[0] style=2; chAny series[0] width=3; chAny series[1] item=5; chAny series[1] name=MAP; chAny series[1] x=[0|1|2]; chAny series[1] y=[7|8|9]; chAny series[1] colour=0; chAny series[1] style=1; chAny series[1] width=1; chAny x_axis min=0; chAny x_axis max=1; chAny x_axis format=; chAny y_axis max=1; chAny y_axis divisions=10; chAny selected=[0|0]; 
+cloud -> * caption=; chAny x_item=0; chAny y_item=0; chAny points count=2; chAny points[0]=[1|1|1]; chAny points[1]=[2|2|2]; chAny selected=[0|0]; 
+surface -> * caption=; chAny title=; chAny subtitle=; chAny rotation=20; chAny elevation=240; chAny zoom=1; chAny count=2; chAny[1]=100; chAny[2]=200; chAny columns=[00|05|10]; chAny values count=2; chAny values[0]=[1|2|3]; chAny values[1]=[4|5|6]; chAny locked count=1; chAny locked[0]=[2|1]; chAny height_axis min=0; chAny height_axis max=1; chAny height_axis divisions=10; chAny selected=[0|0]; 
+)");
 }
 
 }  // namespace

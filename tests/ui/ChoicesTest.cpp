@@ -1,69 +1,53 @@
-#include <gtest/gtest.h>
-
-#include "ui/Form.h"
 #include "ui/Frame.h"
 #include "ui/OptionButton.h"
-#include "ui/RecordingHost.h"
+#include "ui/Steps.h"
 #include "ui/TabStrip.h"
 
 namespace tarnview {
 namespace {
 
-TEST(OptionButton, OneOfAFrameIsOn) {
-  RecordingHost host;
-  Form form(host, "frmChoice", "Choice");
+using ChoicesTest = StepsTest;
+
+TEST_F(ChoicesTest, OneButtonOfAFrameIsOn) {
   OptionButton targets(form, "radBoost", "fraUnit", "Targets", 0),
       duty(form, "radBoost", "fraUnit", "Duty", 1);
   OptionButton other(form, "radOther", "fraOther", "Other");
-  std::string notes;
   targets.Click = [&] { notes += "targets "; };
   duty.Click = [&] { notes += targets.Value ? "both " : "duty "; };
-  other.Value = true;
-  targets.Value = true;
-  duty.Do({"click", {}});
-  duty.Do({"click", {}});
-  EXPECT_EQ(notes, "targets duty ");
-  EXPECT_FALSE(targets.Value);
-  EXPECT_TRUE(other.Value) << "another frame's";
-  // A window that takes the choice back.
-  targets.Click = [&] { duty.Value = true; };
-  targets.Do({"click", {}});
-  EXPECT_TRUE(duty.Value);
-  EXPECT_FALSE(targets.Value);
-  duty.Value = false;
-  EXPECT_FALSE(targets.Value) << "none may be on";
+  state = [&] {
+    return std::string(targets.Value ? "1" : "0") + (duty.Value ? "1" : "0") +
+           (other.Value ? "1" : "0");
+  };
+  verbs = {{"other", [&](const Words&) { other.Value = true; }},
+           {"targets", [&](const Words&) { targets.Value = true; }},
+           {"none", [&](const Words&) { duty.Value = false; }},
+           {"take_back", [&](const Words&) { targets.Click = [&] { duty.Value = true; }; }}};
+  ExpectSteps(duty,
+              "other -> 001 | targets -> targets 101 | click; click -> duty 011 | take_back; "
+              "targets -> duty 011 | none -> 001");
 }
 
-TEST(TabStrip, ShowsThePageOfItsTab) {
-  RecordingHost host;
-  Form form(host, "frmTabs", "Tabs");
-  Frame general(form, "fraGeneral"), fuel(form, "fraFuel"), notes(form, "fraNotes");
+TEST_F(ChoicesTest, ATabShowsItsPage) {
+  Frame general(form, "fraGeneral"), fuel(form, "fraFuel"), other(form, "fraNotes");
   TabStrip tabs(form, "tabPages");
-  const auto shown = [&] {
+  tabs.Click = [this] { notes += "click "; };
+  state = [&] {
     return std::to_string(tabs.Selected()) + (general.Visible ? " general" : "") +
-           (fuel.Visible ? " fuel" : "") + (notes.Visible ? " notes" : "");
+           (fuel.Visible ? " fuel" : "") + (other.Visible ? " notes" : "");
   };
-  int clicks = 0;
-  tabs.Click = [&] { ++clicks; };
-  tabs.SetTabs({{"&General", &general}, {"F&uel", &fuel}, {"Notes", &notes}, {"All"}});
-  EXPECT_EQ(shown(), "1 general");
-  tabs.Do({"tab", {"Fuel"}});
-  EXPECT_EQ(shown(), "2 fuel");
-  tabs.Do({"tab", {"#2"}});
-  EXPECT_EQ(shown(), "3 notes");
-  tabs.Do({"tab", {"All"}});
-  EXPECT_EQ(shown(), "4");
-  EXPECT_EQ(clicks, 3);
-  tabs.Select(4);
-  tabs.Select(0);
-  tabs.Select(5);
-  EXPECT_EQ(clicks, 3);
-  EXPECT_THROW(tabs.Do({"tab", {"Ignition"}}), CannotDo);
-  EXPECT_THROW(tabs.Do({"click", {"Fuel"}}), CannotDo);
-  tabs.SetTabs({{"Fuel", &fuel}});
-  EXPECT_EQ(shown(), "1 fuel");
-  tabs.SetTabs({});
-  EXPECT_EQ(shown(), "0");
+  verbs = {{"all",
+            [&](const Words&) {
+              tabs.SetTabs({{"&General", &general}, {"F&uel", &fuel}, {"Notes", &other}, {"All"}});
+            }},
+           {"fuel",
+            [&](const Words&) {
+              tabs.SetTabs({{"Fuel", &fuel}});
+            }},
+           {"none", [&](const Words&) { tabs.SetTabs({}); }},
+           {"select", [&](const Words& tab) { tabs.Select(std::stoi(tab[0])); }}};
+  ExpectSteps(tabs, R"(
+all -> 1 general | tab Fuel -> click 2 fuel | tab #2 -> click 3 notes | tab All -> click 4 | select 4; select 0; select 5 -> 4 | tab Ignition ->  cannot4 | click Fuel ->  cannot4 | fuel -> 1 fuel | none -> 0
+)");
 }
 
 }  // namespace

@@ -187,7 +187,7 @@ TEST_F(FormTest, WidgetsHearOfChangesFromCode) {
 }
 
 TEST(Keys, AreReadByName) {
-  for (const char* text : {"", "Ctrl+", "Ctrl", "Meta+A", "F13", "++", "\xe9"})
+  for (const char* text : {"", "Ctrl+", "Ctrl", "Meta+A", "F13", "++", "Bsc", "\xe9"})
     EXPECT_FALSE(ParseKeys(text)) << text;
   const KeyPress shifted{"PageUp", true, true, true};
   EXPECT_EQ(ParseKeys("shift+CTRL+Alt+pageup"), shifted);

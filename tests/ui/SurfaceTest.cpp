@@ -28,10 +28,13 @@ SceneRoom Room(double width = 600, double height = 400) {
           [](const std::string& text) { return 6.0 * static_cast<double>(text.size()); }};
 }
 
-std::string Texts(const SurfaceScene& scene) {
-  std::string texts;
-  for (const SceneLabel& label : scene.labels) texts += label.text + " ";
-  return texts;
+/// Each label with its centre.
+std::string Labels(const SurfaceScene& scene) {
+  std::string told;
+  for (const SceneLabel& label : scene.labels)
+    told +=
+        label.text + " " + FixedText(label.centre.x, 0) + "," + FixedText(label.centre.y, 0) + "; ";
+  return told;
 }
 
 TEST(SurfaceEye, LooksFromTheFrontOverTheTopAndFromBehindAndNeverFromBelow) {
@@ -125,14 +128,30 @@ TEST(SurfaceScene, FillsItsRoomAndNothingBeyond) {
 }
 
 TEST(SurfaceScene, LabelsStandOnTheNearEdgesAndKeepClear) {
-  EXPECT_EQ(Texts(MakeScene(SmallMap(30, 40), Room())), "00 05 10 RPM 100 200 MAP 25 50 Fuel ");
-  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 0), Room())), "00 05 10 RPM 0 25 50 Fuel ")
-      << "rows are behind each other";
-  EXPECT_EQ(Texts(MakeScene(SmallMap(0, 90), Room())), "00 05 10 RPM 100 200 MAP ")
-      << "heights are, from above";
-  Surface wide = SmallMap(30, 40);
-  wide.columns = {"a very long label", "another very long label", "one more that is long"};
-  EXPECT_EQ(Texts(MakeScene(wide, Room(300, 300))).find("another"), std::string::npos);
+  // Rotation, elevation, width, height; of more columns, their labels.
+  ExpectTable(
+      [](const TableRow& row) {
+        Surface map = SmallMap(row.Int(0), row.Int(1));
+        if (row.Count() > 4) {
+          map.columns = SplitAt(row.Text(4), " ");
+          map.values.resize(2 * map.columns.size());
+        }
+        return Labels(MakeScene(map, Room(row.Number(2), row.Number(3))));
+      },
+      R"(
+30, 40, 600, 400 -> 00 214,371; 05 356,318; 10 497,266; RPM 364,339; 100 95,255; 200 193,373; MAP 126,331; 25 95,204; 50 95,163; Fuel 107,146; 
+# Rows are behind each other, or nearly.
+0, 0, 600, 400 -> 00 36,306; 05 300,306; 10 564,306; RPM 300,324; 0 27,294; 25 24,208; 50 24,122; Fuel 36,105; 
+0, 3, 600, 400 -> 00 36,314; 05 300,314; 10 564,314; RPM 300,332; 0 27,302; 25 24,217; 50 24,131; Fuel 36,114; 
+0, 6, 600, 400 -> 00 36,323; 05 300,323; 10 564,323; RPM 300,341; 100 579,276; 200 579,311; 0 27,311; 25 24,225; 50 24,140; Fuel 36,123; 
+# Heights are, from above.
+0, 90, 600, 400 -> 00 60,370; 05 300,370; 10 540,370; RPM 300,388; 100 555,58; 200 555,358; MAP 579,208; 
+20, 240, 600, 400 -> 00 483,279; 05 337,325; 10 191,371; RPM 344,346; 100 172,364; 200 106,207; MAP 114,296; 25 109,175; 50 109,150; Fuel 121,133; 
+110, 60, 160, 120 -> Fuel 72,44; 
+# Where labels would meet, some are left out, each in the same step.
+0, 30, 300, 200, 0500 1000 1500 2000 2500 3000 3500 4000 4500 5000 5500 6000 -> 0500 66,170; 1500 96,170; 2500 127,170; 3500 158,170; 4500 188,170; 5500 219,170; RPM 150,188; 100 249,105; 200 249,158; MAP 273,132; 0 57,158; 25 54,134; 50 54,111; Fuel 66,94; 
+0, 30, 500, 200, a_very_long_label another_very_long_label one_more_that_is_long the_last_one -> a_very_long_label 166,170; the_last_one 334,170; RPM 250,188; 100 349,105; 200 349,158; MAP 373,132; 0 157,158; 25 154,134; 50 154,111; Fuel 166,94; 
+)");
   for (int rotation = 0; rotation < 360; rotation += 7) {
     const SurfaceScene scene = MakeScene(SmallMap(rotation, 25), Room(200, 160));
     for (std::size_t i = 0; i < scene.labels.size(); ++i)
@@ -172,7 +191,7 @@ TEST(SurfaceScene, AClickPicksTheCellInFront) {
 
 /// Of each face its cell, its kind (ground, locked, skirt), which of its edges are lined, height,
 /// light and corners.
-TEST(SurfaceScene, EachLineFaceAndLabelHasItsPlace) {
+TEST(SurfaceScene, EachLineAndFaceHasItsPlace) {
   std::string told = "\n";
   Surface map = SmallMap(30, 40);
   map.values = {0, 50, 10, 40, 5, 30};
@@ -191,9 +210,6 @@ TEST(SurfaceScene, EachLineFaceAndLabelHasItsPlace) {
       told += " " + FixedText(corner.x, 0) + "," + FixedText(corner.y, 0);
     told += "\n";
   }
-  for (const SceneLabel& label : scene.labels)
-    told +=
-        label.text + " " + FixedText(label.centre.x, 0) + "," + FixedText(label.centre.y, 0) + "; ";
   ExpectTold(told, R"(
 line 210,358 107,244 | line 107,244 107,163 | line 351,306 249,192 | line 249,192 249,110 | line 493,253 390,139 | line 390,139 390,58 | line 107,244 390,139 | line 390,139 390,58 | line 210,358 493,253 | line 493,253 493,172 | line 107,204 390,99 | line 493,212 390,99 | line 107,163 390,58 | line 493,172 390,58 | edge 210,358 493,253 | edge 210,358 107,244 | edge 107,244 107,163 | edge 493,253 493,172 | edge 390,139 390,58
 1,3 g ||.. 0.42 0.77 at 320,117 390,123 441,164 371,184
@@ -210,7 +226,7 @@ line 210,358 107,244 | line 107,244 107,163 | line 351,306 249,192 | line 249,19
 2,3 s |... 0.00 1.00 at 422,251 493,204 493,253 422,279
 1,1 s |... 0.00 0.80 at 107,244 159,269 159,301 107,244
 2,1 s |... 0.00 0.80 at 159,269 210,293 210,358 159,301
-00 214,371; 05 356,318; 10 497,266; RPM 364,339; 100 95,255; 200 193,373; MAP 126,331; 25 95,204; 50 95,163; Fuel 107,146; )");
+)");
 }
 
 TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
@@ -221,6 +237,10 @@ TEST(SurfaceScene, OddTablesMakeNothingOrStandOnTheFloor) {
   map = SmallMap(20, 240);
   map.rows.resize(1);
   map.values.resize(3);
+  EXPECT_TRUE(MakeScene(map, Room()).labels.empty());
+  map = SmallMap(20, 240);
+  map.columns.resize(1);
+  map.values.resize(2);
   EXPECT_TRUE(MakeScene(map, Room()).labels.empty());
   map = SmallMap(20, 240);
   map.values = {NAN, INFINITY, -INFINITY, 1e300, -7, 20};

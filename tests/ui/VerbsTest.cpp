@@ -29,6 +29,7 @@ struct AllKinds : Form {
   explicit AllKinds(Host& itsHost) : Form(itsHost, "frmAll", "") {
     list.SetList({"a", "b"});
     combo.SetList({"a", "b"});
+    EXPECT_FALSE(timer.Enabled || menu.Checked);
     timer.Enabled = true;
     tabs.SetTabs({{"A"}, {"B"}});
     ListView::Row row;
@@ -63,20 +64,20 @@ struct AllKinds : Form {
 TEST(Verbs, EachKindTakesItsOwn) {
   RecordingHost host;
   AllKinds form(host);
-  EXPECT_FALSE(form.menu.Checked);
   const Action kActions[] = {{"click", {}},         {"type", {"5"}},   {"choose", {"#0"}},
                              {"step", {"up"}},      {"scroll", {"3"}}, {"row", {"1"}},
                              {"tick", {"1", "on"}}, {"sort", {"A"}},   {"double", {"1"}},
                              {"cell", {"1", "1"}},  {"popup", {}},     {"point", {"1", "1"}},
                              {"wheel", {"1", "2"}}, {"hover", {}},     {"tab", {"B"}},
                              {"nonsense", {}},      {"", {}}};
-  // Behind a verb, "*" for each time that the control's content changes, "^" where it gets the
-  // focus.
+  // Behind a verb, "*" for each time that the control's content changes, "@" its selection, "^"
+  // where it gets the focus.
   std::string told = "\n";
   for (Control* control : form.Controls()) {
     control->Watch([&](What what) {
       if (what == What::Content) told += "*";
       if (what == What::Focus) told += "^";
+      if (what == What::Selection) told += "@";
     });
     told += std::string(control->Kind()) + ":";
     for (const Action& action : kActions) {
@@ -95,16 +96,16 @@ check box: click^*
 option button: click^*
 button: click^
 menu item: click
-list box: choose
+list box: choose@
 combo box: choose*
 combo box: type*
 text box: type*
 up-down control: step
 scroll bar: scroll*
 timer: click
-list: row tick* sort* double
+list: row@ tick* sort*@ double@
 grid: cell popup
-chart: double popup point wheel hover
+chart: double popup point@ wheel hover
 tab strip: tab*
 label:
 frame:
@@ -112,29 +113,6 @@ picture:
 status bar:
 progress bar:
 )");
-}
-
-TEST(Verbs, AChartTellsWhatAHandDoes) {
-  RecordingHost host;
-  AllKinds form(host);
-  std::string told;
-  const auto tell = [&](const char* what) {
-    return [&told, what](double x, double y) {
-      told += std::string(what) + std::to_string(static_cast<int>(x * 100 + y)) + " ";
-    };
-  };
-  form.chart.Wheel = tell("wheel");
-  form.chart.Band = tell("band");
-  form.chart.Pan = tell("pan");
-  form.chart.Turn = tell("turn");
-  form.chart.Hover = [&](double x) { tell("hover")(x, 0); };
-  form.chart.HoverEnd = [&] { told += "away "; };
-  form.chart.DblClick = [&] { told += "double "; };
-  form.chart.RightClick = [&] { told += "menu "; };
-  for (const char* verb : {"wheel", "band", "pan", "turn"}) form.chart.Do({verb, {"1", "2"}});
-  form.chart.Do({"hover", {"3"}});
-  for (const char* verb : {"hover", "double", "popup"}) form.chart.Do({verb, {}});
-  EXPECT_EQ(told, "wheel102 band102 pan102 turn102 hover300 away double menu ");
 }
 
 }  // namespace
